@@ -47,4 +47,4 @@ public:
                                              std::span<std::int16_t> samples) const = 0;
 };
 
-}
+} // namespace sprout

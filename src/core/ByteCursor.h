@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace sprout {
+
+/// Bytes that can be read at any place: a file or a block of memory.
+class ByteSource {
+public:
+    ByteSource() = default;
+    ByteSource(const ByteSource&) = delete;
+    ByteSource& operator=(const ByteSource&) = delete;
+    virtual ~ByteSource() = default;
+
+    [[nodiscard]] virtual std::uint64_t Size() const = 0;
+    /// Fills `bytes` from `offset` on. Throws `RunTimeError` where the source ends before.
+    virtual void Read(std::uint64_t offset, std::span<std::byte> bytes) = 0;
+};
+
+/// A file, open as long as the object lives.
+class FileSource : public ByteSource {
+public:
+    /// Throws `RunTimeError` where the path is no plain file or cannot be read.
+    explicit FileSource(const std::filesystem::path& path);
+
+    [[nodiscard]] std::uint64_t Size() const override { return size; }
+    void Read(std::uint64_t offset, std::span<std::byte> bytes) override;
+
+private:
+    std::filebuf file;
+    std::uint64_t size = 0;
+};
+
+/// Bytes in memory, owned by somebody else.
+class MemorySource : public ByteSource {
+public:
+    explicit MemorySource(std::span<const std::byte> bytes) : content(bytes) {}
+
+    [[nodiscard]] std::uint64_t Size() const override { return content.size(); }
+    void Read(std::uint64_t offset, std::span<std::byte> bytes) override;
+
+private:
+    std::span<const std::byte> content;
+};
+
+/// Walks a part of a source, never beyond its end. Small reads come from a buffer, large ones go straight to their
+/// place. Nothing is allocated for a count before the bytes for it are known to be there.
+class ByteCursor {
+public:
+    /// Reads from `begin` up to `end` bytes of the source (clamped to its size).
+    ByteCursor(ByteSource& source, std::uint64_t begin, std::uint64_t end);
+
+    [[nodiscard]] std::uint64_t Offset() const { return offset; }
+    [[nodiscard]] std::uint64_t Left() const { return end - offset; }
+
+    /// Throws `RunTimeError` unless `count` more bytes are there.
+    void Require(std::uint64_t count) const;
+
+    void Read(std::span<std::byte> bytes);
+    [[nodiscard]] std::int32_t ReadInt32();
+    void Skip(std::uint64_t count);
+
+    /// Goes to a place between the begin and the end that were given.
+    void MoveTo(std::uint64_t place);
+
+    /// Moves the end nearer, to byte `newEnd` of the source, which must not lie behind the old end.
+    void Narrow(std::uint64_t newEnd);
+
+private:
+    void Fill();
+
+    ByteSource& source;
+    std::uint64_t begin;
+    std::uint64_t end;
+    std::uint64_t offset;
+    std::vector<std::byte> buffer;
+    std::uint64_t bufferBegin = 0;
+};
+
+} // namespace sprout

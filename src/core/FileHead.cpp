@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/FileHead.h"
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+
+#include "core/Shared.h"
+#include "core/Text.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::uint64_t kHeadBytes = 1000;
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::string Now()
+{
+    const std::time_t time = std::time(nullptr);
+    const std::tm* local = std::localtime(&time);
+    std::array<char, 32> clock{};
+    // Month names are those of the C locale, whatever the desktop's language.
+    constexpr std::array months = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    if (!local || std::strftime(clock.data(), clock.size(), "%Y/%H:%M:%S", local) == 0)
+        return {};
+    const std::string day = std::to_string(local->tm_mday);
+    return (day.size() < 2 ? "0" + day : day) + "-" + months[static_cast<std::size_t>(local->tm_mon)] + "-" +
+           clock.data();
+}
+
+/// Place behind CR LF + key + "=" in the searched bytes; npos where it does not stand there.
+std::size_t FindBehindKey(std::string_view head, std::string_view key)
+{
+    const std::string pattern = LowerCase(std::string(kLineEnd) + std::string(key) + "=");
+    std::string lower(head);
+    std::transform(lower.begin(), lower.end(), lower.begin(),
+                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    const auto found = lower.find(pattern);
+    return found == std::string::npos ? found : found + pattern.size();
+}
+
+std::string ReadHead(ByteSource& source, std::string_view key)
+{
+    const std::uint64_t patternBytes = kLineEnd.size() + key.size() + 1;
+    const std::uint64_t available = source.Size() - std::min(source.Size(), patternBytes);
+    std::string head(static_cast<std::size_t>(std::min(kHeadBytes, available)), '\0');
+    source.Read(0, std::as_writable_bytes(std::span(head)));
+    return head;
+}
+
+} // namespace
+
+std::string FileHead(std::string_view marker, std::string_view description)
+{
+    std::string head;
+    const auto line = [&head](std::string_view name, std::string_view value) {
+        head += std::string(name) + std::string(value) + std::string(kLineEnd);
+    };
+    line(marker, "");
+    line("File Description=", std::string(kProductFamily) + std::string(description));
+    line("Saved By=", kProductName);
+    line("Version=", kAppVersionDate);
+    line("Web Site=", kWebSite);
+    line("File Version=", "2");
+    line("Time=", Now());
+    return head + "Data=";
+}
+
+std::string_view FileTail()
+{
+    constexpr std::string_view tail("\0\0\0\0EOF\r\n", 9);
+    return tail;
+}
+
+std::string HeadValue(ByteSource& source, std::string_view key, std::string_view fallback)
+{
+    const std::string head = ReadHead(source, key);
+    const auto begin = FindBehindKey(head, key);
+    if (begin == std::string::npos)
+        return std::string(fallback);
+    const auto end = head.find(kLineEnd, begin);
+    return end == std::string::npos ? std::string(fallback) : head.substr(begin, end - begin);
+}
+
+std::optional<std::uint64_t> FindHeadData(ByteSource& source)
+{
+    const auto place = FindBehindKey(ReadHead(source, "Data"), "Data");
+    return place == std::string::npos ? std::nullopt : std::optional<std::uint64_t>(place);
+}
+
+} // namespace sprout

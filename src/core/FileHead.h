@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/ByteCursor.h"
+
+namespace sprout {
+
+/// The text head of a song or tune file, up to and with "Data=". marker: "TqSng" or "TqTun"; description: what stands
+/// behind the family name in "File Description=".
+[[nodiscard]] std::string FileHead(std::string_view marker, std::string_view description);
+
+/// What stands behind the array: four zero bytes and the end mark.
+[[nodiscard]] std::string_view FileTail();
+
+/// The value of a line CR LF key=value of the head, which is searched in the first 1000 bytes without regard to case;
+/// `fallback` where the line or its end is missing.
+[[nodiscard]] std::string HeadValue(ByteSource& source, std::string_view key, std::string_view fallback);
+
+/// The byte behind CR LF "Data="; nothing where it is not found.
+[[nodiscard]] std::optional<std::uint64_t> FindHeadData(ByteSource& source);
+
+} // namespace sprout

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace sprout {
+
+/// A text of sections in square brackets, with one key, an equals sign and a value a line.
+///
+/// Sections and keys are looked up without regard to case; the first of two equal keys wins, wherever in the sections
+/// of one name it stands. Blanks around a value and one matching pair of quotes are dropped. Everything that is not
+/// understood is kept as it stands.
+class IniFile {
+public:
+    IniFile() = default;
+
+    /// Parses the bytes of a file.
+    explicit IniFile(std::string_view bytes);
+
+    /// Reads a file; a missing or unreadable one is an empty one.
+    [[nodiscard]] static IniFile Read(const std::filesystem::path& path);
+
+    [[nodiscard]] bool Has(std::string_view section, std::string_view key) const;
+    [[nodiscard]] std::string Value(std::string_view section, std::string_view key, std::string_view fallback) const;
+
+    /// Keys of all sections of that name, in order.
+    [[nodiscard]] std::vector<std::string> Keys(std::string_view section) const;
+
+    void SetValue(std::string_view section, std::string_view key, std::string_view value);
+    void RemoveKey(std::string_view section, std::string_view key);
+    void RemoveSection(std::string_view section);
+
+    /// The bytes of the file, lines ended by CR LF.
+    [[nodiscard]] std::string Bytes() const;
+
+    /// Replaces the file at `path` whole. Throws `RunTimeError`.
+    void Write(const std::filesystem::path& path) const;
+
+private:
+    struct Line {
+        std::string text;    // as it stands in the file, UTF-8
+        std::string section; // lower case
+        std::string key;     // lower case; empty where the line is none of key and value
+        bool heading = false;
+    };
+
+    void Index();
+
+    std::vector<Line> lines;
+    std::unordered_map<std::string, std::size_t> places; // section, zero byte, key -> line
+};
+
+/// The value of `key`, `fallback` where the file has none or the key is blank.
+[[nodiscard]] std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,
+                                      const std::filesystem::path& file);
+
+/// Writes a value. A blank section becomes "General", a blank key deletes the section. A failure is silent, as in a
+/// read-only folder.
+void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
+                 const std::filesystem::path& file);
+
+} // namespace sprout

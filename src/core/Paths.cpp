@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Paths.h"
+
+#include <chrono>
+#include <ctime>
+#include <system_error>
+
+#include "core/Busy.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "service/Desktop.h"
+#include "service/Files.h"
+#include "service/Machine.h"
+#include "service/Messages.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool IsPlainFile(const fs::path& path)
+{
+    std::error_code error;
+    return fs::is_regular_file(path, error);
+}
+
+bool IsFolder(const fs::path& path)
+{
+    std::error_code error;
+    return fs::is_directory(path, error);
+}
+
+void CopyTree(const fs::path& source, const fs::path& target)
+{
+    fs::create_directories(target);
+    for (const fs::directory_entry& entry : fs::directory_iterator(source)) {
+        const fs::path copy = target / entry.path().filename();
+        if (entry.is_directory()) {
+            CopyTree(entry.path(), copy);
+        } else if (entry.is_regular_file() && fs::copy_file(entry.path(), copy, fs::copy_options::skip_existing)) {
+            // Tunes and songs know their beats by these times.
+            fs::last_write_time(copy, entry.last_write_time());
+            fs::permissions(copy, fs::perms::owner_write, fs::perm_options::add);
+        }
+    }
+}
+
+} // namespace
+
+fs::path AsFolder(const fs::path& folder)
+{
+    return folder.empty() || !folder.has_filename() ? folder : folder / "";
+}
+
+fs::path NamedFile(const fs::path& folder, std::string_view name, std::string_view extension)
+{
+    const bool leadsOut = name.find(fs::path::preferred_separator) != std::string_view::npos ||
+                          name.find('/') != std::string_view::npos || name.find('\0') != std::string_view::npos;
+    if (leadsOut || Trim(name).empty())
+        return {};
+    return folder.native() + std::string(name) + std::string(extension);
+}
+
+fs::path FindFile(const fs::path& path)
+{
+    if (Trim(path.native()).empty())
+        return {};
+    if (IsPlainFile(path))
+        return path;
+    const std::string wanted = LowerCase(path.filename().native());
+    std::error_code error;
+    fs::directory_iterator entries(path.has_parent_path() ? path.parent_path() : fs::path("."), error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error))
+        if (LowerCase(entries->path().filename().native()) == wanted && IsPlainFile(entries->path()))
+            return entries->path();
+    return {};
+}
+
+bool FileExists(const fs::path& path)
+{
+    return !FindFile(path).empty();
+}
+
+bool DeleteFile(const fs::path& path)
+{
+    const fs::path file = FindFile(path);
+    if (file.empty())
+        return true;
+    std::error_code error;
+    fs::remove(file, error);
+    return !FileExists(path);
+}
+
+fs::path NewTempFileName(std::string_view extension)
+{
+    for (int n = 1;; ++n) {
+        fs::path candidate = Shared().TempFolder / ("TqkTmp" + std::to_string(n) + "." + std::string(extension));
+        std::error_code error;
+        if (fs::symlink_status(candidate, error).type() == fs::file_type::not_found)
+            return candidate;
+        TheServices().files->DeleteStaleFile(candidate);
+    }
+}
+
+std::uint64_t FreeDiskBytes()
+{
+    return TheServices().machine->FreeBytes(Shared().TempFolder);
+}
+
+std::string SafeFileName(std::string_view name)
+{
+    std::string safe(name);
+    for (char& c : safe)
+        if (std::string_view("./\\:*?<>\"").find(c) != std::string_view::npos)
+            c = '_';
+    return safe;
+}
+
+void OpenWithShell(std::string_view target)
+{
+    TheServices().desktop->OpenWithShell(target);
+}
+
+bool CopyFolder(const fs::path& source, const fs::path& destination)
+{
+    const WorkingSign sign;
+    const fs::path folder = source.has_filename() ? source : source.parent_path();
+    try {
+        CopyTree(folder, destination / folder.filename());
+        return true;
+    } catch (const fs::filesystem_error& error) {
+        TheServices().messages->MessageBox("Error message",
+                                           "Following error occurd while copying folder " + PathText(source) + "\r\n" +
+                                               error.code().message(),
+                                           MessageIcon::Exclamation);
+        return false;
+    }
+}
+
+bool HoldsFile(const fs::path& folder)
+{
+    std::error_code error;
+    fs::directory_iterator entries(folder, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error))
+        if (entries->path().filename().native().front() != '.' && IsPlainFile(entries->path()))
+            return true;
+    return false;
+}
+
+void FindTempFolder()
+{
+    SharedState& shared = Shared();
+    const fs::path program = TheServices().machine->ExecutablePath();
+    shared.ProgramFolder = program.parent_path();
+    shared.SettingsFile = shared.ProgramFolder / (program.stem().native() + ".ini");
+    fs::path temp = TheServices().machine->TempPath();
+    if (!temp.has_filename())
+        temp = temp.parent_path();
+    shared.TempFolder = Trim(temp.native()).empty() || !IsFolder(temp) ? shared.ProgramFolder : temp;
+}
+
+void SetUserRoot(const fs::path& root)
+{
+    SharedState& shared = Shared();
+    shared.UserRoot = root;
+    shared.UserBeats = AsFolder(root / "Beats");
+    shared.UserTunes = AsFolder(root / "Tunes");
+    shared.UserStars = AsFolder(root / "Stars");
+    shared.UserSongs = AsFolder(root / "Songs");
+}
+
+std::string FileStamp(const fs::path& path)
+{
+    std::error_code error;
+    const auto written = fs::last_write_time(path, error);
+    if (error)
+        return {};
+    const auto seconds = std::chrono::floor<std::chrono::seconds>(std::chrono::file_clock::to_sys(written));
+    const std::time_t time = std::chrono::system_clock::to_time_t(seconds);
+    const std::tm* local = std::localtime(&time);
+    char text[32] = {};
+    if (!local || std::strftime(text, sizeof text, "%m/%d/%Y,%H:%M:%S", local) == 0)
+        return {};
+    return text;
+}
+
+std::string BaseName(const fs::path& path)
+{
+    return PathText(path.stem());
+}
+
+std::string PathText(const fs::path& path)
+{
+    return path.native();
+}
+
+} // namespace sprout

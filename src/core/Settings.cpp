@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Settings.h"
+
+#include "core/Errors.h"
+#include "core/IniFile.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+
+namespace sprout {
+
+namespace {
+
+std::string_view NamedSection(std::string_view section)
+{
+    return Trim(section).empty() ? "General" : section;
+}
+
+void ReadColour(std::string_view key, std::int32_t& colour)
+{
+    constexpr std::int32_t notSet = -1;
+    try {
+        const std::int32_t value = RoundHalfEven(NumberPrefix(GetSetting("Color", key, "-1")));
+        if (value != notSet)
+            colour = value;
+    } catch (const RunTimeError&) {
+        return; // a number beyond all colours: the built-in one stays
+    }
+}
+
+} // namespace
+
+std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback)
+{
+    const std::string_view named = Trim(key).empty() ? "END" : key;
+    const std::string value = GetIniValue(NamedSection(section), named, fallback, Shared().SettingsFile);
+    return std::string(FirstCharacters(value, kLongestSetting));
+}
+
+void PutSetting(std::string_view section, std::string_view key, std::string_view value)
+{
+    PutIniValue(NamedSection(section), key, value, Shared().SettingsFile);
+}
+
+WaveViewColours ReadWaveColours()
+{
+    WaveViewColours colours;
+    ReadColour("WaveFormNormalColorL", colours.WaveFormNormalColorL);
+    ReadColour("WaveFormNormalColorR", colours.WaveFormNormalColorR);
+    ReadColour("CenterLineColor", colours.CenterLineColor);
+    ReadColour("NormalBackColor", colours.NormalBackColor);
+    ReadColour("SelectBackColor", colours.SelectBackColor);
+    ReadColour("LineCursorColor", colours.LineCursorColor);
+    ReadColour("PlayPosIndiColor", colours.PlayPosIndiColor);
+    return colours;
+}
+
+} // namespace sprout

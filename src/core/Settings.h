@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/Shared.h"
+
+namespace sprout {
+
+/// Longest value that `GetSetting` returns, in characters.
+inline constexpr std::size_t kLongestSetting = 99;
+
+/// A value of the settings file, cut to 99 characters. A blank section becomes "General"; a blank key gives `fallback`
+/// unless the file has a key "END".
+[[nodiscard]] std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback);
+
+/// Writes a value to the settings file. A failure is silent.
+void PutSetting(std::string_view section, std::string_view key, std::string_view value);
+
+/// The colours of the wave view: each setting's number, the built-in colour in place of -1.
+[[nodiscard]] WaveViewColours ReadWaveColours();
+
+} // namespace sprout

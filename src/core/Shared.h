@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Song.h"
+
+namespace sprout {
+
+inline constexpr std::string_view kAppVersionDate = "Dec 2010";
+inline constexpr std::string_view kProductName = "Tonquill Sprout Painter";
+inline constexpr std::string_view kProductFamily = "Tonquill";
+inline constexpr std::string_view kWebSite = "https://tonquill.example/";
+
+/// Colours of the wave view, 0x00BBGGRR.
+struct WaveViewColours {
+    std::int32_t WaveFormNormalColorL = 0x0000FF;
+    std::int32_t WaveFormNormalColorR = 0x00FFFF;
+    std::int32_t CenterLineColor = 0x808080;
+    std::int32_t NormalBackColor = 0xA00000;
+    std::int32_t SelectBackColor = 0x006400;
+    std::int32_t LineCursorColor = 0x00FFFF;
+    std::int32_t PlayPosIndiColor = 0xFF00FF;
+};
+
+/// What every window and the engine read and write directly; it lives from start to exit.
+struct SharedState {
+    // The one sound format in memory, set at the start and never changed.
+    std::int32_t SampleRate = 44100;
+    std::int32_t BitsPerSample = 16;
+    std::int32_t Channels = 2;
+    WaveData TestTone; ///< the sound of a step without a beat
+    std::int32_t SoundMemoryLimit = 0;
+
+    SongState Song;
+
+    Tune CurrentTune;                                   ///< the tune open in the tune window
+    Tune TuneClipboard;                                 ///< what every tune load fills and every tune save reads
+    Tune TuneInfoDefault;                               ///< the tune window's own
+    std::vector<Tune> TuneTable = std::vector<Tune>(1); ///< the tunes of `UserTunes`, from 1
+    std::int32_t TuneTableCount = 0;
+
+    bool SongBeatsInside = true;    ///< song and tune files carry their beats
+    bool AllowEditOriginal = false; ///< the tunes that came with the program may be edited
+    WaveViewColours WaveColours;
+
+    // Pictures that the program itself holds; told apart by identity.
+    Picture BlankPic;           ///< of a track's tune that was not chosen yet
+    Picture BlankStarPic;       ///< the other half of its blinking
+    Picture DefaultTunePicture; ///< where a picture file is missing
+    Picture NewTunePicture;     ///< of a tune made in the tune window
+
+    // Folders. Those of the second and third line end in a separator.
+    std::filesystem::path ProgramFolder, TempFolder, SettingsFile, DocumentsFolder, UserRoot;
+    std::filesystem::path InstallRoot, InstallBeats, InstallTunes, InstallStars, InstallSongs, DemoImages;
+    std::filesystem::path UserBeats, UserTunes, UserStars, UserSongs;
+};
+
+/// The one shared instance.
+[[nodiscard]] SharedState& Shared();
+
+} // namespace sprout

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "core/Picture.h"
+#include "core/WaveData.h"
+
+namespace sprout {
+
+/// Cells of every song's time grid.
+inline constexpr std::int32_t kSongCells = 1280;
+/// The reference tempo, 100 percent, in cells a minute.
+inline constexpr std::int32_t kReferenceTempo = 320;
+
+/// One instrument: a short wave and its picture.
+struct Beat {
+    std::string Name;      ///< base name of its files in `UserBeats`; empty = no beat
+    std::string DateStamp; ///< last-write time of the .wav, "mm/dd/yyyy,hh:mm:ss"
+    WaveData Sound;        ///< in the format of its file
+    sprout::Picture Picture;
+    bool Loaded = false; ///< the record holds sound
+};
+
+/// One place in a tune's cycle.
+struct TuneStep {
+    std::int32_t OnPos = 0;      ///< only 1 counts as on
+    std::int32_t BeatIndex = 0;  ///< into `SongBeats`, from 1, while the tune belongs to a track
+    std::int32_t PitchShift = 0; ///< semitones against the beat's own pitch
+    std::int32_t Volume = 100;   ///< percent of the beat's loudness
+    std::int32_t Duration = 100; ///< percent of the beat's length
+    Beat StepBeat;               ///< the step's own instrument, in tune files and in the tune window
+    WaveData StepWave;           ///< the step's rendered sound
+    bool StepWaveValid = false;  ///< `StepWave` corresponds to the fields above
+};
+
+/// A cycle of steps.
+struct Tune {
+    sprout::Picture Picture;
+    std::string CreatedBy;
+    std::string Name;                                       ///< the file's base name
+    std::string DateStamp;                                  ///< last-write time of the tune's file
+    std::vector<TuneStep> Steps = std::vector<TuneStep>(1); ///< element 0 is never used
+    std::int32_t StepCount = 0;                             ///< upper bound of `Steps`
+    WaveData TuneWave;                                      ///< the rendered cycle
+    bool TuneWaveValid = false;                             ///< `TuneWave` corresponds to the steps
+};
+
+enum class TrackKind : std::int32_t { Music = 0, Audio = 1 };
+
+/// One row of the song.
+struct Track {
+    std::int32_t TrackType = 0; ///< a `TrackKind`; a file may hold other values
+    Tune TrackTune;
+    WaveData TrackAudio;
+    std::vector<std::int32_t> Painted = std::vector<std::int32_t>(1); ///< a value a cell, from 1; only 1 is painted
+    std::int32_t FirstPainted = 0;                                    ///< set by a render; 0 = nothing painted
+    WaveData TrackRender;                                             ///< the sound from `FirstPainted` on
+    bool TrackRenderValid = false;
+
+    [[nodiscard]] bool IsMusic() const { return TrackType == static_cast<std::int32_t>(TrackKind::Music); }
+    [[nodiscard]] bool IsAudio() const { return TrackType == static_cast<std::int32_t>(TrackKind::Audio); }
+};
+
+/// The state of the open song. Elements 0 of its arrays exist and hold nothing.
+struct SongState {
+    std::string SongTitle;
+    std::string SongCreatedBy;
+    std::vector<Track> Tracks = std::vector<Track>(1);
+    std::int32_t TrackCount = 0; ///< upper bound of `Tracks`
+    std::vector<Beat> SongBeats = std::vector<Beat>(1);
+    std::int32_t SongBeatCount = 0; ///< upper bound of `SongBeats`
+    std::int32_t SongCells = kSongCells;
+    std::int32_t Tempo = kReferenceTempo; ///< cells a minute
+    WaveData SongMix;
+    bool SongMixValid = false;
+    std::int32_t SongFirstPos = 0; ///< first painted cell of the whole song, set by the mix
+    bool SongChanged = false;
+};
+
+/// The value at `index` of a 1-based record array, by 32-bit index.
+template <class Record>
+[[nodiscard]] auto& At(Record& records, std::int32_t index)
+{
+    return records[static_cast<std::size_t>(index)];
+}
+
+} // namespace sprout

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+#include "core/Song.h"
+
+namespace sprout {
+
+/// Steps of the cycle that a tune without a file starts with.
+inline constexpr std::int32_t kBlankTuneSteps = 16;
+
+/// Replaces the shared song by the default one: two empty music tracks under the first free name "Untitled",
+/// "Untitled 1", ... of `UserSongs`. Leaves `SongChanged` as it is.
+void NewSong();
+
+/// Empties a track of the shared song and makes it a music track without a tune; keeps its audio. Numbers outside
+/// 1..`TrackCount` do nothing.
+void ResetTrack(std::int32_t trackNumber);
+
+/// Makes `tune` a blank cycle of 16 steps, all off, and lets tracks without a tune blink.
+void ResetTune(Tune& tune);
+
+/// Seconds that one cell lasts. tempo: cells a minute; 0 gives infinity, as the division does.
+[[nodiscard]] inline double CellSeconds(std::int32_t tempo)
+{
+    return 60.0 / tempo;
+}
+
+/// Frames from cell `origin` to cell `cell` at `rate` frames a second, rounded. Throws `RunTimeError` where that is no
+/// 32-bit number.
+[[nodiscard]] std::int32_t CellOffset(std::int32_t cell, std::int32_t origin, std::int32_t tempo, std::int32_t rate);
+
+/// The whole grid's duration in seconds at a tempo, rounded.
+[[nodiscard]] std::int32_t SongSeconds(std::int32_t tempo);
+
+/// The tempo in percent of the reference tempo, 50 to 200.
+[[nodiscard]] std::int32_t TempoPercent(std::int32_t tempo);
+
+/// Cells a minute for a percentage.
+[[nodiscard]] std::int32_t TempoOfPercent(std::int32_t percent);
+
+/// Cells that one pass of an audio track's wave covers at the reference tempo, at least 1.
+[[nodiscard]] std::int32_t AudioCycleCells(const WaveData& audio);
+
+/// First painted cell of a track, 0 if there is none.
+[[nodiscard]] std::int32_t FindFirstPainted(const Track& track, std::int32_t songCells);
+
+/// Clears what a new tempo makes stale in the shared song.
+void InvalidateForTempo();
+
+} // namespace sprout

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+
+namespace sprout {
+
+/// Memory of the machine in bytes, and its load in percent.
+struct MemoryStatus {
+    std::uint64_t TotalBytes = 0;
+    std::uint64_t AvailableBytes = 0;
+    int LoadPercent = 0;
+};
+
+/// Facts about the machine that the start-up asks for. Nothing here throws; a fact that cannot be had is 0 or empty.
+class Machine {
+public:
+    Machine() = default;
+    Machine(const Machine&) = delete;
+    Machine& operator=(const Machine&) = delete;
+    virtual ~Machine() = default;
+
+    [[nodiscard]] virtual MemoryStatus GlobalMemoryStatus() const = 0;
+    /// The folder for temporary files as the machine names it; may be missing.
+    [[nodiscard]] virtual std::filesystem::path TempPath() const = 0;
+    /// The running program's file.
+    [[nodiscard]] virtual std::filesystem::path ExecutablePath() const = 0;
+    /// Bytes that the user may still fill on the volume of `path`; 0 if the question fails.
+    [[nodiscard]] virtual std::uint64_t FreeBytes(const std::filesystem::path& path) const = 0;
+};
+
+} // namespace sprout

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+namespace sprout {
+
+enum class MessageIcon { None, Exclamation };
+
+/// The machine's plain message box with one OK button.
+class Messages {
+public:
+    Messages() = default;
+    Messages(const Messages&) = delete;
+    Messages& operator=(const Messages&) = delete;
+    virtual ~Messages() = default;
+
+    /// Shows `text`; an empty title leaves the box untitled. Returns when the user has read it. Interface thread only.
+    virtual void MessageBox(std::string_view title, std::string_view text, MessageIcon icon = MessageIcon::None) = 0;
+};
+
+} // namespace sprout

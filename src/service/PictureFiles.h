@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+
+#include "core/Picture.h"
+
+namespace sprout {
+
+/// Picture files of the kinds .bmp, .jpg and .gif. Needs no display.
+class PictureFiles {
+public:
+    PictureFiles() = default;
+    PictureFiles(const PictureFiles&) = delete;
+    PictureFiles& operator=(const PictureFiles&) = delete;
+    virtual ~PictureFiles() = default;
+
+    /// Reads a picture in its own size. Throws `RunTimeError` for a file that is no picture, is cut short or claims
+    /// more than 4096 pixels a side; nothing is allocated for such a claim.
+    [[nodiscard]] virtual Picture LoadPicture(const std::filesystem::path& path) const = 0;
+
+    /// Writes a .bmp of 24 bits a pixel. Throws `RunTimeError` on failure.
+    virtual void SavePicture(const Picture& picture, const std::filesystem::path& path) const = 0;
+};
+
+} // namespace sprout

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace sprout {
+
+class Desktop;
+class Files;
+class Machine;
+class Messages;
+class PictureFiles;
+class Screen;
+class Stretch;
+
+/// The services that the program runs on. Whoever starts the program fills it once, before anything else; the objects
+/// outlive every use. A service that a program does not use may stay null.
+struct Services {
+    Messages* messages = nullptr;
+    Screen* screen = nullptr;
+    Files* files = nullptr;
+    Machine* machine = nullptr;
+    Desktop* desktop = nullptr;
+    PictureFiles* pictures = nullptr;
+    Stretch* stretch = nullptr;
+};
+
+/// The one shared instance.
+inline Services& TheServices()
+{
+    static Services services;
+    return services;
+}
+
+} // namespace sprout

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/posix/PosixFiles.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "core/Errors.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr mode_t kOwnerOnly = 0600;
+constexpr mode_t kAllButExecute = 0666;
+constexpr int kMostSavesAtOnce = 100; // hidden files of other running programs in one folder
+
+[[noreturn]] void Fail(const fs::path& path, int error)
+{
+    throw RunTimeError("The file " + path.native() +
+                       " could not be written: " + std::generic_category().message(error) + ".");
+}
+
+/// An open file descriptor.
+class Descriptor {
+public:
+    explicit Descriptor(int opened) : number(opened) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
+    ~Descriptor()
+    {
+        if (number >= 0)
+            ::close(number);
+    }
+
+    [[nodiscard]] int Number() const { return number; }
+    /// Closes now; 0 or the error. Either way the descriptor is gone.
+    int Close() { return ::close(std::exchange(number, -1)) == 0 ? 0 : errno; }
+
+private:
+    int number;
+};
+
+/// A new hidden file beside a target. It is locked as long as it is written, so that no other running program takes it
+/// for a stale one, and it is deleted unless it was moved over the target.
+class FileBeside {
+public:
+    explicit FileBeside(const fs::path& target) : wanted(target), file(Create()) {}
+    FileBeside(const FileBeside&) = delete;
+    FileBeside& operator=(const FileBeside&) = delete;
+    ~FileBeside()
+    {
+        if (!moved)
+            ::unlink(path.c_str());
+    }
+
+    void Write(std::span<const std::span<const std::byte>> pieces);
+    void TakeMode();
+    void FlushToDisk();
+    void MoveOver();
+
+private:
+    int Create();
+
+    fs::path wanted;
+    fs::path path;
+    Descriptor file;
+    bool moved = false;
+};
+
+/// Locks an open file without waiting; false where a running program holds it or it was deleted meanwhile.
+bool TakeLock(int descriptor)
+{
+    struct stat facts {};
+    return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &facts) == 0 && facts.st_nlink > 0;
+}
+
+void DeleteUnlessHeld(const fs::path& path)
+{
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    if (file.Number() >= 0 && TakeLock(file.Number()))
+        ::unlink(path.c_str());
+}
+
+int FileBeside::Create()
+{
+    const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
+    for (int n = 1; n <= kMostSavesAtOnce; ++n) {
+        path = folder / (".TqkSave" + std::to_string(n));
+        DeleteUnlessHeld(path);
+        const int opened = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
+        if (opened >= 0 && TakeLock(opened))
+            return opened;
+        if (opened >= 0)
+            ::close(opened); // deleted by another program in the moment before the lock
+        else if (errno != EEXIST)
+            Fail(wanted, errno);
+    }
+    Fail(wanted, EEXIST);
+}
+
+/// Drops `count` written bytes from the front of `blocks`.
+void DropFront(std::vector<iovec>& blocks, std::size_t& first, std::size_t count)
+{
+    while (count > 0) {
+        iovec& block = blocks[first];
+        const std::size_t part = std::min(count, block.iov_len);
+        block.iov_base = static_cast<char*>(block.iov_base) + part;
+        block.iov_len -= part;
+        count -= part;
+        if (block.iov_len == 0)
+            ++first;
+    }
+}
+
+void FileBeside::Write(std::span<const std::span<const std::byte>> pieces)
+{
+    std::vector<iovec> blocks;
+    for (const std::span<const std::byte> piece : pieces)
+        if (!piece.empty()) // writev takes pointers to what it will not change
+            blocks.push_back({const_cast<std::byte*>(piece.data()), piece.size()});
+    constexpr std::size_t mostBlocks = 512;
+    for (std::size_t first = 0; first < blocks.size();) {
+        const auto count = static_cast<int>(std::min(blocks.size() - first, mostBlocks));
+        const ssize_t written = ::writev(file.Number(), &blocks[first], count);
+        if (written < 0 && errno != EINTR)
+            Fail(wanted, errno);
+        if (written > 0)
+            DropFront(blocks, first, static_cast<std::size_t>(written));
+    }
+}
+
+/// The mode of the file that is replaced, or what a new file gets.
+void FileBeside::TakeMode()
+{
+    struct stat facts {};
+    mode_t mode = 0;
+    if (::stat(wanted.c_str(), &facts) == 0) {
+        mode = facts.st_mode & 07777;
+    } else {
+        const mode_t mask = ::umask(0);
+        ::umask(mask);
+        mode = kAllButExecute & ~mask;
+    }
+    if (::fchmod(file.Number(), mode) != 0 && errno != EPERM && errno != ENOTSUP)
+        Fail(wanted, errno);
+}
+
+void FileBeside::FlushToDisk()
+{
+    while (::fsync(file.Number()) != 0)
+        if (errno != EINTR)
+            Fail(wanted, errno);
+}
+
+void FileBeside::MoveOver()
+{
+    // The rename comes while the lock still stands; the close behind it can only tell what was told before.
+    const Descriptor lock(::dup(file.Number()));
+    if (const int error = file.Close(); error != 0)
+        Fail(wanted, error);
+    if (::rename(path.c_str(), wanted.c_str()) != 0)
+        Fail(wanted, errno);
+    moved = true;
+}
+
+/// Lets the folder's entry reach the disk. Some file systems cannot; the rename itself has succeeded.
+void FlushFolder(const fs::path& target)
+{
+    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
+    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.Number() >= 0)
+        ::fsync(opened.Number());
+}
+
+/// The file that a link at the target leads to, so that the link stays a link.
+fs::path ThroughLinks(const fs::path& target)
+{
+    std::error_code error;
+    if (!fs::is_symlink(target, error))
+        return target;
+    const fs::path resolved = fs::weakly_canonical(target, error);
+    return error ? target : resolved;
+}
+
+} // namespace
+
+void PosixFiles::ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush)
+{
+    const fs::path file = ThroughLinks(target);
+    FileBeside beside(file);
+    beside.Write(pieces);
+    beside.TakeMode();
+    if (flush == Flush::Yes)
+        beside.FlushToDisk();
+    beside.MoveOver();
+    if (flush == Flush::Yes)
+        FlushFolder(file);
+}
+
+void PosixFiles::DeleteStaleFile(const fs::path& path)
+{
+    DeleteUnlessHeld(path);
+}
+
+} // namespace sprout

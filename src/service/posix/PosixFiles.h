@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "service/Files.h"
+
+namespace sprout {
+
+/// `Files` on the system calls of POSIX.
+class PosixFiles : public Files {
+public:
+    void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> pieces,
+                     Flush flush) override;
+    void DeleteStaleFile(const std::filesystem::path& path) override;
+};
+
+} // namespace sprout

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "service/PictureFiles.h"
+
+namespace sprout {
+
+/// `PictureFiles` on Qt's image readers. Works without a display and without an application object.
+class QtPictureFiles : public PictureFiles {
+public:
+    [[nodiscard]] Picture LoadPicture(const std::filesystem::path& path) const override;
+    void SavePicture(const Picture& picture, const std::filesystem::path& path) const override;
+};
+
+} // namespace sprout

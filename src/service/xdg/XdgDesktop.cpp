@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/xdg/XdgDesktop.h"
+
+#include <fcntl.h>
+#include <pwd.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path FromEnvironment(const char* name)
+{
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing of the program changes its environment
+    const char* value = std::getenv(name);
+    return value ? value : "";
+}
+
+fs::path HomeFolder()
+{
+    fs::path home = FromEnvironment("HOME");
+    if (!home.empty())
+        return home;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): asked on the interface thread alone
+    const passwd* user = ::getpwuid(::getuid());
+    return user && user->pw_dir ? user->pw_dir : "";
+}
+
+std::string FileText(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// The value between the quotes of a line NAME="value", its backslashes resolved.
+std::string QuotedValue(std::string_view line)
+{
+    std::string value;
+    const auto open = line.find('"');
+    if (open == std::string_view::npos)
+        return value;
+    for (std::size_t i = open + 1; i < line.size() && line[i] != '"'; ++i) {
+        if (line[i] == '\\' && i + 1 < line.size())
+            ++i;
+        value.push_back(line[i]);
+    }
+    return value;
+}
+
+} // namespace
+
+fs::path DocumentsOfUserDirs(std::string_view lines, const fs::path& home)
+{
+    constexpr std::string_view name = "XDG_DOCUMENTS_DIR=";
+    constexpr std::string_view homeWord = "$HOME";
+    fs::path documents;
+    while (!lines.empty()) {
+        const auto end = std::min(lines.find('\n'), lines.size());
+        std::string_view line = lines.substr(0, end);
+        lines.remove_prefix(std::min(end + 1, lines.size()));
+        line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size()));
+        if (!line.starts_with(name))
+            continue;
+        const std::string value = QuotedValue(line);
+        const bool inHome =
+            value.starts_with(homeWord) && (value.size() == homeWord.size() || value[homeWord.size()] == '/');
+        documents = inHome ? fs::path(home.native() + value.substr(homeWord.size())) : fs::path(value);
+    }
+    if (!documents.is_absolute())
+        return {};
+    const fs::path plain = (documents / "").lexically_normal();
+    return plain == (home / "").lexically_normal() ? fs::path() : plain.parent_path();
+}
+
+fs::path XdgDesktop::DocumentsFolder() const
+{
+    const fs::path home = HomeFolder();
+    if (home.empty())
+        return {};
+    const fs::path named = FromEnvironment("XDG_CONFIG_HOME");
+    const fs::path config = named.is_absolute() ? named : home / ".config";
+    fs::path documents = DocumentsOfUserDirs(FileText(config / "user-dirs.dirs"), home);
+    if (documents.empty())
+        documents = home / "Documents";
+    std::error_code error;
+    fs::create_directories(documents, error);
+    return fs::is_directory(documents, error) ? documents : fs::path();
+}
+
+void XdgDesktop::OpenWithShell(std::string_view target)
+{
+    std::string program = "xdg-open";
+    std::string argument(target);
+    if (argument.empty() || argument.front() == '-') // would be taken for an option
+        return;
+    // In the background of a shell that ends at once: the opened program is nobody's child, and nothing waits for it.
+    std::string shell = "/bin/sh";
+    std::string option = "-c";
+    std::string script = "\"$0\" \"$1\" >/dev/null 2>&1 &";
+    const std::array<char*, 6> words = {shell.data(),   option.data(),   script.data(),
+                                        program.data(), argument.data(), nullptr};
+    pid_t child = 0;
+    if (::posix_spawn(&child, shell.c_str(), nullptr, nullptr, words.data(), environ) == 0)
+        ::waitpid(child, nullptr, 0);
+}
+
+} // namespace sprout

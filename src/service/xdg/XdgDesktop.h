@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "service/Desktop.h"
+
+namespace sprout {
+
+/// `Desktop` on the conventions of freedesktop.org and its xdg-open.
+class XdgDesktop : public Desktop {
+public:
+    /// The folder named XDG_DOCUMENTS_DIR in the user's user-dirs.dirs, else Documents in the home folder.
+    [[nodiscard]] std::filesystem::path DocumentsFolder() const override;
+    void OpenWithShell(std::string_view target) override;
+};
+
+/// The documents folder that the lines of a user-dirs.dirs name; empty where they name none or the home folder itself,
+/// which is the way to switch it off.
+[[nodiscard]] std::filesystem::path DocumentsOfUserDirs(std::string_view lines, const std::filesystem::path& home);
+
+} // namespace sprout

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "core/Song.h"
+#include "core/WaveData.h"
+
+namespace sprout {
+
+/// Renders a music track of the shared song alone: fills `TrackRender` and `FirstPainted`, unless it is valid.
+/// trackNumber: 1..`TrackCount`. A run-time error leaves an empty wave, valid.
+void RenderTuneTrack(std::int32_t trackNumber);
+
+/// The same for an audio track, whose wave sounds again and again along the paint.
+void RenderAudioTrack(std::int32_t trackNumber);
+
+/// Mixes the whole shared song: fills `SongMix` and `SongFirstPos`, unless it is valid.
+void MixSong();
+
+/// What sounds when a wave whose first frame belongs to cell `origin` is played from `cell`.
+struct PlayFrom {
+    WaveData Wave;
+    std::int32_t StartCell = 0;
+};
+
+/// The part from a cell on, or the whole from the origin where the cell lies at or before it. tempo: cells a minute.
+/// Nothing where the cell lies at or beyond the wave's end.
+[[nodiscard]] std::optional<PlayFrom> CutFromCell(const WaveData& wave, std::int32_t origin, std::int32_t cell,
+                                                  std::int32_t tempo);
+
+} // namespace sprout

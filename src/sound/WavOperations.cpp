@@ -1,0 +1,367 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sound/WavOperations.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cmath>
+#include <cstddef>
+#include <fstream>
+#include <string>
+
+#include "core/ByteCursor.h"
+#include "core/Errors.h"
+#include "core/Longs.h"
+#include "core/Numbers.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Samples go to and from files as they lie in memory.
+static_assert(std::endian::native == std::endian::little);
+
+constexpr std::uint64_t kSmallestWave = 45; // a header of 44 bytes and at least one of sound
+constexpr std::uint64_t kChannelsByte = 22;
+constexpr std::uint64_t kRateByte = 24;
+constexpr std::uint64_t kBitsByte = 34;
+constexpr std::uint64_t kSearchByte = 35;
+
+/// What ends a load with a message of its own.
+struct Refusal {
+    std::string title;
+    std::string text;
+};
+
+void Tell(std::string_view title, std::string_view text)
+{
+    TheServices().messages->MessageBox(title, text);
+}
+
+bool KnownRate(std::int32_t rate)
+{
+    return rate == 11025 || rate == 22050 || rate == 44100;
+}
+
+bool KnownBits(std::int32_t bits)
+{
+    return bits == 8 || bits == 16;
+}
+
+char UpperLetter(std::byte letter)
+{
+    const char c = static_cast<char>(letter);
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+}
+
+/// Byte of the "data" that begins the sound; 0 where there is none.
+std::uint64_t FindData(ByteSource& source)
+{
+    constexpr std::string_view name = "DATA";
+    std::array<char, 4> window{};
+    const std::uint64_t size = source.Size();
+    ByteCursor cursor(source, kSearchByte, size);
+    // A name is looked at as long as at least one byte follows it.
+    for (std::uint64_t read = kSearchByte; read + 1 < size; ++read) {
+        std::byte letter{};
+        cursor.Read({&letter, 1});
+        std::shift_left(window.begin(), window.end(), 1);
+        window.back() = UpperLetter(letter);
+        if (std::string_view(window.data(), window.size()) == name)
+            return read + 1 - name.size();
+    }
+    return 0;
+}
+
+std::uint8_t ByteAt(ByteSource& source, std::uint64_t place)
+{
+    std::byte value{};
+    source.Read(place, {&value, 1});
+    return std::to_integer<std::uint8_t>(value);
+}
+
+std::int32_t Int32At(ByteSource& source, std::uint64_t place)
+{
+    return ByteCursor(source, place, place + 4).ReadInt32();
+}
+
+WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::string& name)
+{
+    WaveData wave;
+    wave.Channels = ByteAt(source, kChannelsByte);
+    if (wave.Channels != 1 && wave.Channels != 2)
+        throw Refusal{"Error Loading " + name, "Channal info invalid at byte location 23"};
+    wave.Rate = Int32At(source, kRateByte);
+    if (!KnownRate(wave.Rate))
+        throw Refusal{"Failed Loading " + name, "Sampling rate (" + std::to_string(wave.Rate) + ") not supported"};
+    wave.Bits = ByteAt(source, kBitsByte);
+    if (!KnownBits(wave.Bits))
+        throw Refusal{"Error Loading " + name, "Bits per sample not supported"};
+    const std::int32_t frameBytes = wave.Bits / 8 * wave.Channels;
+    wave.Length = RoundHalfEven(static_cast<double>(dataSize) / frameBytes);
+    return wave;
+}
+
+/// All sample bytes that the wave's length asks for; those that the file lacks are zero.
+std::vector<std::byte> ReadSampleBytes(ByteSource& source, const WaveData& wave, std::uint64_t begin)
+{
+    if (wave.Length < 0)
+        throw RunTimeError("The file tells a length below zero.");
+    const std::uint64_t there = source.Size() - std::min(source.Size(), begin);
+    const std::uint64_t wanted =
+        static_cast<std::uint64_t>(wave.Length) * static_cast<std::uint64_t>(wave.Bits / 8 * wave.Channels);
+    if (wanted > there && wave.Length > kMostPromisedFrames)
+        throw RunTimeError("The file promises more sound than it holds.");
+    std::vector<std::byte> bytes(static_cast<std::size_t>(wanted));
+    source.Read(begin, std::span(bytes).first(static_cast<std::size_t>(std::min(wanted, there))));
+    return bytes;
+}
+
+std::int16_t SampleAt(std::span<const std::byte> bytes, std::size_t index, std::int32_t bits)
+{
+    if (bits == 8)
+        return static_cast<std::int16_t>(std::to_integer<int>(bytes[index]) - 128);
+    return static_cast<std::int16_t>(std::to_integer<unsigned>(bytes[index * 2]) |
+                                     (std::to_integer<unsigned>(bytes[index * 2 + 1]) << 8));
+}
+
+Channel Deinterleave(std::span<const std::byte> bytes, const WaveData& wave, std::size_t which)
+{
+    Channel channel = Channel::Unfilled(wave.Length);
+    const auto step = static_cast<std::size_t>(wave.Channels);
+    const std::span<std::int16_t> samples = channel.Change().subspan(1);
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        samples[i] = SampleAt(bytes, i * step + which, wave.Bits);
+    return channel;
+}
+
+WaveData ReadWave(const fs::path& path, ReadSamples samples)
+{
+    FileSource source(path);
+    const std::string name = PathText(path);
+    if (source.Size() < kSmallestWave)
+        throw Refusal{"Error Loading " + name, "No wave Data found in file"};
+    const std::uint64_t data = FindData(source);
+    if (data == 0)
+        throw Refusal{"Error Loading " + name, "The String 'Data' - is not found"};
+    if (data + 8 > source.Size())
+        throw RunTimeError("The file ends before its sound.");
+    WaveData wave = ReadWaveHead(source, Int32At(source, data + 4), name);
+    if (samples == ReadSamples::HeaderOnly)
+        return wave;
+    const std::vector<std::byte> bytes = ReadSampleBytes(source, wave, data + 8);
+    wave.WavL = Deinterleave(bytes, wave, 0);
+    if (wave.Channels == 2)
+        wave.WavR = Deinterleave(bytes, wave, 1);
+    return wave;
+}
+
+/// Writes what a WAV file holds, and stops at the first failure.
+class WaveWriter {
+public:
+    explicit WaveWriter(const fs::path& path) : file(path, std::ios::binary | std::ios::trunc)
+    {
+        if (!file)
+            throw RunTimeError("The file " + PathText(path) + " could not be made.");
+    }
+
+    void Text(std::string_view text) { Bytes(text.data(), text.size()); }
+    void Int16(std::int32_t value) { Bytes(reinterpret_cast<const char*>(&value), 2); }
+    void Int32(std::int32_t value) { Bytes(reinterpret_cast<const char*>(&value), 4); }
+    void Bytes(const char* bytes, std::size_t count)
+    {
+        file.write(bytes, static_cast<std::streamsize>(count));
+        Check();
+    }
+    void MoveTo(std::streamoff place) { file.seekp(place); }
+    void Close()
+    {
+        file.close();
+        Check();
+    }
+
+private:
+    void Check() const
+    {
+        if (!file)
+            throw RunTimeError("The file could not be written to its end.");
+    }
+
+    std::ofstream file;
+};
+
+void WriteHead(WaveWriter& writer, const WaveData& wave)
+{
+    const std::int32_t blockAlign = wave.Channels * wave.Bits / 8;
+    writer.Text("RIFF");
+    writer.Int32(0);
+    writer.Text("WAVEfmt ");
+    writer.Int32(16);
+    writer.Int16(1);
+    writer.Int16(wave.Channels);
+    writer.Int32(wave.Rate);
+    writer.Int32(blockAlign * wave.Rate);
+    writer.Int16(blockAlign);
+    writer.Int16(wave.Bits);
+    writer.Text("data");
+    writer.Int32(0);
+}
+
+void AppendSample(std::vector<char>& bytes, std::int16_t sample, std::int32_t bits)
+{
+    if (bits == 16) {
+        bytes.push_back(static_cast<char>(sample & 0xFF));
+        bytes.push_back(static_cast<char>((sample >> 8) & 0xFF));
+        return;
+    }
+    if (sample < -128 || sample > 127)
+        throw RunTimeError("A sample does not fit into 8 bits.");
+    bytes.push_back(static_cast<char>(sample + 128));
+}
+
+void WriteSamples(WaveWriter& writer, const WaveData& wave)
+{
+    constexpr std::int32_t blockFrames = 16384;
+    std::vector<char> bytes;
+    for (std::int32_t first = 1; first <= wave.Length; first += blockFrames) {
+        bytes.clear();
+        const std::int32_t last = std::min(wave.Length, first + blockFrames - 1);
+        for (std::int32_t frame = first; frame <= last; ++frame) {
+            AppendSample(bytes, wave.WavL[frame], wave.Bits);
+            if (wave.Channels == 2)
+                AppendSample(bytes, wave.WavR[frame], wave.Bits);
+        }
+        writer.Bytes(bytes.data(), bytes.size());
+    }
+}
+
+void WriteWave(const WaveData& wave, const fs::path& path)
+{
+    const double dataBytes = static_cast<double>(wave.Bits / 8 * wave.Channels) * wave.Length;
+    const std::int32_t dataSize = RoundHalfEven(dataBytes);
+    const std::int32_t riffSize = RoundHalfEven(dataBytes + 36);
+    DeleteFile(path);
+    WaveWriter writer(path);
+    WriteHead(writer, wave);
+    WriteSamples(writer, wave);
+    writer.MoveTo(40);
+    writer.Int32(dataSize);
+    writer.MoveTo(4);
+    writer.Int32(riffSize);
+    writer.Close();
+}
+
+Channel CutChannel(const Channel& source, std::int32_t first, std::int32_t length)
+{
+    if (length == 0)
+        return {};
+    return Channel::FromSamples(
+        source.Samples().subspan(static_cast<std::size_t>(first - 1), static_cast<std::size_t>(length)));
+}
+
+} // namespace
+
+WaveData EmptyWave()
+{
+    WaveData wave;
+    wave.Bits = Shared().BitsPerSample;
+    wave.Channels = Shared().Channels;
+    wave.Rate = Shared().SampleRate;
+    return wave;
+}
+
+WaveData LoadWaveFile(const fs::path& path, ReadSamples samples)
+{
+    const fs::path file = FindFile(path);
+    if (file.empty())
+        return EmptyWave();
+    try {
+        return ReadWave(file, samples);
+    } catch (const Refusal& refusal) {
+        Tell(refusal.title, refusal.text);
+    } catch (const RunTimeError& error) {
+        Tell("Wave file load error", error.what());
+    } catch (const std::bad_alloc&) {
+        Tell("Wave file load error", "There is not enough memory.");
+    }
+    return EmptyWave();
+}
+
+void SaveWaveFile(const WaveData& wave, const fs::path& path)
+{
+    if (path.empty())
+        return Tell("", "No file name given to write");
+    if (wave.Length == 0)
+        return Tell("Writing wave error", "Silent or Zero size wave found");
+    if ((wave.Channels != 1 && wave.Channels != 2) || !KnownRate(wave.Rate) || !KnownBits(wave.Bits))
+        return Tell("", "Format not Known to write wave file");
+    try {
+        WriteWave(wave, path);
+    } catch (const RunTimeError& error) {
+        Tell("Wav file Write error", error.what());
+    }
+}
+
+std::vector<std::int32_t> WaveToLongs(const WaveData& wave)
+{
+    LongsWriter writer;
+    writer.PutWave(wave);
+    return writer.Elements();
+}
+
+WaveData LongsToWave(std::span<const std::int32_t> longs)
+{
+    if (longs.size() <= 1)
+        return EmptyWave();
+    MemorySource source(std::as_bytes(longs));
+    return LongsReader::Raw(source, 0, source.Size()).GetWave();
+}
+
+WaveData CutWaveSlice(const WaveData& source, std::int32_t first, std::int32_t last)
+{
+    WaveData slice;
+    slice.Bits = source.Bits;
+    slice.Channels = source.Channels;
+    slice.Rate = source.Rate;
+    slice.Length = std::max(last - first + 1, 0);
+    slice.WavL = CutChannel(source.WavL, first, slice.Length);
+    if (source.Channels == 2)
+        slice.WavR = CutChannel(source.WavR, first, slice.Length);
+    return slice;
+}
+
+WaveData MakeTestTone()
+{
+    constexpr double twoPi = 6.28318530717958;
+    const std::int32_t rate = Shared().SampleRate;
+    WaveData tone = EmptyWave();
+    tone.Length = RoundHalfEven(0.2 * rate);
+    const double amplitude = RoundHalfEven(0.7 * (tone.Bits == 8 ? 127 : 32767));
+    double step = twoPi / (rate / 650.0);
+    const double lastStep = twoPi / (rate / 700.0);
+    const double ratio = std::pow(lastStep / step, 1.0 / tone.Length);
+    tone.WavL = Channel(tone.Length);
+    const std::span<std::int16_t> samples = tone.WavL.Change();
+    double phase = 0;
+    for (std::int32_t i = 1; i <= tone.Length; ++i) {
+        const double fade = static_cast<double>(tone.Length - i) / tone.Length;
+        samples[static_cast<std::size_t>(i)] =
+            static_cast<std::int16_t>(RoundHalfEven(std::sin(phase) * amplitude * fade));
+        step *= ratio;
+        phase += step;
+        if (phase > twoPi)
+            phase -= twoPi;
+    }
+    if (tone.Channels == 2)
+        tone.WavR = tone.WavL;
+    return tone;
+}
+
+} // namespace sprout

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string_view>
+
+#include "core/Song.h"
+
+namespace sprout {
+
+/// Longest sound of a beat, in seconds.
+inline constexpr std::int32_t kLongestBeatSeconds = 5;
+
+/// The picture of a file; the default tune picture where there is no such file, or, after a message, where it cannot be
+/// read.
+[[nodiscard]] Picture LoadPictureFile(const std::filesystem::path& path);
+
+/// Fills a beat from its pair of files in `UserBeats`, cut to 5 seconds. Without a .wav the beat comes out empty; a
+/// wave without samples leaves it as it was.
+void LoadBeatFile(Beat& beat, std::string_view name);
+
+/// Loads a beat again by its own name, which stays also where there is no .wav any more; it counts as loaded then.
+void ReloadBeat(Beat& beat);
+
+/// The place of a named beat in the song's list, added at its end if it is not there; 0 where there is no such beat.
+void FindOrLoadBeat(SongState& song, std::string_view name, std::int32_t& index);
+
+/// Gives every on-step of a tune its own copy of its beat from the song's list.
+void ExpandTuneBeats(const SongState& song, Tune& tune);
+
+/// Takes the beats of a tune's on-steps back into the song's list, each once.
+void MergeTuneBeats(SongState& song, Tune& tune);
+
+} // namespace sprout

@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/Picture.h"
+#include "core/Shared.h"
+#include "service/Desktop.h"
+#include "service/Machine.h"
+#include "service/Messages.h"
+#include "service/PictureFiles.h"
+#include "service/Screen.h"
+#include "service/Services.h"
+#include "service/Stretch.h"
+#include "service/posix/PosixFiles.h"
+#include "support/TestFolder.h"
+
+namespace sprout {
+
+/// Keeps every message instead of showing it.
+class FakeMessages : public Messages {
+public:
+    struct Shown {
+        std::string title;
+        std::string text;
+        MessageIcon icon = MessageIcon::None;
+        friend bool operator==(const Shown&, const Shown&) = default;
+    };
+
+    void MessageBox(std::string_view title, std::string_view text, MessageIcon icon) override
+    {
+        shown.push_back({std::string(title), std::string(text), icon});
+    }
+
+    std::vector<Shown> shown;
+};
+
+/// Counts what is shown.
+class FakeScreen : public Screen {
+public:
+    void ShowHourglass() override { ++hourglasses, ++hourglassesShown; }
+    void RestorePointer() override { --hourglasses; }
+    void ShowProcessPic() override { ++processPics, ++processPicsShown; }
+    void HideProcessPic() override { --processPics; }
+    void ShowProgress(std::size_t done, std::size_t total) override { lastProgress = {done, total}; }
+    void EnableTuneNotFilledTimer() override { tuneNotFilledTimer = true; }
+
+    int hourglasses = 0; // shown now
+    int hourglassesShown = 0;
+    int processPics = 0;
+    int processPicsShown = 0;
+    std::pair<std::size_t, std::size_t> lastProgress;
+    bool tuneNotFilledTimer = false;
+};
+
+class FakeMachine : public Machine {
+public:
+    [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override { return memory; }
+    [[nodiscard]] std::filesystem::path TempPath() const override { return temp; }
+    [[nodiscard]] std::filesystem::path ExecutablePath() const override { return executable; }
+    [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path&) const override { return freeBytes; }
+
+    MemoryStatus memory;
+    std::filesystem::path temp;
+    std::filesystem::path executable;
+    std::uint64_t freeBytes = 0;
+};
+
+class FakeDesktop : public Desktop {
+public:
+    [[nodiscard]] std::filesystem::path DocumentsFolder() const override { return documents; }
+    void OpenWithShell(std::string_view target) override { opened.emplace_back(target); }
+
+    std::filesystem::path documents;
+    std::vector<std::string> opened;
+};
+
+/// Reads each picture file as one of a single colour, the number of bytes in the file; a file that begins with "bad" is
+/// none.
+class FakePictureFiles : public PictureFiles {
+public:
+    [[nodiscard]] Picture LoadPicture(const std::filesystem::path& path) const override;
+    void SavePicture(const Picture& picture, const std::filesystem::path& path) const override;
+};
+
+/// A stretch whose results can be told by hand: the length follows the duration, and each sample is the input's at the
+/// same share of it. Counts its calls.
+class FakeStretch : public Stretch {
+public:
+    [[nodiscard]] bool Tq5Service02(StretchHandle& handle, float pitchFactor, float durationFactor, std::int32_t rate,
+                                    std::span<const std::int16_t> samples, std::int32_t& size) const override;
+    [[nodiscard]] bool Tq5Service02a(StretchHandle handle, std::int32_t& size,
+                                     std::span<std::int16_t> samples) const override;
+
+    struct Call {
+        float pitchFactor;
+        float durationFactor;
+        std::int32_t rate;
+        std::size_t count;
+    };
+    [[nodiscard]] std::vector<Call> Calls() const;
+    bool fails = false;       // the first entry refuses
+    bool secondFails = false; // the second entry refuses
+
+private:
+    mutable std::mutex mutex;
+    mutable std::vector<Call> calls;
+};
+
+/// Gives every test fresh services, a fresh shared state and folders of its own.
+class FakeServices {
+public:
+    FakeServices();
+    FakeServices(const FakeServices&) = delete;
+    FakeServices& operator=(const FakeServices&) = delete;
+    ~FakeServices();
+
+    TestFolder folder;
+    FakeMessages messages;
+    FakeScreen screen;
+    PosixFiles files;
+    FakeMachine machine;
+    FakeDesktop desktop;
+    FakePictureFiles pictures;
+    FakeStretch stretch;
+};
+
+} // namespace sprout
