@@ -20,7 +20,8 @@ struct BeatFacts {
     double OnsetSeconds = 0;
     double EndDb = 0;
     double Offset = 0;
-    double CentsOff = 0;      ///< 0 where the beat has no pitch
+    int Key = 0;              ///< the C on which it stands; 0 where it has no pitch
+    double CentsOff = 0;      ///< against that key
     std::uintmax_t Bytes = 0; ///< of its .wav
 };
 

@@ -14,7 +14,7 @@ constexpr double kRate = 44100;
 constexpr double kLoudnessOffset = -0.691; // of BS.1770: a 997 Hz sine at full scale reads -3.01
 
 constexpr int kLowestC = 24;
-constexpr int kHighestC = 96;
+constexpr int kHighestC = 108;
 
 struct Biquad {
     double b0, b1, b2, a1, a2;
