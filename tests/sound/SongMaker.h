@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "core/Shared.h"
 #include "core/Song.h"
@@ -52,9 +53,9 @@ inline Track& AddTrack()
     return song.Tracks.back();
 }
 
-inline std::int32_t AddTuneTrack(const Tune& tune)
+inline std::int32_t AddTuneTrack(Tune tune)
 {
-    AddTrack().TrackTune = tune;
+    AddTrack().TrackTune = std::move(tune);
     return Shared().Song.TrackCount;
 }
 
