@@ -133,7 +133,7 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b)
 
 bool BeginsIgnoringCase(std::string_view text, std::string_view prefix)
 {
-    return text.size() >= prefix.size() && EqualIgnoringCase(text.substr(0, prefix.size()), prefix);
+    return LowerCase(text).starts_with(LowerCase(prefix));
 }
 
 bool IsUtf8(std::string_view bytes)

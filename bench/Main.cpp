@@ -1,0 +1,268 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <benchmark/benchmark.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "BenchSounds.h"
+#include "Yardsticks.h"
+#include "core/Shared.h"
+#include "service/Messages.h"
+#include "service/Screen.h"
+#include "service/Services.h"
+#include "service/posix/PosixFiles.h"
+#include "service/stretch/StretchService.h"
+#include "songs/OpenSaveClass.h"
+#include "sound/Mixer.h"
+#include "sound/StepCache.h"
+#include "sound/StretchWave.h"
+#include "sound/TrackRender.h"
+#include "sound/TuneRender.h"
+#include "sound/WavOperations.h"
+
+namespace sprout {
+
+namespace {
+
+class LoudMessages : public Messages {
+public:
+    void MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/) override
+    {
+        std::fprintf(stderr, "%s: %s\n", std::string(title).c_str(), std::string(text).c_str());
+        std::exit(1); // NOLINT(concurrency-mt-unsafe): a benchmark of a failure measures nothing
+    }
+};
+
+class NoScreen : public Screen {
+public:
+    void ShowHourglass() override {}
+    void RestorePointer() override {}
+    void ShowProcessPic() override {}
+    void HideProcessPic() override {}
+    void ShowProgress(std::size_t /*done*/, std::size_t /*total*/) override {}
+    void EnableTuneNotFilledTimer() override {}
+};
+
+constexpr int kSteps = 16;
+
+/// The pitches of the sixteen steps: an octave down to nearly one up, none of them the beat's own.
+std::int32_t StepPitch(int number)
+{
+    return number <= kSteps / 2 ? number - kSteps / 2 - 1 : number - kSteps / 2;
+}
+
+std::vector<WaveData>& StepSounds()
+{
+    static std::vector<WaveData> sounds = [] {
+        std::vector<WaveData> made;
+        for (int i = 1; i <= kSteps; ++i)
+            made.push_back(PluckedSecond(i));
+        return made;
+    }();
+    return sounds;
+}
+
+/// The song's files lie where bench/compare says.
+std::filesystem::path SongFile()
+{
+    const char* named = std::getenv("SPROUT_BENCH_SONG"); // NOLINT(concurrency-mt-unsafe)
+    return named ? named : "bench.TqSng";
+}
+
+void Mix(benchmark::State& state)
+{
+    const std::vector<WaveData>& waves = FullSongWaves();
+    std::vector<WaveFilePlacement> placements;
+    for (int i = 1; i <= kMixedWaves; ++i)
+        placements.push_back({0, i});
+    for ([[maybe_unused]] auto _ : state)
+        benchmark::DoNotOptimize(MixWaves(waves, placements, 100, 0, 100));
+}
+
+/// What no mixer can do without: every sample read and added once.
+void PlainPass(benchmark::State& state)
+{
+    const std::vector<WaveData>& waves = FullSongWaves();
+    std::vector<std::int32_t> sums(2 * static_cast<std::size_t>(kFullSongFrames));
+    for ([[maybe_unused]] auto _ : state) {
+        for (int i = 1; i <= kMixedWaves; ++i) {
+            std::int32_t* sum = sums.data();
+            for (const Channel* channel :
+                 {&waves[static_cast<std::size_t>(i)].WavL, &waves[static_cast<std::size_t>(i)].WavR}) {
+                const std::span<const std::int16_t> samples = channel->Samples();
+                for (std::size_t s = 0; s < samples.size(); ++s)
+                    sum[s] += samples[s];
+                sum += samples.size();
+            }
+        }
+        benchmark::ClobberMemory();
+    }
+}
+
+void StepsOurs(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto _ : state)
+        for (int i = 1; i <= kSteps; ++i)
+            benchmark::DoNotOptimize(
+                StretchWave(StepSounds()[static_cast<std::size_t>(i - 1)], PitchFactor(StepPitch(i)), 1.0F));
+}
+
+template <auto Engine>
+void StepsPeer(benchmark::State& state)
+{
+    for ([[maybe_unused]] auto _ : state)
+        for (int i = 1; i <= kSteps; ++i)
+            benchmark::DoNotOptimize(Engine(StepSounds()[static_cast<std::size_t>(i - 1)].WavL.Samples(),
+                                            static_cast<double>(PitchFactor(StepPitch(i))), 1.0));
+}
+
+/// A tune of the sixteen steps, whose beats are in the song.
+Tune StepsTune()
+{
+    SongState& song = Shared().Song;
+    song = SongState();
+    Tune tune;
+    for (int i = 1; i <= kSteps; ++i) {
+        Beat beat;
+        beat.Name = "Beat " + std::to_string(i);
+        beat.Sound = StepSounds()[static_cast<std::size_t>(i - 1)];
+        beat.Loaded = true;
+        song.SongBeats.push_back(beat);
+        TuneStep step;
+        step.OnPos = 1;
+        step.BeatIndex = i;
+        step.PitchShift = StepPitch(i);
+        tune.Steps.push_back(step);
+    }
+    song.SongBeatCount = kSteps;
+    tune.StepCount = kSteps;
+    return tune;
+}
+
+/// The whole way of a tune's steps, on one thread or on all cores.
+template <std::size_t Threads>
+void StepsWholeWay(benchmark::State& state)
+{
+    const RenderThreads threads(Threads);
+    const Tune fresh = StepsTune();
+    for ([[maybe_unused]] auto _ : state) {
+        TheStepCache().Clear();
+        Tune tune = fresh;
+        RenderTrackSteps(tune);
+        benchmark::DoNotOptimize(tune);
+    }
+}
+
+void Load(benchmark::State& state)
+{
+    const std::filesystem::path file = SongFile();
+    for ([[maybe_unused]] auto _ : state) {
+        OpenSaveClass().Load_Song(file);
+        state.PauseTiming();
+        Shared().Song = SongState();
+        state.ResumeTiming();
+    }
+}
+
+void Save(benchmark::State& state)
+{
+    OpenSaveClass().Load_Song(SongFile());
+    const std::filesystem::path target = SongFile().native() + ".saved";
+    for ([[maybe_unused]] auto _ : state) {
+        state.PauseTiming();
+        std::filesystem::remove(target);
+        state.ResumeTiming();
+        OpenSaveClass(Flush::No).Save_Song(target);
+    }
+    std::filesystem::remove(target);
+}
+
+/// A line "name: n kB" of /proc/self/status, in bytes.
+std::int64_t StatusBytes(std::string_view name)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        std::int64_t kibibytes = 0;
+        if (word == name && status >> kibibytes)
+            return kibibytes * 1024;
+    }
+    return 0;
+}
+
+/// Prints the bytes that a mix of the full song needs at its peak above the loaded song.
+int PrintMemory()
+{
+    MakeFullSong();
+    std::ofstream("/proc/self/clear_refs") << "5"; // the peak begins anew
+    const std::int64_t before = StatusBytes("VmRSS:");
+    MixSong();
+    std::printf("%lld\n", static_cast<long long>(StatusBytes("VmHWM:") - before));
+    return Shared().Song.SongMix.Length >= kFullSongFrames ? 0 : 1;
+}
+
+int WriteWaves(const std::filesystem::path& folder)
+{
+    for (int i = 1; i <= kMixedWaves; ++i)
+        SaveWaveFile(FullSongWaves()[static_cast<std::size_t>(i)], folder / (std::to_string(i) + ".wav"));
+    return 0;
+}
+
+int WriteSong(const std::filesystem::path& file)
+{
+    constexpr std::int64_t songBytes = 60'000'000;
+    MakeLargeSong(songBytes);
+    OpenSaveClass(Flush::No).Save_Song(file);
+    return 0;
+}
+
+int RunBenchmarks(int argc, char** argv)
+{
+    const auto add = [](const char* name, void (*function)(benchmark::State&)) {
+        benchmark::RegisterBenchmark(name, function)->UseRealTime()->Unit(benchmark::kMillisecond);
+    };
+    add("mix", Mix);
+    add("plain-pass", PlainPass);
+    add("steps", StepsOurs);
+    add("rubberband", StepsPeer<RubberBandStretch>);
+    add("soundtouch", StepsPeer<SoundTouchStretch>);
+    add("steps-one-thread", StepsWholeWay<1>);
+    add("steps-all-cores", StepsWholeWay<0>);
+    add("load", Load);
+    add("save", Save);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
+
+int Run(int argc, char** argv)
+{
+    LoudMessages messages;
+    NoScreen screen;
+    PosixFiles files;
+    const std::unique_ptr<Stretch> stretch = MakeStretch();
+    TheServices() = {&messages, &screen, &files, nullptr, nullptr, nullptr, stretch.get()};
+    const std::vector<std::string_view> words(argv + 1, argv + argc);
+    if (words.size() == 1 && words[0] == "--memory")
+        return PrintMemory();
+    if (words.size() == 2 && words[0] == "--write-waves")
+        return WriteWaves(words[1]);
+    if (words.size() == 2 && words[0] == "--write-song")
+        return WriteSong(words[1]);
+    return RunBenchmarks(argc, argv);
+}
+
+} // namespace
+
+} // namespace sprout
+
+int main(int argc, char** argv)
+{
+    return sprout::Run(argc, argv);
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fuzz/FuzzSupport.h"
+
+#include "core/Errors.h"
+#include "tunes/TunOpnSavClass.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    using namespace sprout;
+    const FuzzRun run;
+    run.Write(Shared().UserStars / "input.TqSta", data, size);
+    Tune star;
+    star.Name = "input";
+    try {
+        LoadStarFile(star);
+    } catch (const RunTimeError&) {
+        return 0; // a number that is none goes to the caller
+    }
+    return 0;
+}

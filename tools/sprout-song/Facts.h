@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include "core/Song.h"
+#include "core/WaveData.h"
+
+namespace sprout {
+
+// What `sprout-song info` tells of each record, keys in the order in which a person reads them.
+
+using Facts = nlohmann::ordered_json;
+
+[[nodiscard]] Facts WaveFacts(const WaveData& wave);
+[[nodiscard]] Facts TuneFacts(const Tune& tune);
+[[nodiscard]] Facts SongFacts(const SongState& song);
+
+} // namespace sprout

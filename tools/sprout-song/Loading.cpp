@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sprout-song/Loading.h"
+
+#include <array>
+#include <exception>
+#include <fstream>
+#include <string>
+#include <utility>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "songs/OpenSaveClass.h"
+#include "tunes/TunOpnSavClass.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+struct KindMark {
+    FileKind kind;
+    std::string_view name;
+    std::string_view extension;
+    std::string_view firstBytes;
+};
+
+constexpr std::array kKinds = {
+    KindMark{FileKind::Song, "song", ".TqSng", "TqSng"}, KindMark{FileKind::Tune, "tune", ".TqTun", "TqTun"},
+    KindMark{FileKind::Star, "star", ".TqSta", "TqSta"}, KindMark{FileKind::Wave, "wave", ".wav", "RIFF"}};
+
+/// The engine takes a missing file for an empty one; a person who named it wants to know.
+bool IsThere(Session& session, const fs::path& path, std::string_view title)
+{
+    std::error_code error;
+    if (fs::is_directory(path, error))
+        session.Fail(title, PathText(path) + " is a folder.");
+    else if (!FileExists(path))
+        session.Fail(title, "The file " + PathText(path) + " was not found.");
+    else
+        return true;
+    return false;
+}
+
+} // namespace
+
+std::string_view KindName(FileKind kind)
+{
+    for (const KindMark& mark : kKinds)
+        if (mark.kind == kind)
+            return mark.name;
+    return {};
+}
+
+std::optional<FileKind> KindOfFile(const fs::path& path)
+{
+    for (const KindMark& mark : kKinds)
+        if (EqualIgnoringCase(path.extension().native(), mark.extension))
+            return mark.kind;
+    std::array<char, 5> first{};
+    std::ifstream(path, std::ios::binary).read(first.data(), first.size());
+    for (const KindMark& mark : kKinds)
+        if (std::string_view(first.data(), first.size()).starts_with(mark.firstBytes))
+            return mark.kind;
+    return std::nullopt;
+}
+
+bool LoadSong(Session& session, const fs::path& path)
+{
+    if (!IsThere(session, path, "Error Opening File"))
+        return false;
+    OpenSaveClass().Load_Song(path);
+    return Shared().Song.TrackCount != 0;
+}
+
+bool LoadTune(Session& session, const fs::path& path)
+{
+    if (!IsThere(session, path, "Error Opening File"))
+        return false;
+    const std::size_t before = session.messages.Shown().size();
+    TunOpnSavClass().Load_Tune(path);
+    if (session.NoMessageSince(before) && Shared().TuneClipboard.StepCount == 0)
+        session.Fail("Error Loading Tune File", "The file holds no tune that can be read.");
+    return session.NoMessageSince(before);
+}
+
+std::optional<Tune> LoadStar(Session& session, const fs::path& path)
+{
+    if (!IsThere(session, path, "Error Opening File"))
+        return std::nullopt;
+    const std::size_t before = session.messages.Shown().size();
+    const fs::path stars = std::exchange(Shared().UserStars, AsFolder(fs::absolute(path).parent_path()));
+    Tune star;
+    star.Name = BaseName(path);
+    try {
+        LoadStarFile(star);
+    } catch (const std::exception& error) {
+        session.Fail("Error Opening File", error.what());
+    }
+    Shared().UserStars = stars;
+    return session.NoMessageSince(before) ? std::optional(std::move(star)) : std::nullopt;
+}
+
+std::optional<WaveData> LoadWave(Session& session, const fs::path& path, ReadSamples samples)
+{
+    if (!IsThere(session, path, "Wave file load error"))
+        return std::nullopt;
+    const std::size_t before = session.messages.Shown().size();
+    WaveData wave = LoadWaveFile(path, samples);
+    return session.NoMessageSince(before) ? std::optional(std::move(wave)) : std::nullopt;
+}
+
+bool SaveWave(Session& session, const WaveData& wave, const fs::path& path)
+{
+    const std::size_t before = session.messages.Shown().size();
+    SaveWaveFile(wave, path);
+    return session.NoMessageSince(before);
+}
+
+} // namespace sprout

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "core/Song.h"
+#include "sound/WavOperations.h"
+#include "sprout-song/Session.h"
+
+namespace sprout {
+
+enum class FileKind { Song, Tune, Star, Wave };
+
+[[nodiscard]] std::string_view KindName(FileKind kind);
+
+/// The kind of a file by its extension, or, where that tells nothing, by its first bytes.
+[[nodiscard]] std::optional<FileKind> KindOfFile(const std::filesystem::path& path);
+
+// Each loads a file into the shared state and tells of every failure; false where there is nothing to work on.
+
+bool LoadSong(Session& session, const std::filesystem::path& path);
+/// Into `TuneClipboard`.
+bool LoadTune(Session& session, const std::filesystem::path& path);
+/// The star in the file's own folder.
+std::optional<Tune> LoadStar(Session& session, const std::filesystem::path& path);
+std::optional<WaveData> LoadWave(Session& session, const std::filesystem::path& path, ReadSamples samples);
+
+/// Writes a wave; false where a message came.
+bool SaveWave(Session& session, const WaveData& wave, const std::filesystem::path& path);
+
+} // namespace sprout

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <exception>
+#include <filesystem>
+#include <optional>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "songs/OpenSaveClass.h"
+#include "sound/TuneRender.h"
+#include "sprout-song/Commands.h"
+#include "sprout-song/Loading.h"
+#include "tunes/TunOpnSavClass.h"
+
+namespace sprout {
+
+namespace {
+
+/// A saved tune counts as rendered, so one that brings no sound, as the old form does, is rendered first.
+void SaveTune(const std::filesystem::path& path)
+{
+    Tune& tune = Shared().TuneClipboard;
+    if (!tune.TuneWaveValid)
+        RenderTuneCycle(tune);
+    TunOpnSavClass().Save_Tune(path);
+}
+
+} // namespace
+
+bool RunResave(Session& session, const Arguments& arguments)
+{
+    arguments.RequireWords(2, "resave IN OUT");
+    const std::filesystem::path in = arguments.Words()[0];
+    const std::filesystem::path out = arguments.Words()[1];
+    const std::optional<FileKind> kind = KindOfFile(in);
+    const bool isSong = kind == FileKind::Song;
+    if (!isSong && kind != FileKind::Tune) {
+        session.Fail("Error Opening File", PathText(in) + " is neither a song nor a tune.");
+        return false;
+    }
+    if (isSong ? !LoadSong(session, in) : !LoadTune(session, in))
+        return false;
+    try {
+        if (isSong)
+            OpenSaveClass().Save_Song(out);
+        else
+            SaveTune(out);
+    } catch (const std::exception& error) {
+        session.Fail("Error Saving File", error.what());
+        return false;
+    }
+    return true;
+}
+
+} // namespace sprout

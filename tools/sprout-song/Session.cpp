@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sprout-song/Session.h"
+
+#include <unistd.h>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Services.h"
+#include "service/stretch/StretchService.h"
+#include "sound/WavOperations.h"
+
+namespace sprout {
+
+void ToolMessages::MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/)
+{
+    shown.push_back({std::string(title), std::string(text)});
+    if (!title.empty())
+        err << title << ": ";
+    err << text << '\n';
+}
+
+void ToolScreen::ShowProgress(std::size_t done, std::size_t total)
+{
+    if (!watched || total < 2)
+        return;
+    err << "\rRendering sounds: " << done << " of " << total;
+    if (done == total)
+        err << "\r\033[K";
+    err.flush();
+}
+
+Session::Session(std::ostream& outStream, std::ostream& errStream, const std::filesystem::path& userRoot,
+                 bool beatsOutside)
+    : out(outStream), messages(errStream), screen(errStream, ::isatty(STDERR_FILENO) == 1), stretch(MakeStretch())
+{
+    TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get()};
+    Shared() = SharedState();
+    Shared().SongBeatsInside = !beatsOutside;
+    MakePlainPictures();
+    Shared().TestTone = MakeTestTone();
+    FindTempFolder();
+    SetUserRoot(userRoot.empty() ? desktop.DocumentsFolder() / kProductName : userRoot);
+}
+
+Session::~Session()
+{
+    TheServices() = Services();
+}
+
+} // namespace sprout

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "service/Messages.h"
+#include "service/Screen.h"
+#include "service/Stretch.h"
+#include "service/posix/PosixFiles.h"
+#include "service/posix/PosixMachine.h"
+#include "service/qt/QtPictureFiles.h"
+#include "service/xdg/XdgDesktop.h"
+
+namespace sprout {
+
+/// Writes each message as a line "TITLE: TEXT", and keeps it.
+class ToolMessages : public Messages {
+public:
+    struct Message {
+        std::string title;
+        std::string text;
+    };
+
+    explicit ToolMessages(std::ostream& stream) : err(stream) {}
+
+    void MessageBox(std::string_view title, std::string_view text, MessageIcon icon = MessageIcon::None) override;
+
+    [[nodiscard]] const std::vector<Message>& Shown() const { return shown; }
+
+private:
+    std::ostream& err;
+    std::vector<Message> shown;
+};
+
+/// Draws a progress line for long work where a person watches.
+class ToolScreen : public Screen {
+public:
+    ToolScreen(std::ostream& stream, bool terminal) : err(stream), watched(terminal) {}
+
+    void ShowHourglass() override {}
+    void RestorePointer() override {}
+    void ShowProcessPic() override {}
+    void HideProcessPic() override {}
+    void EnableTuneNotFilledTimer() override {}
+    void ShowProgress(std::size_t done, std::size_t total) override;
+
+private:
+    std::ostream& err;
+    bool watched;
+};
+
+/// The services and the shared state of one command.
+class Session {
+public:
+    /// userRoot: where Beats, Tunes, Stars and Songs lie; empty for the user's own folder.
+    Session(std::ostream& out, std::ostream& err, const std::filesystem::path& userRoot, bool beatsOutside);
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+    ~Session();
+
+    std::ostream& out;
+    ToolMessages messages;
+
+    /// Tells of a failure of the tool's own.
+    void Fail(std::string_view title, std::string_view text) { messages.MessageBox(title, text); }
+    /// True when no message came since the session, or the count, began.
+    [[nodiscard]] bool NoMessageSince(std::size_t count) const { return messages.Shown().size() == count; }
+
+private:
+    ToolScreen screen;
+    PosixFiles files;
+    PosixMachine machine;
+    XdgDesktop desktop;
+    QtPictureFiles pictures;
+    std::unique_ptr<Stretch> stretch;
+};
+
+} // namespace sprout
