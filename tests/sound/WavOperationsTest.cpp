@@ -389,7 +389,7 @@ TEST_F(WavFile, TheTestToneGlidesAndFades)
     const WaveData tone = MakeTestTone();
     ASSERT_EQ(tone.Length, 8820);
     EXPECT_EQ(tone.WavL[1], 0);
-    EXPECT_EQ(tone.WavL[2], 2122); // sin(2 pi 650 / 44100) of the amplitude, two frames of 8820 faded
+    EXPECT_EQ(tone.WavL[2], 2121); // sin(2 pi 650 / 44100) of the amplitude, two frames of 8820 faded
     EXPECT_EQ(tone.WavL[8820], 0);
     EXPECT_TRUE(tone.WavR == tone.WavL);
     std::int32_t crossings = 0;
