@@ -175,6 +175,16 @@ std::string TextFromStored(std::string_view bytes)
     return text;
 }
 
+std::string StoredText(std::string_view text)
+{
+    return TextFromStored(StoredBytes(text));
+}
+
+std::string NameKey(std::string_view name)
+{
+    return LowerCase(StoredText(name));
+}
+
 std::vector<std::string> Split(std::string_view text, char separator)
 {
     std::vector<std::string> parts;
