@@ -23,6 +23,9 @@ add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-Wno-restrict) # g++ 12 misfires on "text" + string
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    add_compile_options(-Wno-sign-conversion) # part of clang's -Wconversion, not of g++'s
+endif()
 
 # A list of sanitizers breaks at its comma inside a generator expression, so it goes straight into the options.
 if(SPROUT_SANITIZE)
