@@ -10,7 +10,6 @@ namespace sprout {
 
 namespace {
 
-constexpr double kRate = 44100;
 constexpr double kLoudnessOffset = -0.691; // of BS.1770: a 997 Hz sine at full scale reads -3.01
 
 constexpr std::size_t kPitchFrames = 4096; // long enough to tell cents, short enough to follow a vibrato
