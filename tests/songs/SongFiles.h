@@ -21,6 +21,7 @@ protected:
 
     static SongState& LoadBytes(const std::string& bytes)
     {
+        std::filesystem::remove(Path()); // a file that is emptied and written again waits for the disk
         WriteBytes(Path(), bytes);
         OpenSaveClass().Load_Song(Path());
         return Shared().Song;

@@ -61,6 +61,7 @@ protected:
 
     const Tune& LoadBytes(const std::string& bytes, TuneLoad mode = TuneLoad::All)
     {
+        fs::remove(Path()); // a file that is emptied and written again waits for the disk
         WriteBytes(Path(), bytes);
         TunOpnSavClass().Load_Tune(Path(), mode);
         return Shared().TuneClipboard;
