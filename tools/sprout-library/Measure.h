@@ -8,8 +8,9 @@
 
 namespace sprout {
 
-// Sounds here are channels of doubles at 44,100 Hz, full scale 1. Levels are in dB against full scale; silence is
+// Sounds here are channels of doubles at `kSoundRate`, full scale 1. Levels are in dB against full scale; silence is
 // `kSilenceDb`.
+inline constexpr double kSoundRate = 44100;
 inline constexpr double kSilenceDb = -200;
 
 /// The samples of a wave's channel, full scale 1.

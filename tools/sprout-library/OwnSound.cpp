@@ -9,12 +9,12 @@
 #include <utility>
 
 #include "core/Errors.h"
+#include "sprout-library/Measure.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr double kRate = 44100;
 constexpr double kTwoPi = 2 * std::numbers::pi;
 
 /// What a sound is made of at one moment; a fresh one for every sound.
@@ -28,7 +28,7 @@ struct Moment {
     [[nodiscard]] double Place() const { return seconds / length; }
     [[nodiscard]] double Sine() const { return std::sin(kTwoPi * phase); }
     /// Moves the main oscillator on at a frequency.
-    void Turn(double frequency) { phase += frequency / kRate; }
+    void Turn(double frequency) { phase += frequency / kSoundRate; }
     /// Noise from -1 to 1, the same in every run.
     double Noise()
     {
@@ -113,12 +113,12 @@ std::vector<double> OwnSound(std::string_view name, int key, double seconds)
     for (const auto& [voiceName, voice] : kVoices) {
         if (voiceName != name)
             continue;
-        std::vector<double> sound(static_cast<std::size_t>(seconds * kRate));
+        std::vector<double> sound(static_cast<std::size_t>(seconds * kSoundRate));
         Moment now;
         now.length = seconds;
         now.base = 440 * std::exp2((key - 69) / 12.0);
         for (std::size_t i = 0; i < sound.size(); ++i) {
-            now.seconds = static_cast<double>(i) / kRate;
+            now.seconds = static_cast<double>(i) / kSoundRate;
             sound[i] = voice(now);
         }
         return sound;

@@ -11,13 +11,11 @@
 namespace sprout {
 namespace {
 
-constexpr double kRate = 44100;
-
 std::vector<double> Sine(double frequency, double seconds, double amplitude)
 {
-    std::vector<double> sound(static_cast<std::size_t>(seconds * kRate));
+    std::vector<double> sound(static_cast<std::size_t>(seconds * kSoundRate));
     for (std::size_t i = 0; i < sound.size(); ++i)
-        sound[i] = amplitude * std::sin(2 * std::numbers::pi * frequency * static_cast<double>(i) / kRate);
+        sound[i] = amplitude * std::sin(2 * std::numbers::pi * frequency * static_cast<double>(i) / kSoundRate);
     return sound;
 }
 
