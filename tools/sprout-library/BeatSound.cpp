@@ -22,7 +22,7 @@ constexpr std::size_t kLeadFrames = 44; // kept before the onset, and faded in
 /// Takes away what lies below 25 Hz.
 void CutLowest(std::vector<double>& sound)
 {
-    const double pole = std::exp(-2 * std::numbers::pi * 25 / kSoundRate);
+    const double pole = std::exp(-2 * std::numbers::pi * 25 / kRate);
     double before = 0, state = 0;
     for (double& sample : sound) {
         state = sample - before + pole * state;
@@ -130,7 +130,7 @@ WaveData BeatSounds::Make(const BeatRecipe& recipe, const BeatFamily& family)
         sound = Raw(recipe, cents);
     }
     Trim(sound);
-    sound.resize(std::min(sound.size(), static_cast<std::size_t>(recipe.Seconds * kSoundRate)));
+    sound.resize(std::min(sound.size(), static_cast<std::size_t>(recipe.Seconds * kRate)));
     CutLowest(sound);
     FadeOut(sound);
     Level(sound, family.LoudnessDb);

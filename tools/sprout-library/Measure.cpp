@@ -25,7 +25,7 @@ struct Biquad {
 Biquad HeadShelf()
 {
     constexpr double frequency = 1681.974450955533, gainDb = 3.999843853973347, q = 0.7071752369554196;
-    const double k = std::tan(std::numbers::pi * frequency / kSoundRate);
+    const double k = std::tan(std::numbers::pi * frequency / kRate);
     const double high = std::pow(10.0, gainDb / 20);
     const double band = std::pow(high, 0.4996667741545416);
     const double a0 = 1 + k / q + k * k;
@@ -37,7 +37,7 @@ Biquad HeadShelf()
 Biquad LowCut()
 {
     constexpr double frequency = 38.13547087602444, q = 0.5003270373238773;
-    const double k = std::tan(std::numbers::pi * frequency / kSoundRate);
+    const double k = std::tan(std::numbers::pi * frequency / kRate);
     const double a0 = 1 + k / q + k * k;
     return {1, -2, 1, 2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0};
 }
@@ -109,7 +109,7 @@ double Correlation(std::span<const double> sound, std::size_t lag)
 /// Power of the sound at a frequency (Goertzel).
 double PowerAt(std::span<const double> sound, double frequency)
 {
-    const double turn = 2 * std::cos(2 * std::numbers::pi * frequency / kSoundRate);
+    const double turn = 2 * std::cos(2 * std::numbers::pi * frequency / kRate);
     double before = 0, last = 0;
     for (const double sample : sound) {
         const double next = sample + turn * last - before;
@@ -159,7 +159,7 @@ double TopNear(std::span<const double> sound, double lag)
 
 double PeriodOf(int key)
 {
-    return kSoundRate / (440 * std::pow(2.0, (key - 69) / 12.0));
+    return kRate / (440 * std::pow(2.0, (key - 69) / 12.0));
 }
 
 /// What matters is where most of the sound is: its loud first half second, behind the noise of the stroke.
@@ -246,7 +246,7 @@ int SoundingC(std::span<const double> sound)
 
 double CentsOff(std::span<const double> sound, int key)
 {
-    const double frequency = kSoundRate / PeriodOf(key);
+    const double frequency = kRate / PeriodOf(key);
     const std::span<const double> body = Body(sound);
     const std::size_t frame = std::min(kPitchFrames, body.size());
     double sum = 0, weight = 0;

@@ -8,9 +8,9 @@
 
 namespace sprout {
 
-// Sounds here are channels of doubles at `kSoundRate`, full scale 1. Levels are in dB against full scale; silence is
-// `kSilenceDb`.
-inline constexpr double kSoundRate = 44100;
+// Sounds here are channels of doubles at `kRate` frames a second, full scale 1. Levels are in dB against full scale;
+// silence is `kSilenceDb`.
+inline constexpr double kRate = 44100;
 inline constexpr double kSilenceDb = -200;
 
 /// The samples of a wave's channel, full scale 1.

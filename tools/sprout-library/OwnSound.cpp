@@ -11,6 +11,8 @@
 #include "core/Errors.h"
 #include "sprout-library/Measure.h"
 
+#include "sprout-library/Measure.h"
+
 namespace sprout {
 
 namespace {
@@ -28,7 +30,7 @@ struct Moment {
     [[nodiscard]] double Place() const { return seconds / length; }
     [[nodiscard]] double Sine() const { return std::sin(kTwoPi * phase); }
     /// Moves the main oscillator on at a frequency.
-    void Turn(double frequency) { phase += frequency / kSoundRate; }
+    void Turn(double frequency) { phase += frequency / kRate; }
     /// Noise from -1 to 1, the same in every run.
     double Noise()
     {
@@ -113,12 +115,12 @@ std::vector<double> OwnSound(std::string_view name, int key, double seconds)
     for (const auto& [voiceName, voice] : kVoices) {
         if (voiceName != name)
             continue;
-        std::vector<double> sound(static_cast<std::size_t>(seconds * kSoundRate));
+        std::vector<double> sound(static_cast<std::size_t>(seconds * kRate));
         Moment now;
         now.length = seconds;
         now.base = 440 * std::exp2((key - 69) / 12.0);
         for (std::size_t i = 0; i < sound.size(); ++i) {
-            now.seconds = static_cast<double>(i) / kSoundRate;
+            now.seconds = static_cast<double>(i) / kRate;
             sound[i] = voice(now);
         }
         return sound;

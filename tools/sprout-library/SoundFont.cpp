@@ -10,6 +10,8 @@
 #include "core/Errors.h"
 #include "sprout-library/Measure.h"
 
+#include "sprout-library/Measure.h"
+
 namespace sprout {
 
 namespace {
@@ -22,7 +24,7 @@ constexpr double kBendRangeCents = 200;
 
 int BlocksOf(double seconds)
 {
-    return static_cast<int>(std::ceil(seconds * kSoundRate / kBlockFrames));
+    return static_cast<int>(std::ceil(seconds * kRate / kBlockFrames));
 }
 
 } // namespace
@@ -53,7 +55,7 @@ SoundFont::SoundFont(const std::filesystem::path& file) : parts(std::make_unique
     fluid_set_log_function(FLUID_WARN, nullptr, nullptr);
     parts->settings.reset(new_fluid_settings());
     fluid_settings_t* settings = parts->settings.get();
-    fluid_settings_setnum(settings, "synth.sample-rate", kSoundRate);
+    fluid_settings_setnum(settings, "synth.sample-rate", kRate);
     fluid_settings_setnum(settings, "synth.gain", 1.0);
     fluid_settings_setint(settings, "synth.reverb.active", 0);
     fluid_settings_setint(settings, "synth.chorus.active", 0);

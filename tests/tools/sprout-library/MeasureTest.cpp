@@ -13,9 +13,9 @@ namespace {
 
 std::vector<double> Sine(double frequency, double seconds, double amplitude)
 {
-    std::vector<double> sound(static_cast<std::size_t>(seconds * kSoundRate));
+    std::vector<double> sound(static_cast<std::size_t>(seconds * kRate));
     for (std::size_t i = 0; i < sound.size(); ++i)
-        sound[i] = amplitude * std::sin(2 * std::numbers::pi * frequency * static_cast<double>(i) / kSoundRate);
+        sound[i] = amplitude * std::sin(2 * std::numbers::pi * frequency * static_cast<double>(i) / kRate);
     return sound;
 }
 
