@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "core/Errors.h"
+#include "sprout-library/Measure.h"
 
 #include "sprout-library/Measure.h"
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "core/Errors.h"
+#include "sprout-library/Measure.h"
 
 #include "sprout-library/Measure.h"
 
