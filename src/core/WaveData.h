@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] std::int16_t operator[](std::int32_t element) const
     {
-        return block ? block[static_cast<std::size_t>(element)] : std::int16_t{0};
+        return block ? block[element] : std::int16_t{0};
     }
 
     /// Frames 1 to `UpperBound()`; the first of them stands at index 0 of the span.

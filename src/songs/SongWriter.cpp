@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include <cstddef>
-#include <span>
+#include <cstdint>
 
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -46,10 +45,13 @@ void WriteTune(LongsWriter& data, const Tune& tune)
     data.Put(0);
 }
 
-void WriteTrack(LongsWriter& data, const Track& track)
+void WriteTrack(LongsWriter& data, const Track& track, std::int32_t songCells)
 {
     data.Put(track.TrackType);
-    data.PutMany(std::span(track.Painted).subspan(1));
+    // As many as the head tells, whatever the array holds: one too few and nothing behind it could be read again.
+    const auto held = static_cast<std::int64_t>(track.Painted.size());
+    for (std::int32_t cell = 1; cell <= songCells; ++cell)
+        data.Put(cell < held ? At(track.Painted, cell) : 0);
     if (track.IsMusic())
         WriteTune(data, track.TrackTune);
     else if (track.IsAudio())
@@ -71,7 +73,7 @@ LongsWriter Write_Song_Data(const SongState& song)
     for (std::int32_t i = 1; i <= song.SongBeatCount; ++i)
         WriteBeat(data, At(song.SongBeats, i));
     for (std::int32_t i = 1; i <= song.TrackCount; ++i)
-        WriteTrack(data, At(song.Tracks, i));
+        WriteTrack(data, At(song.Tracks, i), song.SongCells);
     data.Replace(0, data.Count() - 1);
     return data;
 }

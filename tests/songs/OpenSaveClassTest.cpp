@@ -11,7 +11,6 @@ namespace sprout {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::Test;
 using Texts = std::vector<std::string>;
 
 /// A song of one audio track of two cells.
@@ -190,10 +189,37 @@ TEST_F(OpenSaveClassTest, TooMuchSoundForOneFileLeavesTheOldOne)
     EXPECT_EQ(ReadBytes(Path()), before);
 }
 
-TEST_F(OpenSaveClassTest, ASavedFileIsFlushed)
+/// Notes how it was asked to write, and writes nothing.
+class NotedFiles : public Files {
+public:
+    void ReplaceFile(const fs::path&, std::span<const std::span<const std::byte>>, Flush flush) override
+    {
+        flushes.push_back(flush);
+    }
+    void DeleteStaleFile(const fs::path&) override {}
+
+    std::vector<Flush> flushes;
+};
+
+TEST_F(OpenSaveClassTest, SavedSongsAreOnTheDiskUnlessToldOtherwise)
 {
+    NotedFiles files;
+    TheServices().files = &files;
     OpenSaveClass().Save_Song(Path());
-    EXPECT_GT(fs::file_size(Path()), 2'560U * 4);
+    OpenSaveClass(Flush::No).Save_Song(Path());
+    EXPECT_EQ(files.flushes, (std::vector{Flush::Yes, Flush::No}));
+}
+
+TEST_F(OpenSaveClassTest, WritesAsManyCellsAsItTells)
+{
+    Shared().Song.Tracks[1].Painted = {0, 1};
+    Shared().Song.Tracks[2].Painted.clear();
+    OpenSaveClass(Flush::No).Save_Song(Path());
+    OpenSaveClass().Load_Song(Path());
+    ASSERT_EQ(Shared().Song.TrackCount, 2);
+    EXPECT_EQ(Shared().Song.Tracks[1].Painted.size(), 1281U);
+    EXPECT_EQ(Shared().Song.Tracks[1].Painted[1], 1);
+    EXPECT_TRUE(Told().empty());
 }
 
 } // namespace
