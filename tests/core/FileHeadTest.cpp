@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <regex>
 #include <span>
 #include <string>
@@ -84,6 +85,21 @@ TEST(FindHeadData, FindsTheByteBehindTheMark)
     EXPECT_EQ(Data("TqSng\r\ndata=0123456789"), std::optional<std::uint64_t>(12));
     EXPECT_EQ(Data("TqSng\r\nDatum=0123456789"), std::nullopt);
     EXPECT_EQ(Data("Data=0123456789"), std::nullopt);
+}
+
+TEST(FileHead, TakesItsTimeFromSourceDateEpochWhereItIsSet)
+{
+    ::setenv("SOURCE_DATE_EPOCH", "1600000000", 1);
+    const std::string head = FileHead("TqSng", " Sprout Song File");
+    const std::string again = FileHead("TqSng", " Sprout Song File");
+    ::setenv("SOURCE_DATE_EPOCH", "soon", 1);
+    const std::string wrong = FileHead("TqSng", " Sprout Song File");
+    ::unsetenv("SOURCE_DATE_EPOCH");
+    // The machine's zone may move hours and minutes, and the day by one.
+    EXPECT_NE(head.find("-Sep-2020/"), std::string::npos) << head;
+    EXPECT_NE(head.find(":40\r\n"), std::string::npos) << head;
+    EXPECT_EQ(head, again);
+    EXPECT_EQ(wrong.find("-Sep-2020/"), std::string::npos) << wrong;
 }
 
 } // namespace

@@ -10,8 +10,6 @@
 #include "core/Errors.h"
 #include "sprout-library/Measure.h"
 
-#include "sprout-library/Measure.h"
-
 namespace sprout {
 
 namespace {
