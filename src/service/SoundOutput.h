@@ -35,7 +35,7 @@ public:
     SoundObject() = default;
     SoundObject(const SoundObject&) = delete;
     SoundObject& operator=(const SoundObject&) = delete;
-    /// Closes the device.
+    /// Stops the sound and closes the device.
     virtual ~SoundObject() = default;
 
     /// Copies `pcm` to the beginning of the sound and stops it. Throws std::bad_alloc.
