@@ -17,6 +17,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "support/FakeSound.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -127,6 +128,8 @@ public:
     FakeDesktop desktop;
     FakePictureFiles pictures;
     FakeStretch stretch;
+    FakeSoundOutput sound;
+    FakePlayDisplay playDisplay;
 };
 
 } // namespace sprout
