@@ -7,6 +7,7 @@
 #include <exception>
 #include <span>
 
+#include "core/Errors.h"
 #include "core/Numbers.h"
 #include "service/Messages.h"
 #include "service/Services.h"
@@ -31,6 +32,7 @@ bool NothingWritten()
 /// Writes `wave` into the play buffer with a tail behind it.
 void FillPlayBuffer(const WaveData& wave, std::int32_t tailFrames)
 {
+    CheckFrames(wave);
     PlayModState& play = PlayShared();
     const std::int32_t frameBytes = FrameBytes(wave);
     const double frames = static_cast<double>(wave.Length) + tailFrames;
@@ -58,7 +60,7 @@ void PlayDllClass::Guarded(std::string_view errorTitle, Operation operation) con
     try {
         operation();
     } catch (const std::exception& error) {
-        Raise(error.what(), errorTitle);
+        Raise(ErrorText(error), errorTitle);
     }
 }
 
@@ -144,7 +146,7 @@ PlayResult PlayDllClass::WriteWaveMemo(const WaveData& wave, PlayNow playNow, Lo
     try {
         result = WriteAndPlay(wave, playNow, loop);
     } catch (const std::exception& error) {
-        Raise(error.what(), "Play Wave error");
+        Raise(ErrorText(error), "Play Wave error");
         SendStatus("Failed to play");
     }
     return result;
@@ -153,7 +155,7 @@ PlayResult PlayDllClass::WriteWaveMemo(const WaveData& wave, PlayNow playNow, Lo
 PlayResult PlayDllClass::WriteAndPlay(const WaveData& wave, PlayNow playNow, Loop loop)
 {
     SendStatus("Writing to Play Buffer");
-    if (wave.Length <= 0)
+    if (wave.Length == 0)
         return Refuse("Zero size wave found", playNow);
     if (!IsKnownFormat(wave))
         return Refuse("Format not Known to write wave file", playNow);

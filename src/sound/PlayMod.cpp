@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "core/Errors.h"
 #include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
@@ -46,7 +47,7 @@ void EnableSoundDriver()
             TellDriverFailed("");
     } catch (const std::exception& error) {
         play.SoundDriver = 0;
-        TellDriverFailed(error.what());
+        TellDriverFailed(ErrorText(error));
     }
 }
 

@@ -65,6 +65,14 @@ void SetWaveSizes(std::span<std::byte, kWaveHeadBytes> head, std::int32_t dataBy
     PutNumber(head, 40, 4, dataBytes);
 }
 
+void CheckFrames(const WaveData& wave)
+{
+    const bool holdsThem = wave.Length >= 0 && wave.WavL.UpperBound() >= wave.Length &&
+                           (wave.Channels == 1 || wave.WavR.UpperBound() >= wave.Length);
+    if (!holdsThem)
+        throw RunTimeError("The sound is shorter than it tells.");
+}
+
 void PackFrames(const WaveData& wave, std::int32_t firstFrame, std::span<std::byte> bytes)
 {
     const auto step = static_cast<std::size_t>(FrameBytes(wave));
@@ -73,8 +81,6 @@ void PackFrames(const WaveData& wave, std::int32_t firstFrame, std::span<std::by
     const std::size_t frames = bytes.size() / step;
     for (std::size_t which = 0; which < static_cast<std::size_t>(wave.Channels); ++which) {
         const std::span<const std::int16_t> samples = (which == 0 ? wave.WavL : wave.WavR).Samples();
-        if (samples.size() < first + frames)
-            throw RunTimeError("The wave holds less sound than its length tells.");
         const auto wanted = samples.subspan(first, frames);
         std::byte* out = bytes.data() + which * sampleBytes;
         if (wave.Bits == 8)

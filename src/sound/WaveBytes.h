@@ -43,11 +43,14 @@ inline constexpr std::size_t kWaveHeadBytes = 44;
 /// Fills in the sizes of a head that `dataBytes` of samples follow.
 void SetWaveSizes(std::span<std::byte, kWaveHeadBytes> head, std::int32_t dataBytes);
 
+/// Throws `RunTimeError` for a wave that holds fewer frames than its `Length` tells, as one that was read without them.
+void CheckFrames(const WaveData& wave);
+
 /// Writes the frames of `wave` from `firstFrame` (>= 1) on as a file holds them, as many as `bytes` has room for:
 /// interleaved, left first; 8 bits as sample + 128, 16 bits with the low byte first.
 ///
-/// Throws `RunTimeError` for an 8-bit sample outside -128..127 and for a wave that holds fewer samples than its
-/// `Length` tells; `bytes` is then partly written.
+/// All of them must be there. Throws `RunTimeError` for an 8-bit sample outside -128..127; `bytes` is then partly
+/// written.
 void PackFrames(const WaveData& wave, std::int32_t firstFrame, std::span<std::byte> bytes);
 
 } // namespace sprout

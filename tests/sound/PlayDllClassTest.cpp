@@ -187,6 +187,16 @@ TEST_F(PlayDllTest, ASampleBeyond8BitsEndsThePlayCallWithWords)
     EXPECT_EQ(sound.calls, Calls());
 }
 
+TEST_F(PlayDllTest, AWaveReadWithoutItsSamplesEndsThePlayCallWithWords)
+{
+    WaveData headOnly = CountingWave(2);
+    headOnly.Length = 300;
+    Listen();
+    EXPECT_EQ(Player().WriteWaveMemo(headOnly, PlayNow::Yes, Loop::No), PlayResult::Refused);
+    EXPECT_EQ(raised[1], "The sound is shorter than it tells.|Play Wave error");
+    EXPECT_TRUE(play.PlayBuffer.empty());
+}
+
 TEST_F(PlayDllTest, GetLastPlayedStreamIsASingle0BeforeTheFirstPlay)
 {
     EXPECT_EQ(Player().GetLastPlayedStream(), std::vector<std::int32_t>({0}));

@@ -53,12 +53,18 @@ TEST(PackFrames, RefusesASampleBeyond8Bits)
     EXPECT_THROW(PackFrames(MonoWave(8, 11025, {-129}), 1, bytes), RunTimeError);
 }
 
-TEST(PackFrames, RefusesAWaveWithFewerSamplesThanItTells)
+TEST(CheckFrames, RefusesAWaveWithFewerFramesThanItTells)
 {
+    EXPECT_NO_THROW(CheckFrames(CountingWave(3)));
     WaveData headOnly = CountingWave(2);
     headOnly.Length = 3;
-    std::vector<std::byte> bytes(12);
-    EXPECT_THROW(PackFrames(headOnly, 1, bytes), RunTimeError);
+    EXPECT_THROW(CheckFrames(headOnly), RunTimeError);
+    WaveData halfOnly = CountingWave(3);
+    halfOnly.WavR = Channel();
+    EXPECT_THROW(CheckFrames(halfOnly), RunTimeError);
+    WaveData negative = CountingWave(3);
+    negative.Length = -1;
+    EXPECT_THROW(CheckFrames(negative), RunTimeError);
 }
 
 } // namespace
