@@ -27,10 +27,19 @@ inline constexpr double kSilenceDb = -200;
 /// Integrated loudness of a wave in the program's format, LUFS, gated as ITU-R BS.1770 tells.
 [[nodiscard]] double LoudnessDb(const WaveData& wave);
 
-/// Cents by which the sound's period differs from that of `key`; looked for within 80 cents.
+/// A level and where it begins.
+struct Loud {
+    double Db = kSilenceDb; ///< LUFS
+    double Seconds = 0;     ///< from the start
+};
+
+/// The loudest second of a wave in the program's format, to a tenth of a second.
+[[nodiscard]] Loud LoudestSecond(const WaveData& wave);
+
+/// Cents by which the sound's pitch differs from that of `key`; looked for within 80 cents.
 ///
-/// The normalised autocorrelation over several periods is followed from the shortest lag to ever longer ones, each
-/// narrowing the search; the lag then spans about 40 ms.
+/// The mean, weighted by power, of where the first four partials have the tops of their spectra in frames of 93 ms of
+/// the sound's first half second.
 [[nodiscard]] double CentsOff(std::span<const double> sound, int key);
 
 /// The MIDI key of that C, from C1 to C7, on which the sound stands; 0 where it stands on none.
