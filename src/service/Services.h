@@ -8,7 +8,9 @@ class Files;
 class Machine;
 class Messages;
 class PictureFiles;
+class PlayDisplay;
 class Screen;
+class SoundOutput;
 class Stretch;
 
 /// The services that the program runs on. Whoever starts the program fills it once, before anything else; the objects
@@ -21,6 +23,8 @@ struct Services {
     Desktop* desktop = nullptr;
     PictureFiles* pictures = nullptr;
     Stretch* stretch = nullptr;
+    SoundOutput* sound = nullptr;
+    PlayDisplay* playDisplay = nullptr;
 };
 
 /// The one shared instance.

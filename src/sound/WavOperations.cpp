@@ -20,6 +20,7 @@
 #include "core/Text.h"
 #include "service/Messages.h"
 #include "service/Services.h"
+#include "sound/WaveBytes.h"
 
 namespace sprout {
 
@@ -47,16 +48,6 @@ struct Refusal {
 void Tell(std::string_view title, std::string_view text)
 {
     TheServices().messages->MessageBox(title, text);
-}
-
-bool KnownRate(std::int32_t rate)
-{
-    return rate == 11025 || rate == 22050 || rate == 44100;
-}
-
-bool KnownBits(std::int32_t bits)
-{
-    return bits == 8 || bits == 16;
 }
 
 char UpperLetter(std::byte letter)
@@ -100,16 +91,15 @@ WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::stri
 {
     WaveData wave;
     wave.Channels = ByteAt(source, kChannelsByte);
-    if (wave.Channels != 1 && wave.Channels != 2)
+    if (!IsKnownChannels(wave.Channels))
         throw Refusal{"Error Loading " + name, "Channal info invalid at byte location 23"};
     wave.Rate = Int32At(source, kRateByte);
-    if (!KnownRate(wave.Rate))
+    if (!IsKnownRate(wave.Rate))
         throw Refusal{"Failed Loading " + name, "Sampling rate (" + std::to_string(wave.Rate) + ") not supported"};
     wave.Bits = ByteAt(source, kBitsByte);
-    if (!KnownBits(wave.Bits))
+    if (!IsKnownBits(wave.Bits))
         throw Refusal{"Error Loading " + name, "Bits per sample not supported"};
-    const std::int32_t frameBytes = wave.Bits / 8 * wave.Channels;
-    wave.Length = RoundHalfEven(static_cast<double>(dataSize) / frameBytes);
+    wave.Length = RoundHalfEven(static_cast<double>(dataSize) / FrameBytes(wave));
     return wave;
 }
 
@@ -119,8 +109,7 @@ std::vector<std::byte> ReadSampleBytes(ByteSource& source, const WaveData& wave,
     if (wave.Length < 0)
         throw RunTimeError("The file tells a length below zero.");
     const std::uint64_t there = source.Size() - std::min(source.Size(), begin);
-    const std::uint64_t wanted =
-        static_cast<std::uint64_t>(wave.Length) * static_cast<std::uint64_t>(wave.Bits / 8 * wave.Channels);
+    const std::uint64_t wanted = static_cast<std::uint64_t>(wave.Length) * static_cast<std::uint64_t>(FrameBytes(wave));
     if (wanted > there && wave.Length > kMostPromisedFrames)
         throw RunTimeError("The file promises more sound than it holds.");
     std::vector<std::byte> bytes(static_cast<std::size_t>(wanted));
@@ -176,12 +165,10 @@ public:
             throw RunTimeError("The file " + PathText(path) + " could not be made.");
     }
 
-    void Text(std::string_view text) { Bytes(text.data(), text.size()); }
-    void Int16(std::int32_t value) { Bytes(reinterpret_cast<const char*>(&value), 2); }
-    void Int32(std::int32_t value) { Bytes(reinterpret_cast<const char*>(&value), 4); }
-    void Bytes(const char* bytes, std::size_t count)
+    void Int32(std::int32_t value) { Bytes(std::as_bytes(std::span(&value, 1))); }
+    void Bytes(std::span<const std::byte> bytes)
     {
-        file.write(bytes, static_cast<std::streamsize>(count));
+        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
         Check();
     }
     void MoveTo(std::streamoff place) { file.seekp(place); }
@@ -201,68 +188,27 @@ private:
     std::ofstream file;
 };
 
-void WriteHead(WaveWriter& writer, const WaveData& wave)
-{
-    const std::int32_t blockAlign = wave.Channels * wave.Bits / 8;
-    writer.Text("RIFF");
-    writer.Int32(0);
-    writer.Text("WAVEfmt ");
-    writer.Int32(16);
-    writer.Int16(1);
-    writer.Int16(wave.Channels);
-    writer.Int32(wave.Rate);
-    writer.Int32(blockAlign * wave.Rate);
-    writer.Int16(blockAlign);
-    writer.Int16(wave.Bits);
-    writer.Text("data");
-    writer.Int32(0);
-}
-
-void AppendSample(std::vector<char>& bytes, std::int16_t sample, std::int32_t bits)
-{
-    if (bits == 16) {
-        bytes.push_back(static_cast<char>(sample & 0xFF));
-        bytes.push_back(static_cast<char>((sample >> 8) & 0xFF));
-        return;
-    }
-    if (sample < -128 || sample > 127)
-        throw RunTimeError("A sample does not fit into 8 bits.");
-    bytes.push_back(static_cast<char>(sample + 128));
-}
-
 void WriteSamples(WaveWriter& writer, const WaveData& wave)
 {
     constexpr std::int32_t blockFrames = 16384;
-    std::vector<char> bytes;
+    std::vector<std::byte> bytes(static_cast<std::size_t>(blockFrames * FrameBytes(wave)));
     for (std::int32_t first = 1; first <= wave.Length; first += blockFrames) {
-        bytes.clear();
-        const std::int32_t last = std::min(wave.Length, first + blockFrames - 1);
-        for (std::int32_t frame = first; frame <= last; ++frame) {
-            AppendSample(bytes, wave.WavL[frame], wave.Bits);
-            if (wave.Channels == 2)
-                AppendSample(bytes, wave.WavR[frame], wave.Bits);
-        }
-        writer.Bytes(bytes.data(), bytes.size());
+        const std::int32_t frames = std::min(wave.Length - first + 1, blockFrames);
+        const auto block = std::span(bytes).first(static_cast<std::size_t>(frames * FrameBytes(wave)));
+        PackFrames(wave, first, block);
+        writer.Bytes(block);
     }
-}
-
-/// False for a wave that was read without its samples.
-bool SamplesAreThere(const WaveData& wave)
-{
-    return wave.Length > 0 && wave.WavL.UpperBound() >= wave.Length &&
-           (wave.Channels == 1 || wave.WavR.UpperBound() >= wave.Length);
 }
 
 void WriteWave(const WaveData& wave, const fs::path& path)
 {
-    if (!SamplesAreThere(wave))
-        throw RunTimeError("The sound is shorter than it tells.");
-    const double dataBytes = static_cast<double>(wave.Bits / 8 * wave.Channels) * wave.Length;
+    CheckFrames(wave);
+    const double dataBytes = static_cast<double>(FrameBytes(wave)) * wave.Length;
     const std::int32_t dataSize = RoundHalfEven(dataBytes);
     const std::int32_t riffSize = RoundHalfEven(dataBytes + 36);
     DeleteFile(path);
     WaveWriter writer(path);
-    WriteHead(writer, wave);
+    writer.Bytes(WaveHead(wave));
     WriteSamples(writer, wave);
     writer.MoveTo(40);
     writer.Int32(dataSize);
@@ -315,7 +261,7 @@ void SaveWaveFile(const WaveData& wave, const fs::path& path)
         return Tell("", "No file name given to write");
     if (wave.Length == 0)
         return Tell("Writing wave error", "Silent or Zero size wave found");
-    if ((wave.Channels != 1 && wave.Channels != 2) || !KnownRate(wave.Rate) || !KnownBits(wave.Bits))
+    if (!IsKnownFormat(wave))
         return Tell("", "Format not Known to write wave file");
     try {
         WriteWave(wave, path);

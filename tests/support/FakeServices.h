@@ -19,6 +19,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "support/FakeSound.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -131,6 +132,8 @@ public:
     FakeDesktop desktop;
     FakePictureFiles pictures;
     FakeStretch stretch;
+    FakeSoundOutput sound;
+    FakePlayDisplay playDisplay;
 };
 
 } // namespace sprout

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace sprout {
+
+/// What the windows show of a play. All calls come from the interface thread.
+class PlayDisplay {
+public:
+    PlayDisplay() = default;
+    PlayDisplay(const PlayDisplay&) = delete;
+    PlayDisplay& operator=(const PlayDisplay&) = delete;
+    virtual ~PlayDisplay() = default;
+
+    /// A number above 0 that stands for the main window.
+    [[nodiscard]] virtual std::int32_t MainWindowHandle() const = 0;
+    /// Puts a text on the main window's `SoundStatusLbl`.
+    virtual void ShowSoundStatus(std::string_view text) = 0;
+    /// Switches on the main window's `PlayPosTimer`, which follows the play and finds its end.
+    virtual void EnablePlayPosTimer() = 0;
+    /// Lets the tune window show the tune whose sound has begun.
+    virtual void UpdateThisTune() = 0;
+};
+
+} // namespace sprout

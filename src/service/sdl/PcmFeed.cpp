@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/sdl/PcmFeed.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <thread>
+
+namespace sprout {
+
+namespace {
+
+constexpr std::int64_t kUnknown = std::numeric_limits<std::int64_t>::min();
+constexpr double kNanosecondsASecond = 1e9;
+
+std::int64_t Nanoseconds(PcmFeed::Time time)
+{
+    return std::chrono::duration_cast<std::chrono::nanoseconds>(time.time_since_epoch()).count();
+}
+
+std::byte Silence(const SoundFormat& format)
+{
+    return format.Bits == 8 ? std::byte{0x80} : std::byte{0};
+}
+
+} // namespace
+
+PcmFeed::PcmFeed(const SoundFormat& soundFormat, std::int64_t queued)
+    : format(soundFormat), queuedFrames(queued), timeOfFrame0(kUnknown)
+{
+}
+
+void PcmFeed::Load(std::span<const std::byte> pcm, std::size_t soundBytes)
+{
+    Stop();
+    const std::size_t whole = soundBytes - soundBytes % static_cast<std::size_t>(format.FrameBytes());
+    sound.reserve(whole);
+    const auto taken = pcm.first(std::min(pcm.size(), whole));
+    sound.assign(taken.begin(), taken.end());
+    sound.resize(whole, Silence(format));
+    place = 0;
+    framesHanded = 0;
+    framesHeard = 0;
+}
+
+void PcmFeed::Start(StartFrom from, Loop loop)
+{
+    Stop();
+    if (from == StartFrom::Beginning) {
+        place = 0;
+        framesHanded = 0;
+        framesHeard = 0;
+    }
+    ended = false;
+    looping = loop == Loop::Yes;
+    timeOfFrame0 = kUnknown;
+    playing = !sound.empty();
+}
+
+void PcmFeed::Stop()
+{
+    playing = false;
+    while (filling)
+        std::this_thread::yield();
+}
+
+void PcmFeed::SetLooping(Loop loop)
+{
+    looping = loop == Loop::Yes;
+}
+
+SoundPlace PcmFeed::PlaceAt(Time now)
+{
+    const bool plays = playing;
+    const std::int64_t origin = timeOfFrame0;
+    const std::int64_t handed = framesHanded;
+    if (origin != kUnknown) {
+        const double seconds = static_cast<double>(Nanoseconds(now) - origin) / kNanosecondsASecond;
+        const auto heard = static_cast<std::int64_t>(seconds * format.Rate);
+        framesHeard = std::max(framesHeard, std::min(heard, handed - 1));
+    }
+    const auto soundFrames = static_cast<std::int64_t>(sound.size()) / format.FrameBytes();
+    return {static_cast<std::int32_t>(soundFrames == 0 ? 0 : framesHeard % soundFrames), plays};
+}
+
+void PcmFeed::Fill(std::span<std::byte> out, Time now)
+{
+    filling = true;
+    const std::size_t filled = playing ? FillFromSound(out, now) : 0;
+    filling = false;
+    const auto rest = out.subspan(filled);
+    std::fill(rest.begin(), rest.end(), Silence(format));
+}
+
+std::size_t PcmFeed::FillFromSound(std::span<std::byte> out, Time now)
+{
+    if (ended || (place == sound.size() && !looping)) {
+        playing = false;
+        return 0;
+    }
+    const std::int64_t handed = framesHanded;
+    const double aheadSeconds = static_cast<double>(handed - queuedFrames) / format.Rate;
+    timeOfFrame0 = Nanoseconds(now) - static_cast<std::int64_t>(aheadSeconds * kNanosecondsASecond);
+    std::size_t filled = 0;
+    while (filled < out.size() && !ended) {
+        if (place == sound.size() && looping)
+            place = 0;
+        const std::size_t bytes = std::min(out.size() - filled, sound.size() - place);
+        std::memcpy(out.data() + filled, sound.data() + place, bytes);
+        place += bytes;
+        filled += bytes;
+        ended = bytes == 0;
+    }
+    framesHanded = handed + static_cast<std::int64_t>(filled) / format.FrameBytes();
+    return filled;
+}
+
+} // namespace sprout

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <atomic>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+#include <vector>
+
+#include "service/SoundOutput.h"
+
+namespace sprout {
+
+/// What a device takes its samples from: a copy of the sound, the place in it, and the time at which it is heard.
+///
+/// `Fill` runs in the device's thread; it takes no lock, waits for nothing and allocates nothing. All other operations
+/// belong to one other thread; those that change the sound wait at most for a `Fill` that is under way.
+class PcmFeed {
+public:
+    using Time = std::chrono::steady_clock::time_point;
+
+    /// queuedFrames: how many frames the device still holds, unheard, when it asks for more.
+    PcmFeed(const SoundFormat& format, std::int64_t queuedFrames);
+
+    /// Stops, and makes the sound `pcm`, which silence or a cut brings to `soundBytes`.
+    void Load(std::span<const std::byte> pcm, std::size_t soundBytes);
+    void Start(StartFrom from, Loop loop);
+    /// Keeps the place: what was handed over is heard to its end, and `StartFrom::WhereItStopped` goes on behind it.
+    void Stop();
+    void SetLooping(Loop loop);
+    /// Where the sound is heard at `now`. It plays until the device asks for more after it took the last frame.
+    [[nodiscard]] SoundPlace PlaceAt(Time now);
+
+    /// Hands the next frames of the sound over, silence where there are none. now: when the device asked.
+    void Fill(std::span<std::byte> out, Time now);
+
+private:
+    [[nodiscard]] std::size_t FillFromSound(std::span<std::byte> out, Time now);
+
+    const SoundFormat format;
+    const std::int64_t queuedFrames;
+
+    // Changed while the device takes nothing from the sound.
+    std::vector<std::byte> sound;
+    std::size_t place = 0; // byte that is handed over next
+    bool ended = false;    // silence followed the last frame, so that nothing may go on without a gap
+
+    // The two threads' say: `playing` is looked at after `filling` is set, and the other way round, so that one of
+    // them always sees the other.
+    std::atomic<bool> playing = false;
+    std::atomic<bool> filling = false;
+
+    std::atomic<bool> looping = false;
+    // Frames since the beginning, every pass of a loop counted.
+    std::atomic<std::int64_t> framesHanded = 0;
+    // When frame 0 would have been heard, in nanoseconds of the clock; `kUnknown` before the first `Fill`.
+    std::atomic<std::int64_t> timeOfFrame0;
+    std::int64_t framesHeard = 0; // the cursor never goes back
+};
+
+} // namespace sprout

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "service/SoundOutput.h"
+
+namespace sprout {
+
+/// Sound output through SDL: PipeWire, PulseAudio or ALSA, whichever the machine has.
+///
+/// SDL's audio is started by the first question to it. Where no device opens it is started anew, so that a sound server
+/// or a device that came later is found.
+class SdlSoundOutput : public SoundOutput {
+public:
+    SdlSoundOutput() = default;
+    ~SdlSoundOutput() override;
+
+    [[nodiscard]] std::int32_t SoundDeviceCount() override;
+    /// Keeps the device of `old` where it is alive and has the same format.
+    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                        std::int32_t bufferBytes) override;
+
+private:
+    bool StartAudio();
+    void StopAudio();
+
+    bool audioRuns = false;
+};
+
+} // namespace sprout

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// play_wave FILE.wav: plays the file each time a line comes on standard input, and tells of it on standard output:
+// "begun" or "failed", then "ended". Ends at the end of its input.
+#include <chrono>
+#include <iostream>
+#include <string>
+#include <thread>
+
+#include "service/Messages.h"
+#include "service/PlayDisplay.h"
+#include "service/Services.h"
+#include "service/posix/PosixFiles.h"
+#include "service/sdl/SdlSoundOutput.h"
+#include "sound/PlayMod.h"
+#include "sound/WavOperations.h"
+
+namespace sprout {
+namespace {
+
+class PrintedMessages : public Messages {
+public:
+    void MessageBox(std::string_view title, std::string_view text, MessageIcon) override
+    {
+        std::cerr << title << ": " << text << std::endl;
+    }
+};
+
+class NoDisplay : public PlayDisplay {
+public:
+    [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
+    void ShowSoundStatus(std::string_view) override {}
+    void EnablePlayPosTimer() override {}
+    void UpdateThisTune() override {}
+};
+
+void PlayToItsEnd(const WaveData& wave)
+{
+    PlayWaveStatus(wave, "Playing", Loop::No);
+    const bool begun = PlayShared().PlayState == PlayState::Playing;
+    std::cout << (begun ? "begun" : "failed") << std::endl;
+    while (PlayShared().PlayState == PlayState::Playing) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5)); // as the window's timer does
+        Player().UpdatePlayPosition();
+    }
+    if (begun)
+        std::cout << "ended" << std::endl;
+}
+
+void Run(const char* file)
+{
+    const WaveData wave = LoadWaveFile(file);
+    SetSoundDriver(true);
+    for (std::string line; std::getline(std::cin, line);)
+        PlayToItsEnd(wave);
+    ReleasePlayer();
+}
+
+} // namespace
+} // namespace sprout
+
+int main(int argc, char** argv)
+{
+    if (argc != 2)
+        return 2;
+    sprout::PrintedMessages messages;
+    sprout::PosixFiles files;
+    sprout::SdlSoundOutput sound;
+    sprout::NoDisplay display;
+    sprout::Services& services = sprout::TheServices();
+    services.messages = &messages;
+    services.files = &files;
+    services.sound = &sound;
+    services.playDisplay = &display;
+    sprout::Run(argv[1]);
+    return 0;
+}

@@ -1,0 +1,322 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/sdl/SdlSoundOutput.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <thread>
+#include <vector>
+
+#include "support/TestFolder.h"
+
+namespace sprout {
+namespace {
+
+using Bytes = std::vector<std::byte>;
+using Clock = std::chrono::steady_clock;
+
+std::byte Silence(const SoundFormat& format)
+{
+    return format.Bits == 8 ? std::byte{0x80} : std::byte{0};
+}
+
+/// Samples of which no byte is silent, different enough that one frame is not taken for another.
+Bytes Samples(const SoundFormat& format, int frames)
+{
+    Bytes bytes;
+    unsigned value = 1;
+    for (int i = 0; i < frames * format.FrameBytes(); ++i) {
+        value = value * 1103515245 + 12345;
+        bytes.push_back(static_cast<std::byte>(1 + (value >> 16) % 127));
+    }
+    return bytes;
+}
+
+/// True as soon as `condition` holds; false if it does not come true in time.
+bool Comes(const std::function<bool()>& condition)
+{
+    const auto deadline = Clock::now() + std::chrono::seconds(30);
+    while (!condition()) {
+        if (Clock::now() > deadline)
+            return false;
+        std::this_thread::yield();
+    }
+    return true;
+}
+
+/// A sound of `samples` that is open and silent.
+SoundHandle Opened(SdlSoundOutput& output, const SoundFormat& format, const Bytes& samples, SoundHandle old = nullptr)
+{
+    SoundHandle sound = output.Service02(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
+    if (sound)
+        sound->Service06(samples);
+    return sound;
+}
+
+class SdlTest : public ::testing::Test {
+protected:
+    explicit SdlTest(const char* driver) { setenv("SDL_AUDIODRIVER", driver, 1); }
+    ~SdlTest() override { unsetenv("SDL_AUDIODRIVER"); }
+};
+
+/// A device that plays at the speed of the clock, and nobody hears it.
+class SdlDummyTest : public SdlTest {
+protected:
+    SdlDummyTest() : SdlTest("dummy") {}
+
+    SdlSoundOutput output;
+    const SoundFormat format;
+};
+
+/// A device that writes what it plays into a file, as fast as it can.
+class SdlDiskTest : public SdlTest {
+protected:
+    SdlDiskTest() : SdlTest("disk")
+    {
+        setenv("SDL_DISKAUDIOFILE", file.c_str(), 1);
+        setenv("SDL_DISKAUDIODELAY", "0", 1);
+    }
+    ~SdlDiskTest() override
+    {
+        unsetenv("SDL_DISKAUDIOFILE");
+        unsetenv("SDL_DISKAUDIODELAY");
+    }
+
+    [[nodiscard]] bool FileGrows(std::uintmax_t byBytes) const
+    {
+        const auto before = std::filesystem::file_size(file);
+        return Comes([&] { return std::filesystem::file_size(file) >= before + byBytes; });
+    }
+
+    [[nodiscard]] Bytes Played() const
+    {
+        const std::string text = ReadBytes(file);
+        const auto* bytes = reinterpret_cast<const std::byte*>(text.data());
+        return {bytes, bytes + text.size()};
+    }
+
+    /// What was played, without the silence ahead and behind.
+    [[nodiscard]] Bytes Sounded(const SoundFormat& format) const
+    {
+        const Bytes all = Played();
+        const auto sounds = [silence = Silence(format)](std::byte byte) { return byte != silence; };
+        const auto first = std::find_if(all.begin(), all.end(), sounds);
+        const auto last = std::find_if(all.rbegin(), all.rend(), sounds).base();
+        return first < last ? Bytes(first, last) : Bytes();
+    }
+
+    TestFolder folder;
+    const std::string file = folder.Path() / "played.raw";
+    SdlSoundOutput output;
+};
+
+bool Ends(const SoundHandle& sound)
+{
+    return Comes([&] { return !sound->Service07().Playing; });
+}
+
+Bytes Repeated(const Bytes& samples, std::size_t bytes)
+{
+    Bytes repeated;
+    for (std::size_t i = 0; i < bytes; ++i)
+        repeated.push_back(samples[i % samples.size()]);
+    return repeated;
+}
+
+TEST_F(SdlDiskTest, EveryFormatComesOutBitExact)
+{
+    for (const std::int32_t rate : {44100, 22050, 11025})
+        for (const std::int32_t bits : {8, 16})
+            for (const std::int32_t channels : {1, 2}) {
+                SCOPED_TRACE(std::to_string(rate) + " " + std::to_string(bits) + " " + std::to_string(channels));
+                const SoundFormat format{channels, rate, bits};
+                const Bytes samples = Samples(format, 5001);
+                SoundHandle sound = Opened(output, format, samples);
+                ASSERT_TRUE(sound);
+                sound->Service04(StartFrom::Beginning, Loop::No);
+                EXPECT_TRUE(Ends(sound));
+                sound.reset();
+                EXPECT_EQ(Sounded(format), samples);
+            }
+}
+
+TEST_F(SdlDiskTest, ALoopHasNoGap)
+{
+    const SoundFormat format;
+    const Bytes samples = Samples(format, 1000);
+    SoundHandle sound = Opened(output, format, samples);
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(FileGrows(20 * samples.size()));
+    EXPECT_TRUE(sound->Service07().Playing);
+    sound.reset();
+    const Bytes sounded = Sounded(format);
+    EXPECT_GT(sounded.size(), 10 * samples.size());
+    EXPECT_EQ(sounded, Repeated(samples, sounded.size()));
+}
+
+TEST_F(SdlDiskTest, ALoopSwitchedOffEndsWithAWholePass)
+{
+    const SoundFormat format;
+    const Bytes samples = Samples(format, 1000);
+    SoundHandle sound = Opened(output, format, samples);
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(FileGrows(10 * samples.size()));
+    sound->Service09(Loop::No);
+    EXPECT_TRUE(Ends(sound));
+    sound.reset();
+    const Bytes sounded = Sounded(format);
+    EXPECT_EQ(sounded.size() % samples.size(), 0U);
+    EXPECT_EQ(sounded, Repeated(samples, sounded.size()));
+}
+
+TEST_F(SdlDiskTest, APauseIsSilentAndLosesNoFrame)
+{
+    const SoundFormat format;
+    const Bytes samples = Samples(format, 1001);
+    SoundHandle sound = Opened(output, format, samples);
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(FileGrows(10 * samples.size()));
+    sound->Service05();
+    EXPECT_TRUE(FileGrows(10 * samples.size()));
+    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    EXPECT_TRUE(Ends(sound));
+    sound.reset();
+
+    Bytes sounded = Sounded(format);
+    const auto silent = std::count(sounded.begin(), sounded.end(), std::byte{0});
+    EXPECT_GE(silent, 5 * static_cast<std::ptrdiff_t>(samples.size()));
+    sounded.erase(std::remove(sounded.begin(), sounded.end(), std::byte{0}), sounded.end());
+    EXPECT_EQ(sounded.size() % samples.size(), 0U);
+    EXPECT_EQ(sounded, Repeated(samples, sounded.size()));
+}
+
+TEST_F(SdlDiskTest, TheNextSoundOnTheSameDeviceCutsTheFirstOff)
+{
+    const SoundFormat format;
+    SoundHandle sound = Opened(output, format, Samples(format, 500));
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(FileGrows(10000));
+    Bytes samples = Samples(format, 3000);
+    std::reverse(samples.begin(), samples.end());
+    sound = Opened(output, format, samples, std::move(sound));
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Ends(sound));
+    sound.reset();
+    const Bytes sounded = Sounded(format);
+    ASSERT_GT(sounded.size(), samples.size());
+    EXPECT_TRUE(std::equal(samples.rbegin(), samples.rend(), sounded.rbegin()));
+}
+
+TEST_F(SdlDummyTest, ListsItsOneDevice)
+{
+    EXPECT_EQ(output.SoundDeviceCount(), 1);
+}
+
+TEST_F(SdlDummyTest, TheCursorFollowsTheSoundToItsEnd)
+{
+    SoundHandle sound = Opened(output, format, Samples(format, 8820)); // 200 ms
+    ASSERT_TRUE(sound);
+    const auto begun = Clock::now();
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    std::int32_t cursor = 0;
+    bool goesBack = false;
+    EXPECT_TRUE(Comes([&] {
+        const SoundPlace place = sound->Service07();
+        goesBack = goesBack || place.Cursor < cursor;
+        cursor = place.Cursor;
+        return !place.Playing;
+    }));
+    EXPECT_FALSE(goesBack);
+    EXPECT_GT(cursor, 8820 / 2);
+    EXPECT_LT(cursor, 8820);
+    EXPECT_GT(Clock::now() - begun, std::chrono::milliseconds(100));
+}
+
+TEST_F(SdlDummyTest, AStopIsKnownAtOnce)
+{
+    SoundHandle sound = Opened(output, format, Samples(format, 1000));
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
+    sound->Service05();
+    EXPECT_FALSE(sound->Service07().Playing);
+}
+
+TEST_F(SdlDummyTest, ALoopGoesOnUntilItIsSwitchedOff)
+{
+    SoundHandle sound = Opened(output, format, Samples(format, 2000));
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    std::int32_t cursor = 0;
+    EXPECT_TRUE(Comes([&] {
+        const std::int32_t before = std::exchange(cursor, sound->Service07().Cursor);
+        return cursor < before;
+    }));
+    EXPECT_TRUE(sound->Service07().Playing);
+    sound->Service09(Loop::No);
+    EXPECT_TRUE(Ends(sound));
+}
+
+TEST_F(SdlDummyTest, ASoundOfTheSameFormatKeepsTheDevice)
+{
+    SoundHandle sound = Opened(output, format, Samples(format, 100));
+    const SoundObject* first = sound.get();
+    sound = Opened(output, format, Samples(format, 200), std::move(sound));
+    EXPECT_EQ(sound.get(), first);
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Ends(sound));
+}
+
+TEST_F(SdlDummyTest, AnotherFormatOpensTheDeviceAgain)
+{
+    SoundHandle sound = Opened(output, format, Samples(format, 100));
+    const SoundFormat other{1, 11025, 8};
+    sound = Opened(output, other, Samples(other, 1000), std::move(sound));
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(sound->Service07().Playing);
+    EXPECT_TRUE(Ends(sound));
+}
+
+TEST_F(SdlDummyTest, SignalsStillEndTheProgram)
+{
+    ASSERT_EQ(output.SoundDeviceCount(), 1);
+    for (const int number : {SIGINT, SIGTERM}) {
+        struct sigaction action = {};
+        ASSERT_EQ(sigaction(number, nullptr, &action), 0);
+        EXPECT_EQ(action.sa_handler, SIG_DFL) << number;
+    }
+}
+
+/// A machine without sound.
+class SdlNoSoundTest : public SdlTest {
+protected:
+    SdlNoSoundTest() : SdlTest("none of SDL's") {}
+
+    SdlSoundOutput output;
+};
+
+TEST_F(SdlNoSoundTest, ListsNoDeviceAndOpensNone)
+{
+    EXPECT_EQ(output.SoundDeviceCount(), 0);
+    EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+}
+
+TEST_F(SdlNoSoundTest, ADeviceThatComesLaterIsFound)
+{
+    EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    setenv("SDL_AUDIODRIVER", "dummy", 1);
+    EXPECT_TRUE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    EXPECT_EQ(output.SoundDeviceCount(), 1);
+}
+
+} // namespace
+} // namespace sprout

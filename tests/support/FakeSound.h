@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "service/PlayDisplay.h"
+#include "service/SoundOutput.h"
+
+namespace sprout {
+
+/// A sound output that notes every call and answers as the test tells.
+class FakeSoundOutput : public SoundOutput {
+public:
+    [[nodiscard]] std::int32_t SoundDeviceCount() override { return deviceCount; }
+    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                        std::int32_t bufferBytes) override;
+
+    std::int32_t deviceCount = 1;
+    bool opens = true;        // `Service02` gives a handle
+    bool memoryFails = false; // `Service06` throws
+    bool driverFails = false; // `Service05`, `Service04` and `Service07` throw
+    SoundPlace place;         // what `Service07` tells
+
+    std::vector<std::string> calls; // such as "Service04 2 Beginning loop", with the number of the object
+    std::vector<std::byte> pcm;     // what the last `Service06` got
+    SoundFormat format;             // what the last `Service02` got
+    std::int32_t windowHandle = 0;
+    std::int32_t bufferBytes = 0;
+    int objects = 0; // made so far
+    int open = 0;    // alive now
+};
+
+/// Notes what the windows would show.
+class FakePlayDisplay : public PlayDisplay {
+public:
+    [[nodiscard]] std::int32_t MainWindowHandle() const override;
+    void ShowSoundStatus(std::string_view text) override { status = text; }
+    void EnablePlayPosTimer() override { ++timersEnabled; }
+    void UpdateThisTune() override { ++tunesShown; }
+
+    std::int32_t mainWindow = 77; // below -1: asking for it throws
+    std::string status = "Ready";
+    int timersEnabled = 0;
+    int tunesShown = 0;
+};
+
+} // namespace sprout
