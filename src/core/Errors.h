@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <exception>
 #include <stdexcept>
+#include <string>
 
 namespace sprout {
 
@@ -10,5 +12,8 @@ class RunTimeError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
+
+/// The sentence that tells the user of any exception: its own words, or plain ones for those of the standard library.
+[[nodiscard]] std::string ErrorText(const std::exception& error);
 
 } // namespace sprout

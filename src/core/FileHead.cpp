@@ -3,7 +3,10 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <cstdlib>
 #include <ctime>
+#include <string>
 
 #include "core/Shared.h"
 #include "core/Text.h"
@@ -15,9 +18,20 @@ namespace {
 constexpr std::uint64_t kHeadBytes = 1000;
 constexpr std::string_view kLineEnd = "\r\n";
 
+/// The clock, or the moment that SOURCE_DATE_EPOCH names, so that files made by a build are the same in every build.
+std::time_t PresentTime()
+{
+    const char* text = std::getenv("SOURCE_DATE_EPOCH");
+    std::time_t time = 0;
+    const char* end = text ? text + std::char_traits<char>::length(text) : nullptr;
+    if (!text || std::from_chars(text, end, time).ptr != end || text == end)
+        time = std::time(nullptr);
+    return time;
+}
+
 std::string Now()
 {
-    const std::time_t time = std::time(nullptr);
+    const std::time_t time = PresentTime();
     const std::tm* local = std::localtime(&time);
     std::array<char, 32> clock{};
     // Month names are those of the C locale, whatever the desktop's language.

@@ -2,11 +2,12 @@
 #include "core/IniFile.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <span>
+#include <stdexcept>
 
+#include "core/ByteCursor.h"
 #include "core/Errors.h"
+#include "core/Paths.h"
 #include "core/Text.h"
 #include "service/Files.h"
 #include "service/Services.h"
@@ -67,8 +68,9 @@ IniFile::IniFile(std::string_view bytes)
             raw.remove_suffix(1);
 
         Line line;
-        line.text = TextFromStored(raw);
-        const std::string_view content = TrimBlanks(line.text);
+        line.bytes = raw;
+        const std::string text = TextFromStored(raw);
+        const std::string_view content = TrimBlanks(text);
         const auto equals = content.find('=');
         if (!content.empty() && content.front() == '[') {
             const auto close = std::min(content.find(']'), content.size());
@@ -93,9 +95,17 @@ void IniFile::Index()
 
 IniFile IniFile::Read(const std::filesystem::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    return IniFile(bytes);
+    const std::filesystem::path file = FindFile(path);
+    if (file.empty())
+        return {};
+    try {
+        FileSource source(file);
+        std::string bytes(static_cast<std::size_t>(source.Size()), '\0');
+        source.Read(0, std::as_writable_bytes(std::span(bytes)));
+        return IniFile(bytes);
+    } catch (const std::runtime_error&) {
+        return {};
+    }
 }
 
 bool IniFile::Has(std::string_view section, std::string_view key) const
@@ -108,17 +118,20 @@ std::string IniFile::Value(std::string_view section, std::string_view key, std::
     const auto found = places.find(Place(LowerCase(section), LowerCase(TrimBlanks(key))));
     if (found == places.end())
         return std::string(fallback);
-    const std::string_view text = lines[found->second].text;
-    return std::string(Unquoted(TrimBlanks(text.substr(text.find('=') + 1))));
+    const std::string text = TextFromStored(lines[found->second].bytes);
+    return std::string(Unquoted(TrimBlanks(std::string_view(text).substr(text.find('=') + 1))));
 }
 
 std::vector<std::string> IniFile::Keys(std::string_view section) const
 {
     std::vector<std::string> keys;
     const std::string wanted = LowerCase(section);
-    for (const Line& line : lines)
-        if (!line.key.empty() && line.section == wanted)
-            keys.emplace_back(TrimBlanks(std::string_view(line.text).substr(0, line.text.find('='))));
+    for (const Line& line : lines) {
+        if (line.key.empty() || line.section != wanted)
+            continue;
+        const std::string text = TextFromStored(line.bytes);
+        keys.emplace_back(TrimBlanks(std::string_view(text).substr(0, text.find('='))));
+    }
     return keys;
 }
 
@@ -126,10 +139,10 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
 {
     const std::string name = OneLine(TrimBlanks(key));
     const std::string lowerSection = LowerCase(section);
-    Line line{name + "=" + ValueText(value), lowerSection, LowerCase(name), false};
+    Line line{StoredBytes(name + "=" + ValueText(value)), lowerSection, LowerCase(name), false};
     const auto found = places.find(Place(lowerSection, line.key));
     if (found != places.end()) {
-        lines[found->second].text = std::move(line.text);
+        lines[found->second].bytes = std::move(line.bytes);
         return;
     }
     // Behind the last line with words of the first section of that name.
@@ -137,13 +150,13 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
         return candidate.heading && candidate.section == lowerSection;
     });
     if (heading == lines.end()) {
-        lines.push_back({"[" + OneLine(section) + "]", lowerSection, "", true});
+        lines.push_back({StoredBytes("[" + OneLine(section) + "]"), lowerSection, "", true});
         places.emplace(Place(lowerSection, line.key), lines.size());
         lines.push_back(std::move(line));
         return;
     }
     auto end = std::find_if(heading + 1, lines.end(), [](const Line& candidate) { return candidate.heading; });
-    while (end - 1 != heading && TrimBlanks((end - 1)->text).empty())
+    while (end - 1 != heading && TrimBlanks((end - 1)->bytes).empty())
         --end;
     const bool last = end == lines.end();
     lines.insert(end, line);
@@ -177,7 +190,7 @@ std::string IniFile::Bytes() const
 {
     std::string bytes;
     for (const Line& line : lines)
-        bytes += StoredBytes(line.text) + "\r\n";
+        bytes += line.bytes + "\r\n";
     return bytes;
 }
 
@@ -185,7 +198,8 @@ void IniFile::Write(const std::filesystem::path& path) const
 {
     const std::string bytes = Bytes();
     const std::span<const std::byte> piece = std::as_bytes(std::span(bytes));
-    TheServices().files->ReplaceFile(path, {&piece, 1}, Flush::No);
+    const std::filesystem::path file = FindFile(path);
+    TheServices().files->ReplaceFile(file.empty() ? path : file, {&piece, 1}, Flush::No);
 }
 
 std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,

@@ -21,7 +21,7 @@ public:
     /// Parses the bytes of a file.
     explicit IniFile(std::string_view bytes);
 
-    /// Reads a file; a missing or unreadable one is an empty one.
+    /// Reads the file that `path` finds, whatever its letter case; a missing or unreadable one is an empty one.
     [[nodiscard]] static IniFile Read(const std::filesystem::path& path);
 
     [[nodiscard]] bool Has(std::string_view section, std::string_view key) const;
@@ -37,12 +37,12 @@ public:
     /// The bytes of the file, lines ended by CR LF.
     [[nodiscard]] std::string Bytes() const;
 
-    /// Replaces the file at `path` whole. Throws `RunTimeError`.
+    /// Replaces the file that `path` finds, whatever its letter case, whole, or makes it. Throws `RunTimeError`.
     void Write(const std::filesystem::path& path) const;
 
 private:
     struct Line {
-        std::string text;    // as it stands in the file, UTF-8
+        std::string bytes;   // as it stands in the file
         std::string section; // lower case
         std::string key;     // lower case; empty where the line is none of key and value
         bool heading = false;

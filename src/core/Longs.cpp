@@ -28,6 +28,14 @@ std::int64_t ChannelElements(std::int32_t upperBound)
     return upperBound == 0 ? 0 : std::int64_t{upperBound} / 2 + 1;
 }
 
+/// What a file holds of a channel: `length` samples, and none where the channel has none.
+Channel StoredChannel(Channel channel, std::int32_t length)
+{
+    if (channel.UpperBound() != 0)
+        channel.Resize(length);
+    return channel;
+}
+
 std::int32_t TextLastIndex(std::size_t byteCount)
 {
     return byteCount == 0 ? 1 : RoundHalfEven(static_cast<double>(byteCount) / 4 + kTextHeadElements);
@@ -52,6 +60,14 @@ void LongsWriter::Put(std::int32_t value)
 {
     Append(Words(), value);
     bytes += kElementBytes;
+}
+
+void LongsWriter::PutMany(std::span<const std::int32_t> values)
+{
+    std::vector<std::byte>& words = Words();
+    const auto added = std::as_bytes(values);
+    words.insert(words.end(), added.begin(), added.end());
+    bytes += added.size();
 }
 
 void LongsWriter::PutText(std::string_view text)
@@ -82,23 +98,23 @@ void LongsWriter::PutChannel(const Channel& channel)
 
 void LongsWriter::PutWave(const WaveData& wave)
 {
-    const bool stereo = wave.Channels == 2;
-    const std::int64_t lastIndex = kWaveHeadElements - 1 + ChannelElements(wave.WavL.UpperBound()) +
-                                   (stereo ? ChannelElements(wave.WavR.UpperBound()) : 0);
+    // The length alone tells what sounds: a cleared wave may still hold samples.
+    const Channel left = StoredChannel(wave.WavL, wave.Length);
+    const Channel right = wave.Channels == 2 ? StoredChannel(wave.WavR, wave.Length) : Channel();
+    const std::int64_t lastIndex =
+        kWaveHeadElements - 1 + ChannelElements(left.UpperBound()) + ChannelElements(right.UpperBound());
     Put(RoundHalfEven(static_cast<double>(lastIndex)));
     Put(wave.Bits);
     Put(wave.Channels);
     Put(wave.Rate);
     Put(wave.Length);
-    PutChannel(wave.WavL);
-    if (stereo)
-        PutChannel(wave.WavR);
+    PutChannel(left);
+    PutChannel(right);
 }
 
 void LongsWriter::PutPicture(const Picture& picture)
 {
-    for (const std::int32_t colour : PictureColumns(picture))
-        Put(colour);
+    PutMany(PictureColumns(picture));
 }
 
 std::int32_t LongsWriter::Count() const
@@ -157,19 +173,18 @@ std::int32_t LongsReader::Get()
     return cursor.ReadInt32();
 }
 
-void LongsReader::Require(std::int32_t count, std::int32_t size) const
+void LongsReader::Require(std::int32_t count, std::int64_t size) const
 {
+    assert(size > 0);
     if (count < 0)
         throw RunTimeError("The file is damaged: a count is below zero.");
-    cursor.Require(static_cast<std::uint64_t>(count) * static_cast<std::uint64_t>(size) * kElementBytes);
+    if (static_cast<std::uint64_t>(count) > Left() / static_cast<std::uint64_t>(size))
+        throw RunTimeError("The file is damaged: it promises more than it holds.");
 }
 
-std::vector<std::int32_t> LongsReader::GetMany(std::int32_t count)
+void LongsReader::GetMany(std::span<std::int32_t> elements)
 {
-    Require(count, 1);
-    std::vector<std::int32_t> elements(static_cast<std::size_t>(count));
-    cursor.Read(std::as_writable_bytes(std::span(elements)));
-    return elements;
+    cursor.Read(std::as_writable_bytes(elements));
 }
 
 std::uint64_t LongsReader::BlockEnd(std::int32_t lastIndex) const

@@ -24,6 +24,7 @@ public:
     LongsWriter() = default;
 
     void Put(std::int32_t value);
+    void PutMany(std::span<const std::int32_t> values);
     void PutText(std::string_view text);     ///< packed, in its stored bytes
     void PutWave(const WaveData& wave);      ///< wave block
     void PutPicture(const Picture& picture); ///< 1024 colours in columns
@@ -68,13 +69,13 @@ public:
     [[nodiscard]] std::string GetText();
     [[nodiscard]] WaveData GetWave();
     [[nodiscard]] Picture GetPicture();
-    /// `count` elements that are there.
-    [[nodiscard]] std::vector<std::int32_t> GetMany(std::int32_t count);
+    /// Fills `elements`. What is allocated for them should have been asked for by `Require` before.
+    void GetMany(std::span<std::int32_t> elements);
 
     /// Elements not read yet.
     [[nodiscard]] std::uint64_t Left() const { return cursor.Left() / 4; }
-    /// Throws unless `count` (not negative) elements of `size` elements each are left.
-    void Require(std::int32_t count, std::int32_t size) const;
+    /// Throws unless `count` (not negative) records of at least `size` elements each are left.
+    void Require(std::int32_t count, std::int64_t size) const;
 
 private:
     explicit LongsReader(ByteCursor bytes) : cursor(std::move(bytes)) {}

@@ -31,6 +31,23 @@ bool IsFolder(const fs::path& path)
     return fs::is_directory(path, error);
 }
 
+/// A copy that broke off half-way is taken away again: it would count as a file of the user's.
+void CopyOneFile(const fs::path& source, const fs::path& copy)
+{
+    if (fs::exists(copy))
+        return;
+    try {
+        fs::copy_file(source, copy);
+        // Tunes and songs know their beats by these times.
+        fs::last_write_time(copy, fs::last_write_time(source));
+        fs::permissions(copy, fs::perms::owner_write, fs::perm_options::add);
+    } catch (const fs::filesystem_error&) {
+        std::error_code error;
+        fs::remove(copy, error);
+        throw;
+    }
+}
+
 void CopyTree(const fs::path& source, const fs::path& target)
 {
     fs::create_directories(target);
@@ -38,10 +55,8 @@ void CopyTree(const fs::path& source, const fs::path& target)
         const fs::path copy = target / entry.path().filename();
         if (entry.is_directory()) {
             CopyTree(entry.path(), copy);
-        } else if (entry.is_regular_file() && fs::copy_file(entry.path(), copy, fs::copy_options::skip_existing)) {
-            // Tunes and songs know their beats by these times.
-            fs::last_write_time(copy, entry.last_write_time());
-            fs::permissions(copy, fs::perms::owner_write, fs::perm_options::add);
+        } else if (entry.is_regular_file()) {
+            CopyOneFile(entry.path(), copy);
         }
     }
 }
@@ -64,7 +79,8 @@ fs::path NamedFile(const fs::path& folder, std::string_view name, std::string_vi
 
 fs::path FindFile(const fs::path& path)
 {
-    if (Trim(path.native()).empty())
+    // The machine would read a path up to its zero byte and find another file.
+    if (Trim(path.native()).empty() || path.native().find('\0') != fs::path::string_type::npos)
         return {};
     if (IsPlainFile(path))
         return path;
@@ -89,7 +105,7 @@ bool DeleteFile(const fs::path& path)
         return true;
     std::error_code error;
     fs::remove(file, error);
-    return !FileExists(path);
+    return !IsPlainFile(file);
 }
 
 fs::path NewTempFileName(std::string_view extension)
@@ -97,7 +113,7 @@ fs::path NewTempFileName(std::string_view extension)
     for (int n = 1;; ++n) {
         fs::path candidate = Shared().TempFolder / ("TqkTmp" + std::to_string(n) + "." + std::string(extension));
         std::error_code error;
-        if (fs::symlink_status(candidate, error).type() == fs::file_type::not_found)
+        if (!fs::exists(fs::symlink_status(candidate, error))) // nor where the question itself fails
             return candidate;
         TheServices().files->DeleteStaleFile(candidate);
     }

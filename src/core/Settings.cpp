@@ -38,7 +38,9 @@ std::string GetSetting(std::string_view section, std::string_view key, std::stri
 
 void PutSetting(std::string_view section, std::string_view key, std::string_view value)
 {
-    PutIniValue(NamedSection(section), key, value, Shared().SettingsFile);
+    // A blank key would delete the section; a setting without a name is none.
+    if (!Trim(key).empty())
+        PutIniValue(NamedSection(section), key, value, Shared().SettingsFile);
 }
 
 WaveViewColours ReadWaveColours()

@@ -15,7 +15,7 @@ inline constexpr std::size_t kLongestSetting = 99;
 /// unless the file has a key "END".
 [[nodiscard]] std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback);
 
-/// Writes a value to the settings file. A failure is silent.
+/// Writes a value to the settings file. A blank section becomes "General"; a blank key is ignored. A failure is silent.
 void PutSetting(std::string_view section, std::string_view key, std::string_view value);
 
 /// The colours of the wave view: each setting's number, the built-in colour in place of -1.

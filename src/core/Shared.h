@@ -63,4 +63,8 @@ struct SharedState {
 /// The one shared instance.
 [[nodiscard]] SharedState& Shared();
 
+/// Gives the shared state four plain pictures of 32 x 32, for programs without windows: files and tables tell the
+/// pictures apart by identity, so they must be there and must be four.
+void MakePlainPictures();
+
 } // namespace sprout

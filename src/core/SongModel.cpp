@@ -2,6 +2,7 @@
 #include "core/SongModel.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 
 #include "core/Numbers.h"
@@ -90,12 +91,15 @@ std::int32_t TempoOfPercent(std::int32_t percent)
 std::int32_t AudioCycleCells(const WaveData& audio)
 {
     const double seconds = static_cast<double>(audio.Length) / audio.Rate;
-    return std::max(RoundHalfEven(seconds / CellSeconds(kReferenceTempo)), 1);
+    const double cells = seconds / CellSeconds(kReferenceTempo);
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    return cells >= 1 ? RoundHalfEven(std::min(cells, most)) : 1; // no number is not above 1 either
 }
 
 std::int32_t FindFirstPainted(const Track& track, std::int32_t songCells)
 {
-    for (std::int32_t cell = 1; cell <= songCells; ++cell)
+    const auto cells = std::min(static_cast<std::size_t>(std::max(songCells, 0)) + 1, track.Painted.size());
+    for (std::int32_t cell = 1; static_cast<std::size_t>(cell) < cells; ++cell)
         if (At(track.Painted, cell) == 1)
             return cell;
     return 0;

@@ -31,7 +31,7 @@ void ResetTune(Tune& tune);
 /// 32-bit number.
 [[nodiscard]] std::int32_t CellOffset(std::int32_t cell, std::int32_t origin, std::int32_t tempo, std::int32_t rate);
 
-/// The whole grid's duration in seconds at a tempo, rounded.
+/// The whole grid's duration in seconds at a tempo, rounded. Throws `RunTimeError` where that is no 32-bit number.
 [[nodiscard]] std::int32_t SongSeconds(std::int32_t tempo);
 
 /// The tempo in percent of the reference tempo, 50 to 200.
@@ -40,7 +40,7 @@ void ResetTune(Tune& tune);
 /// Cells a minute for a percentage.
 [[nodiscard]] std::int32_t TempoOfPercent(std::int32_t percent);
 
-/// Cells that one pass of an audio track's wave covers at the reference tempo, at least 1.
+/// Cells that one pass of an audio track's wave covers at the reference tempo, at least 1; 1 for a wave without a rate.
 [[nodiscard]] std::int32_t AudioCycleCells(const WaveData& audio);
 
 /// First painted cell of a track, 0 if there is none.

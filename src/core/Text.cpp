@@ -133,7 +133,7 @@ bool EqualIgnoringCase(std::string_view a, std::string_view b)
 
 bool BeginsIgnoringCase(std::string_view text, std::string_view prefix)
 {
-    return text.size() >= prefix.size() && EqualIgnoringCase(text.substr(0, prefix.size()), prefix);
+    return LowerCase(text).starts_with(LowerCase(prefix));
 }
 
 bool IsUtf8(std::string_view bytes)
@@ -173,6 +173,16 @@ std::string TextFromStored(std::string_view bytes)
         AppendUtf8(text, byte >= 0x80 && byte < 0xA0 ? kUpperControls[byte - 0x80u] : byte);
     }
     return text;
+}
+
+std::string StoredText(std::string_view text)
+{
+    return TextFromStored(StoredBytes(text));
+}
+
+std::string NameKey(std::string_view name)
+{
+    return LowerCase(StoredText(name));
 }
 
 std::vector<std::string> Split(std::string_view text, char separator)

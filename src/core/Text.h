@@ -31,6 +31,12 @@ namespace sprout {
 /// Windows-1252, in which the five unassigned bytes stand for the control characters of the same number.
 [[nodiscard]] std::string TextFromStored(std::string_view bytes);
 
+/// `text` as it comes back from a file. Two texts that are written alike give the same.
+[[nodiscard]] std::string StoredText(std::string_view text);
+
+/// What names are compared by where letter case does not count: equal for names that files tell apart by case only.
+[[nodiscard]] std::string NameKey(std::string_view name);
+
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
 
 /// The parts of `text` between separators; an empty text has one empty part.

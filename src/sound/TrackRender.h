@@ -10,13 +10,14 @@
 namespace sprout {
 
 /// Renders a music track of the shared song alone: fills `TrackRender` and `FirstPainted`, unless it is valid.
-/// trackNumber: 1..`TrackCount`. A run-time error leaves an empty wave, valid.
+/// trackNumber: 1..`TrackCount`; others do nothing. A run-time error leaves an empty wave, valid.
 void RenderTuneTrack(std::int32_t trackNumber);
 
 /// The same for an audio track, whose wave sounds again and again along the paint.
 void RenderAudioTrack(std::int32_t trackNumber);
 
-/// Mixes the whole shared song: fills `SongMix` and `SongFirstPos`, unless it is valid.
+/// Mixes the whole shared song: fills `SongMix` and `SongFirstPos`, unless it is valid. A run-time error leaves an
+/// empty wave, valid. `SongFirstPos` is -1 in a song without paint.
 void MixSong();
 
 /// What sounds when a wave whose first frame belongs to cell `origin` is played from `cell`.
@@ -26,7 +27,7 @@ struct PlayFrom {
 };
 
 /// The part from a cell on, or the whole from the origin where the cell lies at or before it. tempo: cells a minute.
-/// Nothing where the cell lies at or beyond the wave's end.
+/// Nothing where the cell lies at or beyond the wave's end, or its place is no number.
 [[nodiscard]] std::optional<PlayFrom> CutFromCell(const WaveData& wave, std::int32_t origin, std::int32_t cell,
                                                   std::int32_t tempo);
 

@@ -8,10 +8,11 @@
 
 namespace sprout {
 
-/// A step's sound with its instrument from `SongBeats` by `BeatIndex`; the test tone where there is none.
+/// A step's sound with its instrument from `SongBeats` by `BeatIndex`, which is loaded if it is not yet; the test tone
+/// where there is none. A run-time error gives an empty wave. Flags and `StepWave` stay as they are.
 [[nodiscard]] WaveData RenderStep(const TuneStep& step);
 
-/// A step's sound with its own `StepBeat`, which is loaded if it is not yet; the test tone where it has no name.
+/// The same with the step's own `StepBeat`; the test tone where it has no name.
 [[nodiscard]] WaveData RenderOwnBeatStep(TuneStep& step);
 
 /// Fills `TuneWave` of a track's tune with one cycle, one frame longer than its steps at the shared tempo, or more
@@ -22,10 +23,11 @@ void RenderStarCycle(Tune& tune);
 void RenderTuneCycle(Tune& tune);
 
 /// Renders the steps of a track's tune that are on and not valid; equal steps share one rendering, and all that is new
-/// is rendered on all cores.
+/// is rendered on all cores. A step that copies an earlier one's sound does not become valid. Throws `RunTimeError`,
+/// std::bad_alloc.
 void RenderTrackSteps(Tune& tune);
 
-/// `RenderTrackSteps` for several tunes at once, so that all their new steps share the cores.
+/// The same for several tunes at once, so that all their new steps share the cores.
 void RenderTrackSteps(std::span<Tune* const> tunes);
 
 } // namespace sprout

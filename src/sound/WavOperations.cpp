@@ -7,6 +7,8 @@
 #include <cmath>
 #include <cstddef>
 #include <fstream>
+#include <new>
+#include <stdexcept>
 #include <string>
 
 #include "core/ByteCursor.h"
@@ -33,6 +35,8 @@ constexpr std::uint64_t kChannelsByte = 22;
 constexpr std::uint64_t kRateByte = 24;
 constexpr std::uint64_t kBitsByte = 34;
 constexpr std::uint64_t kSearchByte = 35;
+
+constexpr std::string_view kNoMemory = "There is not enough memory.";
 
 /// What ends a load with a message of its own.
 struct Refusal {
@@ -142,10 +146,10 @@ Channel Deinterleave(std::span<const std::byte> bytes, const WaveData& wave, std
     return channel;
 }
 
-WaveData ReadWave(const fs::path& path, ReadSamples samples)
+/// name: how the messages call the file.
+WaveData ReadWave(const fs::path& path, const std::string& name, ReadSamples samples)
 {
     FileSource source(path);
-    const std::string name = PathText(path);
     if (source.Size() < kSmallestWave)
         throw Refusal{"Error Loading " + name, "No wave Data found in file"};
     const std::uint64_t data = FindData(source);
@@ -242,8 +246,17 @@ void WriteSamples(WaveWriter& writer, const WaveData& wave)
     }
 }
 
+/// False for a wave that was read without its samples.
+bool HoldsItsFrames(const WaveData& wave)
+{
+    return wave.Length > 0 && wave.WavL.UpperBound() >= wave.Length &&
+           (wave.Channels == 1 || wave.WavR.UpperBound() >= wave.Length);
+}
+
 void WriteWave(const WaveData& wave, const fs::path& path)
 {
+    if (!HoldsItsFrames(wave))
+        throw RunTimeError("The sound is shorter than it tells.");
     const double dataBytes = static_cast<double>(wave.Bits / 8 * wave.Channels) * wave.Length;
     const std::int32_t dataSize = RoundHalfEven(dataBytes);
     const std::int32_t riffSize = RoundHalfEven(dataBytes + 36);
@@ -262,6 +275,8 @@ Channel CutChannel(const Channel& source, std::int32_t first, std::int32_t lengt
 {
     if (length == 0)
         return {};
+    if (first < 1 || first - 1 > source.UpperBound() - length)
+        throw RunTimeError("The part lies outside of the sound.");
     return Channel::FromSamples(
         source.Samples().subspan(static_cast<std::size_t>(first - 1), static_cast<std::size_t>(length)));
 }
@@ -283,13 +298,13 @@ WaveData LoadWaveFile(const fs::path& path, ReadSamples samples)
     if (file.empty())
         return EmptyWave();
     try {
-        return ReadWave(file, samples);
+        return ReadWave(file, PathText(path), samples);
     } catch (const Refusal& refusal) {
         Tell(refusal.title, refusal.text);
-    } catch (const RunTimeError& error) {
+    } catch (const std::runtime_error& error) {
         Tell("Wave file load error", error.what());
     } catch (const std::bad_alloc&) {
-        Tell("Wave file load error", "There is not enough memory.");
+        Tell("Wave file load error", kNoMemory);
     }
     return EmptyWave();
 }
@@ -304,7 +319,7 @@ void SaveWaveFile(const WaveData& wave, const fs::path& path)
         return Tell("", "Format not Known to write wave file");
     try {
         WriteWave(wave, path);
-    } catch (const RunTimeError& error) {
+    } catch (const std::runtime_error& error) {
         Tell("Wav file Write error", error.what());
     }
 }
@@ -330,17 +345,22 @@ WaveData CutWaveSlice(const WaveData& source, std::int32_t first, std::int32_t l
     slice.Bits = source.Bits;
     slice.Channels = source.Channels;
     slice.Rate = source.Rate;
-    slice.Length = std::max(last - first + 1, 0);
+    slice.Length = RoundHalfEven(std::max(static_cast<double>(last) - first + 1, 0.0));
     slice.WavL = CutChannel(source.WavL, first, slice.Length);
     if (source.Channels == 2)
         slice.WavR = CutChannel(source.WavR, first, slice.Length);
     return slice;
 }
 
-WaveData MakeTestTone()
+namespace {
+
+/// From 650 to 700 Hz in 0.2 s, fading out.
+WaveData GlidingTone()
 {
     constexpr double twoPi = 6.28318530717958;
     const std::int32_t rate = Shared().SampleRate;
+    if (rate < 1)
+        throw RunTimeError("There is no sample rate.");
     WaveData tone = EmptyWave();
     tone.Length = RoundHalfEven(0.2 * rate);
     const double amplitude = RoundHalfEven(0.7 * (tone.Bits == 8 ? 127 : 32767));
@@ -362,6 +382,20 @@ WaveData MakeTestTone()
     if (tone.Channels == 2)
         tone.WavR = tone.WavL;
     return tone;
+}
+
+} // namespace
+
+WaveData MakeTestTone()
+{
+    try {
+        return GlidingTone();
+    } catch (const std::runtime_error& error) {
+        Tell("Generate Sine Error", error.what());
+    } catch (const std::bad_alloc&) {
+        Tell("Generate Sine Error", kNoMemory);
+    }
+    return EmptyWave();
 }
 
 } // namespace sprout

@@ -39,10 +39,12 @@ void SaveWaveFile(const WaveData& wave, const std::filesystem::path& path);
 /// promises.
 [[nodiscard]] WaveData LongsToWave(std::span<const std::int32_t> longs);
 
-/// Frames `first` to `last` of a wave, both within it and inclusive. A last below first - 1 gives length 0.
+/// Frames `first` to `last` of a wave, both inclusive. A last below first - 1 gives length 0. Throws `RunTimeError` for
+/// frames that the wave does not have.
 [[nodiscard]] WaveData CutWaveSlice(const WaveData& source, std::int32_t first, std::int32_t last);
 
-/// A beep of 0.2 s that glides from 650 to 700 Hz and fades out: the sound of a beat that cannot be found.
+/// A beep of 0.2 s that glides from 650 to 700 Hz and fades out: the sound of a beat that cannot be found. A failure is
+/// told in a message and gives `EmptyWave`.
 [[nodiscard]] WaveData MakeTestTone();
 
 } // namespace sprout

@@ -3,7 +3,10 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
+#include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "core/Song.h"
 
@@ -19,6 +22,16 @@ inline constexpr std::int32_t kLongestBeatSeconds = 5;
 /// Fills a beat from its pair of files in `UserBeats`, cut to 5 seconds. Without a .wav the beat comes out empty; a
 /// wave without samples leaves it as it was.
 void LoadBeatFile(Beat& beat, std::string_view name);
+
+/// `LoadBeatFile` for the many beats of one song or tune: each pair of files is read once, its messages are shown once,
+/// and beats of one name share their samples.
+class BeatReader {
+public:
+    void LoadBeatFile(Beat& beat, const std::string& name);
+
+private:
+    std::unordered_map<std::string, std::optional<Beat>> read; // nothing: the file holds no samples
+};
 
 /// Loads a beat again by its own name, which stays also where there is no .wav any more; it counts as loaded then.
 void ReloadBeat(Beat& beat);

@@ -36,6 +36,7 @@ Session::Session(std::ostream& outStream, std::ostream& errStream, const std::fi
     TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get()};
     Shared() = SharedState();
     Shared().SongBeatsInside = !beatsOutside;
+    MakePlainPictures();
     Shared().TestTone = MakeTestTone();
     FindTempFolder();
     SetUserRoot(userRoot.empty() ? desktop.DocumentsFolder() / kProductName : userRoot);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/posix/PosixMachine.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <string>
@@ -29,7 +30,8 @@ MemoryStatus PosixMachine::GlobalMemoryStatus() const
             status.AvailableBytes = kibibytes * kBytesPerKibibyte;
     }
     if (status.TotalBytes > 0)
-        status.LoadPercent = static_cast<int>(100 - status.AvailableBytes * 100 / status.TotalBytes);
+        status.LoadPercent =
+            100 - static_cast<int>(std::min(status.AvailableBytes, status.TotalBytes) * 100 / status.TotalBytes);
     return status;
 }
 

@@ -9,10 +9,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdlib>
-#include <fstream>
-#include <iterator>
+#include <span>
+#include <stdexcept>
 #include <system_error>
+
+#include "core/ByteCursor.h"
 
 namespace sprout {
 
@@ -37,10 +40,17 @@ fs::path HomeFolder()
     return user && user->pw_dir ? user->pw_dir : "";
 }
 
+/// Empty where the file is missing or cannot be read.
 std::string FileText(const fs::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    try {
+        FileSource source(path);
+        std::string text(static_cast<std::size_t>(source.Size()), '\0');
+        source.Read(0, std::as_writable_bytes(std::span(text)));
+        return text;
+    } catch (const std::runtime_error&) {
+        return {};
+    }
 }
 
 /// The value between the quotes of a line NAME="value", its backslashes resolved.
@@ -112,7 +122,8 @@ void XdgDesktop::OpenWithShell(std::string_view target)
                                         program.data(), argument.data(), nullptr};
     pid_t child = 0;
     if (::posix_spawn(&child, shell.c_str(), nullptr, nullptr, words.data(), environ) == 0)
-        ::waitpid(child, nullptr, 0);
+        while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+        }
 }
 
 } // namespace sprout

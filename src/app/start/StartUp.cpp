@@ -1,0 +1,181 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/start/StartUp.h"
+
+#include <algorithm>
+#include <exception>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "core/Numbers.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "service/Desktop.h"
+#include "service/Machine.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+#include "sound/WavOperations.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kGeneral = "General";
+
+using Step = void (*)();
+
+/// Runs a step. Nothing that goes wrong in it ends the start: the program is of use without it.
+void GoOnAfter(Step step)
+{
+    try {
+        step();
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
+void MakeFolderIfMissing(const fs::path& folder)
+{
+    std::error_code error;
+    if (!fs::is_directory(folder, error))
+        fs::create_directory(folder, error);
+}
+
+void WriteProgramFacts()
+{
+    PutSetting(kGeneral, "InstalledPath", PathText(Shared().ProgramFolder));
+    PutSetting(kGeneral, "FreeHardDisk", std::to_string(FreeDiskBytes()));
+}
+
+void ProbeMemory()
+{
+    const MemoryStatus memory = TheServices().machine->GlobalMemoryStatus();
+    PutSetting(kGeneral, "PhyMemorySz", std::to_string(memory.AvailableBytes));
+    PutSetting(kGeneral, "PhyMemoryLoad", std::to_string(memory.LoadPercent));
+    Shared().SoundMemoryLimit = SoundMemoryLimit(memory.TotalBytes);
+    PutSetting(kGeneral, "TotalPhyMemory", std::to_string(memory.TotalBytes));
+}
+
+/// The machine has no DirectX, so the question for its version always fails.
+void ProbeDirectX()
+{
+    PutSetting(kGeneral, "DirectXInstalled", "ErrorInDetecting");
+}
+
+void SetInstallFolders()
+{
+    SharedState& shared = Shared();
+    shared.InstallRoot = AsFolder(shared.ProgramFolder / "Sprout");
+    shared.InstallBeats = AsFolder(shared.InstallRoot / "Beats");
+    shared.InstallTunes = AsFolder(shared.InstallRoot / "Tunes");
+    shared.InstallStars = AsFolder(shared.InstallRoot / "Stars");
+    shared.InstallSongs = AsFolder(shared.InstallRoot / "Songs");
+}
+
+void SetSoundFormat()
+{
+    SharedState& shared = Shared();
+    shared.SampleRate = 44100;
+    shared.BitsPerSample = 16;
+    shared.Channels = 2;
+}
+
+/// One file stands for all that is installed with the program.
+void TestSupportFiles()
+{
+    const fs::path file = Shared().ProgramFolder / "Sprout" / "Beats" / "G_Acoustic Guitar High.wav";
+    if (!FileExists(file))
+        TheServices().messages->MessageBox("", "Some support files are missing\r\n" + PathText(file) +
+                                                   "\r\nPlease reinstall");
+}
+
+void MakeInstallFolders()
+{
+    const SharedState& shared = Shared();
+    for (const fs::path& folder :
+         {shared.InstallRoot, shared.InstallBeats, shared.InstallTunes, shared.InstallStars, shared.InstallSongs})
+        MakeFolderIfMissing(folder);
+}
+
+void KeepTestTone()
+{
+    Shared().TestTone = MakeTestTone();
+}
+
+void KeepWaveColours()
+{
+    Shared().WaveColours = ReadWaveColours();
+}
+
+void SetDemoImages()
+{
+    Shared().DemoImages = AsFolder(Shared().InstallRoot / "DemoImages");
+}
+
+void FindDocumentsFolder()
+{
+    fs::path documents = TheServices().desktop->DocumentsFolder();
+    if (documents.empty())
+        TheServices().messages->MessageBox("", "Reinstall the Application");
+    else if (!documents.has_filename())
+        documents = documents.parent_path();
+    Shared().DocumentsFolder = documents;
+}
+
+/// Without a documents folder the root lies in that of the file system, not in whatever folder is the current one.
+void SetUserFolders()
+{
+    const fs::path::string_type separator(1, fs::path::preferred_separator);
+    SetUserRoot(Shared().DocumentsFolder.native() + separator + std::string(kProductName));
+    MakeFolderIfMissing(Shared().UserRoot);
+}
+
+/// A user who has deleted every file of a folder gets the installed ones back.
+void FillUserFolders()
+{
+    const SharedState& shared = Shared();
+    for (const char* name : {"Beats", "Tunes", "Stars", "Songs"})
+        if (!HoldsFile(shared.UserRoot / name))
+            CopyFolder(shared.InstallRoot / name, shared.UserRoot);
+}
+
+bool IsSetToOne(std::string_view key)
+{
+    return NumberPrefix(GetSetting(kGeneral, key, "0")) == 1;
+}
+
+} // namespace
+
+std::int32_t SoundMemoryLimit(std::uint64_t totalBytes)
+{
+    constexpr double least = 10'000'000;
+    constexpr double most = 67'108'864;
+    const auto total = static_cast<double>(totalBytes);
+    const double share = total < 33'000'000 ? 0.66 : total < 66'500'000 ? 0.5 : total < 157'000'000 ? 0.33 : 0.25;
+    return RoundHalfEven(std::clamp(total * share, least, most));
+}
+
+void RunStartUp()
+{
+    // The new song comes before the user's folders are known, so its name is free in the current folder only.
+    constexpr Step steps[] = {FindTempFolder,      WriteProgramFacts, ProbeMemory,      ProbeDirectX,
+                              SetInstallFolders,   SetSoundFormat,    TestSupportFiles, MakeInstallFolders,
+                              KeepTestTone,        NewSong,           KeepWaveColours,  SetDemoImages,
+                              FindDocumentsFolder, SetUserFolders,    FillUserFolders};
+    for (const Step step : steps)
+        GoOnAfter(step);
+}
+
+void ReadOptionFlags()
+{
+    // One option is told by its opposite.
+    GoOnAfter([] { Shared().SongBeatsInside = !IsSetToOne("SongBeatsOutside"); });
+    GoOnAfter([] { Shared().AllowEditOriginal = IsSetToOne("AllowEditOriginal"); });
+}
+
+} // namespace sprout

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/stretch/Fft.h"
+
+#include <kiss_fftr.h>
+
+#include <cassert>
+#include <map>
+#include <new>
+#include <type_traits>
+
+namespace sprout::stretch {
+namespace {
+
+struct FreePlan {
+    void operator()(kiss_fftr_cfg plan) const { kiss_fftr_free(plan); }
+};
+using Plan = std::unique_ptr<std::remove_pointer_t<kiss_fftr_cfg>, FreePlan>;
+
+Plan MakePlan(Index size, bool inverse)
+{
+    Plan plan(kiss_fftr_alloc(static_cast<int>(size), inverse ? 1 : 0, nullptr, nullptr));
+    if (!plan) {
+        throw std::bad_alloc();
+    }
+    return plan;
+}
+
+} // namespace
+
+struct Fft::Plans {
+    Plan forward;
+    Plan inverse;
+};
+
+// std::complex<float> is laid out as the library's pair of floats.
+static_assert(sizeof(Bin) == sizeof(kiss_fft_cpx));
+
+Fft::Fft(Index size) : size_(size), plans_(new Plans{MakePlan(size, false), MakePlan(size, true)}) {}
+
+Fft::~Fft() = default;
+
+void Fft::Forward(std::span<const float> block, std::span<Bin> spectrum)
+{
+    assert(std::ssize(block) == Size() && std::ssize(spectrum) == Bins());
+    kiss_fftr(plans_->forward.get(), block.data(), reinterpret_cast<kiss_fft_cpx*>(spectrum.data()));
+}
+
+void Fft::Inverse(std::span<const Bin> spectrum, std::span<float> block)
+{
+    assert(std::ssize(block) == Size() && std::ssize(spectrum) == Bins());
+    kiss_fftri(plans_->inverse.get(), reinterpret_cast<const kiss_fft_cpx*>(spectrum.data()), block.data());
+}
+
+Fft& FftOfSize(Index size)
+{
+    thread_local std::map<Index, Fft> transforms;
+    return transforms.try_emplace(size, size).first->second;
+}
+
+} // namespace sprout::stretch

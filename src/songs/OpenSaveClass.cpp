@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "songs/OpenSaveClass.h"
+
+#include <exception>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/Errors.h"
+#include "core/FileHead.h"
+#include "core/Numbers.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+#include "songs/SongVersions.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+using SongLoader = void (*)(LongsReader&, SongState&);
+
+void Tell(std::string_view title, std::string_view text)
+{
+    TheServices().messages->MessageBox(title, text);
+}
+
+/// The reader of a file's version; none for a version that this program does not know.
+SongLoader LoaderOf(ByteSource& source)
+{
+    const auto version = static_cast<float>(NumberPrefix(HeadValue(source, "File Version", "0")));
+    if (version == 2.0F)
+        return Load_Song_V20;
+    if (version == 1.0F)
+        return Load_Song_V10;
+    if (version == 1.1F)
+        return Load_Song_V11;
+    return nullptr;
+}
+
+/// The song of a file; one without tracks where it cannot be read, which was told then.
+SongState ReadSong(ByteSource& source, SongLoader loadVersion)
+{
+    try {
+        const std::optional<std::uint64_t> begin = FindHeadData(source);
+        if (begin) {
+            SongState song;
+            LongsReader data(source, *begin);
+            loadVersion(data, song);
+            return song;
+        }
+        Tell("Error Loading File", "Failed to find Data");
+    } catch (const std::exception& error) {
+        Tell("Error Loading File", ErrorText(error));
+    }
+    return {};
+}
+
+} // namespace
+
+void OpenSaveClass::Load_Song(const fs::path& path)
+{
+    SongState& shared = Shared().Song;
+    try {
+        const fs::path file = FindFile(path);
+        FileSource source(file.empty() ? path : file);
+        const SongLoader loadVersion = LoaderOf(source);
+        SongState song = loadVersion ? ReadSong(source, loadVersion) : SongState();
+        if (song.TrackCount != 0) {
+            shared = std::move(song);
+            return;
+        }
+        shared.TrackCount = 0;
+        Tell("", "Failed Loading");
+    } catch (const std::exception& error) {
+        shared.TrackCount = 0;
+        Tell("Error Opening File", ErrorText(error));
+    }
+}
+
+void OpenSaveClass::Save_Song(const fs::path& path)
+{
+    SongState& song = Shared().Song;
+    Compact_Song_Beats(song);
+    const LongsWriter data = Write_Song_Data(song);
+    const std::string head = FileHead("TqSng", " Sprout Song File");
+    const std::string_view tail = FileTail();
+    std::vector<std::span<const std::byte>> pieces = data.Pieces();
+    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
+    pieces.push_back(std::as_bytes(std::span(tail)));
+    TheServices().files->ReplaceFile(path, pieces, saveFlush);
+}
+
+} // namespace sprout

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <map>
+#include <string>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "songs/SongReader.h"
+#include "songs/SongVersions.h"
+#include "tunes/BeatFiles.h"
+#include "tunes/TunOpnSavClass.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::int64_t kBeatElements = kTextElements + 1;
+constexpr std::int64_t kStepElements = 5;
+
+/// Reads one song. Beats and tunes that are kept outside are read once each, however often the song names them.
+class SongReader20 {
+public:
+    SongReader20(LongsReader& array, SongState& filled) : data(array), song(filled) {}
+
+    void ReadSong();
+
+private:
+    void ReadBeat(Beat& beat);
+    void ReadTrack(Track& track);
+    void ReadMusic(Tune& tune);
+    void ReadTune(Tune& tune);
+    void TakeTuneFile(Tune& tune, const std::string& name);
+
+    LongsReader& data;
+    SongState& song;
+    BeatReader outsideBeats;
+    std::map<std::string, Tune> outsideTunes;
+};
+
+void SongReader20::ReadSong()
+{
+    const std::int32_t trackCount = data.Get();
+    const std::int32_t beatCount = data.Get();
+    ReadSongHead(data, song);
+    data.Require(beatCount, kBeatElements);
+    song.SongBeats.resize(static_cast<std::size_t>(beatCount) + 1);
+    song.SongBeatCount = beatCount;
+    for (std::int32_t i = 1; i <= beatCount; ++i)
+        ReadBeat(At(song.SongBeats, i));
+    MakeTracks(data, song, trackCount);
+    for (std::int32_t i = 1; i <= trackCount; ++i)
+        ReadTrack(At(song.Tracks, i));
+}
+
+void SongReader20::ReadBeat(Beat& beat)
+{
+    beat.Name = data.GetText();
+    if (data.Get() == 1)
+        ReadStoredBeat(data, beat);
+    else
+        outsideBeats.LoadBeatFile(beat, beat.Name);
+}
+
+void SongReader20::ReadTrack(Track& track)
+{
+    ReadPaint(data, track, song.SongCells);
+    if (track.IsMusic())
+        ReadMusic(track.TrackTune);
+    else if (track.IsAudio())
+        track.TrackAudio = data.GetWave();
+}
+
+void SongReader20::ReadMusic(Tune& tune)
+{
+    if (data.Get() == 0)
+        return ResetTune(tune);
+    const std::string name = data.GetText();
+    if (data.Get() != 1)
+        return TakeTuneFile(tune, name);
+    tune.Name = name;
+    ReadTune(tune);
+}
+
+void SongReader20::ReadTune(Tune& tune)
+{
+    ReadTuneHead(data, tune);
+    MakeSteps(data, tune, kStepElements);
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
+        TuneStep& step = At(tune.Steps, i);
+        step.OnPos = data.Get();
+        step.PitchShift = data.Get();
+        step.Duration = data.Get();
+        step.Volume = data.Get();
+        step.BeatIndex = data.Get();
+    }
+    static_cast<void>(data.Get()); // the end mark
+}
+
+void SongReader20::TakeTuneFile(Tune& tune, const std::string& name)
+{
+    const std::filesystem::path file = NamedFile(Shared().UserTunes, name, ".TqTun");
+    if (!FileExists(file))
+        return ResetTune(tune);
+    auto found = outsideTunes.find(name);
+    if (found == outsideTunes.end()) {
+        TunOpnSavClass().Load_Tune(file);
+        found = outsideTunes.emplace(name, Shared().TuneClipboard).first;
+    }
+    tune = found->second;
+    MergeTuneBeats(song, tune);
+}
+
+} // namespace
+
+void Load_Song_V20(LongsReader& data, SongState& song)
+{
+    SongReader20(data, song).ReadSong();
+}
+
+} // namespace sprout

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sound/Mixer.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <limits>
+#include <memory>
+
+#include "core/Errors.h"
+#include "core/Numbers.h"
+#include "core/Parallel.h"
+#include "core/Shared.h"
+#include "sound/RenderThreads.h"
+#include "sound/WavOperations.h"
+#include "sound/WaveFormat.h"
+
+namespace sprout {
+
+namespace {
+
+using Samples = std::span<const std::int16_t>;
+
+constexpr std::size_t kBlockFrames = 8192; // two accumulators of it stay in the second-level cache
+constexpr std::size_t kChunkFrames = 16 * kBlockFrames;
+constexpr std::size_t kMostUncheckedSums = 65535; // so many samples cannot leave the 32 bits
+
+struct Accumulators {
+    std::array<std::int32_t, kBlockFrames> left;
+    std::array<std::int32_t, kBlockFrames> right;
+};
+
+/// The samples of a wave; none in a silent one.
+struct StereoFrames {
+    Samples left;
+    Samples right;
+};
+
+/// A wave that sounds, at its place: frames counted from 0.
+struct Sounding {
+    std::size_t begin;
+    std::size_t end;
+    const StereoFrames* frames;
+};
+
+struct ClipLimits {
+    std::int32_t low;
+    std::int32_t high;
+};
+
+std::int32_t ClipLimit(std::int32_t clip, std::int32_t fullScale)
+{
+    const std::int64_t product = static_cast<std::int64_t>(clip) * fullScale;
+    if (product != static_cast<std::int32_t>(product))
+        throw RunTimeError("The clip percent is too large.");
+    return RoundHalfEven(static_cast<double>(product) / 100);
+}
+
+void ConvertWave(WaveData& wave, std::int32_t pan)
+{
+    if (wave.Channels != 2)
+        wave = ConvertWaveChannels(wave, 2);
+    if (wave.Bits != Shared().BitsPerSample || wave.Rate != Shared().SampleRate)
+        wave = ConvertWaveFormat(wave, 0, 0);
+    if (pan != 0)
+        wave = ApplyWavePan(wave, pan);
+}
+
+bool NeedsWork(const WaveData& wave, std::int32_t pan)
+{
+    return wave.Bits != Shared().BitsPerSample || wave.Rate != Shared().SampleRate || pan != 0;
+}
+
+/// Brings the waves from index 1 on into the program's format; those that need arithmetic share the cores.
+void ConvertWaves(std::vector<WaveData>& waves, std::int32_t pan)
+{
+    std::vector<WaveData*> costly;
+    for (std::size_t i = 1; i < waves.size(); ++i) {
+        if (waves[i].Length <= 0)
+            continue;
+        if (NeedsWork(waves[i], pan))
+            costly.push_back(&waves[i]);
+        else
+            ConvertWave(waves[i], pan);
+    }
+    ParallelFor(
+        costly.size(), [&costly, pan](std::size_t i) { ConvertWave(*costly[i], pan); }, {}, RenderThreads::Most());
+}
+
+std::vector<StereoFrames> TakeFrames(const std::vector<WaveData>& waves)
+{
+    std::vector<StereoFrames> frames(waves.size());
+    for (std::size_t i = 0; i < waves.size(); ++i)
+        if (waves[i].Length > 0)
+            frames[i] = {FramesOf(waves[i].WavL, waves[i].Length), FramesOf(waves[i].WavR, waves[i].Length)};
+    return frames;
+}
+
+std::vector<Sounding> TakeSoundings(std::span<const WaveFilePlacement> placements,
+                                    const std::vector<StereoFrames>& waves)
+{
+    std::vector<Sounding> soundings;
+    soundings.reserve(placements.size());
+    for (const WaveFilePlacement& placement : placements) {
+        if (placement.WaveIndex < 0 || static_cast<std::size_t>(placement.WaveIndex) >= waves.size())
+            throw RunTimeError("A place names a sound that is not there.");
+        const StereoFrames& frames = waves[static_cast<std::size_t>(placement.WaveIndex)];
+        if (frames.left.empty())
+            continue;
+        if (placement.Offset < 0)
+            throw RunTimeError("A sound lies before the beginning.");
+        const auto begin = static_cast<std::size_t>(placement.Offset);
+        soundings.push_back({begin, begin + frames.left.size(), &frames});
+    }
+    return soundings;
+}
+
+std::int32_t TotalLength(const std::vector<Sounding>& soundings)
+{
+    std::size_t total = 0;
+    for (const Sounding& sounding : soundings)
+        total = std::max(total, sounding.end);
+    if (total > static_cast<std::size_t>(kLongestWaveFrames))
+        throw RunTimeError("The sound is too long.");
+    return static_cast<std::int32_t>(total);
+}
+
+/// The soundings that touch frames `begin` to `end`, in their order.
+template <class Soundings>
+std::vector<Sounding> Overlapping(const Soundings& soundings, std::size_t begin, std::size_t end)
+{
+    std::vector<Sounding> overlapping;
+    for (const Sounding& sounding : soundings)
+        if (sounding.begin < end && sounding.end > begin)
+            overlapping.push_back(sounding);
+    return overlapping;
+}
+
+void Add(std::span<std::int32_t> sums, Samples samples)
+{
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        sums[i] += samples[i];
+}
+
+void AddScaled(std::span<std::int32_t> sums, Samples samples, double gain)
+{
+    for (std::size_t i = 0; i < samples.size(); ++i)
+        sums[i] = RoundHalfEven(gain * samples[i] + sums[i]);
+}
+
+/// Stores the clipped sums. A clip above 100 percent may leave values that 16 bits cannot hold.
+void Store(std::span<const std::int32_t> sums, ClipLimits limits, std::int16_t* samples)
+{
+    std::int32_t lost = 0;
+    for (std::size_t i = 0; i < sums.size(); ++i) {
+        const std::int32_t sum = sums[i];
+        const std::int32_t clipped = sum > limits.high ? limits.high : sum < limits.low ? limits.low : sum;
+        samples[i] = static_cast<std::int16_t>(clipped);
+        lost |= clipped ^ samples[i];
+    }
+    if (lost != 0)
+        throw RunTimeError("A sample does not fit into 16 bits.");
+}
+
+/// One mix: what sounds, and where it goes.
+class Mix {
+public:
+    Mix(std::vector<Sounding> placed, std::int32_t gainPercent, ClipLimits clipLimits)
+        : soundings(std::move(placed)),
+          gain(static_cast<float>(gainPercent / 100.0)),
+          limits(clipLimits),
+          total(TotalLength(soundings))
+    {
+    }
+
+    /// The mixed wave. Every piece of the time line is summed on its own, so that the pieces share the cores and the
+    /// sums stay in the cache.
+    WaveData Render()
+    {
+        WaveData result = EmptyWave();
+        result.Channels = 2;
+        if (total == 0)
+            return result;
+        result.Length = total;
+        result.WavL = Channel::Unfilled(total);
+        result.WavR = Channel::Unfilled(total);
+        left = result.WavL.Change().data() + 1;
+        right = result.WavR.Change().data() + 1;
+        const std::size_t chunks = (Total() + kChunkFrames - 1) / kChunkFrames;
+        ParallelFor(
+            chunks, [this](std::size_t chunk) { RenderChunk(chunk * kChunkFrames); }, {}, RenderThreads::Most());
+        return result;
+    }
+
+private:
+    [[nodiscard]] std::size_t Total() const { return static_cast<std::size_t>(total); }
+
+    void RenderChunk(std::size_t begin)
+    {
+        const std::size_t end = std::min(begin + kChunkFrames, Total());
+        const std::vector<Sounding> near = Overlapping(soundings, begin, end);
+        const auto sums = std::make_unique_for_overwrite<Accumulators>();
+        for (std::size_t block = begin; block < end; block += kBlockFrames)
+            RenderBlock(*sums, Overlapping(near, block, block + kBlockFrames), block,
+                        std::min(kBlockFrames, end - block));
+    }
+
+    void RenderBlock(Accumulators& sums, const std::vector<Sounding>& sounding, std::size_t begin, std::size_t count)
+    {
+        const std::span leftSums = std::span(sums.left).first(count);
+        const std::span rightSums = std::span(sums.right).first(count);
+        std::fill(leftSums.begin(), leftSums.end(), 0);
+        std::fill(rightSums.begin(), rightSums.end(), 0);
+        const bool plain = gain == 1 && sounding.size() <= kMostUncheckedSums;
+        for (const Sounding& one : sounding) {
+            const std::size_t from = std::max(one.begin, begin);
+            const std::size_t frames = std::min(one.end, begin + count) - from;
+            const Samples leftFrames = one.frames->left.subspan(from - one.begin, frames);
+            const Samples rightFrames = one.frames->right.subspan(from - one.begin, frames);
+            if (plain) {
+                Add(leftSums.subspan(from - begin), leftFrames);
+                Add(rightSums.subspan(from - begin), rightFrames);
+            } else {
+                AddScaled(leftSums.subspan(from - begin), leftFrames, gain);
+                AddScaled(rightSums.subspan(from - begin), rightFrames, gain);
+            }
+        }
+        Store(leftSums, limits, left + begin);
+        Store(rightSums, limits, right + begin);
+    }
+
+    std::vector<Sounding> soundings;
+    float gain;
+    ClipLimits limits;
+    std::int32_t total;
+    std::int16_t* left = nullptr;
+    std::int16_t* right = nullptr;
+};
+
+} // namespace
+
+WaveData MixWaves(std::vector<WaveData> waves, std::span<const WaveFilePlacement> placements, std::int32_t gain,
+                  std::int32_t pan, std::int32_t clip)
+{
+    ConvertWaves(waves, Shared().Channels == 2 ? pan : 0);
+    const std::vector<StereoFrames> frames = TakeFrames(waves);
+    const ClipLimits limits{ClipLimit(clip, std::numeric_limits<std::int16_t>::min()),
+                            ClipLimit(clip, std::numeric_limits<std::int16_t>::max())};
+    return Mix(TakeSoundings(placements, frames), gain, limits).Render();
+}
+
+} // namespace sprout

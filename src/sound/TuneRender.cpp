@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sound/TuneRender.h"
+
+#include <cstddef>
+#include <exception>
+#include <vector>
+
+#include "core/Busy.h"
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "sound/Mixer.h"
+#include "sound/StepBatch.h"
+#include "sound/WavOperations.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::int32_t kCycleClip = 80;
+
+WaveData RenderOne(TuneStep& step, BeatSource source)
+{
+    const Hourglass hourglass;
+    try {
+        StepBatch batch;
+        batch.AddStep(step, source);
+        batch.Render();
+        return step.StepWave;
+    } catch (const std::exception&) {
+        return EmptyWave();
+    }
+}
+
+/// One silent frame.
+WaveData SilentFrame()
+{
+    WaveData wave = EmptyWave();
+    wave.Length = 1;
+    wave.WavL = Channel(1);
+    wave.WavR = wave.WavL;
+    return wave;
+}
+
+WaveData MixCycle(const Tune& tune)
+{
+    const std::int32_t tempo = Shared().Song.Tempo;
+    const std::int32_t rate = Shared().SampleRate;
+    std::vector<WaveData> waves{SilentFrame()};
+    std::vector<WaveFilePlacement> placements;
+    for (std::int32_t number = 1; number <= tune.StepCount; ++number) {
+        const TuneStep& step = At(tune.Steps, number);
+        waves.push_back(step.OnPos == 1 ? step.StepWave : EmptyWave());
+        if (step.OnPos == 1)
+            placements.push_back({CellOffset(number, 1, tempo, rate), number});
+    }
+    // The silent frame behind the last cell makes the wave a whole cycle long, however short the last sound is.
+    placements.push_back({CellOffset(tune.StepCount, 0, tempo, rate), 0});
+    return MixWaves(std::move(waves), placements, 100, 0, kCycleClip);
+}
+
+WaveData RenderCycle(Tune& tune, BeatSource source)
+{
+    const WorkingSign sign;
+    try {
+        StepBatch batch;
+        batch.AddTune(tune, source, CopiedStep::Valid);
+        batch.Render();
+        return MixCycle(tune);
+    } catch (const std::exception&) {
+        return EmptyWave();
+    }
+}
+
+} // namespace
+
+WaveData RenderStep(const TuneStep& step)
+{
+    TuneStep rendered = step;
+    return RenderOne(rendered, BeatSource::Song);
+}
+
+WaveData RenderOwnBeatStep(TuneStep& step)
+{
+    TuneStep rendered = step;
+    WaveData wave = RenderOne(rendered, BeatSource::OwnBeat);
+    step.StepBeat = std::move(rendered.StepBeat); // it may have been loaded
+    return wave;
+}
+
+void RenderStarCycle(Tune& tune)
+{
+    tune.TuneWave = RenderCycle(tune, BeatSource::Song);
+    tune.TuneWaveValid = true;
+}
+
+void RenderTuneCycle(Tune& tune)
+{
+    tune.TuneWave = RenderCycle(tune, BeatSource::OwnBeat);
+    tune.TuneWaveValid = true;
+}
+
+void RenderTrackSteps(Tune& tune)
+{
+    Tune* const one = &tune;
+    RenderTrackSteps(std::span(&one, 1));
+}
+
+void RenderTrackSteps(std::span<Tune* const> tunes)
+{
+    StepBatch batch;
+    for (Tune* const tune : tunes)
+        batch.AddTune(*tune, BeatSource::Song, CopiedStep::StaysAsItIs);
+    batch.Render();
+}
+
+} // namespace sprout

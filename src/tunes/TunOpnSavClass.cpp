@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tunes/TunOpnSavClass.h"
+
+#include <exception>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "core/Errors.h"
+#include "core/FileHead.h"
+#include "core/Numbers.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "core/Text.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+#include "tunes/TuneVersions.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void Write_Tune_File(const LongsWriter& data, const fs::path& path, Flush flush)
+{
+    const std::string head = FileHead("TqTun", " Sprout Tune File");
+    const std::string_view tail = FileTail();
+    std::vector<std::span<const std::byte>> pieces = data.Pieces();
+    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
+    pieces.push_back(std::as_bytes(std::span(tail)));
+    TheServices().files->ReplaceFile(path, pieces, flush);
+}
+
+void LoadVersion(Tune& tune, const fs::path& path, TuneLoad mode)
+{
+    FileSource source(path);
+    const auto version = static_cast<float>(NumberPrefix(HeadValue(source, "File Version", "0")));
+    tune = Tune();
+    if (version == 2.0F)
+        Load_Tune_V20(tune, source, path, mode);
+    else if (version == 0.0F)
+        Load_Tune_V00(tune, path, mode);
+}
+
+} // namespace
+
+void TunOpnSavClass::Save_Tune(const fs::path& path)
+{
+    const Tune& tune = Shared().TuneClipboard;
+    Write_Tune_File(Write_Tune_Data(tune), path, saveFlush);
+    if (!Shared().SongBeatsInside)
+        WriteTuneCache(tune, path);
+}
+
+void TunOpnSavClass::Load_Tune(const fs::path& path, TuneLoad mode)
+{
+    Tune& tune = Shared().TuneClipboard;
+    const fs::path file = FindFile(path);
+    if (file.empty())
+        return ResetTune(tune);
+    try {
+        LoadVersion(tune, file, mode);
+    } catch (const std::exception& error) {
+        TheServices().messages->MessageBox("Error Opening File", ErrorText(error));
+    }
+}
+
+bool IsOriginalTune(const Tune& tune)
+{
+    return BeginsIgnoringCase(tune.CreatedBy, kProductFamily);
+}
+
+} // namespace sprout

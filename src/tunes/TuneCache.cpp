@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <fstream>
+#include <ios>
+#include <span>
+#include <utility>
+
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "tunes/TuneVersions.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path CachePath(const fs::path& tunePath)
+{
+    return tunePath.native() + "Cache";
+}
+
+/// Opens a file for writing without emptying it; makes it where it is missing.
+bool OpenKept(std::filebuf& file, const fs::path& path)
+{
+    return file.open(path, std::ios::in | std::ios::out | std::ios::binary) ||
+           file.open(path, std::ios::out | std::ios::binary);
+}
+
+} // namespace
+
+void WriteTuneCache(const Tune& tune, const fs::path& path)
+{
+    LongsWriter data;
+    data.Put(0);
+    data.PutText(FileStamp(path));
+    data.PutWave(tune.TuneWave);
+    data.Replace(0, data.Count() - 1);
+    std::filebuf file;
+    bool written = OpenKept(file, CachePath(path));
+    for (const std::span<const std::byte> piece : data.Pieces()) {
+        const auto count = static_cast<std::streamsize>(piece.size());
+        written = written && file.sputn(reinterpret_cast<const char*>(piece.data()), count) == count;
+    }
+    if (!written || !file.close())
+        throw RunTimeError("The file " + PathText(CachePath(path)) + " could not be written.");
+}
+
+void ReadTuneCache(Tune& tune, const fs::path& path)
+{
+    const fs::path cache = FindFile(CachePath(path));
+    if (cache.empty())
+        return;
+    try {
+        FileSource source(cache);
+        LongsReader data(source, 0);
+        if (data.GetText() != tune.DateStamp)
+            return;
+        tune.TuneWave = data.GetWave();
+        tune.TuneWaveValid = true;
+    } catch (const RunTimeError&) {
+        return; // the tune is rendered afresh when it is played
+    }
+}
+
+} // namespace sprout

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/IniFile.h"
+
+namespace sprout {
+
+/// Place of a name that the index does not hold: behind all others.
+inline constexpr std::int32_t kNoPlace = 1'000'000;
+
+/// The order that the user gave to the tunes of a folder: an ini file with the section `SortOrder`, a name and its
+/// place a line. A value: it is read once, and written once with `Write`.
+class TuneIndex {
+public:
+    /// The order in the file; none where it cannot be read.
+    [[nodiscard]] static TuneIndex Read(const std::filesystem::path& file);
+
+    /// The place of a name, in any letter case; `kNoPlace` where it has none.
+    [[nodiscard]] std::int32_t Place(std::string_view name) const;
+
+    /// Gives the names the places 1, 2, ...; other names keep theirs.
+    void SetOrder(std::span<const std::string> names);
+
+    /// Writes the order back, keeping whatever else the file holds. A failure is silent, as in a read-only folder.
+    void Write() const;
+
+private:
+    std::filesystem::path path;
+    IniFile ini;
+};
+
+/// The order of the tunes in `UserTunes`.
+[[nodiscard]] std::filesystem::path TuneIndexFile();
+
+} // namespace sprout

@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <exception>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+#include "core/Errors.h"
+#include "core/FileHead.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+#include "tunes/BeatFiles.h"
+#include "tunes/TuneVersions.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::int64_t kStepElements = 4;
+
+void Tell(std::string_view text)
+{
+    TheServices().messages->MessageBox("Error Loading Tune File", text);
+}
+
+void ReadListPart(LongsReader& data, Tune& tune, const fs::path& path)
+{
+    static_cast<void>(data.GetText()); // a file renamed by hand is known by its new name
+    tune.Name = BaseName(path);
+    tune.CreatedBy = data.GetText();
+    tune.Picture = data.GetPicture();
+}
+
+void ReadSteps(LongsReader& data, Tune& tune)
+{
+    const std::int32_t count = data.Get();
+    data.Require(count, kStepElements);
+    tune.Steps.resize(static_cast<std::size_t>(count) + 1);
+    tune.StepCount = count;
+    for (std::int32_t i = 1; i <= count; ++i) {
+        TuneStep& step = At(tune.Steps, i);
+        step.OnPos = data.Get();
+        step.PitchShift = data.Get();
+        step.Duration = data.Get();
+        step.Volume = data.Get();
+    }
+}
+
+void ReadBeatNames(LongsReader& data, Tune& tune)
+{
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i)
+        if (At(tune.Steps, i).OnPos == 1)
+            At(tune.Steps, i).StepBeat.Name = data.GetText();
+}
+
+void ReadBeatEntry(LongsReader& data, Beat& beat)
+{
+    if (data.Get() != 1)
+        return LoadBeatFile(beat, beat.Name);
+    beat.DateStamp = data.GetText();
+    beat.Sound = data.GetWave();
+    beat.Picture = data.GetPicture();
+    beat.Loaded = true;
+}
+
+void ReadBeats(LongsReader& data, Tune& tune)
+{
+    // First on-step of each name as the file tells it; a beat that is not found loses its name on the way.
+    std::unordered_map<std::string, std::int32_t> firstSteps;
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
+        TuneStep& step = At(tune.Steps, i);
+        if (step.OnPos != 1) {
+            step.StepBeat.Picture = Shared().DefaultTunePicture;
+            continue;
+        }
+        const auto [first, isNew] = firstSteps.emplace(step.StepBeat.Name, i);
+        if (isNew)
+            ReadBeatEntry(data, step.StepBeat);
+        else
+            step.StepBeat = At(tune.Steps, first->second).StepBeat;
+    }
+}
+
+void ReadSound(LongsReader& data, Tune& tune, const fs::path& path)
+{
+    if (data.Get() == 1) {
+        tune.TuneWave = data.GetWave();
+        tune.TuneWaveValid = true;
+    }
+    tune.DateStamp = FileStamp(path);
+    if (!tune.TuneWaveValid)
+        ReadTuneCache(tune, path);
+}
+
+void ReadTune(LongsReader& data, Tune& tune, const fs::path& path, TuneLoad mode)
+{
+    ReadListPart(data, tune, path);
+    if (mode == TuneLoad::List)
+        return;
+    ReadSteps(data, tune);
+    ReadBeatNames(data, tune);
+    if (mode == TuneLoad::StepNames)
+        return;
+    ReadBeats(data, tune);
+    if (mode == TuneLoad::Beats)
+        return;
+    ReadSound(data, tune, path);
+}
+
+} // namespace
+
+void Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoad mode)
+{
+    try {
+        const std::optional<std::uint64_t> begin = FindHeadData(source);
+        if (!begin)
+            return Tell("Failed to find Data");
+        LongsReader data(source, *begin);
+        ReadTune(data, tune, path, mode);
+    } catch (const std::exception& error) {
+        Tell(ErrorText(error));
+    }
+}
+
+} // namespace sprout

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <string>
+#include <unordered_set>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "tunes/TuneVersions.h"
+
+namespace sprout {
+
+namespace {
+
+void WriteSteps(LongsWriter& data, const Tune& tune)
+{
+    data.Put(tune.StepCount);
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
+        const TuneStep& step = At(tune.Steps, i);
+        data.Put(step.OnPos);
+        data.Put(step.PitchShift);
+        data.Put(step.Duration);
+        data.Put(step.Volume);
+    }
+}
+
+void WriteBeatNames(LongsWriter& data, const Tune& tune)
+{
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i)
+        if (At(tune.Steps, i).OnPos == 1)
+            data.PutText(At(tune.Steps, i).StepBeat.Name);
+}
+
+void WriteBeatEntry(LongsWriter& data, const Beat& beat)
+{
+    const bool stored =
+        Shared().SongBeatsInside || !FileExists(NamedFile(Shared().UserBeats, StoredText(beat.Name), ".wav"));
+    data.Put(stored ? 1 : 0);
+    if (!stored)
+        return;
+    data.PutText(beat.DateStamp);
+    data.PutWave(beat.Sound);
+    data.PutPicture(beat.Picture);
+}
+
+void WriteBeatEntries(LongsWriter& data, const Tune& tune)
+{
+    // Names are equal when they are written alike: the reader knows no more of them.
+    std::unordered_set<std::string> written;
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
+        const TuneStep& step = At(tune.Steps, i);
+        if (step.OnPos == 1 && written.insert(StoredText(step.StepBeat.Name)).second)
+            WriteBeatEntry(data, step.StepBeat);
+    }
+}
+
+} // namespace
+
+LongsWriter Write_Tune_Data(const Tune& tune)
+{
+    LongsWriter data;
+    data.Put(0);
+    data.PutText(tune.Name);
+    data.PutText(tune.CreatedBy);
+    data.PutPicture(tune.Picture);
+    WriteSteps(data, tune);
+    WriteBeatNames(data, tune);
+    WriteBeatEntries(data, tune);
+    data.Put(Shared().SongBeatsInside ? 1 : 0);
+    // Whether the sound is that of the steps is not asked: a tune that was not rendered again plays its old sound.
+    if (Shared().SongBeatsInside)
+        data.PutWave(tune.TuneWave);
+    data.Replace(0, data.Count() - 1);
+    return data;
+}
+
+} // namespace sprout

@@ -1,0 +1,445 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sound/TuneRender.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/Errors.h"
+#include "sound/RenderThreads.h"
+#include "sound/SongMaker.h"
+#include "sound/StepCache.h"
+#include "sound/WavOperations.h"
+#include "sound/Waves.h"
+#include "support/FakeServices.h"
+
+namespace sprout {
+namespace {
+
+class TuneRenderTest : public testing::Test {
+protected:
+    TuneRenderTest()
+    {
+        TheStepCache().Clear();
+        Shared().TestTone = MakeTestTone();
+        Shared().Song.Tempo = kSlowTempo;
+    }
+    ~TuneRenderTest() override
+    {
+        TheStepCache().SetMostBytes(StepCache::kMostBytes);
+        TheStepCache().Clear();
+    }
+
+    [[nodiscard]] std::size_t Calls() const { return services.stretch.Calls().size(); }
+
+    void ExpectSignsRestored() const
+    {
+        EXPECT_EQ(services.screen.hourglasses, 0);
+        EXPECT_EQ(services.screen.processPics, 0);
+    }
+
+    void SaveBeat(const std::string& name, const WaveData& sound) const
+    {
+        SaveWaveFile(sound, Shared().UserBeats / (name + ".wav"));
+    }
+
+    FakeServices services;
+};
+
+using RenderStepTest = TuneRenderTest;
+
+TuneStep StepOf(std::int32_t beatIndex)
+{
+    TuneStep step;
+    step.OnPos = 1;
+    step.BeatIndex = beatIndex;
+    return step;
+}
+
+TEST_F(RenderStepTest, AtFullVolumeALoudBeatPassesUnclipped)
+{
+    const std::int32_t beat = AddBeat(LevelWave(600, 32767));
+    EXPECT_EQ(RenderStep(StepOf(beat)), LevelWave(600, 32767));
+    EXPECT_EQ(services.screen.hourglassesShown, 1);
+    ExpectSignsRestored();
+}
+
+TEST_F(RenderStepTest, AnyOtherVolumeClipsAt80Percent)
+{
+    TuneStep step = StepOf(AddBeat(LevelWave(600, 32767)));
+    step.Volume = 99;
+    EXPECT_EQ(RenderStep(step), LevelWave(600, 26214));
+    step.Volume = 200;
+    EXPECT_EQ(RenderStep(step), LevelWave(600, 26214));
+    step.Volume = 50;
+    EXPECT_EQ(RenderStep(step), LevelWave(600, 16384));
+}
+
+TEST_F(RenderStepTest, RunsTheStretchAlsoAtFactorsOfOne)
+{
+    static_cast<void>(RenderStep(StepOf(AddBeat(RampWave(600)))));
+    ASSERT_EQ(Calls(), 2u);
+    EXPECT_EQ(services.stretch.Calls()[0].pitchFactor, 1.0f);
+    EXPECT_EQ(services.stretch.Calls()[0].durationFactor, 1.0f);
+}
+
+TEST_F(RenderStepTest, PitchBeyondAnOctaveSoundsAsTheOctave)
+{
+    TuneStep step = StepOf(AddBeat(LevelWave(600, 1)));
+    for (const std::int32_t pitch : {12, 14, 1000000000, -12, -20})
+        step.PitchShift = pitch, static_cast<void>(RenderStep(step));
+    ASSERT_EQ(Calls(), 2u) << "one rendering an octave";
+    EXPECT_EQ(services.stretch.Calls()[0].pitchFactor, 2.0f);
+    EXPECT_EQ(services.stretch.Calls()[1].pitchFactor, 0.5f);
+}
+
+TEST_F(RenderStepTest, ABeatIndexOutsideTheSongSoundsTheTestTone)
+{
+    AddBeat(LevelWave(600, 5));
+    for (const std::int32_t index : {0, -1, 2, 1000000000})
+        EXPECT_EQ(RenderStep(StepOf(index)), Shared().TestTone) << index;
+    EXPECT_EQ(Calls(), 1u) << "all of them share one rendering";
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
+TEST_F(RenderStepTest, ABeatWithoutSoundIsSilent)
+{
+    const std::int32_t beat = AddBeat(WaveData());
+    EXPECT_EQ(RenderStep(StepOf(beat)), EmptyWave());
+    EXPECT_EQ(Calls(), 0u);
+    ExpectSignsRestored();
+}
+
+TEST_F(RenderStepTest, AShortBeatCountsItsLengthAfterTheConversion)
+{
+    const WaveData low = MonoWave(SampleList(128, 3), 11025, 16);
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(low))), MonoWave(SampleList(512, 3)));
+    const WaveData shorter = MonoWave(SampleList(127, 3), 11025, 16);
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(shorter))).Length, 0);
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(RampWave(511)))).Length, 0);
+}
+
+TEST_F(RenderStepTest, LoadsABeatOfTheSongOnFirstUse)
+{
+    SaveBeat("Drum", LevelWave(700, 9));
+    const std::int32_t beat = AddBeat(WaveData(), "Drum");
+    At(Shared().Song.SongBeats, beat).Loaded = false;
+    EXPECT_EQ(RenderStep(StepOf(beat)), LevelWave(700, 9));
+    EXPECT_TRUE(At(Shared().Song.SongBeats, beat).Loaded);
+    EXPECT_EQ(At(Shared().Song.SongBeats, beat).Sound, LevelWave(700, 9));
+}
+
+TEST_F(RenderStepTest, ARunTimeErrorIsSilent)
+{
+    WaveData broken = RampWave(600);
+    broken.Length = 601;
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(broken))), EmptyWave());
+    Shared().Song.SongBeatCount = 5;
+    EXPECT_EQ(RenderStep(StepOf(5)), EmptyWave());
+    ExpectSignsRestored();
+}
+
+TEST_F(RenderStepTest, TakesABeatOfAnUnknownFormatAsItStands)
+{
+    WaveData strange = RampWave(600);
+    strange.Bits = 24;
+    strange.Rate = 0;
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(strange))), strange);
+}
+
+TEST_F(RenderStepTest, AFailedStretchIsSilentAndTriedAgain)
+{
+    const TuneStep step = StepOf(AddBeat(LevelWave(600, 5)));
+    services.stretch.fails = true;
+    EXPECT_EQ(RenderStep(step).Length, 0);
+    services.stretch.fails = false;
+    EXPECT_EQ(RenderStep(step), LevelWave(600, 5));
+}
+
+TEST(RenderOwnBeatStep, TakesTheStepsOwnBeat)
+{
+    const FakeServices services;
+    Shared().TestTone = MakeTestTone();
+    TuneStep step = StepOf(AddBeat(LevelWave(600, 5)));
+    EXPECT_EQ(RenderOwnBeatStep(step), Shared().TestTone) << "no name";
+    step.StepBeat.Name = "Mine";
+    step.StepBeat.Sound = LevelWave(600, 7);
+    step.StepBeat.Loaded = true;
+    EXPECT_EQ(RenderOwnBeatStep(step), LevelWave(600, 7));
+    EXPECT_FALSE(step.StepWaveValid);
+    EXPECT_EQ(step.StepWave.Length, 0);
+}
+
+TEST_F(TuneRenderTest, TheOwnBeatIsLoadedOnFirstUseAndStays)
+{
+    SaveBeat("Bell", LevelWave(800, 4));
+    TuneStep step;
+    step.StepBeat.Name = "Bell";
+    EXPECT_EQ(RenderOwnBeatStep(step), LevelWave(800, 4));
+    EXPECT_TRUE(step.StepBeat.Loaded);
+    EXPECT_EQ(step.StepBeat.Sound, LevelWave(800, 4));
+}
+
+TEST_F(TuneRenderTest, AStepWhoseFileFailsTellsAndIsSilent)
+{
+    WriteBytes(Shared().UserBeats / "Bad.wav", "not a wave");
+    TuneStep step;
+    step.StepBeat.Name = "Bad";
+    EXPECT_EQ(RenderOwnBeatStep(step).Length, 0);
+    ASSERT_EQ(services.messages.shown.size(), 1u);
+    EXPECT_EQ(services.messages.shown[0].text, "No wave Data found in file");
+}
+
+TEST_F(TuneRenderTest, ACycleOfOffStepsIsSilentAndOneFrameLongerThanItsCells)
+{
+    for (const std::int32_t tempo : {320, 160, 333}) {
+        Shared().Song.Tempo = tempo;
+        Tune tune = MakeTune(16);
+        RenderStarCycle(tune);
+        const double frames = 16 * (60.0 / tempo) * 44100;
+        EXPECT_EQ(tune.TuneWave.Length, std::lrint(frames) + 1);
+        EXPECT_EQ(ListOf(tune.TuneWave.WavL), SampleList(static_cast<std::size_t>(tune.TuneWave.Length), 0));
+        EXPECT_TRUE(tune.TuneWaveValid);
+    }
+    EXPECT_EQ(services.screen.processPicsShown, 3);
+    ExpectSignsRestored();
+}
+
+TEST_F(TuneRenderTest, StepsSoundAtTheirCellsAndTheSumIsClippedAt80Percent)
+{
+    Tune tune = MakeTune(3);
+    SetStep(tune, 1, AddBeat(LevelWave(600, 20000)));
+    SetStep(tune, 3, AddBeat(LevelWave(kCellFrames + 600, 30000)));
+    RenderStarCycle(tune);
+    ASSERT_EQ(tune.TuneWave.Length, 3 * kCellFrames + 600) << "a beat that rings on makes the wave longer";
+    EXPECT_EQ(tune.TuneWave.WavL[1], 20000);
+    EXPECT_EQ(tune.TuneWave.WavL[600], 20000);
+    EXPECT_EQ(tune.TuneWave.WavL[601], 0);
+    EXPECT_EQ(tune.TuneWave.WavL[2 * kCellFrames], 0);
+    EXPECT_EQ(tune.TuneWave.WavR[2 * kCellFrames + 1], 26214);
+    EXPECT_EQ(tune.TuneWave.WavR[3 * kCellFrames + 600], 26214);
+}
+
+TEST_F(TuneRenderTest, EqualStepsOfACycleShareOneRenderingAndAllBecomeValid)
+{
+    const std::int32_t beat = AddBeat(LevelWave(600, 100));
+    Tune tune = MakeTune(4);
+    SetStep(tune, 1, beat);
+    SetStep(tune, 2, beat).Volume = 50;
+    SetStep(tune, 4, beat);
+    RenderStarCycle(tune);
+    EXPECT_EQ(Calls(), 2u);
+    EXPECT_TRUE(tune.Steps[1].StepWaveValid && tune.Steps[2].StepWaveValid && tune.Steps[4].StepWaveValid);
+    EXPECT_FALSE(tune.Steps[3].StepWaveValid);
+    EXPECT_TRUE(tune.Steps[4].StepWave.WavL.SharesBlockWith(tune.Steps[1].StepWave.WavL));
+}
+
+TEST_F(TuneRenderTest, AValidStepKeepsItsWaveAndLendsItToEqualOnes)
+{
+    Tune tune = MakeTune(3);
+    SetStep(tune, 1, 0);
+    SetStep(tune, 2, 0);
+    At(tune.Steps, 1).StepWave = LevelWave(2, 77);
+    At(tune.Steps, 1).StepWaveValid = true;
+    At(tune.Steps, 3).StepWave = LevelWave(2, 88); // off: silent all the same
+    At(tune.Steps, 3).StepWaveValid = true;
+    RenderStarCycle(tune);
+    EXPECT_EQ(Calls(), 0u);
+    EXPECT_EQ(tune.TuneWave.WavL[1], 77);
+    EXPECT_EQ(tune.TuneWave.WavL[kCellFrames + 2], 77);
+    EXPECT_EQ(tune.TuneWave.Length, 3 * kCellFrames + 1);
+    EXPECT_EQ(tune.TuneWave.WavL[2 * kCellFrames + 1], 0);
+}
+
+TEST_F(TuneRenderTest, OnlyOnStepsLend)
+{
+    const std::int32_t beat = AddBeat(LevelWave(600, 5));
+    Tune tune = MakeTune(2);
+    At(tune.Steps, 1).BeatIndex = beat;
+    At(tune.Steps, 1).StepWave = LevelWave(2, 77);
+    At(tune.Steps, 1).StepWaveValid = true;
+    SetStep(tune, 2, beat);
+    RenderStarCycle(tune);
+    EXPECT_EQ(tune.TuneWave.WavL[kCellFrames + 1], 5);
+}
+
+TEST_F(TuneRenderTest, TheTuneUnderEditComparesTheNamesOfItsBeats)
+{
+    Tune tune = MakeTune(4);
+    const auto own = [&tune](std::int32_t number, const std::string& name, std::int16_t level) {
+        TuneStep& step = SetStep(tune, number, number);
+        step.StepBeat.Name = name;
+        step.StepBeat.Sound = LevelWave(600, level);
+        step.StepBeat.Loaded = true;
+    };
+    own(1, "Drum", 10);
+    own(2, "Drum", 20);
+    own(3, "drum", 30);
+    SetStep(tune, 4, 1);
+    RenderTuneCycle(tune);
+    EXPECT_EQ(tune.TuneWave.WavL[1], 10);
+    EXPECT_EQ(tune.TuneWave.WavL[kCellFrames + 1], 10) << "the name decides";
+    EXPECT_EQ(tune.TuneWave.WavL[2 * kCellFrames + 1], 30) << "in its exact letters";
+    EXPECT_EQ(tune.Steps[4].StepWave, Shared().TestTone);
+}
+
+TEST_F(TuneRenderTest, StepsThatCopyDoNotLoadTheirBeats)
+{
+    SaveBeat("Drum", LevelWave(600, 8));
+    Tune tune = MakeTune(2);
+    SetStep(tune, 1, 0).StepBeat.Name = "Drum";
+    SetStep(tune, 2, 0).StepBeat.Name = "Drum";
+    RenderTuneCycle(tune);
+    EXPECT_TRUE(tune.Steps[1].StepBeat.Loaded);
+    EXPECT_FALSE(tune.Steps[2].StepBeat.Loaded);
+    EXPECT_EQ(tune.TuneWave.WavL[kCellFrames + 1], 8);
+}
+
+TEST_F(TuneRenderTest, MessagesOfBeatsComeInTheOrderOfTheSteps)
+{
+    Tune tune = MakeTune(3);
+    for (std::int32_t i = 1; i <= 3; ++i) {
+        const std::string name = "Bad" + std::to_string(4 - i);
+        WriteBytes(Shared().UserBeats / (name + ".wav"), "x");
+        SetStep(tune, i, 0).StepBeat.Name = name;
+    }
+    RenderTuneCycle(tune);
+    ASSERT_EQ(services.messages.shown.size(), 3u);
+    EXPECT_NE(services.messages.shown[0].title.find("Bad3"), std::string::npos);
+    EXPECT_NE(services.messages.shown[2].title.find("Bad1"), std::string::npos);
+}
+
+TEST_F(TuneRenderTest, AFailedCycleIsEmptyAndValid)
+{
+    for (const std::int32_t tempo : {0, -320, 1}) {
+        Shared().Song.Tempo = tempo;
+        Tune tune = MakeTune(tempo == 1 ? 64 : 16);
+        SetStep(tune, 2, 0);
+        tune.TuneWave = LevelWave(5, 5);
+        RenderStarCycle(tune);
+        EXPECT_EQ(tune.TuneWave, EmptyWave()) << tempo;
+        EXPECT_TRUE(tune.TuneWaveValid);
+        EXPECT_TRUE(tune.Steps[2].StepWaveValid);
+    }
+    ExpectSignsRestored();
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
+TEST_F(TuneRenderTest, ATuneWithFewerStepsThanItTellsFailsQuietly)
+{
+    for (const std::int32_t count : {4, 1000000000, -1}) {
+        Tune tune = MakeTune(3);
+        SetStep(tune, 3, 0);
+        tune.StepCount = count;
+        RenderStarCycle(tune);
+        EXPECT_EQ(tune.TuneWave, EmptyWave());
+        EXPECT_TRUE(tune.TuneWaveValid);
+    }
+    Tune none = MakeTune(0);
+    RenderTuneCycle(none);
+    EXPECT_EQ(none.TuneWave.Length, 1);
+}
+
+TEST_F(TuneRenderTest, StepsBeforeAFailureAreRendered)
+{
+    WaveData broken = RampWave(600);
+    broken.Length = 601;
+    Tune tune = MakeTune(4);
+    SetStep(tune, 1, AddBeat(LevelWave(600, 1)));
+    SetStep(tune, 2, AddBeat(broken));
+    SetStep(tune, 3, AddBeat(LevelWave(600, 3)));
+    SetStep(tune, 4, 1);
+    EXPECT_THROW(RenderTrackSteps(tune), RunTimeError);
+    EXPECT_TRUE(tune.Steps[1].StepWaveValid);
+    EXPECT_FALSE(tune.Steps[2].StepWaveValid);
+    EXPECT_FALSE(tune.Steps[3].StepWaveValid);
+    EXPECT_EQ(tune.Steps[4].StepWave.Length, 0);
+}
+
+TEST_F(TuneRenderTest, AStepOfATrackThatCopiesDoesNotBecomeValid)
+{
+    const std::int32_t beat = AddBeat(LevelWave(600, 5));
+    Tune tune = MakeTune(3);
+    SetStep(tune, 1, beat);
+    SetStep(tune, 3, beat);
+    RenderTrackSteps(tune);
+    EXPECT_TRUE(tune.Steps[1].StepWaveValid);
+    EXPECT_FALSE(tune.Steps[3].StepWaveValid);
+    EXPECT_EQ(tune.Steps[3].StepWave, LevelWave(600, 5));
+    // The search is made again the next time.
+    At(tune.Steps, 1).StepWave = LevelWave(2, 6);
+    RenderTrackSteps(tune);
+    EXPECT_EQ(tune.Steps[3].StepWave, LevelWave(2, 6));
+    // An invalid copy lends nothing: without the first step the third is rendered itself.
+    At(tune.Steps, 1).OnPos = 0;
+    RenderTrackSteps(tune);
+    EXPECT_TRUE(tune.Steps[3].StepWaveValid);
+    EXPECT_EQ(tune.Steps[3].StepWave, LevelWave(600, 5));
+}
+
+TEST_F(TuneRenderTest, EqualStepsOfSeveralTunesAreStretchedOnce)
+{
+    const std::int32_t beat = AddBeat(LevelWave(600, 5));
+    Tune first = MakeTune(1);
+    SetStep(first, 1, beat);
+    Tune second = MakeTune(2);
+    SetStep(second, 2, beat);
+    Tune* const both[] = {&first, &second};
+    RenderTrackSteps(both);
+    EXPECT_EQ(Calls(), 1u);
+    EXPECT_TRUE(second.Steps[2].StepWaveValid) << "it renders for itself, as tune after tune would";
+    EXPECT_EQ(services.screen.lastProgress, (std::pair<std::size_t, std::size_t>(1, 1)));
+}
+
+/// A tune of many different steps and a few equal ones.
+Tune ManySteps()
+{
+    Tune tune = MakeTune(40);
+    for (std::int32_t i = 1; i <= 40; ++i) {
+        TuneStep& step = SetStep(tune, i, i % 3 + 1);
+        step.PitchShift = i % 7;
+        step.Duration = 100 + 10 * (i % 4);
+        step.Volume = i % 5 == 0 ? 60 : 100;
+    }
+    return tune;
+}
+
+TEST_F(TuneRenderTest, CacheAndThreadsAreInvisibleInTheSamples)
+{
+    AddBeat(RampWave(900, 1));
+    AddBeat(MonoWave(SampleList(700, 11), 22050, 16));
+    Tune expected = ManySteps();
+    TheStepCache().SetMostBytes(0);
+    {
+        const RenderThreads one(1);
+        RenderStarCycle(expected);
+    }
+    EXPECT_EQ(TheStepCache().Count(), 0u);
+    for (const std::size_t bound : {StepCache::kMostBytes, std::size_t{0}, std::size_t{9000}})
+        for (const std::size_t threads : {0u, 1u, 4u})
+            for (int round = 0; round < 2; ++round) {
+                const RenderThreads most(threads);
+                TheStepCache().SetMostBytes(bound);
+                Tune tune = ManySteps();
+                RenderStarCycle(tune);
+                EXPECT_EQ(tune.TuneWave, expected.TuneWave) << bound << ' ' << threads;
+            }
+}
+
+TEST_F(TuneRenderTest, ASecondTuneTakesItsSoundsFromTheCache)
+{
+    AddBeat(LevelWave(900, 1));
+    Tune first = ManySteps();
+    RenderStarCycle(first);
+    const std::size_t calls = Calls();
+    Tune second = ManySteps();
+    RenderStarCycle(second);
+    EXPECT_EQ(Calls(), calls);
+    EXPECT_EQ(second.TuneWave, first.TuneWave);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sprout-library/BeatSound.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <span>
+
+#include "core/Errors.h"
+#include "core/Numbers.h"
+#include "core/Text.h"
+#include "sound/WavOperations.h"
+#include "sprout-library/Measure.h"
+#include "sprout-library/OwnSound.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr double kRate = 44100;
+constexpr std::size_t kLeadFrames = 44; // kept before the onset, and faded in
+
+/// Takes away what lies below 25 Hz.
+void CutLowest(std::vector<double>& sound)
+{
+    const double pole = std::exp(-2 * std::numbers::pi * 25 / kRate);
+    double before = 0, state = 0;
+    for (double& sample : sound) {
+        state = sample - before + pole * state;
+        before = sample;
+        sample = state;
+    }
+}
+
+/// Takes what is left of the mean away under a bow that is nothing at both ends.
+void CutOffset(std::vector<double>& sound)
+{
+    const double rest = Offset(sound);
+    for (std::size_t i = 0; i < sound.size(); ++i) {
+        const double place = static_cast<double>(i) / static_cast<double>(sound.size());
+        sound[i] -= rest * (1 - std::cos(2 * std::numbers::pi * place));
+    }
+}
+
+/// Cuts what comes before the onset and what is too soft behind the end.
+void Trim(std::vector<double>& sound)
+{
+    const double level = std::pow(10.0, (PeakDb(sound) + kOnsetDb + 3) / 20);
+    const auto heard = [level](double sample) { return std::abs(sample) > level; };
+    const auto onset = std::find_if(sound.begin(), sound.end(), heard);
+    const auto lead = std::min<std::ptrdiff_t>(onset - sound.begin(), kLeadFrames);
+    sound.erase(sound.begin(), onset - lead);
+    const double faint = level / 12;
+    const auto last = std::find_if(sound.rbegin(), sound.rend(), [faint](double s) { return std::abs(s) > faint; });
+    sound.erase(last.base(), sound.end());
+    for (std::size_t i = 0; i < static_cast<std::size_t>(lead); ++i)
+        sound[i] *= static_cast<double>(i) / static_cast<double>(lead);
+}
+
+void FadeOut(std::vector<double>& sound)
+{
+    // The last two fifths, 30 ms at least.
+    const std::size_t frames = std::min(sound.size(), std::max<std::size_t>(sound.size() * 2 / 5, 1323));
+    for (std::size_t i = 0; i < frames; ++i) {
+        const double place = static_cast<double>(i + 1) / static_cast<double>(frames);
+        const double gain = std::pow(std::cos(place * std::numbers::pi / 2), 2);
+        sound[sound.size() - frames + i] *= gain;
+    }
+}
+
+/// Brings the sound to a loudness as far as its peak may go, and holds back single peaks that stand in the way.
+void Level(std::vector<double>& sound, double loudnessDb)
+{
+    const double wantedDb = loudnessDb - LoudestDb(sound);
+    const double peakDb = PeakDb(sound);
+    const double gainDb = std::max(wantedDb, kLowestBeatPeakDb + 0.5 - peakDb);
+    const double ceiling = std::pow(10.0, (kHighestBeatPeakDb - 0.5) / 20);
+    const double knee = ceiling * 0.5;
+    const double gain = std::pow(10.0, gainDb / 20);
+    for (double& sample : sound) {
+        const double size = std::abs(sample * gain);
+        const double held = size <= knee ? size : knee + (ceiling - knee) * std::tanh((size - knee) / (ceiling - knee));
+        sample = std::copysign(held, sample);
+    }
+}
+
+WaveData MonoWave(std::span<const double> sound)
+{
+    std::vector<std::int16_t> samples;
+    samples.reserve(sound.size());
+    for (const double sample : sound)
+        samples.push_back(static_cast<std::int16_t>(RoundHalfEven(sample * 32767)));
+    WaveData wave = EmptyWave();
+    wave.Channels = 1;
+    wave.WavL = Channel::FromSamples(samples);
+    wave.Length = wave.WavL.UpperBound();
+    return wave;
+}
+
+} // namespace
+
+std::vector<double> BeatSounds::Raw(const BeatRecipe& recipe, double cents)
+{
+    const std::vector<std::string> parts = Split(recipe.Sound, ':');
+    if (parts.size() == 2 && parts[0] == "own")
+        return OwnSound(parts[1], recipe.Key, recipe.Seconds);
+    if (!font)
+        font = std::make_unique<SoundFont>(file);
+    if (parts.size() != 2)
+        throw RunTimeError(recipe.Name + ": \"" + recipe.Sound + "\" is no sound such as 0:24 or own:Zap.");
+    FontNote note;
+    note.Bank = std::stoi(parts[0]);
+    note.Program = std::stoi(parts[1]);
+    note.Key = recipe.Key;
+    note.Velocity = recipe.Velocity;
+    note.HeldSeconds = recipe.HeldSeconds;
+    // Slow strokes lose up to this at their beginning.
+    note.Seconds = recipe.Seconds + 0.2;
+    note.Cents = cents;
+    return font->Play(note);
+}
+
+WaveData BeatSounds::Make(const BeatRecipe& recipe, const BeatFamily& family)
+{
+    double cents = 0;
+    std::vector<double> sound = Raw(recipe, cents);
+    // Played notes are a little off, and the second measure is nearer than the first.
+    for (int turn = 0; recipe.Pitched && turn < 2; ++turn) {
+        Trim(sound);
+        cents -= CentsOff(sound, recipe.Key);
+        sound = Raw(recipe, cents);
+    }
+    Trim(sound);
+    sound.resize(std::min(sound.size(), static_cast<std::size_t>(recipe.Seconds * kRate)));
+    CutLowest(sound);
+    FadeOut(sound);
+    Level(sound, family.LoudnessDb);
+    CutOffset(sound);
+    return MonoWave(sound);
+}
+
+} // namespace sprout

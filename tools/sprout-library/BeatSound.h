@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <vector>
+
+#include "core/WaveData.h"
+#include "sprout-library/BeatTable.h"
+#include "sprout-library/SoundFont.h"
+
+namespace sprout {
+
+// What every beat of the library keeps to; the check of a finished library asks for the same.
+inline constexpr double kLongestBeatOfLibrarySeconds = 3;
+inline constexpr double kHighestBeatPeakDb = -6;
+inline constexpr double kLowestBeatPeakDb = -12;
+inline constexpr double kMostCentsOff = 5;
+inline constexpr double kMostLoudnessOffFamilyDb = 3;
+inline constexpr double kLatestOnsetSeconds = 0.005;
+inline constexpr double kOnsetDb = -40; ///< against the peak: here a sound has begun
+inline constexpr double kEndDb = -60;   ///< what the last 5 ms stay below
+inline constexpr double kMostOffset = 0.001;
+
+/// Makes the sounds of beats. The sound font is loaded at the first use.
+class BeatSounds {
+public:
+    explicit BeatSounds(std::filesystem::path fontFile) : file(std::move(fontFile)) {}
+
+    /// A mono wave at 44,100 Hz, 16 bits: in tune, begun at once, faded out, at its family's loudness as far as the
+    /// peak may go. Throws `RunTimeError`.
+    [[nodiscard]] WaveData Make(const BeatRecipe& recipe, const BeatFamily& family);
+
+private:
+    [[nodiscard]] std::vector<double> Raw(const BeatRecipe& recipe, double cents);
+
+    std::filesystem::path file;
+    std::unique_ptr<SoundFont> font;
+};
+
+} // namespace sprout

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "core/Song.h"
+#include "core/WaveData.h"
+
+namespace sprout {
+
+/// One beat as it sounds.
+struct BeatFacts {
+    std::string Name;
+    double Seconds = 0;
+    double PeakDb = 0;
+    double LoudestDb = 0;
+    double OnsetSeconds = 0;
+    double EndDb = 0;
+    double Offset = 0;
+    int Key = 0;              ///< the C on which it stands; 0 where it has no pitch
+    double CentsOff = 0;      ///< against that key
+    std::uintmax_t Bytes = 0; ///< of its .wav
+};
+
+/// One song as it sounds.
+struct SongFacts {
+    std::string Name;
+    double Seconds = 0;
+    int Tracks = 0;
+    double PeakDb = 0;
+    double LoudnessDb = 0;
+    double Clash = 0; ///< share of clashing intervals, 0 to 1
+};
+
+[[nodiscard]] BeatFacts MeasureBeat(const std::string& name, const WaveData& wave);
+
+/// Measures the shared song; mixes it where it is not mixed yet.
+[[nodiscard]] SongFacts MeasureSong(const std::string& name);
+
+/// Share of clashing intervals in a song whose steps are rendered: of all pairs of pitched sounds that are heard at one
+/// time, each weighted by how long, those whose pitches are 1, 2, 6, 10 or 11 semitones apart, whatever the octave.
+/// Pitched beats of the library stand on C, so that a step's shift is its pitch.
+[[nodiscard]] double ClashShare(const SongState& song);
+
+/// True for beats whose family has a pitch: all but drums and fun sounds.
+[[nodiscard]] bool IsPitched(const std::string& beatName);
+
+/// Measures all beats, tunes and songs of a library that lies in `folder`, prints what was found and what breaks a
+/// rule. Returns the count of broken rules.
+int CheckLibrary(const std::filesystem::path& folder, std::ostream& out);
+
+} // namespace sprout

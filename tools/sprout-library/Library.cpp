@@ -1,0 +1,252 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sprout-library/Library.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <fstream>
+#include <set>
+
+#include "core/Errors.h"
+#include "core/IniFile.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "service/Machine.h"
+#include "service/PictureFiles.h"
+#include "service/Services.h"
+#include "songs/OpenSaveClass.h"
+#include "sound/TuneRender.h"
+#include "sound/WavOperations.h"
+#include "sprout-library/BeatSound.h"
+#include "sprout-library/BeatTable.h"
+#include "sprout-library/DrawPicture.h"
+#include "sprout-library/Freshness.h"
+#include "sprout-library/SongText.h"
+#include "sprout-library/Table.h"
+#include "tunes/TunOpnSavClass.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uint32_t kPaper = 0xFFF8E7;
+
+/// The files of a folder with an extension, by name.
+std::vector<fs::path> FilesOf(const fs::path& folder, std::string_view extension)
+{
+    std::vector<fs::path> files;
+    if (fs::is_directory(folder))
+        for (const fs::directory_entry& entry : fs::directory_iterator(folder))
+            if (entry.path().extension() == extension)
+                files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+void WriteText(const fs::path& file, std::string_view bytes)
+{
+    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+    stream << bytes;
+    if (!stream.flush())
+        throw RunTimeError("The file " + file.native() + " could not be written.");
+}
+
+/// Makes one library; each kind needs the kinds before it.
+class Maker {
+public:
+    Maker(Session& ownSession, const LibraryPlaces& ownPlaces)
+        : session(ownSession),
+          places(ownPlaces),
+          texts(places.Source / "library"),
+          art(places.Source / "art"),
+          sounds(places.SoundFont),
+          freshness(places.Output)
+    {
+        base.Add(std::to_string(places.Time));
+        base.AddFile(TheServices().machine->ExecutablePath());
+        for (const char* kind : {"Beats", "Tunes", "Stars", "Songs"})
+            fs::create_directories(places.Output / kind);
+        SetUserRoot(places.Output);
+    }
+
+    void MakeAll()
+    {
+        MakeBeats();
+        MakeTunes();
+        MakeStars();
+        MakeSongs();
+        freshness.Finish();
+    }
+
+private:
+    void MakeBeats();
+    void MakeBeat(const BeatRecipe& recipe, const BeatFamily& family);
+    [[nodiscard]] Picture BeatPicture(const BeatRecipe& recipe, const BeatFamily& family) const;
+    void MakeTunes();
+    void MakeTune(const std::string& name);
+    void WriteTuneOrder(const std::vector<std::string>& names);
+    void MakeStars();
+    void MakeSongs();
+    [[nodiscard]] Fingerprint TunePrint(const std::string& name) const;
+
+    /// Gives a finished file of the tree its time, and stops where the engine told of a failure.
+    void Finished(const fs::path& file)
+    {
+        const auto time = std::chrono::sys_seconds(std::chrono::seconds(places.Time));
+        fs::last_write_time(places.Output / file, std::chrono::file_clock::from_sys(time));
+        if (!session.NoMessageSince(0))
+            throw RunTimeError("The file " + file.native() + " was not made.");
+    }
+
+    Session& session;
+    LibraryPlaces places;
+    fs::path texts;
+    fs::path art;
+    BeatSounds sounds;
+    Freshness freshness;
+    Fingerprint base;
+    Fingerprint allBeats; // tunes are made again with any beat: they are few, and a look into each is not shorter
+};
+
+Picture Maker::BeatPicture(const BeatRecipe& recipe, const BeatFamily& family) const
+{
+    const fs::path glyph = art / "beats" / (recipe.Glyph + ".svg");
+    if (recipe.Name.ends_with(" High"))
+        return DrawPicture(family.HighColour, std::array{art / "beats" / "ground" / "High.svg", glyph});
+    if (recipe.Name.ends_with(" Low"))
+        return DrawPicture(family.LowColour, std::array{art / "beats" / "ground" / "Low.svg", glyph});
+    return DrawPicture(family.PlainColour, std::array{glyph});
+}
+
+void Maker::MakeBeat(const BeatRecipe& recipe, const BeatFamily& family)
+{
+    const fs::path wav = fs::path("Beats") / (recipe.Name + ".wav");
+    const fs::path bmp = fs::path("Beats") / (recipe.Name + ".bmp");
+    const Picture picture = BeatPicture(recipe, family);
+    Fingerprint print = base;
+    for (const double number : {static_cast<double>(recipe.Key), static_cast<double>(recipe.Velocity),
+                                recipe.HeldSeconds, recipe.Seconds, family.LoudnessDb})
+        print.Add(std::to_string(number));
+    print.Add(recipe.Sound).Add(recipe.Pitched ? "pitched" : "");
+    print.Add({reinterpret_cast<const char*>(picture.Pixels().data()), picture.Pixels().size_bytes()});
+    allBeats.Add(recipe.Name).Add(print.Text());
+    if (freshness.IsFresh({wav, bmp}, print.Text()))
+        return;
+    SaveWaveFile(sounds.Make(recipe, family), places.Output / wav);
+    TheServices().pictures->SavePicture(picture, places.Output / bmp);
+    Finished(wav);
+    Finished(bmp);
+}
+
+void Maker::MakeBeats()
+{
+    const auto families = ReadFamilyTable(texts / "families.txt");
+    allBeats = base;
+    for (const BeatRecipe& recipe : ReadBeatTable(texts / "beats.txt")) {
+        const auto family = families.find(recipe.Family());
+        if (family == families.end())
+            throw RunTimeError("The beat " + recipe.Name + " is of no family.");
+        MakeBeat(recipe, family->second);
+    }
+}
+
+Fingerprint Maker::TunePrint(const std::string& name) const
+{
+    Fingerprint print = allBeats;
+    return print.AddFile(texts / "tunes" / (name + ".ini")).AddFile(art / "tunes" / (name + ".svg"));
+}
+
+/// The text is a tune file of the old form: it is read beside its picture as such, and saved in the current form.
+void Maker::MakeTune(const std::string& name)
+{
+    const fs::path tune = fs::path("Tunes") / (name + ".TqTun");
+    if (freshness.IsFresh({tune}, TunePrint(name).Text()))
+        return;
+    const fs::path file = places.Output / tune;
+    const fs::path picture = places.Output / "Tunes" / (name + ".bmp");
+    WriteText(file, ReadWholeFile(texts / "tunes" / (name + ".ini")));
+    const std::array drawings = {art / "tunes" / (name + ".svg")};
+    TheServices().pictures->SavePicture(DrawPicture(kPaper, drawings), picture);
+    TunOpnSavClass files;
+    files.Load_Tune(file);
+    fs::remove(picture);
+    Tune& loaded = Shared().TuneClipboard;
+    for (const TuneStep& step : loaded.Steps)
+        if (step.OnPos == 1 && step.StepBeat.Name.empty())
+            throw RunTimeError("The tune " + name + " plays a beat that is not there.");
+    Shared().Song.Tempo = kReferenceTempo;
+    RenderTuneCycle(loaded);
+    files.Save_Tune(file);
+    Finished(tune);
+}
+
+void Maker::WriteTuneOrder(const std::vector<std::string>& names)
+{
+    const fs::path index = fs::path("Tunes") / "TqTunes.ini";
+    IniFile order;
+    int place = 0;
+    for (const std::string& name : names)
+        order.SetValue("SortOrder", name, std::to_string(++place));
+    if (freshness.IsFresh({index}, Fingerprint(base).Add(order.Bytes()).Text()))
+        return;
+    order.Write(places.Output / index);
+    Finished(index);
+}
+
+void Maker::MakeTunes()
+{
+    std::vector<std::string> names;
+    for (const TableRow& row : ReadTable(texts / "tunes.txt", 2, 2))
+        names.push_back(row.cells[0]);
+    for (const fs::path& file : FilesOf(texts / "tunes", ".ini"))
+        if (std::find(names.begin(), names.end(), BaseName(file)) == names.end())
+            throw RunTimeError("The tune " + BaseName(file) + " is missing from tunes.txt.");
+    for (const std::string& name : names)
+        MakeTune(name);
+    WriteTuneOrder(names);
+}
+
+void Maker::MakeStars()
+{
+    for (const fs::path& text : FilesOf(texts / "stars", ".ini")) {
+        const std::string name = BaseName(text);
+        const fs::path star = fs::path("Stars") / (name + ".TqSta");
+        const fs::path bmp = fs::path("Stars") / (name + ".bmp");
+        const std::array drawings = {art / "stars" / (name + ".svg")};
+        if (freshness.IsFresh({star, bmp}, Fingerprint(base).AddFile(text).AddFile(drawings[0]).Text()))
+            continue;
+        WriteText(places.Output / star, ReadWholeFile(text));
+        TheServices().pictures->SavePicture(DrawPicture(kPaper, drawings), places.Output / bmp);
+        Finished(star);
+        Finished(bmp);
+    }
+}
+
+void Maker::MakeSongs()
+{
+    for (const fs::path& file : FilesOf(texts / "songs", ".txt")) {
+        const fs::path song = fs::path("Songs") / (BaseName(file) + ".TqSng");
+        const SongText text = ReadSongText(file);
+        Fingerprint print = base;
+        print.AddFile(file);
+        for (const SongTextTrack& track : text.Tracks)
+            print.Add(TunePrint(track.TuneName).Text());
+        if (freshness.IsFresh({song}, print.Text()))
+            continue;
+        BuildSong(text);
+        OpenSaveClass().Save_Song(places.Output / song);
+        Finished(song);
+    }
+}
+
+} // namespace
+
+void MakeLibrary(Session& session, const LibraryPlaces& places)
+{
+    Maker(session, places).MakeAll();
+}
+
+} // namespace sprout

@@ -1,0 +1,220 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sprout-library/Measure.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <numbers>
+
+namespace sprout {
+
+namespace {
+
+constexpr double kRate = 44100;
+constexpr double kLoudnessOffset = -0.691; // of BS.1770: a 997 Hz sine at full scale reads -3.01
+
+constexpr int kLowestC = 24;
+constexpr int kHighestC = 108;
+
+struct Biquad {
+    double b0, b1, b2, a1, a2;
+};
+
+/// The first filter: a shelf that lifts what a head lifts.
+Biquad HeadShelf()
+{
+    constexpr double frequency = 1681.974450955533, gainDb = 3.999843853973347, q = 0.7071752369554196;
+    const double k = std::tan(std::numbers::pi * frequency / kRate);
+    const double high = std::pow(10.0, gainDb / 20);
+    const double band = std::pow(high, 0.4996667741545416);
+    const double a0 = 1 + k / q + k * k;
+    return {(high + band * k / q + k * k) / a0, 2 * (k * k - high) / a0, (high - band * k / q + k * k) / a0,
+            2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0};
+}
+
+/// The second filter: what is too low to count.
+Biquad LowCut()
+{
+    constexpr double frequency = 38.13547087602444, q = 0.5003270373238773;
+    const double k = std::tan(std::numbers::pi * frequency / kRate);
+    const double a0 = 1 + k / q + k * k;
+    return {1, -2, 1, 2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0};
+}
+
+void Filter(const Biquad& f, std::vector<double>& sound)
+{
+    double z1 = 0, z2 = 0;
+    for (double& sample : sound) {
+        const double out = f.b0 * sample + z1;
+        z1 = f.b1 * sample - f.a1 * out + z2;
+        z2 = f.b2 * sample - f.a2 * out;
+        sample = out;
+    }
+}
+
+/// Mean squares of windows of `length` frames, `step` apart; a shorter sound is one window, filled up with silence.
+std::vector<double> Powers(std::span<const double> sound, std::size_t length, std::size_t step)
+{
+    std::vector<double> sums(sound.size() + 1);
+    for (std::size_t i = 0; i < sound.size(); ++i)
+        sums[i + 1] = sums[i] + sound[i] * sound[i];
+    std::vector<double> powers;
+    if (sound.size() < length)
+        return {sums.back() / static_cast<double>(length)};
+    for (std::size_t i = 0; i + length <= sound.size(); i += step)
+        powers.push_back((sums[i + length] - sums[i]) / static_cast<double>(length));
+    return powers;
+}
+
+double PowerDb(double power)
+{
+    return power > 0 ? std::max(kSilenceDb, kLoudnessOffset + 10 * std::log10(power)) : kSilenceDb;
+}
+
+double MeanAbove(std::span<const double> powers, double gateDb)
+{
+    double sum = 0;
+    int count = 0;
+    for (const double power : powers) {
+        if (PowerDb(power) > gateDb) {
+            sum += power;
+            ++count;
+        }
+    }
+    return count > 0 ? sum / count : 0;
+}
+
+/// Normalised autocorrelation of the whole sound at a lag of whole frames.
+double Correlation(std::span<const double> sound, std::size_t lag)
+{
+    double product = 0, power = 0;
+    for (std::size_t i = 0; i + lag < sound.size(); ++i) {
+        product += sound[i] * sound[i + lag];
+        power += sound[i] * sound[i] + sound[i + lag] * sound[i + lag];
+    }
+    return power > 0 ? 2 * product / power : 0;
+}
+
+/// The best lag near `lag`, within `reach` (a ratio), between the frames by a parabola.
+double BestLag(std::span<const double> sound, double lag, double reach)
+{
+    const auto from = static_cast<std::size_t>(std::floor(lag / reach));
+    const auto to = static_cast<std::size_t>(std::ceil(lag * reach)) + 1;
+    std::size_t best = from;
+    double most = -2;
+    for (std::size_t i = from; i <= to; ++i) {
+        const double value = Correlation(sound, i);
+        if (value > most) {
+            most = value;
+            best = i;
+        }
+    }
+    const double before = Correlation(sound, best - 1), behind = Correlation(sound, best + 1);
+    const double bow = before - 2 * most + behind;
+    return static_cast<double>(best) + (bow < 0 ? 0.5 * (before - behind) / bow : 0);
+}
+
+/// The correlation at a lag, if it stands out against lags an eighth of a tone and more away; else 0.
+double TopNear(std::span<const double> sound, double lag)
+{
+    const auto at = [&](double ratio) {
+        return Correlation(sound, static_cast<std::size_t>(std::lround(lag * ratio)));
+    };
+    const double top = std::max({at(1), at(0.985), at(1.015)});
+    return top > at(0.85) && top > at(1.15) ? top : 0;
+}
+
+double PeriodOf(int key)
+{
+    return kRate / (440 * std::pow(2.0, (key - 69) / 12.0));
+}
+
+/// What matters is where most of the sound is: its loud first half second, behind the noise of the stroke.
+std::span<const double> Body(std::span<const double> sound)
+{
+    const auto from = std::min<std::size_t>(sound.size() / 4, 2205);
+    return sound.subspan(from, std::min<std::size_t>(sound.size() - from, 22050));
+}
+
+} // namespace
+
+std::vector<double> Samples(const Channel& channel)
+{
+    std::vector<double> sound;
+    sound.reserve(channel.Samples().size());
+    for (const std::int16_t sample : channel.Samples())
+        sound.push_back(sample / 32768.0);
+    return sound;
+}
+
+double Decibels(double amplitude)
+{
+    return amplitude > 0 ? std::max(kSilenceDb, 20 * std::log10(amplitude)) : kSilenceDb;
+}
+
+double PeakDb(std::span<const double> sound)
+{
+    double peak = 0;
+    for (const double sample : sound)
+        peak = std::max(peak, std::abs(sample));
+    return Decibels(peak);
+}
+
+double Offset(std::span<const double> sound)
+{
+    double sum = 0;
+    for (const double sample : sound)
+        sum += sample;
+    return sound.empty() ? 0 : sum / static_cast<double>(sound.size());
+}
+
+std::vector<double> KWeighted(std::span<const double> sound)
+{
+    std::vector<double> weighted(sound.begin(), sound.end());
+    Filter(HeadShelf(), weighted);
+    Filter(LowCut(), weighted);
+    return weighted;
+}
+
+double LoudestDb(std::span<const double> sound)
+{
+    const std::vector<double> powers = Powers(KWeighted(sound), 4410, 441);
+    return PowerDb(*std::max_element(powers.begin(), powers.end()));
+}
+
+double LoudnessDb(const WaveData& wave)
+{
+    std::vector<double> powers = Powers(KWeighted(Samples(wave.WavL)), 17640, 4410);
+    const std::vector<double> right =
+        Powers(KWeighted(Samples(wave.Channels == 2 ? wave.WavR : wave.WavL)), 17640, 4410);
+    std::transform(powers.begin(), powers.end(), right.begin(), powers.begin(), std::plus<>());
+    return PowerDb(MeanAbove(powers, std::max(-70.0, PowerDb(MeanAbove(powers, -70)) - 10)));
+}
+
+int SoundingC(std::span<const double> sound)
+{
+    // The shortest period that repeats nearly as well as the best: multiples of a period repeat too. Lags far below a
+    // period are like the sound as well, but no top stands there.
+    const std::span<const double> body = Body(sound);
+    double most = 0;
+    int found = 0;
+    for (int key = kLowestC; key <= kHighestC; key += 12) {
+        const double strength = TopNear(body, PeriodOf(key));
+        most = std::max(most, strength);
+        if (strength > 0 && strength >= 0.8 * most)
+            found = key;
+    }
+    return found;
+}
+
+double CentsOff(std::span<const double> sound, int key)
+{
+    const double period = PeriodOf(key);
+    const std::span<const double> body = Body(sound);
+    double found = BestLag(body, period, std::pow(2.0, 80 / 1200.0));
+    for (double periods = 2; periods * period < 0.04 * kRate; periods *= 2)
+        found = BestLag(body, found * periods, 1 + 0.3 / periods) / periods;
+    return 1200 * std::log2(period / found);
+}
+
+} // namespace sprout

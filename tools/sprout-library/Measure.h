@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <span>
+#include <vector>
+
+#include "core/WaveData.h"
+
+namespace sprout {
+
+// Sounds here are channels of doubles at 44,100 Hz, full scale 1. Levels are in dB against full scale; silence is
+// `kSilenceDb`.
+inline constexpr double kSilenceDb = -200;
+
+/// The samples of a wave's channel, full scale 1.
+[[nodiscard]] std::vector<double> Samples(const Channel& channel);
+
+[[nodiscard]] double Decibels(double amplitude);
+[[nodiscard]] double PeakDb(std::span<const double> sound);
+/// Constant part of the sound against full scale.
+[[nodiscard]] double Offset(std::span<const double> sound);
+
+/// The sound as the ear weighs it: the two filters of ITU-R BS.1770, worked out for 44,100 Hz.
+[[nodiscard]] std::vector<double> KWeighted(std::span<const double> sound);
+/// K-weighted level of the loudest 100 ms, LUFS of a mono sound.
+[[nodiscard]] double LoudestDb(std::span<const double> sound);
+/// Integrated loudness of a wave in the program's format, LUFS, gated as ITU-R BS.1770 tells.
+[[nodiscard]] double LoudnessDb(const WaveData& wave);
+
+/// Cents by which the sound's period differs from that of `key`; looked for within 80 cents.
+///
+/// The normalised autocorrelation over several periods is followed from the shortest lag to ever longer ones, each
+/// narrowing the search; the lag then spans about 40 ms.
+[[nodiscard]] double CentsOff(std::span<const double> sound, int key);
+
+/// The MIDI key of that C, from C1 to C7, on which the sound stands; 0 where it stands on none.
+[[nodiscard]] int SoundingC(std::span<const double> sound);
+
+} // namespace sprout

@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace sprout {
+
+/// A sound that no instrument makes, worked out at 44,100 Hz, full scale about 1. key: MIDI key, where the sound has a
+/// pitch. Throws `RunTimeError` for an unknown name.
+[[nodiscard]] std::vector<double> OwnSound(std::string_view name, int key, double seconds);
+
+} // namespace sprout

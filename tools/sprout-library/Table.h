@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace sprout {
+
+/// One line of a table: its cells without blanks at their ends, and where it stands.
+struct TableRow {
+    std::vector<std::string> cells;
+    std::filesystem::path file;
+    int line = 0;
+
+    /// "FILE:LINE: ", for messages.
+    [[nodiscard]] std::string Place() const;
+};
+
+/// Reads a UTF-8 text of cells parted by vertical bars; empty lines and lines that begin with "#" are left out.
+/// Throws `RunTimeError` where the file cannot be read or a row has fewer than `least` or more than `most` cells.
+[[nodiscard]] std::vector<TableRow> ReadTable(const std::filesystem::path& file, std::size_t least, std::size_t most);
+
+/// The number that a cell holds, within `least` and `most`. Throws `RunTimeError` for anything else.
+[[nodiscard]] double CellNumber(const TableRow& row, std::size_t cell, double least, double most);
+
+/// The bytes of a file. Throws `RunTimeError`.
+[[nodiscard]] std::string ReadWholeFile(const std::filesystem::path& file);
+
+} // namespace sprout
