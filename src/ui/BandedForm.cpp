@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/BandedForm.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -35,6 +36,12 @@ QPainterPath Outline(const QRectF& rect)
     return path;
 }
 
+/// An X server may have no compositor, and then shows black where a window lets through.
+bool CornersNeedMask()
+{
+    return QGuiApplication::platformName() == QStringLiteral("xcb");
+}
+
 } // namespace
 
 BandedForm::BandedForm(QWidget* parent)
@@ -43,7 +50,8 @@ BandedForm::BandedForm(QWidget* parent)
       watcher(this),
       captionLbl(new QLabel(this))
 {
-    setAutoFillBackground(false);
+    if (!CornersNeedMask())
+        setAttribute(Qt::WA_TranslucentBackground);
     captionLbl->setObjectName(QStringLiteral("CaptionLbl"));
     captionLbl->setFont(ButtonFont());
     captionLbl->setTextFormat(Qt::PlainText);
@@ -57,8 +65,14 @@ BandedForm::BandedForm(QWidget* parent)
 
 void BandedForm::SetCaption(std::string_view caption)
 {
-    setWindowTitle(QtText(caption).trimmed());
-    captionLbl->setText(QtText(caption));
+    captionText = QtText(caption);
+    setWindowTitle(captionText.trimmed());
+    FitCaption();
+}
+
+void BandedForm::FitCaption()
+{
+    captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
 }
 
 int BandedForm::ShowModal()
@@ -125,33 +139,45 @@ void BandedForm::paintEvent(QPaintEvent* /*event*/)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF inside = QRectF(rect()).adjusted(1, 1, -1, -1);
-    painter.fillRect(rect(), kBark);
+    if (CornersNeedMask())
+        painter.fillRect(rect(), kBark);
     painter.setClipPath(Outline(inside));
     painter.fillRect(rect(), kPaper);
-    painter.drawPixmap(width() - kVineSide - 2, height() - kVineSide - 2,
-                       Artwork(QStringLiteral("pictures/FormVine"), QSize(kVineSide, kVineSide), devicePixelRatioF()));
+    PaintVine(painter);
     PaintBand(painter);
     painter.setClipping(false);
     painter.setPen(QPen(kBark, 2));
     painter.drawPath(Outline(inside));
 }
 
+void BandedForm::PaintVine(QPainter& painter) const
+{
+    const int left = width() - kVineSide - 2;
+    const bool buttonsReachIt = !wordButtons.empty() && wordButtons.back()->geometry().right() > left + kVineSide / 4;
+    if (!buttonsReachIt)
+        painter.drawPixmap(
+            left, height() - kVineSide - 2,
+            Artwork(QStringLiteral("pictures/FormVine"), QSize(kVineSide, kVineSide), devicePixelRatioF()));
+}
+
 void BandedForm::PaintBand(QPainter& painter) const
 {
     painter.fillRect(QRect(0, 0, width(), kBandHeight), kDeepLeaf);
     painter.fillRect(QRect(0, kBandHeight - 2, width(), 2), kBark);
-    painter.drawPixmap(kLogoLeft, (kBandHeight - kLogoSide) / 2,
-                       Artwork(QStringLiteral("pictures/Sprout"), QSize(kLogoSide, kLogoSide), devicePixelRatioF()));
+    painter.drawPixmap(
+        kLogoLeft, (kBandHeight - kLogoSide) / 2,
+        Artwork(QStringLiteral("pictures/SproutPaper"), QSize(kLogoSide, kLogoSide), devicePixelRatioF()));
 }
 
 void BandedForm::resizeEvent(QResizeEvent* event)
 {
     QDialog::resizeEvent(event);
-    QPainterPath path = Outline(rect());
-    setMask(QRegion(path.toFillPolygon().toPolygon()));
+    if (CornersNeedMask())
+        setMask(QRegion(Outline(rect()).toFillPolygon().toPolygon()));
     closeBox->move(width() - kCloseBoxSide - kCloseBoxFromRight, 1);
     const int captionLeft = kLogoLeft + kLogoSide + 2;
-    captionLbl->setGeometry(captionLeft, 0, closeBox->x() - captionLeft, kBandHeight - 2);
+    captionLbl->setGeometry(captionLeft, 0, closeBox->x() - captionLeft - 4, kBandHeight - 2);
+    FitCaption();
 }
 
 void BandedForm::mousePressEvent(QMouseEvent* event)

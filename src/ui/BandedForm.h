@@ -65,10 +65,13 @@ protected:
 
 private:
     void PaintBand(QPainter& painter) const;
+    void PaintVine(QPainter& painter) const;
+    void FitCaption();
     void FocusNeighbour(int step);
 
     ButtonScheme scheme;
     HintWatcher watcher;
+    QString captionText;
     QLabel* captionLbl;
     ImageButton* closeBox;
     std::vector<ImageButton*> wordButtons;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Hints.h"
 
-#include <QEvent>
+#include <QMouseEvent>
 #include <QPointer>
 #include <QVariant>
 
@@ -13,8 +13,6 @@
 namespace sprout {
 
 namespace {
-
-constexpr const char* kHintProperty = "hint";
 
 constexpr std::string_view kTitleHint = "Song name, use the 'Change button' to change it";
 constexpr std::string_view kCreatorHint = "Song created by.., use the 'Change button' to enter your name there";
@@ -53,6 +51,15 @@ constexpr std::array kMainWindowHints{
     HintRow{"TrackPlayBtn", "Track play button, use it to test play this track"},
     HintRow{"TrackTuneBtn", "Tune button, Click to choose a tune, keep mouse over it to play"},
 };
+
+/// Qt passes a move that a widget does not want on to what it lies on, which must not take it for its own.
+bool IsMeantForAnother(const QWidget& widget, const QMouseEvent& move)
+{
+    const QWidget* under = widget.childAt(move.position().toPoint());
+    while (under && under != &widget && !under->property(kHintProperty).isValid())
+        under = under->parentWidget();
+    return under && under != &widget;
+}
 
 QPointer<QLabel>& StatusLbl()
 {
@@ -96,8 +103,11 @@ void HintWatcher::Watch(QWidget& widget, std::string_view hint)
 
 bool HintWatcher::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseMove || event->type() == QEvent::Enter)
-        ShowHint(watched->property(kHintProperty).toString());
+    if (event->type() == QEvent::MouseMove) {
+        const auto& widget = *static_cast<QWidget*>(watched);
+        if (!IsMeantForAnother(widget, *static_cast<QMouseEvent*>(event)))
+            ShowHint(widget.property(kHintProperty).toString());
+    }
     return QObject::eventFilter(watched, event);
 }
 

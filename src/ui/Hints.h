@@ -31,6 +31,9 @@ void SetStatusLbl(QLabel* label);
 /// Puts a hint on the status line, from any window; an empty text clears it.
 void ShowHint(const QString& text);
 
+/// The property that holds a widget's hint; a widget without it has the hint of what it lies on.
+inline constexpr const char* kHintProperty = "hint";
+
 /// Shows a hint for every move of the mouse over widgets that are no image buttons.
 class HintWatcher : public QObject {
     Q_OBJECT

@@ -25,6 +25,7 @@ constexpr QSize kLeastWordSize{96, 44};
 constexpr int kBesideTheWord = 22;
 constexpr int kGlyphSide = 26; ///< on a word plate
 constexpr int kGlyphGap = 6;
+constexpr qreal kGlyphShareOfTool = 0.86;
 
 QString PlateName(Plate plate, ButtonFace face)
 {
@@ -63,6 +64,7 @@ ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal,
         glyph = QStringLiteral("buttons/") + QString::fromLatin1(row.glyph);
     else if (plate != Plate::Word)
         glyph = QStringLiteral("buttons/") + objectName();
+    setProperty(kHintProperty, hint);
     setFont(ButtonFont());
     setMouseTracking(true);
     // The pointer leaves the focus where it is, so that a text box keeps the caret while a button is clicked.
@@ -125,7 +127,11 @@ void ImageButton::PaintPlate(QPainter& painter) const
 
 void ImageButton::PaintGlyph(QPainter& painter) const
 {
-    painter.drawPixmap(0, Lift(), Artwork(glyph, size(), devicePixelRatioF()));
+    // The tool plates' rim stays free, so that the ring of a button that is on shows all around.
+    const qreal share = plate == Plate::Tool ? kGlyphShareOfTool : 1;
+    const QSize room = (QSizeF(size()) * share).toSize();
+    painter.drawPixmap((width() - room.width()) / 2, (height() - room.height()) / 2 + Lift(),
+                       Artwork(glyph, room, devicePixelRatioF()));
 }
 
 void ImageButton::PaintWord(QPainter& painter) const

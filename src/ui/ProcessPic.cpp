@@ -29,8 +29,7 @@ ProcessPic::ProcessPic(QWidget* parent) : QWidget(parent)
 void ProcessPic::Appear()
 {
     twentieths = 0;
-    const QRect around = parentWidget()->rect();
-    move(around.center() - QPoint(width() / 2, height() / 2));
+    move((parentWidget()->width() - width()) / 2, (parentWidget()->height() - height()) / 2);
     show();
     raise();
     repaint();

@@ -182,11 +182,58 @@ private:
     }
 };
 
-void DrawForms(const QString& folder)
+/// Lays pictures in rows on one sheet.
+class FormSheet {
+public:
+    void Add(QWidget& widget) { pictures.push_back(widget.grab()); }
+
+    void SaveTo(const QString& folder)
+    {
+        QLabel sheet;
+        sheet.resize(kSheetWidth, Lay(nullptr));
+        QPixmap paper(sheet.size() * pictures.front().devicePixelRatio());
+        paper.setDevicePixelRatio(pictures.front().devicePixelRatio());
+        paper.fill(kStone);
+        QPainter painter(&paper);
+        Lay(&painter);
+        painter.end();
+        sheet.setPixmap(paper);
+        Save(sheet, folder, QStringLiteral("forms"));
+    }
+
+private:
+    static constexpr int kSheetWidth = 1000;
+    static constexpr int kGap = 12;
+
+    /// Draws the pictures, if there is a painter, and returns the height of all rows.
+    int Lay(QPainter* painter) const
+    {
+        int x = kGap;
+        int y = kGap;
+        int rowHeight = 0;
+        for (const QPixmap& picture : pictures) {
+            const QSize size = picture.deviceIndependentSize().toSize();
+            if (x + size.width() > kSheetWidth) {
+                x = kGap;
+                y += rowHeight + kGap;
+                rowHeight = 0;
+            }
+            if (painter)
+                painter->drawPixmap(x, y, picture);
+            x += size.width() + kGap;
+            rowHeight = std::max(rowHeight, size.height());
+        }
+        return y + rowHeight + kGap;
+    }
+
+    std::vector<QPixmap> pictures;
+};
+
+void DrawMessages(FormSheet& sheet)
 {
-    const auto draw = [&folder](BandedForm& form, const char* caption) {
+    const auto draw = [&sheet](BandedForm& form, const char* caption) {
         form.SetCaption(caption);
-        Save(form, folder, form.objectName());
+        sheet.Add(form);
     };
     Msg1BtnFrm one(nullptr, "Please enter a song name.");
     draw(one, " Tonquill Sprout Painter");
@@ -198,27 +245,42 @@ void DrawForms(const QString& folder)
     draw(three, " Add Audio Track");
     SaveConfirmFrm save(nullptr, "Rain on the roof");
     draw(save, " Tonquill Sprout Painter");
-    InputBoxFrm input(nullptr, "Zumi", "Enter the new name:", "");
-    draw(input, " Rename");
-    InputBoxFrm longInput(nullptr, "Zumi", "Enter the new name:", "It may hold letters and numbers.");
-    longInput.setObjectName(QStringLiteral("InputBoxFrm2"));
-    draw(longInput, " Rename");
-    SongTitleFrm title(nullptr, "Zumi", "Your name here");
-    draw(title, " Change Song Title");
     PlainBoxFrm plain(nullptr, "Could not Play Sound\nDriver busy or not ready\nCheck whether sound driver is ON",
                       MessageIcon::Exclamation);
     draw(plain, " Play Failed");
     const std::string words = "This is a very long line of a message that does not fit on the screen of a small "
                               "computer and therefore has to go on in another line, word by word. ";
     Msg1BtnFrm wide(nullptr, words + words);
-    wide.setObjectName(QStringLiteral("Msg1BtnFrmLong"));
-    draw(wide, " A title that is much longer than the form is wide and has to end somewhere, or else it would stick");
+    draw(wide, " A title that is much longer than the form is wide has to end somewhere, or else it would stick out of "
+               "the form, far behind the close box");
+}
+
+void DrawInputs(FormSheet& sheet)
+{
+    InputBoxFrm input(nullptr, "Zumi", "Enter the new name:", "");
+    input.SetCaption(" Rename");
+    sheet.Add(input);
+    InputBoxFrm longInput(nullptr, "Zumi", "Enter the new name:", "It may hold letters and numbers.");
+    longInput.SetCaption(" Rename");
+    sheet.Add(longInput);
+    SongTitleFrm title(nullptr, "Zumi", "Your name here");
+    title.SetCaption(" Change Song Title");
+    sheet.Add(title);
+}
+
+void DrawForms(const QString& folder)
+{
+    FormSheet sheet;
+    DrawMessages(sheet);
+    DrawInputs(sheet);
     QWidget window;
     window.resize(240, 180);
     ProcessPic sign(&window);
     sign.Appear();
+    window.show();
     sign.ShowProgress(12, 20);
-    Save(window, folder, QStringLiteral("ProcessPic"));
+    sheet.Add(window);
+    sheet.SaveTo(folder);
 }
 
 } // namespace
