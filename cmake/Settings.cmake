@@ -20,6 +20,12 @@ endif()
 # No contraction: a render must give the same samples on every machine and compiler.
 set(CMAKE_CXX_FLAGS_RELEASE "-O3 -DNDEBUG")
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-restrict) # g++ 12 misfires on "text" + string
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    add_compile_options(-Wno-sign-conversion) # part of clang's -Wconversion, not of g++'s
+endif()
 
 # A list of sanitizers breaks at its comma inside a generator expression, so it goes straight into the options.
 if(SPROUT_SANITIZE)

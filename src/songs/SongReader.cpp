@@ -16,8 +16,10 @@ void ReadSongHead(LongsReader& data, SongState& song)
 
 void MakeTracks(LongsReader& data, SongState& song, std::int32_t count)
 {
-    data.Require(song.SongCells, 1);
-    data.Require(count, std::int64_t{1} + song.SongCells);
+    if (count != 0) {
+        data.Require(song.SongCells, 1);
+        data.Require(count, std::int64_t{1} + song.SongCells);
+    }
     song.Tracks.resize(static_cast<std::size_t>(count) + 1);
     song.TrackCount = count;
 }

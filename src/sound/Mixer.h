@@ -21,8 +21,8 @@ struct WaveFilePlacement {
 /// program's format first. gain, pan, clip: percent; clip 100 is full scale (-32768..32767).
 /// Returns a stereo wave in the program's format; `Length` is the greatest Offset + `Length` of a wave that sounds, 0
 /// if none does. The result does not depend on the number of cores. Cost: one pass over every placed frame; memory 4
-/// bytes a result frame and a fixed block a core. Throws `RunTimeError` where a sum leaves the 32-bit numbers,
-/// std::bad_alloc.
+/// bytes a result frame and a fixed block a core. Throws `RunTimeError` where a sum leaves the 32-bit numbers, a place
+/// or a wave is none, or the result would be longer than `kLongestWaveFrames`; std::bad_alloc.
 [[nodiscard]] WaveData MixWaves(std::vector<WaveData> waves, std::span<const WaveFilePlacement> placements,
                                 std::int32_t gain, std::int32_t pan, std::int32_t clip);
 

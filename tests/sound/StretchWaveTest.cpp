@@ -144,12 +144,18 @@ TEST_F(StretchWaveTest, TheLongerChannelSetsTheLength)
 {
     OddStretch odd;
     TheServices().stretch = &odd;
-    const WaveData result = StretchWave(StereoWave(SampleList(512, 10), SampleList(512, 3)), 1, 1);
-    EXPECT_EQ(result.Length, 522);
-    EXPECT_EQ(result.WavR.UpperBound(), 522);
-    EXPECT_EQ(result.WavR[515], 9);
-    EXPECT_EQ(result.WavR[516], 0);
-    EXPECT_EQ(result.WavL[522], 9);
+    const WaveData left = StretchWave(StereoWave(SampleList(512, 10), SampleList(512, 3)), 1, 1);
+    EXPECT_EQ(left.Length, 522);
+    EXPECT_EQ(left.WavR.UpperBound(), 522);
+    EXPECT_EQ(left.WavR[515], 9);
+    EXPECT_EQ(left.WavR[516], 0);
+    EXPECT_EQ(left.WavL[522], 9);
+    const WaveData right = StretchWave(StereoWave(SampleList(512, 3), SampleList(512, 10)), 1, 1);
+    EXPECT_EQ(right.Length, 522);
+    EXPECT_EQ(right.WavL.UpperBound(), 522);
+    EXPECT_EQ(right.WavL[515], 9);
+    EXPECT_EQ(right.WavL[516], 0);
+    EXPECT_EQ(right.WavR[522], 9);
 }
 
 TEST_F(StretchWaveTest, ARightChannelThatFailsIsSilentBesideTheLeftOne)

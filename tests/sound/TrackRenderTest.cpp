@@ -333,6 +333,16 @@ TEST_F(RenderAudioTrackTest, ARunThatReachesTheEndOfTheSongUnfinishedIsSilent)
     EXPECT_EQ(TrackAt(track).TrackRender, LevelWave(3 * kCellFrames, 5)) << "a gap cuts it";
 }
 
+TEST_F(RenderAudioTrackTest, CellsAndWaveAreComparedInSinglePrecision)
+{
+    // 0.2 s of either; as single numbers they are equal, beside a double the single number is larger.
+    Shared().Song.Tempo = 300;
+    const std::int32_t track = AddAudioTrack(LevelWave(8820, 5));
+    Paint(track, 1280, 1280);
+    RenderAudioTrack(track);
+    EXPECT_EQ(TrackAt(track).TrackRender, LevelWave(8820, 5));
+}
+
 TEST_F(RenderAudioTrackTest, CutsCountInFramesOfTheProgramsRateWhateverTheWaves)
 {
     WaveData low = MonoWave(SampleList(2 * kCellFrames, 5), 11025, 16); // eight cells long
@@ -528,6 +538,18 @@ TEST_F(MixSongTest, CopiedStepsKeepTheirFlagAsTrackByTrack)
     }
     EXPECT_EQ(services.stretch.Calls().size(), 1u);
     EXPECT_EQ(LevelsAtCells(Shared().Song.SongMix, 2), (SampleList{10, 10}));
+}
+
+TEST_F(MixSongTest, WithoutASoundingCellNoStepIsRendered)
+{
+    Tune tune = MakeTune(4);
+    SetStep(tune, 4, AddBeat(LevelWave(kBeatFrames, 5)));
+    Paint(AddTuneTrack(tune), 2, 4);
+    MixSong();
+    EXPECT_EQ(Shared().Song.SongMix, EmptyWave());
+    EXPECT_TRUE(Shared().Song.SongMixValid);
+    EXPECT_EQ(Shared().Song.SongFirstPos, 2);
+    EXPECT_TRUE(services.stretch.Calls().empty());
 }
 
 TEST_F(MixSongTest, StepsOfTracksWithoutPaintAreNotRendered)

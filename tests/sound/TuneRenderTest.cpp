@@ -254,6 +254,27 @@ TEST_F(TuneRenderTest, AValidStepKeepsItsWaveAndLendsItToEqualOnes)
     EXPECT_EQ(tune.TuneWave.WavL[2 * kCellFrames + 1], 0);
 }
 
+TEST_F(TuneRenderTest, TheFirstOfTheEqualStepsLends)
+{
+    Tune tune = MakeTune(3);
+    for (std::int32_t i = 1; i <= 3; ++i) {
+        SetStep(tune, i, 0).StepWave = LevelWave(2, static_cast<std::int16_t>(70 + i));
+        At(tune.Steps, i).StepWaveValid = i < 3;
+    }
+    RenderStarCycle(tune);
+    EXPECT_EQ(tune.TuneWave.WavL[2 * kCellFrames + 1], 71);
+}
+
+TEST_F(TuneRenderTest, OnlyTheValue1IsOn)
+{
+    Tune tune = MakeTune(1);
+    SetStep(tune, 1, 0).OnPos = 2;
+    RenderStarCycle(tune);
+    EXPECT_EQ(Calls(), 0u);
+    EXPECT_FALSE(tune.Steps[1].StepWaveValid);
+    EXPECT_EQ(tune.TuneWave.Length, kCellFrames + 1);
+}
+
 TEST_F(TuneRenderTest, OnlyOnStepsLend)
 {
     const std::int32_t beat = AddBeat(LevelWave(600, 5));

@@ -238,6 +238,12 @@ TEST(ApplyWavePan, MakesMonoStereoAndLeavesItInTheMiddleAtZero)
     EXPECT_EQ(middle, StereoWave({7, 8}, {7, 8}));
 }
 
+TEST(ApplyWavePan, HoldsTheFactorInSinglePrecision)
+{
+    // 5 x 0.7f = 3.4999999, which a double's tie would take to 4.
+    EXPECT_EQ(ApplyWavePan(StereoWave({5}, {0}), 70), StereoWave({2}, {3}));
+}
+
 TEST(ApplyWavePan, ClipsToTheBits)
 {
     EXPECT_EQ(ListOf(ApplyWavePan(StereoWave({30000}, {30000}), 100).WavR), (SampleList{32767}));

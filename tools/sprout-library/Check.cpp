@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <iomanip>
 #include <map>
 #include <span>
+#include <sstream>
 
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -122,10 +124,13 @@ void RequireBeat(Report& report, const BeatFacts& beat)
 
 std::string BeatLine(const BeatFacts& beat)
 {
-    return beat.Name + std::string(beat.Name.size() < 30 ? 30 - beat.Name.size() : 1, ' ') + Number(beat.Seconds, 2) +
-           " s  peak " + Number(beat.PeakDb, 1) + " dB  loudest " + Number(beat.LoudestDb, 1) + " LUFS  onset " +
-           Number(beat.OnsetSeconds * 1000, 1) + " ms  end " + Number(beat.EndDb, 0) + " dB  " +
-           (beat.Key > 0 ? "C" + std::to_string(beat.Key / 12 - 1) + " " + Number(beat.CentsOff, 1) + " cents" : "");
+    std::ostringstream line;
+    line << std::left << std::setw(26) << beat.Name << Number(beat.Seconds, 2) << " s  peak " << Number(beat.PeakDb, 1)
+         << " dB  loudest " << Number(beat.LoudestDb, 1) << " LUFS  onset " << Number(beat.OnsetSeconds * 1000, 1)
+         << " ms  end " << Number(beat.EndDb, 0) << " dB";
+    if (beat.Key > 0)
+        line << "  C" << beat.Key / 12 - 1 << ' ' << Number(beat.CentsOff, 1) << " cents";
+    return line.str();
 }
 
 void CheckBeats(const fs::path& folder, Report& report)

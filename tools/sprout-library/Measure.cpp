@@ -66,6 +66,16 @@ std::vector<double> Powers(std::span<const double> sound, std::size_t length, st
     return powers;
 }
 
+/// The sum of both channels' K-weighted powers; a mono wave sounds from both sides.
+std::vector<double> StereoPowers(const WaveData& wave, std::size_t length, std::size_t step)
+{
+    std::vector<double> powers = Powers(KWeighted(Samples(wave.WavL)), length, step);
+    const Channel& other = wave.Channels == 2 ? wave.WavR : wave.WavL;
+    const std::vector<double> right = Powers(KWeighted(Samples(other)), length, step);
+    std::transform(powers.begin(), powers.end(), right.begin(), powers.begin(), std::plus<>());
+    return powers;
+}
+
 double PowerDb(double power)
 {
     return power > 0 ? std::max(kSilenceDb, kLoudnessOffset + 10 * std::log10(power)) : kSilenceDb;
@@ -184,11 +194,15 @@ double LoudestDb(std::span<const double> sound)
 
 double LoudnessDb(const WaveData& wave)
 {
-    std::vector<double> powers = Powers(KWeighted(Samples(wave.WavL)), 17640, 4410);
-    const std::vector<double> right =
-        Powers(KWeighted(Samples(wave.Channels == 2 ? wave.WavR : wave.WavL)), 17640, 4410);
-    std::transform(powers.begin(), powers.end(), right.begin(), powers.begin(), std::plus<>());
+    const std::vector<double> powers = StereoPowers(wave, 17640, 4410);
     return PowerDb(MeanAbove(powers, std::max(-70.0, PowerDb(MeanAbove(powers, -70)) - 10)));
+}
+
+Loud LoudestSecond(const WaveData& wave)
+{
+    const std::vector<double> powers = StereoPowers(wave, 44100, 4410);
+    const auto loudest = std::max_element(powers.begin(), powers.end());
+    return {PowerDb(*loudest), static_cast<double>(loudest - powers.begin()) / 10};
 }
 
 int SoundingC(std::span<const double> sound)

@@ -27,6 +27,15 @@ inline constexpr double kSilenceDb = -200;
 /// Integrated loudness of a wave in the program's format, LUFS, gated as ITU-R BS.1770 tells.
 [[nodiscard]] double LoudnessDb(const WaveData& wave);
 
+/// A level and where it begins.
+struct Loud {
+    double Db = kSilenceDb; ///< LUFS
+    double Seconds = 0;     ///< from the start
+};
+
+/// The loudest second of a wave in the program's format, to a tenth of a second.
+[[nodiscard]] Loud LoudestSecond(const WaveData& wave);
+
 /// Cents by which the sound's period differs from that of `key`; looked for within 80 cents.
 ///
 /// The normalised autocorrelation over several periods is followed from the shortest lag to ever longer ones, each

@@ -32,7 +32,7 @@ constexpr std::string_view kHelp = "Makes and measures the library of beats, tun
                                    "  sprout-library --check FOLDER      measure it; fails where a rule is broken\n"
                                    "  sprout-library --sheet KIND FOLDER PNG\n"
                                    "                                     its pictures on a sheet: beats, tunes, stars\n"
-                                   "  sprout-library --measure WAV       peak and loudness of a sound\n"
+                                   "  sprout-library --measure WAV       length, peak and loudness of a sound\n"
                                    "SOUNDFONT names the sound font, SOURCE_DATE_EPOCH the time of the files made.\n";
 constexpr const char* kSoundFont = "/usr/share/sounds/sf2/FluidR3_GM.sf2";
 // Where nobody tells a time: the first second of 2024.
@@ -62,10 +62,12 @@ int Measure(Session& session, const std::string& file)
     const WaveData wave = ConvertWaveChannels(ConvertWaveFormat(LoadWaveFile(file), 0, 0), 0);
     if (wave.Length == 0)
         return 1;
+    const Loud loudest = LoudestSecond(wave);
     session.out << std::fixed << std::setprecision(1) << "length " << static_cast<double>(wave.Length) / wave.Rate
                 << " s, peak " << std::setprecision(2)
                 << std::max(PeakDb(Samples(wave.WavL)), PeakDb(Samples(wave.WavR))) << " dBFS, loudness "
-                << std::setprecision(1) << LoudnessDb(wave) << " LUFS\n";
+                << std::setprecision(1) << LoudnessDb(wave) << " LUFS, loudest second " << loudest.Db << " LUFS from "
+                << loudest.Seconds << " s on\n";
     return 0;
 }
 

@@ -41,6 +41,11 @@ public:
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
     Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(number, other.number);
+        return *this;
+    }
     ~Descriptor()
     {
         if (number >= 0)
@@ -79,20 +84,45 @@ private:
     fs::path wanted;
     fs::path path;
     Descriptor file;
+    Descriptor lock{-1}; // of the file while it is closed and moved
     bool moved = false;
 };
 
-/// Locks an open file without waiting; false where a running program holds it or it was deleted meanwhile.
-bool TakeLock(int descriptor)
+/// Repeats a call that a signal interrupted.
+template <class Call>
+int Uninterrupted(Call call)
 {
-    struct stat facts {};
-    return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &facts) == 0 && facts.st_nlink > 0;
+    int result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+enum class Lock { Taken, Held, Unknown };
+
+/// Locks an open file without waiting. `Unknown`: the file system has no locks.
+Lock TakeLock(int descriptor)
+{
+    if (Uninterrupted([&] { return ::flock(descriptor, LOCK_EX | LOCK_NB); }) == 0)
+        return Lock::Taken;
+    return errno == EWOULDBLOCK ? Lock::Held : Lock::Unknown;
+}
+
+/// True while `path` still names the open file. Who holds the lock alone may delete or move it, so that under the lock
+/// the answer stays true.
+bool Names(const fs::path& path, int descriptor)
+{
+    struct stat open {};
+    struct stat named {};
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
 }
 
 void DeleteUnlessHeld(const fs::path& path)
 {
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    if (file.Number() >= 0 && TakeLock(file.Number()))
+    const Descriptor file(
+        Uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); }));
+    if (file.Number() >= 0 && TakeLock(file.Number()) == Lock::Taken && Names(path, file.Number()))
         ::unlink(path.c_str());
 }
 
@@ -102,13 +132,15 @@ int FileBeside::Create()
     for (int n = 1; n <= kMostSavesAtOnce; ++n) {
         path = folder / (".TqkSave" + std::to_string(n));
         DeleteUnlessHeld(path);
-        const int opened = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
-        if (opened >= 0 && TakeLock(opened))
-            return opened;
-        if (opened >= 0)
-            ::close(opened); // deleted by another program in the moment before the lock
-        else if (errno != EEXIST)
+        const int opened = Uninterrupted(
+            [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly); });
+        if (opened < 0 && errno != EEXIST)
             Fail(wanted, errno);
+        if (opened < 0)
+            continue;
+        if (TakeLock(opened) != Lock::Held && Names(path, opened))
+            return opened;
+        ::close(opened); // another program took it for a stale one in the moment before the lock
     }
     Fail(wanted, EEXIST);
 }
@@ -137,6 +169,8 @@ void FileBeside::Write(std::span<const std::span<const std::byte>> pieces)
     for (std::size_t first = 0; first < blocks.size();) {
         const auto count = static_cast<int>(std::min(blocks.size() - first, mostBlocks));
         const ssize_t written = ::writev(file.Number(), &blocks[first], count);
+        if (written == 0)
+            Fail(wanted, EIO); // a disk that takes nothing and tells no reason would be asked for ever
         if (written < 0 && errno != EINTR)
             Fail(wanted, errno);
         if (written > 0)
@@ -156,24 +190,25 @@ void FileBeside::TakeMode()
         ::umask(mask);
         mode = kAllButExecute & ~mask;
     }
-    if (::fchmod(file.Number(), mode) != 0 && errno != EPERM && errno != ENOTSUP)
+    if (Uninterrupted([&] { return ::fchmod(file.Number(), mode); }) != 0 && errno != EPERM && errno != ENOTSUP)
         Fail(wanted, errno);
 }
 
 void FileBeside::FlushToDisk()
 {
-    while (::fsync(file.Number()) != 0)
-        if (errno != EINTR)
-            Fail(wanted, errno);
+    if (Uninterrupted([&] { return ::fsync(file.Number()); }) != 0)
+        Fail(wanted, errno);
 }
 
 void FileBeside::MoveOver()
 {
-    // The rename comes while the lock still stands; the close behind it can only tell what was told before.
-    const Descriptor lock(::dup(file.Number()));
+    // The close tells what the writes could not; until the rename the lock stands on.
+    lock = Descriptor(::dup(file.Number()));
+    if (lock.Number() < 0)
+        Fail(wanted, errno);
     if (const int error = file.Close(); error != 0)
         Fail(wanted, error);
-    if (::rename(path.c_str(), wanted.c_str()) != 0)
+    if (Uninterrupted([&] { return ::rename(path.c_str(), wanted.c_str()); }) != 0)
         Fail(wanted, errno);
     moved = true;
 }

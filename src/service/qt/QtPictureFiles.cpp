@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/qt/QtPictureFiles.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QString>
 
 #include <cstdint>
+#include <cstdlib>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -17,6 +21,7 @@ namespace sprout {
 namespace {
 
 constexpr int kMostPixelsASide = 4096;
+constexpr qint64 kMostFileBytes = 80'000'000; // a .bmp of the largest size at 32 bits a pixel, and some
 
 QString QtPath(const std::filesystem::path& path)
 {
@@ -47,19 +52,77 @@ QImage Opaque(const QImage& image)
     return white;
 }
 
+std::int64_t Number(const QByteArray& bytes, int place, int count)
+{
+    std::uint64_t value = 0;
+    for (int i = count - 1; i >= 0; --i)
+        value = value << 8 | static_cast<std::uint8_t>(bytes.at(place + i));
+    return static_cast<std::int64_t>(value);
+}
+
+/// Pixels of a .bmp without compression stand in whole lines behind its head.
+bool IsCutBmp(const QByteArray& bytes, QSize size)
+{
+    constexpr int headBytes = 54;
+    constexpr std::int64_t oldHead = 12; // of a kind that knows no compression
+    if (bytes.size() < headBytes)
+        return true;
+    const bool old = Number(bytes, 14, 4) == oldHead;
+    const std::int64_t compression = old ? 0 : Number(bytes, 30, 4);
+    if (compression == 1 || compression == 2)
+        return false; // run lengths end by themselves
+    const std::int64_t bits = Number(bytes, old ? 24 : 28, 2);
+    const std::int64_t lineBytes = (size.width() * bits + 31) / 32 * 4;
+    return Number(bytes, 10, 4) + lineBytes * std::abs(size.height()) > bytes.size();
+}
+
+/// The last scan of a .jpg is followed by the end mark; inside a scan neither mark can stand.
+bool IsCutJpg(const QByteArray& bytes)
+{
+    return bytes.lastIndexOf(QByteArray("\xFF\xD9", 2)) < bytes.lastIndexOf(QByteArray("\xFF\xDA", 2));
+}
+
+/// True for a picture whose end is missing; the readers would fill it up with a colour and say nothing.
+bool IsCut(const QByteArray& bytes, const QByteArray& kind, QSize size)
+{
+    if (kind == "bmp")
+        return IsCutBmp(bytes, size);
+    return kind == "jpeg" && IsCutJpg(bytes);
+}
+
+bool IsKnownKind(const QByteArray& kind)
+{
+    return kind == "bmp" || kind == "jpeg" || kind == "gif";
+}
+
+QImage ReadImage(QByteArray bytes, const std::filesystem::path& path)
+{
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    const QByteArray kind = reader.format(); // by the content, whatever the file is called
+    const QSize size = reader.size();
+    if (std::abs(size.width()) > kMostPixelsASide || std::abs(size.height()) > kMostPixelsASide)
+        throw RunTimeError("The picture " + path.native() + " is too large.");
+    if (!IsKnownKind(kind) || size.width() < 1 || size.height() == 0 || IsCut(bytes, kind, size))
+        throw RunTimeError("The picture " + path.native() + " cannot be read.");
+    const QImage image = reader.read();
+    if (image.isNull())
+        throw RunTimeError("The picture " + path.native() + " cannot be read.");
+    return image;
+}
+
 } // namespace
 
 Picture QtPictureFiles::LoadPicture(const std::filesystem::path& path) const
 {
-    QImageReader reader(QtPath(path));
-    reader.setDecideFormatFromContent(true);
-    const QSize size = reader.size();
-    if (size.width() > kMostPixelsASide || size.height() > kMostPixelsASide)
+    QFile file(QtPath(path));
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error) || !file.open(QIODevice::ReadOnly))
+        throw RunTimeError("The picture " + path.native() + " cannot be opened.");
+    if (file.size() > kMostFileBytes)
         throw RunTimeError("The picture " + path.native() + " is too large.");
-    const QImage read = reader.read();
-    if (read.isNull())
-        throw RunTimeError("The picture " + path.native() + " cannot be read.");
-    const QImage image = Opaque(read);
+    const QImage image = Opaque(ReadImage(file.readAll(), path));
     std::vector<std::uint32_t> pixels;
     pixels.reserve(static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height()));
     for (int y = 0; y < image.height(); ++y) {

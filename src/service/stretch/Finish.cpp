@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <numbers>
 #include <numeric>
 
 namespace sprout::stretch {
@@ -11,6 +12,13 @@ namespace {
 
 constexpr double kSmallestOffset = 64;
 constexpr int kQuietStart = 64;
+
+/// From 0 at `step` 0 towards 1 at `steps`, as a raised cosine: it arrives at silence without a corner.
+float FadeGain(Index step, Index steps)
+{
+    const double way = static_cast<double>(step) / static_cast<double>(steps);
+    return static_cast<float>(0.5 - 0.5 * std::cos(std::numbers::pi * way));
+}
 
 } // namespace
 
@@ -35,11 +43,11 @@ void FadeEnds(std::span<float> sound, bool startsQuietly, const Sizes& sizes)
     const Index count = std::ssize(sound);
     const Index out = std::min(sizes.endFade, count);
     for (Index i = 0; i < out; ++i) {
-        sound[static_cast<std::size_t>(count - 1 - i)] *= static_cast<float>(i) / static_cast<float>(out);
+        sound[static_cast<std::size_t>(count - 1 - i)] *= FadeGain(i, out);
     }
     const Index in = startsQuietly ? std::min(sizes.startFade, count) : 0;
     for (Index i = 0; i < in; ++i) {
-        sound[static_cast<std::size_t>(i)] *= static_cast<float>(i) / static_cast<float>(in);
+        sound[static_cast<std::size_t>(i)] *= FadeGain(i, in);
     }
 }
 

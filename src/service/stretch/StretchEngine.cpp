@@ -32,6 +32,19 @@ void AddBand(std::span<const float> sound, const TimeMap& map, Index window, con
     vocoder.AddStretched(sound, map, result);
 }
 
+/// Puts the attack back as it was: the frames behind it overlap it and shift its stroke a little.
+///
+/// The vocoder keeps the phases of the tones through the attack, so that the two fade into each other unnoticed.
+void RestoreAttack(std::span<const float> sound, Index verbatim, std::span<float> result)
+{
+    const Index kept = verbatim / 2;
+    for (Index i = 0; i < verbatim; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        const float way = i < kept ? 0.0F : static_cast<float>(i - kept) / static_cast<float>(verbatim - kept);
+        result[at] = (1 - way) * sound[at] + way * result[at];
+    }
+}
+
 /// The stretched slice, `tail` samples longer than it lasts: they fade out under the next one.
 std::vector<float> StretchSlice(std::span<const float> sound, const Slice& slice, Index tail, const Sizes& sizes)
 {
@@ -46,6 +59,7 @@ std::vector<float> StretchSlice(std::span<const float> sound, const Slice& slice
     } else {
         AddBand(part, map, sizes.longWindow, {}, sizes, result);
     }
+    RestoreAttack(part, slice.verbatim, result);
     return result;
 }
 

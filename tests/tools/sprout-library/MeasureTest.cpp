@@ -65,6 +65,16 @@ TEST(LoudnessDb, LeavesSilenceBesideTheSoundOut)
     EXPECT_DOUBLE_EQ(LoudnessDb(Stereo(std::vector<double>(44100))), kSilenceDb);
 }
 
+TEST(LoudestSecond, IsFoundToATenth)
+{
+    std::vector<double> sound = Sine(997, 6, 0.01);
+    const std::vector<double> loud = Sine(997, 1, 0.1);
+    std::copy(loud.begin(), loud.end(), sound.begin() + 3 * 44100 + 22050);
+    const Loud found = LoudestSecond(Stereo(sound));
+    EXPECT_NEAR(found.Db, -20.0, 0.1);
+    EXPECT_NEAR(found.Seconds, 3.5, 0.01);
+}
+
 TEST(LoudestDb, TakesTheLoudestTenthOfASecond)
 {
     std::vector<double> sound = Sine(997, 1, 0.01);

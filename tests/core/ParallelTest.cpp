@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Parallel.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <stdexcept>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace sprout {
+namespace {
+
+TEST(ParallelFor, DoesEachPieceOnce)
+{
+    for (const std::size_t threads : {0U, 1U, 2U, 7U, 100U}) {
+        std::vector<std::atomic<int>> done(50);
+        ParallelFor(
+            done.size(), [&done](std::size_t i) { ++done[i]; }, {}, threads);
+        for (const auto& times : done)
+            EXPECT_EQ(times, 1);
+    }
+}
+
+TEST(ParallelFor, DoesNothingForNoPieces)
+{
+    bool called = false;
+    ParallelFor(
+        0, [&called](std::size_t) { called = true; }, [&called](std::size_t, std::size_t) { called = true; });
+    EXPECT_FALSE(called);
+}
+
+TEST(ParallelFor, ThrowsTheErrorOfTheLowestPieceAfterAllAreDone)
+{
+    std::atomic<int> done = 0;
+    try {
+        ParallelFor(
+            20,
+            [&done](std::size_t i) {
+                ++done;
+                if (i >= 5)
+                    throw std::runtime_error(std::to_string(i));
+            },
+            {}, 4);
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "5");
+    }
+    EXPECT_EQ(done, 20);
+}
+
+TEST(ParallelFor, TellsProgressOnTheCallingThreadAndTheEndLast)
+{
+    const auto caller = std::this_thread::get_id();
+    std::size_t last = 0;
+    ParallelFor(
+        30, [](std::size_t) {},
+        [&](std::size_t done, std::size_t total) {
+            EXPECT_EQ(std::this_thread::get_id(), caller);
+            EXPECT_EQ(total, 30U);
+            EXPECT_GE(done, last);
+            last = done;
+        },
+        3);
+    EXPECT_EQ(last, 30U);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/Paths.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <ctime>
+
+#include "core/Shared.h"
+#include "support/FakeServices.h"
+
+namespace sprout {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+class Paths : public testing::Test {
+protected:
+    [[nodiscard]] fs::path In(const std::string& name) const { return fake.folder.Path() / name; }
+    FakeServices fake;
+};
+
+TEST_F(Paths, EndFoldersInOneSeparator)
+{
+    EXPECT_EQ(AsFolder("/a/b").native(), "/a/b/");
+    EXPECT_EQ(AsFolder("/a/b/").native(), "/a/b/");
+    EXPECT_EQ(AsFolder("").native(), "");
+}
+
+TEST_F(Paths, NameNoFileOutsideOfTheFolder)
+{
+    EXPECT_EQ(NamedFile("/a/", "b", ".wav").native(), "/a/b.wav");
+    for (const std::string& name : {"../b"s, "/b"s, "b\0c"s, ""s, "  "s})
+        EXPECT_EQ(NamedFile("/a/", name, ".wav"), fs::path()) << name;
+}
+
+TEST_F(Paths, FindFilesInAnyLetterCaseAndTheirOwnNameFirst)
+{
+    WriteBytes(In("Beat.WAV"), "1");
+    EXPECT_EQ(FindFile(In("bEAT.wav")), In("Beat.WAV"));
+    WriteBytes(In("beat.wav"), "2");
+    EXPECT_EQ(FindFile(In("beat.wav")), In("beat.wav"));
+    WriteBytes(In("Élan.wav"), "3");
+    EXPECT_TRUE(FileExists(In("éLAN.wav")));
+}
+
+TEST_F(Paths, FindNothingButPlainFiles)
+{
+    fs::create_directory(In("folder"));
+    WriteBytes(In("a"), "");
+    for (const fs::path& path : {fs::path(), fs::path("  "), In("folder"), In("missing"), In("missing/a"),
+                                 fs::path(In("a").native() + "\0b"s), In("folder/")})
+        EXPECT_FALSE(FileExists(path)) << path;
+}
+
+TEST_F(Paths, DeleteFileTellsWhatStillExists)
+{
+    EXPECT_TRUE(DeleteFile(""));
+    EXPECT_TRUE(DeleteFile(In("missing")));
+    WriteBytes(In("a"), "");
+    WriteBytes(In("A"), "");
+    EXPECT_TRUE(DeleteFile(In("a")));
+    EXPECT_FALSE(fs::exists(In("a")));
+    EXPECT_TRUE(fs::exists(In("A")));
+    EXPECT_FALSE(DeleteFile("/proc/self/status"));
+}
+
+TEST_F(Paths, ClearStaleTemporaryFilesOnTheWay)
+{
+    const fs::path temp = Shared().TempFolder;
+    EXPECT_EQ(NewTempFileName("TqSng"), temp / "TqkTmp1.TqSng");
+    WriteBytes(temp / "TqkTmp1.TqSng", "stale");
+    WriteBytes(temp / "TqkTmp2.TqSng", "stale");
+    WriteBytes(temp / "TqkTmp1.TqTun", "other");
+    EXPECT_EQ(NewTempFileName("TqSng"), temp / "TqkTmp3.TqSng");
+    EXPECT_FALSE(fs::exists(temp / "TqkTmp1.TqSng"));
+    EXPECT_FALSE(fs::exists(temp / "TqkTmp2.TqSng"));
+    EXPECT_TRUE(fs::exists(temp / "TqkTmp1.TqTun"));
+    EXPECT_EQ(NewTempFileName("TqSng"), temp / "TqkTmp1.TqSng");
+}
+
+TEST_F(Paths, PassOverLinksInTheTempFolder)
+{
+    WriteBytes(In("target"), "kept");
+    fs::create_symlink(In("target"), Shared().TempFolder / "TqkTmp1.raw");
+    fs::create_symlink(In("nowhere"), Shared().TempFolder / "TqkTmp2.raw");
+    EXPECT_EQ(NewTempFileName("raw").filename(), "TqkTmp3.raw");
+    EXPECT_EQ(ReadBytes(In("target")), "kept");
+}
+
+TEST_F(Paths, EndTheSearchWhereANameCannotBeAskedFor)
+{
+    const std::string tooLong(300, 'x');
+    EXPECT_EQ(NewTempFileName(tooLong), Shared().TempFolder / ("TqkTmp1." + tooLong));
+}
+
+TEST_F(Paths, ReplaceWhatFileNamesCannotHold)
+{
+    EXPECT_EQ(SafeFileName("a./\\:*?<>\"|b é"), "a_________|b é");
+}
+
+TEST_F(Paths, AskForTheRoomOfTheTempFolder)
+{
+    fake.machine.freeBytes = 5'000'000'000;
+    EXPECT_EQ(FreeDiskBytes(), 5'000'000'000U);
+}
+
+TEST_F(Paths, CopyFoldersWithTheirTimesAndOverwriteNothing)
+{
+    fs::create_directories(In("from/Beats/sub"));
+    fs::create_directories(In("to/Beats"));
+    WriteBytes(In("from/Beats/a.wav"), "a");
+    WriteBytes(In("from/Beats/b.wav"), "b");
+    WriteBytes(In("from/Beats/sub/c.wav"), "c");
+    WriteBytes(In("to/Beats/b.wav"), "mine");
+    SetWrittenIn2020(In("from/Beats/a.wav"), 1000);
+    fs::permissions(In("from/Beats/a.wav"), fs::perms::owner_read);
+    EXPECT_TRUE(CopyFolder(In("from/Beats/"), In("to")));
+    EXPECT_EQ(FileStamp(In("to/Beats/a.wav")), FileStamp(In("from/Beats/a.wav")));
+    EXPECT_EQ(fs::last_write_time(In("to/Beats/a.wav")), fs::last_write_time(In("from/Beats/a.wav")));
+    EXPECT_NE(fs::status(In("to/Beats/a.wav")).permissions() & fs::perms::owner_write, fs::perms::none);
+    EXPECT_EQ(ReadBytes(In("to/Beats/b.wav")), "mine");
+    EXPECT_EQ(ReadBytes(In("to/Beats/sub/c.wav")), "c");
+    EXPECT_EQ(fake.screen.processPicsShown, 1);
+    EXPECT_EQ(fake.screen.processPics, 0);
+    EXPECT_EQ(fake.screen.hourglasses, 0);
+}
+
+TEST_F(Paths, TellAFailedCopy)
+{
+    EXPECT_FALSE(CopyFolder(In("missing"), In("to")));
+    ASSERT_EQ(fake.messages.shown.size(), 1U);
+    EXPECT_EQ(fake.messages.shown[0].title, "Error message");
+    EXPECT_EQ(fake.messages.shown[0].icon, MessageIcon::Exclamation);
+    EXPECT_EQ(fake.messages.shown[0].text, "Following error occurd while copying folder " + In("missing").native() +
+                                               "\r\nNo such file or directory");
+    EXPECT_EQ(fake.screen.processPics, 0);
+}
+
+TEST_F(Paths, CountPlainFilesThatAreNotHidden)
+{
+    fs::create_directories(In("f/sub"));
+    EXPECT_FALSE(HoldsFile(In("missing")));
+    EXPECT_FALSE(HoldsFile(In("f")));
+    WriteBytes(In("f/.TqkSave1"), "");
+    WriteBytes(In("f/sub/a"), "");
+    EXPECT_FALSE(HoldsFile(In("f")));
+    WriteBytes(In("f/a"), "");
+    EXPECT_TRUE(HoldsFile(In("f")));
+}
+
+TEST_F(Paths, FindTheProgramsFoldersAndSettings)
+{
+    fake.machine.executable = In("program/sprout.painter");
+    fake.machine.temp = In("temp/");
+    FindTempFolder();
+    EXPECT_EQ(Shared().ProgramFolder, In("program"));
+    EXPECT_EQ(Shared().SettingsFile, In("program/sprout.ini"));
+    EXPECT_EQ(Shared().TempFolder, In("temp"));
+    WriteBytes(In("file"), "");
+    for (const fs::path& bad : {In("missing"), In("file"), fs::path(" "), fs::path()}) {
+        fake.machine.temp = bad;
+        FindTempFolder();
+        EXPECT_EQ(Shared().TempFolder, In("program")) << bad;
+    }
+}
+
+TEST_F(Paths, StampFilesInLocalTime)
+{
+    WriteBytes(In("a"), "");
+    SetWrittenIn2020(In("a"), 3661);
+    const char* before = std::getenv("TZ");
+    const std::string zone = before ? before : "";
+    ::setenv("TZ", "UTC-2", 1);
+    ::tzset();
+    EXPECT_EQ(FileStamp(In("a")), "01/01/2020,03:01:01");
+    if (before)
+        ::setenv("TZ", zone.c_str(), 1);
+    else
+        ::unsetenv("TZ");
+    ::tzset();
+    EXPECT_EQ(FileStamp(In("missing")), "");
+}
+
+TEST_F(Paths, TakeTheBaseNameBetweenSeparatorAndLastDot)
+{
+    EXPECT_EQ(BaseName("/a/b.c.wav"), "b.c");
+    EXPECT_EQ(BaseName("É.wav"), "É");
+}
+
+} // namespace
+} // namespace sprout

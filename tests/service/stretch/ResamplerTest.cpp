@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/stretch/Resampler.h"
+
+#include "service/stretch/TestSounds.h"
+
+#include <gtest/gtest.h>
+
+namespace sprout::stretch {
+
+TEST(Resample, PlaysASoundAsMuchFasterAsAsked)
+{
+    const std::vector<float> sound = SineFloats(20000, 1000);
+    const std::vector<float> higher = Resample(sound, 1.5, 13333);
+    const std::vector<float> lower = Resample(sound, 0.5, 40000);
+    EXPECT_NEAR(LevelAt(std::span<const float>(higher), 1500), 16000, 50);
+    EXPECT_NEAR(LevelAt(std::span<const float>(lower), 500), 16000, 50);
+}
+
+TEST(Resample, HasNoLatency)
+{
+    std::vector<float> sound(4000);
+    sound[1000] = 10000;
+    const std::vector<float> result = Resample(sound, 0.5, 8000);
+    EXPECT_EQ(std::max_element(result.begin(), result.end()) - result.begin(), 2000);
+}
+
+TEST(Resample, CutsAndPadsToTheLengthAsked)
+{
+    const std::vector<float> sound(1000, 500.0F);
+    EXPECT_EQ(Resample(sound, 2, 100).size(), 100U);
+    const std::vector<float> padded = Resample(sound, 2, 900);
+    ASSERT_EQ(padded.size(), 900U);
+    EXPECT_EQ(padded[600], 0);
+    EXPECT_EQ(Resample(sound, 1, 1200)[1100], 0);
+    EXPECT_EQ(Resample(sound, 1, 900)[899], 500);
+}
+
+TEST(Resample, LeavesOutWhatWouldLieAboveHalfTheRate)
+{
+    const std::vector<float> result = Resample(SineFloats(20000, 15000), 2, 10000);
+    for (std::size_t i = 1000; i < 9000; ++i) {
+        ASSERT_NEAR(result[i], 0, 4);
+    }
+}
+
+TEST(Resample, RingsLittleAheadOfAClick)
+{
+    std::vector<float> sound(4000);
+    sound[2000] = 10000;
+    const std::vector<float> result = Resample(sound, 0.6674, 5993);
+    for (std::size_t i = 0; i < 2997 - 100; ++i) {
+        ASSERT_NEAR(result[i], 0, 5) << i;
+    }
+}
+
+} // namespace sprout::stretch

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/xdg/XdgDesktop.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+#include <map>
+#include <optional>
+
+#include "support/TestFolder.h"
+
+namespace sprout {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(DocumentsOfUserDirs, TakesTheLastLineThatNamesThem)
+{
+    EXPECT_EQ(
+        DocumentsOfUserDirs("# XDG_DOCUMENTS_DIR=\"/no\"\nXDG_MUSIC_DIR=\"/m\"\nXDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n",
+                            "/home/child"),
+        "/home/child/Papers");
+    EXPECT_EQ(DocumentsOfUserDirs("XDG_DOCUMENTS_DIR=\"/a\"\n  XDG_DOCUMENTS_DIR=\"/b \\\"c\\\"/\"", "/home/child"),
+              "/b \"c\"");
+}
+
+TEST(DocumentsOfUserDirs, IsEmptyWhereTheyAreSwitchedOffOrNotAbsolute)
+{
+    for (const char* value : {"$HOME", "$HOME/", "/home/child", "Papers", "", "$HOMEX/a"})
+        EXPECT_EQ(DocumentsOfUserDirs("XDG_DOCUMENTS_DIR=\"" + std::string(value) + "\"", "/home/child"), fs::path())
+            << value;
+    EXPECT_EQ(DocumentsOfUserDirs("", "/home/child"), fs::path());
+    EXPECT_EQ(DocumentsOfUserDirs("XDG_DOCUMENTS_DIR=/x", "/home/child"), fs::path());
+}
+
+/// A home of its own; the environment comes back afterwards.
+class Desktop : public testing::Test {
+protected:
+    Desktop()
+    {
+        Set("HOME", folder.Path() / "home");
+        Set("XDG_CONFIG_HOME", "");
+        fs::create_directories(folder.Path() / "home/.config");
+    }
+    ~Desktop() override
+    {
+        for (const auto& [name, value] : before) {
+            if (value)
+                ::setenv(name.c_str(), value->c_str(), 1);
+            else
+                ::unsetenv(name.c_str());
+        }
+    }
+
+    void Set(const std::string& name, const std::string& value)
+    {
+        const char* old = std::getenv(name.c_str());
+        before.emplace(name, old ? std::optional<std::string>(old) : std::nullopt);
+        ::setenv(name.c_str(), value.c_str(), 1);
+    }
+
+    TestFolder folder;
+    std::map<std::string, std::optional<std::string>> before;
+};
+
+TEST_F(Desktop, MakesDocumentsInTheHomeFolder)
+{
+    EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Documents");
+    EXPECT_TRUE(fs::is_directory(folder.Path() / "home/Documents"));
+}
+
+TEST_F(Desktop, TakesTheFolderThatTheUserNamed)
+{
+    WriteBytes(folder.Path() / "home/.config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Mine\"\n");
+    EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Mine");
+    fs::create_directories(folder.Path() / "config");
+    WriteBytes(folder.Path() / "config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Other\"\n");
+    Set("XDG_CONFIG_HOME", folder.Path() / "config");
+    EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Other");
+}
+
+TEST_F(Desktop, PassesOverAFolderInPlaceOfTheList)
+{
+    fs::create_directories(folder.Path() / "home/.config/user-dirs.dirs");
+    EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Documents");
+}
+
+TEST_F(Desktop, HasNoDocumentsWhereNoneCanBeMade)
+{
+    WriteBytes(folder.Path() / "home/Documents", "a file in the way");
+    EXPECT_EQ(XdgDesktop().DocumentsFolder(), fs::path());
+}
+
+/// The first line that a stub of xdg-open writes into a pipe, waited for without sleeping.
+class OpenWithShell : public Desktop {
+protected:
+    OpenWithShell()
+    {
+        ::mkfifo(Pipe().c_str(), 0600);
+        reader = ::open(Pipe().c_str(), O_RDWR | O_CLOEXEC);
+        WriteBytes(folder.Path() / "xdg-open", "#!/bin/sh\nprintf '%s' \"$1\" > '" + Pipe().native() + "'\n");
+        fs::permissions(folder.Path() / "xdg-open", fs::perms(0700));
+        Set("PATH", folder.Path().native() + ":/usr/bin:/bin");
+    }
+    ~OpenWithShell() override { ::close(reader); }
+
+    [[nodiscard]] fs::path Pipe() const { return folder.Path() / "pipe"; }
+
+    [[nodiscard]] std::string Opened(int waitMilliseconds) const
+    {
+        pollfd waiting = {reader, POLLIN, 0};
+        std::array<char, 256> text{};
+        if (::poll(&waiting, 1, waitMilliseconds) != 1)
+            return {};
+        const ssize_t count = ::read(reader, text.data(), text.size());
+        return {text.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))};
+    }
+
+    int reader = -1;
+};
+
+TEST_F(OpenWithShell, HandsTheTargetOverAsItIs)
+{
+    const std::string target = "/a b/$(touch x)'\";&.html";
+    XdgDesktop().OpenWithShell(target);
+    EXPECT_EQ(Opened(10000), target);
+}
+
+TEST_F(OpenWithShell, HandsOverNothingThatWouldBeAnOption)
+{
+    XdgDesktop().OpenWithShell("");
+    XdgDesktop().OpenWithShell("--manual");
+    XdgDesktop().OpenWithShell("https://tonquill.example/");
+    EXPECT_EQ(Opened(10000), "https://tonquill.example/");
+}
+
+} // namespace
+} // namespace sprout

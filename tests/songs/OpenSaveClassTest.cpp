@@ -1,0 +1,200 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "songs/OpenSaveClass.h"
+
+#include <filesystem>
+
+#include "core/Errors.h"
+#include "core/SongModel.h"
+#include "songs/SongFiles.h"
+
+namespace sprout {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::Test;
+using Texts = std::vector<std::string>;
+
+/// A song of one audio track of two cells.
+HandArray SmallArray()
+{
+    HandArray array;
+    array.Add({1, 0, 2, 320}).Text("Title").Text("Ann").Add({1, 1, 2}).Add({4, 16, 2, 44100, 0});
+    return array;
+}
+
+class OpenSaveClassTest : public SongFilesTest {
+protected:
+    OpenSaveClassTest()
+    {
+        NewSong();
+        Shared().Song.SongTitle = "Before";
+    }
+
+    /// The song that was open stands, but for its tracks.
+    static void ExpectFailed()
+    {
+        EXPECT_EQ(Shared().Song.TrackCount, 0);
+        EXPECT_EQ(Shared().Song.SongTitle, "Before");
+        EXPECT_EQ(Shared().Song.SongCells, 1280);
+        EXPECT_EQ(Shared().Song.Tracks.size(), 3U);
+    }
+};
+
+TEST_F(OpenSaveClassTest, ReplacesTheSharedSongWhole)
+{
+    Shared().Song.SongMixValid = true;
+    Shared().Song.SongMix = WaveOf({1});
+    const SongState& song = LoadArray(SmallArray());
+    EXPECT_EQ(song.SongTitle, "Title");
+    EXPECT_EQ(song.TrackCount, 1);
+    EXPECT_EQ(song.SongCells, 2);
+    EXPECT_FALSE(song.SongMixValid);
+    EXPECT_EQ(song.SongMix.Length, 0);
+    EXPECT_TRUE(Told().empty());
+}
+
+TEST_F(OpenSaveClassTest, ReadsVersionsByTheirNumber)
+{
+    for (const char* version : {"2", "2.0", " 2", "2,5", "2e0"}) {
+        Shared().Song.TrackCount = 0;
+        EXPECT_EQ(LoadArray(SmallArray(), version).TrackCount, 1) << version;
+    }
+    EXPECT_TRUE(Told().empty());
+}
+
+TEST_F(OpenSaveClassTest, RefusesVersionsThatItDoesNotKnow)
+{
+    for (const char* version : {"3", "0", "1.2", "1.11", "-2", "", "two", "2.1", "1e300"}) {
+        services.messages.shown.clear();
+        LoadArray(SmallArray(), version);
+        ExpectFailed();
+        EXPECT_EQ(Told(), Texts{"|Failed Loading"}) << version;
+        NewSong();
+        Shared().Song.SongTitle = "Before";
+    }
+}
+
+TEST_F(OpenSaveClassTest, FindsItsKeysInAnyLetterCaseButNotOnTheFirstLine)
+{
+    const std::string array = BytesOf(SmallArray().Elements()) + std::string(9, '\0');
+    EXPECT_EQ(LoadBytes("x\r\nFILE VERSION=2\r\ndATA=" + array).TrackCount, 1);
+    LoadBytes("File Version=2\r\nData=" + array);
+    EXPECT_EQ(Told(), Texts{"|Failed Loading"});
+}
+
+TEST_F(OpenSaveClassTest, TellsWhenTheDataAreMissing)
+{
+    LoadBytes("TqSng\r\nFile Version=2\r\n" + std::string(100, ' '));
+    ExpectFailed();
+    EXPECT_EQ(Told(), (Texts{"Error Loading File|Failed to find Data", "|Failed Loading"}));
+}
+
+TEST_F(OpenSaveClassTest, TellsOfAShortFileAndThenOfTheFailure)
+{
+    const std::string bytes = FileOf("TqSng", "2", SmallArray().Elements());
+    LoadBytes(bytes.substr(0, bytes.size() - 10));
+    ExpectFailed();
+    ASSERT_EQ(Told().size(), 2U);
+    EXPECT_EQ(Told()[0].rfind("Error Loading File|The file is damaged", 0), 0U);
+    EXPECT_EQ(Told()[1], "|Failed Loading");
+}
+
+TEST_F(OpenSaveClassTest, TellsOnceOfAFileThatCannotBeOpened)
+{
+    fs::create_directory(Shared().UserSongs / "folder.TqSng");
+    fs::create_symlink(Shared().UserSongs / "nowhere", Shared().UserSongs / "link.TqSng");
+    for (const char* name : {"None.TqSng", "folder.TqSng", "link.TqSng"}) {
+        services.messages.shown.clear();
+        OpenSaveClass().Load_Song(Shared().UserSongs / name);
+        ExpectFailed();
+        ASSERT_EQ(Told().size(), 1U) << name;
+        EXPECT_EQ(Told()[0].rfind("Error Opening File|The file ", 0), 0U);
+    }
+}
+
+TEST_F(OpenSaveClassTest, AnEmptyFileIsOfNoKnownVersion)
+{
+    LoadBytes("");
+    ExpectFailed();
+    EXPECT_EQ(Told(), Texts{"|Failed Loading"});
+}
+
+TEST_F(OpenSaveClassTest, ASongWithoutTracksCountsAsFailed)
+{
+    HandArray array;
+    array.Add({0, 0, 1280, 320}).Text("Title").Text("Ann");
+    LoadArray(array);
+    ExpectFailed();
+    EXPECT_EQ(Told(), Texts{"|Failed Loading"});
+}
+
+TEST_F(OpenSaveClassTest, FindsAFileWhateverItsLetterCase)
+{
+    WriteBytes(Shared().UserSongs / "Rain.TqSng", FileOf("TqSng", "2", SmallArray().Elements()));
+    OpenSaveClass().Load_Song(Shared().UserSongs / "rain.tqsng");
+    EXPECT_EQ(Shared().Song.TrackCount, 1);
+}
+
+TEST_F(OpenSaveClassTest, SavesHeadArrayAndTail)
+{
+    const std::string bytes = SaveBytes();
+    EXPECT_EQ(bytes.substr(0, 53), "TqSng\r\nFile Description=Tonquill Sprout Song File\r\nSa");
+    EXPECT_NE(bytes.find("\r\nFile Version=2\r\nTime="), std::string::npos);
+    const std::size_t data = bytes.find("\r\nData=") + 7;
+    EXPECT_EQ(bytes.substr(bytes.size() - 9), std::string("\0\0\0\0EOF\r\n", 9));
+    EXPECT_EQ(ArrayOf(bytes).size() * 4, bytes.size() - 9 - data);
+}
+
+TEST_F(OpenSaveClassTest, SavingTwiceGivesEqualArrays)
+{
+    Shared().Song.SongBeats.resize(3);
+    Shared().Song.SongBeatCount = 2;
+    Shared().Song.SongBeats[2] = {"Drum", "stamp", WaveOf({1}), PlainPicture(1), true};
+    Shared().Song.Tracks[1].TrackTune.Name = "Tune";
+    Shared().Song.Tracks[1].TrackTune.Steps[1].BeatIndex = 2;
+    const std::vector<std::int32_t> first = ArrayOf(SaveBytes());
+    EXPECT_EQ(Shared().Song.SongBeatCount, 1);
+    EXPECT_EQ(ArrayOf(SaveBytes()), first);
+    EXPECT_EQ(first[2], 1);
+}
+
+TEST_F(OpenSaveClassTest, AFailedSaveThrowsAndLeavesFilesAndSongUsable)
+{
+    SaveBytes();
+    const std::string before = ReadBytes(Path());
+    EXPECT_THROW(OpenSaveClass().Save_Song(Shared().UserSongs / "no folder" / "x.TqSng"), RunTimeError);
+    EXPECT_THROW(OpenSaveClass().Save_Song(Shared().UserSongs), RunTimeError);
+    EXPECT_EQ(ReadBytes(Path()), before);
+    EXPECT_EQ(Shared().Song.TrackCount, 2);
+    EXPECT_FALSE(fs::exists(Shared().UserSongs / "no folder"));
+    EXPECT_EQ(ArrayOf(SaveBytes()), ArrayOf(before));
+}
+
+TEST_F(OpenSaveClassTest, TooMuchSoundForOneFileLeavesTheOldOne)
+{
+    SaveBytes();
+    const std::string before = ReadBytes(Path());
+    WaveData wave;
+    wave.Channels = 1;
+    wave.Length = 1 << 26;
+    wave.WavL = Channel::Unfilled(wave.Length); // shared by all tracks, and never read
+    SongState& song = Shared().Song;
+    song.TrackCount = 64;
+    song.Tracks.assign(65, Track());
+    for (std::int32_t i = 1; i <= 64; ++i) {
+        ResetTrack(i);
+        At(song.Tracks, i).TrackType = 1;
+        At(song.Tracks, i).TrackAudio = wave;
+    }
+    EXPECT_THROW(OpenSaveClass().Save_Song(Path()), RunTimeError);
+    EXPECT_EQ(ReadBytes(Path()), before);
+}
+
+TEST_F(OpenSaveClassTest, ASavedFileIsFlushed)
+{
+    OpenSaveClass().Save_Song(Path());
+    EXPECT_GT(fs::file_size(Path()), 2'560U * 4);
+}
+
+} // namespace
+} // namespace sprout

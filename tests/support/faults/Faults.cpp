@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "support/Faults.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/uio.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdarg>
+#include <cstdio>
+
+namespace sprout {
+
+namespace {
+
+/// Counts a call; true where it has to fail, with errno set.
+bool Fails(SystemCall call)
+{
+    Faults& faults = TheFaults();
+    const int count = ++faults.calls[static_cast<std::size_t>(call)];
+    if (call != faults.call)
+        return false;
+    if (faults.fault == Fault::KillBefore && count == faults.nth)
+        ::_exit(kKilled);
+    const bool fails = (faults.fault == Fault::FailOnce && count == faults.nth) ||
+                       (faults.fault == Fault::FailForGood && count >= faults.nth);
+    if (fails)
+        errno = faults.error;
+    return fails;
+}
+
+template <class Result>
+Result Behind(SystemCall call, Result result)
+{
+    const Faults& faults = TheFaults();
+    if (call == faults.call && faults.fault == Fault::KillAfter &&
+        faults.calls[static_cast<std::size_t>(call)] == faults.nth)
+        ::_exit(kKilled);
+    return result;
+}
+
+bool WritesAre(Fault fault)
+{
+    return TheFaults().call == SystemCall::Writev && TheFaults().fault == fault;
+}
+
+} // namespace
+
+Faults& TheFaults()
+{
+    static Faults faults;
+    return faults;
+}
+
+} // namespace sprout
+
+using sprout::Behind;
+using sprout::Fails;
+using sprout::SystemCall;
+
+// The linker leads the calls here and names the true ones __real_.
+extern "C" {
+
+int __real_open(const char* path, int flags, ...);
+ssize_t __real_writev(int descriptor, const iovec* blocks, int count);
+int __real_fchmod(int descriptor, mode_t mode);
+int __real_fsync(int descriptor);
+int __real_close(int descriptor);
+int __real_rename(const char* from, const char* to);
+
+int __wrap_open(const char* path, int flags, ...)
+{
+    va_list rest;
+    va_start(rest, flags);
+    const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
+    va_end(rest);
+    return Fails(SystemCall::Open) ? -1 : Behind(SystemCall::Open, __real_open(path, flags, mode));
+}
+
+ssize_t __wrap_writev(int descriptor, const iovec* blocks, int count)
+{
+    if (Fails(SystemCall::Writev))
+        return -1;
+    if (sprout::WritesAre(sprout::Fault::Nothing))
+        return 0;
+    if (sprout::WritesAre(sprout::Fault::Short)) {
+        constexpr std::size_t most = 1000;
+        const iovec part = {blocks->iov_base, blocks->iov_len < most ? blocks->iov_len : most};
+        return __real_writev(descriptor, &part, 1);
+    }
+    return Behind(SystemCall::Writev, __real_writev(descriptor, blocks, count));
+}
+
+int __wrap_fchmod(int descriptor, mode_t mode)
+{
+    return Fails(SystemCall::Fchmod) ? -1 : Behind(SystemCall::Fchmod, __real_fchmod(descriptor, mode));
+}
+
+int __wrap_fsync(int descriptor)
+{
+    return Fails(SystemCall::Fsync) ? -1 : Behind(SystemCall::Fsync, __real_fsync(descriptor));
+}
+
+// A failed close gives its descriptor back all the same.
+int __wrap_close(int descriptor)
+{
+    if (!Fails(SystemCall::Close))
+        return Behind(SystemCall::Close, __real_close(descriptor));
+    const int error = errno;
+    __real_close(descriptor);
+    errno = error;
+    return -1;
+}
+
+int __wrap_rename(const char* from, const char* to)
+{
+    return Fails(SystemCall::Rename) ? -1 : Behind(SystemCall::Rename, __real_rename(from, to));
+}
+}
