@@ -33,17 +33,25 @@ QString PlateName(Plate plate, ButtonFace face)
     return QStringLiteral("plates/%1%2").arg(QLatin1String(shape), QtText(FaceName(face)));
 }
 
-/// Left and right half of a square picture at the ends, its middle column stretched between them.
-void DrawStretched(QPainter& painter, const QPixmap& square, const QRect& target)
+/// A word plate of any width: left and right half of the square artwork at the ends, its middle column stretched
+/// between them. Put together in whole device pixels, so that no seam shows at any scale.
+QPixmap WordPlate(const QPixmap& square, QSize size)
 {
-    const int side = square.width(); // device pixels
+    const qreal ratio = square.devicePixelRatio();
+    const int side = square.height();
+    const int width = std::max(qRound(size.width() * ratio), side);
     const int half = side / 2;
-    const int cap = target.height() / 2;
-    const QRect middle(target.left() + cap, target.top(), target.width() - 2 * cap, target.height());
-    painter.drawPixmap(QRect(target.left(), target.top(), cap, target.height()), square, QRect(0, 0, half, side));
-    painter.drawPixmap(middle, square, QRect(half, 0, 1, side));
-    painter.drawPixmap(QRect(middle.right() + 1, target.top(), cap, target.height()), square,
-                       QRect(side - half, 0, half, side));
+    QPixmap source = square;
+    source.setDevicePixelRatio(1);
+    QPixmap plate(width, side);
+    plate.fill(Qt::transparent);
+    QPainter painter(&plate);
+    painter.drawPixmap(QRect(0, 0, half, side), source, QRect(0, 0, half, side));
+    painter.drawPixmap(QRect(half, 0, width - side, side), source, QRect(half, 0, 1, side));
+    painter.drawPixmap(QRect(width - side + half, 0, side - half, side), source, QRect(half, 0, side - half, side));
+    painter.end();
+    plate.setDevicePixelRatio(ratio);
+    return plate;
 }
 
 } // namespace
@@ -104,7 +112,6 @@ void ImageButton::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!isEnabled())
         painter.setOpacity(0.4);
     PaintPlate(painter);
@@ -120,7 +127,8 @@ void ImageButton::PaintPlate(QPainter& painter) const
 {
     const QString name = PlateName(plate, face);
     if (plate == Plate::Word)
-        DrawStretched(painter, Artwork(name, QSize(height(), height()), devicePixelRatioF(), plateColour), rect());
+        painter.drawPixmap(
+            0, 0, WordPlate(Artwork(name, QSize(height(), height()), devicePixelRatioF(), plateColour), size()));
     else
         painter.drawPixmap(0, 0, Artwork(name, size(), devicePixelRatioF()));
 }

@@ -6,7 +6,7 @@
 namespace sprout {
 namespace {
 
-Picture OneColour(int width, int height, std::uint32_t colour)
+Picture PlainPictureOf(int width, int height, std::uint32_t colour)
 {
     return {width, height,
             std::vector<std::uint32_t>(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), colour)};
@@ -14,7 +14,7 @@ Picture OneColour(int width, int height, std::uint32_t colour)
 
 TEST(BevelTunePicture, LeavesTheMiddleAlone)
 {
-    const Picture bevelled = BevelTunePicture(OneColour(32, 32, 0x102030));
+    const Picture bevelled = BevelTunePicture(PlainPictureOf(32, 32, 0x102030));
     for (int y = 2; y < 30; ++y)
         for (int x = 2; x < 30; ++x)
             EXPECT_EQ(bevelled.Pixel(x, y), 0x102030u);
@@ -24,7 +24,7 @@ TEST(BevelTunePicture, ShadesEachComponentOfEachLine)
 {
     // 200, 100, 0: x 0.7 = 140, 70, 0; x 0.4 = 80, 40, 0; 255 - 55 x 0.4 = 233, 255 - 155 x 0.4 = 193, 153;
     // 255 - 55 x 0.8 = 211, 255 - 155 x 0.8 = 131, 51.
-    const Picture bevelled = BevelTunePicture(OneColour(32, 32, 0xC86400));
+    const Picture bevelled = BevelTunePicture(PlainPictureOf(32, 32, 0xC86400));
     EXPECT_EQ(bevelled.Pixel(10, 30), 0x8C4600u);
     EXPECT_EQ(bevelled.Pixel(30, 10), 0x8C4600u);
     EXPECT_EQ(bevelled.Pixel(10, 31), 0x502800u);
@@ -37,7 +37,7 @@ TEST(BevelTunePicture, ShadesEachComponentOfEachLine)
 
 TEST(BevelTunePicture, ShadesCrossingsByEachLineInOrder)
 {
-    const Picture bevelled = BevelTunePicture(OneColour(32, 32, 0x000064));
+    const Picture bevelled = BevelTunePicture(PlainPictureOf(32, 32, 0x000064));
     EXPECT_EQ(bevelled.Pixel(30, 30), 49u);                 // 100 x 0.7 x 0.7
     EXPECT_EQ(bevelled.Pixel(31, 31), 16u);                 // 100 x 0.4 x 0.4
     EXPECT_EQ(bevelled.Pixel(30, 31), 40u);                 // column 30 ends at row 30
@@ -54,22 +54,22 @@ TEST(BevelTunePicture, ShadesCrossingsByEachLineInOrder)
 
 TEST(BevelTunePicture, RoundsTheShadedComponent)
 {
-    EXPECT_EQ(BevelTunePicture(OneColour(32, 32, 3)).Pixel(10, 30), 2u); // 2.1
-    EXPECT_EQ(BevelTunePicture(OneColour(32, 32, 4)).Pixel(10, 31), 2u); // 1.6
+    EXPECT_EQ(BevelTunePicture(PlainPictureOf(32, 32, 3)).Pixel(10, 30), 2u); // 2.1
+    EXPECT_EQ(BevelTunePicture(PlainPictureOf(32, 32, 4)).Pixel(10, 31), 2u); // 1.6
 }
 
 TEST(BevelTunePicture, TakesPicturesOfAnySize)
 {
     EXPECT_TRUE(BevelTunePicture(Picture()).IsNothing());
     for (const int side : {1, 2, 3}) {
-        const Picture bevelled = BevelTunePicture(OneColour(side, side, 0x808080));
+        const Picture bevelled = BevelTunePicture(PlainPictureOf(side, side, 0x808080));
         EXPECT_EQ(bevelled.Width(), side);
     }
 }
 
 TEST(BevelTunePicture, GivesANewPicture)
 {
-    const Picture picture = OneColour(32, 32, 0x808080);
+    const Picture picture = PlainPictureOf(32, 32, 0x808080);
     EXPECT_FALSE(SamePicture(picture, BevelTunePicture(picture)));
     EXPECT_EQ(picture.Pixel(0, 0), 0x808080u);
 }

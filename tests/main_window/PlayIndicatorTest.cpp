@@ -8,7 +8,7 @@
 namespace sprout {
 namespace {
 
-constexpr TrackView kView{2, 11, 600, 300, 300};
+constexpr TrackView kScrolled{2, 11, 600, 300, 300};
 
 TEST(PlayingCell, CountsCellsOfTheTempoAtTheStart)
 {
@@ -21,30 +21,30 @@ TEST(PlayingCell, CountsCellsOfTheTempoAtTheStart)
 
 TEST(MovePlayIndicator, MarksTheTimeBandForTheWholeSong)
 {
-    const PlayIndicator indicator = MovePlayIndicator({kWholeSong, 0, 44100, 320, 31}, kView);
+    const PlayIndicator indicator = MovePlayIndicator({kWholeSong, 0, 44100, 320, 31}, kScrolled);
     EXPECT_EQ(indicator.songLeft, 60);
     EXPECT_FALSE(indicator.track);
 }
 
 TEST(MovePlayIndicator, MarksTheRowOfATrack)
 {
-    const PlayIndicator indicator = MovePlayIndicator({3, 0, 44100, 320, 31}, kView);
+    const PlayIndicator indicator = MovePlayIndicator({3, 0, 44100, 320, 31}, kScrolled);
     EXPECT_FALSE(indicator.songLeft);
     EXPECT_EQ(indicator.track, (PlayIndicator::OnRow{60, 73}));
 }
 
 TEST(MovePlayIndicator, HidesTheMarkOfATrackOutsideTheRows)
 {
-    EXPECT_FALSE(MovePlayIndicator({1, 0, 44100, 320, 31}, kView).track);
-    EXPECT_TRUE(MovePlayIndicator({9, 0, 44100, 320, 31}, kView).track);
-    EXPECT_FALSE(MovePlayIndicator({10, 0, 44100, 320, 31}, kView).track);
+    EXPECT_FALSE(MovePlayIndicator({1, 0, 44100, 320, 31}, kScrolled).track);
+    EXPECT_TRUE(MovePlayIndicator({9, 0, 44100, 320, 31}, kScrolled).track);
+    EXPECT_FALSE(MovePlayIndicator({10, 0, 44100, 320, 31}, kScrolled).track);
 }
 
 TEST(MovePlayIndicator, ShowsNothingWhenNothingPlaysOrTheCellCannotBeTold)
 {
     for (const PlayedSound& sound : {PlayedSound{0, 0, 44100, 320, 31}, PlayedSound{kWholeSong, 5, 0, 320, 31},
                                      PlayedSound{kWholeSong, 0, 0, 320, 31}, PlayedSound{1, 1e300, 44100, 320, 31}}) {
-        const PlayIndicator indicator = MovePlayIndicator(sound, kView);
+        const PlayIndicator indicator = MovePlayIndicator(sound, kScrolled);
         EXPECT_FALSE(indicator.songLeft);
         EXPECT_FALSE(indicator.track);
     }

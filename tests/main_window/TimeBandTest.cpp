@@ -9,7 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-SongState Song(std::int32_t trackCount)
+SongState EmptySong(std::int32_t trackCount)
 {
     SongState song;
     song.TrackCount = trackCount;
@@ -21,7 +21,7 @@ SongState Song(std::int32_t trackCount)
 
 TEST(BusyMarks, ShowsACellPaintedOnAnyTrackOnce)
 {
-    SongState song = Song(2);
+    SongState song = EmptySong(2);
     At(song.Tracks[1].Painted, 3) = 1;
     At(song.Tracks[2].Painted, 3) = 1;
     At(song.Tracks[2].Painted, 5) = 1;
@@ -31,14 +31,14 @@ TEST(BusyMarks, ShowsACellPaintedOnAnyTrackOnce)
 
 TEST(BusyMarks, LeavesTrack0Alone)
 {
-    SongState song = Song(1);
+    SongState song = EmptySong(1);
     At(song.Tracks[0].Painted, 3) = 1;
     EXPECT_THAT(BusyMarks(song, {1, 1, 60, 300, 300}), IsEmpty());
 }
 
 TEST(BusyMarks, ChangesItsPictureEveryEightCells)
 {
-    SongState song = Song(1);
+    SongState song = EmptySong(1);
     for (const std::int32_t cell : {1, 8, 9, 16, 17})
         At(song.Tracks[1].Painted, cell) = 1;
     EXPECT_THAT(BusyMarks(song, {1, 1, 60, 300, 300}),
@@ -47,7 +47,7 @@ TEST(BusyMarks, ChangesItsPictureEveryEightCells)
 
 TEST(BusyMarks, BeginsAtTheViewAndEndsWithTheSong)
 {
-    SongState song = Song(1);
+    SongState song = EmptySong(1);
     for (const std::int32_t cell : {1269, 1270, 1280})
         At(song.Tracks[1].Painted, cell) = 1;
     EXPECT_THAT(BusyMarks(song, {1, 1270, 60, 300, 300}), ElementsAre(BusyMark{0, 1}, BusyMark{30, 0}));
@@ -55,7 +55,7 @@ TEST(BusyMarks, BeginsAtTheViewAndEndsWithTheSong)
 
 TEST(SecondsLabels, CountsInFivesAtTheSongsTempo)
 {
-    const SongState song = Song(1); // a cell lasts 0.1875 s, five seconds are 80 pixels
+    const SongState song = EmptySong(1); // a cell lasts 0.1875 s, five seconds are 80 pixels
     const auto labels = SecondsLabels(song, {1, 1, 160, 300, 300});
     ASSERT_EQ(labels.size(), 3u);
     EXPECT_EQ(labels[0].seconds, 0);
@@ -66,14 +66,14 @@ TEST(SecondsLabels, CountsInFivesAtTheSongsTempo)
 
 TEST(SecondsLabels, KeepsALabelThatBeginsLessThan5PixelsBeforeTheBand)
 {
-    const SongState song = Song(1);
+    const SongState song = EmptySong(1);
     EXPECT_EQ(SecondsLabels(song, {1, 2, 60, 300, 300}).front().seconds, 0); // x = -3
     EXPECT_EQ(SecondsLabels(song, {1, 3, 80, 300, 300}).front().seconds, 5); // 0 would stand at -6
 }
 
 TEST(SecondsLabels, RunTo480AtHalfTheTempo)
 {
-    SongState song = Song(1);
+    SongState song = EmptySong(1);
     song.Tempo = 160;
     TrackView view{1, 1, 600, 300, 300};
     view.FirstCell = CellScrollRange(view, song.SongCells).maximum;
@@ -82,7 +82,7 @@ TEST(SecondsLabels, RunTo480AtHalfTheTempo)
 
 TEST(SecondsLabels, AreNoneAtATempoThatIsNone)
 {
-    SongState song = Song(1);
+    SongState song = EmptySong(1);
     for (const std::int32_t tempo : {0, -5}) {
         song.Tempo = tempo;
         EXPECT_TRUE(SecondsLabels(song, {1, 1, 600, 300, 300}).empty());

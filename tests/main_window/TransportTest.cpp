@@ -17,7 +17,7 @@ Track MusicTrack(std::string tuneName, std::int32_t onPos)
     return track;
 }
 
-SongState Song(std::int32_t trackCount, const Track& track)
+SongState SongOf(std::int32_t trackCount, const Track& track)
 {
     SongState song;
     song.TrackCount = trackCount;
@@ -29,21 +29,21 @@ constexpr TwoLines kNoMessage{};
 
 TEST(CheckSong, AsksForATuneAndGoesOn)
 {
-    const PlayCheck check = CheckSong(Song(2, MusicTrack("", 0)));
+    const PlayCheck check = CheckSong(SongOf(2, MusicTrack("", 0)));
     EXPECT_EQ(check.message, (TwoLines{"Please select tune for track using tune button.", ""}));
     EXPECT_TRUE(check.goesOn);
 }
 
 TEST(CheckSong, AsksForPaintAndStops)
 {
-    const PlayCheck check = CheckSong(Song(2, MusicTrack("Rain", 1)));
+    const PlayCheck check = CheckSong(SongOf(2, MusicTrack("Rain", 1)));
     EXPECT_EQ(check.message, (TwoLines{"Please paint on the track.", "Use the paint button and draw on the track."}));
     EXPECT_FALSE(check.goesOn);
 }
 
 TEST(CheckSong, CountsAnAudioTrackAsContent)
 {
-    SongState song = Song(2, MusicTrack("", 0));
+    SongState song = SongOf(2, MusicTrack("", 0));
     song.Tracks[2].TrackType = 1;
     EXPECT_FALSE(CheckSong(song).goesOn);
     At(song.Tracks[1].Painted, 9) = 1;
@@ -53,9 +53,9 @@ TEST(CheckSong, CountsAnAudioTrackAsContent)
 
 TEST(CheckSongFromCell, ChecksFewerThanFiveTracksAlone)
 {
-    EXPECT_FALSE(CheckSongFromCell(Song(4, MusicTrack("Rain", 1))).goesOn);
-    EXPECT_TRUE(CheckSongFromCell(Song(5, MusicTrack("Rain", 1))).goesOn);
-    EXPECT_EQ(CheckSongFromCell(Song(5, MusicTrack("", 0))).message, kNoMessage);
+    EXPECT_FALSE(CheckSongFromCell(SongOf(4, MusicTrack("Rain", 1))).goesOn);
+    EXPECT_TRUE(CheckSongFromCell(SongOf(5, MusicTrack("Rain", 1))).goesOn);
+    EXPECT_EQ(CheckSongFromCell(SongOf(5, MusicTrack("", 0))).message, kNoMessage);
 }
 
 TEST(CheckTrack, AsksForAStepThenForPaint)

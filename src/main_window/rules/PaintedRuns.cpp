@@ -5,13 +5,13 @@
 
 #include "core/Errors.h"
 #include "core/SongModel.h"
+#include "main_window/rules/CellValues.h"
 
 namespace sprout {
 
 namespace {
 
 constexpr std::int32_t kTickHeight = 5;
-constexpr std::int32_t kPainted = 1;
 
 std::int32_t RunEnd(const PaintedRun& run, const TrackView& view)
 {
@@ -34,7 +34,7 @@ std::int32_t EndLineLeft(const PaintedRun& run, std::int32_t cycleCells, const T
 /// First cell behind the run that starts at `cell`.
 std::int32_t CellBehindRun(const Track& track, std::int32_t cell, std::int32_t songCells)
 {
-    while (cell <= songCells && At(track.Painted, cell) == kPainted)
+    while (cell <= songCells && At(track.Painted, cell) == kPaintedCell)
         ++cell;
     return cell;
 }
@@ -47,7 +47,7 @@ std::vector<PaintedRun> VisibleRuns(const Track& track, std::int32_t songCells, 
     const std::int32_t lastCell = std::min(songCells, static_cast<std::int32_t>(track.Painted.size()) - 1);
     std::vector<PaintedRun> runs;
     for (std::int32_t cell = 1; cell <= std::min(lastCell, lastVisible); ++cell) {
-        if (At(track.Painted, cell) != kPainted)
+        if (At(track.Painted, cell) != kPaintedCell)
             continue;
         const std::int32_t behind = CellBehindRun(track, cell, lastCell);
         if (behind > view.FirstCell)

@@ -3,14 +3,9 @@
 
 #include <algorithm>
 
+#include "main_window/rules/CellValues.h"
+
 namespace sprout {
-
-namespace {
-
-constexpr std::int32_t kPainted = 1;
-constexpr std::int32_t kErased = 2;
-
-} // namespace
 
 PressAction ActionOfPress(Tool tool, const TrackHit& hit)
 {
@@ -64,8 +59,8 @@ bool Stroke::Erase(Track& track, std::int32_t cell) const
 {
     bool changed = false;
     for (std::int32_t i = std::min(dragStart, cell); i <= std::max(dragStart, cell); ++i) {
-        changed = changed || At(track.Painted, i) != kErased;
-        At(track.Painted, i) = kErased;
+        changed = changed || At(track.Painted, i) != kErasedCell;
+        At(track.Painted, i) = kErasedCell;
     }
     return changed;
 }
@@ -94,10 +89,10 @@ bool Stroke::PaintRight(Track& track, std::int32_t cell)
 
 bool Stroke::PaintCell(Track& track, std::int32_t cell)
 {
-    if (At(track.Painted, cell) == kPainted)
+    if (At(track.Painted, cell) == kPaintedCell)
         return false;
-    At(track.Painted, cell) = kPainted;
-    At(dragCells, cell) = kPainted;
+    At(track.Painted, cell) = kPaintedCell;
+    At(dragCells, cell) = kPaintedCell;
     return true;
 }
 
@@ -107,7 +102,7 @@ bool Stroke::TakeBackCell(Track& track, std::int32_t cell)
     // becomes 2, which looks the same and counts as a change.
     if (At(track.Painted, cell) != At(dragCells, cell))
         return false;
-    At(track.Painted, cell) = kErased;
+    At(track.Painted, cell) = kErasedCell;
     At(dragCells, cell) = 0;
     return true;
 }

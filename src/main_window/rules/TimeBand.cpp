@@ -5,19 +5,19 @@
 
 #include "core/Numbers.h"
 #include "core/SongModel.h"
+#include "main_window/rules/CellValues.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr std::int32_t kCellsOfAGroup = 8;
 constexpr std::int32_t kSecondsBetweenLabels = 5;
 constexpr double kLabelsBeforeTheBand = -5;
 
 bool AnyTrackIsPainted(const SongState& song, std::int32_t cell)
 {
     for (std::int32_t track = 1; track <= song.TrackCount; ++track)
-        if (At(At(song.Tracks, track).Painted, cell) == 1)
+        if (At(At(song.Tracks, track).Painted, cell) == kPaintedCell)
             return true;
     return false;
 }

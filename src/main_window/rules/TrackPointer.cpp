@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/rules/TrackPointer.h"
 
+#include "main_window/rules/CellValues.h"
+
 namespace sprout {
 
 namespace {
 
-constexpr std::int32_t kCellsOfAGroup = 8;
 constexpr std::int32_t kGroupStartColour = 0xFF8080;
 constexpr std::int32_t kCellColour = 0xC0FFFF;
 

@@ -6,6 +6,7 @@
 #include "core/Errors.h"
 #include "core/Numbers.h"
 #include "core/SongModel.h"
+#include "main_window/rules/CellValues.h"
 
 namespace sprout {
 
@@ -43,7 +44,7 @@ bool IsSilentMusic(const Track& track)
 bool IsPaintedFrom(const Track& track, std::int32_t songCells, std::int32_t cell)
 {
     for (std::int32_t c = cell; c <= songCells; ++c)
-        if (At(track.Painted, c) == 1)
+        if (At(track.Painted, c) == kPaintedCell)
             return true;
     return false;
 }
