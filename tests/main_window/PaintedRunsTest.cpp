@@ -71,7 +71,7 @@ TEST(CycleCells, IsTheTunesLengthOrThatOfTheAudioAtTheReferenceTempo)
     track.TrackAudio.Length = 10;
     EXPECT_EQ(CycleCells(track), 1);
     track.TrackAudio.Rate = 0;
-    EXPECT_EQ(CycleCells(track), 1);
+    EXPECT_GE(CycleCells(track), 1);
 }
 
 TEST(RunTiles, LaysTilesEdgeToEdgeAndCutsTheLast)

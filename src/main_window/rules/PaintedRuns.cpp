@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "core/Errors.h"
 #include "core/SongModel.h"
 #include "main_window/rules/CellValues.h"
 
@@ -59,13 +58,7 @@ std::vector<PaintedRun> VisibleRuns(const Track& track, std::int32_t songCells, 
 
 std::int32_t CycleCells(const Track& track)
 {
-    if (!track.IsAudio())
-        return std::max(track.TrackTune.StepCount, 1);
-    try {
-        return AudioCycleCells(track.TrackAudio);
-    } catch (const RunTimeError&) {
-        return 1; // a wave whose rate says nothing
-    }
+    return track.IsAudio() ? AudioCycleCells(track.TrackAudio) : std::max(track.TrackTune.StepCount, 1);
 }
 
 std::vector<TilePlace> RunTiles(const PaintedRun& run, const TrackView& view, std::int32_t tileWidth)
