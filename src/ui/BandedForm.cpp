@@ -8,6 +8,7 @@
 #include <QPainterPath>
 #include <QRegion>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -34,6 +35,12 @@ QPainterPath Outline(const QRectF& rect)
     QPainterPath path;
     path.addRoundedRect(rect, kCorner, kCorner);
     return path;
+}
+
+/// On Wayland a window cannot place itself.
+bool SystemMovesWindows()
+{
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 /// An X server may have no compositor, and then shows black where a window lets through.
@@ -184,6 +191,8 @@ void BandedForm::mousePressEvent(QMouseEvent* event)
 {
     moving = event->button() == Qt::LeftButton && event->position().y() < kBandHeight;
     downAt = event->position().toPoint();
+    if (moving && SystemMovesWindows() && windowHandle())
+        moving = !windowHandle()->startSystemMove();
 }
 
 void BandedForm::mouseMoveEvent(QMouseEvent* event)

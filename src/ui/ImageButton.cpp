@@ -157,13 +157,19 @@ void ImageButton::PaintWord(QPainter& painter) const
 
 void ImageButton::PaintFocus(QPainter& painter) const
 {
-    // Light and dark side by side, so that one of them stands out on every ground.
-    const QRectF edge = QRectF(rect()).adjusted(1, 1, -1, -1);
-    const qreal corner = std::min(edge.width(), edge.height()) / 3;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(kPaper, 2));
+    if (plate == Plate::Word) {
+        const QRectF inside = QRectF(rect()).adjusted(5, 6, -5, -6).translated(0, Lift());
+        painter.setPen(QPen(kPaper, 2));
+        painter.drawRoundedRect(inside, 9, 9);
+        return;
+    }
+    // Light beside dark, so that one of them stands out on every ground.
+    const QRectF edge = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+    const qreal corner = std::min(edge.width(), edge.height()) / 4;
+    painter.setPen(QPen(Qt::white, 3));
     painter.drawRoundedRect(edge, corner, corner);
-    painter.setPen(QPen(kLink, 2, Qt::DashLine));
+    painter.setPen(QPen(kLink, 2));
     painter.drawRoundedRect(edge, corner, corner);
 }
 

@@ -15,9 +15,9 @@ enum class Plate { Tool, Word, Title };
 
 /// A row of a window's button table.
 struct ButtonRow {
-    const char* name;       ///< the control's name, and that of its picture
-    const char* spokenName; ///< what a screen reader says; on a word plate the word itself
-    const char* hint;       ///< for the status line
+    const char* name = "";       ///< the control's name, and that of its picture
+    const char* spokenName = ""; ///< what a screen reader says; on a word plate the word itself
+    const char* hint = "";       ///< for the status line
     Plate plate = Plate::Tool;
     QColor plateColour{}; ///< of a word plate
     const char* glyph =

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
 
 #include "ui/Hints.h"
@@ -92,6 +93,17 @@ TEST_F(ButtonSchemeTest, EnterAndSpaceClickTheButtonWithTheFocus)
     QTest::keyClick(&play, Qt::Key_Return);
     QTest::keyClick(&play, Qt::Key_Space);
     EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ButtonSchemeTest, TheButtonWithTheFocusLooksDifferent)
+{
+    QApplication::setActiveWindow(&window);
+    play.setFocus();
+    const QImage without = stop.grab().toImage();
+    QTest::keyClick(&play, Qt::Key_Tab);
+    ASSERT_TRUE(stop.hasFocus());
+    EXPECT_NE(stop.grab().toImage(), without);
+    EXPECT_EQ(statusLbl.text(), stop.Hint());
 }
 
 TEST_F(ButtonSchemeTest, TheFourFacesLookDifferentInGrey)

@@ -185,7 +185,13 @@ private:
 /// Lays pictures in rows on one sheet.
 class FormSheet {
 public:
-    void Add(QWidget& widget) { pictures.push_back(widget.grab()); }
+    /// Shows the widget first, so that it has its focus.
+    void Add(QWidget& widget)
+    {
+        widget.show();
+        QApplication::processEvents();
+        pictures.push_back(widget.grab());
+    }
 
     void SaveTo(const QString& folder)
     {
