@@ -247,7 +247,7 @@ void WriteSamples(WaveWriter& writer, const WaveData& wave)
 }
 
 /// False for a wave that was read without its samples.
-bool HoldsItsFrames(const WaveData& wave)
+bool SamplesAreThere(const WaveData& wave)
 {
     return wave.Length > 0 && wave.WavL.UpperBound() >= wave.Length &&
            (wave.Channels == 1 || wave.WavR.UpperBound() >= wave.Length);
@@ -255,7 +255,7 @@ bool HoldsItsFrames(const WaveData& wave)
 
 void WriteWave(const WaveData& wave, const fs::path& path)
 {
-    if (!HoldsItsFrames(wave))
+    if (!SamplesAreThere(wave))
         throw RunTimeError("The sound is shorter than it tells.");
     const double dataBytes = static_cast<double>(wave.Bits / 8 * wave.Channels) * wave.Length;
     const std::int32_t dataSize = RoundHalfEven(dataBytes);

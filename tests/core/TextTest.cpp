@@ -89,5 +89,18 @@ TEST(FirstCharacters, NeverCutsACharacter)
     EXPECT_EQ(FirstCharacters("\xC3", 1), "\xC3");
 }
 
+TEST(StoredText, IsTheTextAsItComesBackFromAFile)
+{
+    EXPECT_EQ(StoredText("Caf\xC3\xA9"), "Caf\xC3\xA9");
+    EXPECT_EQ(StoredText("Caf\xE9"), "Caf\xC3\xA9");
+    EXPECT_EQ(StoredText("\xE9\x9B\xA8"), "\xE9\x9B\xA8");
+}
+
+TEST(NameKey, IsOneForNamesThatDifferInLetterCaseOrInFormOnly)
+{
+    EXPECT_EQ(NameKey("CAF\xC3\x89"), NameKey("caf\xE9"));
+    EXPECT_NE(NameKey("Drum"), NameKey("Drum "));
+}
+
 } // namespace
 } // namespace sprout

@@ -5,6 +5,8 @@
 
 #include <vector>
 
+#include "support/FakeServices.h"
+
 namespace sprout {
 namespace {
 
@@ -87,6 +89,31 @@ TEST(WaveData, IsAValue)
     b.WavL.Change()[1] = 3;
     EXPECT_EQ(a.WavL[1], 1);
     EXPECT_FALSE(a == b);
+}
+
+TEST(Channel, AsksForLargePagesForLongSoundsAlone)
+{
+    FakeServices services;
+    const Channel small(1'000'000);
+    EXPECT_EQ(services.machine.largeBytes, 0U);
+    Channel large(3'000'000);
+    EXPECT_EQ(services.machine.largeBytes, std::size_t{2} << 21); // whole pages of the 6,000,002 bytes
+    EXPECT_EQ(large[1], 0);
+    EXPECT_EQ(large[3'000'000], 0);
+    Channel copy = large;
+    copy.Change()[3'000'000] = 7;
+    EXPECT_EQ(large[3'000'000], 0);
+    EXPECT_EQ(copy[3'000'000], 7);
+    copy.Resize(2'500'000);
+    EXPECT_EQ(copy[2'500'000], 0);
+    EXPECT_EQ(Channel::Unfilled(3'000'000)[0], 0);
+}
+
+TEST(Channel, HoldsLongSoundsWithoutAMachineToAsk)
+{
+    Channel large(3'000'000);
+    large.Change()[3'000'000] = 5;
+    EXPECT_EQ(large[3'000'000], 5);
 }
 
 } // namespace

@@ -10,11 +10,12 @@ namespace {
 std::atomic<bool> watching = false;
 std::atomic<std::size_t> largest = 0;
 
-void* Allocate(std::size_t size)
+void* Allocate(std::size_t size, std::size_t alignment = 0)
 {
     if (watching && size > largest)
         largest = size;
-    if (void* memory = std::malloc(size == 0 ? 1 : size))
+    const std::size_t bytes = size == 0 ? 1 : size;
+    if (void* memory = alignment == 0 ? std::malloc(bytes) : std::aligned_alloc(alignment, bytes))
         return memory;
     throw std::bad_alloc();
 }
@@ -29,6 +30,22 @@ void* operator new(std::size_t size)
 void* operator new[](std::size_t size)
 {
     return Allocate(size);
+}
+
+void* operator new(std::size_t size, std::align_val_t alignment)
+{
+    const auto step = static_cast<std::size_t>(alignment);
+    return Allocate((size + step - 1) / step * step, step);
+}
+
+void operator delete(void* memory, std::align_val_t) noexcept
+{
+    std::free(memory);
+}
+
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept
+{
+    std::free(memory);
 }
 
 void operator delete(void* memory) noexcept

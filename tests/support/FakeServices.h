@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <atomic>
+#include <cstddef>
 #include <cstdint>
 #include <mutex>
 #include <string>
@@ -63,11 +65,13 @@ public:
     [[nodiscard]] std::filesystem::path TempPath() const override { return temp; }
     [[nodiscard]] std::filesystem::path ExecutablePath() const override { return executable; }
     [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path&) const override { return freeBytes; }
+    void PreferLargePages(void*, std::size_t bytes) const override { largeBytes += bytes; }
 
     MemoryStatus memory;
     std::filesystem::path temp;
     std::filesystem::path executable;
     std::uint64_t freeBytes = 0;
+    mutable std::atomic<std::size_t> largeBytes = 0; // asked for as large pages
 };
 
 class FakeDesktop : public Desktop {

@@ -17,7 +17,6 @@ namespace sprout {
 
 namespace {
 
-constexpr double kRate = 44100;
 constexpr std::size_t kLeadFrames = 44; // kept before the onset, and faded in
 
 /// Takes away what lies below 25 Hz.

@@ -187,7 +187,8 @@ void CheckTunes(const fs::path& folder, Report& report)
         TunOpnSavClass().Load_Tune(file);
         const Tune& tune = Shared().TuneClipboard;
         const double peak = std::max(PeakDb(Samples(tune.TuneWave.WavL)), PeakDb(Samples(tune.TuneWave.WavR)));
-        report.Line(tune.Name + ": " + std::to_string(tune.StepCount) + " steps, peak " + Number(peak, 1) + " dB");
+        report.Line(tune.Name + ": " + std::to_string(tune.StepCount) + " steps, peak " + Number(peak, 1) + " dB, " +
+                    Number(LoudnessDb(tune.TuneWave), 1) + " LUFS");
         report.Require(IsOriginalTune(tune), tune.Name, "is no original");
         report.Require(tune.TuneWaveValid && tune.TuneWave.Length > 0, tune.Name, "holds no sound");
         report.Require(tune.StepCount >= 2 && tune.StepCount <= 64, tune.Name, "has a wrong count of steps");

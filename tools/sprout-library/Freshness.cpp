@@ -58,6 +58,9 @@ bool Freshness::IsFresh(const std::vector<std::filesystem::path>& files, const s
         const auto known = before.find(name);
         fresh = fresh && known != before.end() && known->second == fingerprint && FileExists(root / file);
     }
+    // From here on files differ from what is remembered: a run that stops half-way must not be believed later.
+    if (!fresh)
+        DeleteFile(root / kMemoryName);
     return fresh;
 }
 

@@ -29,6 +29,7 @@ public:
     explicit Freshness(std::filesystem::path root);
 
     /// True when all `files`, given below the root, are there and were made of the same things. Notes them as wanted.
+    /// Where it is not so, everything is forgotten until `Finish`.
     [[nodiscard]] bool IsFresh(const std::vector<std::filesystem::path>& files, const std::string& fingerprint);
 
     /// Deletes what was made before and is wanted no more, and remembers the rest. To be called when all was made.

@@ -10,9 +10,10 @@ namespace sprout {
 
 namespace {
 
-constexpr double kRate = 44100;
 constexpr double kLoudnessOffset = -0.691; // of BS.1770: a 997 Hz sine at full scale reads -3.01
 
+constexpr std::size_t kPitchFrames = 4096; // long enough to tell cents, short enough to follow a vibrato
+constexpr int kPartials = 4;
 constexpr int kLowestC = 24;
 constexpr int kHighestC = 108;
 
@@ -105,26 +106,48 @@ double Correlation(std::span<const double> sound, std::size_t lag)
     return power > 0 ? 2 * product / power : 0;
 }
 
-/// The best lag near `lag`, within `reach` (a ratio), between the frames by a parabola.
-double BestLag(std::span<const double> sound, double lag, double reach)
+/// Power of the sound at a frequency (Goertzel).
+double PowerAt(std::span<const double> sound, double frequency)
 {
-    const auto from = static_cast<std::size_t>(std::floor(lag / reach));
-    const auto to = static_cast<std::size_t>(std::ceil(lag * reach)) + 1;
-    std::size_t best = from;
-    double most = -2;
-    for (std::size_t i = from; i <= to; ++i) {
-        const double value = Correlation(sound, i);
-        if (value > most) {
-            most = value;
-            best = i;
-        }
+    const double turn = 2 * std::cos(2 * std::numbers::pi * frequency / kRate);
+    double before = 0, last = 0;
+    for (const double sample : sound) {
+        const double next = sample + turn * last - before;
+        before = last;
+        last = next;
     }
-    const double before = Correlation(sound, best - 1), behind = Correlation(sound, best + 1);
-    const double bow = before - 2 * most + behind;
-    return static_cast<double>(best) + (bow < 0 ? 0.5 * (before - behind) / bow : 0);
+    return last * last + before * before - turn * last * before;
 }
 
-/// The correlation at a lag, if it stands out against lags an eighth of a tone and more away; else 0.
+/// Top of the spectrum of a windowed part near a frequency.
+struct Top {
+    double Cents = 0;
+    double Power = 0; ///< 0 where there is no top
+};
+
+Top TopOfSpectrum(std::span<const double> windowed, double frequency)
+{
+    constexpr double reachCents = 80, coarseCents = 16, fineCents = 4;
+    const auto power = [&](double cents) { return PowerAt(windowed, frequency * std::exp2(cents / 1200)); };
+    double most = 0, place = 0;
+    for (double cents = -reachCents; cents <= reachCents; cents += coarseCents) {
+        const double here = power(cents);
+        if (here > most) {
+            most = here;
+            place = cents;
+        }
+    }
+    if (most <= 0 || std::abs(place) >= reachCents)
+        return {};
+    // A windowed sine is a parabola in the logarithm, near its top.
+    const double before = std::log(power(place - fineCents)), at = std::log(most);
+    const double behind = std::log(power(place + fineCents));
+    const double bow = before - 2 * at + behind;
+    const double step = bow < 0 ? 0.5 * (before - behind) / bow : 0;
+    return {place + fineCents * std::clamp(step, -coarseCents / fineCents, coarseCents / fineCents), most};
+}
+
+/// The correlation at a lag, if it stands out against lags an eighth away; else 0.
 double TopNear(std::span<const double> sound, double lag)
 {
     const auto at = [&](double ratio) {
@@ -223,12 +246,23 @@ int SoundingC(std::span<const double> sound)
 
 double CentsOff(std::span<const double> sound, int key)
 {
-    const double period = PeriodOf(key);
+    const double frequency = kRate / PeriodOf(key);
     const std::span<const double> body = Body(sound);
-    double found = BestLag(body, period, std::pow(2.0, 80 / 1200.0));
-    for (double periods = 2; periods * period < 0.04 * kRate; periods *= 2)
-        found = BestLag(body, found * periods, 1 + 0.3 / periods) / periods;
-    return 1200 * std::log2(period / found);
+    const std::size_t frame = std::min(kPitchFrames, body.size());
+    double sum = 0, weight = 0;
+    std::vector<double> part(frame);
+    for (std::size_t start = 0; start + frame <= body.size(); start += frame / 2) {
+        for (std::size_t i = 0; i < frame; ++i) {
+            const double place = static_cast<double>(i) / static_cast<double>(frame);
+            part[i] = body[start + i] * (0.5 - 0.5 * std::cos(2 * std::numbers::pi * place));
+        }
+        for (int partial = 1; partial <= kPartials; ++partial) {
+            const Top top = TopOfSpectrum(part, partial * frequency);
+            sum += top.Power * top.Cents;
+            weight += top.Power;
+        }
+    }
+    return weight > 0 ? sum / weight : 0;
 }
 
 } // namespace sprout

@@ -8,8 +8,9 @@
 
 namespace sprout {
 
-// Sounds here are channels of doubles at 44,100 Hz, full scale 1. Levels are in dB against full scale; silence is
-// `kSilenceDb`.
+// Sounds here are channels of doubles at `kRate` frames a second, full scale 1. Levels are in dB against full scale;
+// silence is `kSilenceDb`.
+inline constexpr double kRate = 44100;
 inline constexpr double kSilenceDb = -200;
 
 /// The samples of a wave's channel, full scale 1.
@@ -36,10 +37,10 @@ struct Loud {
 /// The loudest second of a wave in the program's format, to a tenth of a second.
 [[nodiscard]] Loud LoudestSecond(const WaveData& wave);
 
-/// Cents by which the sound's period differs from that of `key`; looked for within 80 cents.
+/// Cents by which the sound's pitch differs from that of `key`; looked for within 80 cents.
 ///
-/// The normalised autocorrelation over several periods is followed from the shortest lag to ever longer ones, each
-/// narrowing the search; the lag then spans about 40 ms.
+/// The mean, weighted by power, of where the first four partials have the tops of their spectra in frames of 93 ms of
+/// the sound's first half second.
 [[nodiscard]] double CentsOff(std::span<const double> sound, int key);
 
 /// The MIDI key of that C, from C1 to C7, on which the sound stands; 0 where it stands on none.

@@ -9,12 +9,14 @@
 #include <utility>
 
 #include "core/Errors.h"
+#include "sprout-library/Measure.h"
+
+#include "sprout-library/Measure.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr double kRate = 44100;
 constexpr double kTwoPi = 2 * std::numbers::pi;
 
 /// What a sound is made of at one moment; a fresh one for every sound.

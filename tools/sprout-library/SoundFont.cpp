@@ -8,12 +8,14 @@
 #include <string>
 
 #include "core/Errors.h"
+#include "sprout-library/Measure.h"
+
+#include "sprout-library/Measure.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr double kRate = 44100;
 constexpr int kChannel = 0;
 // The synthesiser works in blocks of 64 frames; whole blocks only let every note begin at the start of one.
 constexpr int kBlockFrames = 64;

@@ -9,25 +9,22 @@
 #include <type_traits>
 
 namespace sprout::stretch {
-namespace {
-
-struct FreePlan {
-    void operator()(kiss_fftr_cfg plan) const { kiss_fftr_free(plan); }
-};
-using Plan = std::unique_ptr<std::remove_pointer_t<kiss_fftr_cfg>, FreePlan>;
-
-Plan MakePlan(Index size, bool inverse)
-{
-    Plan plan(kiss_fftr_alloc(static_cast<int>(size), inverse ? 1 : 0, nullptr, nullptr));
-    if (!plan) {
-        throw std::bad_alloc();
-    }
-    return plan;
-}
-
-} // namespace
 
 struct Fft::Plans {
+    struct Free {
+        void operator()(kiss_fftr_cfg plan) const { kiss_fftr_free(plan); }
+    };
+    using Plan = std::unique_ptr<std::remove_pointer_t<kiss_fftr_cfg>, Free>;
+
+    [[nodiscard]] static Plan Make(Index size, bool inverse)
+    {
+        Plan plan(kiss_fftr_alloc(static_cast<int>(size), inverse ? 1 : 0, nullptr, nullptr));
+        if (!plan) {
+            throw std::bad_alloc();
+        }
+        return plan;
+    }
+
     Plan forward;
     Plan inverse;
 };
@@ -35,7 +32,7 @@ struct Fft::Plans {
 // std::complex<float> is laid out as the library's pair of floats.
 static_assert(sizeof(Bin) == sizeof(kiss_fft_cpx));
 
-Fft::Fft(Index size) : size_(size), plans_(new Plans{MakePlan(size, false), MakePlan(size, true)}) {}
+Fft::Fft(Index size) : size_(size), plans_(new Plans{Plans::Make(size, false), Plans::Make(size, true)}) {}
 
 Fft::~Fft() = default;
 

@@ -25,7 +25,7 @@ struct WeightedFlatness {
 };
 
 /// Adds the flatness of one band. One logarithm serves the whole geometric mean: sixteen powers of 16-bit sound
-/// multiply to 1e240 at most.
+/// multiply to 1e251 at most.
 void AddBand(WeightedFlatness& total, std::span<const Bin> band)
 {
     double product = 1;

@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Files : public testing::Test {
+class FilesOnDisk : public testing::Test {
 protected:
     [[nodiscard]] fs::path In(const std::string& name) const { return folder.Path() / name; }
 
@@ -58,7 +58,7 @@ private:
     int descriptor;
 };
 
-TEST_F(Files, MakeANewFileOfAllPieces)
+TEST_F(FilesOnDisk, MakeANewFileOfAllPieces)
 {
     std::vector<std::string> texts(1500, "ab"); // more pieces than the system takes at once
     texts[3].clear();
@@ -72,7 +72,7 @@ TEST_F(Files, MakeANewFileOfAllPieces)
     EXPECT_EQ(Names(), std::vector<std::string>{"new"});
 }
 
-TEST_F(Files, KeepTheModeOfTheFileThatIsReplaced)
+TEST_F(FilesOnDisk, KeepTheModeOfTheFileThatIsReplaced)
 {
     WriteBytes(In("old"), "old");
     fs::permissions(In("old"), fs::perms(0640));
@@ -81,7 +81,7 @@ TEST_F(Files, KeepTheModeOfTheFileThatIsReplaced)
     EXPECT_EQ(ReadBytes(In("old")), "new");
 }
 
-TEST_F(Files, GiveANewFileTheUsualMode)
+TEST_F(FilesOnDisk, GiveANewFileTheUsualMode)
 {
     const mode_t before = ::umask(027);
     Save(In("new"), "new");
@@ -89,7 +89,7 @@ TEST_F(Files, GiveANewFileTheUsualMode)
     EXPECT_EQ(fs::status(In("new")).permissions(), fs::perms(0640));
 }
 
-TEST_F(Files, WriteThroughALink)
+TEST_F(FilesOnDisk, WriteThroughALink)
 {
     fs::create_directory(In("elsewhere"));
     WriteBytes(In("elsewhere/real"), "old");
@@ -99,7 +99,7 @@ TEST_F(Files, WriteThroughALink)
     EXPECT_EQ(ReadBytes(In("elsewhere/real")), "new");
 }
 
-TEST_F(Files, TellAMissingFolderAndAFolderInTheWay)
+TEST_F(FilesOnDisk, TellAMissingFolderAndAFolderInTheWay)
 {
     EXPECT_THROW(Save(In("missing/file"), "x"), RunTimeError);
     fs::create_directory(In("folder"));
@@ -107,14 +107,14 @@ TEST_F(Files, TellAMissingFolderAndAFolderInTheWay)
     EXPECT_EQ(Names(), std::vector<std::string>{"folder"});
 }
 
-TEST_F(Files, ClearWhatAKilledProgramLeft)
+TEST_F(FilesOnDisk, ClearWhatAKilledProgramLeft)
 {
     WriteBytes(In(".TqkSave1"), "stale");
     Save(In("song"), "new");
     EXPECT_EQ(Names(), std::vector<std::string>{"song"});
 }
 
-TEST_F(Files, LeaveTheFileThatAnotherRunningProgramWrites)
+TEST_F(FilesOnDisk, LeaveTheFileThatAnotherRunningProgramWrites)
 {
     const Holder other(In(".TqkSave1"));
     Save(In("song"), "new");
@@ -122,7 +122,7 @@ TEST_F(Files, LeaveTheFileThatAnotherRunningProgramWrites)
     EXPECT_EQ(ReadBytes(In("song")), "new");
 }
 
-TEST_F(Files, FollowNoLinkUnderTheHiddenName)
+TEST_F(FilesOnDisk, FollowNoLinkUnderTheHiddenName)
 {
     WriteBytes(In("victim"), "kept");
     fs::create_symlink(In("victim"), In(".TqkSave1"));
@@ -131,7 +131,7 @@ TEST_F(Files, FollowNoLinkUnderTheHiddenName)
     EXPECT_TRUE(fs::is_symlink(In(".TqkSave1")));
 }
 
-TEST_F(Files, DeleteStaleFilesUnlessTheyAreHeld)
+TEST_F(FilesOnDisk, DeleteStaleFilesUnlessTheyAreHeld)
 {
     WriteBytes(In("stale"), "");
     WriteBytes(In("victim"), "");

@@ -41,15 +41,15 @@ TEST(DocumentsOfUserDirs, IsEmptyWhereTheyAreSwitchedOffOrNotAbsolute)
 }
 
 /// A home of its own; the environment comes back afterwards.
-class Desktop : public testing::Test {
+class XdgHome : public testing::Test {
 protected:
-    Desktop()
+    XdgHome()
     {
         Set("HOME", folder.Path() / "home");
         Set("XDG_CONFIG_HOME", "");
         fs::create_directories(folder.Path() / "home/.config");
     }
-    ~Desktop() override
+    ~XdgHome() override
     {
         for (const auto& [name, value] : before) {
             if (value)
@@ -70,13 +70,13 @@ protected:
     std::map<std::string, std::optional<std::string>> before;
 };
 
-TEST_F(Desktop, MakesDocumentsInTheHomeFolder)
+TEST_F(XdgHome, MakesDocumentsInTheHomeFolder)
 {
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Documents");
     EXPECT_TRUE(fs::is_directory(folder.Path() / "home/Documents"));
 }
 
-TEST_F(Desktop, TakesTheFolderThatTheUserNamed)
+TEST_F(XdgHome, TakesTheFolderThatTheUserNamed)
 {
     WriteBytes(folder.Path() / "home/.config/user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"$HOME/Mine\"\n");
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Mine");
@@ -86,20 +86,20 @@ TEST_F(Desktop, TakesTheFolderThatTheUserNamed)
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Other");
 }
 
-TEST_F(Desktop, PassesOverAFolderInPlaceOfTheList)
+TEST_F(XdgHome, PassesOverAFolderInPlaceOfTheList)
 {
     fs::create_directories(folder.Path() / "home/.config/user-dirs.dirs");
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Documents");
 }
 
-TEST_F(Desktop, HasNoDocumentsWhereNoneCanBeMade)
+TEST_F(XdgHome, HasNoDocumentsWhereNoneCanBeMade)
 {
     WriteBytes(folder.Path() / "home/Documents", "a file in the way");
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), fs::path());
 }
 
 /// The first line that a stub of xdg-open writes into a pipe, waited for without sleeping.
-class OpenWithShell : public Desktop {
+class OpenWithShell : public XdgHome {
 protected:
     OpenWithShell()
     {

@@ -33,6 +33,20 @@ TEST(Freshness, MakesAFileAgainThatSomebodyDeleted)
     EXPECT_FALSE(Freshness(folder.Path()).IsFresh({"a.wav"}, "1"));
 }
 
+TEST(Freshness, TrustsNothingAfterARunThatStoppedHalfWay)
+{
+    const TestFolder folder;
+    Freshness first(folder.Path());
+    static_cast<void>(first.IsFresh({"a.wav"}, "1"));
+    WriteBytes(folder.Path() / "a.wav", "sound 1");
+    first.Finish();
+
+    Freshness stopped(folder.Path());
+    EXPECT_FALSE(stopped.IsFresh({"a.wav"}, "2"));
+    WriteBytes(folder.Path() / "a.wav", "sound 2");
+    EXPECT_FALSE(Freshness(folder.Path()).IsFresh({"a.wav"}, "1"));
+}
+
 TEST(Freshness, DeletesWhatIsWantedNoMoreAndNothingElse)
 {
     const TestFolder folder;

@@ -11,8 +11,6 @@
 namespace sprout {
 namespace {
 
-constexpr double kRate = 44100;
-
 std::vector<double> Sine(double frequency, double seconds, double amplitude)
 {
     std::vector<double> sound(static_cast<std::size_t>(seconds * kRate));
