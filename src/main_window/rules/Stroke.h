@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "core/Song.h"
+#include "main_window/rules/TrackGeometry.h"
+
+namespace sprout {
+
+/// The three tools; the brush's and the eraser's numbers are what they write into a track's cells.
+enum class Tool : std::int32_t { Brush = 1, Eraser = 2, PlayTool = 3 };
+
+/// What a press of the left button on the painting surface asks for.
+enum class PressAction { Nothing, BeginStroke, PlaySongFrom, PlayTrackFrom };
+
+/// Decides a press by the tool and what lies under the pointer.
+[[nodiscard]] PressAction ActionOfPress(Tool tool, const TrackHit& hit);
+
+/// A stroke of the brush or the eraser, from a press on a track to the release. A stroke of the brush is taken back,
+/// cell by cell, as the pointer goes back.
+class Stroke {
+public:
+    /// Writes the tool's number into the pressed cell. Only a press that changes its cell makes the mix stale and the
+    /// song changed. hit: a hit on a track. Returns whether the cell changed.
+    bool Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t x, std::int32_t y);
+
+    /// Draws on to `cell`, which may lie outside the song. Only the track's own render becomes stale, since the press
+    /// has told the rest. Returns whether a cell's value changed. Nothing happens while no stroke goes on, with the
+    /// play tool, or where the track is gone.
+    bool MoveTo(SongState& song, Tool tool, std::int32_t cell);
+
+    /// What the stroke painted is kept until the next one begins.
+    void End() { dragging = false; }
+
+    [[nodiscard]] bool Dragging() const { return dragging; }
+    [[nodiscard]] std::int32_t DragTrack() const { return dragTrack; }
+    [[nodiscard]] std::int32_t DragStart() const { return dragStart; }
+    [[nodiscard]] std::int32_t DownX() const { return downX; }
+    /// While dragging, every move counts as one at this height, so that a stroke stays on its row.
+    [[nodiscard]] std::int32_t DownY() const { return downY; }
+
+private:
+    [[nodiscard]] bool Erase(Track& track, std::int32_t cell) const;
+    [[nodiscard]] bool PaintLeft(Track& track, std::int32_t cell);
+    [[nodiscard]] bool PaintRight(Track& track, std::int32_t cell);
+    [[nodiscard]] bool PaintCell(Track& track, std::int32_t cell);
+    [[nodiscard]] bool TakeBackCell(Track& track, std::int32_t cell);
+
+    bool dragging = false;
+    std::int32_t downX = 0;
+    std::int32_t downY = 0;
+    std::int32_t dragTrack = 0;
+    std::int32_t dragStart = 0;
+    std::int32_t dragMax = 0;                                           ///< farthest cell to the right
+    std::int32_t dragMin = 0;                                           ///< and to the left
+    std::vector<std::int32_t> dragCells = std::vector<std::int32_t>(1); ///< 1 for what this stroke painted
+};
+
+} // namespace sprout

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "main_window/rules/TrackGeometry.h"
+
+namespace sprout {
+
+inline constexpr std::string_view kTimeBandHint =
+    "Main Song Track (all tracks mixed), use play tool and click on this to play song from there.";
+inline constexpr std::string_view kTracksHint =
+    "Music tracks, use the paint brush and eraser to draw here. Or use play tool to play";
+
+inline constexpr std::int32_t kCellCursorWidth = 3;
+inline constexpr std::int32_t kCellCursorHeight = 32;
+
+enum class PointerImage { Default, ToolCursor, PlayTool };
+
+/// Place and colour of the cell cursor.
+struct CellCursor {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    std::int32_t colour = 0; ///< 0x00BBGGRR
+    friend bool operator==(const CellCursor&, const CellCursor&) = default;
+};
+
+/// What the painting surface shows for the pointer.
+struct TrackPointer {
+    PointerImage image = PointerImage::Default;
+    std::string_view hint;
+    std::string TrackMouPosLbl;           ///< the cell's number, or nothing
+    std::optional<CellCursor> cellCursor; ///< nothing: hidden
+};
+
+/// Looks for a pointer that moved. dragTrack: track of the stroke that goes on, 0 for none.
+[[nodiscard]] TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::int32_t dragTrack);
+
+} // namespace sprout

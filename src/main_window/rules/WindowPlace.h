@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace sprout {
+
+/// Twips, the unit of the settings file, in a logical pixel.
+inline constexpr std::int32_t kTwipsOfAPixel = 15;
+
+/// Place of the main window, in logical pixels.
+struct WindowPlace {
+    std::int32_t left = 0;
+    std::int32_t top = 0;
+    std::int32_t width = 0;
+    std::int32_t height = 0;
+    friend bool operator==(const WindowPlace&, const WindowPlace&) = default;
+};
+
+/// The place that the settings `Size` and `Position` give on a screen of these sizes in pixels. Each is a pair of
+/// twips; -1 is not set, a missing or damaged number is 0.
+[[nodiscard]] WindowPlace PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
+                                            std::int32_t screenHeight);
+
+/// True when the setting `WindowState` asks for a maximised window.
+[[nodiscard]] bool IsMaximizedSetting(std::string_view windowState);
+
+/// A pair of pixels as the settings hold it: twips, joined by a comma.
+[[nodiscard]] std::string PairOfTwips(std::int32_t firstPx, std::int32_t secondPx);
+
+} // namespace sprout

@@ -1,0 +1,241 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/BandedForm.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRegion>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+
+#include "ui/Artwork.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kCorner = 12;
+constexpr int kLogoSide = 20;
+constexpr int kLogoLeft = 9;
+constexpr int kCloseBoxSide = 22;
+constexpr int kCloseBoxFromRight = 8;
+constexpr int kVineSide = 44;
+constexpr int kBelowButtons = 12;
+constexpr int kButtonsApart = 12;
+
+QPainterPath Outline(const QRectF& rect)
+{
+    QPainterPath path;
+    path.addRoundedRect(rect, kCorner, kCorner);
+    return path;
+}
+
+/// On Wayland a window cannot place itself.
+bool SystemMovesWindows()
+{
+    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
+}
+
+/// An X server may have no compositor, and then shows black where a window lets through.
+bool CornersNeedMask()
+{
+    return QGuiApplication::platformName() == QStringLiteral("xcb");
+}
+
+} // namespace
+
+BandedForm::BandedForm(QWidget* parent)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
+      scheme(*this, AllOffTimer::OnAtOnce),
+      watcher(this),
+      captionLbl(new QLabel(this))
+{
+    if (!CornersNeedMask())
+        setAttribute(Qt::WA_TranslucentBackground);
+    captionLbl->setObjectName(QStringLiteral("CaptionLbl"));
+    captionLbl->setFont(ButtonFont());
+    captionLbl->setTextFormat(Qt::PlainText);
+    captionLbl->setStyleSheet(QStringLiteral("color: #FFF8E7"));
+    captionLbl->setAttribute(Qt::WA_TransparentForMouseEvents);
+    closeBox = &scheme.AddButton({"CloseImgBtn", "Close", "Close button", Plate::Title}, [this] { reject(); });
+    closeBox->setFocusPolicy(Qt::NoFocus);
+    closeBox->resize(kCloseBoxSide, kCloseBoxSide);
+    watcher.Watch(*this, "");
+}
+
+void BandedForm::SetCaption(std::string_view caption)
+{
+    captionText = QtText(caption);
+    setWindowTitle(captionText.trimmed());
+    FitCaption();
+}
+
+void BandedForm::FitCaption()
+{
+    captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
+}
+
+int BandedForm::ShowModal()
+{
+    const QPoint middle = screen()->availableGeometry().center();
+    move(middle - QPoint(width() / 2, height() / 2));
+    exec();
+    return Result;
+}
+
+void BandedForm::Answer(int result)
+{
+    Result = result;
+    done(result);
+}
+
+void BandedForm::reject()
+{
+    Result = 0;
+    QDialog::reject();
+}
+
+QLabel& BandedForm::AddLabel(const char* name)
+{
+    auto* label = new QLabel(this);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(LabelFont());
+    label->setTextFormat(Qt::PlainText);
+    watcher.Watch(*label, "");
+    return *label;
+}
+
+ImageButton& BandedForm::AddAnswer(const ButtonRow& row, int result)
+{
+    return AddWordButton(row, [this, result] { Answer(result); });
+}
+
+ImageButton& BandedForm::AddWordButton(const ButtonRow& row, std::function<void()> onClick)
+{
+    ImageButton& button = scheme.AddButton(row, std::move(onClick));
+    wordButtons.push_back(&button);
+    return button;
+}
+
+void BandedForm::PlaceButtons(int width, int top)
+{
+    int rowWidth = kButtonsApart * (static_cast<int>(wordButtons.size()) - 1);
+    int rowHeight = 0;
+    for (const ImageButton* button : wordButtons) {
+        rowWidth += button->width();
+        rowHeight = std::max(rowHeight, button->height());
+    }
+    const int formWidth = std::max(width, rowWidth + 2 * kCorner);
+    resize(formWidth, kBandHeight + top + rowHeight + kBelowButtons);
+    int left = (formWidth - rowWidth) / 2;
+    for (ImageButton* button : wordButtons) {
+        button->move(BodyPoint(left, top));
+        left += button->width() + kButtonsApart;
+    }
+}
+
+void BandedForm::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF inside = QRectF(rect()).adjusted(1, 1, -1, -1);
+    if (CornersNeedMask())
+        painter.fillRect(rect(), kBark);
+    painter.setClipPath(Outline(inside));
+    painter.fillRect(rect(), kPaper);
+    PaintVine(painter);
+    PaintBand(painter);
+    painter.setClipping(false);
+    painter.setPen(QPen(kBark, 2));
+    painter.drawPath(Outline(inside));
+}
+
+void BandedForm::PaintVine(QPainter& painter) const
+{
+    const int left = width() - kVineSide - 2;
+    const bool buttonsReachIt = !wordButtons.empty() && wordButtons.back()->geometry().right() > left + kVineSide / 4;
+    if (!buttonsReachIt)
+        painter.drawPixmap(
+            left, height() - kVineSide - 2,
+            Artwork(QStringLiteral("pictures/FormVine"), QSize(kVineSide, kVineSide), devicePixelRatioF()));
+}
+
+void BandedForm::PaintBand(QPainter& painter) const
+{
+    painter.fillRect(QRect(0, 0, width(), kBandHeight), kDeepLeaf);
+    painter.fillRect(QRect(0, kBandHeight - 2, width(), 2), kBark);
+    painter.drawPixmap(
+        kLogoLeft, (kBandHeight - kLogoSide) / 2,
+        Artwork(QStringLiteral("pictures/SproutPaper"), QSize(kLogoSide, kLogoSide), devicePixelRatioF()));
+}
+
+void BandedForm::resizeEvent(QResizeEvent* event)
+{
+    QDialog::resizeEvent(event);
+    if (CornersNeedMask())
+        setMask(QRegion(Outline(rect()).toFillPolygon().toPolygon()));
+    closeBox->move(width() - kCloseBoxSide - kCloseBoxFromRight, 1);
+    const int captionLeft = kLogoLeft + kLogoSide + 2;
+    captionLbl->setGeometry(captionLeft, 0, closeBox->x() - captionLeft - 4, kBandHeight - 2);
+    FitCaption();
+}
+
+void BandedForm::mousePressEvent(QMouseEvent* event)
+{
+    moving = event->button() == Qt::LeftButton && event->position().y() < kBandHeight;
+    downAt = event->position().toPoint();
+    if (moving && SystemMovesWindows() && windowHandle())
+        moving = !windowHandle()->startSystemMove();
+}
+
+void BandedForm::mouseMoveEvent(QMouseEvent* event)
+{
+    if (moving)
+        move(pos() + event->position().toPoint() - downAt);
+}
+
+void BandedForm::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    moving = false;
+}
+
+void BandedForm::keyPressEvent(QKeyEvent* event)
+{
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        if (!wordButtons.empty())
+            wordButtons.front()->click();
+        break;
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+        FocusNeighbour(-1);
+        break;
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+        FocusNeighbour(1);
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+    }
+}
+
+void BandedForm::FocusNeighbour(int step)
+{
+    const auto count = static_cast<int>(wordButtons.size());
+    const auto focused = std::find(wordButtons.begin(), wordButtons.end(), focusWidget());
+    if (count == 0)
+        return;
+    const auto at =
+        focused == wordButtons.end() ? (step > 0 ? -1 : 0) : static_cast<int>(focused - wordButtons.begin());
+    wordButtons[static_cast<std::size_t>((at + step + count) % count)]->setFocus(Qt::TabFocusReason);
+}
+
+} // namespace sprout

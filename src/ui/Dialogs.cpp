@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Dialogs.h"
+
+#include <QApplication>
+
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "ui/MessageForms.h"
+
+namespace sprout {
+
+namespace {
+
+std::string Caption(std::string_view title)
+{
+    return " " + std::string(Trim(title).empty() ? kProductName : title);
+}
+
+} // namespace
+
+void ShowMessage(std::string_view line1, std::string_view line2, std::string_view title)
+{
+    if (Trim(line2).empty()) {
+        Msg1BtnFrm form(QApplication::activeWindow(), line1);
+        form.SetCaption(Caption(title));
+        form.ShowModal();
+    } else {
+        Msg1Btn2NoteFrm form(QApplication::activeWindow(), line1, line2);
+        form.SetCaption(Caption(title));
+        form.ShowModal();
+    }
+}
+
+int AskYesNo(std::string_view line1, std::string_view line2, std::string_view title)
+{
+    MsgYesNoFrm form(QApplication::activeWindow(), line1, line2);
+    form.SetCaption(Caption(title));
+    return form.ShowModal();
+}
+
+std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2,
+                    std::string_view title)
+{
+    InputBoxFrm form(QApplication::activeWindow(), defaultText, line1, line2);
+    form.SetCaption(Caption(title));
+    return form.ShowModal() == 1 ? form.Text() : std::string();
+}
+
+} // namespace sprout

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace sprout {
+
+// Modal questions and messages in the program's own forms, shown from the window that is in front. A blank title stands
+// for the program's name; one blank is put before every title.
+
+/// A message with OK, of one line if `line2` is blank.
+void ShowMessage(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
+
+/// A question; 1 for yes, else 0.
+[[nodiscard]] int AskYesNo(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
+
+/// Asks for a text that starts as `defaultText`; empty if it is cancelled.
+[[nodiscard]] std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2 = {},
+                                  std::string_view title = {});
+
+} // namespace sprout

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+#include <QObject>
+#include <QString>
+
+#include <span>
+#include <string_view>
+
+namespace sprout {
+
+/// A control of a window and the words that explain it.
+struct HintRow {
+    std::string_view name;
+    std::string_view hint;
+};
+
+/// Hints of the main window's controls.
+[[nodiscard]] std::span<const HintRow> MainWindowHints();
+
+/// The main window's hint for a control, empty where it has none.
+[[nodiscard]] std::string_view MainWindowHint(std::string_view name);
+
+/// The hint of the status frame itself.
+inline constexpr std::string_view kStatusFrameHint = "Move the mouse over any button to read help clue here";
+
+/// Names the label that shows hints, `StatusLbl` of the main window. It may go before the hints do.
+void SetStatusLbl(QLabel* label);
+
+/// Puts a hint on the status line, from any window; an empty text clears it.
+void ShowHint(const QString& text);
+
+/// The property that holds a widget's hint; a widget without it has the hint of what it lies on.
+inline constexpr const char* kHintProperty = "hint";
+
+/// Shows a hint for every move of the mouse over widgets that are no image buttons.
+class HintWatcher : public QObject {
+    Q_OBJECT
+
+public:
+    explicit HintWatcher(QObject* parent) : QObject(parent) {}
+
+    /// A move over `widget` shows `hint`; an empty one clears the line.
+    void Watch(QWidget& widget, std::string_view hint);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+} // namespace sprout

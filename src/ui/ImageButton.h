@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+#include <QColor>
+
+#include "ui/ButtonStates.h"
+
+namespace sprout {
+
+class ButtonScheme;
+
+/// What a button's picture is laid on.
+enum class Plate { Tool, Word, Title };
+
+/// A row of a window's button table.
+struct ButtonRow {
+    const char* name = "";       ///< the control's name, and that of its picture
+    const char* spokenName = ""; ///< what a screen reader says; on a word plate the word itself
+    const char* hint = "";       ///< for the status line
+    Plate plate = Plate::Tool;
+    QColor plateColour{}; ///< of a word plate
+    const char* glyph =
+        nullptr; ///< a word plate's picture before the word; elsewhere in place of the one named after the button
+};
+
+/// A button that is a picture: a plate in one of four faces and a glyph or a word on it.
+class ImageButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    ImageButton(const ButtonRow& row, ButtonScheme& scheme, int number, QWidget* parent);
+
+    [[nodiscard]] ButtonFace Face() const { return face; }
+    void SetFace(ButtonFace newFace);
+    /// The button's number in its scheme's table.
+    [[nodiscard]] int Number() const { return number; }
+    [[nodiscard]] QString Hint() const { return hint; }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+private:
+    void PaintPlate(QPainter& painter) const;
+    void PaintGlyph(QPainter& painter) const;
+    void PaintWord(QPainter& painter) const;
+    void PaintFocus(QPainter& painter) const;
+    [[nodiscard]] int Lift() const;
+    [[nodiscard]] int GlyphRoom() const;
+
+    ButtonScheme& scheme;
+    int number;
+    Plate plate;
+    QColor plateColour;
+    QString glyph;
+    QString hint;
+    ButtonFace face = ButtonFace::Normal;
+};
+
+} // namespace sprout

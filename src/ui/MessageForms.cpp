@@ -1,0 +1,262 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/MessageForms.h"
+
+#include <QScreen>
+
+#include <algorithm>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "ui/Artwork.h"
+#include "ui/Dialogs.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kSideMargin = 8;
+constexpr int kFirstNoteTop = 14;
+constexpr int kNotesApart = 2;
+constexpr int kAboveButtons = 14;
+constexpr int kLeastMessageWidth = 230;
+constexpr int kLeastQuestionWidth = 250;
+constexpr int kLeastThreeButtonsWidth = 300; // the form is 316 wide
+constexpr double kWidestShareOfScreen = 0.8;
+
+constexpr int kIconSide = 40;
+constexpr int kTwipsOfAPixel = 15;
+constexpr int kInputFormWidth = 320;
+constexpr int kBoxHeight = 34;
+
+ButtonRow GoOn(const char* name, const char* word, const char* hint = "")
+{
+    return {name, word, hint, Plate::Word, kDeepLeaf};
+}
+
+ButtonRow GoBack(const char* name, const char* word, const char* hint = "")
+{
+    return {name, word, hint, Plate::Word, kStone};
+}
+
+QString Utf8Name(const char* name)
+{
+    return QString::fromLatin1(name);
+}
+
+} // namespace
+
+NotesForm::NotesForm(QWidget* parent, int leastWidth) : BandedForm(parent), leastNoteWidth(leastWidth) {}
+
+void NotesForm::AddNote(const char* name, std::string_view text)
+{
+    QLabel& note = AddLabel(name);
+    note.setText(QtText(text));
+    note.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    notes.push_back(&note);
+}
+
+void NotesForm::AddPicture(const char* artwork)
+{
+    QLabel& picture = AddLabel("IconImg");
+    picture.setPixmap(Artwork(QString::fromLatin1(artwork), QSize(kIconSide, kIconSide), devicePixelRatioF()));
+    picture.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    notes.push_back(&picture);
+}
+
+void NotesForm::SizeToNotes()
+{
+    const int widest = static_cast<int>(screen()->availableGeometry().width() * kWidestShareOfScreen);
+    int noteWidth = leastNoteWidth;
+    for (QLabel* note : notes) {
+        note->adjustSize();
+        noteWidth = std::max(noteWidth, std::min(note->width(), widest));
+    }
+    int top = kFirstNoteTop;
+    for (QLabel* note : notes) {
+        if (note->width() > noteWidth) {
+            note->setWordWrap(true);
+            note->setFixedSize(noteWidth, note->heightForWidth(noteWidth));
+        }
+        note->setGeometry({BodyPoint(kSideMargin, top), QSize(noteWidth, note->height())});
+        top += note->height() + kNotesApart;
+    }
+    PlaceButtons(noteWidth + 2 * kSideMargin, top - kNotesApart + kAboveButtons);
+    for (QLabel* note : notes)
+        note->move((width() - note->width()) / 2, note->y());
+}
+
+Msg1BtnFrm::Msg1BtnFrm(QWidget* parent, std::string_view note) : NotesForm(parent, kLeastMessageWidth)
+{
+    setObjectName(QStringLiteral("Msg1BtnFrm"));
+    AddNote("NoteLbl", note);
+    AddAnswer(GoOn("OkBtn", "OK"), 1).setFocus();
+    SizeToNotes();
+}
+
+Msg1Btn2NoteFrm::Msg1Btn2NoteFrm(QWidget* parent, std::string_view note1, std::string_view note2)
+    : NotesForm(parent, kLeastMessageWidth)
+{
+    setObjectName(QStringLiteral("Msg1Btn2NoteFrm"));
+    AddNote("NoteLbl1", note1);
+    AddNote("NoteLbl2", note2);
+    AddAnswer(GoOn("OkBtn", "OK"), 1).setFocus();
+    SizeToNotes();
+}
+
+MsgYesNoFrm::MsgYesNoFrm(QWidget* parent, std::string_view note1, std::string_view note2)
+    : NotesForm(parent, kLeastQuestionWidth)
+{
+    setObjectName(QStringLiteral("MsgYesNoFrm"));
+    AddNote("NoteLbl1", note1);
+    AddNote("NoteLbl2", note2);
+    AddAnswer(GoOn("YesBtn", "Yes"), 1).setFocus();
+    AddAnswer(GoBack("NoBtn", "No"), 0);
+    SizeToNotes();
+}
+
+Msg3BtnFrm::Msg3BtnFrm(QWidget* parent, std::string_view note) : NotesForm(parent, kLeastThreeButtonsWidth)
+{
+    setObjectName(QStringLiteral("Msg3BtnFrm"));
+    AddNote("NoteLbl", note);
+    AddAnswer({"StartRecordingBtn", "Recording", "", Plate::Word, kCoral, "WordRecord"}, 1).setFocus();
+    AddAnswer({"ChooseWavFileBtn", "Wav file", "", Plate::Word, kDeepLeaf, "WordWave"}, 2);
+    AddAnswer(GoBack("CancelBtn", "Cancel"), 0);
+    SizeToNotes();
+}
+
+SaveConfirmFrm::SaveConfirmFrm(QWidget* parent, std::string_view songName) : NotesForm(parent, kLeastThreeButtonsWidth)
+{
+    setObjectName(QStringLiteral("SaveConfirmFrm"));
+    AddNote("NoteLbl", "Do you want to save this song?");
+    AddNote("SongNameLbl", songName);
+    findChild<QLabel*>(QStringLiteral("SongNameLbl"))->setFont(TitleFont());
+    AddAnswer(GoOn("YesBtn", "Yes"), 2).setFocus();
+    AddAnswer(GoBack("NoBtn", "No"), 1);
+    AddAnswer(GoBack("Cancel_Btn", "Cancel"), 0);
+    SizeToNotes();
+}
+
+PlainBoxFrm::PlainBoxFrm(QWidget* parent, std::string_view text, MessageIcon icon)
+    : NotesForm(parent, kLeastMessageWidth)
+{
+    setObjectName(QStringLiteral("PlainBoxFrm"));
+    if (icon == MessageIcon::Exclamation)
+        AddPicture("pictures/Exclamation");
+    AddNote("NoteLbl", text);
+    AddAnswer(GoOn("OkBtn", "OK"), 1).setFocus();
+    SizeToNotes();
+}
+
+InputBoxFrm::InputBoxFrm(QWidget* parent, std::string_view defaultText, std::string_view note1, std::string_view note2)
+    : BandedForm(parent), InputTxt(new QLineEdit(this))
+{
+    const bool oneNote = Trim(note2).empty();
+    const int boxTop = oneNote ? 32 : 56;
+    const int buttonsTop = oneNote ? 74 : 98;
+    const int formHeight = (oneNote ? 2265 : 2640) / kTwipsOfAPixel;
+
+    setObjectName(QStringLiteral("InputBoxFrm"));
+    QLabel& first = AddLabel("NoteLbl1");
+    QLabel& second = AddLabel("NoteLbl2");
+    first.setText(QtText(note1));
+    second.setText(oneNote ? QString() : QtText(note2));
+    AddAnswer(GoOn("OkBtn", "OK"), 1);
+    AddAnswer(GoBack("CancelBtn", "Cancel"), 0);
+
+    const int noteWidth = std::max(first.sizeHint().width(), second.sizeHint().width());
+    PlaceButtons(std::max(kInputFormWidth, noteWidth + 4 * kSideMargin), buttonsTop);
+    resize(width(), formHeight);
+    const int innerWidth = width() - 4 * kSideMargin;
+    first.setGeometry({BodyPoint(2 * kSideMargin, 5), QSize(innerWidth, 25)});
+    second.setGeometry({BodyPoint(2 * kSideMargin, 29), QSize(innerWidth, 25)});
+    second.setVisible(!oneNote);
+
+    InputTxt->setObjectName(QStringLiteral("InputTxt"));
+    InputTxt->setAccessibleName(first.text());
+    InputTxt->setText(QtText(defaultText));
+    InputTxt->setGeometry({BodyPoint(2 * kSideMargin, boxTop), QSize(innerWidth, kBoxHeight)});
+    InputTxt->selectAll();
+    setTabOrder(InputTxt, findChild<ImageButton*>(QStringLiteral("OkBtn")));
+    InputTxt->setFocus();
+}
+
+std::string InputBoxFrm::Text() const
+{
+    return InputTxt->text().toStdString();
+}
+
+SongTitleFrm::SongTitleFrm(QWidget* parent, std::string_view title, std::string_view author) : BandedForm(parent)
+{
+    setObjectName(QStringLiteral("SongTitleFrm"));
+    NameTxt = &AddBox("Label1", "Song name", "NameTxt", title, 8);
+    CreatedTxt = &AddBox("Label2", "Created by", "CreatedTxt", author, 74);
+    Watcher().Watch(*NameTxt, "You can change the name of this song here");
+    Watcher().Watch(*CreatedTxt, "You can type your name here");
+    ForbidCharacters(*NameTxt, QStringLiteral("./\\:*?<>|\""));
+    AddWordButton(GoOn("OkBtn", "OK"), [this] { ClickOk(); });
+    AddAnswer(GoBack("CancelBtn", "Cancel"), 0);
+    PlaceButtons(kInputFormWidth + 2 * kSideMargin, 148);
+    NameTxt->selectAll();
+    NameTxt->setFocus();
+}
+
+QLineEdit& SongTitleFrm::AddBox(const char* labelName, const char* labelText, const char* boxName,
+                                std::string_view text, int top)
+{
+    QLabel& label = AddLabel(labelName);
+    label.setText(QString::fromUtf8(labelText));
+    label.setGeometry({BodyPoint(2 * kSideMargin, top), QSize(kInputFormWidth - 2 * kSideMargin, 25)});
+    auto* box = new QLineEdit(QtText(text), this);
+    box->setObjectName(Utf8Name(boxName));
+    box->setAccessibleName(label.text());
+    box->setGeometry({BodyPoint(2 * kSideMargin, top + 26), QSize(kInputFormWidth - 2 * kSideMargin, kBoxHeight)});
+    return *box;
+}
+
+std::string SongTitleFrm::Name() const
+{
+    return NameTxt->text().toStdString();
+}
+
+std::string SongTitleFrm::CreatedBy() const
+{
+    return CreatedTxt->text().toStdString();
+}
+
+void SongTitleFrm::ClickOk()
+{
+    ShowHint({});
+    const std::string name = Name();
+    if (Trim(name).empty()) {
+        ShowMessage("Please enter the Song Title.");
+        return;
+    }
+    // Only another case of the open song's own title may name a file that is there.
+    if (!EqualIgnoringCase(name, Shared().Song.SongTitle) &&
+        FileExists(NamedFile(Shared().UserSongs, name, ".TqSng"))) {
+        ShowMessage("A song with this name already exists.", "Please type another name.");
+        return;
+    }
+    Answer(1);
+}
+
+void ForbidCharacters(QLineEdit& box, const QString& forbidden)
+{
+    QObject::connect(&box, &QLineEdit::textChanged, &box, [&box, forbidden](const QString& text) {
+        QString clean = text;
+        for (QChar& character : clean)
+            if (forbidden.contains(character))
+                character = QLatin1Char('_');
+        if (clean == text)
+            return;
+        const int caret = box.cursorPosition();
+        box.setText(clean);
+        box.setCursorPosition(caret);
+    });
+}
+
+} // namespace sprout

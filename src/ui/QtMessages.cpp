@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/QtMessages.h"
+
+#include <QApplication>
+
+#include "ui/MessageForms.h"
+
+namespace sprout {
+
+void QtMessages::MessageBox(std::string_view title, std::string_view text, MessageIcon icon)
+{
+    PlainBoxFrm form(QApplication::activeWindow(), text, icon);
+    form.SetCaption(title.empty() ? std::string() : " " + std::string(title));
+    form.ShowModal();
+}
+
+} // namespace sprout

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/QtScreen.h"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace sprout {
+
+void QtScreen::ShowHourglass()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+void QtScreen::RestorePointer()
+{
+    QApplication::restoreOverrideCursor();
+}
+
+void QtScreen::ShowProcessPic()
+{
+    if (++shown == 1 && processPic)
+        processPic->Appear();
+}
+
+void QtScreen::HideProcessPic()
+{
+    if (--shown == 0 && processPic)
+        processPic->hide();
+}
+
+void QtScreen::ShowProgress(std::size_t done, std::size_t total)
+{
+    if (processPic)
+        processPic->ShowProgress(done, total);
+}
+
+void QtScreen::EnableTuneNotFilledTimer()
+{
+    tuneNotFilledWanted = true;
+    if (enableTuneNotFilled)
+        enableTuneNotFilled();
+}
+
+void QtScreen::SetProcessPic(ProcessPic* sign)
+{
+    processPic = sign;
+}
+
+void QtScreen::SetTuneNotFilledTimer(std::function<void()> enableTimer)
+{
+    enableTuneNotFilled = std::move(enableTimer);
+    if (tuneNotFilledWanted && enableTuneNotFilled)
+        enableTuneNotFilled();
+}
+
+} // namespace sprout

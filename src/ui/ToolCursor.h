@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QCursor>
+
+#include <string_view>
+
+namespace sprout {
+
+/// The pointer of a tool: the picture of the tool's button alone, 32 pixels, its hot spot at the tip. button:
+/// `BrushBtn`, `EraserBtn` or `PlayToolBtn`; any other gives the default pointer.
+[[nodiscard]] QCursor ToolCursor(std::string_view button, qreal pixelRatio);
+
+} // namespace sprout

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/rules/TrackPointer.h"
+
+#include <gtest/gtest.h>
+
+namespace sprout {
+namespace {
+
+constexpr TrackView kUnscrolled{1, 1, 600, 300, 300};
+
+TEST(PointerOverTracks, ShowsNothingWithoutAHit)
+{
+    const TrackPointer pointer = PointerOverTracks(kUnscrolled, {1, 5, false}, 0);
+    EXPECT_EQ(pointer.image, PointerImage::Default);
+    EXPECT_EQ(pointer.hint, "");
+    EXPECT_EQ(pointer.TrackMouPosLbl, "");
+    EXPECT_FALSE(pointer.cellCursor);
+}
+
+TEST(PointerOverTracks, ShowsThePlayToolOnTheTimeBand)
+{
+    const TrackPointer pointer = PointerOverTracks(kUnscrolled, {kWholeSong, 17, true}, 0);
+    EXPECT_EQ(pointer.image, PointerImage::PlayTool);
+    EXPECT_EQ(pointer.hint,
+              "Main Song Track (all tracks mixed), use play tool and click on this to play song from there.");
+    EXPECT_EQ(pointer.TrackMouPosLbl, "17");
+    EXPECT_FALSE(pointer.cellCursor);
+}
+
+TEST(PointerOverTracks, ShowsToolCellAndCursorOnATrack)
+{
+    const TrackPointer pointer = PointerOverTracks(kUnscrolled, {2, 18, true}, 0);
+    EXPECT_EQ(pointer.image, PointerImage::ToolCursor);
+    EXPECT_EQ(pointer.hint, "Music tracks, use the paint brush and eraser to draw here. Or use play tool to play");
+    EXPECT_EQ(pointer.TrackMouPosLbl, "18");
+    EXPECT_EQ(pointer.cellCursor, (CellCursor{51, 73, 0xC0FFFF}));
+}
+
+TEST(PointerOverTracks, MarksTheFirstCellOfEachEight)
+{
+    EXPECT_EQ(PointerOverTracks(kUnscrolled, {1, 17, true}, 0).cellCursor->colour, 0xFF8080);
+    EXPECT_EQ(PointerOverTracks(kUnscrolled, {1, 1, true}, 0).cellCursor->colour, 0xFF8080);
+    EXPECT_EQ(PointerOverTracks(kUnscrolled, {1, 16, true}, 0).cellCursor->colour, 0xC0FFFF);
+}
+
+TEST(PointerOverTracks, KeepsTheCursorOnTheRowOfTheDrag)
+{
+    EXPECT_EQ(PointerOverTracks(kUnscrolled, {2, 3, true}, 1).cellCursor->y, 27);
+}
+
+TEST(PointerOverTracks, HidesTheCursorOutsideTheSurface)
+{
+    EXPECT_TRUE(PointerOverTracks(kUnscrolled, {1, 201, true}, 0).cellCursor);
+    EXPECT_FALSE(PointerOverTracks(kUnscrolled, {1, 202, true}, 0).cellCursor);
+    EXPECT_FALSE(PointerOverTracks(kUnscrolled, {1, 0, true}, 0).cellCursor);
+    EXPECT_FALSE(PointerOverTracks(kUnscrolled, {9, 5, true}, 0).cellCursor);
+    EXPECT_FALSE(PointerOverTracks({3, 1, 600, 300, 300}, {2, 5, true}, 0).cellCursor);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include "ui/MessageForms.h"
+#include "ui/ModalSteps.h"
+#include "ui/QtMessages.h"
+
+namespace sprout {
+namespace {
+
+QString TextOf(const QWidget& form, const char* label)
+{
+    return form.findChild<QLabel*>(QString::fromLatin1(label))->text();
+}
+
+struct Seen {
+    QString form;
+    QString caption;
+};
+
+/// Notes which form comes next and with what caption, and clicks a button of it.
+void ClickNext(Seen& seen, const char* button)
+{
+    WithNextForm([&seen, button](BandedForm& form) {
+        seen = {form.objectName(), TextOf(form, "CaptionLbl")};
+        Click(form, button);
+    });
+}
+
+TEST(ShowMessage, UsesTheFormOfOneNoteForABlankSecondLine)
+{
+    Seen seen;
+    ClickNext(seen, "OkBtn");
+    ShowMessage("Song not selected.", "  ", "");
+    EXPECT_EQ(seen.form, QStringLiteral("Msg1BtnFrm"));
+    EXPECT_EQ(seen.caption, QStringLiteral(" Tonquill Sprout Painter"));
+}
+
+TEST(ShowMessage, UsesTheFormOfTwoNotesAndPutsABlankBeforeTheTitle)
+{
+    Seen seen;
+    ClickNext(seen, "OkBtn");
+    ShowMessage("Your song \"Zumi\" is saved.", "Well done.", "Good!");
+    EXPECT_EQ(seen.form, QStringLiteral("Msg1Btn2NoteFrm"));
+    EXPECT_EQ(seen.caption, QStringLiteral(" Good!"));
+}
+
+TEST(AskYesNo, Is1ForYesAnd0ForNoCloseBoxAndEscape)
+{
+    Seen seen;
+    ClickNext(seen, "YesBtn");
+    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 1);
+    EXPECT_EQ(seen.form, QStringLiteral("MsgYesNoFrm"));
+    ClickNext(seen, "NoBtn");
+    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 0);
+    ClickNext(seen, "CloseImgBtn");
+    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 0);
+    WithNextForm([](BandedForm& form) { QTest::keyClick(&form, Qt::Key_Escape); });
+    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 0);
+}
+
+TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
+{
+    WithNextForm([](BandedForm& form) { QTest::keyClick(form.focusWidget(), Qt::Key_Return); });
+    EXPECT_EQ(AskYesNo("Overwrite?"), 1);
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Tab}) {
+        int onNo = -1;
+        WithNextForm([key, &onNo](BandedForm& form) {
+            QTest::keyClick(form.focusWidget(), key);
+            onNo = form.focusWidget()->objectName() == QStringLiteral("NoBtn");
+            QTest::keyClick(form.focusWidget(), Qt::Key_Return);
+        });
+        EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+        EXPECT_EQ(onNo, 1);
+    }
+}
+
+TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
+{
+    WithNextForm([](BandedForm& form) {
+        auto* box = form.findChild<QLineEdit*>(QStringLiteral("InputTxt"));
+        EXPECT_EQ(box->text(), QStringLiteral("Zumi"));
+        QTest::keyClicks(box, QStringLiteral("Rain")); // what stood there is selected and gives way
+        Click(form, "OkBtn");
+    });
+    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "Rain");
+    Seen seen;
+    ClickNext(seen, "CancelBtn");
+    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "");
+    WithNextForm([](BandedForm& form) {
+        QTest::keyClick(form.findChild<QWidget*>(QStringLiteral("InputTxt")), Qt::Key_Return);
+    });
+    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "Zumi");
+}
+
+TEST(ShowMessage, StacksOnAnotherModalForm)
+{
+    int answers = 0;
+    WithNextForm([&answers](BandedForm& question) {
+        WithNextForm([&](BandedForm& message) {
+            EXPECT_NE(&message, &question);
+            ++answers;
+            Click(message, "OkBtn");
+        });
+        ShowMessage("On top.");
+        ++answers;
+        Click(question, "YesBtn");
+    });
+    EXPECT_EQ(AskYesNo("Below?"), 1);
+    EXPECT_EQ(answers, 2);
+}
+
+TEST(QtMessages, ShowsATitledBoxOfSeveralLines)
+{
+    QString text;
+    Seen seen;
+    WithNextForm([&](BandedForm& form) {
+        text = TextOf(form, "NoteLbl");
+        seen = {form.objectName(), TextOf(form, "CaptionLbl")};
+        EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("IconImg")), nullptr);
+        Click(form, "OkBtn");
+    });
+    QtMessages().MessageBox("Play Failed", "Could not Play Sound\nDriver busy or not ready", MessageIcon::Exclamation);
+    EXPECT_EQ(text, QStringLiteral("Could not Play Sound\nDriver busy or not ready"));
+    EXPECT_EQ(seen.caption, QStringLiteral(" Play Failed"));
+}
+
+TEST(QtMessages, ShowsAnUntitledBox)
+{
+    Seen seen;
+    ClickNext(seen, "OkBtn");
+    QtMessages().MessageBox("", "Error Loading File", MessageIcon::None);
+    EXPECT_EQ(seen.form, QStringLiteral("PlainBoxFrm"));
+    EXPECT_EQ(seen.caption, QString());
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Hints.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include <memory>
+#include <string>
+
+#include "core/Shared.h"
+#include "ui/ButtonScheme.h"
+
+namespace sprout {
+namespace {
+
+TEST(MainWindowHint, TellsWhatAControlDoes)
+{
+    EXPECT_EQ(MainWindowHint("TrackAddRecBtn"), "Add Audio track button. Use it to record your voice sound or choose a "
+                                                "wav file to add as an audio track");
+    EXPECT_EQ(MainWindowHint("SngTitle2Lbl"), MainWindowHint("SngTitleLbl"));
+    EXPECT_EQ(MainWindowHint("StatusFramePic"), "Move the mouse over any button to read help clue here");
+    EXPECT_EQ(MainWindowHint("AboutBtn"), "About button, use it to read about " + std::string(kProductFamily));
+}
+
+TEST(MainWindowHint, IsEmptyWhereThereIsNone)
+{
+    EXPECT_EQ(MainWindowHint("DemoBtn"), "");
+    EXPECT_EQ(MainWindowHint("NoSuchBtn"), "");
+}
+
+TEST(ShowHint, NeedsNoStatusLine)
+{
+    auto label = std::make_unique<QLabel>();
+    SetStatusLbl(label.get());
+    ShowHint(QStringLiteral("Save"));
+    EXPECT_EQ(label->text(), QStringLiteral("Save"));
+    label.reset();
+    ShowHint(QStringLiteral("Open"));
+}
+
+TEST(HintWatcher, ShowsAndClearsHintsAsTheMouseMoves)
+{
+    QLabel statusLbl;
+    SetStatusLbl(&statusLbl);
+    QWidget window;
+    window.resize(200, 100);
+    QWidget label(&window);
+    label.setGeometry(0, 0, 50, 50);
+    HintWatcher watcher(&window);
+    watcher.Watch(label, "Song duration in seconds");
+    watcher.Watch(window, "");
+    window.show();
+    QTest::mouseMove(&label, QPoint(10, 10));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Song duration in seconds"));
+    QTest::mouseMove(&window, QPoint(150, 80));
+    EXPECT_EQ(statusLbl.text(), QString());
+}
+
+TEST(HintWatcher, LeavesTheHintsOfButtonsOnAWatchedWindowAlone)
+{
+    QLabel statusLbl;
+    SetStatusLbl(&statusLbl);
+    QWidget window;
+    window.resize(200, 100);
+    HintWatcher watcher(&window);
+    watcher.Watch(window, "");
+    ButtonScheme scheme(window, AllOffTimer::OffAtFirst);
+    ImageButton& save = scheme.AddButton({"SaveBtn", "Save", "Save button"}, [] {});
+    window.show();
+    QTest::mouseMove(&save, QPoint(20, 20));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Save button"));
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+#include "ui/BandedForm.h"
+
+namespace sprout {
+
+/// Runs `steps` with the form that is shown modally next, once it stands.
+inline void WithNextForm(std::function<void(BandedForm&)> steps)
+{
+    QTimer::singleShot(0, qApp, [steps = std::move(steps)] {
+        auto* form = qobject_cast<BandedForm*>(QApplication::activeModalWidget());
+        if (form)
+            steps(*form);
+    });
+}
+
+/// Clicks a control of a window by its name.
+inline void Click(QWidget& window, const char* name)
+{
+    QTest::mouseClick(window.findChild<QWidget*>(QString::fromLatin1(name)), Qt::LeftButton);
+}
+
+} // namespace sprout
