@@ -90,10 +90,12 @@ std::int32_t TempoOfPercent(std::int32_t percent)
 
 std::int32_t AudioCycleCells(const WaveData& audio)
 {
+    if (audio.Rate <= 0)
+        return 1;
     const double seconds = static_cast<double>(audio.Length) / audio.Rate;
-    const double cells = seconds / CellSeconds(kReferenceTempo);
-    constexpr double most = std::numeric_limits<std::int32_t>::max();
-    return cells >= 1 ? RoundHalfEven(std::min(cells, most)) : 1; // no number is not above 1 either
+    const double cells =
+        std::min<double>(seconds / CellSeconds(kReferenceTempo), std::numeric_limits<std::int32_t>::max());
+    return std::max(RoundHalfEven(cells), 1);
 }
 
 std::int32_t FindFirstPainted(const Track& track, std::int32_t songCells)

@@ -5,6 +5,7 @@
 #include "core/SongModel.h"
 #include "songs/SongReader.h"
 #include "songs/SongVersions.h"
+#include "tunes/BeatEntry.h"
 #include "tunes/BeatFiles.h"
 #include "tunes/TunOpnSavClass.h"
 

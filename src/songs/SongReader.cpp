@@ -32,14 +32,6 @@ void ReadPaint(LongsReader& data, Track& track, std::int32_t songCells)
     data.GetMany(std::span(track.Painted).subspan(1));
 }
 
-void ReadStoredBeat(LongsReader& data, Beat& beat)
-{
-    beat.DateStamp = data.GetText();
-    beat.Sound = data.GetWave();
-    beat.Picture = data.GetPicture();
-    beat.Loaded = true;
-}
-
 void ReadTuneHead(LongsReader& data, Tune& tune)
 {
     tune.DateStamp = data.GetText();

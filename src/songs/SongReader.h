@@ -22,9 +22,6 @@ void MakeTracks(LongsReader& data, SongState& song, std::int32_t count);
 /// Reads the type and the cells that every track begins with.
 void ReadPaint(LongsReader& data, Track& track, std::int32_t songCells);
 
-/// Reads `DateStamp`, `Sound` and `Picture` of a beat that the file holds.
-void ReadStoredBeat(LongsReader& data, Beat& beat);
-
 /// Reads `DateStamp`, `CreatedBy` and `Picture` of a tune that the file holds.
 void ReadTuneHead(LongsReader& data, Tune& tune);
 

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cstdint>
 
-#include "core/Paths.h"
-#include "core/Shared.h"
-#include "core/Text.h"
 #include "songs/SongVersions.h"
+#include "tunes/BeatEntry.h"
 
 namespace sprout {
 
@@ -12,15 +10,8 @@ namespace {
 
 void WriteBeat(LongsWriter& data, const Beat& beat)
 {
-    const bool stored =
-        Shared().SongBeatsInside || !FileExists(NamedFile(Shared().UserBeats, StoredText(beat.Name), ".wav"));
     data.PutText(beat.Name);
-    data.Put(stored ? 1 : 0);
-    if (!stored)
-        return;
-    data.PutText(beat.DateStamp);
-    data.PutWave(beat.Sound);
-    data.PutPicture(beat.Picture);
+    WriteBeatEntry(data, beat);
 }
 
 void WriteTune(LongsWriter& data, const Tune& tune)

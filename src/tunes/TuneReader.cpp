@@ -10,6 +10,7 @@
 #include "core/Shared.h"
 #include "service/Messages.h"
 #include "service/Services.h"
+#include "tunes/BeatEntry.h"
 #include "tunes/BeatFiles.h"
 #include "tunes/TuneVersions.h"
 
@@ -60,10 +61,7 @@ void ReadBeatEntry(LongsReader& data, Beat& beat)
 {
     if (data.Get() != 1)
         return LoadBeatFile(beat, beat.Name);
-    beat.DateStamp = data.GetText();
-    beat.Sound = data.GetWave();
-    beat.Picture = data.GetPicture();
-    beat.Loaded = true;
+    ReadStoredBeat(data, beat);
 }
 
 void ReadBeats(LongsReader& data, Tune& tune)

@@ -2,9 +2,9 @@
 #include <string>
 #include <unordered_set>
 
-#include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Text.h"
+#include "tunes/BeatEntry.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -28,18 +28,6 @@ void WriteBeatNames(LongsWriter& data, const Tune& tune)
     for (std::int32_t i = 1; i <= tune.StepCount; ++i)
         if (At(tune.Steps, i).OnPos == 1)
             data.PutText(At(tune.Steps, i).StepBeat.Name);
-}
-
-void WriteBeatEntry(LongsWriter& data, const Beat& beat)
-{
-    const bool stored =
-        Shared().SongBeatsInside || !FileExists(NamedFile(Shared().UserBeats, StoredText(beat.Name), ".wav"));
-    data.Put(stored ? 1 : 0);
-    if (!stored)
-        return;
-    data.PutText(beat.DateStamp);
-    data.PutWave(beat.Sound);
-    data.PutPicture(beat.Picture);
 }
 
 void WriteBeatEntries(LongsWriter& data, const Tune& tune)

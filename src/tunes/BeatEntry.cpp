@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tunes/BeatEntry.h"
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+
+namespace sprout {
+
+namespace {
+
+bool IsKeptOutside(const Beat& beat)
+{
+    return !Shared().SongBeatsInside && FileExists(NamedFile(Shared().UserBeats, StoredText(beat.Name), ".wav"));
+}
+
+} // namespace
+
+void WriteBeatEntry(LongsWriter& data, const Beat& beat)
+{
+    if (IsKeptOutside(beat))
+        return data.Put(0);
+    data.Put(1);
+    data.PutText(beat.DateStamp);
+    data.PutWave(beat.Sound);
+    data.PutPicture(beat.Picture);
+}
+
+void ReadStoredBeat(LongsReader& data, Beat& beat)
+{
+    beat.DateStamp = data.GetText();
+    beat.Sound = data.GetWave();
+    beat.Picture = data.GetPicture();
+    beat.Loaded = true;
+}
+
+} // namespace sprout
