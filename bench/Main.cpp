@@ -21,11 +21,13 @@
 #include "service/stretch/StretchService.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/Mixer.h"
+#include "sound/RenderThreads.h"
 #include "sound/StepCache.h"
 #include "sound/StretchWave.h"
 #include "sound/TrackRender.h"
 #include "sound/TuneRender.h"
 #include "sound/WavOperations.h"
+#include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
 
@@ -184,6 +186,40 @@ void Save(benchmark::State& state)
     std::filesystem::remove(target);
 }
 
+/// Five thousand tunes with a sound of eight seconds, as a list of them reads them. Fifty files under many names: what
+/// is read of each is the same.
+std::vector<std::filesystem::path> MakeTunes(const std::filesystem::path& folder)
+{
+    constexpr int tunes = 5000;
+    constexpr int files = 50;
+    Tune& tune = Shared().TuneClipboard;
+    tune = StepsTune();
+    for (TuneStep& step : tune.Steps)
+        step.OnPos = 0;
+    tune.Picture = Picture(kPictureSide, kPictureSide, std::vector<std::uint32_t>(kPicturePixels));
+    tune.TuneWave = CutWaveSlice(FullSongWaves()[1], 1, 8 * 44100);
+    std::filesystem::create_directories(folder);
+    std::vector<std::filesystem::path> paths;
+    for (int i = 0; i < tunes; ++i) {
+        paths.push_back(folder / ("Tune " + std::to_string(i) + ".TqTun"));
+        if (i < files)
+            TunOpnSavClass(Flush::No).Save_Tune(paths.back());
+        else
+            std::filesystem::create_hard_link(paths[static_cast<std::size_t>(i % files)], paths.back());
+    }
+    return paths;
+}
+
+void ListTunes(benchmark::State& state)
+{
+    const std::filesystem::path folder = SongFile().native() + ".tunes";
+    const std::vector<std::filesystem::path> paths = MakeTunes(folder);
+    std::size_t next = 0;
+    for ([[maybe_unused]] auto _ : state)
+        TunOpnSavClass().Load_Tune(paths[next++ % paths.size()], TuneLoad::List);
+    std::filesystem::remove_all(folder);
+}
+
 /// A line "name: n kB" of /proc/self/status, in bytes.
 std::int64_t StatusBytes(std::string_view name)
 {
@@ -236,6 +272,10 @@ int RunBenchmarks(int argc, char** argv)
     add("steps-all-cores", StepsWholeWay<0>);
     add("load", Load);
     add("save", Save);
+    benchmark::RegisterBenchmark("list-tunes", ListTunes)
+        ->Iterations(5000)
+        ->UseRealTime()
+        ->Unit(benchmark::kMillisecond);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
