@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "sound/StepCache.h"
 #include "sound/TrackRender.h"
 #include "sound/WavOperations.h"
 
@@ -13,9 +14,7 @@ namespace {
 constexpr std::int32_t kSlowestRendered = 100; // cells a minute; slower songs are long, not odd
 constexpr std::int32_t kMostTracks = 4;
 
-} // namespace
-
-FuzzRun::FuzzRun()
+SharedState StateWithOneBeat()
 {
     Shared().TestTone = MakeTestTone();
     WaveData sound;
@@ -24,6 +23,18 @@ FuzzRun::FuzzRun()
     sound.WavL = Channel(sound.Length);
     SaveWaveFile(sound, Shared().UserBeats / "a.wav");
     WriteBytes(Shared().UserBeats / "a.bmp", "picture");
+    return Shared();
+}
+
+} // namespace
+
+FuzzRun::FuzzRun()
+{
+    static FakeServices services;
+    static const SharedState fresh = StateWithOneBeat();
+    Shared() = fresh;
+    TheStepCache().Clear();
+    services.messages.shown.clear();
 }
 
 std::filesystem::path FuzzRun::Write(const std::filesystem::path& path, const std::uint8_t* data,

@@ -10,15 +10,14 @@
 
 namespace sprout {
 
-/// The fake services, set up anew for one input; its user folder holds one beat, so that names can find something.
+/// One input's run: a fresh shared state over fake services and folders that all inputs share, since making them takes
+/// longer than reading a file. The user folder holds one beat, so that names can find something.
 class FuzzRun {
 public:
     FuzzRun();
 
     /// Writes the input as a file and returns its path.
     std::filesystem::path Write(const std::filesystem::path& path, const std::uint8_t* data, std::size_t size) const;
-
-    FakeServices services;
 };
 
 /// Plays what was loaded: the mix, each track and each cycle, as far as the result stays within a minute or so.
