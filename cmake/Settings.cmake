@@ -22,15 +22,16 @@ set(CMAKE_CXX_FLAGS_RELEASE "-O3 -DNDEBUG")
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-Wno-restrict) # g++ 12 misfires on "text" + string
+    if(SPROUT_SANITIZE)
+        add_compile_options(-Wno-maybe-uninitialized) # and, with a sanitizer's checks, on std::regex
+    endif()
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     add_compile_options(-Wno-sign-conversion) # part of clang's -Wconversion, not of g++'s
 endif()
 
 # A list of sanitizers breaks at its comma inside a generator expression, so it goes straight into the options.
-# The checks that a sanitizer adds let g++ 12 see uninitialised values inside std::regex, where there are none.
 if(SPROUT_SANITIZE)
-    add_compile_options(-Wno-maybe-uninitialized)
     add_compile_options(-fsanitize=${SPROUT_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${SPROUT_SANITIZE})
 endif()
