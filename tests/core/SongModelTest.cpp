@@ -163,6 +163,8 @@ TEST_F(SongModel, CountsTheCellsOfAnAudioWaveAtTheReferenceTempo)
     audio.Rate = 0;
     EXPECT_EQ(AudioCycleCells(audio), 1);
     audio.Length = std::numeric_limits<std::int32_t>::max();
+    EXPECT_EQ(AudioCycleCells(audio), 1);
+    audio.Rate = 1;
     EXPECT_EQ(AudioCycleCells(audio), std::numeric_limits<std::int32_t>::max());
 }
 

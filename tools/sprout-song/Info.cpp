@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -71,13 +72,21 @@ void PrintFacts(std::ostream& out, const Facts& facts, const std::string& indent
     }
 }
 
+/// Why a path is not of any kind.
+std::string WhyUnknown(const std::string& path)
+{
+    std::error_code error;
+    if (std::filesystem::is_directory(path, error))
+        return path + " is a folder.";
+    return path + (FileExists(path) ? " is no song, tune, star or WAV file." : " was not found.");
+}
+
 bool PrintOne(Session& session, const std::string& path, bool json)
 {
     const std::size_t before = session.messages.Shown().size();
     const std::optional<FileKind> kind = KindOfFile(path);
     if (!kind)
-        session.Fail("Error Opening File",
-                     path + (FileExists(path) ? " is no song, tune, star or WAV file." : " was not found."));
+        session.Fail("Error Opening File", WhyUnknown(path));
     const Facts facts = kind ? LoadFacts(session, *kind, path) : Facts();
     const std::string kindName(kind ? KindName(*kind) : "");
     if (json) {
