@@ -27,7 +27,7 @@ double NumberPrefix(std::string_view text)
     if (signedPlus)
         text.remove_prefix(1);
     // from_chars also knows "inf" and "nan", which are words here, and takes a minus sign, also one behind a plus.
-    const auto digits = text.find_first_not_of("-");
+    const auto digits = text.find_first_not_of('-');
     if (digits == std::string_view::npos || digits > 1 || (signedPlus && digits == 1))
         return 0;
     if ((text[digits] < '0' || text[digits] > '9') && text[digits] != '.')

@@ -13,7 +13,7 @@ constexpr std::uint32_t kWhite = 0x00FFFFFF;
 
 std::size_t ColumnPlace(int x, int y)
 {
-    return static_cast<std::size_t>(x * kPictureSide + y);
+    return static_cast<std::size_t>(x) * kPictureSide + static_cast<std::size_t>(y);
 }
 
 } // namespace
@@ -55,10 +55,12 @@ Picture PictureFromColumns(std::span<const std::int32_t> columns)
 {
     assert(columns.size() == kPicturePixels);
     std::vector<std::uint32_t> pixels(kPicturePixels);
-    for (int x = 0; x < kPictureSide; ++x)
-        for (int y = 0; y < kPictureSide; ++y)
-            pixels[static_cast<std::size_t>(y * kPictureSide + x)] =
-                static_cast<std::uint32_t>(columns[ColumnPlace(x, y)]) & kColourBits;
+    for (int x = 0; x < kPictureSide; ++x) {
+        for (int y = 0; y < kPictureSide; ++y) {
+            const std::size_t rowPlace = static_cast<std::size_t>(y) * kPictureSide + static_cast<std::size_t>(x);
+            pixels[rowPlace] = static_cast<std::uint32_t>(columns[ColumnPlace(x, y)]) & kColourBits;
+        }
+    }
     return {kPictureSide, kPictureSide, std::move(pixels)};
 }
 

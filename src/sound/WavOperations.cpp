@@ -194,7 +194,8 @@ void WriteSamples(WaveWriter& writer, const WaveData& wave)
     std::vector<std::byte> bytes(static_cast<std::size_t>(blockFrames * FrameBytes(wave)));
     for (std::int32_t first = 1; first <= wave.Length; first += blockFrames) {
         const std::int32_t frames = std::min(wave.Length - first + 1, blockFrames);
-        const auto block = std::span(bytes).first(static_cast<std::size_t>(frames * FrameBytes(wave)));
+        const auto block =
+            std::span(bytes).first(static_cast<std::size_t>(frames) * static_cast<std::size_t>(FrameBytes(wave)));
         PackFrames(wave, first, block);
         writer.Bytes(block);
     }
