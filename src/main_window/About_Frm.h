@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "ui/BandedForm.h"
+
+namespace sprout {
+
+/// Tells what the program is, its date and where its makers are found.
+class About_Frm : public BandedForm {
+    Q_OBJECT
+
+public:
+    explicit About_Frm(QWidget* parent);
+};
+
+} // namespace sprout

@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QWidget>
+
+#include <cstdint>
+#include <functional>
+
+#include "main_window/rules/PlayIndicator.h"
+#include "main_window/rules/Stroke.h"
+#include "main_window/rules/TrackGeometry.h"
+#include "ui/ButtonScheme.h"
+
+namespace sprout {
+
+/// What the canvas asks of the window that it lies in. Each is called from an event of the user's.
+struct TrackCanvasCalls {
+    std::function<void(std::int32_t cell)> PlaySongFrom;
+    std::function<void(std::int32_t track, std::int32_t cell)> PlayTrackFrom;
+    std::function<void()> EnableTrackTitlePlayTimer; ///< a stroke begins, or a tune or audio button is hovered
+    std::function<void()> PlayOrStop;                ///< the space bar
+    std::function<void(std::string_view)> ShowCell;  ///< the text of `TrackMouPosLbl`
+    // Clicks on the buttons of the canvas.
+    std::function<void()> TrackPlayBtn, TrackDeleteBtn, TrackTuneBtn, TrackAudioBtn, TrackAddBtn, TrackAddRecBtn;
+};
+
+/// `TrackFramePic`: the song as rows. It holds the title strip (`TrackTitlePic`), the painting surface with the time
+/// band (`TrackPic`), both scroll bars, the buttons of the rows and the markers of the play position; it draws the
+/// shared song and lets the user paint it.
+class TrackCanvas : public QWidget {
+    Q_OBJECT
+
+public:
+    /// buttons: the window's; the buttons of the canvas are added to it.
+    TrackCanvas(QWidget* parent, ButtonScheme& buttons, TrackCanvasCalls calls);
+
+    void DrawTracksAll();
+    void DrawTrackOne(std::int32_t track);
+    void DrawTrackTop();
+    void HideTrackButtons();
+
+    /// The tool that presses and drags use from now on; its pointer follows.
+    void SetCurrentTool(Tool tool);
+    [[nodiscard]] Tool CurrentTool() const;
+
+    /// Track under the pointer in the title strip, 0 for none.
+    [[nodiscard]] std::int32_t HoverTrack() const;
+    [[nodiscard]] bool TrackTuneBtnVisible() const;
+    [[nodiscard]] bool TrackAudioBtnVisible() const;
+    /// Track that is painted with the brush at this moment, 0 for none.
+    [[nodiscard]] std::int32_t BrushedTrack() const;
+
+    [[nodiscard]] TrackView View() const;
+    /// Places or hides the two markers of `PlayPosImg`.
+    void ShowPlayIndicator(const PlayIndicator& indicator);
+};
+
+} // namespace sprout

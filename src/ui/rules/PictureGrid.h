@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+namespace sprout {
+
+/// Side of a grid's cell in pixels, and how far inside it the 32 x 32 picture lies.
+inline constexpr std::int32_t kGridCell = 40;
+inline constexpr std::int32_t kGridInset = 5;
+
+/// A grid of pictures, numbered from 1, row by row.
+struct PictureGrid {
+    std::int32_t columns = 1;
+    std::int32_t count = 0;    ///< pictures
+    std::int32_t topRow = 1;   ///< first row shown, from 1
+    std::int32_t heightPx = 0; ///< of the surface
+};
+
+/// Top left of a picture.
+struct GridPlace {
+    std::int32_t x = 0;
+    std::int32_t y = 0;
+    friend bool operator==(const GridPlace&, const GridPlace&) = default;
+};
+
+/// A vertical scroll bar that begins at 1.
+struct GridScroll {
+    bool enabled = false;
+    std::int32_t maximum = 1;
+    friend bool operator==(const GridScroll&, const GridScroll&) = default;
+};
+
+/// Where a picture lies, also of one that is not in view. index: from 1.
+[[nodiscard]] GridPlace PlaceInGrid(const PictureGrid& grid, std::int32_t index);
+
+/// True for the pictures that stand in the surface with their whole height.
+[[nodiscard]] bool IsInGridView(const PictureGrid& grid, std::int32_t index);
+
+/// The last picture at a point, its right and lower edges included; 0 for none. Pictures out of view count too.
+[[nodiscard]] std::int32_t HitTestGrid(const PictureGrid& grid, std::int32_t x, std::int32_t y);
+
+/// The range of the scroll bar: rows less those that fit, the last of which stays free.
+[[nodiscard]] GridScroll GridScrollRange(const PictureGrid& grid);
+
+} // namespace sprout
