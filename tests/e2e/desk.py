@@ -108,6 +108,10 @@ class Widget:
                 return row["x"] + min(row["width"] // 2, 60), row["y"] + row["height"] // 2
         return None
 
+    def overlaps(self, other):
+        return self.x < other.x + other.width and other.x < self.x + self.width and \
+            self.y < other.y + other.height and other.y < self.y + self.height
+
     @property
     def items(self):
         return [row["text"] for row in self.told.get("items", [])]
@@ -186,6 +190,21 @@ class Program:
     def click(self, name, form=None):
         self.desk.mouse.click(self.wait_for(name, form=form).middle)
 
+    def click_row(self, name, text, form=None):
+        """Clicks the row of a list, or the entry of a menu."""
+        def place():
+            rows = self.find(name, form=form)
+            return rows and rows.item(text)
+        self.desk.mouse.click(wait_for(f"'{text}' in {name}", place))
+
+    def type_into(self, name, text, form=None):
+        """Replaces the text of a box."""
+        self.click(name, form)
+        wait_for(f"the focus in {name}", lambda: self.wait_for(name, form=form).told["focus"])
+        self.desk.screen.xdotool("key", "ctrl+a")
+        self.desk.screen.xdotool("type", "--delay", 5, text)
+        self.wait_for(name, text, form)
+
     def text_of(self, name):
         return self.wait_for(name).text
 
@@ -255,12 +274,13 @@ class Desk:
     def song(self, name):
         return os.path.join(self.songs, name + ".TqSng")
 
-    def render(self, song):
-        """The frames of a song file's mix, made by the command-line tool."""
+    def render(self, song, start=None):
+        """The frames of a song file's mix, or of its part from a cell, made by the command-line tool."""
         self.renders += 1
         wave = os.path.join(self.folder, f"render{self.renders}.wav")
         tool = os.path.join(self.build, "bin", "sprout-song")
-        done = subprocess.run([tool, "render", song, wave, "--user-root", self.user_root], text=True,
+        part = ["--from", str(start)] if start else []
+        done = subprocess.run([tool, "render", song, wave, "--user-root", self.user_root, *part], text=True,
                               stderr=subprocess.PIPE, stdout=subprocess.DEVNULL, check=False)
         expect(done.returncode == 0, f"sprout-song could not render {song}: {done.stderr.strip()}")
         return read_wave(wave)
@@ -271,6 +291,10 @@ class Desk:
         told = subprocess.run([tool, "info", "--json", song, "--user-root", self.user_root], text=True,
                               stdout=subprocess.PIPE, check=True).stdout
         return json.loads(told)
+
+    def close_window(self, window):
+        """Asks a window to close, as the window manager does."""
+        self.screen.xdotool("windowquit", window.told["id"])
 
     def windows(self):
         """The numbers of all windows that the window manager knows."""

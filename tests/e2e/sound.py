@@ -109,8 +109,11 @@ class Recording:
         """Whether anything but silence was recorded."""
         return any(self.frames().strip(b"\0"))
 
-    def seconds(self):
-        return os.path.getsize(self.path) / FRAME_BYTES / RATE
+    def is_quiet(self, seconds):
+        """Whether that much silence was recorded last."""
+        size = int(seconds * RATE) * FRAME_BYTES
+        frames = self.frames()
+        return len(frames) >= size and not any(frames[-size:])
 
     def expect_wave(self, wave, seconds=15, first=True):
         """Waits until the whole wave was recorded, and holds each of its samples against the recording. wave: frames
