@@ -94,7 +94,7 @@ TEST_F(TempoBarTest, LeavesATempoOutsideTheSliderInTheSong)
     bar->UpdateTempoSliderValue();
     EXPECT_EQ(Text("TempoLbl"), QStringLiteral("200%"));
     EXPECT_EQ(Text("SngDurLbl"), QStringLiteral("24 sec"));
-    EXPECT_EQ(pointer().x() + pointer().width(), 180);
+    EXPECT_EQ(pointer().x() + pointer().width(), Control("TempoSliderImg").width());
     EXPECT_EQ(song.Tempo, 3200);
     song.Tempo = 0;
     bar->UpdateTempoSliderValue();
@@ -140,7 +140,7 @@ TEST_F(TempoBarTest, KeepsThePointerInItsSlot)
     EXPECT_EQ(pointer().x(), 0);
     EXPECT_EQ(Text("TempoLbl"), QStringLiteral("50%"));
     DragBy(900);
-    EXPECT_EQ(pointer().x() + pointer().width(), 180);
+    EXPECT_EQ(pointer().x() + pointer().width(), Control("TempoSliderImg").width());
     Release();
     EXPECT_EQ(song.Tempo, 640);
 }
