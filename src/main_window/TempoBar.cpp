@@ -25,9 +25,10 @@ namespace sprout {
 namespace {
 
 // At these widths one percent is one pixel.
-constexpr QSize kSlotSize{180, 28};
-constexpr QSize kPointerSize{30, 35};
-constexpr int kBarHeight = 36;
+constexpr QSize kSlotSize{184, 28};
+constexpr QSize kPointerSize{34, 40};
+constexpr QSize kPointerPicture{30, 35}; // inside the frame of the focus
+constexpr int kBarHeight = 40;
 constexpr int kLabelGap = 8;
 constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
@@ -112,7 +113,9 @@ protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
-        painter.drawPixmap(rect(), Artwork(QStringLiteral("pictures/TempoPrtImg"), size(), devicePixelRatioF()));
+        const QPoint inside((width() - kPointerPicture.width()) / 2, (height() - kPointerPicture.height()) / 2);
+        painter.drawPixmap(inside,
+                           Artwork(QStringLiteral("pictures/TempoPrtImg"), kPointerPicture, devicePixelRatioF()));
         if (hasFocus())
             PaintFocus(painter);
     }
