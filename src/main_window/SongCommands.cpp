@@ -37,7 +37,7 @@ void ClearHint()
 
 /// Runs a command; what goes wrong in it is told behind `firstLine`.
 template <typename Command>
-void Guarded(std::string_view firstLine, Command command)
+void RunCommand(std::string_view firstLine, Command command)
 {
     try {
         command();
@@ -108,13 +108,13 @@ bool SongCommands::ConfirmSongSave()
 bool SongCommands::ConfirmClose()
 {
     bool goesOn = false;
-    Guarded("Error Saving file", [&] { goesOn = ConfirmSongSave(); });
+    RunCommand("Error Saving file", [&] { goesOn = ConfirmSongSave(); });
     return goesOn;
 }
 
 void SongCommands::NewBtn()
 {
-    Guarded("Error making new file", [this] {
+    RunCommand("Error making new file", [this] {
         if (!ConfirmSongSave())
             return;
         ClearHint();
@@ -128,7 +128,7 @@ void SongCommands::NewBtn()
 void SongCommands::OpenBtn()
 {
     const OpeningMark mark(calls.Opening);
-    Guarded("Error Opening file", [this] {
+    RunCommand("Error Opening file", [this] {
         if (!ConfirmSongSave())
             return;
         ClearHint();
@@ -158,7 +158,7 @@ void SongCommands::OpenChosenSong()
 void SongCommands::SaveBtn()
 {
     ClearHint();
-    Guarded("Error Saving file", [this] { SaveUnderChosenName(); });
+    RunCommand("Error Saving file", [this] { SaveUnderChosenName(); });
 }
 
 void SongCommands::SaveUnderChosenName()
