@@ -13,9 +13,10 @@ constexpr std::int32_t kSmallTool = 40;
 constexpr std::int32_t kToolsApart = 6;
 constexpr std::int32_t kGroupsApart = 12;
 constexpr std::int32_t kBarMargin = 8;
-constexpr std::int32_t kLeastSong = 260;
-constexpr std::int32_t kLeastTempo = 200;
-constexpr std::int32_t kMostTempo = 400;
+constexpr std::int32_t kBarTop = 8; ///< of the tools of the one row
+constexpr std::int32_t kSongLine = 28;
+constexpr std::int32_t kTempoLine = 36;
+constexpr std::int32_t kTempoWidth = 312; ///< what the tempo bar asks for
 
 /// Sets tools side by side, from the left or towards it.
 class ToolRow {
@@ -53,13 +54,13 @@ private:
 /// Places the tools of one row, and the room that they leave.
 BarPlace OneRow(ControlBarPlaces& places, std::int32_t width)
 {
-    const ToolRow row(places, kTool, kToolsApart);
+    const ToolRow row(places, kTool, kBarTop);
     std::int32_t left = row.Group(kBarMargin, {BarTool::PlayAll, BarTool::PlayStop});
     left = row.Group(left, {BarTool::Brush, BarTool::Eraser, BarTool::PlayTool});
     std::int32_t right = row.GroupBefore(width - kBarMargin, {BarTool::Help, BarTool::About, BarTool::Demo});
     right = row.GroupBefore(right, {BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email});
     right = row.GroupBefore(right, {BarTool::SongTitleChg});
-    return {left, kToolsApart, right - left, kTool};
+    return {left, (kTool + 2 * kBarTop - kSongLine - kTempoLine) / 2, right - left, kSongLine + kTempoLine};
 }
 
 void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
@@ -74,8 +75,8 @@ void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
     const ToolRow lower(places, side, lowerTop);
     left = lower.Group(kBarMargin, {BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email});
     left = lower.Group(left, {BarTool::Help, BarTool::About, BarTool::Demo});
-    const std::int32_t tempoWidth = std::min(width - kBarMargin - left, kMostTempo);
-    places.tempo = {width - kBarMargin - tempoWidth, lowerTop, tempoWidth, side};
+    const std::int32_t tempoWidth = std::min(width - kBarMargin - left, kTempoWidth);
+    places.tempo = {width - kBarMargin - tempoWidth, lowerTop + (side - kTempoLine) / 2, tempoWidth, kTempoLine};
     places.height = 2 * side + 3 * kToolsApart;
 }
 
@@ -85,15 +86,15 @@ ControlBarPlaces PlaceControlBar(std::int32_t width)
 {
     ControlBarPlaces places;
     const BarPlace room = OneRow(places, width);
-    if (room.width >= kLeastSong) {
-        places.song = {room.left, room.top, room.width, room.height / 2};
+    if (room.width >= kTempoWidth) {
+        places.song = {room.left, room.top, room.width, kSongLine};
         places.songInOneLine = true;
-        places.tempo = {room.left, room.top + room.height / 2, std::min(room.width, kMostTempo), room.height / 2};
-        places.height = kTool + 2 * kToolsApart;
+        places.tempo = {room.left, room.top + kSongLine, kTempoWidth, kTempoLine};
+        places.height = kTool + 2 * kBarTop;
         return places;
     }
     TwoRows(places, width, kTool);
-    if (places.tempo.width < kLeastTempo)
+    if (places.tempo.width < kTempoWidth)
         TwoRows(places, width, kSmallTool);
     return places;
 }
