@@ -21,13 +21,18 @@
 
 namespace sprout {
 
+namespace fs = std::filesystem;
+
 namespace {
 
 enum class SaveAnswer { Cancel = 0, No = 1, Yes = 2 };
 
-std::filesystem::path SongFile(std::string_view title)
+/// The file of a song, one whose name differs in case if there is no other.
+fs::path PathOfSong(std::string_view title)
 {
-    return NamedFile(Shared().UserSongs, title, ".TqSng");
+    const fs::path path = NamedFile(Shared().UserSongs, title, ".TqSng");
+    const fs::path found = FindFile(path);
+    return found.empty() ? path : found;
 }
 
 void ClearHint()
@@ -100,7 +105,7 @@ bool SongCommands::ConfirmSongSave()
     ClearHint();
     if (answer != SaveAnswer::Yes)
         return answer == SaveAnswer::No;
-    OpenSaveClass().Save_Song(SongFile(song.SongTitle));
+    OpenSaveClass().Save_Song(PathOfSong(song.SongTitle));
     song.SongChanged = false;
     return true;
 }
@@ -144,7 +149,7 @@ void SongCommands::OpenChosenSong()
     chooser.ShowModal();
     if (!chooser.Ok)
         return;
-    const std::filesystem::path file = SongFile(chooser.ChosenName);
+    const fs::path file = PathOfSong(chooser.ChosenName);
     if (!FileExists(file)) {
         ShowMessage("This song is not there any more.", chooser.ChosenName);
         return;
@@ -171,7 +176,7 @@ void SongCommands::SaveUnderChosenName()
     if (!chooser.Ok)
         return;
     TitleUntilSaved title(chooser.ChosenName);
-    OpenSaveClass().Save_Song(SongFile(song.SongTitle));
+    OpenSaveClass().Save_Song(PathOfSong(song.SongTitle));
     title.Keep();
     song.SongChanged = false;
     calls.UpdateSongTitle();
