@@ -214,7 +214,7 @@ class Program:
 
 
 class Desk:
-    """Everything that a scenario needs."""
+    """Everything that a scenario needs. sound: whether there is a sound server."""
 
     def __init__(self, folder, processes, build, screen_size="1920x1080", sound=True):
         self.folder, self.processes, self.build = folder, processes, build
@@ -249,7 +249,7 @@ class Desk:
         return os.path.join(self.program_folder, "sprout-painter.ini")
 
     def environment(self, **changes):
-        environment = {**self.sound.environment, "DISPLAY": self.screen.display, "QT_QPA_PLATFORM": "xcb",
+        environment = {**self.sound.player_environment, "DISPLAY": self.screen.display, "QT_QPA_PLATFORM": "xcb",
                        "XDG_CONFIG_HOME": os.path.join(self.home, ".config"),
                        "XDG_DATA_HOME": os.path.join(self.home, ".local"),
                        "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "TMPDIR": self.temp, "LANG": "C.UTF-8",
@@ -294,7 +294,7 @@ class Desk:
 
     def close_window(self, window):
         """Asks a window to close, as the window manager does."""
-        self.screen.xdotool("windowquit", window.told["id"])
+        self.screen.xdotool("windowactivate", "--sync", window.told["id"], "key", "alt+F4")
 
     def windows(self):
         """The numbers of all windows that the window manager knows."""

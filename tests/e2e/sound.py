@@ -34,7 +34,7 @@ def read_wave(path):
 
 
 class SoundServer:
-    """A server of the test's own in a folder. Its environment is what its clients need."""
+    """A server of the test's own in a folder. Its environment is what its clients need; a player takes its own."""
 
     def __init__(self, folder, processes):
         self.processes = processes
@@ -46,14 +46,14 @@ class SoundServer:
         os.makedirs(run, mode=0o700, exist_ok=True)
         self.environment = {**os.environ, "HOME": home, "XDG_RUNTIME_DIR": run, "PULSE_RUNTIME_PATH": run,
                             "PULSE_STATE_PATH": home, "PULSE_SERVER": "unix:" + self.socket,
-                            "SDL_AUDIODRIVER": "pulseaudio",
-                            # A busy machine must not make gaps in the recording.
-                            "PULSE_LATENCY_MSEC": "150"}
+                            "SDL_AUDIODRIVER": "pulseaudio"}
         leaks = os.path.join(folder, "leaks")
         with open(leaks, "w", encoding="utf-8") as file:
             file.write("leak:libpulse\nleak:libSDL2\nleak:libdbus-1\n")
         # The libraries' own leaks are not the player's, in a build with a sanitizer.
         self.environment["LSAN_OPTIONS"] = f"suppressions={leaks}:print_suppressions=0"
+        # A busy machine must not make gaps in the recording.
+        self.player_environment = {**self.environment, "PULSE_LATENCY_MSEC": "400"}
         self.log = open(os.path.join(folder, "log"), "a", encoding="utf-8")
         self.recordings = 0
 

@@ -12,12 +12,25 @@ def wait_for_place(program, place):
     wait_for(f"the window at {place}", lambda: place_of(program.wait_for_window("MainFrm")) == place)
 
 
+FULL = (0, 0, 1920, 1080)
+NORMAL = (192, 108, 1536, 864)
+
+
+def start_in_normal_place(desk):
+    """The first start shows the window maximised; restored it stands in the middle, four fifths of the screen."""
+    program = desk.start()
+    wait_for_place(program, FULL)
+    program.click("RestoreImgBtn")
+    wait_for_place(program, NORMAL)
+    return program
+
+
 @scenario()
 def MoveAndResize(desk):
     """The title band moves the window, an edge resizes it, and the next start finds its place again."""
     give_short_song(desk)
-    program = desk.start()
-    x, y, width, height = place_of(program.wait_for_window("MainFrm"))
+    program = start_in_normal_place(desk)
+    x, y, width, height = NORMAL
     band = program.wait_for("MainTitlePic")
     grip = band.at(band.width // 2, band.height // 2)
     desk.mouse.drag([(grip[0] - step, grip[1] + step) for step in range(0, 61, 4)])
@@ -41,33 +54,30 @@ def MoveAndResize(desk):
 def MaximizeAndMinimize(desk):
     """A double click on the title band and the window's buttons do what they do in other windows."""
     give_short_song(desk)
-    program = desk.start()
-    window = program.wait_for_window("MainFrm")
-    normal = place_of(window)
-    full = (0, 0, 1920, 1080)
+    program = start_in_normal_place(desk)
+    number = program.wait_for_window("MainFrm").told["id"]
     band = program.wait_for("MainTitlePic")
     desk.mouse.click(band.middle, times=2)
-    wait_for_place(program, full)
-    expect("MAXIMIZED_VERT" in desk.screen.property("_NET_WM_STATE", window.told["id"]),
+    wait_for_place(program, FULL)
+    expect("MAXIMIZED_VERT" in desk.screen.property("_NET_WM_STATE", number),
            "the window manager does not know that the window is maximised")
     program.click("RestoreImgBtn")
-    wait_for_place(program, normal)
+    wait_for_place(program, NORMAL)
     program.click("MaximizeImgBtn")
-    wait_for_place(program, full)
+    wait_for_place(program, FULL)
     band = program.wait_for("MainTitlePic")
     desk.mouse.click(band.middle, times=2)
-    wait_for_place(program, normal)
+    wait_for_place(program, NORMAL)
     program.click("MinimizeImgBtn")
-    number = window.told["id"]
     wait_for("the minimised window", lambda: "Iconic" in desk.screen.property("WM_STATE", number))
     desk.screen.xdotool("windowactivate", number)
     wait_for("the window again", lambda: "Normal" in desk.screen.property("WM_STATE", number))
-    wait_for_place(program, normal)
+    wait_for_place(program, NORMAL)
     program.click("MaximizeImgBtn")
-    wait_for_place(program, full)
+    wait_for_place(program, FULL)
     close(program)
     program = desk.start()
-    wait_for_place(program, full)
+    wait_for_place(program, FULL)
     program.click("RestoreImgBtn")
-    wait_for_place(program, normal)
+    wait_for_place(program, NORMAL)
     close(program)

@@ -73,6 +73,7 @@ QJsonObject Told(const QWidget& widget, int window)
     told[QStringLiteral("kind")] = QLatin1String(widget.metaObject()->className());
     told[QStringLiteral("window")] = window;
     told[QStringLiteral("enabled")] = widget.isEnabled();
+    told[QStringLiteral("whole")] = widget.visibleRegion().boundingRect() == widget.rect();
     told[QStringLiteral("focus")] = widget.hasFocus();
     told[QStringLiteral("text")] = TextOf(widget);
     told[QStringLiteral("spoken")] = widget.accessibleName();
@@ -96,7 +97,7 @@ QJsonObject WidgetReport()
         told[QStringLiteral("id")] = static_cast<qint64>(window->effectiveWinId());
         widgets.append(told);
         for (const QWidget* part : window->findChildren<QWidget*>())
-            if (part->isVisible() && part->window() == window)
+            if (!part->visibleRegion().isEmpty() && part->window() == window)
                 widgets.append(Told(*part, number));
         ++number;
     }
