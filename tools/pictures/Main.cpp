@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+#include "SongWindowSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
@@ -314,6 +315,7 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
+    sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
     return 0;
 }
