@@ -26,6 +26,7 @@
 #include "tunes/TunOpnSavClass.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
+#include "ui/Guarded.h"
 #include "ui/HelpFrm.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
@@ -85,7 +86,7 @@ void TuneFrm2::MakeGrid()
     Watcher().Watch(*ShowAllPic, kGridHint);
     Watcher().Watch(ShowAllPic->BlinkSelectImg(), kFrameHint);
     connect(ShowAllPic, &PictureGridPic::Pressed, this, [this](int index, Qt::MouseButton button, QPoint at) {
-        Run([=, this] { ChooseTune(index, button, at); });
+        Guarded([=, this] { ChooseTune(index, button, at); });
     });
 }
 
@@ -94,7 +95,7 @@ void TuneFrm2::MakeChosenTune()
     TunePic = new TunePicture(this);
     TunePic->setObjectName(QStringLiteral("TunePic"));
     Watcher().Watch(*TunePic, "That shows the selected tune");
-    connect(TunePic, &QAbstractButton::clicked, this, [this] { Run([this] { TunePicClick(); }); });
+    connect(TunePic, &QAbstractButton::clicked, this, [this] { Guarded([this] { TunePicClick(); }); });
     TuneNameLbl = &AddLabel("TuneNameLbl");
     TuneNameLbl->setFont(TitleFont());
     Watcher().Watch(*TuneNameLbl, "That shows the name of the selected tune");
@@ -123,7 +124,7 @@ void TuneFrm2::MakeButtons()
             &TuneFrm2::CancelBtn},
     };
     for (const CommandRow& row : rows)
-        AddWordButton(row.button, [this, command = row.command] { Run([this, command] { (this->*command)(); }); });
+        AddWordButton(row.button, [this, command = row.command] { Guarded([this, command] { (this->*command)(); }); });
 }
 
 void TuneFrm2::MakeEditor()
@@ -141,7 +142,7 @@ void TuneFrm2::MakeMoveMnu()
         MoveMnu[i] = PopPosiMnu->addAction(QString::fromLatin1(captions[i]));
         MoveMnu[i]->setObjectName(QStringLiteral("MoveMnu%1").arg(i));
         connect(MoveMnu[i], &QAction::triggered, this, [this, i] {
-            Run([this, i] { i == kDeleteItem ? DeleteTune() : MoveTune(static_cast<TuneMove>(i)); });
+            Guarded([this, i] { i == kDeleteItem ? DeleteTune() : MoveTune(static_cast<TuneMove>(i)); });
         });
     }
     PopPosiMnu->insertSeparator(MoveMnu[kDeleteItem]);
@@ -180,21 +181,12 @@ void TuneFrm2::FitTo(QSize room)
     Place(*editor, plan.editor);
 }
 
-void TuneFrm2::Run(const std::function<void()>& command)
-{
-    try {
-        command();
-    } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("", ErrorText(error));
-    }
-}
-
 void TuneFrm2::Open()
 {
     FitTo(screen()->availableGeometry().size());
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
-    Run([this] { FindChosenTune(); });
+    Guarded([this] { FindChosenTune(); });
     ShowAllPic->setFocus();
     ShowModal();
 }
@@ -498,16 +490,18 @@ void TuneFrm2::CancelBtn()
 
 void TuneFrm2::reject()
 {
-    Run([this] { CancelBtn(); });
+    Guarded([this] { CancelBtn(); });
 }
 
 void TuneFrm2::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
     case Qt::Key_F1:
-        return Run([this] { HelpBtn(); });
+        Guarded([this] { HelpBtn(); });
+        break;
     case Qt::Key_Space:
-        return Run([this] { TestPlayBtn(); });
+        Guarded([this] { TestPlayBtn(); });
+        break;
     default:
         BandedForm::keyPressEvent(event);
     }
@@ -518,7 +512,7 @@ bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
     // In the grid the blank hears the tune as it stands now, edits and all.
     if (watched == ShowAllPic && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
-        Run([this] { TestPlayBtn(); });
+        Guarded([this] { TestPlayBtn(); });
         return true;
     }
     return BandedForm::eventFilter(watched, event);
