@@ -21,6 +21,7 @@
 #include "tune_window/TuneNameFrm.h"
 #include "tune_window/TunePicture.h"
 #include "tune_window/rules/ChosenTune.h"
+#include "tune_window/rules/RandomTune.h"
 #include "tune_window/rules/TuneWindowPlan.h"
 #include "tunes/BeatFiles.h"
 #include "tunes/TunOpnSavClass.h"
@@ -375,8 +376,10 @@ void TuneFrm2::RndTuneBtn()
 {
     Player().StopPlay();
     editor->HidePlayMarks();
+    const RandomSequence next = RandomSequence::FromClock();
     SelectedTune = -1;
     RefreshShowAllPic();
+    MakeRandomTune(Shared().CurrentTune, next);
     TuneChanged = true;
     UpdateThisTune();
     editor->PlayCurrentTune(0);
