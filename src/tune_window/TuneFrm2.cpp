@@ -498,16 +498,10 @@ void TuneFrm2::reject()
 
 void TuneFrm2::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_F1:
-        Guarded([this] { HelpBtn(); });
-        break;
-    case Qt::Key_Space:
+    if (event->key() == Qt::Key_Space)
         Guarded([this] { TestPlayBtn(); });
-        break;
-    default:
+    else
         BandedForm::keyPressEvent(event);
-    }
 }
 
 bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
