@@ -21,6 +21,7 @@
 #include "tune_window/TuneNameFrm.h"
 #include "tune_window/TunePicture.h"
 #include "tune_window/rules/ChosenTune.h"
+#include "tune_window/rules/RandomTune.h"
 #include "tune_window/rules/TuneWindowPlan.h"
 #include "tunes/BeatFiles.h"
 #include "tunes/TunOpnSavClass.h"
@@ -375,8 +376,10 @@ void TuneFrm2::RndTuneBtn()
 {
     Player().StopPlay();
     editor->HidePlayMarks();
+    const RandomSequence next = RandomSequence::FromClock();
     SelectedTune = -1;
     RefreshShowAllPic();
+    MakeRandomTune(Shared().CurrentTune, next);
     TuneChanged = true;
     UpdateThisTune();
     editor->PlayCurrentTune(0);
@@ -495,16 +498,10 @@ void TuneFrm2::reject()
 
 void TuneFrm2::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_F1:
-        Guarded([this] { HelpBtn(); });
-        break;
-    case Qt::Key_Space:
+    if (event->key() == Qt::Key_Space)
         Guarded([this] { TestPlayBtn(); });
-        break;
-    default:
+    else
         BandedForm::keyPressEvent(event);
-    }
 }
 
 bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
