@@ -11,7 +11,7 @@
 #include <functional>
 #include <memory>
 
-#include "SongWindowSheets.h"
+#include "StepEditorSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
@@ -317,5 +317,6 @@ int main(int argc, char** argv)
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
     return 0;
 }
