@@ -11,8 +11,8 @@
 #include <functional>
 #include <memory>
 
-#include "StepEditorSheets.h"
-#include "TuneWindowSheets.h"
+#include "BeatWindowSheets.h"
+#include "SongWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Look.h"
@@ -316,7 +316,6 @@ int main(int argc, char** argv)
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
-    sprout::DrawTuneWindowSheets(folder);
-    sprout::DrawStepEditorSheets(folder);
+    sprout::DrawBeatWindowSheets(folder);
     return 0;
 }
