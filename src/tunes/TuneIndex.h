@@ -24,7 +24,7 @@ public:
     /// The place of a name, in any letter case; `kNoPlace` where it has none.
     [[nodiscard]] std::int32_t Place(std::string_view name) const;
 
-    /// Gives the names the places 1, 2, ...; other names keep theirs.
+    /// Gives the names the places 1, 2, ...; other names keep theirs. The place of a blank name stays free.
     void SetOrder(std::span<const std::string> names);
 
     /// Writes the order back, keeping whatever else the file holds. A failure is silent, as in a read-only folder.
