@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+#include "SongWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Look.h"
@@ -313,5 +314,6 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
+    sprout::DrawSongWindowSheets(folder);
     return 0;
 }
