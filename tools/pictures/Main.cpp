@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+#include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
@@ -315,5 +316,6 @@ int main(int argc, char** argv)
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
+    sprout::DrawBeatWindowSheets(folder);
     return 0;
 }
