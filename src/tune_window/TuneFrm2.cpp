@@ -161,9 +161,8 @@ void TuneFrm2::SetTabOrders()
     setTabOrder(before, editor);
 }
 
-void TuneFrm2::FitToScreen()
+void TuneFrm2::FitTo(QSize room)
 {
-    const QSize room = screen()->availableGeometry().size();
     const QSize gridFrame = PictureGridPic::FrameSize(kTuneColumns, 0);
     const TuneWindowPlan plan =
         PlanTuneWindow({room.width(), room.height(), kBandHeight, gridFrame.width(), gridFrame.height(),
@@ -192,7 +191,7 @@ void TuneFrm2::Run(const std::function<void()>& command)
 
 void TuneFrm2::Open()
 {
-    FitToScreen();
+    FitTo(screen()->availableGeometry().size());
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
     Run([this] { FindChosenTune(); });
@@ -203,9 +202,11 @@ void TuneFrm2::Open()
 void TuneFrm2::TakeTuneTable()
 {
     std::vector<GridEntry> entries;
-    entries.reserve(Shared().TuneTable.size());
-    for (const Tune& tune : Shared().TuneTable)
+    entries.reserve(static_cast<std::size_t>(Shared().TuneTableCount));
+    for (std::int32_t i = 1; i <= Shared().TuneTableCount; ++i) {
+        const Tune& tune = At(Shared().TuneTable, i);
         entries.push_back({tune.Picture, tune.Name, IsOriginalTune(tune)});
+    }
     ShowAllPic->SetEntries(entries);
 }
 
@@ -247,8 +248,7 @@ void TuneFrm2::ShowNoTunes()
                           QStringLiteral(" Please reinstall the software.")});
     ShowAllPic->SetSelected(0);
     ShowAllPic->RefreshShowAllPic();
-    TunePic->SetPicture({});
-    SetFittingText(*TuneNameLbl, QStringLiteral("[none]"));
+    ShowTune("[none]", "", {});
 }
 
 void TuneFrm2::ShowSelectedTune()

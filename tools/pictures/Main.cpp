@@ -13,6 +13,8 @@
 
 #include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
+#include "StepEditorSheets.h"
+#include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Look.h"
@@ -317,5 +319,7 @@ int main(int argc, char** argv)
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
     return 0;
 }
