@@ -317,9 +317,9 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
-    sprout::DrawSongWindowSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
-    sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawSongWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
     return 0;
 }
