@@ -13,6 +13,8 @@
 
 #include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
+#include "StepEditorSheets.h"
+#include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Look.h"
@@ -315,7 +317,9 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
-    sprout::DrawSongWindowSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
+    sprout::DrawSongWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
     return 0;
 }
