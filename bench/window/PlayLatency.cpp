@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_window_bench: milliseconds from the call of `PlayAllBtn` until the device takes the first frame, and the
+// sprout_play_bench: milliseconds from the call of `PlayAllBtn` until the device takes the first frame, and the
 // processor time of the program at rest. It plays on the sound output that the environment names.
 #include <sys/resource.h>
 

@@ -5,7 +5,7 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -37,6 +37,9 @@ public:
     /// Fits the window to its screen and shows it modally, scrolled to its first tunes.
     void Open();
 
+    /// Sizes the window for a screen with this much room.
+    void FitTo(QSize room);
+
     /// Selects the tune of the name `ChosenTuneName`, or none, and draws the grid.
     void FindChosenTune();
 
@@ -66,14 +69,9 @@ private:
     void MakeEditor();
     void MakeMoveMnu();
     void SetTabOrders();
-    void FitToScreen();
-
-    /// Runs a command; an error of it is told.
-    void Run(const std::function<void()>& command);
 
     void ChooseFirstTune();
     void ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at);
-    void HoverTune();
     void PlaySelectedTune();
     void ShowNoTunes();
     void ShowSelectedTune();
