@@ -69,10 +69,16 @@ TrackSurface::TrackSurface(const char* name, const QColor& backColour, QWidget* 
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+QSize TrackSurface::DevicePixels() const
+{
+    // In a window of the least height nothing of the surface is left, and a picture of no pixels cannot be drawn on.
+    return (QSizeF(size()) * ratio).toSize().expandedTo({1, 1});
+}
+
 void TrackSurface::Clear()
 {
     ratio = devicePixelRatioF();
-    const QSize devicePixels = (QSizeF(size()) * ratio).toSize();
+    const QSize devicePixels = DevicePixels();
     if (kept.size() != devicePixels)
         kept = QPixmap(devicePixels);
     kept.fill(back);
@@ -81,7 +87,7 @@ void TrackSurface::Clear()
 
 bool TrackSurface::IsStale() const
 {
-    return ratio != devicePixelRatioF() || kept.size() != (QSizeF(size()) * ratio).toSize();
+    return ratio != devicePixelRatioF() || kept.size() != DevicePixels();
 }
 
 void TrackSurface::paintEvent(QPaintEvent* event)
