@@ -208,7 +208,9 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 
 void ImageButton::focusInEvent(QFocusEvent* event)
 {
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+    const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    // A dialog that appears sends this event too, before it has the focus; the hint then is that of its question.
+    if (byTab && hasFocus())
         ShowHint(hint);
     QAbstractButton::focusInEvent(event);
 }
