@@ -249,7 +249,7 @@ TEST_F(SongCommandsTest, NothingBlinksWhileASongIsChosen)
         QCoreApplication::processEvents();
     };
     PutSong("Rain", kQuickTempo);
-    const auto isBlank = [] { return At(Song().Tracks, 1).TrackTune.Picture == Shared().BlankPic; };
+    const auto isBlank = [] { return SamePicture(At(Song().Tracks, 1).TrackTune.Picture, Shared().BlankPic); };
     ASSERT_TRUE(isBlank());
     bool blankInside = false;
     WithNextForm([&](BandedForm& form) {

@@ -41,14 +41,14 @@ TEST(PlaceControlBar, StandsInOneRowWhereTitleAndTempoFindRoom)
     EXPECT_EQ(PlaceOf(places, BarTool::PlayStop), (BarPlace{70, 8, 56, 56}));
     EXPECT_EQ(PlaceOf(places, BarTool::Brush), (BarPlace{138, 8, 56, 56}));
     EXPECT_EQ(PlaceOf(places, BarTool::PlayTool), (BarPlace{262, 8, 56, 56}));
-    EXPECT_EQ(places.song, (BarPlace{330, 4, 344, 28}));
+    EXPECT_EQ(places.song, (BarPlace{330, 4, 348, 28}));
     EXPECT_TRUE(places.songInOneLine);
     EXPECT_EQ(places.tempo, (BarPlace{330, 32, 312, 36}));
-    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{686, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{754, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Email), (BarPlace{940, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Help), (BarPlace{1008, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{1132, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{690, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{758, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Email), (BarPlace{944, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Help), (BarPlace{1012, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{1136, 8, 56, 56}));
 }
 
 TEST(PlaceControlBar, WrapsToTwoRows)
@@ -60,7 +60,7 @@ TEST(PlaceControlBar, WrapsToTwoRows)
     EXPECT_EQ(places.song, (BarPlace{330, 6, 382, 56}));
     EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{724, 6, 56, 56}));
     EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{8, 68, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{392, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{386, 68, 56, 56}));
     EXPECT_EQ(places.tempo, (BarPlace{468, 78, 312, 36}));
 }
 
@@ -69,9 +69,9 @@ TEST(PlaceControlBar, HasSmallerToolsInTheNarrowestWindow)
     const ControlBarPlaces places = PlaceControlBar(521);
     EXPECT_EQ(places.height, 98);
     EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 6, 40, 40}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{296, 52, 40, 40}));
-    EXPECT_EQ(places.tempo.left, 348);
-    EXPECT_EQ(places.tempo.width, 165);
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{290, 52, 40, 40}));
+    EXPECT_EQ(places.tempo.left, 342);
+    EXPECT_EQ(places.tempo.width, 171);
 }
 
 TEST(PlaceControlBar, KeepsTargetsApartAndInsideTheBarAtEveryWidth)
