@@ -463,10 +463,10 @@ TEST_F(TuneFrm2Test, HelpButtonAndF1OpenTheHelp)
     Open([&help](TuneFrm2& window) {
         Click(window, "HelpBtn");
         ASSERT_TRUE(help());
-        help()->hide();
+        delete help();
         QTest::keyClick(&GridOf(window), Qt::Key_F1);
         ASSERT_TRUE(help());
-        help()->hide();
+        delete help();
     });
 }
 
@@ -483,8 +483,9 @@ TEST_F(TuneFrm2Test, ControlsTellWhatTheyAreFor)
     Open([&](TuneFrm2& window) {
         for (const auto& [name, hint] : hints) {
             auto& part = PartOf(window, name);
-            QTest::mouseMove(&part, QPoint(8, 8));
-            QTest::mouseMove(&part, QPoint(9, 9));
+            const QPoint corner = part.rect().bottomRight();
+            QTest::mouseMove(&part, corner - QPoint(4, 4));
+            QTest::mouseMove(&part, corner - QPoint(5, 5));
             EXPECT_EQ(statusLbl.text().toStdString(), hint) << name;
             EXPECT_EQ(part.accessibleDescription().toStdString(), hint) << name;
         }

@@ -87,12 +87,18 @@ protected:
 
     ~TuneWindowTest() override
     {
-        const auto windows = QApplication::topLevelWidgets();
-        for (QWidget* window : windows)
-            if (qobject_cast<TuneFrm2*>(window))
-                delete window;
+        delete TheWindow();
         ReleasePlayer();
         PlayShared() = PlayModState();
+    }
+
+    /// The tune window, if it was opened; with it go the windows that belong to it.
+    static QWidget* TheWindow()
+    {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (qobject_cast<TuneFrm2*>(window))
+                return window;
+        return nullptr;
     }
 
     /// Opens the window for `tune`, runs `steps`, and cancels it if they left it open.
