@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+#include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
@@ -317,5 +318,6 @@ int main(int argc, char** argv)
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawBeatWindowSheets(folder);
     return 0;
 }
