@@ -21,11 +21,13 @@
 #include "tune_window/TuneNameFrm.h"
 #include "tune_window/TunePicture.h"
 #include "tune_window/rules/ChosenTune.h"
+#include "tune_window/rules/RandomTune.h"
 #include "tune_window/rules/TuneWindowPlan.h"
 #include "tunes/BeatFiles.h"
 #include "tunes/TunOpnSavClass.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
+#include "ui/Guarded.h"
 #include "ui/HelpFrm.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
@@ -85,7 +87,7 @@ void TuneFrm2::MakeGrid()
     Watcher().Watch(*ShowAllPic, kGridHint);
     Watcher().Watch(ShowAllPic->BlinkSelectImg(), kFrameHint);
     connect(ShowAllPic, &PictureGridPic::Pressed, this, [this](int index, Qt::MouseButton button, QPoint at) {
-        Run([=, this] { ChooseTune(index, button, at); });
+        Guarded([=, this] { ChooseTune(index, button, at); });
     });
 }
 
@@ -94,7 +96,7 @@ void TuneFrm2::MakeChosenTune()
     TunePic = new TunePicture(this);
     TunePic->setObjectName(QStringLiteral("TunePic"));
     Watcher().Watch(*TunePic, "That shows the selected tune");
-    connect(TunePic, &QAbstractButton::clicked, this, [this] { Run([this] { TunePicClick(); }); });
+    connect(TunePic, &QAbstractButton::clicked, this, [this] { Guarded([this] { TunePicClick(); }); });
     TuneNameLbl = &AddLabel("TuneNameLbl");
     TuneNameLbl->setFont(TitleFont());
     Watcher().Watch(*TuneNameLbl, "That shows the name of the selected tune");
@@ -123,7 +125,7 @@ void TuneFrm2::MakeButtons()
             &TuneFrm2::CancelBtn},
     };
     for (const CommandRow& row : rows)
-        AddWordButton(row.button, [this, command = row.command] { Run([this, command] { (this->*command)(); }); });
+        AddWordButton(row.button, [this, command = row.command] { Guarded([this, command] { (this->*command)(); }); });
 }
 
 void TuneFrm2::MakeEditor()
@@ -141,7 +143,7 @@ void TuneFrm2::MakeMoveMnu()
         MoveMnu[i] = PopPosiMnu->addAction(QString::fromLatin1(captions[i]));
         MoveMnu[i]->setObjectName(QStringLiteral("MoveMnu%1").arg(i));
         connect(MoveMnu[i], &QAction::triggered, this, [this, i] {
-            Run([this, i] { i == kDeleteItem ? DeleteTune() : MoveTune(static_cast<TuneMove>(i)); });
+            Guarded([this, i] { i == kDeleteItem ? DeleteTune() : MoveTune(static_cast<TuneMove>(i)); });
         });
     }
     PopPosiMnu->insertSeparator(MoveMnu[kDeleteItem]);
@@ -180,21 +182,12 @@ void TuneFrm2::FitTo(QSize room)
     Place(*editor, plan.editor);
 }
 
-void TuneFrm2::Run(const std::function<void()>& command)
-{
-    try {
-        command();
-    } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("", ErrorText(error));
-    }
-}
-
 void TuneFrm2::Open()
 {
     FitTo(screen()->availableGeometry().size());
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
-    Run([this] { FindChosenTune(); });
+    Guarded([this] { FindChosenTune(); });
     ShowAllPic->setFocus();
     ShowModal();
 }
@@ -383,8 +376,10 @@ void TuneFrm2::RndTuneBtn()
 {
     Player().StopPlay();
     editor->HidePlayMarks();
+    const RandomSequence next = RandomSequence::FromClock();
     SelectedTune = -1;
     RefreshShowAllPic();
+    MakeRandomTune(Shared().CurrentTune, next);
     TuneChanged = true;
     UpdateThisTune();
     editor->PlayCurrentTune(0);
@@ -498,19 +493,15 @@ void TuneFrm2::CancelBtn()
 
 void TuneFrm2::reject()
 {
-    Run([this] { CancelBtn(); });
+    Guarded([this] { CancelBtn(); });
 }
 
 void TuneFrm2::keyPressEvent(QKeyEvent* event)
 {
-    switch (event->key()) {
-    case Qt::Key_F1:
-        return Run([this] { HelpBtn(); });
-    case Qt::Key_Space:
-        return Run([this] { TestPlayBtn(); });
-    default:
+    if (event->key() == Qt::Key_Space)
+        Guarded([this] { TestPlayBtn(); });
+    else
         BandedForm::keyPressEvent(event);
-    }
 }
 
 bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
@@ -518,7 +509,7 @@ bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
     // In the grid the blank hears the tune as it stands now, edits and all.
     if (watched == ShowAllPic && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
-        Run([this] { TestPlayBtn(); });
+        Guarded([this] { TestPlayBtn(); });
         return true;
     }
     return BandedForm::eventFilter(watched, event);

@@ -5,7 +5,7 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
+#include <filesystem>
 #include <optional>
 #include <string>
 
@@ -69,9 +69,6 @@ private:
     void MakeEditor();
     void MakeMoveMnu();
     void SetTabOrders();
-
-    /// Runs a command; an error of it is told.
-    void Run(const std::function<void()>& command);
 
     void ChooseFirstTune();
     void ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at);

@@ -234,11 +234,13 @@ void PictureGridPic::PaintLines(QPainter& painter) const
     painter.setFont(LabelFont());
     painter.setPen(kBark);
     const int room = width() - 2 * kLineLeft;
-    int top = kGridInset;
+    const int inset = kGridInset / 2;
+    const int lineHeight = std::min(kLineHeight, (height() - 2 * inset) / std::max(1, static_cast<int>(lines.size())));
+    int top = inset;
     for (const QString& line : lines) {
-        painter.drawText(QRect(kLineLeft, top, room, kLineHeight), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(QRect(kLineLeft, top, room, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          painter.fontMetrics().elidedText(line, Qt::ElideMiddle, room));
-        top += kLineHeight;
+        top += lineHeight;
     }
 }
 

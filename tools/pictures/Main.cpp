@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "StepEditorSheets.h"
+#include "SongWindowSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
@@ -315,6 +316,7 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
+    sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
     return 0;
