@@ -23,6 +23,7 @@ constexpr int kLinesLeft = kSproutLeft + kSproutSide + 18;
 constexpr int kLinesTop = 18;
 constexpr int kLinesApart = 6;
 constexpr int kRightMargin = 24;
+constexpr int kLinkInset = 6; ///< its border and padding
 
 constexpr std::string_view kLinkStyle =
     "QPushButton { color: #1F6FA8; background: transparent; border: 2px solid transparent; border-radius: 6px;"
@@ -73,7 +74,7 @@ void About_Frm::PlaceLines()
     int widest = 0;
     for (QWidget* line : lines) {
         line->adjustSize();
-        line->move(BodyPoint(kLinesLeft, top));
+        line->move(BodyPoint(qobject_cast<QPushButton*>(line) ? kLinesLeft - kLinkInset : kLinesLeft, top));
         top += line->height() + kLinesApart;
         widest = std::max(widest, line->width());
     }

@@ -27,7 +27,7 @@ namespace sprout {
 namespace {
 
 constexpr int kMargin = 16;
-constexpr int kListWidth = 336;
+constexpr int kListWidth = 360;
 constexpr int kLabelHeight = 24;
 constexpr int kNameBoxHeight = 34;
 constexpr int kModePicSide = 34;
@@ -152,13 +152,13 @@ void SongSelFrm::PlaceControls()
     ListTitleLbl->setGeometry({BodyPoint(kMargin + kModePicSide + 2, layout.ListTitleTop),
                                QSize(kListWidth - kModePicSide - 2, kLabelHeight)});
     SngNmLst->setGeometry({BodyPoint(kMargin, layout.ListTop), QSize(kListWidth, layout.ListHeight)});
-    PlaceColumn(layout.ListTop);
+    PlaceColumn(layout.ListTop, listBottom);
     if (layout.HasNameBox)
         PlaceNameBox(listBottom + 6);
     PlaceRow(layout.HasNameBox ? listBottom + 6 + kLabelHeight + kNameBoxHeight + 16 : listBottom + 14);
 }
 
-void SongSelFrm::PlaceColumn(int top)
+void SongSelFrm::PlaceColumn(int top, int bottom)
 {
     int columnWidth = 0;
     for (const ImageButton* button : columnButtons)
@@ -167,6 +167,8 @@ void SongSelFrm::PlaceColumn(int top)
         button->setGeometry({BodyPoint(2 * kMargin + kListWidth, top), QSize(columnWidth, button->height())});
         top += button->height() + kColumnGap;
     }
+    ImageButton& helpBtn = *columnButtons.back();
+    helpBtn.move(helpBtn.x(), kBandHeight + bottom - helpBtn.height());
     resize(3 * kMargin + kListWidth + columnWidth, height());
 }
 

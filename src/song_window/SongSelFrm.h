@@ -44,7 +44,7 @@ private:
     void PlaceControls();
     void PlaceNameBox(int top);
     void PlaceRow(int top);
-    void PlaceColumn(int top);
+    void PlaceColumn(int top, int bottom);
 
     void LoadSongNames();
     [[nodiscard]] int SelectedRow() const;

@@ -11,6 +11,7 @@ namespace sprout {
 namespace {
 
 constexpr qreal kGlyphShare = 0.86;
+constexpr qreal kGlyphShareOfWord = 0.6;
 constexpr int kPageMargin = 12;
 
 /// The number or the two numbers behind a picture's name.
@@ -40,6 +41,19 @@ QPixmap OnToolPlate(const QString& button, QSize size, qreal pixelRatio)
     return picture;
 }
 
+/// name: of the glyph and its plate's colour, "WordCopy-1F6FA8".
+QPixmap OnWordPlate(const QString& name, QSize size, qreal pixelRatio)
+{
+    const QStringList parts = name.split(QLatin1Char('-'));
+    QPixmap picture =
+        Artwork(QStringLiteral("plates/WordNormal"), size, pixelRatio, QColor(QLatin1Char('#') + parts.back()));
+    const QSize room = (QSizeF(size) * kGlyphShareOfWord).toSize();
+    QPainter painter(&picture);
+    painter.drawPixmap((size.width() - room.width()) / 2, (size.height() - room.height()) / 2,
+                       Artwork(QStringLiteral("buttons/") + parts.front(), room, pixelRatio));
+    return picture;
+}
+
 } // namespace
 
 HelpBook::HelpBook(QWidget* parent) : QTextBrowser(parent)
@@ -65,6 +79,8 @@ QPixmap HelpBook::PageArtwork(const QUrl& name) const
         return Artwork(name.path(), SizeOf(name), devicePixelRatioF());
     if (name.scheme() == QStringLiteral("tool"))
         return OnToolPlate(name.path(), SizeOf(name), devicePixelRatioF());
+    if (name.scheme() == QStringLiteral("word"))
+        return OnWordPlate(name.path(), SizeOf(name), devicePixelRatioF());
     return {};
 }
 

@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "StepEditorSheets.h"
+#include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
@@ -319,5 +320,6 @@ int main(int argc, char** argv)
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
+    sprout::DrawBeatWindowSheets(folder);
     return 0;
 }
