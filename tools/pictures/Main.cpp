@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+#include "StepEditorSheets.h"
 #include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "TuneWindowSheets.h"
@@ -318,6 +319,7 @@ int main(int argc, char** argv)
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
     return 0;
 }
