@@ -146,6 +146,8 @@ MainFrm::MainFrm(TransportCommands& transport)
     processPic = new ProcessPic(this);
     new HelpKey(this);
     ChooseTool(Tool::Brush);
+    // Space plays and the arrows scroll until another control is chosen.
+    findChild<QWidget*>(QStringLiteral("TrackPic"))->setFocus();
     TakePlaceFromSettings();
     ShowWindowButtons();
 }
@@ -170,6 +172,7 @@ void MainFrm::MakeControlBar()
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
         controlBar->AddTool(static_cast<BarTool>(tool), buttons.Button(Rows()[tool].name));
     connect(controlBar, &ControlBar::SongTitleDoubleClicked, this, [this] { songCommands.SongTitleChgBtn(); });
+    connect(controlBar, &ControlBar::TempoChanged, this, [this] { canvas->DrawTrackTop(); });
 }
 
 void MainFrm::MakeCanvas()

@@ -90,20 +90,21 @@ void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
     const QRect background(0, rowTop + kBackgroundTop, width(), kBackgroundHeight);
     SurfacePainter painter = Painter();
     painter.Tile(background, TrackBlankPic(look.trackType, PixelRatio()));
+    const QPixmap tile = TrackDrawnPic(look.tile, PixelRatio());
     for (const PaintedRun& run : look.runs)
-        PaintRun(painter, run, look, rowTop);
+        PaintRun(painter, run, look.cycle, tile, rowTop);
     if (!look.painted)
         painter.Write(kUnpaintedTextAt.x(), rowTop + kUnpaintedTextAt.y(), LabelFont(),
                       tr("Please paint on this track to play with others."));
     update(background);
 }
 
-void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, const RowLook& look, std::int32_t rowTop) const
+void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
+                        std::int32_t rowTop) const
 {
-    const QPixmap tile = TrackDrawnPic(look.tile, PixelRatio());
     for (const TilePlace& place : RunTiles(run, view, kTileWidth))
         painter.Lay(QRect(place.x, rowTop + kPaintTop, place.width, kPaintHeight), tile);
-    for (const PixelRect& mark : RunMarks(run, look.cycle, view, rowTop))
+    for (const PixelRect& mark : RunMarks(run, cycle, view, rowTop))
         painter.Fill(QRect(mark.x, mark.y, mark.width, mark.height), Qt::black);
 }
 
