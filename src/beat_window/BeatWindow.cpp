@@ -29,8 +29,8 @@ constexpr int kNoteTop = 8;
 constexpr int kNoteHeight = 26;
 constexpr int kGap = 8;
 constexpr int kRowGap = 12;
-constexpr int kNameHeight = 44; // two lines
-constexpr int kDurationHeight = 22;
+constexpr int kNameHeight = 48; // two lines
+constexpr int kDurationHeight = 46;
 
 constexpr std::string_view kNote = "Click on a picture to choose a beat";
 constexpr std::string_view kSelectHint = "Click on a picture to select a beat";
@@ -73,13 +73,11 @@ BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
 void BeatWindow::MakeLabels()
 {
     NoteLbl = &AddLabel("NoteLbl");
-    NmLbl = &AddLabel("NmLbl");
+    NmLbl = new NameLabel(this);
+    NmLbl->setObjectName(QStringLiteral("NmLbl"));
     DurLbl = &AddLabel("DurLbl");
-    NmLbl->setFont(ButtonFont());
-    for (QLabel* label : {NmLbl, DurLbl}) {
-        label->setWordWrap(true);
-        label->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
-    }
+    DurLbl->setWordWrap(true);
+    DurLbl->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
 }
 
 void BeatWindow::MakeGrid()
@@ -103,7 +101,7 @@ void BeatWindow::MakeButtons()
                            [this] { Guarded([this] { ClickOk(); }); });
     CancelBtn = &AddWordButton({"CancelBtn", "Cancel", "", Plate::Word, kStone}, [this] { reject(); });
     TestPlayBtn = &AddWordButton(
-        {"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "PlayToolBtn"},
+        {"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "TrackPlayBtn"},
         [this] { Guarded([this] { ClickPlay(); }); });
     columnButtons = {
         &AddWordButton({"AddBtn", "Add", "Adds more beats with your wav file", Plate::Word, kLink, "WordAdd"},
@@ -112,8 +110,8 @@ void BeatWindow::MakeButtons()
                        [this] { Try("Error renaming beat", &BeatWindow::RenameBeat); }),
         &AddWordButton(
             {"DeleteBtn", "Delete", "This button will deletes the selected beat", Plate::Word, kCoral, "WordDelete"},
-            [this] { Try("Error deleting beat", &BeatWindow::DeleteBeat); }),
-        &AddWordButton({"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, [this] { ClickHelp(); })};
+            [this] { Try("Error deleting beat", &BeatWindow::DeleteBeat); })};
+    HelpBtn = &AddWordButton({"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, [this] { ClickHelp(); });
 }
 
 void BeatWindow::MakeMoveMnu()
@@ -132,32 +130,40 @@ void BeatWindow::PlaceControls()
     const int gridTop = kNoteTop + kNoteHeight + kGap / 2;
     const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kMargin, gridTop), kGridRows);
     NoteLbl->setGeometry({BodyPoint(kMargin, kNoteTop), QSize(grid.width(), kNoteHeight)});
-    PlaceColumn(grid.right() + 1 + kMargin, gridTop);
-    const int rowTop = gridTop + grid.height() + kRowGap;
-    OkBtn->move(BodyPoint(kMargin, rowTop));
-    CancelBtn->move(BodyPoint(kMargin + OkBtn->width() + kRowGap, rowTop));
-    resize(width(), kBandHeight + rowTop + OkBtn->height() + kRowGap);
-}
-
-void BeatWindow::PlaceColumn(int left, int top)
-{
     int columnWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
     for (const ImageButton* button : columnButtons)
         columnWidth = std::max(columnWidth, button->sizeHint().width());
-    const int spare = columnWidth - ChoosenPic->width() - kGap - TestPlayBtn->width();
-    ChoosenPic->move(BodyPoint(left + spare / 2, top));
-    TestPlayBtn->move(
-        BodyPoint(left + spare / 2 + ChoosenPic->width() + kGap, top + ChoosenPic->height() - TestPlayBtn->height()));
-    top += ChoosenPic->height() + kGap / 2;
-    NmLbl->setGeometry({BodyPoint(left, top), QSize(columnWidth, kNameHeight)});
-    top += kNameHeight;
-    DurLbl->setGeometry({BodyPoint(left, top), QSize(columnWidth, kDurationHeight)});
-    top += kDurationHeight + kRowGap;
-    for (ImageButton* button : columnButtons) {
-        button->setGeometry({BodyPoint(left, top), QSize(columnWidth, button->height())});
-        top += button->height() + kGap;
+    const QRect column(grid.right() + 1 + kMargin, grid.top(), columnWidth, grid.height());
+    PlaceChoice(column);
+    PlaceColumn(column);
+    const int rowTop = grid.bottom() + 1 + kRowGap;
+    OkBtn->move(kMargin, rowTop);
+    CancelBtn->move(kMargin + OkBtn->width() + kRowGap, rowTop);
+    HelpBtn->setGeometry(column.left(), rowTop, columnWidth, HelpBtn->height());
+    resize(column.right() + 1 + kMargin, rowTop + OkBtn->height() + kRowGap);
+}
+
+/// The picture and the play button side by side at the top, the name and the duration below.
+void BeatWindow::PlaceChoice(const QRect& column)
+{
+    const int pairWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
+    const int left = column.left() + (column.width() - pairWidth) / 2;
+    ChoosenPic->move(left, column.top());
+    TestPlayBtn->move(left + ChoosenPic->width() + kGap,
+                      column.top() + (ChoosenPic->height() - TestPlayBtn->height()) / 2);
+    const int nameTop = column.top() + ChoosenPic->height() + kGap / 2;
+    NmLbl->setGeometry(column.left(), nameTop, column.width(), kNameHeight);
+    DurLbl->setGeometry(column.left(), nameTop + kNameHeight, column.width(), kDurationHeight);
+}
+
+/// The buttons stand on the grid's lower edge.
+void BeatWindow::PlaceColumn(const QRect& column)
+{
+    int bottom = column.bottom() + 1;
+    for (auto button = columnButtons.rbegin(); button != columnButtons.rend(); ++button) {
+        (*button)->setGeometry(column.left(), bottom - (*button)->height(), column.width(), (*button)->height());
+        bottom -= (*button)->height() + kGap;
     }
-    resize(left + columnWidth + kMargin, height());
 }
 
 void BeatWindow::LoadBeatFiles()
@@ -200,14 +206,14 @@ void BeatWindow::ShowNoBeats()
                           tr(" This needs beat '.wav' file and 32x32 picture '.bmp' file as pair."),
                           tr(" Please reinstall the software.")});
     ChoosenPic->ShowPicture({});
-    NmLbl->setText(tr("[none]"));
+    NmLbl->ShowName(tr("[none]"));
     DurLbl->setText(QStringLiteral(" "));
 }
 
 void BeatWindow::ShowChoice()
 {
     NoteLbl->setText(QtText(kNote));
-    NmLbl->setText(QtText(SelectedEntry(table).Name));
+    NmLbl->ShowName(QtText(SelectedEntry(table).Name));
     ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
     LoadSelectedSound(table);
     DurLbl->setText(QtText(DurationText(SelectedEntry(table).Sound)));
@@ -216,7 +222,7 @@ void BeatWindow::ShowChoice()
 void BeatWindow::ShowNoChoice()
 {
     NoteLbl->setText(QtText(kNote));
-    NmLbl->setText(tr("[none]"));
+    NmLbl->ShowName(tr("[none]"));
     DurLbl->setText(QStringLiteral(" "));
     ChoosenPic->ShowPicture({});
 }

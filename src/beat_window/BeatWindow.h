@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "beat_window/ChoosenPicture.h"
+#include "beat_window/NameLabel.h"
 #include "beat_window/rules/BeatTable.h"
 #include "ui/BandedForm.h"
 #include "ui/PictureGridPic.h"
@@ -47,7 +48,8 @@ private:
     void MakeButtons();
     void MakeMoveMnu();
     void PlaceControls();
-    void PlaceColumn(int left, int top);
+    void PlaceChoice(const QRect& column);
+    void PlaceColumn(const QRect& column);
 
     void FillGrid();
     void ShowNoBeats();
@@ -72,10 +74,11 @@ private:
     PictureGridPic* ShowAllPic = nullptr;
     ChoosenPicture* ChoosenPic = nullptr;
     QLabel* NoteLbl = nullptr;
-    QLabel* NmLbl = nullptr;
+    NameLabel* NmLbl = nullptr;
     QLabel* DurLbl = nullptr;
     ImageButton* OkBtn = nullptr;
     ImageButton* CancelBtn = nullptr;
+    ImageButton* HelpBtn = nullptr;
     ImageButton* TestPlayBtn = nullptr;
     std::vector<ImageButton*> columnButtons;
     QMenu* PopPosiMnu = nullptr;

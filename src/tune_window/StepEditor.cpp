@@ -15,13 +15,13 @@
 #include "beat_window/ChooseBeat.h"
 #include "core/Shared.h"
 #include "sound/PlayMod.h"
-#include "tune_window/EditorCommand.h"
 #include "tune_window/StepFocus.h"
 #include "tune_window/TunFramPic.h"
 #include "tune_window/rules/StepPlays.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Dialogs.h"
+#include "ui/Guarded.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
@@ -90,6 +90,7 @@ StepEditor::StepEditor(QWidget* parent) : QWidget(parent), chooseBeat(ChooseBeat
     MakePlayMarks();
     MakeTunFramHScroll();
     MakeStepPopMnu();
+    setFocusProxy(StepNosCmb);
     resize(sizeHint());
 }
 
@@ -105,14 +106,13 @@ void StepEditor::MakeTunFramPic()
     pianoCursor = QCursor(Artwork(QStringLiteral("pictures/PianoCursorImg"), kPointerSize, devicePixelRatioF()),
                           kPianoCursorTip.x(), kPianoCursorTip.y());
     connect(surface, &TunFramPic::Pressed, this,
-            [this](QPoint place, Qt::MouseButton button) { RunEditorCommand([&] { PressSurface(place, button); }); });
+            [this](QPoint place, Qt::MouseButton button) { Guarded([&] { PressSurface(place, button); }); });
     connect(surface, &TunFramPic::Released, this,
-            [this](QPoint place, Qt::MouseButton button) { RunEditorCommand([&] { ReleaseSurface(place, button); }); });
-    connect(surface, &TunFramPic::Moved, this,
-            [this](QPoint place) { RunEditorCommand([&] { MoveOnSurface(place); }); });
+            [this](QPoint place, Qt::MouseButton button) { Guarded([&] { ReleaseSurface(place, button); }); });
+    connect(surface, &TunFramPic::Moved, this, [this](QPoint place) { Guarded([&] { MoveOnSurface(place); }); });
     connect(surface, &TunFramPic::Wheeled, this,
             [this](int pixels) { TunFramHScroll->setValue(TunFramHScroll->value() + pixels); });
-    connect(surface, &TunFramPic::Resized, this, [this] { RunEditorCommand([this] { UpdateThisTune(); }); });
+    connect(surface, &TunFramPic::Resized, this, [this] { Guarded([this] { UpdateThisTune(); }); });
 }
 
 void StepEditor::MakeDummyDuration()
@@ -128,7 +128,7 @@ void StepEditor::MakePlayMarks()
     PlayPosTimer.setObjectName(QStringLiteral("PlayPosTimer"));
     PlayPosTimer.setParent(this);
     PlayPosTimer.setInterval(kPlayPosInterval);
-    connect(&PlayPosTimer, &QTimer::timeout, this, [this] { RunEditorCommand([this] { TickPlayPos(); }); });
+    connect(&PlayPosTimer, &QTimer::timeout, this, [this] { Guarded([this] { TickPlayPos(); }); });
     HidePlayMarks();
 }
 
@@ -136,7 +136,7 @@ void StepEditor::MakeChangeAll()
 {
     buttons = new ButtonScheme(*surface, AllOffTimer::OffAtFirst);
     buttons->setParent(this);
-    ChangeAllBtn = &buttons->AddButton(kChangeAllRow, [this] { RunEditorCommand([this] { ClickChangeAll(); }); });
+    ChangeAllBtn = &buttons->AddButton(kChangeAllRow, [this] { Guarded([this] { ClickChangeAll(); }); });
     NoteInstrLbl = MakeNote("NoteInstrLbl", QT_TR_NOOP("Instruments: click on a picture to choose another"),
                             kNoteInstrPlace, surface);
     NotePianoLbl =
@@ -151,8 +151,7 @@ void StepEditor::MakeStepNosCmb()
     for (const StepNosRow& row : kStepNos)
         StepNosCmb->addItem(tr(row.caption), row.steps);
     hints.Watch(*StepNosCmb, "Number of steps, use it to make the tune longer or shorter");
-    connect(StepNosCmb, &QComboBox::activated, this,
-            [this](int index) { RunEditorCommand([&] { ClickStepNos(index); }); });
+    connect(StepNosCmb, &QComboBox::activated, this, [this](int index) { Guarded([&] { ClickStepNos(index); }); });
 }
 
 void StepEditor::MakeTunFramHScroll()
@@ -167,7 +166,7 @@ void StepEditor::MakeTunFramHScroll()
         if (ScrollGuard2)
             return;
         StepsLeft = StepsLeftAt(value);
-        RunEditorCommand([this] { DrawTuneSteps(); });
+        Guarded([this] { DrawTuneSteps(); });
     });
 }
 
@@ -231,28 +230,29 @@ void StepEditor::DrawTuneSteps()
 void StepEditor::SyncStepFocus()
 {
     const Tune& tune = Shared().CurrentTune;
-    const auto count = static_cast<std::size_t>(tune.StepCount);
-    for (; stepFocus.size() > count + 1; stepFocus.pop_back())
+    const auto wanted = static_cast<std::size_t>(tune.StepCount) + 1;
+    for (; stepFocus.size() > wanted; stepFocus.pop_back())
         delete stepFocus.back();
-    while (stepFocus.size() <= count) {
-        const auto step = static_cast<std::int32_t>(stepFocus.size());
-        auto* focus = new StepFocus(step, surface);
-        connect(focus, &StepFocus::KeyPressed, this, [this](std::int32_t number, QKeyEvent* event) {
-            RunEditorCommand([&] { PressStepKey(number, *event); });
-        });
-        connect(focus, &StepFocus::MenuWanted, this, [this](std::int32_t number) {
-            RunEditorCommand([&] { OpenStepMenu(number, QPoint(StepLeft(number, StepsLeft), kNumberTop)); });
-        });
-        connect(focus, &StepFocus::Reached, this, [this](std::int32_t number) { BringIntoView(number); });
-        connect(focus, &QAbstractButton::clicked, this, [this, step] { RunEditorCommand([&] { ToggleLamp(step); }); });
-        QWidget* const before = step == 1 ? static_cast<QWidget*>(StepNosCmb) : stepFocus.back();
-        QWidget::setTabOrder(before, focus);
-        QWidget::setTabOrder(focus, ChangeAllBtn);
-        focus->show();
-        stepFocus.push_back(focus);
-    }
+    while (stepFocus.size() < wanted)
+        stepFocus.push_back(MakeStepFocus(static_cast<std::int32_t>(stepFocus.size())));
     for (std::int32_t step = 1; step <= tune.StepCount; ++step)
         At(stepFocus, step)->ShowStep(At(tune.Steps, step), StepsLeft);
+}
+
+StepFocus* StepEditor::MakeStepFocus(std::int32_t step)
+{
+    auto* focus = new StepFocus(step, surface);
+    connect(focus, &StepFocus::KeyPressed, this,
+            [this, step](QKeyEvent* event) { Guarded([&] { PressStepKey(step, *event); }); });
+    connect(focus, &StepFocus::MenuWanted, this,
+            [this, step] { Guarded([&] { OpenStepMenu(step, QPoint(StepLeft(step, StepsLeft), kNumberTop)); }); });
+    connect(focus, &StepFocus::Reached, this, [this, step] { BringIntoView(step); });
+    connect(focus, &QAbstractButton::clicked, this, [this, step] { Guarded([&] { ToggleLamp(step); }); });
+    QWidget* const before = step == 1 ? static_cast<QWidget*>(StepNosCmb) : stepFocus.back();
+    setTabOrder(before, focus);
+    setTabOrder(focus, ChangeAllBtn);
+    focus->show();
+    return focus;
 }
 
 void StepEditor::PlaceChangeAll()

@@ -75,6 +75,7 @@ private:
     void SetStepScroll();
     void DrawTuneSteps();
     void SyncStepFocus();
+    [[nodiscard]] StepFocus* MakeStepFocus(std::int32_t step);
     void PlaceChangeAll();
     void PlacePlayMarks();
     void ShowEdited();

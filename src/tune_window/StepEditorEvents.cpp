@@ -3,7 +3,6 @@
 #include <QMenu>
 
 #include "core/Shared.h"
-#include "tune_window/EditorCommand.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/StepFocus.h"
 #include "tune_window/TunFramPic.h"

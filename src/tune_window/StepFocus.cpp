@@ -53,7 +53,7 @@ void StepFocus::paintEvent(QPaintEvent* /*event*/)
 
 void StepFocus::keyPressEvent(QKeyEvent* event)
 {
-    Q_EMIT KeyPressed(number, event);
+    Q_EMIT KeyPressed(event);
 }
 
 void StepFocus::keyReleaseEvent(QKeyEvent* event)
@@ -63,14 +63,14 @@ void StepFocus::keyReleaseEvent(QKeyEvent* event)
 
 void StepFocus::contextMenuEvent(QContextMenuEvent* /*event*/)
 {
-    Q_EMIT MenuWanted(number);
+    Q_EMIT MenuWanted();
 }
 
 void StepFocus::focusInEvent(QFocusEvent* event)
 {
     QAbstractButton::focusInEvent(event);
     if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
-        Q_EMIT Reached(number);
+        Q_EMIT Reached();
 }
 
 } // namespace sprout

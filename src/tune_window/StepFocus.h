@@ -20,12 +20,10 @@ public:
     /// Takes the step's name and state, and its place. stepsLeft: left edge of step 1.
     void ShowStep(const TuneStep& step, std::int32_t stepsLeft);
 
-    [[nodiscard]] std::int32_t Step() const { return number; }
-
 Q_SIGNALS:
-    void KeyPressed(std::int32_t step, QKeyEvent* event);
-    void MenuWanted(std::int32_t step);
-    void Reached(std::int32_t step); ///< by the keyboard
+    void KeyPressed(QKeyEvent* event);
+    void MenuWanted();
+    void Reached(); ///< by the keyboard
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -24,6 +24,7 @@ constexpr int kLampWidth = 30;
 constexpr int kLampHeight = 16;
 constexpr int kStripEndWidth = 4;
 constexpr int kStripHeight = 38;
+constexpr int kNumberInset = 2; ///< of the figures' upper edge
 constexpr int kIconSide = 32;
 constexpr int kWheelStep = 120; ///< eighths of a degree a notch
 constexpr QColor kFrameLight{0xFF, 0xFF, 0xFF};
@@ -99,6 +100,8 @@ void TunFramPic::paintEvent(QPaintEvent* event)
     const QRect area = event->rect();
     QPainter painter(this);
     painter.setFont(HintFont());
+    // Icons are enlarged pixel by pixel where that comes out even.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
     painter.fillRect(area, kPaper);
     PaintStrip(painter, area);
     ForColumnsIn(area, [&](std::int32_t step) {
@@ -134,9 +137,10 @@ void TunFramPic::PaintLamp(QPainter& painter, std::int32_t step) const
 {
     const int x = StepLeft(step, stepsLeft);
     painter.drawPixmap(x, kLampTop, Art(At(columns, step).on ? "StpOnPic" : "StpOffPic", kLampWidth, kLampHeight));
+    // The line of the font has room above its figures, which are to begin at the told place.
+    const int baseline = kNumberTop + kNumberInset + painter.fontMetrics().capHeight();
     painter.setPen(kBark);
-    painter.drawText(QRect(x, kNumberTop, kStepPitch, kStripTop + kStripHeight - kNumberTop),
-                     Qt::AlignLeft | Qt::AlignTop | Qt::TextDontClip, QString::number(step));
+    painter.drawText(x, baseline, QString::number(step));
 }
 
 void TunFramPic::PaintIcon(QPainter& painter, std::int32_t step) const

@@ -11,6 +11,8 @@
 #include <functional>
 #include <memory>
 
+#include "StepEditorSheets.h"
+#include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
@@ -317,5 +319,7 @@ int main(int argc, char** argv)
     sprout::DrawForms(folder);
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
+    sprout::DrawBeatWindowSheets(folder);
     return 0;
 }

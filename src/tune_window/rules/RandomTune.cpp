@@ -13,7 +13,7 @@
 #include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Text.h"
+#include "tune_window/rules/TuneTable.h"
 #include "tunes/BeatFiles.h"
 
 namespace sprout {
@@ -39,33 +39,16 @@ const auto& DrawFrom(const Pool& pool, const RandomNumber& next)
     return pool[static_cast<std::size_t>(Draw(next, static_cast<std::int32_t>(pool.size())))];
 }
 
-std::vector<fs::path> FilesOfKind(const fs::path& folder, std::string_view extension)
-{
-    std::vector<fs::path> files;
-    std::error_code error;
-    fs::directory_iterator entries(folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
-        std::error_code unreadable;
-        if (entries->is_regular_file(unreadable) && EqualIgnoringCase(PathText(entries->path().extension()), extension))
-            files.push_back(entries->path());
-    }
-    std::sort(files.begin(), files.end(), [](const fs::path& a, const fs::path& b) {
-        const std::string lowerA = LowerCase(PathText(a.filename()));
-        const std::string lowerB = LowerCase(PathText(b.filename()));
-        return lowerA != lowerB ? lowerA < lowerB : a < b;
-    });
-    return files;
-}
-
 /// One number is drawn also where there is no picture.
 Picture DrawPicture(const RandomNumber& next)
 {
-    const std::vector<fs::path> files = FilesOfKind(Shared().UserStars, ".bmp");
-    const auto count = static_cast<std::int32_t>(files.size());
+    const std::vector<std::string> names = NamesInFolder(Shared().UserStars, ".bmp");
+    const auto count = static_cast<std::int32_t>(names.size());
     const std::int32_t drawn = RoundHalfEven(static_cast<double>(next()) * count);
     if (count == 0)
         return LoadPictureFile({});
-    return LoadPictureFile(files[static_cast<std::size_t>(std::clamp(drawn, 1, count) - 1)]);
+    const std::string& name = names[static_cast<std::size_t>(std::clamp(drawn, 1, count) - 1)];
+    return LoadPictureFile(NamedFile(Shared().UserStars, name, ".bmp"));
 }
 
 std::int32_t DrawStepCount(const RandomNumber& next)
@@ -84,32 +67,32 @@ std::vector<std::int32_t> DrawPitchPool(const RandomNumber& next)
     return pool;
 }
 
-bool IsShort(const fs::path& file)
+bool IsShort(const std::string& beatName)
 {
     std::error_code error;
-    const std::uintmax_t bytes = fs::file_size(file, error);
+    const std::uintmax_t bytes = fs::file_size(FindFile(NamedFile(Shared().UserBeats, beatName, ".wav")), error);
     return !error && bytes < kShortBeatBytes;
 }
 
-/// Draws until a short file is met; where none is short, the first draw decides, or there would be no end.
-const fs::path& DrawShortFile(const std::vector<fs::path>& files, bool hasShort, const RandomNumber& next)
+/// Draws until a short beat is met; where none is short, the first draw decides, or there would be no end.
+const std::string& DrawShortBeat(const std::vector<std::string>& names, bool hasShort, const RandomNumber& next)
 {
-    const fs::path* file = &DrawFrom(files, next);
-    while (hasShort && !IsShort(*file))
-        file = &DrawFrom(files, next);
-    return *file;
+    const std::string* name = &DrawFrom(names, next);
+    while (hasShort && !IsShort(*name))
+        name = &DrawFrom(names, next);
+    return *name;
 }
 
 std::vector<Beat> DrawBeatPool(const RandomNumber& next)
 {
-    const std::vector<fs::path> files = FilesOfKind(Shared().UserBeats, ".wav");
-    const bool hasShort = std::any_of(files.begin(), files.end(), IsShort);
+    const std::vector<std::string> names = NamesInFolder(Shared().UserBeats, ".wav");
+    const bool hasShort = std::any_of(names.begin(), names.end(), IsShort);
     std::vector<Beat> pool(static_cast<std::size_t>(Draw(next, 4) + 1));
-    if (files.empty())
+    if (names.empty())
         return pool;
     BeatReader reader; // equal beats share their samples
     for (Beat& beat : pool)
-        reader.LoadBeatFile(beat, BaseName(DrawShortFile(files, hasShort, next)));
+        reader.LoadBeatFile(beat, DrawShortBeat(names, hasShort, next));
     return pool;
 }
 

@@ -16,6 +16,9 @@ namespace sprout {
 inline constexpr std::int32_t kFewestSteps = 2;
 inline constexpr std::int32_t kMostSteps = 64;
 
+/// Silence before a tune that an edit plays, in seconds.
+inline constexpr float kEditLeadIn = 0.75F;
+
 /// Switches a step on or off. What is neither 0 nor 1 counts as on.
 void ToggleStep(Tune& tune, std::int32_t step);
 
