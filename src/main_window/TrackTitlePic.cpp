@@ -78,6 +78,7 @@ void TrackTitlePic::MakeHeadings()
             name, text, [message] { ShowMessage(message); }, this);
         label->setGeometry(place);
         watcher.Watch(*label, "");
+        label->installEventFilter(this);
     };
     add("Label5", tr("Tune"), kLabel5Message, kLabel5Place);
     add("Label1", tr("Play"), kLabel1Message, kLabel1Place);
@@ -126,14 +127,17 @@ void TrackTitlePic::MakeAddButtons()
         &AddStripButton({"TrackAddBtn", "Add music track", hint("TrackAddBtn")}, kAddButtonSize, calls.TrackAddBtn);
     addRecBtn = &AddStripButton({"TrackAddRecBtn", "Add audio track", hint("TrackAddRecBtn")}, kAddButtonSize,
                                 calls.TrackAddRecBtn);
-    addBtn->show();
-    addRecBtn->show();
+    for (ImageButton* button : {addBtn, addRecBtn}) {
+        button->show();
+        button->installEventFilter(this);
+    }
     topLbl = new QLabel(tr("Add a track"), this);
     topLbl->setObjectName(QStringLiteral("TrackTopLbl"));
     topLbl->setFont(HintFont());
     topLbl->setAlignment(Qt::AlignCenter);
     topLbl->resize(kAddButtonsApart + kAddButtonSize.width(), kTopLblHeight);
     watcher.Watch(*topLbl, "");
+    topLbl->installEventFilter(this);
 }
 
 void TrackTitlePic::Clear()
@@ -243,9 +247,18 @@ void TrackTitlePic::TuneHovered()
 
 bool TrackTitlePic::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == audioBtn && event->type() == QEvent::MouseMove)
-        RunCall(calls.EnableTrackTitlePlayTimer);
+    if (event->type() == QEvent::MouseMove) {
+        if (watched == audioBtn)
+            RunCall(calls.EnableTrackTitlePlayTimer);
+        else
+            LeaveRows();
+    }
     return TrackSurface::eventFilter(watched, event);
+}
+
+void TrackTitlePic::LeaveRows()
+{
+    PlaceFloatingButtons({});
 }
 
 void TrackTitlePic::mousePressEvent(QMouseEvent* event)
