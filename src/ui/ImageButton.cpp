@@ -208,7 +208,9 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 
 void ImageButton::focusInEvent(QFocusEvent* event)
 {
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+    // A dialog that opens tells its button so before the button has the focus; that is not the user's doing.
+    const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (byTab && hasFocus())
         ShowHint(hint);
     QAbstractButton::focusInEvent(event);
 }
