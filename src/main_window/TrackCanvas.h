@@ -5,13 +5,20 @@
 
 #include <cstdint>
 #include <functional>
+#include <string_view>
 
 #include "main_window/rules/PlayIndicator.h"
 #include "main_window/rules/Stroke.h"
 #include "main_window/rules/TrackGeometry.h"
+#include "main_window/rules/TrackPointer.h"
 #include "ui/ButtonScheme.h"
 
+class QScrollBar;
+
 namespace sprout {
+
+class TrackPic;
+class TrackTitlePic;
 
 /// What the canvas asks of the window that it lies in. Each is called from an event of the user's.
 struct TrackCanvasCalls {
@@ -27,6 +34,9 @@ struct TrackCanvasCalls {
 /// `TrackFramePic`: the song as rows. It holds the title strip (`TrackTitlePic`), the painting surface with the time
 /// band (`TrackPic`), both scroll bars, the buttons of the rows and the markers of the play position; it draws the
 /// shared song and lets the user paint it.
+///
+/// The wheel scrolls by rows, with Shift sideways. With the focus on `TrackPic` the arrow keys, Page Up and Page Down,
+/// Home and End scroll and the space bar plays and stops; `TrackTitlePic` tells of its own keys.
 class TrackCanvas : public QWidget {
     Q_OBJECT
 
@@ -53,6 +63,38 @@ public:
     [[nodiscard]] TrackView View() const;
     /// Places or hides the two markers of `PlayPosImg`.
     void ShowPlayIndicator(const PlayIndicator& indicator);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void MakeSurfaces(ButtonScheme& buttons);
+    void MakeScrollBars();
+    void PlaceParts();
+    void FitScrollBars();
+    void ShowRow(std::int32_t track);
+
+    void Press(QPoint at);
+    void Move(QPoint at);
+    void Leave();
+    [[nodiscard]] TrackHit HitTest(QPoint at) const;
+    void DrawStroke();
+    void ShowPointer(const TrackPointer& pointer);
+    void ShowPointerImage(PointerImage image);
+
+    TrackCanvasCalls calls;
+    TrackView view;
+    Tool tool = Tool::Brush;
+    Stroke stroke;
+    PointerImage pointerImage = PointerImage::Default;
+    TrackTitlePic* titlePic = nullptr;
+    TrackPic* trackPic = nullptr;
+    QScrollBar* vScroll = nullptr;
+    QScrollBar* hScroll = nullptr;
+    QPoint wheelRest; ///< turned since the last whole notch, in eighths of a degree
 };
 
 } // namespace sprout

@@ -163,8 +163,9 @@ void BandedForm::PaintVine(QPainter& painter) const
 {
     const QRect vine(width() - kVineSide - 2, height() - kVineSide - 2, kVineSide, kVineSide);
     const QRect leaves = vine.adjusted(kVineSide / 4, 0, 0, 0);
-    const bool isCovered = std::any_of(wordButtons.begin(), wordButtons.end(), [&leaves](const ImageButton* button) {
-        return !button->isHidden() && button->geometry().intersects(leaves);
+    const auto parts = findChildren<const QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    const bool isCovered = std::any_of(parts.begin(), parts.end(), [&leaves](const QWidget* part) {
+        return !part->isWindow() && !part->isHidden() && part->geometry().intersects(leaves);
     });
     if (!isCovered)
         painter.drawPixmap(vine.topLeft(),

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackLabel.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <utility>
+
+#include "ui/Look.h"
+#include "ui/Palette.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kHeadingPixels = 12;
+
+} // namespace
+
+TrackLabel::TrackLabel(const char* name, const QString& text, std::function<void()> click, QWidget* parent)
+    : QLabel(text, parent), onClick(std::move(click))
+{
+    setObjectName(QString::fromLatin1(name));
+    QFont font = ButtonFont();
+    font.setPixelSize(kHeadingPixels);
+    setFont(font);
+    setAlignment(Qt::AlignCenter);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+void TrackLabel::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint()))
+        onClick();
+}
+
+void TrackLabel::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
+        onClick();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void TrackLabel::focusInEvent(QFocusEvent* event)
+{
+    update();
+    QLabel::focusInEvent(event);
+}
+
+void TrackLabel::focusOutEvent(QFocusEvent* event)
+{
+    update();
+    QLabel::focusOutEvent(event);
+}
+
+void TrackLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QPen(kLink, 2));
+    painter.drawRect(QRectF(rect()).adjusted(1, 1, -1, -1));
+}
+
+} // namespace sprout

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackPic.h"
+
+#include <QFontMetrics>
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <array>
+
+#include "main_window/TrackMarker.h"
+#include "main_window/TrackPictures.h"
+#include "main_window/rules/CellValues.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr QPoint kTimeSlideAt{-5, 2};
+constexpr QPoint kUnpaintedTextAt{10, 6}; ///< below the row's top
+constexpr int kByteBits = 8;
+
+bool AnyCellIsPainted(const Track& track)
+{
+    return !track.Painted.empty() &&
+           std::find(track.Painted.begin() + 1, track.Painted.end(), kPaintedCell) != track.Painted.end();
+}
+
+/// colour: 0x00BBGGRR.
+QColor ColourOf(std::int32_t colour)
+{
+    return {colour & 0xFF, colour >> kByteBits & 0xFF, colour >> 2 * kByteBits & 0xFF};
+}
+
+/// Moves a marker and shows it, or hides it where it has no place.
+void PlaceMarker(TrackMarker& marker, const std::optional<QPoint>& at)
+{
+    if (at)
+        marker.move(*at);
+    marker.setVisible(at.has_value());
+}
+
+} // namespace
+
+TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
+    : TrackSurface("TrackPic", kPaper, parent),
+      view(shownView),
+      cellCursor(new TrackMarker("CellCursor", this)),
+      songMarker(new TrackMarker("PlayPosImg0", this)),
+      trackMarker(new TrackMarker("PlayPosImg1", this))
+{
+    songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
+    trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
+    setAccessibleName(tr("Tracks"));
+    setAccessibleDescription(
+        tr("Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops."));
+}
+
+void TrackPic::Clear()
+{
+    TrackSurface::Clear();
+    drawnRows.assign(static_cast<std::size_t>(std::max(VisibleRows(view), 0)) + 1, std::nullopt);
+    drawnTop.reset();
+}
+
+TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
+{
+    const Track& track = At(song.Tracks, t);
+    RowLook look{track.TrackType, TileNumber(track.IsAudio(), t), CycleCells(track), true,
+                 VisibleRuns(track, song.SongCells, view)};
+    look.painted = !look.runs.empty() || AnyCellIsPainted(track);
+    return look;
+}
+
+void TrackPic::DrawRow(const SongState& song, std::int32_t track)
+{
+    const auto row = static_cast<std::size_t>(track - view.FirstTrack);
+    if (!RowIsVisible(view, track) || row >= drawnRows.size())
+        return;
+    RowLook look = LookOf(song, track);
+    if (drawnRows[row] == look)
+        return;
+    PaintRow(look, RowTop(view, track));
+    drawnRows[row] = std::move(look);
+}
+
+void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
+{
+    const QRect background(0, rowTop + kBackgroundTop, width(), kBackgroundHeight);
+    SurfacePainter painter = Painter();
+    painter.Tile(background, TrackBlankPic(look.trackType, PixelRatio()));
+    const QPixmap tile = TrackDrawnPic(look.tile, PixelRatio());
+    for (const PaintedRun& run : look.runs)
+        PaintRun(painter, run, look.cycle, tile, rowTop);
+    if (!look.painted)
+        painter.Write(kUnpaintedTextAt.x(), rowTop + kUnpaintedTextAt.y(), LabelFont(),
+                      tr("Please paint on this track to play with others."));
+    update(background);
+}
+
+void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
+                        std::int32_t rowTop) const
+{
+    for (const TilePlace& place : RunTiles(run, view, kTileWidth))
+        painter.Lay(QRect(place.x, rowTop + kPaintTop, place.width, kPaintHeight), tile);
+    for (const PixelRect& mark : RunMarks(run, cycle, view, rowTop))
+        painter.Fill(QRect(mark.x, mark.y, mark.width, mark.height), Qt::black);
+}
+
+void TrackPic::DrawTop(const SongState& song)
+{
+    TopLook look{song.SongCells, song.Tempo, BusyMarks(song, view)};
+    if (drawnTop == look)
+        return;
+    const QRect band(0, 0, width(), kTimeBandHeight);
+    SurfacePainter painter = Painter();
+    painter.Fill(band, BackColour());
+    painter.Lay(QRect(kTimeSlideAt, kTimeSlideSize), CanvasPicture("TimeSlide", kTimeSlideSize, PixelRatio()));
+    PaintBusyMarks(painter, look.marks);
+    PaintSeconds(painter, song);
+    drawnTop = std::move(look);
+    update(band);
+}
+
+void TrackPic::PaintBusyMarks(SurfacePainter& painter, const std::vector<BusyMark>& marks) const
+{
+    const std::array pictures{BusyMarkPic(0, PixelRatio()), BusyMarkPic(1, PixelRatio())};
+    for (const BusyMark& mark : marks)
+        painter.Lay(QRect(mark.x, 0, kCellWidth, kTimeBandHeight), pictures[mark.picture == 0 ? 0 : 1]);
+}
+
+void TrackPic::PaintSeconds(SurfacePainter& painter, const SongState& song) const
+{
+    const QFont font = HintFont();
+    const int top = kTimeBandHeight - QFontMetrics(font).height();
+    for (const SecondsLabel& label : SecondsLabels(song, view))
+        painter.Write(label.x, top, font, QString::number(label.seconds));
+}
+
+void TrackPic::ShowCellCursor(const std::optional<CellCursor>& cursor)
+{
+    if (cursor)
+        cellCursor->SetColour(ColourOf(cursor->colour));
+    PlaceMarker(*cellCursor, cursor ? std::optional(QPoint(cursor->x, cursor->y)) : std::nullopt);
+}
+
+void TrackPic::ShowPlayIndicator(const PlayIndicator& indicator)
+{
+    PlaceMarker(*songMarker, indicator.songLeft ? std::optional(QPoint(*indicator.songLeft, 0)) : std::nullopt);
+    PlaceMarker(*trackMarker,
+                indicator.track ? std::optional(QPoint(indicator.track->left, indicator.track->top)) : std::nullopt);
+}
+
+void TrackPic::FitMarkers()
+{
+    songMarker->resize(kCellWidth, height());
+}
+
+void TrackPic::mousePressEvent(QMouseEvent* event)
+{
+    TrackSurface::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton)
+        Q_EMIT Pressed(event->position().toPoint());
+}
+
+void TrackPic::mouseMoveEvent(QMouseEvent* event)
+{
+    Q_EMIT Moved(event->position().toPoint());
+}
+
+void TrackPic::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    Q_EMIT Released();
+}
+
+void TrackPic::leaveEvent(QEvent* event)
+{
+    Q_EMIT Left();
+    TrackSurface::leaveEvent(event);
+}
+
+void TrackPic::PaintOver(QPainter& painter)
+{
+    if (hasFocus() && FocusByKey())
+        PaintFocusRing(painter, rect());
+}
+
+} // namespace sprout

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+#include "core/Song.h"
+#include "main_window/TrackSurface.h"
+#include "main_window/rules/PaintedRuns.h"
+#include "main_window/rules/PlayIndicator.h"
+#include "main_window/rules/TimeBand.h"
+#include "main_window/rules/TrackPointer.h"
+
+namespace sprout {
+
+class TrackMarker;
+
+/// The painting surface: the time band and the painted runs of the tracks, and on them the cell cursor (`CellCursor`)
+/// and the two markers of the play position (`PlayPosImg0`, `PlayPosImg1`). It draws and tells of the mouse; what a
+/// press means is decided elsewhere.
+class TrackPic : public TrackSurface {
+    Q_OBJECT
+
+public:
+    /// view: what is scrolled into it; outlives the surface.
+    TrackPic(const TrackView& view, QWidget* parent);
+
+    /// Empties the surface and forgets what was drawn.
+    void Clear();
+    /// Draws a track's row, if it is in view and does not show just that already.
+    void DrawRow(const SongState& song, std::int32_t track);
+    /// Draws the time band, if it does not show just that already.
+    void DrawTop(const SongState& song);
+
+    /// Places the cell cursor; nothing hides it.
+    void ShowCellCursor(const std::optional<CellCursor>& cursor);
+    void ShowPlayIndicator(const PlayIndicator& indicator);
+    /// Gives the markers the height of the surface.
+    void FitMarkers();
+
+Q_SIGNALS:
+    void Pressed(QPoint at);
+    void Moved(QPoint at);
+    void Released();
+    void Left();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+    void PaintOver(QPainter& painter) override;
+
+private:
+    /// All that a row's picture depends on, besides view and pixel ratio.
+    struct RowLook {
+        std::int32_t trackType = 0;
+        std::int32_t tile = 0;
+        std::int32_t cycle = 0;
+        bool painted = false;
+        std::vector<PaintedRun> runs;
+        friend bool operator==(const RowLook&, const RowLook&) = default;
+    };
+    struct TopLook {
+        std::int32_t songCells = 0;
+        std::int32_t tempo = 0;
+        std::vector<BusyMark> marks;
+        friend bool operator==(const TopLook&, const TopLook&) = default;
+    };
+
+    [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
+    void PaintRow(const RowLook& look, std::int32_t rowTop);
+    void PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
+                  std::int32_t rowTop) const;
+    void PaintBusyMarks(SurfacePainter& painter, const std::vector<BusyMark>& marks) const;
+    void PaintSeconds(SurfacePainter& painter, const SongState& song) const;
+
+    const TrackView& view;
+    std::vector<std::optional<RowLook>> drawnRows; ///< by row, from the top
+    std::optional<TopLook> drawnTop;
+    TrackMarker* cellCursor;
+    TrackMarker* songMarker;  ///< element 0 of `PlayPosImg`
+    TrackMarker* trackMarker; ///< element 1
+};
+
+} // namespace sprout

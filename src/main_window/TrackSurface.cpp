@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackSurface.h"
+
+#include <QFocusEvent>
+#include <QFontMetricsF>
+#include <QPaintEvent>
+
+#include <algorithm>
+#include <cmath>
+
+#include "ui/Palette.h"
+
+namespace sprout {
+
+SurfacePainter::SurfacePainter(QPixmap& kept, qreal pixelRatio) : painter(&kept), ratio(pixelRatio) {}
+
+QRect SurfacePainter::DeviceRect(const QRect& place) const
+{
+    const QPoint topLeft(qRound(place.x() * ratio), qRound(place.y() * ratio));
+    const QPoint behind(qRound((place.x() + place.width()) * ratio), qRound((place.y() + place.height()) * ratio));
+    return {topLeft, behind - QPoint(1, 1)};
+}
+
+void SurfacePainter::Fill(const QRect& place, const QColor& colour)
+{
+    painter.fillRect(DeviceRect(place), colour);
+}
+
+void SurfacePainter::Tile(const QRect& place, const QPixmap& artwork)
+{
+    const QRect device = DeviceRect(place);
+    const int height = std::min(device.height(), artwork.height());
+    for (int x = device.left(); x <= device.right() && !artwork.isNull(); x += artwork.width()) {
+        const int width = std::min(artwork.width(), device.right() + 1 - x);
+        painter.drawPixmap(QRect(x, device.top(), width, height), artwork, QRect(0, 0, width, height));
+    }
+}
+
+void SurfacePainter::Lay(const QRect& place, const QPixmap& artwork)
+{
+    const QRect device = DeviceRect(place);
+    const QSize size = device.size().boundedTo(artwork.size());
+    painter.drawPixmap(QRect(device.topLeft(), size), artwork, QRect(QPoint(0, 0), size));
+}
+
+void SurfacePainter::LayBitmap(const QRect& place, const QImage& bitmap)
+{
+    // Whole pixels stay sharp when they are repeated; at a broken ratio they would differ in size.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
+    painter.drawImage(DeviceRect(place), bitmap);
+}
+
+void SurfacePainter::Write(qreal x, int top, const QFont& font, const QString& text)
+{
+    painter.save();
+    painter.scale(ratio, ratio);
+    painter.setFont(font);
+    painter.setPen(kBark);
+    painter.drawText(QPointF(x, top + QFontMetricsF(font).ascent()), text);
+    painter.restore();
+}
+
+TrackSurface::TrackSurface(const char* name, const QColor& backColour, QWidget* parent)
+    : QWidget(parent), back(backColour)
+{
+    setObjectName(QString::fromLatin1(name));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::StrongFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void TrackSurface::Clear()
+{
+    ratio = devicePixelRatioF();
+    const QSize devicePixels = (QSizeF(size()) * ratio).toSize();
+    if (kept.size() != devicePixels)
+        kept = QPixmap(devicePixels);
+    kept.fill(back);
+    update();
+}
+
+bool TrackSurface::IsStale() const
+{
+    return ratio != devicePixelRatioF() || kept.size() != (QSizeF(size()) * ratio).toSize();
+}
+
+void TrackSurface::paintEvent(QPaintEvent* event)
+{
+    if (IsStale() && Redraw)
+        Redraw();
+    QPainter painter(this);
+    painter.save();
+    // Without a scale the picture is copied and not resampled.
+    painter.scale(1 / ratio, 1 / ratio);
+    for (const QRect& part : event->region()) {
+        const QRectF device(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
+        const QRect whole = device.toAlignedRect() & kept.rect();
+        painter.drawPixmap(whole, kept, whole);
+    }
+    painter.restore();
+    PaintOver(painter);
+}
+
+void TrackSurface::PaintOver(QPainter& /*painter*/) {}
+
+void TrackSurface::PaintFocusRing(QPainter& painter, const QRect& place)
+{
+    painter.setBrush(Qt::NoBrush);
+    const QRectF edge = QRectF(place).adjusted(1.5, 1.5, -1.5, -1.5);
+    painter.setPen(QPen(Qt::white, 3));
+    painter.drawRect(edge);
+    painter.setPen(QPen(kLink, 2));
+    painter.drawRect(edge.adjusted(-0.5, -0.5, 0.5, 0.5));
+}
+
+void TrackSurface::focusInEvent(QFocusEvent* event)
+{
+    const auto reason = event->reason();
+    if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+        focusByKey = reason != Qt::MouseFocusReason;
+    update();
+    QWidget::focusInEvent(event);
+}
+
+void TrackSurface::focusOutEvent(QFocusEvent* event)
+{
+    update();
+    QWidget::focusOutEvent(event);
+}
+
+void TrackSurface::mousePressEvent(QMouseEvent* event)
+{
+    if (focusByKey)
+        update();
+    focusByKey = false;
+    event->accept();
+}
+
+} // namespace sprout

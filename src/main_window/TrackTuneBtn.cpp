@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackTuneBtn.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+#include "main_window/TrackPictures.h"
+#include "ui/Hints.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kFrame = 1;
+constexpr int kSide = kPictureSide + 2 * kFrame;
+
+} // namespace
+
+TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
+{
+    setObjectName(QStringLiteral("TrackTuneBtn"));
+    const QString hint = QtText(MainWindowHint("TrackTuneBtn"));
+    setProperty(kHintProperty, hint);
+    setAccessibleName(tr("Tune"));
+    setAccessibleDescription(hint);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    resize(kSide, kSide);
+    hide();
+}
+
+void TrackTuneBtn::SetTune(const Tune& tune)
+{
+    raised = RaisedTunePicture(tune.Picture);
+    setToolTip(tune.Name.empty() ? tr("Tune Button") : QtText(tune.Name));
+    update();
+}
+
+void TrackTuneBtn::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), isDown() ? kBark : kSun);
+    const qreal ratio = devicePixelRatioF();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
+    painter.drawImage(rect().adjusted(kFrame, kFrame, -kFrame, -kFrame), raised);
+}
+
+void TrackTuneBtn::enterEvent(QEnterEvent* event)
+{
+    ShowHint(property(kHintProperty).toString());
+    QAbstractButton::enterEvent(event);
+}
+
+void TrackTuneBtn::mouseMoveEvent(QMouseEvent* event)
+{
+    ShowHint(property(kHintProperty).toString());
+    if (Hovered)
+        Hovered();
+    QAbstractButton::mouseMoveEvent(event);
+}
+
+} // namespace sprout

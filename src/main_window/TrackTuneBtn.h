@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+#include <QImage>
+
+#include <functional>
+
+#include "core/Song.h"
+
+namespace sprout {
+
+/// The button that floats over the picture of a music track: the tune's own raised picture in a frame.
+class TrackTuneBtn : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit TrackTuneBtn(QWidget* parent);
+
+    /// Takes the tune's picture and its name, which the tip shows.
+    void SetTune(const Tune& tune);
+
+    /// Called for every move of the mouse over the button.
+    std::function<void()> Hovered;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    QImage raised;
+};
+
+} // namespace sprout
