@@ -315,6 +315,9 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
+    sprout::DrawSongWindowSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
     sprout::DrawSongWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
