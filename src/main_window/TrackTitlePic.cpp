@@ -30,6 +30,7 @@ constexpr QSize kPictureButtonSize{34, 34};
 constexpr int kPictureButtonLeft = kTrackPictureLeft - 1;
 constexpr QSize kAddButtonSize{48, 48};
 constexpr int kAddButtonLeft = (kTitleStripWidth - kAddButtonsApart - kAddButtonSize.width()) / 2;
+constexpr int kRingAround = 3;
 constexpr int kTopLblGap = 2;
 constexpr int kTopLblHeight = 22;
 
@@ -232,6 +233,7 @@ void TrackTitlePic::HideTrackButtons()
     for (QAbstractButton* button : std::array<QAbstractButton*, 4>{tuneBtn, audioBtn, deleteBtn, playBtn})
         button->hide();
     overlayShown = false;
+    update();
 }
 
 void TrackTitlePic::TuneHovered()
@@ -364,8 +366,11 @@ void TrackTitlePic::focusOutEvent(QFocusEvent* event)
 
 void TrackTitlePic::PaintOver(QPainter& painter)
 {
-    if (hasFocus() && FocusByKey() && chosenRow > 0)
-        PaintFocusRing(painter, QRect(0, RowTop(view, chosenRow), width(), kRowHeight));
+    if (!hasFocus() || !FocusByKey() || chosenRow == 0)
+        return;
+    PaintFocusRing(painter, QRect(0, RowTop(view, chosenRow), width(), kRowHeight));
+    if (const QAbstractButton* button = FloatingButton())
+        PaintFocusRing(painter, button->geometry().adjusted(-kRingAround, -kRingAround, kRingAround, kRingAround));
 }
 
 } // namespace sprout
