@@ -14,6 +14,8 @@ namespace sprout {
 inline constexpr std::int32_t kSongCells = 1280;
 /// The reference tempo, 100 percent, in cells a minute.
 inline constexpr std::int32_t kReferenceTempo = 320;
+/// In place of a track's number: the whole song, in the time band and in a play.
+inline constexpr std::int32_t kWholeSong = -1;
 
 /// One instrument: a short wave and its picture.
 struct Beat {

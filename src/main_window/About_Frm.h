@@ -11,6 +11,16 @@ class About_Frm : public BandedForm {
 
 public:
     explicit About_Frm(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QLabel& AddLine(const char* name, const QFont& font, std::string_view text);
+    void MakeLink();
+    void PlaceLines();
+
+    std::vector<QWidget*> lines; ///< from top to bottom
 };
 
 } // namespace sprout

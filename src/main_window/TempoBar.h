@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLabel>
 #include <QWidget>
+
+#include <cstdint>
 
 namespace sprout {
 
 class HintWatcher;
+class TempoPointer;
 
 /// The tempo of the shared song: slot (`TempoSliderImg`) and pointer (`TempoPrtImg`), the percentage (`TempoLbl`) and
 /// the song's duration (`SngDurLbl`).
@@ -17,6 +21,23 @@ public:
 
     /// Shows the song's tempo.
     void UpdateTempoSliderValue();
+
+    /// Takes no more than a width: in a narrow one the slot is shorter and the labels stand one above the other.
+    void FitWidth(int widthPx);
+
+Q_SIGNALS:
+    /// The song has another tempo, so that its cells last differently.
+    void TempoChanged();
+
+private:
+    void ShowLabels(std::int32_t percent, std::int32_t tempo);
+    /// The user's choice.
+    void TakePercent(std::int32_t percent);
+
+    QWidget* TempoSliderImg;
+    TempoPointer* TempoPrtImg;
+    QLabel* TempoLbl;
+    QLabel* SngDurLbl;
 };
 
 } // namespace sprout

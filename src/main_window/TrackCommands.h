@@ -2,12 +2,15 @@
 #pragma once
 
 #include <QObject>
+#include <QTimer>
 
+#include <cstdint>
 #include <functional>
 
-namespace sprout {
+#include "main_window/TrackCanvas.h"
+#include "tune_window/OpenTuneWindow.h"
 
-class TrackCanvas;
+namespace sprout {
 
 /// The commands on music tracks: add, delete, choose a tune; and the blinking of tracks without one
 /// (`TuneNotFilledTimer`).
@@ -15,7 +18,10 @@ class TrackCommands : public QObject {
     Q_OBJECT
 
 public:
-    TrackCommands(TrackCanvas& canvas, QObject* parent);
+    /// What lets the user choose a tune; see `OpenTuneWindow`.
+    using TuneChooser = std::function<bool(Tune& tune, bool& newFlag)>;
+
+    TrackCommands(TrackCanvas& canvas, QObject* parent, TuneChooser chooseTune = OpenTuneWindow);
 
     void TrackAddBtn();
     void TrackDeleteBtn();
@@ -24,6 +30,16 @@ public:
     void EnableTuneNotFilledTimer();
     /// While a song is being chosen, nothing blinks.
     void SetOpening(bool opening);
+
+private:
+    /// Returns whether the tune was changed.
+    bool ChooseTuneOf(std::int32_t track);
+    void TuneNotFilledTimerTick();
+
+    TrackCanvas& canvas;
+    TuneChooser chooseTune;
+    QTimer tuneNotFilledTimer;
+    bool songIsOpening = false;
 };
 
 } // namespace sprout

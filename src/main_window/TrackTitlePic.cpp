@@ -38,11 +38,11 @@ constexpr std::int32_t kThreeDigits = 100;
 constexpr int kSmallNumberPixels = 12;
 
 /// A place in a row where a button floats, for choosing by key.
-struct Column {
+struct StripColumn {
     std::int32_t x;
     std::int32_t y; ///< below the row's top
 };
-constexpr std::array kColumns{Column{40, 22}, Column{77, 22}, Column{118, 22}};
+constexpr std::array kStripColumns{StripColumn{40, 22}, StripColumn{77, 22}, StripColumn{118, 22}};
 constexpr std::int32_t kPlayColumn = 2;
 
 /// Runs what the window gave for a button, if it gave something.
@@ -68,8 +68,9 @@ TrackTitlePic::TrackTitlePic(const TrackView& shownView, ButtonScheme& scheme, c
     setAccessibleName(tr("Buttons of the tracks"));
     setAccessibleDescription(tr("Choose a track with up and down and its button with left and right, press Enter."));
     MakeHeadings();
-    MakeFloatingButtons();
-    MakeAddButtons();
+    MakeTuneBtn();
+    MakeButtons();
+    MakeTopLbl();
 }
 
 void TrackTitlePic::MakeHeadings()
@@ -98,9 +99,34 @@ ImageButton& TrackTitlePic::AddStripButton(const ButtonRow& row, QSize size, con
     return button;
 }
 
-void TrackTitlePic::MakeFloatingButtons()
+void TrackTitlePic::MakeButtons()
 {
     const auto hint = [](const char* name) { return MainWindowHint(name).data(); };
+    // In the order of the window's table.
+    playBtn = &AddStripButton({"TrackPlayBtn", "Play track", hint("TrackPlayBtn")}, kPlayPicSize, calls.TrackPlayBtn);
+    audioBtn =
+        &AddStripButton({"TrackAudioBtn", "Recording", hint("TrackAudioBtn")}, kPictureButtonSize, calls.TrackAudioBtn);
+    addRecBtn = &AddStripButton({"TrackAddRecBtn", "Add audio track", hint("TrackAddRecBtn")}, kAddButtonSize,
+                                calls.TrackAddRecBtn);
+    addBtn =
+        &AddStripButton({"TrackAddBtn", "Add music track", hint("TrackAddBtn")}, kAddButtonSize, calls.TrackAddBtn);
+    deleteBtn = &AddStripButton({"TrackDeleteBtn", "Delete track", hint("TrackDeleteBtn"), Plate::Title},
+                                kDeleteButtonPicSize, calls.TrackDeleteBtn);
+    // By keyboard they are reached through the strip.
+    for (ImageButton* button : {audioBtn, deleteBtn, playBtn}) {
+        button->setFocusPolicy(Qt::NoFocus);
+        button->hide();
+    }
+    audioBtn->installEventFilter(this);
+    setTabOrder(addBtn, addRecBtn);
+    for (ImageButton* button : {addBtn, addRecBtn}) {
+        button->show();
+        button->installEventFilter(this);
+    }
+}
+
+void TrackTitlePic::MakeTuneBtn()
+{
     tuneBtn = new TrackTuneBtn(this);
     tuneBtn->setAttribute(Qt::WA_NoMousePropagation);
     tuneBtn->Hovered = [this] { TuneHovered(); };
@@ -108,30 +134,10 @@ void TrackTitlePic::MakeFloatingButtons()
         ShowHint({});
         RunCall(calls.TrackTuneBtn);
     });
-    audioBtn =
-        &AddStripButton({"TrackAudioBtn", "Recording", hint("TrackAudioBtn")}, kPictureButtonSize, calls.TrackAudioBtn);
-    deleteBtn = &AddStripButton({"TrackDeleteBtn", "Delete track", hint("TrackDeleteBtn"), Plate::Title},
-                                kDeleteButtonPicSize, calls.TrackDeleteBtn);
-    playBtn = &AddStripButton({"TrackPlayBtn", "Play track", hint("TrackPlayBtn")}, kPlayPicSize, calls.TrackPlayBtn);
-    // By keyboard they are reached through the strip.
-    for (ImageButton* button : {audioBtn, deleteBtn, playBtn}) {
-        button->setFocusPolicy(Qt::NoFocus);
-        button->hide();
-    }
-    audioBtn->installEventFilter(this);
 }
 
-void TrackTitlePic::MakeAddButtons()
+void TrackTitlePic::MakeTopLbl()
 {
-    const auto hint = [](const char* name) { return MainWindowHint(name).data(); };
-    addBtn =
-        &AddStripButton({"TrackAddBtn", "Add music track", hint("TrackAddBtn")}, kAddButtonSize, calls.TrackAddBtn);
-    addRecBtn = &AddStripButton({"TrackAddRecBtn", "Add audio track", hint("TrackAddRecBtn")}, kAddButtonSize,
-                                calls.TrackAddRecBtn);
-    for (ImageButton* button : {addBtn, addRecBtn}) {
-        button->show();
-        button->installEventFilter(this);
-    }
     topLbl = new QLabel(tr("Add a track"), this);
     topLbl->setObjectName(QStringLiteral("TrackTopLbl"));
     topLbl->setFont(HintFont());
@@ -316,13 +322,13 @@ void TrackTitlePic::ChooseRow(std::int32_t track)
 
 void TrackTitlePic::ChooseColumn(std::int32_t step)
 {
-    chosenColumn = std::clamp(chosenColumn + step, 0, static_cast<std::int32_t>(kColumns.size()) - 1);
+    chosenColumn = std::clamp(chosenColumn + step, 0, static_cast<std::int32_t>(kStripColumns.size()) - 1);
     ChooseRow(chosenRow);
 }
 
 void TrackTitlePic::ShowChosen()
 {
-    const Column& column = kColumns[static_cast<std::size_t>(chosenColumn)];
+    const StripColumn& column = kStripColumns[static_cast<std::size_t>(chosenColumn)];
     HoverAt(column.x, RowTop(view, chosenRow) + column.y);
     if (QAbstractButton* button = FloatingButton()) {
         setAccessibleName(tr("Track %1, %2").arg(chosenRow).arg(button->accessibleName()));

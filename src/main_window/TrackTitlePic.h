@@ -68,8 +68,9 @@ private:
     };
 
     void MakeHeadings();
-    void MakeFloatingButtons();
-    void MakeAddButtons();
+    void MakeTuneBtn();
+    void MakeButtons();
+    void MakeTopLbl();
     ImageButton& AddStripButton(const ButtonRow& row, QSize size, const std::function<void()>& onClick);
     void TuneHovered();
 

@@ -45,7 +45,8 @@ void TrackTuneBtn::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), isDown() ? kSun : kBark);
     const qreal ratio = devicePixelRatioF();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
-    painter.drawImage(rect().adjusted(kTuneButtonFrame, kTuneButtonFrame, -kTuneButtonFrame, -kTuneButtonFrame), raised);
+    painter.drawImage(rect().adjusted(kTuneButtonFrame, kTuneButtonFrame, -kTuneButtonFrame, -kTuneButtonFrame),
+                      raised);
 }
 
 void TrackTuneBtn::enterEvent(QEnterEvent* event)

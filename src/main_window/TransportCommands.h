@@ -1,18 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLabel>
 #include <QObject>
+#include <QPointer>
+#include <QTimer>
 
 #include <cstdint>
-#include <functional>
 
+#include "core/Song.h"
+#include "main_window/TrackCanvas.h"
 #include "service/PlayDisplay.h"
 
-class QLabel;
-
 namespace sprout {
-
-class TrackCanvas;
 
 /// Hears the song, a track or a tune, and follows what plays: the transport commands of the main window with their
 /// timers (`PlayPosTimer`, `TrackTitlePlayTimer`). It is what the player shows its plays on.
@@ -38,6 +38,21 @@ public:
     void ShowSoundStatus(std::string_view text) override;
     void EnablePlayPosTimer() override;
     void UpdateThisTune() override;
+
+private:
+    void PlayPosTimerTick();
+    void MovePlayIndicator();
+    void PlayIndicatorOff();
+
+    void TrackTitlePlayTimerTick();
+    /// What sounds now; returns the milliseconds until the next look.
+    [[nodiscard]] int PlayHovered();
+
+    QPointer<TrackCanvas> canvas;
+    QPointer<QLabel> soundStatusLbl;
+    QTimer playPosTimer;
+    QTimer trackTitlePlayTimer;
+    bool titlePlayBusy = false; ///< a message or a long render inside a tick lets others come
 };
 
 } // namespace sprout

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QLineEdit>
+#include <QListWidget>
+
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "song_window/rules/SongChoice.h"
+#include "song_window/rules/SongFiles.h"
 #include "ui/BandedForm.h"
 
 namespace sprout {
-
-enum class SongSelMode { Open = 1, Save = 2, New = 3 };
 
 /// The song window: lists the songs of `UserSongs`; opens, saves or names one. It loads and saves nothing itself.
 class SongSelFrm : public BandedForm {
@@ -25,6 +29,53 @@ public:
     /// After the window has closed: left with OK, and the song's name.
     bool Ok = false;
     std::string ChosenName;
+
+    /// Closes the window without OK.
+    void reject() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void MakeLabels();
+    void MakeList();
+    void MakeNameBox();
+    void MakeButtons();
+    void PlaceControls();
+    void PlaceNameBox(int top);
+    void PlaceRow(int top);
+    void PlaceColumn(int top, int bottom);
+
+    void LoadSongNames();
+    [[nodiscard]] int SelectedRow() const;
+    void SelectRow(int row);
+    void TakeSelectedName();
+    [[nodiscard]] bool IsSongSelected(std::string_view message);
+
+    void ClickOk();
+    void OpenSelected();
+    void AcceptTypedName();
+    [[nodiscard]] bool MayOverwrite(std::string_view name);
+    void Accept(std::string_view name);
+    void CopySelected();
+    void DeleteSelected();
+    void RenameSelected();
+    void ClickHelp();
+    /// Runs a command on files; an error is told after `text`.
+    void Try(std::string_view text, void (SongSelFrm::*command)());
+
+    SongSelMode mode = SongSelMode::Open;
+    std::vector<SongFile> songs; ///< in the order of the list
+    QLabel* ModePic = nullptr;
+    QLabel* ListTitleLbl = nullptr;
+    QLabel* TextTitleLbl = nullptr;
+    QLabel* SongNmLbl = nullptr;
+    QListWidget* SngNmLst = nullptr;
+    QLineEdit* SongNameTxt = nullptr;
+    ImageButton* OkBtn = nullptr;
+    ImageButton* CancelBtn = nullptr;
+    std::vector<ImageButton*> columnButtons;
+    std::vector<ImageButton*> soundFileButtons;
 };
 
 } // namespace sprout

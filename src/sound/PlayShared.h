@@ -5,13 +5,12 @@
 #include <cstdint>
 #include <vector>
 
+#include "core/Song.h"
+
 namespace sprout {
 
 enum class PlayState : std::int32_t { Stopped = 0, Playing = 1, PlayingLoop = 2, Paused = 3 };
 enum class PlayKind : std::int32_t { Other = 0, SongOrTrack = 1, Recording = 2 };
-
-/// `PlayingTrack` of a play of the whole song.
-inline constexpr std::int32_t kWholeSong = -1;
 
 /// What the player and the windows know of the sound in play.
 struct PlayModState {

@@ -33,15 +33,17 @@ void Write_Tune_File(const LongsWriter& data, const fs::path& path, Flush flush)
     TheServices().files->ReplaceFile(path, pieces, flush);
 }
 
-void LoadVersion(Tune& tune, const fs::path& path, TuneLoad mode)
+bool LoadVersion(Tune& tune, const fs::path& path, TuneLoad mode)
 {
     FileSource source(path);
     const auto version = static_cast<float>(NumberPrefix(HeadValue(source, "File Version", "0")));
     tune = Tune();
     if (version == 2.0F)
-        Load_Tune_V20(tune, source, path, mode);
-    else if (version == 0.0F)
-        Load_Tune_V00(tune, path, mode);
+        return Load_Tune_V20(tune, source, path, mode);
+    if (version != 0.0F)
+        return false;
+    Load_Tune_V00(tune, path, mode);
+    return true;
 }
 
 } // namespace
@@ -54,16 +56,19 @@ void TunOpnSavClass::Save_Tune(const fs::path& path)
         WriteTuneCache(tune, path);
 }
 
-void TunOpnSavClass::Load_Tune(const fs::path& path, TuneLoad mode)
+bool TunOpnSavClass::Load_Tune(const fs::path& path, TuneLoad mode)
 {
     Tune& tune = Shared().TuneClipboard;
     const fs::path file = FindFile(path);
-    if (file.empty())
-        return ResetTune(tune);
+    if (file.empty()) {
+        ResetTune(tune);
+        return false;
+    }
     try {
-        LoadVersion(tune, file, mode);
+        return LoadVersion(tune, file, mode);
     } catch (const std::exception& error) {
         TheServices().messages->MessageBox("Error Opening File", ErrorText(error));
+        return false;
     }
 }
 

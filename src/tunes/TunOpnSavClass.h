@@ -30,9 +30,10 @@ public:
 
     /// Fills `TuneClipboard` from a file of the current or the old form. Failures are told in a message; the clipboard
     /// then holds what was read so far. A missing file gives a blank tune, one of another version an empty record.
+    /// Returns whether the clipboard holds all that was asked for.
     ///
     /// `TuneLoad::List` costs the reading of the head, whatever the file holds.
-    void Load_Tune(const std::filesystem::path& path, TuneLoad mode = TuneLoad::All);
+    bool Load_Tune(const std::filesystem::path& path, TuneLoad mode = TuneLoad::All);
 
 private:
     Flush saveFlush;

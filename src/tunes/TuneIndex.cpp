@@ -8,6 +8,7 @@
 #include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/Text.h"
 
 namespace sprout {
 
@@ -37,8 +38,11 @@ std::int32_t TuneIndex::Place(std::string_view name) const
 void TuneIndex::SetOrder(std::span<const std::string> names)
 {
     std::int32_t place = 0;
-    for (const std::string& name : names)
-        ini.SetValue(kSortOrder, name, std::to_string(++place));
+    for (const std::string& name : names) {
+        ++place;
+        if (!Trim(name).empty())
+            ini.SetValue(kSortOrder, name, std::to_string(place));
+    }
 }
 
 void TuneIndex::Write() const

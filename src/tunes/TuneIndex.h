@@ -24,8 +24,12 @@ public:
     /// The place of a name, in any letter case; `kNoPlace` where it has none.
     [[nodiscard]] std::int32_t Place(std::string_view name) const;
 
-    /// Gives the names the places 1, 2, ...; other names keep theirs.
+    /// Gives the names the places 1, 2, ...; other names keep theirs. The place of a blank name stays free.
     void SetOrder(std::span<const std::string> names);
+
+    /// The whole file, of which the order is one section.
+    [[nodiscard]] IniFile& Ini() { return ini; }
+    [[nodiscard]] const IniFile& Ini() const { return ini; }
 
     /// Writes the order back, keeping whatever else the file holds. A failure is silent, as in a read-only folder.
     void Write() const;

@@ -110,17 +110,20 @@ void ReadTune(LongsReader& data, Tune& tune, const fs::path& path, TuneLoad mode
 
 } // namespace
 
-void Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoad mode)
+bool Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoad mode)
 {
     try {
         const std::optional<std::uint64_t> begin = FindHeadData(source);
-        if (!begin)
-            return Tell("Failed to find Data");
-        LongsReader data(source, *begin);
-        ReadTune(data, tune, path, mode);
+        if (begin) {
+            LongsReader data(source, *begin);
+            ReadTune(data, tune, path, mode);
+            return true;
+        }
+        Tell("Failed to find Data");
     } catch (const std::exception& error) {
         Tell(ErrorText(error));
     }
+    return false;
 }
 
 } // namespace sprout

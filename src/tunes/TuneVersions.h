@@ -13,8 +13,8 @@ namespace sprout {
 // The tune file's forms, each in a file of its own; `TunOpnSavClass` chooses between them.
 
 /// Fills an empty tune from a file of the current form. path: of the tune, for its name, stamp and cache. Failures are
-/// told in a message; `tune` then holds what was read so far.
-void Load_Tune_V20(Tune& tune, ByteSource& source, const std::filesystem::path& path, TuneLoad mode);
+/// told in a message; `tune` then holds what was read so far, and the result is false.
+bool Load_Tune_V20(Tune& tune, ByteSource& source, const std::filesystem::path& path, TuneLoad mode);
 
 /// Fills an empty tune from a file of the old form, of which every mode but `TuneLoad::All` reads what a list needs.
 /// Throws `RunTimeError` for a number beyond all numbers.

@@ -11,8 +11,10 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <iterator>
 
 #include "ui/Artwork.h"
+#include "ui/HelpFrm.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
@@ -159,12 +161,15 @@ void BandedForm::paintEvent(QPaintEvent* /*event*/)
 
 void BandedForm::PaintVine(QPainter& painter) const
 {
-    const int left = width() - kVineSide - 2;
-    const bool buttonsReachIt = !wordButtons.empty() && wordButtons.back()->geometry().right() > left + kVineSide / 4;
-    if (!buttonsReachIt)
-        painter.drawPixmap(
-            left, height() - kVineSide - 2,
-            Artwork(QStringLiteral("pictures/FormVine"), QSize(kVineSide, kVineSide), devicePixelRatioF()));
+    const QRect vine(width() - kVineSide - 2, height() - kVineSide - 2, kVineSide, kVineSide);
+    const QRect leaves = vine.adjusted(kVineSide / 4, 0, 0, 0);
+    const auto parts = findChildren<const QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    const bool isCovered = std::any_of(parts.begin(), parts.end(), [&leaves](const QWidget* part) {
+        return !part->isWindow() && !part->isHidden() && part->geometry().intersects(leaves);
+    });
+    if (!isCovered)
+        painter.drawPixmap(vine.topLeft(),
+                           Artwork(QStringLiteral("pictures/FormVine"), vine.size(), devicePixelRatioF()));
 }
 
 void BandedForm::PaintBand(QPainter& painter) const
@@ -222,6 +227,9 @@ void BandedForm::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Down:
         FocusNeighbour(1);
         break;
+    case Qt::Key_F1:
+        ShowHelp();
+        break;
     default:
         QDialog::keyPressEvent(event);
     }
@@ -229,13 +237,15 @@ void BandedForm::keyPressEvent(QKeyEvent* event)
 
 void BandedForm::FocusNeighbour(int step)
 {
-    const auto count = static_cast<int>(wordButtons.size());
-    const auto focused = std::find(wordButtons.begin(), wordButtons.end(), focusWidget());
+    std::vector<ImageButton*> usable;
+    std::copy_if(wordButtons.begin(), wordButtons.end(), std::back_inserter(usable),
+                 [](const ImageButton* button) { return button->isVisible() && button->isEnabled(); });
+    const auto count = static_cast<int>(usable.size());
+    const auto focused = std::find(usable.begin(), usable.end(), focusWidget());
     if (count == 0)
         return;
-    const auto at =
-        focused == wordButtons.end() ? (step > 0 ? -1 : 0) : static_cast<int>(focused - wordButtons.begin());
-    wordButtons[static_cast<std::size_t>((at + step + count) % count)]->setFocus(Qt::TabFocusReason);
+    const auto at = focused == usable.end() ? (step > 0 ? -1 : 0) : static_cast<int>(focused - usable.begin());
+    usable[static_cast<std::size_t>((at + step + count) % count)]->setFocus(Qt::TabFocusReason);
 }
 
 } // namespace sprout

@@ -57,28 +57,29 @@ QPixmap WordPlate(const QPixmap& square, QSize size)
 } // namespace
 
 ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal, QWidget* parent)
-    : QAbstractButton(parent),
-      scheme(owner),
-      number(ordinal),
-      plate(row.plate),
-      plateColour(row.plateColour),
-      hint(QString::fromUtf8(row.hint))
+    : QAbstractButton(parent), scheme(owner), number(ordinal), plate(row.plate), plateColour(row.plateColour)
 {
     setObjectName(QString::fromLatin1(row.name));
     setText(QCoreApplication::translate("ImageButton", row.spokenName));
     setAccessibleName(text());
-    setAccessibleDescription(hint);
+    SetHint(QString::fromUtf8(row.hint));
     if (row.glyph)
         glyph = QStringLiteral("buttons/") + QString::fromLatin1(row.glyph);
     else if (plate != Plate::Word)
         glyph = QStringLiteral("buttons/") + objectName();
-    setProperty(kHintProperty, hint);
     setFont(ButtonFont());
     setMouseTracking(true);
     // The pointer leaves the focus where it is, so that a text box keeps the caret while a button is clicked.
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover, false);
     resize(sizeHint());
+}
+
+void ImageButton::SetHint(const QString& text)
+{
+    hint = text;
+    setAccessibleDescription(hint);
+    setProperty(kHintProperty, hint);
 }
 
 void ImageButton::SetFace(ButtonFace newFace)

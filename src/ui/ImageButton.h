@@ -36,6 +36,7 @@ public:
     /// The button's number in its scheme's table.
     [[nodiscard]] int Number() const { return number; }
     [[nodiscard]] QString Hint() const { return hint; }
+    void SetHint(const QString& text);
 
     [[nodiscard]] QSize sizeHint() const override;
 

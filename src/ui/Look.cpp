@@ -25,7 +25,10 @@ QLineEdit, QComboBox, QListWidget {
     background: white; color: #4A2F22; border: 2px solid #6B655C; border-radius: 8px; padding: 1px 6px;
     selection-background-color: #1F6FA8; selection-color: white; }
 QLineEdit:focus, QComboBox:focus, QListWidget:focus { border-color: #1F6FA8; }
-QListWidget::item { padding: 2px 4px; }
+QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right; width: 26px; border: none; }
+QComboBox::down-arrow { image: url(:/art/pictures/DropArrow.svg); width: 14px; height: 14px; }
+QListWidget { outline: none; }
+QListWidget::item { padding: 2px 4px; border: none; }
 QListWidget::item:selected { background: #1F6FA8; color: white; }
 QToolTip { background: #FFF8E7; color: #4A2F22; border: 1px solid #4A2F22; padding: 2px 6px; }
 QMenu { background: #FFF8E7; color: #4A2F22; border: 2px solid #4A2F22; padding: 4px; }

@@ -11,6 +11,10 @@
 #include <functional>
 #include <memory>
 
+#include "BeatWindowSheets.h"
+#include "SongWindowSheets.h"
+#include "StepEditorSheets.h"
+#include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Look.h"
@@ -163,9 +167,9 @@ private:
     static QSize SizeOf(const QString& name)
     {
         if (name == QStringLiteral("TempoSliderImg"))
-            return {180, 28};
+            return {184, 28};
         if (name == QStringLiteral("TempoPrtImg"))
-            return {24, 28};
+            return {30, 35};
         if (name == QStringLiteral("TimeSlide"))
             return {200, 15};
         if (name.startsWith(QStringLiteral("BusyMark")))
@@ -313,5 +317,9 @@ int main(int argc, char** argv)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
+    sprout::DrawBeatWindowSheets(folder);
+    sprout::DrawSongWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
     return 0;
 }

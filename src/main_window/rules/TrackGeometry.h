@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "core/Song.h"
+
 namespace sprout {
 
 // The two surfaces of the track canvas, in logical pixels from their top left: the title strip and the painting
@@ -16,9 +18,6 @@ inline constexpr std::int32_t kPaintTop = 7; ///< of the painted area, below the
 inline constexpr std::int32_t kPaintHeight = 32;
 inline constexpr std::int32_t kBackgroundTop = 2; ///< of the row's background, below the row's top
 inline constexpr std::int32_t kBackgroundHeight = 42;
-
-/// Number of what stands for the whole song: the time band, and a mix that plays.
-inline constexpr std::int32_t kWholeSong = -1;
 
 /// What is scrolled into view, and the sizes of the surfaces.
 struct TrackView {

@@ -43,4 +43,14 @@ struct GridScroll {
 /// The range of the scroll bar: rows less those that fit, the last of which stays free.
 [[nodiscard]] GridScroll GridScrollRange(const PictureGrid& grid);
 
+/// Where the keyboard can go from a picture.
+enum class GridStep { Left, Right, Up, Down, PageUp, PageDown, First, Last };
+
+/// The picture that a step from `index` leads to, itself where the grid ends; from 0, which is none, the first one.
+/// 0 where the grid is empty.
+[[nodiscard]] std::int32_t NeighbourInGrid(const PictureGrid& grid, std::int32_t index, GridStep step);
+
+/// The top row with which a picture is in view, as near to the present one as can be.
+[[nodiscard]] std::int32_t TopRowShowing(const PictureGrid& grid, std::int32_t index);
+
 } // namespace sprout

@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+#include <memory>
+
+#include "app/start/StartUp.h"
+#include "main_window/MainFrm.h"
+#include "main_window/OpenMainWindow.h"
+#include "main_window/TransportCommands.h"
+#include "service/Services.h"
+#include "service/posix/PosixFiles.h"
+#include "service/posix/PosixMachine.h"
+#include "service/qt/QtPictureFiles.h"
+#include "service/sdl/SdlSoundOutput.h"
+#include "service/stretch/StretchService.h"
+#include "service/xdg/XdgDesktop.h"
+#include "sound/PlayMod.h"
+#include "ui/Look.h"
+#include "ui/ProgramPictures.h"
+#include "ui/QtMessages.h"
+#include "ui/QtScreen.h"
+
+namespace sprout {
+namespace {
+
+/// Qt ends a program that finds no display with a long text and an abort; a user is better told what is missing.
+void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/)
+{
+    if (type != QtFatalMsg)
+        return;
+    std::fputs("Sprout Painter needs a display: start it from a desktop, or set DISPLAY.\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
+/// The machine, as the program finds it. The player, which holds a sound device, goes before it does.
+class ProgramServices {
+public:
+    ProgramServices()
+    {
+        TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
+    }
+    ProgramServices(const ProgramServices&) = delete;
+    ProgramServices& operator=(const ProgramServices&) = delete;
+    ~ProgramServices() { ReleasePlayer(); }
+
+    QtScreen screen;
+    TransportCommands transport{nullptr};
+
+private:
+    QtMessages messages;
+    PosixFiles files;
+    PosixMachine machine;
+    XdgDesktop desktop;
+    QtPictureFiles pictures;
+    std::unique_ptr<Stretch> stretch = MakeStretch();
+    SdlSoundOutput sound;
+};
+
+int RunProgram()
+{
+    ProgramServices services;
+    MakeProgramPictures();
+    RunStartUp();
+    MainFrm window(services.transport);
+    services.screen.SetProcessPic(&window.WorkingSign());
+    services.screen.SetTuneNotFilledTimer([&window] { window.EnableTuneNotFilledTimer(); });
+    QObject::connect(
+        &window, &MainFrm::Unloaded, qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    OpenMainWindow(window);
+    return QApplication::exec();
+}
+
+} // namespace
+} // namespace sprout
+
+int main(int argc, char** argv)
+{
+    const QtMessageHandler handler = qInstallMessageHandler(sprout::TellNoDisplay);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(handler);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationName(QStringLiteral("sprout-painter"));
+    sprout::ApplyLook(application);
+    return sprout::RunProgram();
+}

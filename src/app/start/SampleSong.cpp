@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/start/SampleSong.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "core/Numbers.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Files.h"
+#include "service/Services.h"
+#include "songs/OpenSaveClass.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kSampleSong = "Zumi";
+
+fs::path StartCountFile()
+{
+    return Shared().UserRoot / ".SproutStarts";
+}
+
+int StartsSoFar()
+{
+    std::ifstream file(StartCountFile(), std::ios::binary);
+    std::array<char, 8> text{};
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    const double starts = NumberPrefix(std::string_view(text.data(), static_cast<std::size_t>(file.gcount())));
+    return static_cast<int>(std::clamp<double>(starts, 0, kFirstStarts));
+}
+
+/// Counts this start, as long as it matters.
+bool IsFirstStart()
+{
+    const int starts = StartsSoFar();
+    if (starts >= kFirstStarts)
+        return false;
+    const std::string text = std::to_string(starts + 1);
+    const std::array piece{std::as_bytes(std::span(text))};
+    try {
+        TheServices().files->ReplaceFile(StartCountFile(), piece, Flush::No);
+    } catch (const std::exception&) {
+        return true;
+    }
+    return true;
+}
+
+} // namespace
+
+bool OpenSampleSong()
+{
+    try {
+        const fs::path file = NamedFile(Shared().UserSongs, kSampleSong, ".TqSng");
+        if (!IsFirstStart() || !FileExists(file))
+            return false;
+        OpenSaveClass().Load_Song(file);
+        Shared().Song.SongTitle = kSampleSong;
+        return true;
+    } catch (const std::exception&) {
+        return false;
+    }
+}
+
+} // namespace sprout

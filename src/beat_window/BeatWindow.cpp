@@ -1,0 +1,318 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "beat_window/BeatWindow.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <exception>
+
+#include "core/Busy.h"
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Messages.h"
+#include "sound/PlayMod.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kMargin = 16;
+constexpr int kGridRows = 8;
+constexpr int kNoteTop = 8;
+constexpr int kNoteHeight = 26;
+constexpr int kGap = 8;
+constexpr int kRowGap = 12;
+constexpr int kNameHeight = 48; // two lines
+constexpr int kDurationHeight = 46;
+
+constexpr std::string_view kNote = "Click on a picture to choose a beat";
+constexpr std::string_view kSelectHint = "Click on a picture to select a beat";
+
+struct PlainHint {
+    const char* name;
+    std::string_view hint;
+};
+
+constexpr std::array kHints{
+    PlainHint{"ShowAllPic", "Click on a picture to choose a beat"},
+    PlainHint{"BlinkSelectImg", "This is the chosen Beat. Click on it to play"},
+    PlainHint{"ChoosenPic", "That shows the selected beat, click on it to play this beat"},
+    PlainHint{"NmLbl", "That shows the name of the selected beat"},
+    PlainHint{"DurLbl", "That shows the duration of the selected beat"},
+};
+
+void HintBeat(std::string_view text)
+{
+    ShowHint(QtText(text));
+}
+
+} // namespace
+
+BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
+{
+    setObjectName(QStringLiteral("BeatWindow"));
+    SetCaption(" Choose a Beat");
+    MakeLabels();
+    MakeGrid();
+    MakeChoice();
+    MakeButtons();
+    MakeMoveMnu();
+    PlaceControls();
+    for (const PlainHint& row : kHints)
+        Watcher().Watch(*findChild<QWidget*>(QString::fromLatin1(row.name)), row.hint);
+    ShowAllPic->setFocus();
+}
+
+void BeatWindow::MakeLabels()
+{
+    NoteLbl = &AddLabel("NoteLbl");
+    NmLbl = new NameLabel(this);
+    NmLbl->setObjectName(QStringLiteral("NmLbl"));
+    DurLbl = &AddLabel("DurLbl");
+    DurLbl->setWordWrap(true);
+    DurLbl->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+}
+
+void BeatWindow::MakeGrid()
+{
+    ShowAllPic = new PictureGridPic(kBeatColumns, this);
+    ShowAllPic->setObjectName(QStringLiteral("ShowAllPic"));
+    ShowAllPic->setAccessibleName(tr("Beats"));
+    connect(ShowAllPic, &PictureGridPic::Pressed, this,
+            [this](int index, Qt::MouseButton button, QPoint at) { Guarded([&] { PressGrid(index, button, at); }); });
+}
+
+void BeatWindow::MakeChoice()
+{
+    ChoosenPic = new ChoosenPicture(this);
+    connect(ChoosenPic, &QAbstractButton::clicked, this, [this] { Guarded([this] { ClickPlay(); }); });
+}
+
+void BeatWindow::MakeButtons()
+{
+    OkBtn = &AddWordButton({"OkBtn", "OK", "Click Ok after choosing a beat", Plate::Word, kDeepLeaf},
+                           [this] { Guarded([this] { ClickOk(); }); });
+    CancelBtn = &AddWordButton({"CancelBtn", "Cancel", "", Plate::Word, kStone}, [this] { reject(); });
+    TestPlayBtn = &AddWordButton(
+        {"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "TrackPlayBtn"},
+        [this] { Guarded([this] { ClickPlay(); }); });
+    columnButtons = {
+        &AddWordButton({"AddBtn", "Add", "Adds more beats with your wav file", Plate::Word, kLink, "WordAdd"},
+                       [this] { Try("Error adding beat", &BeatWindow::AddBeat); }),
+        &AddWordButton({"RenameBtn", "Rename", "Renames the beat", Plate::Word, kLink, "WordRename"},
+                       [this] { Try("Error renaming beat", &BeatWindow::RenameBeat); }),
+        &AddWordButton(
+            {"DeleteBtn", "Delete", "This button will deletes the selected beat", Plate::Word, kCoral, "WordDelete"},
+            [this] { Try("Error deleting beat", &BeatWindow::DeleteBeat); })};
+    HelpBtn = &AddWordButton({"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, [this] { ClickHelp(); });
+}
+
+void BeatWindow::MakeMoveMnu()
+{
+    PopPosiMnu = new QMenu(this);
+    PopPosiMnu->setObjectName(QStringLiteral("PopPosiMnu"));
+    for (std::size_t i = 0; i < MoveMnu.size(); ++i) {
+        MoveMnu[i] = PopPosiMnu->addAction(QtText(kBeatMoveCaptions[i]));
+        connect(MoveMnu[i], &QAction::triggered, this,
+                [this, i] { Guarded([this, i] { MoveSelected(static_cast<BeatMove>(i)); }); });
+    }
+}
+
+void BeatWindow::PlaceControls()
+{
+    const int gridTop = kNoteTop + kNoteHeight + kGap / 2;
+    const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kMargin, gridTop), kGridRows);
+    NoteLbl->setGeometry({BodyPoint(kMargin, kNoteTop), QSize(grid.width(), kNoteHeight)});
+    int columnWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
+    for (const ImageButton* button : columnButtons)
+        columnWidth = std::max(columnWidth, button->sizeHint().width());
+    const QRect column(grid.right() + 1 + kMargin, grid.top(), columnWidth, grid.height());
+    PlaceChoice(column);
+    PlaceColumn(column);
+    const int rowTop = grid.bottom() + 1 + kRowGap;
+    OkBtn->move(kMargin, rowTop);
+    CancelBtn->move(kMargin + OkBtn->width() + kRowGap, rowTop);
+    HelpBtn->setGeometry(column.left(), rowTop, columnWidth, HelpBtn->height());
+    resize(column.right() + 1 + kMargin, rowTop + OkBtn->height() + kRowGap);
+}
+
+/// The picture and the play button side by side at the top, the name and the duration below.
+void BeatWindow::PlaceChoice(const QRect& column)
+{
+    const int pairWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
+    const int left = column.left() + (column.width() - pairWidth) / 2;
+    ChoosenPic->move(left, column.top());
+    TestPlayBtn->move(left + ChoosenPic->width() + kGap,
+                      column.top() + (ChoosenPic->height() - TestPlayBtn->height()) / 2);
+    const int nameTop = column.top() + ChoosenPic->height() + kGap / 2;
+    NmLbl->setGeometry(column.left(), nameTop, column.width(), kNameHeight);
+    DurLbl->setGeometry(column.left(), nameTop + kNameHeight, column.width(), kDurationHeight);
+}
+
+/// The buttons stand on the grid's lower edge.
+void BeatWindow::PlaceColumn(const QRect& column)
+{
+    int bottom = column.bottom() + 1;
+    for (auto button = columnButtons.rbegin(); button != columnButtons.rend(); ++button) {
+        (*button)->setGeometry(column.left(), bottom - (*button)->height(), column.width(), (*button)->height());
+        bottom -= (*button)->height() + kGap;
+    }
+}
+
+void BeatWindow::LoadBeatFiles()
+{
+    const Hourglass hourglass;
+    sprout::LoadBeatFiles(table, ChosenBeatName);
+    FillGrid();
+    ShowAllPic->SetTopRow(1);
+    RefreshShowAllPic();
+}
+
+void BeatWindow::FillGrid()
+{
+    std::vector<GridEntry> entries;
+    entries.reserve(table.BeatList.size());
+    for (std::int32_t i = 1; i <= table.BeatListCount; ++i) {
+        const Beat& beat = At(table.BeatList, i);
+        entries.push_back({beat.Picture, beat.Name, table.BeatProtected[static_cast<std::size_t>(i)]});
+    }
+    ShowAllPic->SetEntries(entries);
+}
+
+void BeatWindow::RefreshShowAllPic()
+{
+    ShowAllPic->SetSelected(table.SelectedBeat);
+    ShowAllPic->RefreshShowAllPic();
+    if (table.BeatListCount == 0)
+        ShowNoBeats();
+    else if (HasSelection(table))
+        ShowChoice();
+    else
+        ShowNoChoice();
+}
+
+void BeatWindow::ShowNoBeats()
+{
+    NoteLbl->setText(tr("No beat file found"));
+    ShowAllPic->SetLines({tr(" No beat file found to show here."),
+                          tr(" Beats folder: %1").arg(QtText(PathText(Shared().UserBeats))),
+                          tr(" This needs beat '.wav' file and 32x32 picture '.bmp' file as pair."),
+                          tr(" Please reinstall the software.")});
+    ChoosenPic->ShowPicture({});
+    NmLbl->ShowName(tr("[none]"));
+    DurLbl->setText(QStringLiteral(" "));
+}
+
+void BeatWindow::ShowChoice()
+{
+    NoteLbl->setText(QtText(kNote));
+    NmLbl->ShowName(QtText(SelectedEntry(table).Name));
+    ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
+    LoadSelectedSound(table);
+    DurLbl->setText(QtText(DurationText(SelectedEntry(table).Sound)));
+}
+
+void BeatWindow::ShowNoChoice()
+{
+    NoteLbl->setText(QtText(kNote));
+    NmLbl->ShowName(tr("[none]"));
+    DurLbl->setText(QStringLiteral(" "));
+    ChoosenPic->ShowPicture({});
+}
+
+void BeatWindow::PressGrid(int index, Qt::MouseButton button, QPoint at)
+{
+    if (index != 0)
+        table.SelectedBeat = index;
+    RefreshShowAllPic();
+    if (index == 0)
+        return;
+    if (button == Qt::LeftButton)
+        PlaySelectedBeat();
+    else if (button == Qt::RightButton)
+        OpenMoveMnu(at);
+}
+
+void BeatWindow::OpenMoveMnu(QPoint at)
+{
+    for (std::size_t i = 0; i < MoveMnu.size(); ++i)
+        MoveMnu[i]->setEnabled(MoveTarget(table, static_cast<BeatMove>(i)) != 0);
+    PopPosiMnu->popup(at);
+}
+
+void BeatWindow::MoveSelected(BeatMove move)
+{
+    if (!MoveBeat(table, move))
+        return;
+    FillGrid();
+    RefreshShowAllPic();
+}
+
+void BeatWindow::PlaySelectedBeat()
+{
+    if (!HasSelection(table))
+        return;
+    LoadSelectedSound(table);
+    PlayWaveStatus(SelectedEntry(table).Sound, "Playing Beat", Loop::No);
+}
+
+void BeatWindow::ClickPlay()
+{
+    if (HasSelection(table))
+        return PlaySelectedBeat();
+    HintBeat(kSelectHint);
+    ShowMessage("Select a Beat first.");
+    HintBeat("");
+}
+
+void BeatWindow::ClickOk()
+{
+    Player().StopPlay();
+    SaveBeatOrder(table);
+    OkPressed = HasSelection(table);
+    if (OkPressed)
+        ChosenBeatName = SelectedEntry(table).Name;
+    LeaveWindow();
+    Answer(OkPressed ? 1 : 0);
+}
+
+void BeatWindow::reject()
+{
+    Guarded([] { Player().StopPlay(); });
+    OkPressed = false;
+    LeaveWindow();
+    BandedForm::reject();
+}
+
+void BeatWindow::LeaveWindow()
+{
+    table.SelectedBeat = 0;
+    HintBeat("");
+    ShowAllPic->BlinkSelectedTimer().stop();
+}
+
+void BeatWindow::ClickHelp()
+{
+    QKeyEvent help(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
+    QCoreApplication::sendEvent(this, &help);
+}
+
+void BeatWindow::Try(std::string_view text, void (BeatWindow::*command)())
+{
+    try {
+        (this->*command)();
+    } catch (const std::exception& error) {
+        TheServices().messages->MessageBox("", std::string(text) + "\r\n" + ErrorText(error));
+        // A part of it may have been done: the list shows what the folder holds now.
+        Guarded([this] { LoadBeatFiles(); });
+    }
+}
+
+} // namespace sprout

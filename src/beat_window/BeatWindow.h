@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMenu>
+
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "beat_window/ChoosenPicture.h"
+#include "beat_window/NameLabel.h"
+#include "beat_window/rules/BeatTable.h"
+#include "ui/BandedForm.h"
+#include "ui/PictureGridPic.h"
+
+namespace sprout {
+
+/// The beat window: all beats of `UserBeats` as a grid of pictures. A click chooses a beat and plays it; buttons add,
+/// rename and delete beats.
+class BeatWindow : public BandedForm {
+    Q_OBJECT
+
+public:
+    explicit BeatWindow(QWidget* parent);
+
+    /// In: the beat to select at first. Out, where `OkPressed`: the chosen one.
+    std::string ChosenBeatName;
+    bool OkPressed = false;
+
+    /// One beat was added since the program began: the messages that guide through it stay away.
+    static inline bool AddHelpShown = false;
+
+    /// Builds the list anew from the folder and shows it from its first row.
+    void LoadBeatFiles();
+
+    /// Shows the list, the selected beat, its name and its duration. It loads the sound of the selected beat for that.
+    void RefreshShowAllPic();
+
+    /// Cancel: the order is not saved, nothing is chosen.
+    void reject() override;
+
+private:
+    void MakeLabels();
+    void MakeGrid();
+    void MakeChoice();
+    void MakeButtons();
+    void MakeMoveMnu();
+    void PlaceControls();
+    void PlaceChoice(const QRect& column);
+    void PlaceColumn(const QRect& column);
+
+    void FillGrid();
+    void ShowNoBeats();
+    void ShowChoice();
+    void ShowNoChoice();
+
+    void PressGrid(int index, Qt::MouseButton button, QPoint at);
+    void OpenMoveMnu(QPoint at);
+    void MoveSelected(BeatMove move);
+    void PlaySelectedBeat();
+    void ClickPlay();
+    void ClickOk();
+    void ClickHelp();
+    void LeaveWindow();
+
+    void AddBeat();
+    void RenameBeat();
+    void DeleteBeat();
+    void Try(std::string_view text, void (BeatWindow::*command)());
+
+    BeatTable table;
+    PictureGridPic* ShowAllPic = nullptr;
+    ChoosenPicture* ChoosenPic = nullptr;
+    QLabel* NoteLbl = nullptr;
+    NameLabel* NmLbl = nullptr;
+    QLabel* DurLbl = nullptr;
+    ImageButton* OkBtn = nullptr;
+    ImageButton* CancelBtn = nullptr;
+    ImageButton* HelpBtn = nullptr;
+    ImageButton* TestPlayBtn = nullptr;
+    std::vector<ImageButton*> columnButtons;
+    QMenu* PopPosiMnu = nullptr;
+    std::array<QAction*, kBeatMoveCaptions.size()> MoveMnu{};
+};
+
+} // namespace sprout

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "beat_window/ChoosenPicture.h"
+
+#include <QPainter>
+
+#include "ui/Artwork.h"
+#include "ui/Palette.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kShownSide = 2 * kPictureSide; // whole pixels for every pixel of the picture
+constexpr int kFrame = 4;
+constexpr qreal kCorner = 8;
+
+} // namespace
+
+ChoosenPicture::ChoosenPicture(QWidget* parent) : QAbstractButton(parent)
+{
+    setObjectName(QStringLiteral("ChoosenPic"));
+    setFocusPolicy(Qt::NoFocus); // the play button beside it does the same
+    setCursor(Qt::PointingHandCursor);
+    resize(sizeHint());
+}
+
+QSize ChoosenPicture::sizeHint() const
+{
+    return {kShownSide + 2 * kFrame, kShownSide + 2 * kFrame};
+}
+
+void ChoosenPicture::ShowPicture(const Picture& picture)
+{
+    image = picture.IsNothing() ? QImage() : ToImage(picture);
+    update();
+}
+
+void ChoosenPicture::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(kStone, 2));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform,
+                          image.width() != kPictureSide || image.height() != kPictureSide);
+    if (!image.isNull())
+        painter.drawImage(QRect(kFrame, kFrame, kShownSide, kShownSide), image);
+}
+
+} // namespace sprout

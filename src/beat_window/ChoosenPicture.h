@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+#include <QImage>
+
+#include "core/Picture.h"
+
+namespace sprout {
+
+/// The picture of the chosen beat, large (`ChoosenPic`); a click on it plays the beat.
+class ChoosenPicture : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    explicit ChoosenPicture(QWidget* parent);
+
+    /// Shows a picture of any size; nothing clears it.
+    void ShowPicture(const Picture& picture);
+    [[nodiscard]] bool IsClear() const { return image.isNull(); }
+
+    [[nodiscard]] QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QImage image;
+};
+
+} // namespace sprout

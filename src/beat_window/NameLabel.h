@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+
+namespace sprout {
+
+/// A centred name on one or two lines: a long one goes on in the second line, and ends there with dots. The tool tip
+/// shows all of it.
+class NameLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit NameLabel(QWidget* parent);
+
+    void ShowName(const QString& name);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+} // namespace sprout

@@ -1,0 +1,158 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "beat_window/rules/BeatCommands.h"
+
+#include <array>
+#include <charconv>
+#include <span>
+#include <system_error>
+#include <vector>
+
+#include "core/ByteCursor.h"
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "service/Files.h"
+#include "service/PictureFiles.h"
+#include "service/Services.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kExtensionLength = 4;
+
+std::string LowerName(const std::string& waveName)
+{
+    return LowerCase(waveName.substr(0, waveName.size() - kExtensionLength));
+}
+
+std::string WaveTitle(const fs::path& waveFile)
+{
+    const std::string title = PathText(waveFile.filename());
+    const bool isWav = title.size() > kExtensionLength && LowerCase(title).ends_with(".wav");
+    return isWav ? title : PathText(waveFile.stem()) + ".wav";
+}
+
+std::vector<std::byte> BytesOf(const fs::path& path)
+{
+    FileSource source(path);
+    std::vector<std::byte> bytes(static_cast<std::size_t>(source.Size()));
+    source.Read(0, bytes);
+    return bytes;
+}
+
+void PutFile(const fs::path& target, const fs::path& source)
+{
+    const std::vector<std::byte> bytes = BytesOf(source);
+    const std::span<const std::byte> piece(bytes);
+    TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::No);
+}
+
+/// A file that is deleted whatever happens.
+class ScratchFile {
+public:
+    explicit ScratchFile(std::string_view extension) : path(NewTempFileName(extension)) {}
+    ScratchFile(const ScratchFile&) = delete;
+    ScratchFile& operator=(const ScratchFile&) = delete;
+    ~ScratchFile() { DeleteFile(path); }
+
+    [[nodiscard]] const fs::path& Path() const { return path; }
+
+private:
+    fs::path path;
+};
+
+/// The picture goes through a scratch file and is read back, so that a disk without room is noticed.
+void PutPicture(const fs::path& target, const Picture& picture)
+{
+    const ScratchFile scratch("bmp");
+    TheServices().pictures->SavePicture(picture, scratch.Path());
+    (void)TheServices().pictures->LoadPicture(scratch.Path());
+    DeleteFile(target);
+    PutFile(target, scratch.Path());
+}
+
+fs::path BeatFile(std::string_view name, std::string_view extension)
+{
+    return NamedFile(Shared().UserBeats, name, extension);
+}
+
+/// A file system that tells letter case would let two beats of one name stand side by side.
+void RenameOneFile(const fs::path& from, const fs::path& to)
+{
+    if (to.empty())
+        throw RunTimeError("This cannot be the name of a file.");
+    const fs::path source = FindFile(from);
+    if (source.empty())
+        throw RunTimeError("The file " + PathText(from.filename()) + " was not found.");
+    const fs::path taken = FindFile(to);
+    if (!taken.empty() && !fs::equivalent(taken, source))
+        throw RunTimeError("The file " + PathText(taken.filename()) + " already exists.");
+    fs::rename(source, to);
+}
+
+} // namespace
+
+NewBeatName NameNewBeat(const fs::path& waveFile)
+{
+    const std::string title = WaveTitle(waveFile);
+    std::string candidate = title;
+    for (int n = 1; FileExists(Shared().UserBeats / candidate); ++n)
+        candidate = "New" + std::to_string(n) + title;
+    return {candidate, LowerName(title), LowerName(candidate)};
+}
+
+Picture ReadChosenPicture(const fs::path& pictureFile)
+{
+    const fs::path file = FindFile(pictureFile);
+    return file.empty() ? Shared().DefaultTunePicture : TheServices().pictures->LoadPicture(file);
+}
+
+void AddBeatFiles(const fs::path& waveFile, const Picture& picture, const std::string& file)
+{
+    const fs::path wave = Shared().UserBeats / file;
+    const fs::path pictureFile = fs::path(wave.native().substr(0, wave.native().size() - kExtensionLength) + ".bmp");
+    PutFile(wave, waveFile);
+    try {
+        PutPicture(pictureFile, picture);
+    } catch (...) {
+        DeleteFile(wave);
+        throw;
+    }
+    std::error_code noTime;
+    const auto written = fs::last_write_time(waveFile, noTime);
+    if (!noTime)
+        fs::last_write_time(wave, written, noTime);
+}
+
+void RenameBeatFiles(std::string_view oldName, std::string_view newName)
+{
+    RenameOneFile(BeatFile(oldName, ".wav"), BeatFile(newName, ".wav"));
+    RenameOneFile(BeatFile(oldName, ".bmp"), BeatFile(newName, ".bmp"));
+}
+
+void DeleteBeatFiles(std::string_view name)
+{
+    DeleteFile(BeatFile(name, ".wav"));
+    DeleteFile(BeatFile(name, ".bmp"));
+}
+
+std::string ChosenFolder(const fs::path& file)
+{
+    const std::string text = PathText(file);
+    const auto separator = text.find_last_of('/');
+    return separator == std::string::npos || separator == 0 ? std::string() : text.substr(0, separator + 1);
+}
+
+std::string NumberText(double value)
+{
+    std::array<char, 32> text{};
+    constexpr int digits = 15;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::general, digits);
+    return {text.data(), end.ptr};
+}
+
+} // namespace sprout

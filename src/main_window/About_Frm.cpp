@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/About_Frm.h"
+
+#include <QPainter>
+#include <QPushButton>
+
+#include <algorithm>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "ui/Artwork.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kSproutSide = 132;
+constexpr int kSproutLeft = 18;
+constexpr int kLinesLeft = kSproutLeft + kSproutSide + 18;
+constexpr int kLinesTop = 18;
+constexpr int kLinesApart = 6;
+constexpr int kRightMargin = 24;
+constexpr int kLinkInset = 6; ///< its border and padding
+
+constexpr std::string_view kLinkStyle =
+    "QPushButton { color: #1F6FA8; background: transparent; border: 2px solid transparent; border-radius: 6px;"
+    " padding: 2px 4px; text-align: left; text-decoration: underline; }"
+    "QPushButton:hover { color: #1F6B34; } QPushButton:focus { border-color: #1F6FA8; }";
+
+} // namespace
+
+About_Frm::About_Frm(QWidget* parent) : BandedForm(parent)
+{
+    setObjectName(QStringLiteral("About_Frm"));
+    SetCaption(" About");
+    AddLine("ProductLbl", TitleFont(), kProductName);
+    AddLine("PurposeLbl", LabelFont(), "Paint a song and hear it grow.");
+    AddLine("VersionLbl", LabelFont(), "Version " SPROUT_VERSION ", " + std::string(kAppVersionDate));
+    MakeLink();
+    AddLine("LicenceLbl", HintFont(),
+            "Free software: you may use it, share it and change it.\n"
+            "GNU General Public License, version 3 or later (GPL-3.0-or-later).");
+    AddAnswer({"OkBtn", "OK", "", Plate::Word, kDeepLeaf}, 1).setFocus();
+    PlaceLines();
+}
+
+QLabel& About_Frm::AddLine(const char* name, const QFont& font, std::string_view text)
+{
+    QLabel& line = AddLabel(name);
+    line.setFont(font);
+    line.setText(QtText(text));
+    lines.push_back(&line);
+    return line;
+}
+
+void About_Frm::MakeLink()
+{
+    auto* link = new QPushButton(QtText(kWebSite), this);
+    link->setObjectName(QStringLiteral("WebSiteLbl"));
+    link->setAccessibleName(tr("The makers' pages: %1").arg(link->text()));
+    link->setStyleSheet(QtText(kLinkStyle));
+    link->setCursor(Qt::PointingHandCursor);
+    Watcher().Watch(*link, "Click to see the makers' pages");
+    connect(link, &QPushButton::clicked, this, [] { OpenWithShell(kWebSite); });
+    lines.push_back(link);
+}
+
+void About_Frm::PlaceLines()
+{
+    int top = kLinesTop;
+    int widest = 0;
+    for (QWidget* line : lines) {
+        line->adjustSize();
+        line->move(BodyPoint(qobject_cast<QPushButton*>(line) ? kLinesLeft - kLinkInset : kLinesLeft, top));
+        top += line->height() + kLinesApart;
+        widest = std::max(widest, line->width());
+    }
+    PlaceButtons(kLinesLeft + widest + kRightMargin, std::max(top, kLinesTop + kSproutSide) + 10);
+}
+
+void About_Frm::paintEvent(QPaintEvent* event)
+{
+    BandedForm::paintEvent(event);
+    QPainter painter(this);
+    painter.drawPixmap(
+        BodyPoint(kSproutLeft, kLinesTop),
+        Artwork(QStringLiteral("pictures/AboutSprout"), QSize(kSproutSide, kSproutSide), devicePixelRatioF()));
+}
+
+} // namespace sprout

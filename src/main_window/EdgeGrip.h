@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPoint>
+#include <QWidget>
+
+#include "main_window/rules/EdgeDrag.h"
+
+namespace sprout {
+
+/// An edge or a corner of a window without a system frame; dragging it resizes the window. Nothing is drawn.
+class EdgeGrip : public QWidget {
+    Q_OBJECT
+
+public:
+    EdgeGrip(QWidget* window, const WindowEdges& edges);
+
+    /// Takes its place in the window's present size.
+    void Place();
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    WindowEdges held;
+    WindowPlace start;
+    QPoint downAt; ///< on the screen
+    bool dragging = false;
+};
+
+} // namespace sprout

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+namespace sprout {
+
+class MainFrm;
+
+/// The part of the program's start that needs the main window, in its order: shows the window, fills the table of
+/// tunes, starts the sound and, on the first starts, opens the sample song. Returns when all of it is on the screen.
+void OpenMainWindow(MainFrm& window);
+
+} // namespace sprout

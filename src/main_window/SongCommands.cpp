@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/SongCommands.h"
+
+#include <exception>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "song_window/SongSelFrm.h"
+#include "songs/OpenSaveClass.h"
+#include "sound/PlayMod.h"
+#include "ui/Dialogs.h"
+#include "ui/Hints.h"
+#include "ui/MessageForms.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+enum class SaveAnswer { Cancel = 0, No = 1, Yes = 2 };
+
+/// The file of a song, one whose name differs in case if there is no other.
+fs::path PathOfSong(std::string_view title)
+{
+    const fs::path path = NamedFile(Shared().UserSongs, title, ".TqSng");
+    const fs::path found = FindFile(path);
+    return found.empty() ? path : found;
+}
+
+void ClearHint()
+{
+    ShowHint({});
+}
+
+/// Runs a command; what goes wrong in it is told behind `firstLine`.
+template <typename Command>
+void RunCommand(std::string_view firstLine, Command command)
+{
+    try {
+        command();
+    } catch (const std::exception& error) {
+        ShowMessage(std::string(firstLine) + "\r\n" + ErrorText(error));
+    }
+}
+
+/// Tells the window that a song is being chosen, as long as it lives.
+class OpeningMark {
+public:
+    explicit OpeningMark(const std::function<void(bool)>& tellOpening) : tell(tellOpening) { tell(true); }
+    OpeningMark(const OpeningMark&) = delete;
+    OpeningMark& operator=(const OpeningMark&) = delete;
+    ~OpeningMark() { tell(false); }
+
+private:
+    const std::function<void(bool)>& tell;
+};
+
+/// Brings the old title back unless the song was saved under the new one.
+class TitleUntilSaved {
+public:
+    explicit TitleUntilSaved(std::string newTitle) : oldTitle(Shared().Song.SongTitle)
+    {
+        Shared().Song.SongTitle = std::move(newTitle);
+    }
+    TitleUntilSaved(const TitleUntilSaved&) = delete;
+    TitleUntilSaved& operator=(const TitleUntilSaved&) = delete;
+    ~TitleUntilSaved()
+    {
+        if (!saved)
+            Shared().Song.SongTitle.swap(oldTitle);
+    }
+
+    void Keep() { saved = true; }
+
+private:
+    std::string oldTitle;
+    bool saved = false;
+};
+
+} // namespace
+
+SongCommands::SongCommands(QWidget& owner, SongCommandCalls windowCalls) : window(owner), calls(std::move(windowCalls))
+{
+}
+
+bool SongCommands::ConfirmSongSave()
+{
+    SongState& song = Shared().Song;
+    if (!song.SongChanged) {
+        ClearHint();
+        return true;
+    }
+    ShowHint(QStringLiteral("This Song is changed, say \"Yes\" to save if you need it"));
+    SaveConfirmFrm question(&window, song.SongTitle);
+    question.SetCaption(" " + std::string(kProductName));
+    const auto answer = static_cast<SaveAnswer>(question.ShowModal());
+    ClearHint();
+    if (answer != SaveAnswer::Yes)
+        return answer == SaveAnswer::No;
+    OpenSaveClass().Save_Song(PathOfSong(song.SongTitle));
+    song.SongChanged = false;
+    return true;
+}
+
+bool SongCommands::ConfirmClose()
+{
+    bool goesOn = false;
+    RunCommand("Error Saving file", [&] { goesOn = ConfirmSongSave(); });
+    return goesOn;
+}
+
+void SongCommands::NewBtn()
+{
+    RunCommand("Error making new file", [this] {
+        if (!ConfirmSongSave())
+            return;
+        ClearHint();
+        Player().StopPlay();
+        NewSong();
+        calls.ShowNewSong();
+        Shared().Song.SongChanged = false;
+    });
+}
+
+void SongCommands::OpenBtn()
+{
+    const OpeningMark mark(calls.Opening);
+    RunCommand("Error Opening file", [this] {
+        if (!ConfirmSongSave())
+            return;
+        ClearHint();
+        Player().StopPlay();
+        OpenChosenSong();
+    });
+}
+
+void SongCommands::OpenChosenSong()
+{
+    SongSelFrm chooser(&window);
+    chooser.InitilizeThisWindow(SongSelMode::Open);
+    chooser.ShowModal();
+    if (!chooser.Ok)
+        return;
+    const fs::path file = PathOfSong(chooser.ChosenName);
+    if (!FileExists(file)) {
+        ShowMessage("This song is not there any more.", chooser.ChosenName);
+        return;
+    }
+    OpenSaveClass().Load_Song(file);
+    Shared().Song.SongTitle = chooser.ChosenName;
+    calls.ShowNewSong();
+    Shared().Song.SongChanged = false;
+}
+
+void SongCommands::SaveBtn()
+{
+    ClearHint();
+    RunCommand("Error Saving file", [this] { SaveUnderChosenName(); });
+}
+
+void SongCommands::SaveUnderChosenName()
+{
+    SongState& song = Shared().Song;
+    SongSelFrm chooser(&window);
+    chooser.InitilizeThisWindow(SongSelMode::Save);
+    chooser.SetSongName(song.SongTitle);
+    chooser.ShowModal();
+    if (!chooser.Ok)
+        return;
+    TitleUntilSaved title(chooser.ChosenName);
+    OpenSaveClass().Save_Song(PathOfSong(song.SongTitle));
+    title.Keep();
+    song.SongChanged = false;
+    calls.UpdateSongTitle();
+    ShowMessage("Your song \"" + song.SongTitle + "\" is saved.", "", "Good!");
+}
+
+void SongCommands::SongTitleChgBtn()
+{
+    SongState& song = Shared().Song;
+    ClearHint();
+    SongTitleFrm form(&window, song.SongTitle, song.SongCreatedBy);
+    form.SetCaption(" Change Song Title");
+    if (form.ShowModal() != 1)
+        return;
+    const bool changed = form.Name() != song.SongTitle || form.CreatedBy() != song.SongCreatedBy;
+    if (!changed)
+        return;
+    song.SongTitle = form.Name();
+    song.SongCreatedBy = form.CreatedBy();
+    calls.UpdateSongTitle();
+    song.SongChanged = true;
+}
+
+} // namespace sprout

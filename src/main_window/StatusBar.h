@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+#include <QWidget>
+
+#include <string_view>
+
+namespace sprout {
+
+class HintWatcher;
+
+/// Height of the status frame.
+inline constexpr int kStatusBarHeight = 32;
+
+/// `StatusLbl`: the hint of what the pointer is over, on one line or, where that is too short, on two narrow ones.
+class HintLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit HintLabel(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// `SoundStatusLbl`: the state of the player, in bold red while it tells that there is no device.
+class SoundLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit SoundLabel(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
+/// `StatusFramePic`: the hint, the cell under the pointer and the state of the player.
+class StatusBar : public QWidget {
+    Q_OBJECT
+
+public:
+    StatusBar(QWidget* parent, HintWatcher& watcher);
+
+    [[nodiscard]] QLabel& SoundStatusLbl() { return *soundStatusLbl; }
+
+    /// The text of `TrackMouPosLbl`.
+    void ShowCell(std::string_view cell);
+
+    /// Tells whether there is a sound device.
+    void ShowSoundDevices(int count);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    HintLabel* statusLbl;
+    QLabel* trackMouPosLbl;
+    SoundLabel* soundStatusLbl;
+};
+
+} // namespace sprout

@@ -1,0 +1,244 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TempoBar.h"
+
+#include <QAbstractSlider>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <utility>
+
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "main_window/rules/TempoSlider.h"
+#include "ui/Artwork.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+// At these widths one percent is one pixel.
+constexpr QSize kSlotSize{184, 28};
+constexpr QSize kPointerSize{34, 40};
+constexpr QSize kPointerPicture{30, 35}; // inside the frame of the focus
+constexpr int kBarHeight = 40;
+constexpr int kLabelGap = 8;
+constexpr std::int32_t kLowestPercent = 50;
+constexpr std::int32_t kHighestPercent = 200;
+constexpr std::int32_t kPercentsAPage = 10;
+
+constexpr int kShortestSlot = 60;
+
+/// Width of a label that holds `text` at most.
+int WidestWidth(const char* text)
+{
+    return QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(text)) + 2;
+}
+
+class TempoSlot : public QWidget {
+public:
+    explicit TempoSlot(QWidget* parent) : QWidget(parent) { resize(kSlotSize); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter(this).drawPixmap(rect(),
+                                  Artwork(QStringLiteral("pictures/TempoSliderImg"), size(), devicePixelRatioF()));
+    }
+};
+
+} // namespace
+
+/// The pointer, which stands for the whole slider: it is dragged, takes the keys and tells its value to screen readers.
+class TempoPointer : public QAbstractSlider {
+public:
+    using Told = std::function<void(std::int32_t percent)>;
+
+    /// onSlide: told each value of a drag; onChoose: told the value that a drag, a key or a screen reader left.
+    TempoPointer(QWidget* parent, Told onSlide, Told onChoose)
+        : QAbstractSlider(parent), slide(std::move(onSlide)), choose(std::move(onChoose))
+    {
+        resize(kPointerSize);
+        setOrientation(Qt::Horizontal);
+        setRange(kLowestPercent, kHighestPercent);
+        setPageStep(kPercentsAPage);
+        setFocusPolicy(Qt::StrongFocus);
+        setCursor(Qt::SizeHorCursor);
+        connect(this, &QAbstractSlider::valueChanged, this, &TempoPointer::TakeValue);
+    }
+
+    void ShowPercent(std::int32_t percent)
+    {
+        shown = percent;
+        setValue(percent);
+        PutAt(slider.LeftOf(percent));
+    }
+
+    void SetSlotWidth(int widthPx)
+    {
+        slider.slotWidth = widthPx;
+        PutAt(slider.LeftOf(value()));
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->button() != Qt::LeftButton)
+            return;
+        TempoDragging = true;
+        TempoDownX = static_cast<std::int32_t>(std::lround(event->position().x()));
+    }
+
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        if (!TempoDragging)
+            return;
+        PutAt(slider.Dragged(left, event->position().x(), TempoDownX));
+        setValue(slider.PercentAt(left));
+    }
+
+    void mouseReleaseEvent(QMouseEvent* event) override
+    {
+        if (event->button() != Qt::LeftButton || !TempoDragging)
+            return;
+        TempoDragging = false;
+        choose(slider.PercentAt(left));
+    }
+
+    /// A wheel turned in passing changes nothing.
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+    void focusInEvent(QFocusEvent* event) override
+    {
+        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+            ShowHint(property(kHintProperty).toString());
+        QAbstractSlider::focusInEvent(event);
+    }
+
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        const QPoint inside((width() - kPointerPicture.width()) / 2, (height() - kPointerPicture.height()) / 2);
+        painter.drawPixmap(inside,
+                           Artwork(QStringLiteral("pictures/TempoPrtImg"), kPointerPicture, devicePixelRatioF()));
+        if (hasFocus())
+            PaintFocus(painter);
+    }
+
+private:
+    void PaintFocus(QPainter& painter) const
+    {
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF edge = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
+        // Light beside dark, so that one of them stands out on every ground.
+        for (const QPen& pen : {QPen(Qt::white, 3), QPen(kLink, 2)}) {
+            painter.setPen(pen);
+            painter.drawRoundedRect(edge, 8, 8);
+        }
+    }
+
+    void TakeValue(int percent)
+    {
+        if (TempoDragging)
+            slide(percent);
+        else if (percent != shown)
+            choose(percent);
+    }
+
+    void PutAt(double newLeft)
+    {
+        left = newLeft;
+        move(static_cast<int>(std::lround(left)), y());
+    }
+
+    TempoSlider slider{0, kSlotSize.width(), kPointerSize.width()};
+    Told slide;
+    Told choose;
+    bool TempoDragging = false;
+    std::int32_t TempoDownX = 0;
+    double left = 0; // unrounded
+    std::int32_t shown = 0;
+};
+
+TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
+    : QWidget(parent),
+      TempoSliderImg(new TempoSlot(this)),
+      TempoPrtImg(nullptr),
+      TempoLbl(new QLabel(this)),
+      SngDurLbl(new QLabel(this))
+{
+    TempoSliderImg->move(0, (kBarHeight - TempoSliderImg->height()) / 2);
+    TempoPrtImg = new TempoPointer(
+        this, [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
+        [this](std::int32_t percent) { TakePercent(percent); });
+    TempoPrtImg->setAccessibleName(QStringLiteral("Tempo"));
+    for (QLabel* label : {TempoLbl, SngDurLbl}) {
+        label->setFont(LabelFont());
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    FitWidth(QWIDGETSIZE_MAX);
+    const auto name = [&watcher](QWidget& control, const char* systemName) {
+        control.setObjectName(QString::fromLatin1(systemName));
+        watcher.Watch(control, MainWindowHint(systemName));
+    };
+    name(*TempoSliderImg, "TempoSliderImg");
+    name(*TempoPrtImg, "TempoPrtImg");
+    name(*TempoLbl, "TempoLbl");
+    name(*SngDurLbl, "SngDurLbl");
+    UpdateTempoSliderValue();
+}
+
+void TempoBar::FitWidth(int widthPx)
+{
+    const int percentWidth = WidestWidth("200%");
+    const int secondsWidth = WidestWidth("480 sec");
+    const int besideTheSlot = kLabelGap + percentWidth + kLabelGap + secondsWidth;
+    const bool stacked = widthPx < kSlotSize.width() + besideTheSlot;
+    const int slotWidth =
+        stacked ? std::clamp(widthPx - kLabelGap - secondsWidth, kShortestSlot, kSlotSize.width()) : kSlotSize.width();
+    TempoSliderImg->resize(slotWidth, kSlotSize.height());
+    TempoPrtImg->SetSlotWidth(slotWidth);
+    const int labelsLeft = slotWidth + kLabelGap;
+    if (stacked) {
+        TempoLbl->setGeometry(labelsLeft, 0, secondsWidth, kBarHeight / 2);
+        SngDurLbl->setGeometry(labelsLeft, kBarHeight / 2, secondsWidth, kBarHeight / 2);
+    } else {
+        TempoLbl->setGeometry(labelsLeft, 0, percentWidth, kBarHeight);
+        SngDurLbl->setGeometry(labelsLeft + percentWidth + kLabelGap, 0, secondsWidth, kBarHeight);
+    }
+    setFixedSize(SngDurLbl->x() + SngDurLbl->width(), kBarHeight);
+}
+
+void TempoBar::UpdateTempoSliderValue()
+{
+    const std::int32_t tempo = Shared().Song.Tempo;
+    const std::int32_t percent = TempoPercent(tempo);
+    TempoPrtImg->ShowPercent(percent);
+    ShowLabels(percent, tempo);
+}
+
+void TempoBar::ShowLabels(std::int32_t percent, std::int32_t tempo)
+{
+    TempoLbl->setText(QtText(TempoLabel(percent)));
+    SngDurLbl->setText(QtText(DurationLabel(tempo)));
+}
+
+void TempoBar::TakePercent(std::int32_t percent)
+{
+    Guarded([this, percent] {
+        const bool changed = SetTempoPercent(percent);
+        UpdateTempoSliderValue();
+        if (changed)
+            Q_EMIT TempoChanged();
+    });
+}
+
+} // namespace sprout

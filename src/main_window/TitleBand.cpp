@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TitleBand.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWindow>
+
+#include "main_window/DesktopPlacesWindows.h"
+#include "ui/Artwork.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kSproutSide = 30;
+constexpr int kSproutLeft = 10;
+constexpr int kWindowButton = 28;
+constexpr int kWindowButtonsApart = 8;
+constexpr int kLastButtonFromEdge = 10;
+constexpr int kBandLine = 2;
+
+} // namespace
+
+TitleBand::TitleBand(QWidget* parent) : QWidget(parent), captionLbl(new QLabel(this))
+{
+    setObjectName(QStringLiteral("MainTitlePic"));
+    captionLbl->setObjectName(QStringLiteral("CaptionLbl"));
+    captionLbl->setFont(ButtonFont());
+    captionLbl->setTextFormat(Qt::PlainText);
+    captionLbl->setStyleSheet(QStringLiteral("color: #FFF8E7"));
+    captionLbl->setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void TitleBand::AddWindowButton(ImageButton& button)
+{
+    button.setParent(this);
+    button.resize(kWindowButton, kWindowButton);
+    windowButtons.push_back(&button);
+}
+
+void TitleBand::SetCaption(const QString& caption)
+{
+    captionText = caption;
+    PlaceParts();
+}
+
+void TitleBand::PlaceParts()
+{
+    int right = width() - kLastButtonFromEdge;
+    for (ImageButton* button : windowButtons) {
+        if (button->isHidden())
+            continue;
+        button->move(right - kWindowButton, (kTitleBandHeight - kBandLine - kWindowButton) / 2);
+        right = button->x() - kWindowButtonsApart;
+    }
+    const int left = kSproutLeft + kSproutSide + 4;
+    captionLbl->setGeometry(left, 0, right - left, kTitleBandHeight - kBandLine);
+    captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
+}
+
+void TitleBand::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), kDeepLeaf);
+    painter.fillRect(QRect(0, height() - kBandLine, width(), kBandLine), kBark);
+    painter.drawPixmap(
+        kSproutLeft, (height() - kSproutSide) / 2,
+        Artwork(QStringLiteral("pictures/SproutPaper"), QSize(kSproutSide, kSproutSide), devicePixelRatioF()));
+}
+
+void TitleBand::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    PlaceParts();
+}
+
+void TitleBand::mousePressEvent(QMouseEvent* event)
+{
+    moving = event->button() == Qt::LeftButton;
+    downAt = event->position().toPoint();
+    if (moving && DesktopPlacesWindows() && window()->windowHandle())
+        moving = !window()->windowHandle()->startSystemMove();
+}
+
+void TitleBand::mouseMoveEvent(QMouseEvent* event)
+{
+    if (moving && window()->windowState() == Qt::WindowNoState)
+        window()->move(window()->pos() + event->position().toPoint() - downAt);
+}
+
+void TitleBand::mouseReleaseEvent(QMouseEvent* /*event*/)
+{
+    moving = false;
+}
+
+void TitleBand::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    moving = false;
+    if (event->button() == Qt::LeftButton)
+        window()->setWindowState(window()->windowState() ^ Qt::WindowMaximized);
+}
+
+} // namespace sprout

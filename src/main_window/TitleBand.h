@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QLabel>
+#include <QPoint>
+#include <QWidget>
+
+#include <vector>
+
+#include "ui/ImageButton.h"
+
+namespace sprout {
+
+/// Height of the main window's title band.
+inline constexpr int kTitleBandHeight = 40;
+
+/// `MainTitlePic`: the leaf band with the window's name and its buttons. Dragging it moves the window, a double click
+/// maximises or restores it.
+class TitleBand : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit TitleBand(QWidget* parent);
+
+    /// Takes a window button; the first one stands at the right. Hidden buttons leave no gap.
+    void AddWindowButton(ImageButton& button);
+    void SetCaption(const QString& caption);
+    void PlaceParts();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    QLabel* captionLbl;
+    QString captionText;
+    std::vector<ImageButton*> windowButtons;
+    QPoint downAt;
+    bool moving = false;
+};
+
+} // namespace sprout

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackCommands.h"
+
+#include <chrono>
+#include <string>
+#include <utility>
+
+#include "core/Shared.h"
+#include "core/SongModel.h"
+#include "main_window/rules/TrackList.h"
+#include "sound/PlayMod.h"
+#include "sound/TuneRender.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::chrono::milliseconds kTuneNotFilledInterval{300};
+
+bool IsTrackNumber(std::int32_t number)
+{
+    return number >= 1 && number <= Shared().Song.TrackCount;
+}
+
+bool MayDelete(std::int32_t number)
+{
+    return AskYesNo("Are you sure to delete this Track?", "Track No: " + std::to_string(number),
+                    "Confirm Delete Track") == 1;
+}
+
+} // namespace
+
+TrackCommands::TrackCommands(TrackCanvas& trackCanvas, QObject* parent, TuneChooser tuneChooser)
+    : QObject(parent), canvas(trackCanvas), chooseTune(std::move(tuneChooser)), tuneNotFilledTimer(this)
+{
+    tuneNotFilledTimer.setObjectName(QStringLiteral("TuneNotFilledTimer"));
+    tuneNotFilledTimer.setInterval(kTuneNotFilledInterval);
+    connect(&tuneNotFilledTimer, &QTimer::timeout, this, &TrackCommands::TuneNotFilledTimerTick);
+}
+
+void TrackCommands::TrackAddBtn()
+{
+    ShowHint({});
+    Player().StopPlay();
+    Guarded([this] {
+        const std::int32_t track = AddMusicTrack();
+        // Whatever becomes of the window, a track without a tune does not stay.
+        Guarded([this, track] { ChooseTuneOf(track); });
+        EndAddMusicTrack();
+        canvas.DrawTracksAll();
+    });
+}
+
+void TrackCommands::TrackDeleteBtn()
+{
+    ShowHint({});
+    Guarded([this] {
+        const std::int32_t track = canvas.HoverTrack();
+        if (!IsTrackNumber(track))
+            return;
+        if (Shared().Song.TrackCount > 1) {
+            if (!MayDelete(track))
+                return;
+            Player().StopPlay();
+        }
+        DeleteTrack(track);
+        canvas.DrawTracksAll();
+    });
+}
+
+void TrackCommands::TrackTuneBtn()
+{
+    ShowHint({});
+    Guarded([this] {
+        const std::int32_t track = canvas.HoverTrack();
+        canvas.HideTrackButtons();
+        if (!IsTrackNumber(track))
+            return;
+        Player().StopPlay();
+        const bool changed = ChooseTuneOf(track);
+        Tune& tune = At(Shared().Song.Tracks, track).TrackTune;
+        if (changed)
+            tune.TuneWaveValid = false;
+        if (!tune.TuneWaveValid)
+            RenderStarCycle(tune);
+        if (!changed)
+            return;
+        MarkTuneChosen(track);
+        canvas.DrawTrackOne(track);
+        canvas.window()->update();
+    });
+}
+
+bool TrackCommands::ChooseTuneOf(std::int32_t track)
+{
+    bool newFlag = false;
+    return chooseTune(At(Shared().Song.Tracks, track).TrackTune, newFlag);
+}
+
+void TrackCommands::EnableTuneNotFilledTimer()
+{
+    if (!tuneNotFilledTimer.isActive())
+        tuneNotFilledTimer.start();
+}
+
+void TrackCommands::SetOpening(bool opening)
+{
+    songIsOpening = opening;
+}
+
+void TrackCommands::TuneNotFilledTimerTick()
+{
+    if (songIsOpening)
+        return;
+    // Once on, the timer stays on: the next song or track may have no tune again.
+    const bool drawn = Guarded([this] {
+        for (const std::int32_t track : BlinkTunesNotFilled())
+            canvas.DrawTrackOne(track);
+    });
+    if (!drawn)
+        tuneNotFilledTimer.stop();
+}
+
+} // namespace sprout

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TransportCommands.h"
+
+#include <QScopedValueRollback>
+
+#include <chrono>
+#include <optional>
+
+#include "core/Shared.h"
+#include "main_window/rules/Transport.h"
+#include "sound/PlayMod.h"
+#include "sound/TrackRender.h"
+#include "sound/TuneRender.h"
+#include "tune_window/OpenTuneWindow.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::chrono::milliseconds kPlayPosInterval{40};
+constexpr std::chrono::milliseconds kTitlePlayInterval{1000};
+constexpr std::int32_t kMainWindow = 1;
+
+/// Shows the message of a check; returns whether the command goes on.
+bool Passes(const PlayCheck& check)
+{
+    if (!check.message.line1.empty())
+        ShowMessage(check.message.line1, check.message.line2);
+    return check.goesOn;
+}
+
+/// A track of the shared song, none for other numbers.
+Track* TrackOfNumber(std::int32_t number)
+{
+    SongState& song = Shared().Song;
+    return number >= 1 && number <= song.TrackCount ? &At(song.Tracks, number) : nullptr;
+}
+
+void RenderTrackOfNumber(std::int32_t number)
+{
+    if (At(Shared().Song.Tracks, number).IsAudio())
+        RenderAudioTrack(number);
+    else
+        RenderTuneTrack(number);
+}
+
+void PlayFromCell(const WaveData& wave, std::int32_t origin, std::int32_t track, std::int32_t cell)
+{
+    if (const std::optional<PlayFrom> part = CutFromCell(wave, origin, cell, Shared().Song.Tempo))
+        PlayWaveTrack(part->Wave, track, part->StartCell, Loop::No);
+}
+
+PlayedSound SoundInPlay()
+{
+    const PlayModState& play = PlayShared();
+    return {play.PlayingTrack, static_cast<double>(play.PlayCursor), play.PlayBufRate, play.PlayTempo,
+            play.PlayStartPos};
+}
+
+std::int32_t TuneInterval(const Tune& tune)
+{
+    return TuneHoverInterval(tune.TuneWave.Length, tune.StepCount, Shared().Song.Tempo);
+}
+
+int PlayHoveredTune(Tune& tune)
+{
+    if (!tune.TuneWaveValid)
+        RenderStarCycle(tune);
+    if (tune.TuneWaveValid)
+        PlayWaveStatus(tune.TuneWave, "Playing Star", Loop::No);
+    return TuneInterval(tune);
+}
+
+int PlayHoveredAudio(const Track* track)
+{
+    if (!track || !track->IsAudio() || track->TrackAudio.Length <= 0)
+        return AudioHoverInterval({});
+    PlayWaveStatus(track->TrackAudio, "Playing Audio/Recording", Loop::No);
+    return AudioHoverInterval(track->TrackAudio);
+}
+
+/// A stroke renders nothing, so that the brush never waits.
+int PlayBrushedTune(const Tune& tune)
+{
+    if (tune.TuneWaveValid)
+        PlayWaveStatus(tune.TuneWave, "Playing Star", Loop::No);
+    else
+        Player().StopPlay();
+    return TuneInterval(tune);
+}
+
+/// Runs a tick. One that fails tells of it and ends its timer, so that it does not fail again and again.
+template <class Operation>
+void GuardedTick(QTimer& timer, Operation operation)
+{
+    if (!Guarded(operation))
+        timer.stop();
+}
+
+} // namespace
+
+TransportCommands::TransportCommands(QObject* parent) : QObject(parent), playPosTimer(this), trackTitlePlayTimer(this)
+{
+    playPosTimer.setObjectName(QStringLiteral("PlayPosTimer"));
+    playPosTimer.setInterval(kPlayPosInterval);
+    connect(&playPosTimer, &QTimer::timeout, this, &TransportCommands::PlayPosTimerTick);
+    trackTitlePlayTimer.setObjectName(QStringLiteral("TrackTitlePlayTimer"));
+    trackTitlePlayTimer.setInterval(kTitlePlayInterval);
+    connect(&trackTitlePlayTimer, &QTimer::timeout, this, &TransportCommands::TrackTitlePlayTimerTick);
+}
+
+void TransportCommands::SetWindow(TrackCanvas& trackCanvas, QLabel& statusLbl)
+{
+    canvas = &trackCanvas;
+    soundStatusLbl = &statusLbl;
+    trackTitlePlayTimer.start();
+}
+
+void TransportCommands::PlayAllBtn()
+{
+    ShowHint({});
+    Guarded([] {
+        const SongState& song = Shared().Song;
+        if (!Passes(CheckSong(song)))
+            return;
+        MixSong();
+        if (song.SongMixValid)
+            PlayWaveTrack(song.SongMix, kWholeSong, song.SongFirstPos, Loop::No);
+    });
+}
+
+void TransportCommands::PlayStopBtn()
+{
+    ShowHint({});
+    Player().StopPlay();
+}
+
+void TransportCommands::PlayOrStop()
+{
+    if (PlayShared().PlayState == PlayState::Stopped)
+        PlayAllBtn();
+    else
+        PlayStopBtn();
+}
+
+void TransportCommands::TrackPlayBtn()
+{
+    ShowHint({});
+    Guarded([number = canvas->HoverTrack()] {
+        const Track* const track = TrackOfNumber(number);
+        if (!track || !Passes(CheckTrack(*track, Shared().Song.SongCells)))
+            return;
+        RenderTrackOfNumber(number);
+        if (track->TrackRenderValid)
+            PlayWaveTrack(track->TrackRender, number, track->FirstPainted, Loop::No);
+    });
+}
+
+void TransportCommands::PlaySongFrom(std::int32_t cell)
+{
+    Guarded([cell] {
+        const SongState& song = Shared().Song;
+        if (cell < 1 || cell > song.SongCells || !Passes(CheckSongFromCell(song)))
+            return;
+        MixSong();
+        if (song.SongMixValid)
+            PlayFromCell(song.SongMix, song.SongFirstPos, kWholeSong, cell);
+    });
+}
+
+void TransportCommands::PlayTrackFrom(std::int32_t number, std::int32_t cell)
+{
+    Guarded([number, cell] {
+        const SongState& song = Shared().Song;
+        const Track* const track = TrackOfNumber(number);
+        if (!track || cell < 1 || cell > song.SongCells || !Passes(CheckTrackFromCell(*track, song.SongCells, cell)))
+            return;
+        RenderTrackOfNumber(number);
+        if (track->TrackRenderValid)
+            PlayFromCell(track->TrackRender, track->FirstPainted, number, cell);
+    });
+}
+
+void TransportCommands::EnableTrackTitlePlayTimer()
+{
+    if (!trackTitlePlayTimer.isActive())
+        trackTitlePlayTimer.start();
+}
+
+std::int32_t TransportCommands::MainWindowHandle() const
+{
+    return kMainWindow;
+}
+
+void TransportCommands::ShowSoundStatus(std::string_view text)
+{
+    if (soundStatusLbl)
+        soundStatusLbl->setText(QtText(text));
+}
+
+void TransportCommands::EnablePlayPosTimer()
+{
+    if (!playPosTimer.isActive())
+        playPosTimer.start();
+}
+
+void TransportCommands::UpdateThisTune()
+{
+    sprout::UpdateThisTune();
+}
+
+void TransportCommands::PlayPosTimerTick()
+{
+    GuardedTick(playPosTimer, [this] {
+        switch (PlayShared().PlayState) {
+        case PlayState::Stopped:
+            Player().UpdatePlayPosition();
+            playPosTimer.stop();
+            PlayShared().PlayingTrack = 0;
+            PlayIndicatorOff();
+            break;
+        case PlayState::Playing:
+        case PlayState::PlayingLoop:
+            Player().UpdatePlayPosition();
+            MovePlayIndicator();
+            break;
+        case PlayState::Paused:
+            break;
+        }
+    });
+}
+
+void TransportCommands::MovePlayIndicator()
+{
+    const PlayModState& play = PlayShared();
+    // A sound that has just ended has no place any more: its marker waits where it stands for the next tick.
+    if (canvas && play.PlayKind == PlayKind::SongOrTrack && play.PlayState != PlayState::Stopped)
+        canvas->ShowPlayIndicator(sprout::MovePlayIndicator(SoundInPlay(), canvas->View()));
+}
+
+void TransportCommands::PlayIndicatorOff()
+{
+    if (canvas)
+        canvas->ShowPlayIndicator({});
+    ShowSoundStatus("Done");
+}
+
+void TransportCommands::TrackTitlePlayTimerTick()
+{
+    if (titlePlayBusy || PlayShared().PlayingTrack != 0 || !canvas)
+        return;
+    const QScopedValueRollback busy(titlePlayBusy, true);
+    // The new interval counts from the end of a render, not from its beginning.
+    GuardedTick(trackTitlePlayTimer, [this] { trackTitlePlayTimer.start(PlayHovered()); });
+}
+
+int TransportCommands::PlayHovered()
+{
+    Track* const hovered = TrackOfNumber(canvas->HoverTrack());
+    if (canvas->TrackTuneBtnVisible() && hovered)
+        return PlayHoveredTune(hovered->TrackTune);
+    if (canvas->TrackAudioBtnVisible())
+        return PlayHoveredAudio(hovered);
+    if (const Track* const brushed = TrackOfNumber(canvas->BrushedTrack()))
+        return PlayBrushedTune(brushed->TrackTune);
+    return kHoverWaitInterval;
+}
+
+} // namespace sprout

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "main_window/rules/WindowPlace.h"
+
+namespace sprout {
+
+/// Edges of a window by which it is resized; a corner is two of them.
+struct WindowEdges {
+    bool left = false;
+    bool top = false;
+    bool right = false;
+    bool bottom = false;
+    friend bool operator==(const WindowEdges&, const WindowEdges&) = default;
+};
+
+/// The four sides and the four corners.
+inline constexpr std::array<WindowEdges, 8> kWindowGrips{{{true, false, false, false},
+                                                          {false, true, false, false},
+                                                          {false, false, true, false},
+                                                          {false, false, false, true},
+                                                          {true, true, false, false},
+                                                          {false, true, true, false},
+                                                          {true, false, false, true},
+                                                          {false, false, true, true}}};
+
+/// The smallest size that a drag leaves, in logical pixels.
+inline constexpr std::int32_t kLeastWindowWidth = 533;
+inline constexpr std::int32_t kLeastWindowHeight = 200;
+
+/// Where the grip of some edges lies in a window of that size: 6 px wide along the sides, 10 px square at the corners.
+[[nodiscard]] WindowPlace GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t height);
+
+/// The place of a window whose edges were dragged by (dx, dy) from where they stood in `start`. An edge stops where the
+/// window would get smaller than it may; the others stay.
+[[nodiscard]] WindowPlace DraggedByEdges(const WindowPlace& start, const WindowEdges& edges, std::int32_t dx,
+                                         std::int32_t dy);
+
+} // namespace sprout

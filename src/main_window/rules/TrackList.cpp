@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/rules/TrackList.h"
+
+#include "core/Shared.h"
+#include "core/SongModel.h"
+
+namespace sprout {
+
+namespace {
+
+void ResizeTracks(SongState& song, std::int32_t count)
+{
+    song.Tracks.resize(static_cast<std::size_t>(count) + 1);
+    song.TrackCount = count;
+}
+
+void MarkSongChanged(SongState& song)
+{
+    song.SongMixValid = false;
+    song.SongChanged = true;
+}
+
+/// Returns whether the picture was one of the two.
+bool SwapBlankPicture(Picture& picture)
+{
+    const SharedState& shared = Shared();
+    if (SamePicture(picture, shared.BlankPic))
+        picture = shared.BlankStarPic;
+    else if (SamePicture(picture, shared.BlankStarPic))
+        picture = shared.BlankPic;
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+std::int32_t AddMusicTrack()
+{
+    SongState& song = Shared().Song;
+    ResizeTracks(song, song.TrackCount + 1);
+    ResetTrack(song.TrackCount);
+    return song.TrackCount;
+}
+
+void EndAddMusicTrack()
+{
+    SongState& song = Shared().Song;
+    if (At(song.Tracks, song.TrackCount).TrackTune.Name.empty())
+        ResizeTracks(song, song.TrackCount - 1);
+    At(song.Tracks, song.TrackCount).TrackRenderValid = false;
+    MarkSongChanged(song);
+}
+
+void DeleteTrack(std::int32_t trackNumber)
+{
+    SongState& song = Shared().Song;
+    if (song.TrackCount == 1)
+        return ResetTrack(1);
+    song.Tracks.erase(song.Tracks.begin() + trackNumber);
+    --song.TrackCount;
+    MarkSongChanged(song);
+}
+
+void MarkTuneChosen(std::int32_t trackNumber)
+{
+    SongState& song = Shared().Song;
+    At(song.Tracks, trackNumber).TrackRenderValid = false;
+    MarkSongChanged(song);
+}
+
+std::vector<std::int32_t> BlinkTunesNotFilled()
+{
+    SongState& song = Shared().Song;
+    std::vector<std::int32_t> swapped;
+    for (std::int32_t number = 1; number <= song.TrackCount; ++number)
+        if (SwapBlankPicture(At(song.Tracks, number).TrackTune.Picture))
+            swapped.push_back(number);
+    return swapped;
+}
+
+} // namespace sprout

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "song_window/SongList.h"
+
+#include <QKeyEvent>
+
+#include "ui/Look.h"
+
+namespace sprout {
+
+namespace {
+
+bool MovesSelection(int key)
+{
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp || key == Qt::Key_PageDown ||
+           key == Qt::Key_Home || key == Qt::Key_End || key == Qt::Key_Left || key == Qt::Key_Right;
+}
+
+} // namespace
+
+SongList::SongList(QWidget* parent) : QListWidget(parent)
+{
+    setFont(LabelFont());
+    setTextElideMode(Qt::ElideMiddle); // copies differ at their ends
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void SongList::keyPressEvent(QKeyEvent* event)
+{
+    if (!SelectFirst(event->key()))
+        QListWidget::keyPressEvent(event);
+    if (MovesSelection(event->key()))
+        event->accept();
+}
+
+/// A list that gets the focus puts its place on the first line without selecting it; the first key selects that line
+/// and does not go on from it.
+bool SongList::SelectFirst(int key)
+{
+    const bool fromNothing = selectedItems().isEmpty() && count() > 0 && item(0)->flags() != Qt::NoItemFlags;
+    if (!fromNothing || (key != Qt::Key_Down && key != Qt::Key_Up && key != Qt::Key_PageDown && key != Qt::Key_PageUp))
+        return false;
+    setCurrentRow(0);
+    return true;
+}
+
+} // namespace sprout

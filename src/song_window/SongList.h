@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QListWidget>
+
+namespace sprout {
+
+/// A list of songs of which one can be selected. Its arrow keys stay inside it.
+class SongList : public QListWidget {
+    Q_OBJECT
+
+public:
+    explicit SongList(QWidget* parent);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] bool SelectFirst(int key);
+};
+
+} // namespace sprout

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "song_window/rules/SongChoice.h"
+
+#include <algorithm>
+#include <array>
+
+#include "core/Text.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::array kLayouts{
+    SongSelLayout{.Caption = " Open song",
+                  .ListTitle = " Select a song and click OK to open",
+                  .TextTitle = "",
+                  .NothingFound = "No song found",
+                  .OkHint = "Click Ok to open the selected song",
+                  .ListHint = "Click on a song name to select",
+                  .ListHeight = 257,
+                  .ListTop = 56,
+                  .ListTitleTop = 32},
+    SongSelLayout{.Caption = " Save song",
+                  .ListTitle = " List of available songs",
+                  .TextTitle = " Check the song name and Click OK to save",
+                  .NothingFound = " ",
+                  .OkHint = "Click Ok to save the song to the name entered",
+                  .ListHint = "List of available songs",
+                  .ListHeight = 211,
+                  .ListTop = 44,
+                  .ListTitleTop = 20,
+                  .HasNameBox = true,
+                  .HasSoundFiles = true},
+    SongSelLayout{.Caption = " New song",
+                  .ListTitle = " List of available songs",
+                  .TextTitle = " Type the song name here and click OK",
+                  .NothingFound = " ",
+                  .OkHint = "Click Ok to create a new song with the name entered",
+                  .ListHint = "List of available songs",
+                  .ListHeight = 211,
+                  .ListTop = 44,
+                  .ListTitleTop = 20,
+                  .HasNameBox = true},
+};
+
+} // namespace
+
+const SongSelLayout& LayoutOf(SongSelMode mode)
+{
+    return kLayouts[static_cast<std::size_t>(mode) - 1];
+}
+
+NameDecision DecideName(SongSelMode mode, std::string_view name, std::string_view songTitle,
+                        std::span<const SongFile> songs)
+{
+    if (Trim(name).empty())
+        return NameDecision::AskForName;
+    if (mode == SongSelMode::Save && EqualIgnoringCase(name, songTitle))
+        return NameDecision::Accept;
+    return FindSong(songs, name) ? NameDecision::AskToOverwrite : NameDecision::Accept;
+}
+
+int RowAfterChange(int row, int count)
+{
+    return std::min(row, count - 1);
+}
+
+} // namespace sprout

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "song_window/rules/SongFiles.h"
+
+namespace sprout {
+
+enum class SongSelMode : std::int32_t { Open = 1, Save = 2, New = 3 };
+
+/// What the song window looks like in one of its modes. Tops and heights in pixels below the title band.
+struct SongSelLayout {
+    std::string_view Caption;
+    std::string_view ListTitle;
+    std::string_view TextTitle;
+    std::string_view NothingFound; ///< the line of an empty list
+    std::string_view OkHint;
+    std::string_view ListHint;
+    std::int32_t ListHeight = 0;
+    std::int32_t ListTop = 0;
+    std::int32_t ListTitleTop = 0;
+    bool HasNameBox = false;
+    bool HasSoundFiles = false; ///< the buttons that save a song as a sound
+};
+
+[[nodiscard]] const SongSelLayout& LayoutOf(SongSelMode mode);
+
+/// What OK has to do with a name that was typed.
+enum class NameDecision { AskForName, Accept, AskToOverwrite };
+
+/// name: as typed. songTitle: of the open song, under whose name saving asks nothing; a new song has none.
+[[nodiscard]] NameDecision DecideName(SongSelMode mode, std::string_view name, std::string_view songTitle,
+                                      std::span<const SongFile> songs);
+
+/// Row to select after the list was made anew, -1 for none. row: the one that was selected; count: songs now.
+[[nodiscard]] int RowAfterChange(int row, int count);
+
+} // namespace sprout

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "song_window/rules/SongFiles.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <system_error>
+#include <tuple>
+
+#include "core/ByteCursor.h"
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Text.h"
+#include "service/Files.h"
+#include "service/Services.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kSongExtension = ".TqSng";
+
+bool IsSong(const fs::directory_entry& entry)
+{
+    std::error_code error;
+    return entry.path().filename().native().front() != '.' && entry.is_regular_file(error) &&
+           EqualIgnoringCase(entry.path().extension().native(), kSongExtension);
+}
+
+/// True where a file, a folder or a link stands already, whatever the case of its letters.
+bool IsTaken(const fs::path& path)
+{
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error)) || FileExists(path);
+}
+
+/// Where a song of another name goes in the song's folder.
+fs::path FreePlaceBeside(const SongFile& song, std::string_view newName)
+{
+    fs::path place = NamedFile(song.Path.parent_path() / "", newName, kSongExtension);
+    if (place.empty())
+        throw RunTimeError("This cannot be the name of a song.");
+    if (IsTaken(place))
+        throw RunTimeError("There is another file with this name.");
+    return place;
+}
+
+std::vector<std::byte> BytesOfSong(const SongFile& song)
+{
+    FileSource source(song.Path);
+    std::vector<std::byte> bytes(static_cast<std::size_t>(source.Size()));
+    source.Read(0, bytes);
+    return bytes;
+}
+
+} // namespace
+
+std::vector<SongFile> ListSongs(const fs::path& folder)
+{
+    std::vector<SongFile> songs;
+    std::error_code error;
+    fs::directory_iterator entries(folder, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error))
+        if (IsSong(*entries))
+            songs.push_back({BaseName(entries->path()), entries->path()});
+    std::vector<std::tuple<std::string, std::string, std::size_t>> keys;
+    for (std::size_t i = 0; i < songs.size(); ++i)
+        keys.emplace_back(LowerCase(songs[i].Name), songs[i].Path.native(), i);
+    std::sort(keys.begin(), keys.end());
+    std::vector<SongFile> sorted;
+    sorted.reserve(songs.size());
+    for (const auto& [name, path, index] : keys)
+        sorted.push_back(std::move(songs[index]));
+    return sorted;
+}
+
+const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name)
+{
+    const auto found = std::find_if(songs.begin(), songs.end(),
+                                    [name](const SongFile& song) { return EqualIgnoringCase(song.Name, name); });
+    return found == songs.end() ? nullptr : &*found;
+}
+
+std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name)
+{
+    for (int number = 1;; ++number) {
+        std::string candidate = std::string(name) + std::to_string(number);
+        if (!FindSong(songs, candidate))
+            return candidate;
+    }
+}
+
+void CopySong(const SongFile& song, std::string_view newName)
+{
+    const fs::path place = FreePlaceBeside(song, newName);
+    const std::vector<std::byte> bytes = BytesOfSong(song);
+    const std::span<const std::byte> whole(bytes);
+    TheServices().files->ReplaceFile(place, std::span(&whole, 1), Flush::Yes);
+}
+
+void RenameSong(const SongFile& song, std::string_view newName)
+{
+    fs::rename(song.Path, FreePlaceBeside(song, newName));
+}
+
+void DeleteSong(const SongFile& song)
+{
+    // Asked by its exact name: the look-up without regard to case could find another song in place of one that is gone.
+    std::error_code error;
+    if (fs::exists(song.Path, error) && !DeleteFile(song.Path))
+        throw RunTimeError("The file " + PathText(song.Path) + " could not be deleted.");
+}
+
+} // namespace sprout

@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/OpenTuneWindow.h"
+
+#include <QApplication>
+#include <QPointer>
+
+#include "core/Shared.h"
+#include "tune_window/TuneFrm2.h"
+#include "tune_window/rules/ChosenTune.h"
+#include "tune_window/rules/TuneTable.h"
+#include "tunes/BeatFiles.h"
+
+namespace sprout {
+
+namespace {
+
+/// The one window, from its first opening on.
+QPointer<TuneFrm2>& Instance()
+{
+    static QPointer<TuneFrm2> window;
+    return window;
+}
+
+TuneFrm2& Window()
+{
+    if (!Instance())
+        Instance() = new TuneFrm2(QApplication::activeWindow());
+    return *Instance();
+}
+
+} // namespace
+
+bool OpenTuneWindow(Tune& tune, bool& newFlag)
+{
+    SharedState& shared = Shared();
+    shared.CurrentTune = tune;
+    ExpandTuneBeats(shared.Song, shared.CurrentTune);
+    bool changed = CompleteTune(shared.CurrentTune);
+    TuneFrm2& window = Window();
+    window.NewTuneMode = newFlag;
+    if (shared.TuneTableCount < 1)
+        LoadTuneFiles();
+    window.Open();
+    newFlag = window.OkPressed;
+    if (window.OkPressed && window.TuneChanged) {
+        tune = shared.CurrentTune;
+        MergeTuneBeats(shared.Song, tune);
+        changed = true;
+    }
+    return changed;
+}
+
+void LoadTuneFiles()
+{
+    if (Shared().TuneTableCount >= 1) {
+        if (Instance())
+            Instance()->FindChosenTune();
+        return;
+    }
+    ReadTuneTable();
+    ShowHint({});
+}
+
+void UpdateThisTune()
+{
+    if (Instance())
+        Instance()->UpdateThisTune();
+}
+
+} // namespace sprout

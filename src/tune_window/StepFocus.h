@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+
+#include <cstdint>
+
+#include "core/Song.h"
+
+namespace sprout {
+
+/// A step as the keyboard and a screen reader meet it: a button that is checked while the step is on. The mouse goes
+/// past it to the surface below, which draws the step; here only the ring of the focus is drawn.
+class StepFocus : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    StepFocus(std::int32_t step, QWidget* surface);
+
+    /// Takes the step's name and state, and its place. stepsLeft: left edge of step 1.
+    void ShowStep(const TuneStep& step, std::int32_t stepsLeft);
+
+Q_SIGNALS:
+    void KeyPressed(QKeyEvent* event);
+    void MenuWanted();
+    void Reached(); ///< by the keyboard
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void nextCheckState() override {} // it follows the tune
+
+private:
+    std::int32_t number;
+};
+
+} // namespace sprout

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QMenu>
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "core/Song.h"
+#include "tune_window/rules/TuneNames.h"
+#include "tune_window/rules/TuneTable.h"
+#include "ui/BandedForm.h"
+
+namespace sprout {
+
+class PictureGridPic;
+class StepEditor;
+class TunePicture;
+
+/// The window in which the tune of a track is chosen, from the grid of all tunes, and edited. What is edited is
+/// `CurrentTune`.
+class TuneFrm2 : public BandedForm {
+    Q_OBJECT
+
+public:
+    explicit TuneFrm2(QWidget* parent);
+
+    std::string OriginalTuneName; ///< of the tune when the window opened
+    std::string ChosenTuneName;   ///< to select when the window opens
+    bool OkPressed = false;       ///< the window was left with OK
+    bool TuneChanged = false;     ///< the track must take `CurrentTune`
+    bool NewTuneMode = false;     ///< nothing is chosen at first; read once by `RefreshShowAllPic`
+
+    /// Fits the window to its screen and shows it modally, scrolled to its first tunes.
+    void Open();
+
+    /// Sizes the window for a screen with this much room.
+    void FitTo(QSize room);
+
+    /// Selects the tune of the name `ChosenTuneName`, or none, and draws the grid.
+    void FindChosenTune();
+
+    /// Draws the grid. Where nothing was chosen yet, the first tune is chosen and plays.
+    void RefreshShowAllPic();
+
+    /// Shows `CurrentTune` in the labels and in the editor.
+    void UpdateThisTune();
+
+    /// Takes the tunes of `TuneTable` into the grid.
+    void TakeTuneTable();
+
+    /// Acts as `CancelBtn`.
+    void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    using Command = void (TuneFrm2::*)();
+    struct CommandRow;
+
+    void MakeGrid();
+    void MakeChosenTune();
+    void MakeButtons();
+    void MakeEditor();
+    void MakeMoveMnu();
+    void SetTabOrders();
+
+    void ChooseFirstTune();
+    void ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at);
+    void PlaySelectedTune();
+    void ShowNoTunes();
+    void ShowSelectedTune();
+    void ShowNothingSelected();
+    void ShowTune(const std::string& name, const std::string& author, const Picture& picture);
+    [[nodiscard]] bool HasSelectedTune() const { return IsInTuneTable(SelectedTune); }
+
+    void OpenMoveMnu(QPoint at);
+    void MoveTune(TuneMove move);
+    void DeleteTune();
+    void ReadTunesAgain();
+
+    void OkBtn();
+    void CancelBtn();
+    void HelpBtn();
+    void TestPlayBtn();
+    void NewTuneBtn();
+    void RndTuneBtn();
+    void SaveTuneBtn();
+    void ChangePicBtn();
+    void TunePicClick();
+
+    [[nodiscard]] std::optional<TuneNames> AskNames();
+    [[nodiscard]] bool MaySaveUnder(const TuneNames& names) const;
+    void SaveUnder(const TuneNames& names);
+    void TakePicture(const std::filesystem::path& file);
+
+    Tune ChosenTune;               ///< copy of the chosen entry of `TuneTable`, whole once it was played
+    std::int32_t SelectedTune = 0; ///< into `TuneTable`; below 1 nothing is chosen
+
+    PictureGridPic* ShowAllPic = nullptr;
+    TunePicture* TunePic = nullptr;
+    QLabel* TuneNameLbl = nullptr;
+    QLabel* CreatedByLbl = nullptr;
+    StepEditor* editor = nullptr;
+    QMenu* PopPosiMnu = nullptr;
+    std::array<QAction*, 5> MoveMnu{};
+};
+
+} // namespace sprout

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/TuneNameFrm.h"
+
+#include "core/Text.h"
+#include "ui/Dialogs.h"
+#include "ui/MessageForms.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kNameFormWidth = 336;
+constexpr int kNameFormMargin = 16;
+constexpr int kNameBoxHeight = 34;
+
+} // namespace
+
+TuneNameFrm::TuneNameFrm(QWidget* parent, const TuneNames& names) : BandedForm(parent)
+{
+    setObjectName(QStringLiteral("TuneNameFrm"));
+    SetCaption(" Save Tune");
+    NameTxt = &AddBox("Label1", "Tune name", "NameTxt", names.Name, 8);
+    CreatedTxt = &AddBox("Label2", "Created By", "CreatedTxt", names.CreatedBy, 74);
+    Watcher().Watch(*NameTxt, "Type the name of this Tune here");
+    Watcher().Watch(*CreatedTxt, "You can type your name here");
+    ForbidCharacters(*NameTxt, QStringLiteral("./\\:*?<>|\""));
+    AddWordButton({"OkBtn", "OK", "", Plate::Word, kDeepLeaf}, [this] { ClickOk(); });
+    AddAnswer({"CancelBtn", "Cancel", "", Plate::Word, kStone}, 0);
+    PlaceButtons(kNameFormWidth, 148);
+    NameTxt->selectAll();
+    NameTxt->setFocus();
+}
+
+QLineEdit& TuneNameFrm::AddBox(const char* labelName, const char* labelText, const char* boxName, std::string_view text,
+                               int top)
+{
+    constexpr int width = kNameFormWidth - 2 * kNameFormMargin;
+    QLabel& label = AddLabel(labelName);
+    label.setText(QString::fromUtf8(labelText));
+    label.setGeometry({BodyPoint(kNameFormMargin, top), QSize(width, 25)});
+    auto* box = new QLineEdit(QtText(text), this);
+    box->setObjectName(QString::fromLatin1(boxName));
+    box->setAccessibleName(label.text());
+    box->setGeometry({BodyPoint(kNameFormMargin, top + 26), QSize(width, kNameBoxHeight)});
+    return *box;
+}
+
+TuneNames TuneNameFrm::Names() const
+{
+    return {NameTxt->text().toStdString(), CreatedTxt->text().toStdString()};
+}
+
+void TuneNameFrm::ClickOk()
+{
+    ShowHint({});
+    if (Trim(Names().Name).empty())
+        return ShowMessage("Please enter a Tune name.");
+    NameOk = true;
+    Answer(1);
+}
+
+} // namespace sprout

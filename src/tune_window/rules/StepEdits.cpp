@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/rules/StepEdits.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "core/Numbers.h"
+#include "tunes/BeatFiles.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::int32_t kFarthestPitch = 64;
+constexpr std::int32_t kMostPercent = 200;
+constexpr double kPercentAPixel = 5;
+
+/// What every edit but the drag of a bar does.
+void ClearSound(Tune& tune, std::int32_t step)
+{
+    At(tune.Steps, step).StepWaveValid = false;
+    tune.TuneWaveValid = false;
+}
+
+} // namespace
+
+void ToggleStep(Tune& tune, std::int32_t step)
+{
+    std::int32_t& onPos = At(tune.Steps, step).OnPos;
+    onPos = onPos == 0 ? 1 : 0;
+    ClearSound(tune, step);
+}
+
+KeyClick ClickKey(Tune& tune, std::int32_t step, std::optional<std::int32_t> pitch)
+{
+    std::int32_t& stored = At(tune.Steps, step).PitchShift;
+    if (!pitch || stored > kFarthestPitch || stored < -kFarthestPitch)
+        return {};
+    const bool changed = stored != *pitch;
+    stored = *pitch;
+    if (changed)
+        ClearSound(tune, step);
+    return {changed, true};
+}
+
+KeyClick MovePitch(Tune& tune, std::int32_t step, std::int32_t keys)
+{
+    const std::int32_t shown = std::clamp(At(tune.Steps, step).PitchShift, kLowestKeyPitch, kHighestKeyPitch);
+    return ClickKey(tune, step, std::clamp(shown + keys, kLowestKeyPitch, kHighestKeyPitch));
+}
+
+bool ClickStrip(Tune& tune, std::int32_t step, StripPlace place, std::int32_t value)
+{
+    if (place == StripPlace::None)
+        return false;
+    TuneStep& record = At(tune.Steps, step);
+    std::int32_t& stored = place == StripPlace::Volume ? record.Volume : record.Duration;
+    if (stored == value)
+        return false;
+    stored = value;
+    ClearSound(tune, step);
+    return true;
+}
+
+bool DragDuration(TuneStep& step, double pixels)
+{
+    const double drawn = std::clamp(step.Duration + pixels * kPercentAPixel, 0.0, static_cast<double>(kMostPercent));
+    const std::int32_t value = RoundHalfEven(drawn);
+    if (value == step.Duration)
+        return false;
+    step.Duration = value;
+    return true;
+}
+
+void ChangeStepBeat(Tune& tune, std::int32_t step, std::string_view name)
+{
+    LoadBeatFile(At(tune.Steps, step).StepBeat, name);
+    ClearSound(tune, step);
+    for (std::int32_t later = step + 1; later <= tune.StepCount; ++later) {
+        if (!At(tune.Steps, later).StepBeat.Name.empty())
+            continue;
+        At(tune.Steps, later).StepBeat = At(tune.Steps, step).StepBeat;
+        At(tune.Steps, later).StepWaveValid = false;
+    }
+}
+
+void ChangeAllBeats(Tune& tune, std::string_view name)
+{
+    LoadBeatFile(At(tune.Steps, 1).StepBeat, name);
+    for (std::int32_t step = 1; step <= tune.StepCount; ++step) {
+        At(tune.Steps, step).StepBeat = At(tune.Steps, 1).StepBeat;
+        ClearSound(tune, step);
+    }
+}
+
+std::optional<std::int32_t> TypedStepCount(std::string_view answer)
+{
+    const double number = std::nearbyint(NumberPrefix(answer)); // half to even
+    if (!(number >= kFewestSteps && number <= kMostSteps))
+        return std::nullopt;
+    return static_cast<std::int32_t>(number);
+}
+
+void ChangeStepCount(Tune& tune, std::int32_t count)
+{
+    const std::int32_t before = tune.StepCount;
+    tune.StepCount = count;
+    tune.Steps.resize(static_cast<std::size_t>(count) + 1);
+    // A new step may copy one that is new itself.
+    if (before > 0)
+        for (std::int32_t step = before + 1; step <= count; ++step)
+            At(tune.Steps, step) = At(tune.Steps, step - before);
+    tune.TuneWaveValid = false;
+}
+
+} // namespace sprout

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/rules/StepMenu.h"
+
+#include <algorithm>
+
+namespace sprout {
+
+namespace {
+
+constexpr StepMenuRefusal kNextStepIsOn{"Next step is ON,", "Can not move this.", "Move Failed!"};
+constexpr StepMenuRefusal kLastStepIsOn{"Last step is ON,", "Can not move that to insert.", "Insert Step Failed!"};
+
+auto FirstStep(Tune& tune)
+{
+    return tune.Steps.begin() + 1;
+}
+
+auto BehindLastStep(Tune& tune)
+{
+    return FirstStep(tune) + tune.StepCount;
+}
+
+StepMenuRefusal MoveStep(Tune& tune, std::int32_t step, std::int32_t target)
+{
+    if (At(tune.Steps, target).OnPos == 1)
+        return kNextStepIsOn;
+    At(tune.Steps, target) = At(tune.Steps, step);
+    At(tune.Steps, step).OnPos = 0;
+    return {};
+}
+
+StepMenuRefusal InsertStep(Tune& tune, std::int32_t step)
+{
+    if (At(tune.Steps, tune.StepCount).OnPos == 1)
+        return kLastStepIsOn;
+    const auto place = FirstStep(tune) + (step - 1);
+    std::copy_backward(place, BehindLastStep(tune) - 1, BehindLastStep(tune));
+    place->OnPos = 0;
+    return {};
+}
+
+StepMenuRefusal DeleteStep(Tune& tune, std::int32_t step)
+{
+    const auto place = FirstStep(tune) + (step - 1);
+    std::copy(place + 1, BehindLastStep(tune), place);
+    At(tune.Steps, tune.StepCount).OnPos = 0;
+    return {};
+}
+
+StepMenuRefusal Carry(Tune& tune, std::int32_t step, StepMoveMnu item)
+{
+    switch (item) {
+    case StepMoveMnu::MoveAllToLeft:
+        std::rotate(FirstStep(tune), FirstStep(tune) + 1, BehindLastStep(tune));
+        return {};
+    case StepMoveMnu::MoveAllToRight:
+        std::rotate(FirstStep(tune), BehindLastStep(tune) - 1, BehindLastStep(tune));
+        return {};
+    case StepMoveMnu::MoveStepToLeft:
+        return MoveStep(tune, step, step == 1 ? tune.StepCount : step - 1);
+    case StepMoveMnu::MoveStepToRight:
+        return MoveStep(tune, step, step == tune.StepCount ? 1 : step + 1);
+    case StepMoveMnu::InsertStep:
+        return InsertStep(tune, step);
+    case StepMoveMnu::DeleteStep:
+        return DeleteStep(tune, step);
+    }
+    return {};
+}
+
+} // namespace
+
+bool StepMenuItemEnabled(StepMoveMnu item, const TuneStep& step)
+{
+    return step.OnPos == 1 || (item != StepMoveMnu::MoveStepToLeft && item != StepMoveMnu::MoveStepToRight);
+}
+
+StepMenuRefusal ApplyStepMenu(Tune& tune, std::int32_t step, StepMoveMnu item)
+{
+    const StepMenuRefusal refusal = Carry(tune, step, item);
+    if (!refusal.IsRefusal())
+        tune.TuneWaveValid = false;
+    return refusal;
+}
+
+} // namespace sprout

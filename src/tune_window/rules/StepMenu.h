@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+
+#include "core/Song.h"
+
+namespace sprout {
+
+/// The items of a step's menu, by their places in it.
+enum class StepMoveMnu : std::int32_t {
+    MoveAllToLeft = 0,
+    MoveAllToRight = 1,
+    MoveStepToLeft = 3,
+    MoveStepToRight = 4,
+    InsertStep = 6,
+    DeleteStep = 7,
+};
+
+/// A place in the menu; a separator has no caption.
+struct StepMenuRow {
+    StepMoveMnu item{};
+    std::string_view caption;
+};
+
+inline constexpr std::array kStepMenu{
+    StepMenuRow{StepMoveMnu::MoveAllToLeft, "Move all to left"},
+    StepMenuRow{StepMoveMnu::MoveAllToRight, "Move all to right"},
+    StepMenuRow{},
+    StepMenuRow{StepMoveMnu::MoveStepToLeft, "Move Step to left"},
+    StepMenuRow{StepMoveMnu::MoveStepToRight, "Move Step to right"},
+    StepMenuRow{},
+    StepMenuRow{StepMoveMnu::InsertStep, "Insert Step"},
+    StepMenuRow{StepMoveMnu::DeleteStep, "Delete Step"},
+};
+
+/// Only a step that is on can be moved alone.
+[[nodiscard]] bool StepMenuItemEnabled(StepMoveMnu item, const TuneStep& step);
+
+/// Why an item was refused; all blank where it was carried out.
+struct StepMenuRefusal {
+    std::string_view line1;
+    std::string_view line2;
+    std::string_view title;
+    [[nodiscard]] bool IsRefusal() const { return !line1.empty(); }
+};
+
+/// Carries out an item on a step, 1 to `StepCount`. Steps are moved as whole records, so that what is rendered moves
+/// along; the tune's own sound becomes stale. A refused item changes nothing.
+StepMenuRefusal ApplyStepMenu(Tune& tune, std::int32_t step, StepMoveMnu item);
+
+} // namespace sprout

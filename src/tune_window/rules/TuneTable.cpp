@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/rules/TuneTable.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+#include "core/Busy.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "tunes/TunOpnSavClass.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Orders by a key that is made once for each name.
+template <class Key>
+std::vector<std::string> SortedBy(std::vector<std::string> names, const Key& key)
+{
+    using Keyed = std::pair<decltype(key(names.front())), std::string>;
+    std::vector<Keyed> keyed;
+    keyed.reserve(names.size());
+    for (std::string& name : names) {
+        auto itsKey = key(name);
+        keyed.emplace_back(std::move(itsKey), std::move(name));
+    }
+    std::stable_sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.first < b.first; });
+    names.clear();
+    for (Keyed& entry : keyed)
+        names.push_back(std::move(entry.second));
+    return names;
+}
+
+bool IsHidden(std::string_view fileName)
+{
+    return fileName.starts_with('.');
+}
+
+} // namespace
+
+fs::path TuneFile(std::string_view name)
+{
+    return NamedFile(Shared().UserTunes, name, ".TqTun");
+}
+
+std::vector<std::string> NamesInFolder(const fs::path& folder, std::string_view extension)
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    fs::directory_iterator entries(folder, error);
+    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
+        const std::string file = entries->path().filename().native();
+        std::error_code unknown;
+        if (file.size() <= extension.size() || IsHidden(file) || !entries->is_regular_file(unknown))
+            continue;
+        const std::size_t nameLength = file.size() - extension.size();
+        if (EqualIgnoringCase(std::string_view(file).substr(nameLength), extension))
+            names.push_back(file.substr(0, nameLength));
+    }
+    // Names that differ in case alone stand in one order too, whatever that of the folder.
+    std::sort(names.begin(), names.end());
+    return SortedBy(std::move(names), [](const std::string& name) { return LowerCase(name); });
+}
+
+std::vector<std::string> InTuneOrder(std::vector<std::string> names, const TuneIndex& index)
+{
+    return SortedBy(std::move(names), [&index](const std::string& name) { return index.Place(name); });
+}
+
+void ReadTuneTable()
+{
+    SharedState& shared = Shared();
+    const WorkingSign sign;
+    const std::vector<std::string> names =
+        InTuneOrder(NamesInFolder(shared.UserTunes, ".TqTun"), TuneIndex::Read(TuneIndexFile()));
+    shared.TuneTable.assign(names.size() + 1, Tune());
+    shared.TuneTableCount = static_cast<std::int32_t>(names.size());
+    TunOpnSavClass files;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        files.Load_Tune(TuneFile(names[i]), TuneLoad::List);
+        shared.TuneTable[i + 1] = shared.TuneClipboard;
+        TheServices().screen->ShowProgress(i + 1, names.size());
+    }
+}
+
+void SaveTuneOrder()
+{
+    std::vector<std::string> names;
+    for (std::int32_t i = 1; i <= Shared().TuneTableCount; ++i)
+        names.push_back(At(Shared().TuneTable, i).Name);
+    TuneIndex index = TuneIndex::Read(TuneIndexFile());
+    index.SetOrder(names);
+    index.Write();
+}
+
+bool IsInTuneTable(std::int32_t index)
+{
+    return index >= 1 && index <= Shared().TuneTableCount;
+}
+
+std::int32_t FindInTuneTable(std::string_view name)
+{
+    for (std::int32_t i = 1; i <= Shared().TuneTableCount; ++i)
+        if (EqualIgnoringCase(At(Shared().TuneTable, i).Name, name))
+            return i;
+    return 0;
+}
+
+std::int32_t TuneMoveTarget(TuneMove move, std::int32_t selected, std::int32_t count)
+{
+    if (selected < 1 || selected > count)
+        return 0;
+    const bool isUpOrDown = move == TuneMove::Up || move == TuneMove::Down;
+    const bool isBack = move == TuneMove::Up || move == TuneMove::Left;
+    const std::int32_t places = isUpOrDown ? kTuneColumns : 1;
+    const std::int32_t target = isBack ? selected - places : selected + places;
+    return target >= 1 && target <= count ? target : 0;
+}
+
+} // namespace sprout

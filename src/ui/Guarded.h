@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <exception>
+
+#include "core/Errors.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+
+namespace sprout {
+
+/// Runs what an event asks for. Qt cannot carry an exception through its event loop: the user is told of it in a plain
+/// box, and the event ends. Returns whether it went well.
+template <class Operation>
+bool Guarded(Operation operation)
+{
+    try {
+        operation();
+        return true;
+    } catch (const std::exception& error) {
+        TheServices().messages->MessageBox("", ErrorText(error));
+        return false;
+    }
+}
+
+} // namespace sprout

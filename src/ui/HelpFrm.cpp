@@ -1,0 +1,184 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/HelpFrm.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+#include <QSignalBlocker>
+#include <QWindow>
+
+#include <algorithm>
+#include <array>
+
+#include "ui/Artwork.h"
+#include "ui/HelpBook.h"
+#include "ui/Look.h"
+#include "ui/Palette.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr QSize kWidestHelp{760, 600};
+constexpr int kScreenEdge = 20;
+constexpr int kHelpMargin = 14;
+constexpr int kPagesWidth = 184;
+constexpr int kPageIconSide = 32;
+constexpr int kButtonRowHeight = 44;
+
+struct HelpPage {
+    const char* file;
+    const char* title;
+    const char* picture;
+};
+
+constexpr std::array kHelpPages{
+    HelpPage{"welcome", "Welcome", "pictures/Sprout"},    HelpPage{"painting", "Painting", "buttons/BrushBtn"},
+    HelpPage{"playing", "Playing", "buttons/PlayAllBtn"}, HelpPage{"tracks", "Tracks and tunes", "buttons/TrackAddBtn"},
+    HelpPage{"songs", "Your songs", "buttons/SaveBtn"},   HelpPage{"keys", "Keys", "pictures/HelpKeys"},
+};
+
+QUrl PageUrl(const HelpPage& page)
+{
+    return QUrl(QStringLiteral("qrc:/help/%1.html").arg(QLatin1String(page.file)));
+}
+
+QPointer<HelpFrm>& OpenHelp()
+{
+    static QPointer<HelpFrm> help;
+    return help;
+}
+
+} // namespace
+
+void ShowHelp()
+{
+    QPointer<HelpFrm>& help = OpenHelp();
+    if (!help) {
+        help = new HelpFrm;
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, help, [] { delete OpenHelp(); });
+        help->show();
+    }
+    help->raise();
+    help->activateWindow();
+}
+
+HelpFrm::HelpFrm() : BandedForm(nullptr), PagesLst(new QListWidget(this)), BookTxt(new HelpBook(this))
+{
+    setObjectName(QStringLiteral("HelpFrm"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    SetCaption(" Help");
+    MakePages();
+    MakeBook();
+    MakeButtons();
+    PlaceControls();
+    ShowPage(0);
+    BookTxt->setFocus();
+    qApp->installEventFilter(this);
+}
+
+void HelpFrm::MakePages()
+{
+    PagesLst->setObjectName(QStringLiteral("PagesLst"));
+    PagesLst->setAccessibleName(tr("Pages"));
+    PagesLst->setFont(LabelFont());
+    PagesLst->setIconSize({kPageIconSide, kPageIconSide});
+    PagesLst->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    for (const HelpPage& page : kHelpPages)
+        new QListWidgetItem(QIcon(Artwork(QLatin1String(page.picture), PagesLst->iconSize(), devicePixelRatioF())),
+                            tr(page.title), PagesLst);
+    connect(PagesLst, &QListWidget::currentRowChanged, this, &HelpFrm::ShowPage);
+}
+
+void HelpFrm::MakeBook()
+{
+    BookTxt->setObjectName(QStringLiteral("BookTxt"));
+    BookTxt->setAccessibleName(tr("Help page"));
+    connect(BookTxt, &QTextBrowser::sourceChanged, this, [this] { FollowBook(); });
+}
+
+void HelpFrm::MakeButtons()
+{
+    BackBtn =
+        &AddWordButton({"BackBtn", "Back", "", Plate::Word, kDeepLeaf, "WordBack"}, [this] { BookTxt->backward(); });
+    AddWordButton({"CloseBtn", "Close", "", Plate::Word, kStone}, [this] { reject(); });
+    BackBtn->setEnabled(false);
+    connect(BookTxt, &QTextBrowser::backwardAvailable, BackBtn, &QWidget::setEnabled);
+}
+
+void HelpFrm::PlaceControls()
+{
+    const QRect screenRect = screen()->availableGeometry();
+    const QSize room = screenRect.size() - QSize(2 * kScreenEdge, 2 * kScreenEdge);
+    const QSize size = kWidestHelp.boundedTo(room);
+    const int bookHeight = size.height() - kBandHeight - kButtonRowHeight - 3 * kHelpMargin;
+    PagesLst->setGeometry({BodyPoint(kHelpMargin, kHelpMargin), QSize(kPagesWidth, bookHeight)});
+    const int bookLeft = 2 * kHelpMargin + kPagesWidth;
+    BookTxt->setGeometry({BodyPoint(bookLeft, kHelpMargin), QSize(size.width() - bookLeft - kHelpMargin, bookHeight)});
+    PlaceButtons(size.width(), bookHeight + 2 * kHelpMargin);
+    // At the screen's edge, so that it covers little of what is asked about.
+    move(screenRect.right() - width() - kScreenEdge, screenRect.top() + kScreenEdge);
+}
+
+void HelpFrm::ShowPage(int row)
+{
+    const HelpPage& page = kHelpPages[static_cast<std::size_t>(std::max(row, 0))];
+    if (BookTxt->source().adjusted(QUrl::RemoveFragment) != PageUrl(page))
+        BookTxt->setSource(PageUrl(page));
+}
+
+/// Marks the page that the book shows, whichever way it came there.
+void HelpFrm::FollowBook()
+{
+    const QUrl shown = BookTxt->source().adjusted(QUrl::RemoveFragment);
+    const auto* page = std::find_if(kHelpPages.begin(), kHelpPages.end(),
+                                    [&shown](const HelpPage& candidate) { return PageUrl(candidate) == shown; });
+    const QSignalBlocker quiet(PagesLst);
+    PagesLst->setCurrentRow(page == kHelpPages.end() ? -1 : static_cast<int>(page - kHelpPages.begin()));
+}
+
+bool HelpFrm::event(QEvent* event)
+{
+    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Show)
+        StandBelowModalWindow();
+    return BandedForm::event(event);
+}
+
+bool HelpFrm::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool comesOrGoes = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (comesOrGoes && watched != this && watched->isWidgetType() && static_cast<QWidget*>(watched)->isModal())
+        QMetaObject::invokeMethod(this, &HelpFrm::StandBelowModalWindow, Qt::QueuedConnection);
+    return BandedForm::eventFilter(watched, event);
+}
+
+/// A modal window blocks all windows but those that stand below it. The help goes there, as long as the modal window
+/// waits, so that it can be read and closed.
+void HelpFrm::StandBelowModalWindow()
+{
+    const QWidget* modal = QApplication::activeModalWidget();
+    QWindow* modalWindow = modal ? modal->windowHandle() : nullptr;
+    if (!windowHandle() || (modal && isAncestorOf(modal)))
+        return;
+    if (windowHandle()->transientParent() != modalWindow)
+        windowHandle()->setTransientParent(modalWindow);
+}
+
+void HelpFrm::keyPressEvent(QKeyEvent* event)
+{
+    const bool wouldPressAButton = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool wouldMoveFocus = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down ||
+                                event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
+    const bool onButton = qobject_cast<ImageButton*>(focusWidget()) != nullptr;
+    if (wouldPressAButton || (wouldMoveFocus && !onButton))
+        event->accept();
+    else if (event->key() == Qt::Key_Backspace)
+        BackBtn->click();
+    else
+        BandedForm::keyPressEvent(event);
+}
+
+} // namespace sprout

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/LaterCommands.h"
+
+#include <algorithm>
+#include <array>
+
+#include "ui/Dialogs.h"
+
+namespace sprout {
+
+namespace {
+
+struct LaterCommand {
+    std::string_view button;
+    std::string_view line1;
+    std::string_view line2;
+};
+
+constexpr std::array kLaterCommands{
+    LaterCommand{"EmailBtn", "This program cannot send songs by email yet.",
+                 "Save your song, then it is in your Songs folder."},
+    LaterCommand{"DemoBtn", "There is no demo to watch yet.", "Click the Help button to read how to make a song."},
+    LaterCommand{"TrackAddRecBtn", "This program cannot record your voice yet.",
+                 "Add a music track and choose a tune for it."},
+    LaterCommand{"TrackAudioBtn", "This program cannot edit a recording yet.", "You can paint it and play it."},
+    LaterCommand{"SavWavBtn", "This program cannot make wav files yet.", "Click OK to save your song as a song."},
+    LaterCommand{"SavWmaBtn", "This program cannot make wma files yet.", "Click OK to save your song as a song."},
+};
+
+} // namespace
+
+void ShowLaterCommand(std::string_view buttonName)
+{
+    const auto* row =
+        std::find_if(kLaterCommands.begin(), kLaterCommands.end(),
+                     [buttonName](const LaterCommand& candidate) { return candidate.button == buttonName; });
+    if (row != kLaterCommands.end())
+        ShowMessage(row->line1, row->line2);
+}
+
+} // namespace sprout

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/LaterCommands.h"
+
+#include <gtest/gtest.h>
+
+#include "ui/ModalSteps.h"
+
+namespace sprout {
+namespace {
+
+QString FirstNoteOf(const char* button)
+{
+    QString note;
+    WithNextForm([&note](BandedForm& form) {
+        note = form.findChild<QLabel*>(QStringLiteral("NoteLbl1"))->text();
+        Click(form, "OkBtn");
+    });
+    ShowLaterCommand(button);
+    return note;
+}
+
+TEST(ShowLaterCommand, TellsWhatEachButtonCannotDoYet)
+{
+    EXPECT_EQ(FirstNoteOf("EmailBtn"), QStringLiteral("This program cannot send songs by email yet."));
+    EXPECT_EQ(FirstNoteOf("DemoBtn"), QStringLiteral("There is no demo to watch yet."));
+    EXPECT_EQ(FirstNoteOf("TrackAddRecBtn"), QStringLiteral("This program cannot record your voice yet."));
+    EXPECT_EQ(FirstNoteOf("TrackAudioBtn"), QStringLiteral("This program cannot edit a recording yet."));
+    EXPECT_EQ(FirstNoteOf("SavWavBtn"), QStringLiteral("This program cannot make wav files yet."));
+    EXPECT_EQ(FirstNoteOf("SavWmaBtn"), QStringLiteral("This program cannot make wma files yet."));
+}
+
+TEST(ShowLaterCommand, KeepsSilentForOtherButtons)
+{
+    ShowLaterCommand("PlayAllBtn"); // a message would wait for its OK
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "SongWindowSheets.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <array>
+#include <cstdio>
+
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "main_window/About_Frm.h"
+#include "song_window/SongSelFrm.h"
+#include "ui/HelpFrm.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::array kSongNames{"Zumi",
+                                "Rain on the roof",
+                                "My first song",
+                                "Äpfel und Birnen",
+                                "Kolibri",
+                                "Drum train",
+                                "The very long song that Grandmother and I made together on a rainy Sunday in autumn"};
+constexpr int kManySongs = 200;
+constexpr int kHelpPagesDrawn = 6;
+
+void SavePicture(QWidget& window, const QString& folder, const QString& name)
+{
+    window.show();
+    QApplication::processEvents();
+    if (!window.grab().save(QStringLiteral("%1/%2.png").arg(folder, name)))
+        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(name));
+}
+
+void MakeSongs(const QString& folder, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const auto index = static_cast<std::size_t>(i);
+        const QString name = index < kSongNames.size() ? QString::fromUtf8(kSongNames[index])
+                                                       : QStringLiteral("Song number %1").arg(i + 1);
+        QFile file(QStringLiteral("%1/%2.TqSng").arg(folder, name));
+        static_cast<void>(file.open(QIODevice::WriteOnly));
+    }
+}
+
+void DrawSongWindows(const QString& folder, int songs)
+{
+    constexpr std::array modes{SongSelMode::Open, SongSelMode::Save, SongSelMode::New};
+    const QTemporaryDir songFolder;
+    MakeSongs(songFolder.path(), songs);
+    Shared().UserSongs = AsFolder(songFolder.path().toStdString());
+    for (const SongSelMode mode : modes) {
+        SongSelFrm form(nullptr);
+        form.InitilizeThisWindow(mode);
+        if (mode == SongSelMode::Save)
+            form.SetSongName("Zumi");
+        if (songs > 0)
+            form.findChild<QListWidget*>(QStringLiteral("SngNmLst"))->setCurrentRow(2);
+        SavePicture(form, folder, QStringLiteral("songs-mode%1-%2").arg(static_cast<int>(mode)).arg(songs));
+    }
+}
+
+void DrawHelp(const QString& folder)
+{
+    HelpFrm help;
+    auto* pages = help.findChild<QListWidget*>(QStringLiteral("PagesLst"));
+    for (int page = 0; page < kHelpPagesDrawn; ++page) {
+        pages->setCurrentRow(page);
+        SavePicture(help, folder, QStringLiteral("help%1").arg(page + 1));
+    }
+    help.setAttribute(Qt::WA_DeleteOnClose, false);
+}
+
+} // namespace
+
+void DrawSongWindowSheets(const QString& folder)
+{
+    for (const int songs : {0, static_cast<int>(kSongNames.size()), kManySongs})
+        DrawSongWindows(folder, songs);
+    About_Frm about(nullptr);
+    SavePicture(about, folder, QStringLiteral("about"));
+    DrawHelp(folder);
+}
+
+} // namespace sprout

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace sprout {
+
+/// Draws the step editor with tunes of 2 to 64 steps, with bars of all lengths, marks of missing beats and of the step
+/// in play, and its menu, and saves them in `folder`.
+void DrawStepEditorSheets(const QString& folder);
+
+} // namespace sprout

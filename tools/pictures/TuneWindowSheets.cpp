@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "TuneWindowSheets.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QMenu>
+#include <QPixmap>
+#include <QTimer>
+
+#include <cstdio>
+#include <functional>
+#include <string>
+
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Files.h"
+#include "service/PlayDisplay.h"
+#include "service/Services.h"
+#include "tune_window/OpenTuneWindow.h"
+#include "tune_window/TuneFrm2.h"
+#include "tune_window/TuneNameFrm.h"
+#include "ui/Artwork.h"
+#include "ui/ProgramPictures.h"
+#include "ui/QtMessages.h"
+#include "ui/QtScreen.h"
+
+namespace sprout {
+namespace {
+
+/// Nothing is written while pictures are drawn.
+class NoFiles : public Files {
+public:
+    void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> /*pieces*/,
+                     Flush /*flush*/) override
+    {
+        throw RunTimeError(PathText(target) + " is not written.");
+    }
+    void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
+};
+
+/// There is no main window; the tune window shows its tune.
+class TuneDisplay : public PlayDisplay {
+public:
+    [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
+    void ShowSoundStatus(std::string_view /*text*/) override {}
+    void EnablePlayPosTimer() override {}
+    void UpdateThisTune() override { sprout::UpdateThisTune(); }
+};
+
+void SavePicture(QWidget& widget, const QString& folder, const char* name)
+{
+    QApplication::processEvents();
+    const QString path = QStringLiteral("%1/%2.png").arg(folder, QString::fromLatin1(name));
+    if (!widget.grab().save(path))
+        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
+}
+
+void FillTuneTable(std::int32_t count)
+{
+    SharedState& shared = Shared();
+    shared.TuneTable.assign(static_cast<std::size_t>(count) + 1, Tune());
+    shared.TuneTableCount = count;
+    for (std::int32_t i = 1; i <= count; ++i) {
+        Tune& tune = At(shared.TuneTable, i);
+        tune.Name = "Tune " + std::to_string(i);
+        tune.CreatedBy = i % 3 == 0 ? "Ann" : "Tonquill";
+        tune.Picture = i % 2 == 0 ? shared.NewTunePicture : shared.DefaultTunePicture;
+    }
+}
+
+/// Opens the window with what `TuneTable` holds and draws it.
+void DrawOpened(const std::function<void(TuneFrm2&)>& draw)
+{
+    QTimer::singleShot(0, qApp, [&draw] {
+        auto* window = qobject_cast<TuneFrm2*>(QApplication::activeModalWidget());
+        if (!window)
+            return;
+        draw(*window);
+        window->reject();
+    });
+    Tune tune;
+    bool newFlag = false;
+    static_cast<void>(OpenTuneWindow(tune, newFlag));
+}
+
+void DrawMenu(TuneFrm2& window, const QString& folder)
+{
+    auto& menu = *window.findChild<QMenu*>(QStringLiteral("PopPosiMnu"));
+    menu.popup(window.pos());
+    menu.setActiveAction(menu.actions().front());
+    SavePicture(menu, folder, "tune-menu");
+    menu.hide();
+}
+
+void DrawLibrary(const QString& folder)
+{
+    Shared().TuneTableCount = 0;
+    LoadTuneFiles();
+    DrawOpened([&folder](TuneFrm2& window) {
+        window.FitTo({800, 600});
+        SavePicture(window, folder, "tune-library-800x600");
+        window.FitTo({1920, 1080});
+        SavePicture(window, folder, "tune-library-1920x1080");
+        DrawMenu(window, folder);
+    });
+}
+
+} // namespace
+
+void DrawTuneWindowSheets(const QString& folder)
+{
+    NoFiles files;
+    QtMessages messages;
+    QtScreen screen;
+    TuneDisplay display;
+    TheServices() = {.messages = &messages, .screen = &screen, .files = &files, .playDisplay = &display};
+    MakeProgramPictures();
+    const QDir library(QCoreApplication::applicationDirPath() + QStringLiteral("/Sprout"));
+    SetUserRoot(library.path().toStdString());
+
+    DrawLibrary(folder);
+    FillTuneTable(200);
+    DrawOpened([&folder](TuneFrm2& window) {
+        window.FitTo({1366, 740});
+        SavePicture(window, folder, "tune-200-1366x768");
+    });
+    SetUserRoot("/home/child/Documents/Tonquill Sprout Painter");
+    FillTuneTable(0);
+    DrawOpened([&folder](TuneFrm2& window) {
+        window.FitTo({800, 600});
+        SavePicture(window, folder, "tune-none-800x600");
+    });
+    TuneNameFrm form(nullptr, {"Rain dance", "Ann"});
+    form.show();
+    SavePicture(form, folder, "tune-name");
+    TheServices() = Services();
+}
+
+} // namespace sprout
