@@ -23,14 +23,14 @@ public:
     explicit PaintWatch(QWidget& watched) : widget(watched)
     {
         static_cast<void>(widget.grab()); // labels lay themselves out when they are drawn first
-        QApplication::processEvents();
+        DrawNow();
         widget.installEventFilter(this);
     }
 
-    /// What was drawn since the last call.
+    /// What was drawn since the last call, and what is waiting for it.
     QRegion Drawn()
     {
-        QApplication::processEvents();
+        DrawNow();
         return std::exchange(drawn, QRegion());
     }
 
@@ -42,6 +42,12 @@ public:
     }
 
 private:
+    void DrawNow()
+    {
+        QEvent request(QEvent::UpdateRequest);
+        QApplication::sendEvent(widget.window(), &request);
+    }
+
     QWidget& widget;
     QRegion drawn;
 };
