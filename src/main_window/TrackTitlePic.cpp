@@ -94,8 +94,6 @@ ImageButton& TrackTitlePic::AddStripButton(const ButtonRow& row, QSize size, con
     });
     button.setParent(this);
     button.resize(size);
-    // A move over the button is not one over the strip, which would clear the hint.
-    button.setAttribute(Qt::WA_NoMousePropagation);
     return button;
 }
 
@@ -128,7 +126,6 @@ void TrackTitlePic::MakeButtons()
 void TrackTitlePic::MakeTuneBtn()
 {
     tuneBtn = new TrackTuneBtn(this);
-    tuneBtn->setAttribute(Qt::WA_NoMousePropagation);
     tuneBtn->Hovered = [this] { TuneHovered(); };
     connect(tuneBtn, &QAbstractButton::clicked, this, [this] {
         ShowHint({});
@@ -278,6 +275,9 @@ void TrackTitlePic::mousePressEvent(QMouseEvent* event)
 
 void TrackTitlePic::mouseMoveEvent(QMouseEvent* event)
 {
+    // A button passes on its moves, which are none over the strip.
+    if (childAt(event->position().toPoint()))
+        return;
     ShowHint({});
     HoverAt(event->position().toPoint().x(), event->position().toPoint().y());
 }
