@@ -208,8 +208,8 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 
 void ImageButton::focusInEvent(QFocusEvent* event)
 {
-    // A dialog that opens tells its button so before the button has the focus; that is not the user's doing.
     const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    // A dialog that appears sends this event too, before it has the focus; the hint then is that of its question.
     if (byTab && hasFocus())
         ShowHint(hint);
     QAbstractButton::focusInEvent(event);
