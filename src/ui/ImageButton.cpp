@@ -208,9 +208,10 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 
 void ImageButton::focusInEvent(QFocusEvent* event)
 {
-    const bool byTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    // A dialog that appears sends this event too, before it has the focus; the hint then is that of its question.
-    if (byTab && hasFocus())
+    // A dialog that opens tells its first control that it was tabbed to before it has the focus; the hint that stands
+    // belongs to the dialog's question.
+    const bool isTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (isTab && hasFocus())
         ShowHint(hint);
     QAbstractButton::focusInEvent(event);
 }
