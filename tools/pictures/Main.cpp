@@ -11,9 +11,9 @@
 #include <functional>
 #include <memory>
 
-#include "StepEditorSheets.h"
 #include "BeatWindowSheets.h"
 #include "SongWindowSheets.h"
+#include "StepEditorSheets.h"
 #include "TuneWindowSheets.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
