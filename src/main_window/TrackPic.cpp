@@ -53,8 +53,9 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     setAccessibleName(tr("Tracks"));
-    setAccessibleDescription(
-        tr("Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops."));
+    setAccessibleDescription(tr(
+        "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
+        "an arrow key choose a cell, Enter uses the tool on it, Control, Shift and an arrow key draw."));
 }
 
 void TrackPic::Clear()
@@ -178,6 +179,13 @@ void TrackPic::leaveEvent(QEvent* event)
 {
     Q_EMIT Left();
     TrackSurface::leaveEvent(event);
+}
+
+void TrackPic::focusOutEvent(QFocusEvent* event)
+{
+    // A stroke that keys draw would not see them released.
+    Q_EMIT Released();
+    TrackSurface::focusOutEvent(event);
 }
 
 void TrackPic::PaintOver(QPainter& painter)

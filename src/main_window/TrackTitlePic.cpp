@@ -79,6 +79,7 @@ void TrackTitlePic::MakeHeadings()
             name, text, [message] { ShowMessage(message); }, this);
         label->setGeometry(place);
         watcher.Watch(*label, "");
+        label->installEventFilter(this);
     };
     add("Label5", tr("Tune"), kLabel5Message, kLabel5Place);
     add("Label1", tr("Play"), kLabel1Message, kLabel1Place);
@@ -115,10 +116,12 @@ void TrackTitlePic::MakeButtons()
         button->setFocusPolicy(Qt::NoFocus);
         button->hide();
     }
-    audioBtn->installEventFilter(this);
     setTabOrder(addBtn, addRecBtn);
-    addBtn->show();
-    addRecBtn->show();
+    for (ImageButton* button : {addBtn, addRecBtn}) {
+        button->show();
+        button->installEventFilter(this);
+    }
+    audioBtn->installEventFilter(this);
 }
 
 void TrackTitlePic::MakeTuneBtn()
@@ -140,6 +143,7 @@ void TrackTitlePic::MakeTopLbl()
     topLbl->setAlignment(Qt::AlignCenter);
     topLbl->resize(kAddButtonsApart + kAddButtonSize.width(), kTopLblHeight);
     watcher.Watch(*topLbl, "");
+    topLbl->installEventFilter(this);
 }
 
 void TrackTitlePic::Clear()
@@ -249,9 +253,18 @@ void TrackTitlePic::TuneHovered()
 
 bool TrackTitlePic::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == audioBtn && event->type() == QEvent::MouseMove)
-        RunCall(calls.EnableTrackTitlePlayTimer);
+    if (event->type() == QEvent::MouseMove) {
+        if (watched == audioBtn)
+            RunCall(calls.EnableTrackTitlePlayTimer);
+        else
+            LeaveRows();
+    }
     return TrackSurface::eventFilter(watched, event);
+}
+
+void TrackTitlePic::LeaveRows()
+{
+    PlaceFloatingButtons({});
 }
 
 void TrackTitlePic::mousePressEvent(QMouseEvent* event)

@@ -76,6 +76,7 @@ private:
 
     void PaintRow(const Track& track, std::int32_t number);
     void HoverAt(std::int32_t x, std::int32_t y);
+    void LeaveRows();
     void PlaceFloatingButtons(const FloatingButtons& shown);
 
     void ChooseRow(std::int32_t track);
