@@ -47,6 +47,7 @@ ControlBar::ControlBar(QWidget* parent, HintWatcher& watcher)
     titleCaption->setText(tr("Song"));
     authorCaption->setText(tr("by"));
     titleText->setFont(TitleFont());
+    connect(tempoBar, &TempoBar::TempoChanged, this, &ControlBar::TempoChanged);
 }
 
 QLabel& ControlBar::AddSongLabel(const char* name, HintWatcher& watcher)
@@ -98,14 +99,16 @@ void ControlBar::resizeEvent(QResizeEvent* event)
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
         if (tools[tool])
             tools[tool]->setGeometry(RectOf(places.tools[tool]));
-    tempoBar->setGeometry(RectOf(places.tempo));
+    tempoBar->FitWidth(places.tempo.width);
+    tempoBar->move(places.tempo.left + (places.songInOneLine ? 0 : places.tempo.width - tempoBar->width()),
+                   places.tempo.top);
     PlaceSongLabels(places);
 }
 
 void ControlBar::PlaceSongLabels(const ControlBarPlaces& places)
 {
     const QRect room = RectOf(places.song);
-    const int lineHeight = places.songInOneLine ? room.height() : room.height() / 2;
+    const int lineHeight = places.songInOneLine ? room.height() : room.height() * 3 / 5;
     const int captionWidth = titleCaption->sizeHint().width() + kCaptionGap;
     const int authorCaptionWidth = authorCaption->sizeHint().width() + kCaptionGap;
     const int titleNeeds = titleText->fontMetrics().horizontalAdvance(title) + 2;
@@ -113,8 +116,9 @@ void ControlBar::PlaceSongLabels(const ControlBarPlaces& places)
     const int titleLeft = room.x() + captionWidth;
     if (!places.songInOneLine) {
         titleText->setGeometry(titleLeft, room.y(), room.right() + 1 - titleLeft, lineHeight);
-        authorCaption->setGeometry(room.x(), room.y() + lineHeight, captionWidth, lineHeight);
-        authorText->setGeometry(titleLeft, room.y() + lineHeight, room.right() + 1 - titleLeft, lineHeight);
+        const int authorHeight = room.height() - lineHeight;
+        authorCaption->setGeometry(room.x(), room.y() + lineHeight, captionWidth, authorHeight);
+        authorText->setGeometry(titleLeft, room.y() + lineHeight, room.right() + 1 - titleLeft, authorHeight);
         return FitSongLabels();
     }
     const int authorNeeds = authorCaptionWidth + authorText->fontMetrics().horizontalAdvance(author) + 2;

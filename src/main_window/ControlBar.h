@@ -5,7 +5,6 @@
 #include <QWidget>
 
 #include <array>
-#include <functional>
 #include <string_view>
 
 #include "main_window/rules/ControlBarPlaces.h"
@@ -35,6 +34,8 @@ public:
 Q_SIGNALS:
     /// The title or the author was clicked twice.
     void SongTitleDoubleClicked();
+    /// The user has given the song another tempo.
+    void TempoChanged();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -22,6 +22,7 @@ constexpr int kNarrowBar = 640;
 constexpr int kTwoLinesFontPx = 12;
 constexpr int kTwoLinesApart = 15;
 constexpr int kFrameCorner = 9;
+constexpr const char* kDeviceFailed = "Device Failed:";
 constexpr QColor kToldRed{0xFF, 0x00, 0x00};
 
 /// Where the first of two lines ends: behind the last word that fits.
@@ -61,23 +62,41 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/)
     painter.drawText(0, baseline + kTwoLinesApart, second);
 }
 
+SoundLabel::SoundLabel(QWidget* parent) : QLabel(parent)
+{
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+}
+
+void SoundLabel::paintEvent(QPaintEvent* /*event*/)
+{
+    // The red goes with the words: once a device is there, the player's states stand in their own colour.
+    const bool failed = text() == QLatin1String(kDeviceFailed);
+    QFont shownFont = font();
+    shownFont.setBold(failed);
+    QPainter painter(this);
+    painter.setFont(shownFont);
+    painter.setPen(failed ? kToldRed : palette().color(QPalette::WindowText));
+    painter.drawText(rect(), static_cast<int>(alignment()),
+                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+}
+
 StatusBar::StatusBar(QWidget* parent, HintWatcher& watcher)
     : QWidget(parent),
       statusLbl(new HintLabel(this)),
       trackMouPosLbl(new QLabel(this)),
-      soundStatusLbl(new QLabel(this))
+      soundStatusLbl(new SoundLabel(this))
 {
     setObjectName(QStringLiteral("StatusFramePic"));
     watcher.Watch(*this, kStatusFrameHint);
     statusLbl->setObjectName(QStringLiteral("StatusLbl"));
     trackMouPosLbl->setObjectName(QStringLiteral("TrackMouPosLbl"));
     soundStatusLbl->setObjectName(QStringLiteral("SoundStatusLbl"));
-    for (QLabel* label : {static_cast<QLabel*>(statusLbl), trackMouPosLbl, soundStatusLbl}) {
+    for (QLabel* label : {static_cast<QLabel*>(statusLbl), trackMouPosLbl, static_cast<QLabel*>(soundStatusLbl)}) {
         label->setFont(HintFont());
-        label->setTextFormat(Qt::PlainText);
     }
+    trackMouPosLbl->setTextFormat(Qt::PlainText);
     trackMouPosLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    soundStatusLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     watcher.Watch(*statusLbl, "");
     watcher.Watch(*soundStatusLbl, "");
     SetStatusLbl(statusLbl);
@@ -90,17 +109,7 @@ void StatusBar::ShowCell(std::string_view cell)
 
 void StatusBar::ShowSoundDevices(int count)
 {
-    if (count >= 1) {
-        soundStatusLbl->setText(tr("Ready"));
-        return;
-    }
-    soundStatusLbl->setText(tr("Device Failed:"));
-    QFont bold = soundStatusLbl->font();
-    bold.setBold(true);
-    soundStatusLbl->setFont(bold);
-    QPalette red = soundStatusLbl->palette();
-    red.setColor(QPalette::WindowText, kToldRed);
-    soundStatusLbl->setPalette(red);
+    soundStatusLbl->setText(count >= 1 ? QStringLiteral("Ready") : QString::fromLatin1(kDeviceFailed));
 }
 
 void StatusBar::paintEvent(QPaintEvent* /*event*/)

@@ -24,6 +24,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
+/// `SoundStatusLbl`: the state of the player, in bold red while it tells that there is no device.
+class SoundLabel : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit SoundLabel(QWidget* parent);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 /// `StatusFramePic`: the hint, the cell under the pointer and the state of the player.
 class StatusBar : public QWidget {
     Q_OBJECT
@@ -46,7 +57,7 @@ protected:
 private:
     HintLabel* statusLbl;
     QLabel* trackMouPosLbl;
-    QLabel* soundStatusLbl;
+    SoundLabel* soundStatusLbl;
 };
 
 } // namespace sprout

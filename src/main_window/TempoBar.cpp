@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <utility>
@@ -34,7 +35,13 @@ constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
 constexpr std::int32_t kPercentsAPage = 10;
 
-constexpr TempoSlider kSlider{0, kSlotSize.width(), kPointerSize.width()};
+constexpr int kShortestSlot = 60;
+
+/// Width of a label that holds `text` at most.
+int WidestWidth(const char* text)
+{
+    return QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(text)) + 2;
+}
 
 class TempoSlot : public QWidget {
 public:
@@ -72,7 +79,13 @@ public:
     {
         shown = percent;
         setValue(percent);
-        PutAt(kSlider.LeftOf(percent));
+        PutAt(slider.LeftOf(percent));
+    }
+
+    void SetSlotWidth(int widthPx)
+    {
+        slider.slotWidth = widthPx;
+        PutAt(slider.LeftOf(value()));
     }
 
 protected:
@@ -88,8 +101,8 @@ protected:
     {
         if (!TempoDragging)
             return;
-        PutAt(kSlider.Dragged(left, event->position().x(), TempoDownX));
-        setValue(kSlider.PercentAt(left));
+        PutAt(slider.Dragged(left, event->position().x(), TempoDownX));
+        setValue(slider.PercentAt(left));
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
@@ -97,7 +110,7 @@ protected:
         if (event->button() != Qt::LeftButton || !TempoDragging)
             return;
         TempoDragging = false;
-        choose(kSlider.PercentAt(left));
+        choose(slider.PercentAt(left));
     }
 
     /// A wheel turned in passing changes nothing.
@@ -146,6 +159,7 @@ private:
         move(static_cast<int>(std::lround(left)), y());
     }
 
+    TempoSlider slider{0, kSlotSize.width(), kPointerSize.width()};
     Told slide;
     Told choose;
     bool TempoDragging = false;
@@ -155,37 +169,52 @@ private:
 };
 
 TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
-    : QWidget(parent), TempoPrtImg(nullptr), TempoLbl(new QLabel(this)), SngDurLbl(new QLabel(this))
+    : QWidget(parent),
+      TempoSliderImg(new TempoSlot(this)),
+      TempoPrtImg(nullptr),
+      TempoLbl(new QLabel(this)),
+      SngDurLbl(new QLabel(this))
 {
-    auto* slot = new TempoSlot(this);
-    slot->move(0, (kBarHeight - slot->height()) / 2);
+    TempoSliderImg->move(0, (kBarHeight - TempoSliderImg->height()) / 2);
     TempoPrtImg = new TempoPointer(
         this, [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
         [this](std::int32_t percent) { TakePercent(percent); });
     TempoPrtImg->setAccessibleName(QStringLiteral("Tempo"));
-    PlaceLabels();
+    for (QLabel* label : {TempoLbl, SngDurLbl}) {
+        label->setFont(LabelFont());
+        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+    FitWidth(QWIDGETSIZE_MAX);
     const auto name = [&watcher](QWidget& control, const char* systemName) {
         control.setObjectName(QString::fromLatin1(systemName));
         watcher.Watch(control, MainWindowHint(systemName));
     };
-    name(*slot, "TempoSliderImg");
+    name(*TempoSliderImg, "TempoSliderImg");
     name(*TempoPrtImg, "TempoPrtImg");
     name(*TempoLbl, "TempoLbl");
     name(*SngDurLbl, "SngDurLbl");
     UpdateTempoSliderValue();
 }
 
-void TempoBar::PlaceLabels()
+void TempoBar::FitWidth(int widthPx)
 {
-    int x = kSlotSize.width();
-    for (const auto& [label, widest] : {std::pair(TempoLbl, "200%"), std::pair(SngDurLbl, "480 sec")}) {
-        label->setFont(LabelFont());
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        const int width = QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(widest)) + 2;
-        label->setGeometry(x + kLabelGap, 0, width, kBarHeight);
-        x += kLabelGap + width;
+    const int percentWidth = WidestWidth("200%");
+    const int secondsWidth = WidestWidth("480 sec");
+    const int besideTheSlot = kLabelGap + percentWidth + kLabelGap + secondsWidth;
+    const bool stacked = widthPx < kSlotSize.width() + besideTheSlot;
+    const int slotWidth =
+        stacked ? std::clamp(widthPx - kLabelGap - secondsWidth, kShortestSlot, kSlotSize.width()) : kSlotSize.width();
+    TempoSliderImg->resize(slotWidth, kSlotSize.height());
+    TempoPrtImg->SetSlotWidth(slotWidth);
+    const int labelsLeft = slotWidth + kLabelGap;
+    if (stacked) {
+        TempoLbl->setGeometry(labelsLeft, 0, secondsWidth, kBarHeight / 2);
+        SngDurLbl->setGeometry(labelsLeft, kBarHeight / 2, secondsWidth, kBarHeight / 2);
+    } else {
+        TempoLbl->setGeometry(labelsLeft, 0, percentWidth, kBarHeight);
+        SngDurLbl->setGeometry(labelsLeft + percentWidth + kLabelGap, 0, secondsWidth, kBarHeight);
     }
-    setFixedSize(x, kBarHeight);
+    setFixedSize(SngDurLbl->x() + SngDurLbl->width(), kBarHeight);
 }
 
 void TempoBar::UpdateTempoSliderValue()

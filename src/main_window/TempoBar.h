@@ -22,16 +22,19 @@ public:
     /// Shows the song's tempo.
     void UpdateTempoSliderValue();
 
+    /// Takes no more than a width: in a narrow one the slot is shorter and the labels stand one above the other.
+    void FitWidth(int widthPx);
+
 Q_SIGNALS:
     /// The song has another tempo, so that its cells last differently.
     void TempoChanged();
 
 private:
-    void PlaceLabels();
     void ShowLabels(std::int32_t percent, std::int32_t tempo);
     /// The user's choice.
     void TakePercent(std::int32_t percent);
 
+    QWidget* TempoSliderImg;
     TempoPointer* TempoPrtImg;
     QLabel* TempoLbl;
     QLabel* SngDurLbl;

@@ -1,65 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TrackCanvas.h"
 
-#include <QKeyEvent>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
-#include <QWheelEvent>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 #include "core/Shared.h"
 #include "main_window/TrackPic.h"
 #include "main_window/TrackTitlePic.h"
 #include "main_window/rules/CellValues.h"
-#include "ui/Hints.h"
 #include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/ToolCursor.h"
 
 namespace sprout {
 
 namespace {
 
 constexpr int kScrollBarBreadth = 18;
-constexpr int kWheelNotch = 120;
-
-enum class Bar { Rows, Cells };
-
-struct ScrollKey {
-    int key;
-    Bar bar;
-    QAbstractSlider::SliderAction action;
-};
-
-constexpr std::array kScrollKeys{
-    ScrollKey{Qt::Key_Up, Bar::Rows, QAbstractSlider::SliderSingleStepSub},
-    ScrollKey{Qt::Key_Down, Bar::Rows, QAbstractSlider::SliderSingleStepAdd},
-    ScrollKey{Qt::Key_PageUp, Bar::Rows, QAbstractSlider::SliderPageStepSub},
-    ScrollKey{Qt::Key_PageDown, Bar::Rows, QAbstractSlider::SliderPageStepAdd},
-    ScrollKey{Qt::Key_Left, Bar::Cells, QAbstractSlider::SliderSingleStepSub},
-    ScrollKey{Qt::Key_Right, Bar::Cells, QAbstractSlider::SliderSingleStepAdd},
-    ScrollKey{Qt::Key_Home, Bar::Cells, QAbstractSlider::SliderToMinimum},
-    ScrollKey{Qt::Key_End, Bar::Cells, QAbstractSlider::SliderToMaximum},
-};
-
-struct ToolButton {
-    Tool tool;
-    std::string_view button;
-};
-
-constexpr std::array kToolButtons{ToolButton{Tool::Brush, "BrushBtn"}, ToolButton{Tool::Eraser, "EraserBtn"},
-                                  ToolButton{Tool::PlayTool, "PlayToolBtn"}};
-
-std::string_view ButtonOf(Tool tool)
-{
-    const auto* row = std::find_if(kToolButtons.begin(), kToolButtons.end(),
-                                   [tool](const ToolButton& candidate) { return candidate.tool == tool; });
-    return row->button;
-}
 
 /// Gives a bar its range and its place, of which no event tells, and returns the place.
 std::int32_t FitScrollBar(QScrollBar& bar, const ScrollRange& range, std::int32_t first, int pageStep)
@@ -70,13 +29,6 @@ std::int32_t FitScrollBar(QScrollBar& bar, const ScrollRange& range, std::int32_
     bar.setPageStep(std::max(pageStep, 1));
     bar.setValue(first);
     return bar.value();
-}
-
-template <class... Arguments>
-void Ask(const std::function<void(Arguments...)>& call, const std::type_identity_t<Arguments>&... arguments)
-{
-    if (call)
-        call(arguments...);
 }
 
 } // namespace
@@ -93,11 +45,12 @@ void TrackCanvas::MakeSurfaces(ButtonScheme& buttons)
 {
     titlePic = new TrackTitlePic(view, buttons, calls, this);
     trackPic = new TrackPic(view, this);
+    setFocusProxy(trackPic);
     titlePic->Redraw = trackPic->Redraw = [this] { DrawTracksAll(); };
     connect(titlePic, &TrackTitlePic::RowChosen, this, &TrackCanvas::ShowRow);
     connect(trackPic, &TrackPic::Pressed, this, &TrackCanvas::Press);
     connect(trackPic, &TrackPic::Moved, this, &TrackCanvas::Move);
-    connect(trackPic, &TrackPic::Released, this, [this] { stroke.End(); });
+    connect(trackPic, &TrackPic::Released, this, &TrackCanvas::EndStroke);
     connect(trackPic, &TrackPic::Left, this, &TrackCanvas::Leave);
 }
 
@@ -190,13 +143,6 @@ void TrackCanvas::HideTrackButtons()
     titlePic->HideTrackButtons();
 }
 
-void TrackCanvas::SetCurrentTool(Tool newTool)
-{
-    tool = newTool;
-    if (pointerImage == PointerImage::ToolCursor)
-        trackPic->setCursor(ToolCursor(ButtonOf(tool), devicePixelRatioF()));
-}
-
 Tool TrackCanvas::CurrentTool() const
 {
     return tool;
@@ -230,104 +176,6 @@ TrackView TrackCanvas::View() const
 void TrackCanvas::ShowPlayIndicator(const PlayIndicator& indicator)
 {
     trackPic->ShowPlayIndicator(indicator);
-}
-
-TrackHit TrackCanvas::HitTest(QPoint at) const
-{
-    return HitTestTrack(view, Shared().Song.TrackCount, Shared().Song.SongCells, at.x(), at.y());
-}
-
-void TrackCanvas::Press(QPoint at)
-{
-    const TrackHit hit = HitTest(at);
-    switch (ActionOfPress(tool, hit)) {
-    case PressAction::Nothing:
-        return;
-    case PressAction::PlaySongFrom:
-        return Ask(calls.PlaySongFrom, hit.cell);
-    case PressAction::PlayTrackFrom:
-        return Ask(calls.PlayTrackFrom, hit.track, hit.cell);
-    case PressAction::BeginStroke:
-        if (stroke.Begin(Shared().Song, tool, hit, at.x(), at.y()))
-            DrawStroke();
-        Ask(calls.EnableTrackTitlePlayTimer);
-    }
-}
-
-void TrackCanvas::Move(QPoint at)
-{
-    if (stroke.Dragging())
-        at.setY(stroke.DownY());
-    const TrackHit hit = HitTest(at);
-    ShowPointer(PointerOverTracks(view, hit, stroke.Dragging() ? stroke.DragTrack() : 0));
-    // Also without a hit: a drag beyond the edge goes on with the cell that lies there.
-    if (stroke.MoveTo(Shared().Song, tool, hit.cell))
-        DrawStroke();
-}
-
-void TrackCanvas::DrawStroke()
-{
-    DrawTrackTop();
-    DrawTrackOne(stroke.DragTrack());
-}
-
-void TrackCanvas::Leave()
-{
-    trackPic->ShowCellCursor(std::nullopt);
-    Ask(calls.ShowCell, std::string_view());
-}
-
-void TrackCanvas::ShowPointer(const TrackPointer& pointer)
-{
-    ShowPointerImage(pointer.image);
-    ShowHint(QtText(pointer.hint));
-    Ask(calls.ShowCell, std::string_view(pointer.TrackMouPosLbl));
-    trackPic->ShowCellCursor(pointer.cellCursor);
-}
-
-void TrackCanvas::ShowPointerImage(PointerImage image)
-{
-    if (image == pointerImage)
-        return;
-    pointerImage = image;
-    if (image == PointerImage::Default)
-        trackPic->unsetCursor();
-    else
-        trackPic->setCursor(
-            ToolCursor(ButtonOf(image == PointerImage::PlayTool ? Tool::PlayTool : tool), devicePixelRatioF()));
-}
-
-void TrackCanvas::ShowRow(std::int32_t track)
-{
-    const std::int32_t rowsInView = (view.trackPicHeight - kFirstRowTop) / kRowHeight;
-    if (track < view.FirstTrack)
-        vScroll->setValue(track);
-    else if (track >= view.FirstTrack + rowsInView)
-        vScroll->setValue(track - std::max(rowsInView, 1) + 1);
-}
-
-void TrackCanvas::wheelEvent(QWheelEvent* event)
-{
-    QPoint turned = event->angleDelta();
-    if (event->modifiers() & Qt::ShiftModifier)
-        turned = QPoint(turned.x() + turned.y(), 0);
-    wheelRest += turned;
-    const QPoint notches(wheelRest.x() / kWheelNotch, wheelRest.y() / kWheelNotch);
-    wheelRest -= QPoint(notches.x() * kWheelNotch, notches.y() * kWheelNotch);
-    vScroll->setValue(vScroll->value() - notches.y());
-    hScroll->setValue(hScroll->value() - notches.x() * kCellsOfAGroup);
-    event->accept();
-}
-
-void TrackCanvas::keyPressEvent(QKeyEvent* event)
-{
-    if (event->key() == Qt::Key_Space)
-        return Ask(calls.PlayOrStop);
-    const auto* row = std::find_if(kScrollKeys.begin(), kScrollKeys.end(),
-                                   [event](const ScrollKey& candidate) { return candidate.key == event->key(); });
-    if (row == kScrollKeys.end())
-        return QWidget::keyPressEvent(event);
-    (row->bar == Bar::Rows ? vScroll : hScroll)->triggerAction(row->action);
 }
 
 } // namespace sprout

@@ -36,7 +36,9 @@ struct TrackCanvasCalls {
 /// shared song and lets the user paint it.
 ///
 /// The wheel scrolls by rows, with Shift sideways. With the focus on `TrackPic` the arrow keys, Page Up and Page Down,
-/// Home and End scroll and the space bar plays and stops; `TrackTitlePic` tells of its own keys.
+/// Home and End scroll and the space bar plays and stops. With Ctrl the arrow keys move the cell cursor, with Ctrl and
+/// Shift they draw a stroke until one of the two is let go; Enter is a press of the mouse on that cell. `TrackTitlePic`
+/// tells of its own keys.
 class TrackCanvas : public QWidget {
     Q_OBJECT
 
@@ -69,6 +71,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
     void MakeSurfaces(ButtonScheme& buttons);
@@ -76,19 +79,28 @@ private:
     void PlaceParts();
     void FitScrollBars();
     void ShowRow(std::int32_t track);
+    void ShowCell(std::int32_t cell);
 
     void Press(QPoint at);
     void Move(QPoint at);
     void Leave();
+    void EndStroke();
     [[nodiscard]] TrackHit HitTest(QPoint at) const;
     void DrawStroke();
     void ShowPointer(const TrackPointer& pointer);
     void ShowPointerImage(PointerImage image);
 
+    bool StepKeyCell(const QKeyEvent& event);
+    void ShowKeyCell();
+    void PressKeyCell();
+    [[nodiscard]] QPoint KeyPoint() const;
+
     TrackCanvasCalls calls;
     TrackView view;
     Tool tool = Tool::Brush;
     Stroke stroke;
+    std::int32_t keyTrack = 1; ///< of the cell that keys work on, 0 for the time band
+    std::int32_t keyCell = 1;
     PointerImage pointerImage = PointerImage::Default;
     TrackTitlePic* titlePic = nullptr;
     TrackPic* trackPic = nullptr;

@@ -53,8 +53,9 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     setAccessibleName(tr("Tracks"));
-    setAccessibleDescription(
-        tr("Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops."));
+    setAccessibleDescription(tr(
+        "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
+        "an arrow key choose a cell, Enter uses the tool on it, Control, Shift and an arrow key draw."));
 }
 
 void TrackPic::Clear()
@@ -90,20 +91,21 @@ void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
     const QRect background(0, rowTop + kBackgroundTop, width(), kBackgroundHeight);
     SurfacePainter painter = Painter();
     painter.Tile(background, TrackBlankPic(look.trackType, PixelRatio()));
+    const QPixmap tile = TrackDrawnPic(look.tile, PixelRatio());
     for (const PaintedRun& run : look.runs)
-        PaintRun(painter, run, look, rowTop);
+        PaintRun(painter, run, look.cycle, tile, rowTop);
     if (!look.painted)
         painter.Write(kUnpaintedTextAt.x(), rowTop + kUnpaintedTextAt.y(), LabelFont(),
                       tr("Please paint on this track to play with others."));
     update(background);
 }
 
-void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, const RowLook& look, std::int32_t rowTop) const
+void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
+                        std::int32_t rowTop) const
 {
-    const QPixmap tile = TrackDrawnPic(look.tile, PixelRatio());
     for (const TilePlace& place : RunTiles(run, view, kTileWidth))
         painter.Lay(QRect(place.x, rowTop + kPaintTop, place.width, kPaintHeight), tile);
-    for (const PixelRect& mark : RunMarks(run, look.cycle, view, rowTop))
+    for (const PixelRect& mark : RunMarks(run, cycle, view, rowTop))
         painter.Fill(QRect(mark.x, mark.y, mark.width, mark.height), Qt::black);
 }
 
@@ -177,6 +179,13 @@ void TrackPic::leaveEvent(QEvent* event)
 {
     Q_EMIT Left();
     TrackSurface::leaveEvent(event);
+}
+
+void TrackPic::focusOutEvent(QFocusEvent* event)
+{
+    // A stroke that keys draw would not see them released.
+    Q_EMIT Released();
+    TrackSurface::focusOutEvent(event);
 }
 
 void TrackPic::PaintOver(QPainter& painter)

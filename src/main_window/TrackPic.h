@@ -50,6 +50,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void PaintOver(QPainter& painter) override;
 
 private:
@@ -71,7 +72,8 @@ private:
 
     [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
     void PaintRow(const RowLook& look, std::int32_t rowTop);
-    void PaintRun(SurfacePainter& painter, const PaintedRun& run, const RowLook& look, std::int32_t rowTop) const;
+    void PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
+                  std::int32_t rowTop) const;
     void PaintBusyMarks(SurfacePainter& painter, const std::vector<BusyMark>& marks) const;
     void PaintSeconds(SurfacePainter& painter, const SongState& song) const;
 

@@ -69,19 +69,24 @@ TrackSurface::TrackSurface(const char* name, const QColor& backColour, QWidget* 
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+QSize TrackSurface::DevicePixels() const
+{
+    // A surface without room can be drawn on all the same.
+    return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo(QSize(1, 1));
+}
+
 void TrackSurface::Clear()
 {
     ratio = devicePixelRatioF();
-    const QSize devicePixels = (QSizeF(size()) * ratio).toSize();
-    if (kept.size() != devicePixels)
-        kept = QPixmap(devicePixels);
+    if (kept.size() != DevicePixels())
+        kept = QPixmap(DevicePixels());
     kept.fill(back);
     update();
 }
 
 bool TrackSurface::IsStale() const
 {
-    return ratio != devicePixelRatioF() || kept.size() != (QSizeF(size()) * ratio).toSize();
+    return ratio != devicePixelRatioF() || kept.size() != DevicePixels();
 }
 
 void TrackSurface::paintEvent(QPaintEvent* event)
@@ -105,12 +110,12 @@ void TrackSurface::PaintOver(QPainter& /*painter*/) {}
 
 void TrackSurface::PaintFocusRing(QPainter& painter, const QRect& place)
 {
-    painter.setBrush(Qt::NoBrush);
-    const QRectF edge = QRectF(place).adjusted(1.5, 1.5, -1.5, -1.5);
-    painter.setPen(QPen(Qt::white, 3));
-    painter.drawRect(edge);
-    painter.setPen(QPen(kLink, 2));
-    painter.drawRect(edge.adjusted(-0.5, -0.5, 0.5, 0.5));
+    const auto frame = [&painter](const QRect& outer, int breadth, const QColor& colour) {
+        for (const QRect& side : QRegion(outer).subtracted(outer.adjusted(breadth, breadth, -breadth, -breadth)))
+            painter.fillRect(side, colour);
+    };
+    frame(place, 3, Qt::white);
+    frame(place, 2, kLink);
 }
 
 void TrackSurface::focusInEvent(QFocusEvent* event)

@@ -67,6 +67,7 @@ protected:
     static void PaintFocusRing(QPainter& painter, const QRect& place);
 
 private:
+    [[nodiscard]] QSize DevicePixels() const;
     [[nodiscard]] bool IsStale() const;
 
     QColor back;

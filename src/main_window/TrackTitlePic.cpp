@@ -67,8 +67,9 @@ TrackTitlePic::TrackTitlePic(const TrackView& shownView, ButtonScheme& scheme, c
     setAccessibleName(tr("Buttons of the tracks"));
     setAccessibleDescription(tr("Choose a track with up and down and its button with left and right, press Enter."));
     MakeHeadings();
-    MakeFloatingButtons();
-    MakeAddButtons();
+    MakeTuneBtn();
+    MakeButtons();
+    MakeTopLbl();
 }
 
 void TrackTitlePic::MakeHeadings()
@@ -78,6 +79,7 @@ void TrackTitlePic::MakeHeadings()
             name, text, [message] { ShowMessage(message); }, this);
         label->setGeometry(place);
         watcher.Watch(*label, "");
+        label->installEventFilter(this);
     };
     add("Label5", tr("Tune"), kLabel5Message, kLabel5Place);
     add("Label1", tr("Play"), kLabel1Message, kLabel1Place);
@@ -96,9 +98,34 @@ ImageButton& TrackTitlePic::AddStripButton(const ButtonRow& row, QSize size, con
     return button;
 }
 
-void TrackTitlePic::MakeFloatingButtons()
+void TrackTitlePic::MakeButtons()
 {
     const auto hint = [](const char* name) { return MainWindowHint(name).data(); };
+    // In the order of the window's table.
+    playBtn = &AddStripButton({"TrackPlayBtn", "Play track", hint("TrackPlayBtn")}, kPlayPicSize, calls.TrackPlayBtn);
+    audioBtn =
+        &AddStripButton({"TrackAudioBtn", "Recording", hint("TrackAudioBtn")}, kPictureButtonSize, calls.TrackAudioBtn);
+    addRecBtn = &AddStripButton({"TrackAddRecBtn", "Add audio track", hint("TrackAddRecBtn")}, kAddButtonSize,
+                                calls.TrackAddRecBtn);
+    addBtn =
+        &AddStripButton({"TrackAddBtn", "Add music track", hint("TrackAddBtn")}, kAddButtonSize, calls.TrackAddBtn);
+    deleteBtn = &AddStripButton({"TrackDeleteBtn", "Delete track", hint("TrackDeleteBtn"), Plate::Title},
+                                kDeleteButtonPicSize, calls.TrackDeleteBtn);
+    // By keyboard they are reached through the strip.
+    for (ImageButton* button : {audioBtn, deleteBtn, playBtn}) {
+        button->setFocusPolicy(Qt::NoFocus);
+        button->hide();
+    }
+    setTabOrder(addBtn, addRecBtn);
+    for (ImageButton* button : {addBtn, addRecBtn}) {
+        button->show();
+        button->installEventFilter(this);
+    }
+    audioBtn->installEventFilter(this);
+}
+
+void TrackTitlePic::MakeTuneBtn()
+{
     tuneBtn = new TrackTuneBtn(this);
     tuneBtn->setAttribute(Qt::WA_NoMousePropagation);
     tuneBtn->Hovered = [this] { TuneHovered(); };
@@ -106,34 +133,17 @@ void TrackTitlePic::MakeFloatingButtons()
         ShowHint({});
         RunCall(calls.TrackTuneBtn);
     });
-    audioBtn =
-        &AddStripButton({"TrackAudioBtn", "Recording", hint("TrackAudioBtn")}, kPictureButtonSize, calls.TrackAudioBtn);
-    deleteBtn = &AddStripButton({"TrackDeleteBtn", "Delete track", hint("TrackDeleteBtn"), Plate::Title},
-                                kDeleteButtonPicSize, calls.TrackDeleteBtn);
-    playBtn = &AddStripButton({"TrackPlayBtn", "Play track", hint("TrackPlayBtn")}, kPlayPicSize, calls.TrackPlayBtn);
-    // By keyboard they are reached through the strip.
-    for (ImageButton* button : {audioBtn, deleteBtn, playBtn}) {
-        button->setFocusPolicy(Qt::NoFocus);
-        button->hide();
-    }
-    audioBtn->installEventFilter(this);
 }
 
-void TrackTitlePic::MakeAddButtons()
+void TrackTitlePic::MakeTopLbl()
 {
-    const auto hint = [](const char* name) { return MainWindowHint(name).data(); };
-    addBtn =
-        &AddStripButton({"TrackAddBtn", "Add music track", hint("TrackAddBtn")}, kAddButtonSize, calls.TrackAddBtn);
-    addRecBtn = &AddStripButton({"TrackAddRecBtn", "Add audio track", hint("TrackAddRecBtn")}, kAddButtonSize,
-                                calls.TrackAddRecBtn);
-    addBtn->show();
-    addRecBtn->show();
     topLbl = new QLabel(tr("Add a track"), this);
     topLbl->setObjectName(QStringLiteral("TrackTopLbl"));
     topLbl->setFont(HintFont());
     topLbl->setAlignment(Qt::AlignCenter);
     topLbl->resize(kAddButtonsApart + kAddButtonSize.width(), kTopLblHeight);
     watcher.Watch(*topLbl, "");
+    topLbl->installEventFilter(this);
 }
 
 void TrackTitlePic::Clear()
@@ -243,9 +253,18 @@ void TrackTitlePic::TuneHovered()
 
 bool TrackTitlePic::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == audioBtn && event->type() == QEvent::MouseMove)
-        RunCall(calls.EnableTrackTitlePlayTimer);
+    if (event->type() == QEvent::MouseMove) {
+        if (watched == audioBtn)
+            RunCall(calls.EnableTrackTitlePlayTimer);
+        else
+            LeaveRows();
+    }
     return TrackSurface::eventFilter(watched, event);
+}
+
+void TrackTitlePic::LeaveRows()
+{
+    PlaceFloatingButtons({});
 }
 
 void TrackTitlePic::mousePressEvent(QMouseEvent* event)

@@ -68,13 +68,15 @@ private:
     };
 
     void MakeHeadings();
-    void MakeFloatingButtons();
-    void MakeAddButtons();
+    void MakeTuneBtn();
+    void MakeButtons();
+    void MakeTopLbl();
     ImageButton& AddStripButton(const ButtonRow& row, QSize size, const std::function<void()>& onClick);
     void TuneHovered();
 
     void PaintRow(const Track& track, std::int32_t number);
     void HoverAt(std::int32_t x, std::int32_t y);
+    void LeaveRows();
     void PlaceFloatingButtons(const FloatingButtons& shown);
 
     void ChooseRow(std::int32_t track);

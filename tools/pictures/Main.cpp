@@ -167,9 +167,9 @@ private:
     static QSize SizeOf(const QString& name)
     {
         if (name == QStringLiteral("TempoSliderImg"))
-            return {180, 28};
+            return {184, 28};
         if (name == QStringLiteral("TempoPrtImg"))
-            return {24, 28};
+            return {30, 35};
         if (name == QStringLiteral("TimeSlide"))
             return {200, 15};
         if (name.startsWith(QStringLiteral("BusyMark")))

@@ -29,7 +29,9 @@ public:
     /// Keeps the place: what was handed over is heard to its end, and `StartFrom::WhereItStopped` goes on behind it.
     void Stop();
     void SetLooping(Loop loop);
-    /// Where the sound is heard at `now`. It plays until the device asks for more after it took the last frame.
+    /// True until the device asks for more after it took the last frame. May be asked from any thread.
+    [[nodiscard]] bool Plays() const { return playing; }
+    /// Where the sound is heard at `now`.
     [[nodiscard]] SoundPlace PlaceAt(Time now);
 
     /// Hands the next frames of the sound over, silence where there are none. now: when the device asked.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
+
 #include "service/SoundOutput.h"
 
 namespace sprout {
@@ -11,7 +13,8 @@ namespace sprout {
 /// or a device that came later is found.
 class SdlSoundOutput : public SoundOutput {
 public:
-    SdlSoundOutput() = default;
+    /// restRound: a device on which nothing was played for three to four of these is closed until the next play.
+    explicit SdlSoundOutput(std::chrono::milliseconds restRound = std::chrono::seconds(1));
     ~SdlSoundOutput() override;
 
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
@@ -23,6 +26,7 @@ private:
     bool StartAudio();
     void StopAudio();
 
+    const std::chrono::milliseconds restRound;
     bool audioRuns = false;
 };
 

@@ -296,6 +296,97 @@ TEST_F(SdlDummyTest, SignalsStillEndTheProgram)
     }
 }
 
+/// Devices that rest after moments.
+constexpr std::chrono::milliseconds kShortRound{2};
+
+std::ptrdiff_t ThreadsOfThisProgram()
+{
+    return std::distance(std::filesystem::directory_iterator("/proc/self/task"), {});
+}
+
+TEST_F(SdlDummyTest, AtRestNothingRuns)
+{
+    SdlSoundOutput resting(kShortRound);
+    ASSERT_EQ(resting.SoundDeviceCount(), 1);
+    const auto threads = ThreadsOfThisProgram();
+    SoundHandle sound = Opened(resting, format, Samples(format, 1000));
+    ASSERT_TRUE(sound);
+    EXPECT_GT(ThreadsOfThisProgram(), threads);
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Ends(sound));
+    EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
+    EXPECT_FALSE(sound->Service07().Playing);
+    sound->Service05();
+    sound->Service09(Loop::Yes);
+}
+
+TEST_F(SdlDiskTest, AfterARestTheNextPlayOpensTheDeviceAgain)
+{
+    SdlSoundOutput resting(kShortRound);
+    const SoundFormat format;
+    const Bytes samples = Samples(format, 3001);
+    const auto threads = ThreadsOfThisProgram();
+    SoundHandle sound;
+    for (int i = 0; i < 3; ++i) {
+        sound = Opened(resting, format, samples, std::move(sound));
+        ASSERT_TRUE(sound);
+        sound->Service04(StartFrom::Beginning, Loop::No);
+        EXPECT_TRUE(Ends(sound));
+        EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
+        EXPECT_EQ(Sounded(format), samples); // of a file that was begun anew
+    }
+}
+
+TEST_F(SdlDiskTest, APauseThatOutlastsTheRestGoesOnWhereItStopped)
+{
+    SdlSoundOutput resting(kShortRound);
+    const SoundFormat format;
+    const Bytes samples = Samples(format, 50000);
+    const auto threads = ThreadsOfThisProgram();
+    SoundHandle sound = Opened(resting, format, samples);
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
+    sound->Service05();
+    EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
+    Bytes sounded = Sounded(format);
+    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    EXPECT_TRUE(Ends(sound));
+    sound.reset();
+    const Bytes rest = Sounded(format);
+    sounded.insert(sounded.end(), rest.begin(), rest.end());
+    EXPECT_EQ(sounded, samples);
+}
+
+TEST_F(SdlDiskTest, ASoundInPlayKeepsItsDevice)
+{
+    SdlSoundOutput resting(kShortRound);
+    const SoundFormat format;
+    const Bytes samples = Samples(format, 1000);
+    SoundHandle sound = Opened(resting, format, samples);
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    const auto longEnough = Clock::now() + 20 * kShortRound;
+    EXPECT_TRUE(Comes([&] { return Clock::now() > longEnough; }));
+    EXPECT_TRUE(sound->Service07().Playing);
+    sound.reset();
+    const Bytes sounded = Sounded(format);
+    EXPECT_EQ(sounded, Repeated(samples, sounded.size()));
+}
+
+TEST_F(SdlDummyTest, PlaysAndRestsThatMeetHarmNothing)
+{
+    SdlSoundOutput resting(std::chrono::milliseconds(0)); // closes as often as it can
+    SoundHandle sound;
+    for (int i = 0; i < 30; ++i) {
+        sound = Opened(resting, format, Samples(format, 600), std::move(sound));
+        ASSERT_TRUE(sound);
+        sound->Service04(StartFrom::Beginning, Loop::No);
+        EXPECT_TRUE(sound->Service07().Playing);
+        EXPECT_TRUE(Ends(sound));
+    }
+}
+
 /// A machine without sound.
 class SdlNoSoundTest : public SdlTest {
 protected:
@@ -308,6 +399,23 @@ TEST_F(SdlNoSoundTest, ListsNoDeviceAndOpensNone)
 {
     EXPECT_EQ(output.SoundDeviceCount(), 0);
     EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+}
+
+/// A machine with ALSA, which SDL falls back on, and without a card.
+class SdlAlsaTest : public SdlTest {
+protected:
+    SdlAlsaTest() : SdlTest("alsa") {}
+
+    SdlSoundOutput output;
+};
+
+TEST_F(SdlAlsaTest, AFailedPlayWritesNothingOnTheStandardError)
+{
+    if (output.SoundDeviceCount() > 0)
+        GTEST_SKIP() << "This machine has a sound card.";
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(SdlNoSoundTest, ADeviceThatComesLaterIsFound)

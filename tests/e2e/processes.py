@@ -1,0 +1,68 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""Starting programs, waiting for facts, and the sentence that tells what failed."""
+import os
+import shutil
+import signal
+import subprocess
+import sys
+import tempfile
+import time
+
+
+class Failure(Exception):
+    """A fact that does not hold; its text ends the sentence "Failed: "."""
+
+
+def wait_for(what, condition, seconds=15):
+    """Waits until the condition gives something true, and returns that."""
+    end = time.monotonic() + seconds
+    while True:
+        fact = condition()
+        if fact:
+            return fact
+        if time.monotonic() > end:
+            raise Failure(f"waited {seconds} s in vain for {what}")
+        time.sleep(0.01)
+
+
+def expect(fact, sentence):
+    if not fact:
+        raise Failure(sentence)
+
+
+class Processes:
+    """Ends all that it started, the last first. None outlives the test, even where that is killed."""
+
+    def __init__(self):
+        self.started = []
+
+    def start(self, command, **options):
+        process = subprocess.Popen(["setpriv", "--pdeathsig", "KILL", *command], **options)
+        self.started.append(process)
+        return process
+
+    def end(self):
+        for process in reversed(self.started):
+            if process.poll() is None:
+                process.kill()
+            process.wait()
+
+
+def in_scratch_folder(name, run):
+    """Calls run(folder, processes) and tidies up behind it; a failure ends the program with its sentence and with what
+    was written to the file "log"."""
+    folder = tempfile.mkdtemp(prefix=f"sprout-{name}-")
+    processes = Processes()
+    # Stopped from outside, it tidies up too.
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
+    try:
+        run(folder, processes)
+    except Failure as failure:
+        log = os.path.join(folder, "log")
+        if os.path.exists(log):
+            with open(log, encoding="utf-8", errors="replace") as lines:
+                sys.stderr.write(lines.read())
+        sys.exit(f"Failed: {failure}.")
+    finally:
+        processes.end()
+        shutil.rmtree(folder)

@@ -1,0 +1,66 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+import os
+import subprocess
+
+from processes import expect
+from songs import SongFile
+from scenarios import scenario
+from scenarios.steps import close, give_short_song, open_song, save_song, stroke, SHORT_SONG
+
+
+@scenario()
+def FirstStart(desk):
+    """The first start fills the user's folder and opens the sample song."""
+    program = desk.start()
+    program.wait_for("SngTitleLbl", "Zumi")
+    for folder in ("Beats", "Tunes", "Stars", "Songs"):
+        installed = sorted(os.listdir(os.path.join(desk.program_folder, "Sprout", folder)))
+        own = sorted(os.listdir(os.path.join(desk.user_root, folder)))
+        expect(own == installed, f"{folder} was not copied whole")
+    expect(program.text_of("SoundStatusLbl") == "Ready", "the sound is not ready")
+    close(program)
+    expect(os.path.exists(desk.settings), "no settings were written beside the program")
+
+
+@scenario()
+def NoDisplay(desk):
+    """Without a display the program says so in one sentence, and ends with 1."""
+    for display in (None, ":60000"):
+        environment = desk.environment(DISPLAY=display, QT_QPA_PLATFORM=None, QT_QPA_GENERIC_PLUGINS=None)
+        done = subprocess.run([desk.executable], env=environment, text=True, stdout=subprocess.PIPE,
+                              stderr=subprocess.PIPE, timeout=20, check=False)
+        expect(done.returncode == 1, f"without a display the program ended with {done.returncode}")
+        told = done.stderr.strip()
+        expect(told.endswith(".") and len(told.splitlines()) == 1, f"without a display the program told '{told}'")
+
+
+@scenario(sound=False)
+def NoSoundServer(desk):
+    """Without a sound device the window says so, without a box; songs can be painted and saved."""
+    give_short_song(desk)
+    program = desk.start()
+    program.wait_for("SoundStatusLbl", "Device Failed:")
+    open_song(program, SHORT_SONG)
+    stroke(program, 3, 5, 20)
+    program.click("PlayAllBtn")
+    save_song(program, "Silent")
+    expect(SongFile(desk.song("Silent")).painted(3) == list(range(5, 21)), "the stroke was not saved")
+    close(program)
+
+
+@scenario(screen_size="800x600")
+def SmallScreen(desk):
+    """On a small screen the window fits, and no button lies over another or outside."""
+    program = desk.start()
+    window = program.wait_for_window("MainFrm")
+    expect(window.x >= 0 and window.y >= 0 and window.x + window.width <= 800 and window.y + window.height <= 600,
+           f"the window reaches out of the screen: {window.told}")
+    # The track buttons move with the tracks.
+    buttons = [widget for widget in program.widgets()
+               if widget.kind == "ImageButton" and not widget.name.startswith("Track")]
+    expect(len(buttons) >= 16, f"only {len(buttons)} buttons can be seen")
+    for number, button in enumerate(buttons):
+        expect(button.told["whole"], f"{button.name} is cut")
+        for other in buttons[:number]:
+            expect(not button.overlaps(other), f"{button.name} lies over {other.name}")
+    close(program)

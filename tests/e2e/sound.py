@@ -1,0 +1,166 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""A real sound server with one device, and what is recorded of it."""
+import os
+import signal
+import struct
+import subprocess
+
+from processes import Failure, expect, wait_for
+
+RATE = 44100
+FRAME_BYTES = 4
+TAIL_FRAMES = RATE // 20
+# Frames that a recording is searched for to find where a sound begins in it.
+SEARCHED_FRAMES = 512
+
+
+def write_wave(path, data):
+    """data: stereo frames of 16 bits, as bytes."""
+    head = struct.pack("<4sI8sIHHIIHH4sI", b"RIFF", len(data) + 36, b"WAVEfmt ", 16, 1, 2, RATE, RATE * FRAME_BYTES,
+                       FRAME_BYTES, 16, b"data", len(data))
+    with open(path, "wb") as file:
+        file.write(head + data)
+
+
+def read_wave(path):
+    """The frames of a WAV file as this project writes it, stereo of 16 bits, as bytes."""
+    with open(path, "rb") as file:
+        head = file.read(44)
+        data = file.read()
+    name, channels, rate, bits, size = struct.unpack("<8x8s6xHI6xH4xI", head)
+    expect((name, channels, rate, bits, size) == (b"WAVEfmt ", 2, RATE, 16, len(data)),
+           f"{path} is no WAV file of 16 bits in stereo")
+    return data
+
+
+class SoundServer:
+    """A server of the test's own in a folder. Its environment is what its clients need; a player takes its own."""
+
+    def __init__(self, folder, processes):
+        self.processes = processes
+        self.socket = os.path.join(folder, "native")
+        self.folder = folder
+        home = os.path.join(folder, "home")
+        run = os.path.join(folder, "run")
+        os.makedirs(home, exist_ok=True)
+        os.makedirs(run, mode=0o700, exist_ok=True)
+        self.environment = {**os.environ, "HOME": home, "XDG_RUNTIME_DIR": run, "PULSE_RUNTIME_PATH": run,
+                            "PULSE_STATE_PATH": home, "PULSE_SERVER": "unix:" + self.socket,
+                            "SDL_AUDIODRIVER": "pulseaudio"}
+        leaks = os.path.join(folder, "leaks")
+        with open(leaks, "w", encoding="utf-8") as file:
+            file.write("leak:libpulse\nleak:libSDL2\nleak:libdbus-1\n")
+        # The libraries' own leaks are not the player's, in a build with a sanitizer.
+        self.environment["LSAN_OPTIONS"] = f"suppressions={leaks}:print_suppressions=0"
+        # A busy machine must not make gaps in the recording.
+        self.player_environment = {**self.environment, "PULSE_LATENCY_MSEC": "400"}
+        self.log = open(os.path.join(folder, "log"), "a", encoding="utf-8")
+        self.recordings = 0
+
+    def start(self):
+        environment = {name: value for name, value in self.environment.items() if name != "PULSE_SERVER"}
+        # Without norewinds the beginning of a sound is lost.
+        self.process = self.processes.start(
+            ["pulseaudio", "-n", "--daemonize=no", "--system=no", "--use-pid-file=no", "--exit-idle-time=-1",
+             "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-target=stderr",
+             "-L", f"module-native-protocol-unix socket={self.socket} auth-anonymous=1",
+             "-L", "module-null-sink sink_name=out rate=44100 channels=2 format=s16le norewinds=1"],
+            env=environment, stderr=self.log)
+        wait_for("the sound server", self.answers)
+
+    def answers(self):
+        if self.process.poll() is not None:
+            raise Failure("the sound server ended by itself")
+        return subprocess.run(["pactl", "list", "short", "sinks"], env=self.environment, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL, check=False).returncode == 0
+
+    def kill(self):
+        self.process.send_signal(signal.SIGKILL)
+        self.process.wait()
+        os.remove(self.socket)
+
+    def record(self):
+        """Starts a recording and gives it once something arrives."""
+        self.recordings += 1
+        return Recording(self, os.path.join(self.folder, f"recording{self.recordings}.raw"))
+
+
+class Recording:
+    """What the device plays from its making on."""
+
+    def __init__(self, server, path):
+        self.path = path
+        with open(path, "wb") as file:
+            self.process = server.processes.start(
+                ["parec", "--latency-msec=10", "--raw", "--format=s16le", f"--rate={RATE}", "--channels=2",
+                 "-d", "out.monitor"], env=server.environment, stdout=file, stderr=server.log)
+        wait_for("the recorder", lambda: os.path.getsize(path) > 0)
+
+    def stop(self):
+        self.process.kill()
+        self.process.wait()
+
+    def frames(self):
+        with open(self.path, "rb") as file:
+            data = file.read()
+        return data[:len(data) - len(data) % FRAME_BYTES]
+
+    def sounds(self):
+        """Whether anything but silence was recorded."""
+        return any(self.frames().strip(b"\0"))
+
+    def is_quiet(self, seconds):
+        """Whether that much silence was recorded last."""
+        size = int(seconds * RATE) * FRAME_BYTES
+        frames = self.frames()
+        return len(frames) >= size and not any(frames[-size:])
+
+    def expect_wave(self, wave, seconds=15, first=True):
+        """Waits until the whole wave was recorded, and holds each of its samples against the recording. wave: frames
+        as bytes. Its own silent start cannot be told from the silence before it and is left out. first: nothing else
+        may have sounded before it."""
+        wanted = without_silent_start(wave)
+        expect(len(wanted) >= SEARCHED_FRAMES * FRAME_BYTES, "there is nothing to hear in the expected wave")
+        length = len(wanted) / FRAME_BYTES / RATE
+        begin = wait_for("the expected sound in the recording",
+                         lambda: 1 + find_frames(self.frames(), wanted[:SEARCHED_FRAMES * FRAME_BYTES]),
+                         seconds) - 1
+        wait_for(f"{length:.1f} s of recording",
+                 lambda: os.path.getsize(self.path) >= begin + len(wanted), length + seconds)
+        expect(not first or not any(self.frames()[:begin]), "something else sounded before the expected sound")
+        compare(self.frames()[begin:begin + len(wanted)], wanted)
+
+
+def without_silent_start(data):
+    silent = len(data) - len(data.lstrip(b"\0"))
+    return data[silent - silent % FRAME_BYTES:]
+
+
+def find_frames(data, wanted):
+    """Where the wanted frames begin, in bytes, or -1."""
+    place = data.find(wanted)
+    while place >= 0 and place % FRAME_BYTES:
+        place = data.find(wanted, place + 1)
+    return place
+
+
+def first_difference(one, other):
+    """The first frame in which two sounds of one length differ."""
+    low, high = 0, len(one)
+    while high - low > FRAME_BYTES:
+        middle = (low + high) // 2 // FRAME_BYTES * FRAME_BYTES
+        if one[low:middle] != other[low:middle]:
+            high = middle
+        else:
+            low = middle
+    return low // FRAME_BYTES
+
+
+def compare(recorded, wanted):
+    if recorded == wanted:
+        return
+    frame = first_difference(recorded, wanted)
+    place = frame * FRAME_BYTES
+    later = find_frames(recorded[place:], wanted[place:place + SEARCHED_FRAMES * FRAME_BYTES])
+    why = f": a gap of {later // FRAME_BYTES} frames" if later > 0 else ""
+    raise Failure(f"the recording differs from the expected sound from frame {frame} ({frame / RATE:.2f} s) on{why}")

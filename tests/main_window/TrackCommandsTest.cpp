@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackCommands.h"
+
+#include "core/Errors.h"
+#include "main_window/CommandsTest.h"
+
+namespace sprout {
+namespace {
+
+using testing::ElementsAre;
+
+class TrackCommandsTest : public CommandsTest {
+protected:
+    TrackCommandsTest()
+    {
+        song.SongMixValid = true;
+        for (Track& track : song.Tracks)
+            track.TrackRenderValid = true;
+    }
+
+    void PlaySomething() { PlayWaveStatus(CountingWave(100), "Playing", Loop::No); }
+    void HoverDeleteButton(std::int32_t number) const { Hover(number, 75); }
+    [[nodiscard]] bool Marked() const { return !song.SongMixValid && song.SongChanged; }
+    [[nodiscard]] bool Unmarked() const { return song.SongMixValid && !song.SongChanged; }
+};
+
+TEST_F(TrackCommandsTest, AddsATrackWithTheChosenTune)
+{
+    bool flagAtFirst = true;
+    tuneWindow = [&](Tune& tune, bool& newFlag) {
+        EXPECT_EQ(song.TrackCount, 4);
+        EXPECT_EQ(&tune, &song.Tracks[4].TrackTune);
+        EXPECT_EQ(play.PlayState, PlayState::Stopped);
+        flagAtFirst = newFlag;
+        GiveTune(tune);
+        return true;
+    };
+    PlaySomething();
+    statusLbl.setText(QStringLiteral("Add Music track button."));
+    QTest::mouseClick(&Part("TrackAddBtn"), Qt::LeftButton);
+    EXPECT_TRUE(statusLbl.text().isEmpty());
+    EXPECT_FALSE(flagAtFirst);
+    EXPECT_EQ(song.TrackCount, 4);
+    EXPECT_FALSE(song.Tracks[4].TrackRenderValid);
+    EXPECT_TRUE(song.Tracks[3].TrackRenderValid);
+    EXPECT_TRUE(Marked());
+    EXPECT_EQ(Part("TrackAddBtn").y(), 4 * 46 + 30); // the rows were drawn anew
+}
+
+TEST_F(TrackCommandsTest, ACancelledAddTakesTheTrackAwayAndMarksTheSong)
+{
+    tracks->TrackAddBtn();
+    EXPECT_EQ(tuneWindowsOpened, 1);
+    EXPECT_EQ(song.TrackCount, 3);
+    EXPECT_EQ(song.Tracks.size(), 4U);
+    EXPECT_FALSE(song.Tracks[3].TrackRenderValid);
+    EXPECT_TRUE(Marked());
+    EXPECT_EQ(Part("TrackAddBtn").y(), 3 * 46 + 30);
+}
+
+TEST_F(TrackCommandsTest, ATuneWindowThatFailsLeavesNoTrackBehind)
+{
+    tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError("No window."); };
+    tracks->TrackAddBtn();
+    EXPECT_EQ(song.TrackCount, 3);
+    ASSERT_EQ(services.messages.shown.size(), 1U);
+    EXPECT_EQ(services.messages.shown[0].text, "No window.");
+}
+
+TEST_F(TrackCommandsTest, DeletesTheHoveredTrackAfterAQuestion)
+{
+    song.Tracks[3].TrackTune.Name = "Lila";
+    Paint(3, 8, 9);
+    canvas->DrawTracksAll();
+    PlaySomething();
+    HoverDeleteButton(2);
+    const NextForm form("YesBtn");
+    QTest::mouseClick(&Part("TrackDeleteBtn"), Qt::LeftButton);
+    EXPECT_EQ(form.caption, "Confirm Delete Track");
+    EXPECT_THAT(form.lines, ElementsAre("Are you sure to delete this Track?", "Track No: 2"));
+    EXPECT_EQ(song.TrackCount, 2);
+    EXPECT_EQ(song.Tracks[2].TrackTune.Name, "Lila");
+    EXPECT_EQ(song.Tracks[2].Painted[8], 1);
+    EXPECT_TRUE(Marked());
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_EQ(Part("TrackAddBtn").y(), 2 * 46 + 30);
+}
+
+TEST_F(TrackCommandsTest, ANoKeepsTheTrackAndTheSound)
+{
+    PlaySomething();
+    HoverDeleteButton(2);
+    const NextForm form("NoBtn");
+    tracks->TrackDeleteBtn();
+    EXPECT_EQ(form.lines.size(), 2U);
+    EXPECT_EQ(song.TrackCount, 3);
+    EXPECT_TRUE(Unmarked());
+    EXPECT_EQ(play.PlayState, PlayState::Playing);
+}
+
+TEST_F(TrackCommandsTest, TheOnlyTrackIsEmptiedWithoutAQuestion)
+{
+    song.TrackCount = 1;
+    song.Tracks.resize(2);
+    MakeAudio(1, 100);
+    Paint(1, 3, 4);
+    HoverDeleteButton(1);
+    const NextForm form;
+    tracks->TrackDeleteBtn();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(form.lines.empty());
+    EXPECT_EQ(song.TrackCount, 1);
+    EXPECT_EQ(song.Tracks[1].TrackType, 0);
+    EXPECT_EQ(FindFirstPainted(song.Tracks[1], song.SongCells), 0);
+    EXPECT_TRUE(Unmarked());
+}
+
+TEST_F(TrackCommandsTest, DeletesNothingWhereNoTrackIsHovered)
+{
+    const NextForm form("YesBtn");
+    tracks->TrackDeleteBtn();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(form.lines.empty());
+    EXPECT_EQ(song.TrackCount, 3);
+}
+
+TEST_F(TrackCommandsTest, AChosenTuneIsRenderedAndMakesItsTrackStale)
+{
+    song.Tracks[2].TrackTune.TuneWaveValid = true;
+    tuneWindow = [this](Tune& tune, bool& newFlag) {
+        EXPECT_EQ(&tune, &song.Tracks[2].TrackTune);
+        EXPECT_FALSE(newFlag);
+        EXPECT_EQ(play.PlayState, PlayState::Stopped);
+        EXPECT_FALSE(canvas->TrackTuneBtnVisible());
+        newFlag = true;
+        return true;
+    };
+    PlaySomething();
+    HoverPicture(2);
+    QTest::mouseClick(&Part("TrackTuneBtn"), Qt::LeftButton);
+    EXPECT_EQ(tuneWindowsOpened, 1);
+    EXPECT_TRUE(song.Tracks[2].TrackTune.TuneWaveValid);
+    EXPECT_GT(song.Tracks[2].TrackTune.TuneWave.Length, 0);
+    EXPECT_FALSE(song.Tracks[2].TrackRenderValid);
+    EXPECT_TRUE(song.Tracks[1].TrackRenderValid);
+    EXPECT_TRUE(Marked());
+}
+
+TEST_F(TrackCommandsTest, ACancelledTuneWindowRendersATuneThatIsNotRenderedAndMarksNothing)
+{
+    HoverPicture(2);
+    tracks->TrackTuneBtn();
+    EXPECT_TRUE(song.Tracks[2].TrackTune.TuneWaveValid);
+    EXPECT_GT(song.Tracks[2].TrackTune.TuneWave.Length, 0);
+    EXPECT_TRUE(song.Tracks[2].TrackRenderValid);
+    EXPECT_TRUE(Unmarked());
+    // One that is rendered stays as it is.
+    song.Tracks[2].TrackTune.TuneWave = WaveData();
+    HoverPicture(2);
+    tracks->TrackTuneBtn();
+    EXPECT_EQ(song.Tracks[2].TrackTune.TuneWave.Length, 0);
+}
+
+TEST_F(TrackCommandsTest, OpensNoTuneWindowWhereNoTrackIsHovered)
+{
+    PlaySomething();
+    tracks->TrackTuneBtn();
+    EXPECT_EQ(tuneWindowsOpened, 0);
+    EXPECT_EQ(play.PlayState, PlayState::Playing);
+}
+
+TEST_F(TrackCommandsTest, TracksWithoutATuneBlinkOnceTheTimerIsOn)
+{
+    QTimer& timer = Timer("TuneNotFilledTimer");
+    EXPECT_FALSE(timer.isActive());
+    EXPECT_EQ(timer.interval(), 300);
+    tracks->EnableTuneNotFilledTimer();
+    EXPECT_TRUE(timer.isActive());
+
+    song.Tracks[2].TrackTune.Picture = Shared().BlankPic;
+    canvas->DrawTracksAll();
+    const auto picture = [this] {
+        const QImage strip = Part("TrackTitlePic").grab().toImage();
+        return strip.pixelColor(24 + 16, RowTop(canvas->View(), 2) + 7 + 16);
+    };
+    const QColor blank = picture();
+    Tick("TuneNotFilledTimer");
+    EXPECT_TRUE(SamePicture(song.Tracks[2].TrackTune.Picture, Shared().BlankStarPic));
+    EXPECT_NE(picture(), blank);
+    Tick("TuneNotFilledTimer");
+    EXPECT_EQ(picture(), blank);
+    EXPECT_TRUE(timer.isActive());
+}
+
+TEST_F(TrackCommandsTest, NothingBlinksWhileASongIsChosen)
+{
+    song.Tracks[2].TrackTune.Picture = Shared().BlankPic;
+    tracks->SetOpening(true);
+    Tick("TuneNotFilledTimer");
+    EXPECT_TRUE(SamePicture(song.Tracks[2].TrackTune.Picture, Shared().BlankPic));
+    tracks->SetOpening(false);
+    Tick("TuneNotFilledTimer");
+    EXPECT_TRUE(SamePicture(song.Tracks[2].TrackTune.Picture, Shared().BlankStarPic));
+}
+
+TEST_F(TrackCommandsTest, TheTimerRunsOnWithNothingToBlink)
+{
+    tracks->EnableTuneNotFilledTimer();
+    Tick("TuneNotFilledTimer");
+    EXPECT_TRUE(Timer("TuneNotFilledTimer").isActive());
+}
+
+} // namespace
+} // namespace sprout

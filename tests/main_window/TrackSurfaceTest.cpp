@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TrackSurface.h"
+
+#include <gtest/gtest.h>
+
+#include "ui/Artwork.h"
+
+namespace sprout {
+namespace {
+
+QPixmap Canvas(int width, int height)
+{
+    QPixmap pixmap(width, height);
+    pixmap.fill(Qt::white);
+    return pixmap;
+}
+
+int BlackColumns(const QPixmap& pixmap, int y)
+{
+    const QImage image = pixmap.toImage();
+    int count = 0;
+    for (int x = 0; x < image.width(); ++x)
+        count += image.pixelColor(x, y) == QColor(Qt::black);
+    return count;
+}
+
+TEST(SurfacePainter, FillsWholeDevicePixelsAtAnyRatio)
+{
+    for (const auto& [ratio, columns] : {std::pair{1.0, 3}, std::pair{2.0, 6}, std::pair{1.5, 4}}) {
+        QPixmap pixmap = Canvas(40, 20);
+        SurfacePainter(pixmap, ratio).Fill(QRect(1, 0, 3, 4), Qt::black); // 1.5 and 6 round to 2 and 6
+        EXPECT_EQ(BlackColumns(pixmap, 0), columns) << ratio;
+    }
+}
+
+TEST(SurfacePainter, LeavesNoSeamBetweenNeighbours)
+{
+    for (const qreal ratio : {1.25, 1.5, 1.75, 2.0}) {
+        QPixmap pixmap = Canvas(200, 10);
+        SurfacePainter painter(pixmap, ratio);
+        for (int x = 0; x < 90; x += 3)
+            painter.Fill(QRect(x, 0, 3, 4), Qt::black);
+        EXPECT_EQ(BlackColumns(pixmap, 0), qRound(90 * ratio)) << ratio;
+    }
+}
+
+TEST(SurfacePainter, CopiesAnArtworkPixelByPixelAtTwiceTheSize)
+{
+    const QPixmap tile = Artwork(QStringLiteral("tiles/Tile3"), QSize(64, 32), 2);
+    ASSERT_EQ(tile.size(), QSize(128, 64));
+    QPixmap pixmap = Canvas(300, 80);
+    SurfacePainter(pixmap, 2).Lay(QRect(10, 4, 64, 32), tile);
+    QImage expected = tile.toImage().convertToFormat(QImage::Format_RGB32);
+    expected.setDevicePixelRatio(1);
+    EXPECT_EQ(pixmap.toImage().convertToFormat(QImage::Format_RGB32).copy(20, 8, 128, 64), expected);
+}
+
+TEST(SurfacePainter, CutsALaidArtworkAndTheLastTile)
+{
+    QPixmap black = Canvas(8, 8);
+    black.fill(Qt::black);
+    QPixmap pixmap = Canvas(40, 10);
+    SurfacePainter(pixmap, 1).Lay(QRect(0, 0, 5, 8), black);
+    EXPECT_EQ(BlackColumns(pixmap, 7), 5);
+    SurfacePainter(pixmap, 1).Tile(QRect(0, 0, 21, 8), black);
+    EXPECT_EQ(BlackColumns(pixmap, 7), 21);
+    EXPECT_EQ(BlackColumns(pixmap, 8), 0);
+}
+
+TEST(SurfacePainter, RepeatsTheBitsOfAPictureAtTwiceTheSize)
+{
+    QImage bitmap(2, 1, QImage::Format_RGB32);
+    bitmap.setPixelColor(0, 0, Qt::white);
+    bitmap.setPixelColor(1, 0, Qt::black);
+    QPixmap pixmap = Canvas(4, 2);
+    SurfacePainter(pixmap, 2).LayBitmap(QRect(0, 0, 2, 1), bitmap);
+    EXPECT_EQ(BlackColumns(pixmap, 1), 2);
+    EXPECT_EQ(pixmap.toImage().pixelColor(1, 0), QColor(Qt::white));
+}
+
+TEST(TrackSurface, AsksToBeDrawnWhereItsSizeChangedAndShowsWhatWasDrawn)
+{
+    TrackSurface surface("Surface", Qt::green, nullptr);
+    int redraws = 0;
+    surface.Redraw = [&surface, &redraws] {
+        ++redraws;
+        surface.Clear();
+    };
+    surface.resize(30, 20);
+    EXPECT_EQ(surface.grab().toImage().pixelColor(29, 19), QColor(Qt::green));
+    EXPECT_EQ(redraws, 1);
+    static_cast<void>(surface.grab());
+    EXPECT_EQ(redraws, 1);
+    surface.resize(31, 20);
+    static_cast<void>(surface.grab());
+    EXPECT_EQ(redraws, 2);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,512 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/TransportCommands.h"
+
+#include "main_window/CommandsTest.h"
+
+namespace sprout {
+namespace {
+
+using testing::ElementsAre;
+
+constexpr const char* kSelectTune = "Please select tune for track using tune button.";
+
+class TransportTest : public CommandsTest {};
+
+// The whole song
+
+TEST_F(TransportTest, PlaysTheMixOfTheSong)
+{
+    Paint(1, 5, 6);
+    Paint(2, 9, 9);
+    statusLbl.setText(QStringLiteral("Play all button"));
+    transport.PlayAllBtn();
+    EXPECT_TRUE(song.SongMixValid);
+    EXPECT_TRUE(SoundStarted());
+    EXPECT_EQ(FramesPlayed(), song.SongMix.Length);
+    EXPECT_EQ(play.PlayingTrack, kWholeSong);
+    EXPECT_EQ(play.PlayStartPos, 5);
+    EXPECT_EQ(play.PlayState, PlayState::Playing);
+    EXPECT_EQ(Status(), "Playing All");
+    EXPECT_TRUE(Timer("PlayPosTimer").isActive());
+    EXPECT_EQ(Timer("PlayPosTimer").interval(), 40);
+    EXPECT_TRUE(statusLbl.text().isEmpty());
+}
+
+TEST_F(TransportTest, AsksForPaintWhereATuneIsChosenAndPlaysNothing)
+{
+    const NextForm form;
+    transport.PlayAllBtn();
+    EXPECT_THAT(form.lines, ElementsAre("Please paint on the track.", "Use the paint button and draw on the track."));
+    EXPECT_FALSE(song.SongMixValid);
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, AsksForATuneAndGoesOnToAMixOfNothing)
+{
+    NewSong();
+    const NextForm form;
+    transport.PlayAllBtn();
+    EXPECT_THAT(form.lines, ElementsAre(kSelectTune));
+    EXPECT_TRUE(song.SongMixValid);
+    EXPECT_FALSE(SoundStarted());
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_EQ(play.PlayingTrack, 0);
+    EXPECT_EQ(Status(), "Ready");
+}
+
+TEST_F(TransportTest, RendersNothingWhereTheMixIsStillValid)
+{
+    Paint(1, 1, 4);
+    transport.PlayAllBtn();
+    const int signs = services.screen.processPicsShown;
+    transport.PlayAllBtn();
+    EXPECT_EQ(services.screen.processPicsShown, signs);
+    EXPECT_EQ(sound.objects, 2);
+}
+
+TEST_F(TransportTest, DoesNothingWithoutASoundDriver)
+{
+    SetSoundDriver(false);
+    Paint(1, 1, 4);
+    transport.PlayAllBtn();
+    EXPECT_TRUE(sound.calls.empty());
+    EXPECT_EQ(Status(), "Ready");
+    EXPECT_FALSE(Timer("PlayPosTimer").isActive());
+}
+
+TEST_F(TransportTest, ShowsNoIndicatorWhereNoDeviceOpens)
+{
+    sound.opens = false;
+    Paint(1, 1, 4);
+    transport.PlayAllBtn();
+    EXPECT_EQ(play.PlayingTrack, 0);
+    EXPECT_EQ(Status(), "Ready");
+    EXPECT_FALSE(Timer("PlayPosTimer").isActive());
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
+TEST_F(TransportTest, TheSpaceBarPlaysAndStops)
+{
+    Paint(1, 1, 4);
+    QTest::keyClick(canvas, Qt::Key_Space);
+    EXPECT_EQ(play.PlayingTrack, kWholeSong);
+    EXPECT_EQ(play.PlayState, PlayState::Playing);
+    QTest::keyClick(canvas, Qt::Key_Space);
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+}
+
+TEST_F(TransportTest, StopsAndLetsTheTimerSeeIt)
+{
+    Paint(1, 1, 4);
+    transport.PlayAllBtn();
+    Tick("PlayPosTimer");
+    statusLbl.setText(QStringLiteral("Stop play button"));
+    transport.PlayStopBtn();
+    EXPECT_TRUE(statusLbl.text().isEmpty());
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_TRUE(Timer("PlayPosTimer").isActive());
+    EXPECT_TRUE(MarkerShown("PlayPosImg0"));
+    Tick("PlayPosTimer");
+    EXPECT_FALSE(Timer("PlayPosTimer").isActive());
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    EXPECT_EQ(play.PlayingTrack, 0);
+    EXPECT_EQ(play.PlayCursor, 0);
+    EXPECT_EQ(Status(), "Done");
+}
+
+// The song from a cell
+
+TEST_F(TransportTest, PlaysTheSongFromACellByAClickOnTheTimeBand)
+{
+    Paint(1, 5, 20);
+    QTest::mouseClick(&Part("TrackPic"), Qt::LeftButton, {}, QPoint(CellLeft(canvas->View(), 6), 5));
+    EXPECT_EQ(play.PlayStartPos, 6);
+    EXPECT_EQ(play.PlayingTrack, kWholeSong);
+    EXPECT_EQ(FramesPlayed(), song.SongMix.Length - 8269 + 1); // 0.1875 s, and that frame itself
+    EXPECT_EQ(Status(), "Playing All");
+}
+
+TEST_F(TransportTest, PlaysTheSongFromItsFirstPaintForACellAheadOfIt)
+{
+    Paint(2, 5, 20);
+    transport.PlaySongFrom(2);
+    EXPECT_EQ(play.PlayStartPos, 5);
+    EXPECT_EQ(FramesPlayed(), song.SongMix.Length);
+}
+
+TEST_F(TransportTest, PlaysNothingFromACellBehindTheSongsSoundOrOutsideTheSong)
+{
+    Paint(1, 5, 6);
+    for (const std::int32_t cell : {1280, 0, -3, 1281})
+        transport.PlaySongFrom(cell);
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, GoesOnFromACellAfterTheTuneMessageAndStopsAfterThePaintMessage)
+{
+    {
+        const NextForm form;
+        transport.PlaySongFrom(3);
+        EXPECT_THAT(form.lines,
+                    ElementsAre("Please paint on the track.", "Use the paint button and draw on the track."));
+        EXPECT_FALSE(song.SongMixValid);
+    }
+    NewSong();
+    const NextForm form;
+    transport.PlaySongFrom(3);
+    EXPECT_THAT(form.lines, ElementsAre(kSelectTune));
+    EXPECT_TRUE(song.SongMixValid);
+}
+
+TEST_F(TransportTest, ChecksNothingFromACellOfFiveTracks)
+{
+    song.TrackCount = 5;
+    song.Tracks.resize(6);
+    for (const std::int32_t number : {4, 5})
+        ResetTrack(number);
+    const NextForm form;
+    transport.PlaySongFrom(3);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(form.lines.empty());
+    EXPECT_TRUE(song.SongMixValid);
+    EXPECT_FALSE(SoundStarted());
+}
+
+// One track
+
+TEST_F(TransportTest, PlaysTheHoveredTrack)
+{
+    Paint(2, 7, 8);
+    HoverPlayButton(2);
+    QTest::mouseClick(&Part("TrackPlayBtn"), Qt::LeftButton);
+    EXPECT_EQ(play.PlayingTrack, 2);
+    EXPECT_EQ(play.PlayStartPos, 7);
+    EXPECT_EQ(FramesPlayed(), song.Tracks[2].TrackRender.Length);
+    EXPECT_EQ(Status(), "Playing Track 2");
+}
+
+TEST_F(TransportTest, PlaysAnAudioTrackAlone)
+{
+    MakeAudio(2, 5000);
+    Paint(2, 7, 8);
+    HoverPlayButton(2);
+    transport.TrackPlayBtn();
+    EXPECT_EQ(FramesPlayed(), 8269 + 5000); // once a cell
+}
+
+TEST_F(TransportTest, AsksForAStepOrPaintAndPlaysNoTrack)
+{
+    HoverPlayButton(1);
+    {
+        const NextForm form;
+        transport.TrackPlayBtn();
+        EXPECT_THAT(form.lines,
+                    ElementsAre("This track is not painted.", "Use the Brush button and paint on the track."));
+    }
+    song.Tracks[1].TrackTune.Steps[1].OnPos = 0;
+    song.Tracks[1].TrackTune.Steps[2].OnPos = 0;
+    Paint(1, 1, 4);
+    const NextForm form;
+    transport.TrackPlayBtn();
+    EXPECT_THAT(form.lines, ElementsAre("Please select a tune or edit it.", "Use the first button on the left."));
+    EXPECT_FALSE(song.Tracks[1].TrackRenderValid);
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, PlaysNoTrackWhereNoneIsHovered)
+{
+    Paint(1, 1, 4);
+    transport.TrackPlayBtn();
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, PlaysATrackFromAnUnpaintedCellWithPaintToItsRight)
+{
+    Paint(2, 5, 6);
+    Paint(2, 20, 21);
+    canvas->SetCurrentTool(Tool::PlayTool);
+    QTest::mouseClick(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+    EXPECT_EQ(play.PlayingTrack, 2);
+    EXPECT_EQ(play.PlayStartPos, 10);
+    EXPECT_EQ(FramesPlayed(), song.Tracks[2].TrackRender.Length - 41344 + 1); // 5 cells of 8268.75
+}
+
+TEST_F(TransportTest, PlaysATrackFromItsFirstPaintForACellAheadOfIt)
+{
+    Paint(2, 5, 6);
+    transport.PlayTrackFrom(2, 3);
+    EXPECT_EQ(play.PlayStartPos, 5);
+    EXPECT_EQ(FramesPlayed(), song.Tracks[2].TrackRender.Length);
+}
+
+TEST_F(TransportTest, AsksForAClickOnThePaintFromACellBehindIt)
+{
+    Paint(2, 5, 6);
+    const NextForm form;
+    transport.PlayTrackFrom(2, 30);
+    EXPECT_THAT(form.lines, ElementsAre("Please click on the painted area on the track to play from there."));
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, AsksForPaintOrAStepFromACell)
+{
+    {
+        const NextForm form;
+        transport.PlayTrackFrom(2, 30);
+        EXPECT_THAT(form.lines, ElementsAre("Please paint on the track, after that you can play it.",
+                                            "Use the paint button and draw on the track."));
+    }
+    song.Tracks[2].TrackTune.Steps[1].OnPos = 0;
+    song.Tracks[2].TrackTune.Steps[2].OnPos = 0;
+    const NextForm form;
+    transport.PlayTrackFrom(2, 30);
+    EXPECT_THAT(form.lines, ElementsAre("Please select a tune or edit it.", "Use the first button on the left."));
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, PlaysNoTrackOutsideTheRanges)
+{
+    Paint(1, 1, 1280);
+    transport.PlayTrackFrom(0, 5);
+    transport.PlayTrackFrom(4, 5);
+    transport.PlayTrackFrom(1, 0);
+    transport.PlayTrackFrom(1, 1281);
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+TEST_F(TransportTest, TellsOfAFailureInABoxAndLetsNothingOut)
+{
+    class FailingScreen : public FakeScreen {
+        void ShowHourglass() override { throw std::bad_alloc(); }
+    } screen;
+    TheServices().screen = &screen;
+    Paint(1, 1, 4);
+    transport.PlayAllBtn();
+    transport.PlaySongFrom(1);
+    transport.PlayTrackFrom(1, 1);
+    HoverPlayButton(1);
+    transport.TrackPlayBtn();
+    EXPECT_EQ(services.messages.shown.size(), 4U);
+    HoverPicture(1);
+    transport.EnableTrackTitlePlayTimer();
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(services.messages.shown.size(), 5U);
+    EXPECT_FALSE(Timer("TrackTitlePlayTimer").isActive()); // once is enough
+    EXPECT_TRUE(sound.calls.empty());
+}
+
+// The play position
+
+TEST_F(TransportTest, MovesTheMarkOfTheSong)
+{
+    Paint(1, 5, 40);
+    transport.PlayAllBtn();
+    sound.place.Cursor = 8269 * 4;
+    Tick("PlayPosTimer");
+    EXPECT_TRUE(MarkerShown("PlayPosImg0"));
+    EXPECT_FALSE(MarkerShown("PlayPosImg1"));
+    EXPECT_EQ(Part("PlayPosImg0").x(), CellLeft(canvas->View(), 9));
+    EXPECT_EQ(Part("PlayPosImg0").y(), 0);
+    EXPECT_EQ(Part("PlayPosImg0").height(), Part("TrackPic").height());
+}
+
+TEST_F(TransportTest, MovesTheMarkOfATrackByTheTempoOfItsStart)
+{
+    Paint(2, 5, 40);
+    transport.PlayTrackFrom(2, 5);
+    song.Tempo = 640;
+    sound.place.Cursor = 8269 * 4;
+    Tick("PlayPosTimer");
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    EXPECT_TRUE(MarkerShown("PlayPosImg1"));
+    EXPECT_EQ(Part("PlayPosImg1").pos(), QPoint(CellLeft(canvas->View(), 9), RowTop(canvas->View(), 2) + 7));
+}
+
+TEST_F(TransportTest, FindsTheEndOfASoundByItself)
+{
+    Paint(1, 5, 6);
+    transport.PlayAllBtn();
+    sound.place.Cursor = 8269 * 2;
+    Tick("PlayPosTimer");
+    sound.place.Playing = false;
+    Tick("PlayPosTimer");
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_EQ(Part("PlayPosImg0").x(), CellLeft(canvas->View(), 7)); // not back at the start for a moment
+    Tick("PlayPosTimer");
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    EXPECT_EQ(Status(), "Done");
+    EXPECT_EQ(play.PlayingTrack, 0);
+    EXPECT_FALSE(Timer("PlayPosTimer").isActive());
+}
+
+TEST_F(TransportTest, FollowsOtherSoundsToTheirEndWithoutAMark)
+{
+    PlayWaveStatus(CountingWave(100), "Playing Star", Loop::No);
+    EXPECT_EQ(Status(), "Playing Star");
+    sound.place.Cursor = 50;
+    Tick("PlayPosTimer");
+    EXPECT_EQ(play.PlayCursor, 51);
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    sound.place.Playing = false;
+    Tick("PlayPosTimer");
+    Tick("PlayPosTimer");
+    EXPECT_EQ(Status(), "Done");
+}
+
+TEST_F(TransportTest, LeavesAPausedSoundAlone)
+{
+    Paint(1, 5, 40);
+    transport.PlayAllBtn();
+    Player().PlayPause();
+    Tick("PlayPosTimer");
+    EXPECT_EQ(play.PlayState, PlayState::Paused);
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    EXPECT_TRUE(Timer("PlayPosTimer").isActive());
+}
+
+// Sounds of a hover and of a stroke
+
+TEST_F(TransportTest, LooksForAHoverOnceASecondAtFirst)
+{
+    const TransportCommands fresh(nullptr);
+    EXPECT_EQ(fresh.findChild<QTimer*>(QStringLiteral("TrackTitlePlayTimer"))->interval(), 1000);
+    transport.SetWindow(*canvas, soundStatusLbl);
+    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive());
+}
+
+TEST_F(TransportTest, PlaysTheTuneUnderThePointerAgainAndAgain)
+{
+    HoverPicture(2);
+    ASSERT_TRUE(canvas->TrackTuneBtnVisible());
+    for (int i = 0; i < 2; ++i) {
+        sound.calls.clear();
+        Tick("TrackTitlePlayTimer");
+        EXPECT_TRUE(SoundStarted());
+        EXPECT_TRUE(song.Tracks[2].TrackTune.TuneWaveValid);
+        EXPECT_EQ(FramesPlayed(), song.Tracks[2].TrackTune.TuneWave.Length);
+        EXPECT_EQ(Status(), "Playing Star");
+        EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 4000); // 16 steps of 0.1875 s and a second
+        EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive());
+    }
+    EXPECT_EQ(services.screen.processPicsShown, 1);
+}
+
+TEST_F(TransportTest, LooksAgainAfterASecondWhereTheTuneHasNoSound)
+{
+    song.Tracks[2].TrackTune.TuneWaveValid = true;
+    HoverPicture(2);
+    Tick("TrackTitlePlayTimer");
+    EXPECT_FALSE(SoundStarted());
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 1000);
+}
+
+TEST_F(TransportTest, PlaysTheAudioUnderThePointer)
+{
+    MakeAudio(3, 44100);
+    HoverPicture(3);
+    ASSERT_TRUE(canvas->TrackAudioBtnVisible());
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(FramesPlayed(), 44100);
+    EXPECT_EQ(Status(), "Playing Audio/Recording");
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 2000);
+    sound.calls.clear();
+    song.Tracks[3].TrackAudio = WaveData();
+    Tick("TrackTitlePlayTimer");
+    EXPECT_FALSE(SoundStarted());
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 1000);
+}
+
+TEST_F(TransportTest, PlaysTheTuneOfABrushStroke)
+{
+    Tune& tune = song.Tracks[2].TrackTune;
+    tune.TuneWave = CountingWave(500);
+    tune.TuneWaveValid = true;
+    QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive()); // the press enables it
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(FramesPlayed(), 500);
+    EXPECT_EQ(Status(), "Playing Star");
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 4000);
+    QTest::mouseRelease(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 200);
+}
+
+TEST_F(TransportTest, AStrokeOnATuneThatIsNotRenderedStopsTheSound)
+{
+    PlayWaveStatus(CountingWave(100), "Playing", Loop::No);
+    QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_FALSE(song.Tracks[2].TrackTune.TuneWaveValid);
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 1000);
+    QTest::mouseRelease(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+}
+
+TEST_F(TransportTest, TheEraserMakesNoSound)
+{
+    canvas->SetCurrentTool(Tool::Eraser);
+    song.Tracks[2].TrackTune.TuneWave = CountingWave(500);
+    song.Tracks[2].TrackTune.TuneWaveValid = true;
+    QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+    Tick("TrackTitlePlayTimer");
+    EXPECT_FALSE(SoundStarted());
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 200);
+    QTest::mouseRelease(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+}
+
+TEST_F(TransportTest, WaitsForAHoverWithShortLooks)
+{
+    transport.EnableTrackTitlePlayTimer();
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 200);
+    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive());
+    EXPECT_FALSE(SoundStarted());
+}
+
+TEST_F(TransportTest, AHoverIsSilentWhileTheSongOrATrackPlays)
+{
+    Paint(1, 5, 40);
+    transport.PlayAllBtn();
+    HoverPicture(2);
+    sound.calls.clear();
+    Tick("TrackTitlePlayTimer");
+    EXPECT_TRUE(sound.calls.empty());
+    EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 1000);
+    EXPECT_EQ(play.PlayingTrack, kWholeSong);
+}
+
+TEST_F(TransportTest, ATickInsideATickDoesNothing)
+{
+    class TickingScreen : public FakeScreen {
+    public:
+        void ShowHourglass() override
+        {
+            ++shown;
+            tick();
+        }
+        std::function<void()> tick;
+        int shown = 0;
+    } screen;
+    screen.tick = [this] { Tick("TrackTitlePlayTimer"); };
+    TheServices().screen = &screen;
+    HoverPicture(2);
+    Tick("TrackTitlePlayTimer");
+    EXPECT_EQ(screen.shown, 1);
+    EXPECT_EQ(sound.objects, 1);
+}
+
+TEST_F(TransportTest, EnablingTheHoverTimerLeavesARunningOneAsItIs)
+{
+    QTimer& timer = Timer("TrackTitlePlayTimer");
+    timer.start(1000000);
+    transport.EnableTrackTitlePlayTimer();
+    EXPECT_EQ(timer.interval(), 1000000);
+    timer.stop();
+    transport.EnableTrackTitlePlayTimer();
+    EXPECT_TRUE(timer.isActive());
+}
+
+} // namespace
+} // namespace sprout
