@@ -208,7 +208,10 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 
 void ImageButton::focusInEvent(QFocusEvent* event)
 {
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
+    // A dialog that opens tells its first control that it was tabbed to before it has the focus; the hint that stands
+    // belongs to the dialog's question.
+    const bool isTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
+    if (isTab && hasFocus())
         ShowHint(hint);
     QAbstractButton::focusInEvent(event);
 }
