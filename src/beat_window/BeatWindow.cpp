@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <vector>
 
 #include "core/Busy.h"
 #include "core/Errors.h"
@@ -35,17 +36,12 @@ constexpr int kDurationHeight = 46;
 constexpr std::string_view kNote = "Click on a picture to choose a beat";
 constexpr std::string_view kSelectHint = "Click on a picture to select a beat";
 
-struct PlainHint {
-    const char* name;
-    std::string_view hint;
-};
-
 constexpr std::array kHints{
-    PlainHint{"ShowAllPic", "Click on a picture to choose a beat"},
-    PlainHint{"BlinkSelectImg", "This is the chosen Beat. Click on it to play"},
-    PlainHint{"ChoosenPic", "That shows the selected beat, click on it to play this beat"},
-    PlainHint{"NmLbl", "That shows the name of the selected beat"},
-    PlainHint{"DurLbl", "That shows the duration of the selected beat"},
+    HintRow{"ShowAllPic", "Click on a picture to choose a beat"},
+    HintRow{"BlinkSelectImg", "This is the chosen Beat. Click on it to play"},
+    HintRow{"ChoosenPic", "That shows the selected beat, click on it to play this beat"},
+    HintRow{"NmLbl", "That shows the name of the selected beat"},
+    HintRow{"DurLbl", "That shows the duration of the selected beat"},
 };
 
 void HintBeat(std::string_view text)
@@ -65,8 +61,8 @@ BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
     MakeButtons();
     MakeMoveMnu();
     PlaceControls();
-    for (const PlainHint& row : kHints)
-        Watcher().Watch(*findChild<QWidget*>(QString::fromLatin1(row.name)), row.hint);
+    for (const HintRow& row : kHints)
+        Watcher().Watch(*findChild<QWidget*>(QtText(row.name)), row.hint);
     ShowAllPic->setFocus();
 }
 
@@ -97,21 +93,31 @@ void BeatWindow::MakeChoice()
 
 void BeatWindow::MakeButtons()
 {
-    OkBtn = &AddWordButton({"OkBtn", "OK", "Click Ok after choosing a beat", Plate::Word, kDeepLeaf},
-                           [this] { Guarded([this] { ClickOk(); }); });
-    CancelBtn = &AddWordButton({"CancelBtn", "Cancel", "", Plate::Word, kStone}, [this] { reject(); });
-    TestPlayBtn = &AddWordButton(
-        {"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "TrackPlayBtn"},
-        [this] { Guarded([this] { ClickPlay(); }); });
-    columnButtons = {
-        &AddWordButton({"AddBtn", "Add", "Adds more beats with your wav file", Plate::Word, kLink, "WordAdd"},
-                       [this] { Try("Error adding beat", &BeatWindow::AddBeat); }),
-        &AddWordButton({"RenameBtn", "Rename", "Renames the beat", Plate::Word, kLink, "WordRename"},
-                       [this] { Try("Error renaming beat", &BeatWindow::RenameBeat); }),
-        &AddWordButton(
-            {"DeleteBtn", "Delete", "This button will deletes the selected beat", Plate::Word, kCoral, "WordDelete"},
-            [this] { Try("Error deleting beat", &BeatWindow::DeleteBeat); })};
-    HelpBtn = &AddWordButton({"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, [this] { ClickHelp(); });
+    struct Row {
+        ButtonRow button;
+        ImageButton* BeatWindow::*member;
+        void (BeatWindow::*click)();
+    };
+    static constexpr std::array rows{
+        Row{{"OkBtn", "OK", "Click Ok after choosing a beat", Plate::Word, kDeepLeaf},
+            &BeatWindow::OkBtn,
+            &BeatWindow::ClickOk},
+        Row{{"CancelBtn", "Cancel", "", Plate::Word, kStone}, &BeatWindow::CancelBtn, &BeatWindow::reject},
+        Row{{"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "TrackPlayBtn"},
+            &BeatWindow::TestPlayBtn,
+            &BeatWindow::ClickPlay},
+        Row{{"AddBtn", "Add", "Adds more beats with your wav file", Plate::Word, kLink, "WordAdd"},
+            &BeatWindow::AddBtn,
+            &BeatWindow::ClickAdd},
+        Row{{"RenameBtn", "Rename", "Renames the beat", Plate::Word, kLink, "WordRename"},
+            &BeatWindow::RenameBtn,
+            &BeatWindow::ClickRename},
+        Row{{"DeleteBtn", "Delete", "This button will deletes the selected beat", Plate::Word, kCoral, "WordDelete"},
+            &BeatWindow::DeleteBtn,
+            &BeatWindow::ClickDelete},
+        Row{{"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, &BeatWindow::HelpBtn, &BeatWindow::ClickHelp}};
+    for (const Row& row : rows)
+        this->*row.member = &AddWordButton(row.button, [this, &row] { Guarded([&] { (this->*row.click)(); }); });
 }
 
 void BeatWindow::MakeMoveMnu()
@@ -131,7 +137,7 @@ void BeatWindow::PlaceControls()
     const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kMargin, gridTop), kGridRows);
     NoteLbl->setGeometry({BodyPoint(kMargin, kNoteTop), QSize(grid.width(), kNoteHeight)});
     int columnWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
-    for (const ImageButton* button : columnButtons)
+    for (const ImageButton* button : {AddBtn, RenameBtn, DeleteBtn, HelpBtn})
         columnWidth = std::max(columnWidth, button->sizeHint().width());
     const QRect column(grid.right() + 1 + kMargin, grid.top(), columnWidth, grid.height());
     PlaceChoice(column);
@@ -160,9 +166,9 @@ void BeatWindow::PlaceChoice(const QRect& column)
 void BeatWindow::PlaceColumn(const QRect& column)
 {
     int bottom = column.bottom() + 1;
-    for (auto button = columnButtons.rbegin(); button != columnButtons.rend(); ++button) {
-        (*button)->setGeometry(column.left(), bottom - (*button)->height(), column.width(), (*button)->height());
-        bottom -= (*button)->height() + kGap;
+    for (ImageButton* button : {DeleteBtn, RenameBtn, AddBtn}) {
+        button->setGeometry(column.left(), bottom - button->height(), column.width(), button->height());
+        bottom -= button->height() + kGap;
     }
 }
 
@@ -215,6 +221,7 @@ void BeatWindow::ShowChoice()
     NoteLbl->setText(QtText(kNote));
     NmLbl->ShowName(QtText(SelectedEntry(table).Name));
     ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
+    ChoosenPic->setAccessibleName(NmLbl->text());
     LoadSelectedSound(table);
     DurLbl->setText(QtText(DurationText(SelectedEntry(table).Sound)));
 }
@@ -302,6 +309,21 @@ void BeatWindow::ClickHelp()
 {
     QKeyEvent help(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
     QCoreApplication::sendEvent(this, &help);
+}
+
+void BeatWindow::ClickAdd()
+{
+    Try("Error adding beat", &BeatWindow::AddBeat);
+}
+
+void BeatWindow::ClickRename()
+{
+    Try("Error renaming beat", &BeatWindow::RenameBeat);
+}
+
+void BeatWindow::ClickDelete()
+{
+    Try("Error deleting beat", &BeatWindow::DeleteBeat);
 }
 
 void BeatWindow::Try(std::string_view text, void (BeatWindow::*command)())

@@ -4,10 +4,8 @@
 #include <QMenu>
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "beat_window/ChoosenPicture.h"
 #include "beat_window/NameLabel.h"
@@ -62,6 +60,9 @@ private:
     void PlaySelectedBeat();
     void ClickPlay();
     void ClickOk();
+    void ClickAdd();
+    void ClickRename();
+    void ClickDelete();
     void ClickHelp();
     void LeaveWindow();
 
@@ -78,9 +79,11 @@ private:
     QLabel* DurLbl = nullptr;
     ImageButton* OkBtn = nullptr;
     ImageButton* CancelBtn = nullptr;
-    ImageButton* HelpBtn = nullptr;
     ImageButton* TestPlayBtn = nullptr;
-    std::vector<ImageButton*> columnButtons;
+    ImageButton* AddBtn = nullptr;
+    ImageButton* RenameBtn = nullptr;
+    ImageButton* DeleteBtn = nullptr;
+    ImageButton* HelpBtn = nullptr;
     QMenu* PopPosiMnu = nullptr;
     std::array<QAction*, kBeatMoveCaptions.size()> MoveMnu{};
 };

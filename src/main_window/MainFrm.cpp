@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/MainFrm.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QIcon>
-#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
@@ -37,21 +36,6 @@ namespace {
 constexpr int kFrameWidth = 6;
 constexpr int kIconSide = 64;
 constexpr std::string_view kPlaceSection = "MainWindow";
-
-/// Opens the help book for the key F1, in every window of the program.
-class HelpKey : public QObject {
-public:
-    explicit HelpKey(QObject* parent) : QObject(parent) { qApp->installEventFilter(this); }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        const bool isF1 = event->type() == QEvent::KeyPress && watched->isWidgetType() &&
-                          static_cast<QKeyEvent*>(event)->key() == Qt::Key_F1;
-        if (isF1)
-            ShowHelp();
-        return isF1;
-    }
-};
 
 /// A vine at a lower corner.
 class CornerVine : public QWidget {
@@ -144,7 +128,6 @@ MainFrm::MainFrm(TransportCommands& transport)
     MakeShortcuts();
     WatchBackground();
     processPic = new ProcessPic(this);
-    new HelpKey(this);
     ChooseTool(Tool::Brush);
     // Space plays and the arrows scroll until another control is chosen.
     findChild<QWidget*>(QStringLiteral("TrackPic"))->setFocus();
@@ -212,6 +195,7 @@ void MainFrm::MakeGrips()
     for (std::size_t i = 0; i < grips.size(); ++i) {
         grips[i] = new EdgeGrip(this, kWindowGrips[i]);
         watcher.Watch(*grips[i], "");
+        grips[i]->installEventFilter(this);
     }
 }
 
@@ -223,6 +207,7 @@ void MainFrm::MakeShortcuts()
     add(Qt::CTRL | Qt::Key_N, "NewBtn");
     add(Qt::CTRL | Qt::Key_O, "OpenBtn");
     add(Qt::CTRL | Qt::Key_S, "SaveBtn");
+    add(Qt::Key_F1, "HelpBtn");
 }
 
 void MainFrm::WatchBackground()

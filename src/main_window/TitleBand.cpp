@@ -79,7 +79,8 @@ void TitleBand::resizeEvent(QResizeEvent* event)
 void TitleBand::mousePressEvent(QMouseEvent* event)
 {
     moving = event->button() == Qt::LeftButton;
-    downAt = event->position().toPoint();
+    // In places on the screen: a place inside the window is stale while the server still moves the window.
+    downAt = event->globalPosition().toPoint() - window()->pos();
     if (moving && DesktopPlacesWindows() && window()->windowHandle())
         moving = !window()->windowHandle()->startSystemMove();
 }
@@ -87,7 +88,7 @@ void TitleBand::mousePressEvent(QMouseEvent* event)
 void TitleBand::mouseMoveEvent(QMouseEvent* event)
 {
     if (moving && window()->windowState() == Qt::WindowNoState)
-        window()->move(window()->pos() + event->position().toPoint() - downAt);
+        window()->move(event->globalPosition().toPoint() - downAt);
 }
 
 void TitleBand::mouseReleaseEvent(QMouseEvent* /*event*/)

@@ -195,7 +195,8 @@ void BandedForm::resizeEvent(QResizeEvent* event)
 void BandedForm::mousePressEvent(QMouseEvent* event)
 {
     moving = event->button() == Qt::LeftButton && event->position().y() < kBandHeight;
-    downAt = event->position().toPoint();
+    // In places on the screen: a place inside the window is stale while the server still moves the window.
+    downAt = event->globalPosition().toPoint() - pos();
     if (moving && SystemMovesWindows() && windowHandle())
         moving = !windowHandle()->startSystemMove();
 }
@@ -203,7 +204,7 @@ void BandedForm::mousePressEvent(QMouseEvent* event)
 void BandedForm::mouseMoveEvent(QMouseEvent* event)
 {
     if (moving)
-        move(pos() + event->position().toPoint() - downAt);
+        move(event->globalPosition().toPoint() - downAt);
 }
 
 void BandedForm::mouseReleaseEvent(QMouseEvent* /*event*/)

@@ -16,11 +16,11 @@ def PlayWholeSong(desk):
     open_song(program, "Parade")
     open_song(program, "Zumi")
     recording = play(desk, program)
-    places = [program.wait_for("PlayPosImg").x]
-    wait_for("the marker's next place", lambda: program.wait_for("PlayPosImg").x > places[0] + 30)
+    places = [program.wait_for("PlayPosImg0").x]
+    wait_for("the marker's next place", lambda: program.wait_for("PlayPosImg0").x > places[0] + 30)
     program.wait_for("SoundStatusLbl", "Playing All")
     frames = expect_recording_of(desk, program, recording, desk.song("Zumi"))
-    expect(program.find("PlayPosImg") is None, "the marker stands on the canvas though nothing plays")
+    expect(program.find("PlayPosImg0") is None, "the marker stands on the canvas though nothing plays")
     close(program)
     return f"{frames} frames are equal"
 

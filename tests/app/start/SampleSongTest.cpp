@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/start/SampleSong.h"
+
+#include <gtest/gtest.h>
+
+#include "core/SongModel.h"
+#include "songs/OpenSaveClass.h"
+#include "support/FakeServices.h"
+
+namespace sprout {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::int32_t kSampleTempo = 400;
+
+class SampleSong : public testing::Test {
+protected:
+    SampleSong()
+    {
+        NewSong();
+        Shared().Song.Tempo = kSampleTempo;
+        OpenSaveClass(Flush::No).Save_Song(Shared().UserSongs / "Zumi.TqSng");
+        NewSong();
+    }
+
+    [[nodiscard]] static fs::path CountFile() { return Shared().UserRoot / ".SproutStarts"; }
+
+    FakeServices fake;
+};
+
+TEST_F(SampleSong, IsOpenedOnTheFirstThreeStarts)
+{
+    for (int start = 1; start <= 3; ++start) {
+        NewSong();
+        EXPECT_TRUE(OpenSampleSong()) << start;
+        EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
+        EXPECT_EQ(Shared().Song.Tempo, kSampleTempo);
+    }
+    NewSong();
+    EXPECT_FALSE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.SongTitle, "Untitled");
+    EXPECT_EQ(Shared().Song.Tempo, kReferenceTempo);
+}
+
+TEST_F(SampleSong, IsCountedInAHiddenFile)
+{
+    EXPECT_TRUE(OpenSampleSong());
+    EXPECT_EQ(ReadBytes(CountFile()), "1");
+    EXPECT_TRUE(OpenSampleSong());
+    EXPECT_EQ(ReadBytes(CountFile()), "2");
+}
+
+TEST_F(SampleSong, IsNotMissedWhereTheUserHasDeletedIt)
+{
+    fs::remove(Shared().UserSongs / "Zumi.TqSng");
+    EXPECT_FALSE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.SongTitle, "Untitled");
+    EXPECT_EQ(ReadBytes(CountFile()), "1");
+}
+
+TEST_F(SampleSong, IsOpenedAgainWhereTheCountIsDamaged)
+{
+    for (const char* damaged : {"", "starts", "-5", "-1e300"}) {
+        WriteBytes(CountFile(), damaged);
+        EXPECT_TRUE(OpenSampleSong()) << damaged;
+        EXPECT_EQ(ReadBytes(CountFile()), "1");
+    }
+    WriteBytes(CountFile(), "1e300");
+    EXPECT_FALSE(OpenSampleSong());
+}
+
+TEST_F(SampleSong, IsOpenedWhereStartsCannotBeCounted)
+{
+    fs::create_directory(CountFile());
+    EXPECT_TRUE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.Tempo, kSampleTempo);
+}
+
+TEST_F(SampleSong, EndsNothingWhereItCannotBeRead)
+{
+    WriteBytes(Shared().UserSongs / "Zumi.TqSng", "This is no song.");
+    EXPECT_TRUE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.TrackCount, 0);
+    EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,378 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/SongCommands.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QTimer>
+
+#include "core/Errors.h"
+#include "main_window/MainWindowTest.h"
+
+namespace sprout {
+namespace {
+
+constexpr std::int32_t kQuickTempo = 400;
+
+/// A disk that is full.
+class FullDisk : public Files {
+public:
+    void ReplaceFile(const std::filesystem::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
+                     Flush /*flush*/) override
+    {
+        throw RunTimeError("There is no room left on the disk.");
+    }
+    void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
+};
+
+class SongCommandsTest : public MainWindowTest {
+protected:
+    /// Chooses a song in the song window that comes next, once `before` is done.
+    static void ChooseNextSong(const char* name, std::function<void()> before = {})
+    {
+        WithNextForm([name, before = std::move(before)](BandedForm& form) {
+            auto* list = form.findChild<QListWidget*>(QStringLiteral("SngNmLst"));
+            const auto lines = list->findItems(QString::fromLatin1(name), Qt::MatchExactly);
+            ASSERT_EQ(lines.size(), 1);
+            list->setCurrentItem(lines.front());
+            if (before)
+                before();
+            Click(form, "OkBtn");
+        });
+    }
+
+    /// Types a name into the song window that comes next and clicks OK; `message` is what is told then.
+    static void SaveNextAs(const char* name, ShownMessage& message)
+    {
+        WithNextForm([name, &message](BandedForm& form) {
+            auto* box = form.findChild<QLineEdit*>(QStringLiteral("SongNameTxt"));
+            EXPECT_EQ(box->text().toStdString(), Song().SongTitle);
+            box->setText(QString::fromLatin1(name));
+            // The message comes when the song window has gone.
+            NoteNextMessage(message);
+            Click(form, "OkBtn");
+        });
+    }
+
+    /// Answers the title form that comes next.
+    static void ChangeNextTitle(const char* name, const char* author, const char* button = "OkBtn")
+    {
+        WithNextForm([name, author, button](BandedForm& form) {
+            EXPECT_EQ(form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(),
+                      QStringLiteral(" Change Song Title"));
+            form.findChild<QLineEdit*>(QStringLiteral("NameTxt"))->setText(QString::fromLatin1(name));
+            form.findChild<QLineEdit*>(QStringLiteral("CreatedTxt"))->setText(QString::fromLatin1(author));
+            Click(form, button);
+        });
+    }
+
+    void StartToPlay()
+    {
+        SetSoundDriver(true);
+        Shared().TestTone = WaveOfOneSecond();
+        PlayWaveStatus(Shared().TestTone, "Playing", Loop::No);
+        ASSERT_EQ(PlayShared().PlayState, PlayState::Playing);
+    }
+
+    static WaveData WaveOfOneSecond()
+    {
+        WaveData wave;
+        wave.Length = 44100;
+        wave.WavL = Channel(wave.Length);
+        wave.WavR = Channel(wave.Length);
+        return wave;
+    }
+
+    FullDisk fullDisk;
+};
+
+TEST_F(SongCommandsTest, NewMakesANewSongAndStopsThePlayer)
+{
+    PutSong("Untitled", kQuickTempo);
+    Song().SongTitle = "Rain";
+    Song().Tempo = kQuickTempo;
+    StartToPlay();
+    ShowHint(QStringLiteral("Before"));
+    ClickButton("NewBtn");
+    EXPECT_EQ(Song().SongTitle, "Untitled 1");
+    EXPECT_EQ(Song().TrackCount, 2);
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_EQ(PlayShared().PlayState, PlayState::Stopped);
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Untitled 1");
+    EXPECT_EQ(TextOf("TempoLbl"), "100%");
+    EXPECT_EQ(TextOf("StatusLbl"), "");
+}
+
+TEST_F(SongCommandsTest, NewAsksAboutAChangedSong)
+{
+    Song().SongChanged = true;
+    Song().Tempo = kQuickTempo;
+    QString asked;
+    QString hint;
+    WithNextForm([&](BandedForm& form) {
+        asked = form.findChild<QLabel*>(QStringLiteral("SongNameLbl"))->text();
+        hint = QtText(TextOf("StatusLbl"));
+        Click(form, "Cancel_Btn");
+    });
+    ClickButton("NewBtn");
+    EXPECT_EQ(asked, QStringLiteral("Untitled"));
+    EXPECT_EQ(hint, QStringLiteral("This Song is changed, say \"Yes\" to save if you need it"));
+    EXPECT_EQ(TextOf("StatusLbl"), "");
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+    EXPECT_TRUE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, TheSaveQuestionIsCancelledByItsCloseBoxAndEscape)
+{
+    Song().Tempo = kQuickTempo;
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& form) { Click(form, "CloseImgBtn"); });
+    ClickButton("NewBtn");
+    WithNextForm([](BandedForm& form) { QTest::keyClick(&form, Qt::Key_Escape); });
+    ClickButton("NewBtn");
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+}
+
+TEST_F(SongCommandsTest, NewGoesOnWithoutSavingAfterNo)
+{
+    Song().SongChanged = true;
+    Song().Tempo = kQuickTempo;
+    WithNextForm([](BandedForm& form) { Click(form, "NoBtn"); });
+    ClickButton("NewBtn");
+    EXPECT_EQ(Song().Tempo, kReferenceTempo);
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_FALSE(std::filesystem::exists(SongPath("Untitled")));
+}
+
+TEST_F(SongCommandsTest, NewSavesUnderTheTitleAfterYesWithoutAskingForAName)
+{
+    Song().SongChanged = true;
+    Song().SongTitle = "Rain";
+    Song().Tempo = kQuickTempo;
+    WithNextForm([](BandedForm& form) { Click(form, "YesBtn"); });
+    ClickButton("NewBtn");
+    EXPECT_EQ(Song().Tempo, kReferenceTempo);
+    OpenSaveClass().Load_Song(SongPath("Rain"));
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+}
+
+TEST_F(SongCommandsTest, NewKeepsASongThatCannotBeSaved)
+{
+    Song().SongChanged = true;
+    Song().Tempo = kQuickTempo;
+    TheServices().files = &fullDisk;
+    ShownMessage message;
+    WithNextForm([&message](BandedForm& form) {
+        NoteNextMessage(message);
+        Click(form, "YesBtn");
+    });
+    ClickButton("NewBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Error making new file\r\nThere is no room left on the disk."));
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+    EXPECT_TRUE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, OpenLoadsTheChosenSong)
+{
+    PutSong("Rain", kQuickTempo);
+    StartToPlay();
+    ChooseNextSong("Rain");
+    ClickButton("OpenBtn");
+    EXPECT_EQ(Song().SongTitle, "Rain");
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_EQ(PlayShared().PlayState, PlayState::Stopped);
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Rain");
+    EXPECT_EQ(TextOf("TempoLbl"), "125%");
+    EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Rain]");
+}
+
+TEST_F(SongCommandsTest, OpenDoesNothingAfterCancel)
+{
+    PutSong("Rain", kQuickTempo);
+    WithNextForm([](BandedForm& form) { Click(form, "CancelBtn"); });
+    ClickButton("OpenBtn");
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+}
+
+TEST_F(SongCommandsTest, OpenEndsWhereTheSaveQuestionIsCancelled)
+{
+    PutSong("Rain", kQuickTempo);
+    Song().SongChanged = true;
+    QString second;
+    WithNextForm([&second](BandedForm& form) {
+        WithNextForm([&second](BandedForm& next) {
+            second = next.objectName();
+            Click(next, "CancelBtn");
+        });
+        Click(form, "Cancel_Btn");
+    });
+    ClickButton("OpenBtn");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(second, QString());
+    EXPECT_TRUE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, OpenTellsThatASongHasGoneMeanwhile)
+{
+    PutSong("Rain", kQuickTempo);
+    ShownMessage message;
+    ChooseNextSong("Rain", [this, &message] {
+        std::filesystem::remove(SongPath("Rain"));
+        NoteNextMessage(message);
+    });
+    ClickButton("OpenBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("This song is not there any more."));
+    EXPECT_EQ(message.line2, QStringLiteral("Rain"));
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+    EXPECT_EQ(Song().TrackCount, 2);
+}
+
+TEST_F(SongCommandsTest, OpenLivesWithABrokenFile)
+{
+    WriteBytes(SongPath("Broken"), "This is no song.");
+    ChooseNextSong("Broken");
+    ClickButton("OpenBtn");
+    EXPECT_FALSE(fake.messages.shown.empty());
+    EXPECT_EQ(Song().TrackCount, 0);
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Broken");
+    window->grab();
+    ClickButton("NewBtn");
+    EXPECT_EQ(Song().TrackCount, 2);
+}
+
+TEST_F(SongCommandsTest, NothingBlinksWhileASongIsChosen)
+{
+    const auto tick = [this] {
+        auto* timer = window->findChild<QTimer*>(QStringLiteral("TuneNotFilledTimer"));
+        timer->setInterval(0);
+        timer->start();
+        QCoreApplication::processEvents();
+    };
+    PutSong("Rain", kQuickTempo);
+    const auto isBlank = [] { return SamePicture(At(Song().Tracks, 1).TrackTune.Picture, Shared().BlankPic); };
+    ASSERT_TRUE(isBlank());
+    bool blankInside = false;
+    WithNextForm([&](BandedForm& form) {
+        tick();
+        blankInside = isBlank();
+        Click(form, "CancelBtn");
+    });
+    ClickButton("OpenBtn");
+    EXPECT_TRUE(blankInside);
+    tick();
+    EXPECT_FALSE(isBlank());
+}
+
+TEST_F(SongCommandsTest, SaveWritesTheSongUnderItsNewName)
+{
+    Song().SongChanged = true;
+    Song().Tempo = kQuickTempo;
+    ShownMessage message;
+    SaveNextAs("Rain", message);
+    ClickButton("SaveBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Your song \"Rain\" is saved."));
+    EXPECT_EQ(message.caption, QStringLiteral(" Good!"));
+    EXPECT_EQ(Song().SongTitle, "Rain");
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Rain");
+    OpenSaveClass().Load_Song(SongPath("Rain"));
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+}
+
+TEST_F(SongCommandsTest, SaveReplacesAFileWhoseNameDiffersInCaseOnly)
+{
+    PutSong("Rain", kQuickTempo);
+    Song().SongTitle = "RAIN";
+    ShownMessage message;
+    SaveNextAs("RAIN", message);
+    ClickButton("SaveBtn");
+    EXPECT_FALSE(std::filesystem::exists(SongPath("RAIN")));
+    OpenSaveClass().Load_Song(SongPath("Rain"));
+    EXPECT_EQ(Song().Tempo, kReferenceTempo);
+}
+
+TEST_F(SongCommandsTest, SaveDoesNothingAfterCancel)
+{
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& form) { Click(form, "CancelBtn"); });
+    ClickButton("SaveBtn");
+    EXPECT_TRUE(Song().SongChanged);
+    EXPECT_FALSE(std::filesystem::exists(SongPath("Untitled")));
+}
+
+TEST_F(SongCommandsTest, SaveTellsOfAFullDiskAndKeepsTheSongAsItWas)
+{
+    Song().SongChanged = true;
+    TheServices().files = &fullDisk;
+    ShownMessage message;
+    SaveNextAs("Rain", message);
+    ClickButton("SaveBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Error Saving file\r\nThere is no room left on the disk."));
+    EXPECT_TRUE(Song().SongChanged);
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Untitled");
+}
+
+TEST_F(SongCommandsTest, ChangeTakesTitleAndAuthor)
+{
+    ShowHint(QStringLiteral("Before"));
+    ChangeNextTitle("Rain", "Lina");
+    ClickButton("SongTitleChgBtn");
+    EXPECT_EQ(Song().SongTitle, "Rain");
+    EXPECT_EQ(Song().SongCreatedBy, "Lina");
+    EXPECT_TRUE(Song().SongChanged);
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Rain");
+    EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
+    EXPECT_EQ(TextOf("StatusLbl"), "");
+}
+
+TEST_F(SongCommandsTest, ChangeOfOneLettersCaseIsAChange)
+{
+    ChangeNextTitle("untitled", "Your name here");
+    ClickButton("SongTitleChgBtn");
+    EXPECT_EQ(Song().SongTitle, "untitled");
+    EXPECT_TRUE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, ChangeThatChangesNothingLeavesTheSongUnchanged)
+{
+    ChangeNextTitle("Untitled", "Your name here");
+    ClickButton("SongTitleChgBtn");
+    EXPECT_FALSE(Song().SongChanged);
+    ChangeNextTitle("Rain", "Lina", "CancelBtn");
+    ClickButton("SongTitleChgBtn");
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+}
+
+TEST_F(SongCommandsTest, ChangeLeavesTheOldFileInPlaceAndALaterSaveWritesANewOne)
+{
+    PutSong("Rain", kQuickTempo);
+    ChooseNextSong("Rain");
+    ClickButton("OpenBtn");
+    ChangeNextTitle("Sun", "Lina");
+    ClickButton("SongTitleChgBtn");
+    EXPECT_TRUE(std::filesystem::exists(SongPath("Rain")));
+    EXPECT_FALSE(std::filesystem::exists(SongPath("Sun")));
+    ShownMessage message;
+    SaveNextAs("Sun", message);
+    ClickButton("SaveBtn");
+    EXPECT_TRUE(std::filesystem::exists(SongPath("Rain")));
+    EXPECT_TRUE(std::filesystem::exists(SongPath("Sun")));
+}
+
+TEST_F(SongCommandsTest, DoubleClicksOnTitleAndAuthorChangeThemToo)
+{
+    int asked = 0;
+    for (const char* name : {"SngTitleLbl", "SngTitle2Lbl", "SngCreateLbl", "SngCreate2Lbl"}) {
+        WithNextForm([&asked](BandedForm& form) {
+            asked += form.objectName() == QStringLiteral("SongTitleFrm") ? 1 : 0;
+            Click(form, "CancelBtn");
+        });
+        QTest::mouseDClick(&Control(name), Qt::LeftButton);
+    }
+    EXPECT_EQ(asked, 4);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/rules/ControlBarPlaces.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace sprout {
+namespace {
+
+BarPlace PlaceOf(const ControlBarPlaces& places, BarTool tool)
+{
+    return places.tools[static_cast<std::size_t>(tool)];
+}
+
+/// All places of a bar, those of the tools first.
+std::vector<BarPlace> AllPlaces(const ControlBarPlaces& places)
+{
+    std::vector<BarPlace> all(places.tools.begin(), places.tools.end());
+    all.push_back(places.song);
+    all.push_back(places.tempo);
+    return all;
+}
+
+std::int32_t Gap(std::int32_t at, std::int32_t extent, std::int32_t otherAt, std::int32_t otherExtent)
+{
+    return at < otherAt ? otherAt - at - extent : at - otherAt - otherExtent;
+}
+
+/// Pixels between two places, negative where they overlap.
+std::int32_t Apart(const BarPlace& a, const BarPlace& b)
+{
+    return std::max(Gap(a.left, a.width, b.left, b.width), Gap(a.top, a.height, b.top, b.height));
+}
+
+TEST(PlaceControlBar, StandsInOneRowWhereTitleAndTempoFindRoom)
+{
+    const ControlBarPlaces places = PlaceControlBar(1200);
+    EXPECT_EQ(places.height, 72);
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayStop), (BarPlace{70, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Brush), (BarPlace{138, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayTool), (BarPlace{262, 8, 56, 56}));
+    EXPECT_EQ(places.song, (BarPlace{330, 4, 348, 28}));
+    EXPECT_TRUE(places.songInOneLine);
+    EXPECT_EQ(places.tempo, (BarPlace{330, 32, 312, 36}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{690, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{758, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Email), (BarPlace{944, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Help), (BarPlace{1012, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{1136, 8, 56, 56}));
+}
+
+TEST(PlaceControlBar, WrapsToTwoRows)
+{
+    const ControlBarPlaces places = PlaceControlBar(788);
+    EXPECT_EQ(places.height, 130);
+    EXPECT_FALSE(places.songInOneLine);
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 6, 56, 56}));
+    EXPECT_EQ(places.song, (BarPlace{330, 6, 382, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{724, 6, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{8, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{386, 68, 56, 56}));
+    EXPECT_EQ(places.tempo, (BarPlace{468, 78, 312, 36}));
+}
+
+TEST(PlaceControlBar, HasSmallerToolsInTheNarrowestWindow)
+{
+    const ControlBarPlaces places = PlaceControlBar(521);
+    EXPECT_EQ(places.height, 98);
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 6, 40, 40}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{290, 52, 40, 40}));
+    EXPECT_EQ(places.tempo.left, 342);
+    EXPECT_EQ(places.tempo.width, 171);
+}
+
+TEST(PlaceControlBar, KeepsTargetsApartAndInsideTheBarAtEveryWidth)
+{
+    for (std::int32_t width = 521; width <= 2000; ++width) {
+        const ControlBarPlaces places = PlaceControlBar(width);
+        const std::vector<BarPlace> all = AllPlaces(places);
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            ASSERT_GE(all[i].left, 8) << width;
+            ASSERT_LE(all[i].left + all[i].width, width - 8) << width;
+            ASSERT_GE(all[i].top, 4) << width;
+            ASSERT_LE(all[i].top + all[i].height, places.height - 4) << width;
+            for (std::size_t other = i + 1; other < kBarTools; ++other)
+                ASSERT_GE(Apart(all[i], all[other]), 6) << width << ", tools " << i << " and " << other;
+        }
+        for (std::size_t tool = 0; tool < kBarTools; ++tool)
+            for (const BarPlace& label : {places.song, places.tempo})
+                ASSERT_GE(Apart(all[tool], label), 6) << width << ", tool " << tool;
+    }
+}
+
+} // namespace
+} // namespace sprout

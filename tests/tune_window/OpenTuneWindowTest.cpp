@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/OpenTuneWindow.h"
+
+#include "tune_window/TuneWindowTest.h"
+
+namespace sprout {
+namespace {
+
+class OpenTuneWindowTest : public TuneWindowTest {
+protected:
+    OpenTuneWindowTest() { tune = PlainTune("Snow", "Eve"); }
+};
+
+TEST_F(OpenTuneWindowTest, WithOkTheTrackTakesTheTuneThenShownThoughNothingWasEdited)
+{
+    MakeTuneFiles(2);
+    tune.Picture = PlainPicture(1);
+    EXPECT_TRUE(Open([](TuneFrm2& window) {
+        PressTune(window, 2);
+        Click(window, "OkBtn");
+    }));
+    EXPECT_TRUE(newFlag);
+    EXPECT_EQ(tune.Name, "Tune 02");
+    EXPECT_EQ(tune.StepCount, 2);
+}
+
+TEST_F(OpenTuneWindowTest, TheBeatsOfTheChosenTuneGoIntoTheSong)
+{
+    MakeTuneFiles(1);
+    Open([](TuneFrm2& window) { Click(window, "OkBtn"); });
+    ASSERT_EQ(Shared().Song.SongBeatCount, 1);
+    EXPECT_EQ(Shared().Song.SongBeats[1].Name, "Drum");
+    EXPECT_EQ(tune.Steps[1].BeatIndex, 1);
+    EXPECT_TRUE(tune.Steps[1].StepBeat.Name.empty());
+}
+
+TEST_F(OpenTuneWindowTest, CancelLeavesTheTracksTuneAsItWas)
+{
+    MakeTuneFiles(2);
+    tune.Picture = PlainPicture(1);
+    EXPECT_FALSE(Open([](TuneFrm2& window) {
+        PressTune(window, 2);
+        Shared().CurrentTune.Steps[1].OnPos = 0;
+        window.TuneChanged = true;
+        Click(window, "CancelBtn");
+    }));
+    EXPECT_FALSE(newFlag);
+    EXPECT_EQ(tune.Name, "Snow");
+    EXPECT_EQ(tune.Steps[1].OnPos, 1);
+    EXPECT_EQ(Shared().Song.SongBeatCount, 0);
+}
+
+TEST_F(OpenTuneWindowTest, APictureThatIsSwappedCountsAsAChangeOnCancelToo)
+{
+    tune.Picture = Shared().DefaultTunePicture;
+    EXPECT_TRUE(Open([](TuneFrm2&) {}));
+    EXPECT_TRUE(SamePicture(tune.Picture, Shared().DefaultTunePicture));
+}
+
+TEST_F(OpenTuneWindowTest, TheTuneUnderEditHasItsOwnBeatsAndAName)
+{
+    Shared().Song.SongBeats.push_back({"Bell", "", WaveOf({1}), PlainPicture(2), true});
+    Shared().Song.SongBeatCount = 1;
+    tune = Tune();
+    tune.Steps.resize(3);
+    tune.StepCount = 2;
+    tune.Steps[2].OnPos = 1;
+    tune.Steps[2].BeatIndex = 1;
+    Open([](TuneFrm2&) {
+        const Tune& current = Shared().CurrentTune;
+        EXPECT_EQ(current.Name, "New");
+        EXPECT_EQ(current.CreatedBy, "Me");
+        EXPECT_EQ(current.Steps[2].StepBeat.Name, "Bell");
+        EXPECT_TRUE(SamePicture(current.Picture, Shared().NewTunePicture));
+    });
+}
+
+TEST_F(OpenTuneWindowTest, WithTheFlagItShowsNoChoice)
+{
+    MakeTuneFiles(2);
+    newFlag = true;
+    Open([](TuneFrm2& window) {
+        EXPECT_EQ(GridOf(window).Selected(), -1);
+        EXPECT_EQ(TextOf(window, "TuneNameLbl"), "New");
+        EXPECT_EQ(Played(), 0);
+    });
+    EXPECT_FALSE(newFlag);
+}
+
+TEST_F(OpenTuneWindowTest, OneWindowLivesForAllOpenings)
+{
+    MakeTuneFiles(1);
+    const QWidget* first = nullptr;
+    const QWidget* second = nullptr;
+    Open([&first](TuneFrm2& window) { first = &window; });
+    Open([&second](TuneFrm2& window) { second = &window; });
+    EXPECT_TRUE(first);
+    EXPECT_EQ(first, second);
+}
+
+TEST_F(OpenTuneWindowTest, TheTableIsReadOnceAndNotAtEachOpening)
+{
+    MakeTuneFiles(2);
+    LoadTuneFiles();
+    EXPECT_EQ(Shared().TuneTableCount, 2);
+    EXPECT_EQ(services.screen.processPicsShown, 1);
+    MakeTuneFiles(3);
+    Open([](TuneFrm2& window) { EXPECT_EQ(GridOf(window).Count(), 2); });
+    LoadTuneFiles();
+    EXPECT_EQ(Shared().TuneTableCount, 2);
+    EXPECT_EQ(services.screen.processPicsShown, 1);
+}
+
+TEST_F(OpenTuneWindowTest, ReadingTheTableClearsTheHint)
+{
+    ShowHint(QStringLiteral("A hint"));
+    LoadTuneFiles();
+    EXPECT_EQ(statusLbl.text(), QString());
+}
+
+TEST_F(OpenTuneWindowTest, WithoutAWindowThereIsNothingToShow)
+{
+    Shared().CurrentTune = tune;
+    UpdateThisTune();
+    EXPECT_EQ(Shared().CurrentTune.Name, "Snow");
+}
+
+TEST_F(OpenTuneWindowTest, ANewTuneOfASecondOpeningMergesWithoutHarm)
+{
+    MakeTuneFiles(1);
+    Open([](TuneFrm2& window) { Click(window, "OkBtn"); });
+    Open([](TuneFrm2& window) {
+        Click(window, "NewTuneBtn");
+        Click(window, "OkBtn");
+    });
+    EXPECT_EQ(tune.Name, "New");
+    EXPECT_EQ(Shared().Song.SongBeatCount, 1);
+}
+
+} // namespace
+} // namespace sprout
