@@ -166,8 +166,6 @@ private:
 
     static QSize SizeOf(const QString& name)
     {
-        if (name == QStringLiteral("TempoSliderImg"))
-            return {184, 28};
         if (name == QStringLiteral("TempoPrtImg"))
             return {30, 35};
         if (name == QStringLiteral("TimeSlide"))
