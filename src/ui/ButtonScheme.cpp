@@ -54,7 +54,8 @@ void ButtonScheme::InitButtons()
 
 void ButtonScheme::ButtonHover(const ImageButton& button)
 {
-    ShowHint(button.Hint());
+    if (MouseMovedSinceHint())
+        ShowHint(button.Hint());
     if (states.ButtonDown())
         return;
     states.ButtonHover(button.Number());

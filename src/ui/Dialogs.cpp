@@ -5,6 +5,7 @@
 
 #include "core/Shared.h"
 #include "core/Text.h"
+#include "ui/HelpFrm.h"
 #include "ui/MessageForms.h"
 
 namespace sprout {
@@ -18,14 +19,22 @@ std::string Caption(std::string_view title)
 
 } // namespace
 
+QWidget* WindowInFront()
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    QWidget* active = QApplication::activeWindow();
+    return qobject_cast<HelpFrm*>(active) ? nullptr : active;
+}
+
 void ShowMessage(std::string_view line1, std::string_view line2, std::string_view title)
 {
     if (Trim(line2).empty()) {
-        Msg1BtnFrm form(QApplication::activeWindow(), line1);
+        Msg1BtnFrm form(WindowInFront(), line1);
         form.SetCaption(Caption(title));
         form.ShowModal();
     } else {
-        Msg1Btn2NoteFrm form(QApplication::activeWindow(), line1, line2);
+        Msg1Btn2NoteFrm form(WindowInFront(), line1, line2);
         form.SetCaption(Caption(title));
         form.ShowModal();
     }
@@ -33,7 +42,7 @@ void ShowMessage(std::string_view line1, std::string_view line2, std::string_vie
 
 int AskYesNo(std::string_view line1, std::string_view line2, std::string_view title)
 {
-    MsgYesNoFrm form(QApplication::activeWindow(), line1, line2);
+    MsgYesNoFrm form(WindowInFront(), line1, line2);
     form.SetCaption(Caption(title));
     return form.ShowModal();
 }
@@ -41,7 +50,7 @@ int AskYesNo(std::string_view line1, std::string_view line2, std::string_view ti
 std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2,
                     std::string_view title)
 {
-    InputBoxFrm form(QApplication::activeWindow(), defaultText, line1, line2);
+    InputBoxFrm form(WindowInFront(), defaultText, line1, line2);
     form.SetCaption(Caption(title));
     return form.ShowModal() == 1 ? form.Text() : std::string();
 }

@@ -4,7 +4,13 @@
 #include <string>
 #include <string_view>
 
+class QWidget;
+
 namespace sprout {
+
+/// The window that a question belongs to: the modal one that waits, else the active one. Never the help, whose closing
+/// would take the question along; null where there is no other.
+[[nodiscard]] QWidget* WindowInFront();
 
 // Modal questions and messages in the program's own forms, shown from the window that is in front. A blank title stands
 // for the program's name; one blank is put before every title.

@@ -22,9 +22,10 @@ namespace sprout {
 namespace {
 
 constexpr QSize kWidestHelp{760, 600};
+constexpr QSize kLeastHelp{600, 400};
 constexpr int kScreenEdge = 20;
 constexpr int kHelpMargin = 14;
-constexpr int kPagesWidth = 184;
+constexpr int kPagesWidth = 208;
 constexpr int kPageIconSide = 32;
 constexpr int kButtonRowHeight = 44;
 
@@ -45,6 +46,16 @@ QUrl PageUrl(const HelpPage& page)
     return QUrl(QStringLiteral("qrc:/help/%1.html").arg(QLatin1String(page.file)));
 }
 
+/// The page's picture, which a selected line shows as it is.
+QIcon PageIcon(const HelpPage& page)
+{
+    const QPixmap picture =
+        Artwork(QLatin1String(page.picture), QSize(kPageIconSide, kPageIconSide), qApp->devicePixelRatio());
+    QIcon icon(picture);
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
+
 QPointer<HelpFrm>& OpenHelp()
 {
     static QPointer<HelpFrm> help;
@@ -56,7 +67,7 @@ QPointer<HelpFrm>& OpenHelp()
 void ShowHelp()
 {
     QPointer<HelpFrm>& help = OpenHelp();
-    if (!help) {
+    if (!help || help->isHidden()) { // a closed one goes by itself
         help = new HelpFrm;
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, help, [] { delete OpenHelp(); });
         help->show();
@@ -88,8 +99,7 @@ void HelpFrm::MakePages()
     PagesLst->setIconSize({kPageIconSide, kPageIconSide});
     PagesLst->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const HelpPage& page : kHelpPages)
-        new QListWidgetItem(QIcon(Artwork(QLatin1String(page.picture), PagesLst->iconSize(), devicePixelRatioF())),
-                            tr(page.title), PagesLst);
+        new QListWidgetItem(PageIcon(page), tr(page.title), PagesLst);
     connect(PagesLst, &QListWidget::currentRowChanged, this, &HelpFrm::ShowPage);
 }
 
@@ -97,7 +107,7 @@ void HelpFrm::MakeBook()
 {
     BookTxt->setObjectName(QStringLiteral("BookTxt"));
     BookTxt->setAccessibleName(tr("Help page"));
-    connect(BookTxt, &QTextBrowser::sourceChanged, this, [this] { FollowBook(); });
+    connect(BookTxt, &QTextBrowser::sourceChanged, this, &HelpFrm::MarkPage);
 }
 
 void HelpFrm::MakeButtons()
@@ -113,14 +123,14 @@ void HelpFrm::PlaceControls()
 {
     const QRect screenRect = screen()->availableGeometry();
     const QSize room = screenRect.size() - QSize(2 * kScreenEdge, 2 * kScreenEdge);
-    const QSize size = kWidestHelp.boundedTo(room);
+    const QSize size = kWidestHelp.boundedTo(room).expandedTo(kLeastHelp);
     const int bookHeight = size.height() - kBandHeight - kButtonRowHeight - 3 * kHelpMargin;
     PagesLst->setGeometry({BodyPoint(kHelpMargin, kHelpMargin), QSize(kPagesWidth, bookHeight)});
     const int bookLeft = 2 * kHelpMargin + kPagesWidth;
     BookTxt->setGeometry({BodyPoint(bookLeft, kHelpMargin), QSize(size.width() - bookLeft - kHelpMargin, bookHeight)});
     PlaceButtons(size.width(), bookHeight + 2 * kHelpMargin);
     // At the screen's edge, so that it covers little of what is asked about.
-    move(screenRect.right() - width() - kScreenEdge, screenRect.top() + kScreenEdge);
+    move(std::max(screenRect.right() - width() - kScreenEdge, screenRect.left()), screenRect.top() + kScreenEdge);
 }
 
 void HelpFrm::ShowPage(int row)
@@ -131,9 +141,9 @@ void HelpFrm::ShowPage(int row)
 }
 
 /// Marks the page that the book shows, whichever way it came there.
-void HelpFrm::FollowBook()
+void HelpFrm::MarkPage(const QUrl& source)
 {
-    const QUrl shown = BookTxt->source().adjusted(QUrl::RemoveFragment);
+    const QUrl shown = source.adjusted(QUrl::RemoveFragment);
     const auto* page = std::find_if(kHelpPages.begin(), kHelpPages.end(),
                                     [&shown](const HelpPage& candidate) { return PageUrl(candidate) == shown; });
     const QSignalBlocker quiet(PagesLst);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <QUrl>
 
 #include "ui/BandedForm.h"
 
@@ -33,7 +34,7 @@ private:
     void MakeButtons();
     void PlaceControls();
     void ShowPage(int row);
-    void FollowBook();
+    void MarkPage(const QUrl& source);
     void StandBelowModalWindow();
 
     QListWidget* PagesLst;

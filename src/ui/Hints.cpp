@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Hints.h"
 
+#include <QCursor>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QVariant>
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 #include "ui/QtText.h"
 
@@ -67,6 +69,13 @@ QPointer<QLabel>& StatusLbl()
     return label;
 }
 
+/// Where the pointer was when the hint was shown.
+std::optional<QPoint>& HintPoint()
+{
+    static std::optional<QPoint> point;
+    return point;
+}
+
 } // namespace
 
 std::span<const HintRow> MainWindowHints()
@@ -84,12 +93,19 @@ std::string_view MainWindowHint(std::string_view name)
 void SetStatusLbl(QLabel* label)
 {
     StatusLbl() = label;
+    HintPoint().reset();
 }
 
 void ShowHint(const QString& text)
 {
     if (StatusLbl())
         StatusLbl()->setText(text);
+    HintPoint() = QCursor::pos();
+}
+
+bool MouseMovedSinceHint()
+{
+    return HintPoint() != QCursor::pos();
 }
 
 void HintWatcher::Watch(QWidget& widget, std::string_view hint)
@@ -103,7 +119,7 @@ void HintWatcher::Watch(QWidget& widget, std::string_view hint)
 
 bool HintWatcher::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::MouseMove) {
+    if (event->type() == QEvent::MouseMove && MouseMovedSinceHint()) {
         const auto& widget = *static_cast<QWidget*>(watched);
         if (!IsMeantForAnother(widget, *static_cast<QMouseEvent*>(event)))
             ShowHint(widget.property(kHintProperty).toString());

@@ -31,6 +31,10 @@ void SetStatusLbl(QLabel* label);
 /// Puts a hint on the status line, from any window; an empty text clears it.
 void ShowHint(const QString& text);
 
+/// False while the pointer rests where it was when the hint was shown. A window that opens under it gets moves that are
+/// none, and must not wipe out the hint that belongs to it.
+[[nodiscard]] bool MouseMovedSinceHint();
+
 /// The property that holds a widget's hint; a widget without it has the hint of what it lies on.
 inline constexpr const char* kHintProperty = "hint";
 

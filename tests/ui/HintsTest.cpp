@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
 
 #include <memory>
@@ -70,6 +71,25 @@ TEST(HintWatcher, LeavesTheHintsOfButtonsOnAWatchedWindowAlone)
     window.show();
     QTest::mouseMove(&save, QPoint(20, 20));
     EXPECT_EQ(statusLbl.text(), QStringLiteral("Save button"));
+}
+
+TEST(HintWatcher, LeavesTheHintOfACommandUntilTheMouseMoves)
+{
+    QLabel statusLbl;
+    SetStatusLbl(&statusLbl);
+    QWidget window;
+    window.resize(200, 100);
+    HintWatcher watcher(&window);
+    watcher.Watch(window, "");
+    ButtonScheme scheme(window, AllOffTimer::OffAtFirst);
+    ImageButton& yes = scheme.AddButton({"YesBtn", "Yes", "Yes button"}, [] {});
+    QCursor::setPos(window.mapToGlobal(QPoint(150, 80)));
+    ShowHint(QStringLiteral("Click Yes to delete, No to keep"));
+    window.show(); // under the pointer
+    QApplication::processEvents();
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Click Yes to delete, No to keep"));
+    QTest::mouseMove(&yes, QPoint(20, 20));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Yes button"));
 }
 
 } // namespace

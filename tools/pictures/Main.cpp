@@ -321,5 +321,8 @@ int main(int argc, char** argv)
     sprout::DrawTuneWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
+    sprout::DrawSongWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
     return 0;
 }
