@@ -17,6 +17,7 @@
 #include "ui/Artwork.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/PictureGridAccessible.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -84,6 +85,7 @@ PictureGridPic::PictureGridPic(int columnCount, QWidget* parent)
       blinkSelectImg(new SelectionFrame(this)),
       blinkSelectedTimer(new QTimer(this))
 {
+    InstallPictureGridAccessible();
     frame->setObjectName(QStringLiteral("ShowAllFrame"));
     raise();
     ShowFocus(false);
@@ -125,8 +127,11 @@ void PictureGridPic::SetEntries(const std::vector<GridEntry>& newEntries)
 
 void PictureGridPic::SetSelected(int index)
 {
+    const bool isNew = index != selected;
     selected = index;
     update();
+    if (isNew)
+        TellChosenPicture(*this);
 }
 
 void PictureGridPic::SetTopRow(int row)
@@ -344,6 +349,7 @@ void PictureGridPic::focusInEvent(QFocusEvent* event)
 {
     ShowFocus(true);
     QWidget::focusInEvent(event);
+    TellChosenPicture(*this);
 }
 
 void PictureGridPic::focusOutEvent(QFocusEvent* event)
