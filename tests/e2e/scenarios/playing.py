@@ -137,7 +137,6 @@ def PaintWhilePlaying(desk, seconds=300):
     wave = desk.render(desk.song("Long"))
     wave_seconds = len(wave) / 4 / 44100
     source = random.Random(1)
-    program.click("EraserBtn")
     canvas = program.wait_for("TrackPic")
     end = time.monotonic() + seconds
     plays = strokes = 0
@@ -145,8 +144,9 @@ def PaintWhilePlaying(desk, seconds=300):
         recording = play(desk, program)
         wait_for("the sound", recording.sounds)
         played = time.monotonic() + wave_seconds - 3
-        # The eraser, so that no tune of a stroke cuts off the song; painted with the brush it would.
         while time.monotonic() < played:
+            if strokes % 10 == 0:
+                program.click(("BrushBtn", "EraserBtn")[strokes // 10 % 2])
             track, first, last = source.randint(1, 9), source.randint(1, 400), source.randint(1, 400)
             step = 1 if last >= first else -1
             desk.mouse.drag([cell_place(canvas, track, cell) for cell in range(first, last + step, 4 * step)])
