@@ -17,9 +17,9 @@ namespace sprout {
 
 namespace {
 
-constexpr int kSproutSide = 132;
-constexpr int kSproutLeft = 18;
-constexpr int kLinesLeft = kSproutLeft + kSproutSide + 18;
+constexpr int kAboutSproutSide = 132;
+constexpr int kAboutSproutLeft = 18;
+constexpr int kLinesLeft = kAboutSproutLeft + kAboutSproutSide + 18;
 constexpr int kLinesTop = 18;
 constexpr int kLinesApart = 6;
 constexpr int kRightMargin = 24;
@@ -78,16 +78,16 @@ void About_Frm::PlaceLines()
         top += line->height() + kLinesApart;
         widest = std::max(widest, line->width());
     }
-    PlaceButtons(kLinesLeft + widest + kRightMargin, std::max(top, kLinesTop + kSproutSide) + 10);
+    PlaceButtons(kLinesLeft + widest + kRightMargin, std::max(top, kLinesTop + kAboutSproutSide) + 10);
 }
 
 void About_Frm::paintEvent(QPaintEvent* event)
 {
     BandedForm::paintEvent(event);
     QPainter painter(this);
-    painter.drawPixmap(
-        BodyPoint(kSproutLeft, kLinesTop),
-        Artwork(QStringLiteral("pictures/AboutSprout"), QSize(kSproutSide, kSproutSide), devicePixelRatioF()));
+    painter.drawPixmap(BodyPoint(kAboutSproutLeft, kLinesTop),
+                       Artwork(QStringLiteral("pictures/AboutSprout"), QSize(kAboutSproutSide, kAboutSproutSide),
+                               devicePixelRatioF()));
 }
 
 } // namespace sprout

@@ -33,9 +33,12 @@ constexpr int kBarHeight = 40;
 constexpr int kLabelGap = 8;
 constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
+constexpr std::int32_t kUsualPercent = 100;
 constexpr std::int32_t kPercentsAPage = 10;
 
 constexpr int kShortestSlot = 60;
+constexpr double kKnot = 7; // half its height
+constexpr double kUsualKnot = 10;
 
 /// Width of a label that holds `text` at most.
 int WidestWidth(const char* text)
@@ -43,6 +46,7 @@ int WidestWidth(const char* text)
     return QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(text)) + 2;
 }
 
+/// The slot: a stem with a knot under the pointer's middle at each half of the reference tempo.
 class TempoSlot : public QWidget {
 public:
     explicit TempoSlot(QWidget* parent) : QWidget(parent) { resize(kSlotSize); }
@@ -50,8 +54,26 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
     {
-        QPainter(this).drawPixmap(rect(),
-                                  Artwork(QStringLiteral("pictures/TempoSliderImg"), size(), devicePixelRatioF()));
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const double middle = height() / 2.0;
+        const QLineF stem(MiddleOf(kLowestPercent), middle, MiddleOf(kHighestPercent), middle);
+        for (const QPen& pen : {QPen(kBark, 9), QPen(kLeaf, 5)}) {
+            painter.setPen(QPen(pen.brush(), pen.widthF(), Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(stem);
+        }
+        painter.setPen(QPen(kBark, 2, Qt::SolidLine, Qt::RoundCap));
+        for (std::int32_t percent = kLowestPercent; percent <= kHighestPercent; percent += kLowestPercent) {
+            const double half = percent == kUsualPercent ? kUsualKnot : kKnot;
+            painter.drawLine(QLineF(MiddleOf(percent), middle - half, MiddleOf(percent), middle + half));
+        }
+    }
+
+private:
+    [[nodiscard]] double MiddleOf(std::int32_t percent) const
+    {
+        const TempoSlider slider{0, static_cast<double>(width()), kPointerSize.width()};
+        return slider.LeftOf(percent) + kPointerSize.width() / 2.0;
     }
 };
 

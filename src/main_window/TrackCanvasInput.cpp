@@ -40,18 +40,18 @@ constexpr std::array kScrollKeys{
     ScrollKey{Qt::Key_End, Bar::Cells, QAbstractSlider::SliderToMaximum},
 };
 
-struct ToolButton {
+struct ButtonOfTool {
     Tool tool;
     std::string_view button;
 };
 
-constexpr std::array kToolButtons{ToolButton{Tool::Brush, "BrushBtn"}, ToolButton{Tool::Eraser, "EraserBtn"},
-                                  ToolButton{Tool::PlayTool, "PlayToolBtn"}};
+constexpr std::array kButtonsOfTools{ButtonOfTool{Tool::Brush, "BrushBtn"}, ButtonOfTool{Tool::Eraser, "EraserBtn"},
+                                     ButtonOfTool{Tool::PlayTool, "PlayToolBtn"}};
 
 std::string_view ButtonOf(Tool tool)
 {
-    const auto* row = std::find_if(kToolButtons.begin(), kToolButtons.end(),
-                                   [tool](const ToolButton& candidate) { return candidate.tool == tool; });
+    const auto* row = std::find_if(kButtonsOfTools.begin(), kButtonsOfTools.end(),
+                                   [tool](const ButtonOfTool& candidate) { return candidate.tool == tool; });
     return row->button;
 }
 

@@ -30,6 +30,7 @@ constexpr QSize kPictureButtonSize{34, 34};
 constexpr int kPictureButtonLeft = kTrackPictureLeft - 1;
 constexpr QSize kAddButtonSize{48, 48};
 constexpr int kAddButtonLeft = (kTitleStripWidth - kAddButtonsApart - kAddButtonSize.width()) / 2;
+constexpr int kRingAround = 3;
 constexpr int kTopLblGap = 2;
 constexpr int kTopLblHeight = 22;
 
@@ -37,11 +38,11 @@ constexpr std::int32_t kThreeDigits = 100;
 constexpr int kSmallNumberPixels = 12;
 
 /// A place in a row where a button floats, for choosing by key.
-struct Column {
+struct StripColumn {
     std::int32_t x;
     std::int32_t y; ///< below the row's top
 };
-constexpr std::array kColumns{Column{40, 22}, Column{77, 22}, Column{118, 22}};
+constexpr std::array kStripColumns{StripColumn{40, 22}, StripColumn{77, 22}, StripColumn{118, 22}};
 constexpr std::int32_t kPlayColumn = 2;
 
 /// Runs what the window gave for a button, if it gave something.
@@ -93,8 +94,6 @@ ImageButton& TrackTitlePic::AddStripButton(const ButtonRow& row, QSize size, con
     });
     button.setParent(this);
     button.resize(size);
-    // A move over the button is not one over the strip, which would clear the hint.
-    button.setAttribute(Qt::WA_NoMousePropagation);
     return button;
 }
 
@@ -116,18 +115,17 @@ void TrackTitlePic::MakeButtons()
         button->setFocusPolicy(Qt::NoFocus);
         button->hide();
     }
+    audioBtn->installEventFilter(this);
     setTabOrder(addBtn, addRecBtn);
     for (ImageButton* button : {addBtn, addRecBtn}) {
         button->show();
         button->installEventFilter(this);
     }
-    audioBtn->installEventFilter(this);
 }
 
 void TrackTitlePic::MakeTuneBtn()
 {
     tuneBtn = new TrackTuneBtn(this);
-    tuneBtn->setAttribute(Qt::WA_NoMousePropagation);
     tuneBtn->Hovered = [this] { TuneHovered(); };
     connect(tuneBtn, &QAbstractButton::clicked, this, [this] {
         ShowHint({});
@@ -238,6 +236,7 @@ void TrackTitlePic::HideTrackButtons()
     for (QAbstractButton* button : std::array<QAbstractButton*, 4>{tuneBtn, audioBtn, deleteBtn, playBtn})
         button->hide();
     overlayShown = false;
+    update();
 }
 
 void TrackTitlePic::TuneHovered()
@@ -276,6 +275,9 @@ void TrackTitlePic::mousePressEvent(QMouseEvent* event)
 
 void TrackTitlePic::mouseMoveEvent(QMouseEvent* event)
 {
+    // A button passes on its moves, which are none over the strip.
+    if (childAt(event->position().toPoint()))
+        return;
     ShowHint({});
     HoverAt(event->position().toPoint().x(), event->position().toPoint().y());
 }
@@ -320,13 +322,13 @@ void TrackTitlePic::ChooseRow(std::int32_t track)
 
 void TrackTitlePic::ChooseColumn(std::int32_t step)
 {
-    chosenColumn = std::clamp(chosenColumn + step, 0, static_cast<std::int32_t>(kColumns.size()) - 1);
+    chosenColumn = std::clamp(chosenColumn + step, 0, static_cast<std::int32_t>(kStripColumns.size()) - 1);
     ChooseRow(chosenRow);
 }
 
 void TrackTitlePic::ShowChosen()
 {
-    const Column& column = kColumns[static_cast<std::size_t>(chosenColumn)];
+    const StripColumn& column = kStripColumns[static_cast<std::size_t>(chosenColumn)];
     HoverAt(column.x, RowTop(view, chosenRow) + column.y);
     if (QAbstractButton* button = FloatingButton()) {
         setAccessibleName(tr("Track %1, %2").arg(chosenRow).arg(button->accessibleName()));
@@ -370,8 +372,11 @@ void TrackTitlePic::focusOutEvent(QFocusEvent* event)
 
 void TrackTitlePic::PaintOver(QPainter& painter)
 {
-    if (hasFocus() && FocusByKey() && chosenRow > 0)
-        PaintFocusRing(painter, QRect(0, RowTop(view, chosenRow), width(), kRowHeight));
+    if (!hasFocus() || !FocusByKey() || chosenRow == 0)
+        return;
+    PaintFocusRing(painter, QRect(0, RowTop(view, chosenRow), width(), kRowHeight));
+    if (const QAbstractButton* button = FloatingButton())
+        PaintFocusRing(painter, button->geometry().adjusted(-kRingAround, -kRingAround, kRingAround, kRingAround));
 }
 
 } // namespace sprout

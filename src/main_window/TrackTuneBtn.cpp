@@ -14,8 +14,8 @@ namespace sprout {
 
 namespace {
 
-constexpr int kFrame = 1;
-constexpr int kSide = kPictureSide + 2 * kFrame;
+constexpr int kTuneButtonFrame = 1;
+constexpr int kTuneButtonSide = kPictureSide + 2 * kTuneButtonFrame;
 
 } // namespace
 
@@ -28,7 +28,7 @@ TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
     setAccessibleDescription(hint);
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
-    resize(kSide, kSide);
+    resize(kTuneButtonSide, kTuneButtonSide);
     hide();
 }
 
@@ -42,10 +42,11 @@ void TrackTuneBtn::SetTune(const Tune& tune)
 void TrackTuneBtn::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), isDown() ? kBark : kSun);
+    painter.fillRect(rect(), isDown() ? kSun : kBark);
     const qreal ratio = devicePixelRatioF();
     painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
-    painter.drawImage(rect().adjusted(kFrame, kFrame, -kFrame, -kFrame), raised);
+    painter.drawImage(rect().adjusted(kTuneButtonFrame, kTuneButtonFrame, -kTuneButtonFrame, -kTuneButtonFrame),
+                      raised);
 }
 
 void TrackTuneBtn::enterEvent(QEnterEvent* event)

@@ -54,13 +54,6 @@ void PlayFromCell(const WaveData& wave, std::int32_t origin, std::int32_t track,
         PlayWaveTrack(part->Wave, track, part->StartCell, Loop::No);
 }
 
-PlayedSound SoundInPlay()
-{
-    const PlayModState& play = PlayShared();
-    return {play.PlayingTrack, static_cast<double>(play.PlayCursor), play.PlayBufRate, play.PlayTempo,
-            play.PlayStartPos};
-}
-
 std::int32_t TuneInterval(const Tune& tune)
 {
     return TuneHoverInterval(tune.TuneWave.Length, tune.StepCount, Shared().Song.Tempo);
@@ -136,7 +129,7 @@ void TransportCommands::PlayAllBtn()
 void TransportCommands::PlayStopBtn()
 {
     ShowHint({});
-    Player().StopPlay();
+    Guarded([] { Player().StopPlay(); });
 }
 
 void TransportCommands::PlayOrStop()
@@ -239,7 +232,7 @@ void TransportCommands::MovePlayIndicator()
     const PlayModState& play = PlayShared();
     // A sound that has just ended has no place any more: its marker waits where it stands for the next tick.
     if (canvas && play.PlayKind == PlayKind::SongOrTrack && play.PlayState != PlayState::Stopped)
-        canvas->ShowPlayIndicator(sprout::MovePlayIndicator(SoundInPlay(), canvas->View()));
+        canvas->ShowPlayIndicator(sprout::MovePlayIndicator(play, canvas->View()));
 }
 
 void TransportCommands::PlayIndicatorOff()

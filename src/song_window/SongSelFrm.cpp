@@ -26,15 +26,15 @@ namespace sprout {
 
 namespace {
 
-constexpr int kMargin = 16;
+constexpr int kSongMargin = 16;
 constexpr int kListWidth = 360;
 constexpr int kLabelHeight = 24;
-constexpr int kNameBoxHeight = 34;
+constexpr int kSongNameHeight = 34;
 constexpr int kModePicSide = 34;
-constexpr int kRowGap = 12;
+constexpr int kSongRowGap = 12;
 constexpr int kColumnGap = 8;
 
-constexpr std::string_view kSelectHint = "Click on the song name in the list to select one";
+constexpr std::string_view kSelectSongHint = "Click on the song name in the list to select one";
 constexpr const char* kSavWavHint = "Select wav file name to save the song as audio (.wav) file";
 constexpr const char* kSavWmaHint = "Select wma file name to save the song as audio (.wma) file";
 
@@ -148,14 +148,15 @@ void SongSelFrm::PlaceControls()
 {
     const SongSelLayout& layout = LayoutOf(mode);
     const int listBottom = layout.ListTop + layout.ListHeight;
-    ModePic->setGeometry({BodyPoint(kMargin, layout.ListTop - kModePicSide - 2), QSize(kModePicSide, kModePicSide)});
-    ListTitleLbl->setGeometry({BodyPoint(kMargin + kModePicSide + 2, layout.ListTitleTop),
+    ModePic->setGeometry(
+        {BodyPoint(kSongMargin, layout.ListTop - kModePicSide - 2), QSize(kModePicSide, kModePicSide)});
+    ListTitleLbl->setGeometry({BodyPoint(kSongMargin + kModePicSide + 2, layout.ListTitleTop),
                                QSize(kListWidth - kModePicSide - 2, kLabelHeight)});
-    SngNmLst->setGeometry({BodyPoint(kMargin, layout.ListTop), QSize(kListWidth, layout.ListHeight)});
+    SngNmLst->setGeometry({BodyPoint(kSongMargin, layout.ListTop), QSize(kListWidth, layout.ListHeight)});
     PlaceColumn(layout.ListTop, listBottom);
     if (layout.HasNameBox)
         PlaceNameBox(listBottom + 6);
-    PlaceRow(layout.HasNameBox ? listBottom + 6 + kLabelHeight + kNameBoxHeight + 16 : listBottom + 14);
+    PlaceRow(layout.HasNameBox ? listBottom + 6 + kLabelHeight + kSongNameHeight + 16 : listBottom + 14);
 }
 
 void SongSelFrm::PlaceColumn(int top, int bottom)
@@ -164,33 +165,34 @@ void SongSelFrm::PlaceColumn(int top, int bottom)
     for (const ImageButton* button : columnButtons)
         columnWidth = std::max(columnWidth, button->sizeHint().width());
     for (ImageButton* button : columnButtons) {
-        button->setGeometry({BodyPoint(2 * kMargin + kListWidth, top), QSize(columnWidth, button->height())});
+        button->setGeometry({BodyPoint(2 * kSongMargin + kListWidth, top), QSize(columnWidth, button->height())});
         top += button->height() + kColumnGap;
     }
     ImageButton& helpBtn = *columnButtons.back();
     helpBtn.move(helpBtn.x(), kBandHeight + bottom - helpBtn.height());
-    resize(3 * kMargin + kListWidth + columnWidth, height());
+    resize(3 * kSongMargin + kListWidth + columnWidth, height());
 }
 
 void SongSelFrm::PlaceNameBox(int top)
 {
-    const int nameLeft = kMargin + SongNmLbl->sizeHint().width() + 8;
-    TextTitleLbl->setGeometry({BodyPoint(kMargin, top), QSize(width() - 2 * kMargin, kLabelHeight)});
-    SongNmLbl->setGeometry({BodyPoint(kMargin, top + kLabelHeight + 2), QSize(nameLeft - kMargin, kNameBoxHeight)});
+    const int nameLeft = kSongMargin + SongNmLbl->sizeHint().width() + 8;
+    TextTitleLbl->setGeometry({BodyPoint(kSongMargin, top), QSize(width() - 2 * kSongMargin, kLabelHeight)});
+    SongNmLbl->setGeometry(
+        {BodyPoint(kSongMargin, top + kLabelHeight + 2), QSize(nameLeft - kSongMargin, kSongNameHeight)});
     SongNameTxt->setGeometry(
-        {BodyPoint(nameLeft, top + kLabelHeight + 2), QSize(width() - nameLeft - kMargin, kNameBoxHeight)});
+        {BodyPoint(nameLeft, top + kLabelHeight + 2), QSize(width() - nameLeft - kSongMargin, kSongNameHeight)});
 }
 
 void SongSelFrm::PlaceRow(int top)
 {
-    int right = width() - kMargin;
+    int right = width() - kSongMargin;
     for (auto button = soundFileButtons.rbegin(); button != soundFileButtons.rend(); ++button) {
         (*button)->move(BodyPoint(right - (*button)->width(), top));
-        right -= (*button)->width() + kRowGap;
+        right -= (*button)->width() + kSongRowGap;
     }
-    OkBtn->move(BodyPoint(kMargin, top));
-    CancelBtn->move(BodyPoint(kMargin + OkBtn->width() + kRowGap, top));
-    resize(width(), kBandHeight + top + OkBtn->height() + kRowGap);
+    OkBtn->move(BodyPoint(kSongMargin, top));
+    CancelBtn->move(BodyPoint(kSongMargin + OkBtn->width() + kSongRowGap, top));
+    resize(width(), kBandHeight + top + OkBtn->height() + kSongRowGap);
 }
 
 void SongSelFrm::LoadSongNames()
@@ -260,7 +262,7 @@ bool SongSelFrm::IsSongSelected(std::string_view message)
 {
     if (!songs.empty() && SelectedRow() >= 0)
         return true;
-    Hint(kSelectHint);
+    Hint(kSelectSongHint);
     ShowMessage(message);
     Hint("");
     return false;

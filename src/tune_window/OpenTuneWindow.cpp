@@ -15,17 +15,17 @@ namespace sprout {
 namespace {
 
 /// The one window, from its first opening on.
-QPointer<TuneFrm2>& Instance()
+QPointer<TuneFrm2>& TheTuneFrm2()
 {
     static QPointer<TuneFrm2> window;
     return window;
 }
 
-TuneFrm2& Window()
+TuneFrm2& OpenedTuneFrm2()
 {
-    if (!Instance())
-        Instance() = new TuneFrm2(QApplication::activeWindow());
-    return *Instance();
+    if (!TheTuneFrm2())
+        TheTuneFrm2() = new TuneFrm2(QApplication::activeWindow());
+    return *TheTuneFrm2();
 }
 
 } // namespace
@@ -36,7 +36,7 @@ bool OpenTuneWindow(Tune& tune, bool& newFlag)
     shared.CurrentTune = tune;
     ExpandTuneBeats(shared.Song, shared.CurrentTune);
     bool changed = CompleteTune(shared.CurrentTune);
-    TuneFrm2& window = Window();
+    TuneFrm2& window = OpenedTuneFrm2();
     window.NewTuneMode = newFlag;
     if (shared.TuneTableCount < 1)
         LoadTuneFiles();
@@ -53,8 +53,8 @@ bool OpenTuneWindow(Tune& tune, bool& newFlag)
 void LoadTuneFiles()
 {
     if (Shared().TuneTableCount >= 1) {
-        if (Instance())
-            Instance()->FindChosenTune();
+        if (TheTuneFrm2())
+            TheTuneFrm2()->FindChosenTune();
         return;
     }
     ReadTuneTable();
@@ -63,8 +63,8 @@ void LoadTuneFiles()
 
 void UpdateThisTune()
 {
-    if (Instance())
-        Instance()->UpdateThisTune();
+    if (TheTuneFrm2())
+        TheTuneFrm2()->UpdateThisTune();
 }
 
 } // namespace sprout

@@ -32,16 +32,16 @@ namespace {
 
 constexpr int kSurfaceHeight = 304;
 constexpr int kUsualWidth = 740;
-constexpr int kRowGap = 6;
+constexpr int kBottomRowGap = 6;
 constexpr int kBottomRowHeight = 36;
 constexpr int kComboWidth = 132;
 constexpr int kScrollHeight = 18;
 constexpr QSize kMarkSize{30, 16};
 constexpr QPoint kNoteInstrPlace{8, 57};
 constexpr QPoint kNotePianoPlace{8, 118};
-constexpr QSize kPointerSize{32, 32};
+constexpr QSize kPianoCursorSize{32, 32};
 constexpr QPoint kPianoCursorTip{9, 3};
-constexpr std::chrono::milliseconds kPlayPosInterval{40};
+constexpr std::chrono::milliseconds kPlayMarksInterval{40};
 
 constexpr ButtonRow kChangeAllRow{"ChangeAllBtn", "Change All",
                                   "Change All button, use it to choose one instrument for all steps", Plate::Word,
@@ -96,14 +96,14 @@ StepEditor::StepEditor(QWidget* parent) : QWidget(parent), chooseBeat(ChooseBeat
 
 QSize StepEditor::sizeHint() const
 {
-    return {kUsualWidth, kSurfaceHeight + kRowGap + kBottomRowHeight};
+    return {kUsualWidth, kSurfaceHeight + kBottomRowGap + kBottomRowHeight};
 }
 
 void StepEditor::MakeTunFramPic()
 {
     surface = new TunFramPic(this);
     surface->setAccessibleName(tr("Steps of the tune"));
-    pianoCursor = QCursor(Artwork(QStringLiteral("pictures/PianoCursorImg"), kPointerSize, devicePixelRatioF()),
+    pianoCursor = QCursor(Artwork(QStringLiteral("pictures/PianoCursorImg"), kPianoCursorSize, devicePixelRatioF()),
                           kPianoCursorTip.x(), kPianoCursorTip.y());
     connect(surface, &TunFramPic::Pressed, this,
             [this](QPoint place, Qt::MouseButton button) { Guarded([&] { PressSurface(place, button); }); });
@@ -127,14 +127,14 @@ void StepEditor::MakePlayMarks()
     PlayingOnStepImg = new ArtImage("PlayingOnStepImg", kMarkSize, surface);
     PlayPosTimer.setObjectName(QStringLiteral("PlayPosTimer"));
     PlayPosTimer.setParent(this);
-    PlayPosTimer.setInterval(kPlayPosInterval);
+    PlayPosTimer.setInterval(kPlayMarksInterval);
     connect(&PlayPosTimer, &QTimer::timeout, this, [this] { Guarded([this] { TickPlayPos(); }); });
     HidePlayMarks();
 }
 
 void StepEditor::MakeChangeAll()
 {
-    buttons = new ButtonScheme(*surface, AllOffTimer::OffAtFirst);
+    auto* buttons = new ButtonScheme(*surface, AllOffTimer::OffAtFirst);
     buttons->setParent(this);
     ChangeAllBtn = &buttons->AddButton(kChangeAllRow, [this] { Guarded([this] { ClickChangeAll(); }); });
     NoteInstrLbl = MakeNote("NoteInstrLbl", QT_TR_NOOP("Instruments: click on a picture to choose another"),
@@ -184,11 +184,11 @@ void StepEditor::MakeStepPopMnu()
 
 void StepEditor::resizeEvent(QResizeEvent* /*event*/)
 {
-    const int surfaceHeight = std::max(height() - kRowGap - kBottomRowHeight, kSurfaceHeight);
-    const int rowTop = surfaceHeight + kRowGap;
+    const int surfaceHeight = std::max(height() - kBottomRowGap - kBottomRowHeight, kSurfaceHeight);
+    const int rowTop = surfaceHeight + kBottomRowGap;
     StepNosCmb->setGeometry(0, rowTop, kComboWidth, kBottomRowHeight);
-    TunFramHScroll->setGeometry(kComboWidth + 2 * kRowGap, rowTop + (kBottomRowHeight - kScrollHeight) / 2,
-                                width() - kComboWidth - 2 * kRowGap, kScrollHeight);
+    TunFramHScroll->setGeometry(kComboWidth + 2 * kBottomRowGap, rowTop + (kBottomRowHeight - kScrollHeight) / 2,
+                                width() - kComboWidth - 2 * kBottomRowGap, kScrollHeight);
     surface->setGeometry(0, 0, width(), surfaceHeight);
 }
 
@@ -344,7 +344,6 @@ void StepEditor::HidePlayMarks()
 {
     PlayPosTimer.stop();
     LastPlayStep = 1;
-    PlayMarksOn = false;
     PlayingStepImg->hide();
     PlayingOnStepImg->hide();
 }
@@ -358,7 +357,6 @@ void StepEditor::TickPlayPos()
     if (!plays || tune.StepCount < 1)
         return HidePlayMarks();
     LastPlayStep = StepInPlay(play, Shared().Song.Tempo, tune.StepCount);
-    PlayMarksOn = true;
     PlayingStepImg->show();
     // The mark of an on-step stays until the next one is struck.
     if (At(tune.Steps, LastPlayStep).OnPos == 1) {

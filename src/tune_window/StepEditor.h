@@ -26,7 +26,6 @@ class QScrollBar;
 namespace sprout {
 
 class ArtImage;
-class ButtonScheme;
 class StepFocus;
 class TunFramPic;
 
@@ -116,7 +115,6 @@ private:
     QWidget* DummyDuration = nullptr;
     ArtImage* PlayingStepImg = nullptr;
     ArtImage* PlayingOnStepImg = nullptr;
-    ButtonScheme* buttons = nullptr;
     QWidget* ChangeAllBtn = nullptr;
     QLabel* NoteInstrLbl = nullptr;
     QLabel* NotePianoLbl = nullptr;
@@ -137,7 +135,6 @@ private:
     QPoint iconDown{-1, -1}; ///< where the mouse went down on the icon row; elsewhere if it did not
     std::int32_t LastPlayStep = 1;
     std::int32_t lastOnStep = 1; ///< under `PlayingOnStepImg`
-    bool PlayMarksOn = false;
 };
 
 } // namespace sprout

@@ -28,6 +28,9 @@ StepFocus::StepFocus(std::int32_t step, QWidget* surface) : QAbstractButton(surf
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::TabFocus);
     setCheckable(true);
+    setAccessibleDescription(
+        tr("The space bar switches the step on or off, up and down change its pitch, Enter chooses "
+           "its instrument, and the menu key has more."));
 }
 
 void StepFocus::ShowStep(const TuneStep& step, std::int32_t stepsLeft)

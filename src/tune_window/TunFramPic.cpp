@@ -25,7 +25,7 @@ constexpr int kLampHeight = 16;
 constexpr int kStripEndWidth = 4;
 constexpr int kStripHeight = 38;
 constexpr int kNumberInset = 2; ///< of the figures' upper edge
-constexpr int kIconSide = 32;
+constexpr int kBeatIconSide = 32;
 constexpr int kWheelStep = 120; ///< eighths of a degree a notch
 constexpr QColor kFrameLight{0xFF, 0xFF, 0xFF};
 constexpr QColor kFrameShade{0x80, 0x80, 0x80};
@@ -147,10 +147,10 @@ void TunFramPic::PaintIcon(QPainter& painter, std::int32_t step) const
 {
     const Column& column = At(columns, step);
     const int x = StepLeft(step, stepsLeft);
-    const QRect place(x - 1, step == pressedStep ? kPressedIconTop : kIconTop, kIconSide, kIconSide);
+    const QRect place(x - 1, step == pressedStep ? kPressedIconTop : kIconTop, kBeatIconSide, kBeatIconSide);
     painter.drawImage(place, ToImage(column.picture));
     if (column.beatIsMissing)
-        painter.drawPixmap(x - 2, kIconTop - 1, Art("MissingBeatMark", kIconSide, kIconSide));
+        painter.drawPixmap(x - 2, kIconTop - 1, Art("MissingBeatMark", kBeatIconSide, kBeatIconSide));
 }
 
 void TunFramPic::PaintFrame(QPainter& painter, std::int32_t step) const

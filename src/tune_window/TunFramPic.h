@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QPoint>
-#include <QRegion>
 #include <QWidget>
 
 #include <cstdint>
@@ -35,7 +34,7 @@ Q_SIGNALS:
     void Pressed(QPoint place, Qt::MouseButton button);
     void Moved(QPoint place);
     void Released(QPoint place, Qt::MouseButton button);
-    void Wheeled(int pixels); ///< to the left if below 0
+    void Wheeled(int pixels); ///< to the right, to the left if below 0
     void Resized();
 
 protected:

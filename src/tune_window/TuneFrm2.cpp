@@ -5,30 +5,16 @@
 #include <QScreen>
 
 #include <algorithm>
-#include <exception>
-#include <filesystem>
 
-#include "core/Errors.h"
 #include "core/Paths.h"
-#include "core/Settings.h"
 #include "core/Shared.h"
-#include "service/Messages.h"
-#include "service/PictureFiles.h"
-#include "service/Services.h"
 #include "sound/PlayMod.h"
-#include "tune_window/OpenTuneWindow.h"
 #include "tune_window/StepEditor.h"
-#include "tune_window/TuneNameFrm.h"
 #include "tune_window/TunePicture.h"
 #include "tune_window/rules/ChosenTune.h"
-#include "tune_window/rules/RandomTune.h"
 #include "tune_window/rules/TuneWindowPlan.h"
-#include "tunes/BeatFiles.h"
 #include "tunes/TunOpnSavClass.h"
-#include "ui/Dialogs.h"
-#include "ui/FileDialogs.h"
 #include "ui/Guarded.h"
-#include "ui/HelpFrm.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/PictureGridPic.h"
@@ -36,17 +22,14 @@
 
 namespace sprout {
 
-namespace fs = std::filesystem;
-
 namespace {
 
 constexpr float kLeadInSeconds = 0.75F;
 constexpr std::string_view kGridHint = "Click on a picture to choose a tune";
 constexpr std::string_view kFrameHint = "This is the chosen Tune. Click on it to play";
 constexpr std::string_view kDeleteHint = "This button will delete the selected tune";
-constexpr int kDeleteItem = 4;
 
-void Place(QWidget& widget, const PlanBox& box)
+void PutAt(QWidget& widget, const PlanBox& box)
 {
     widget.setGeometry(box.x, box.y, box.width, box.height);
 }
@@ -56,6 +39,7 @@ void SetFittingText(QLabel& label, const QString& text)
 {
     label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
     label.setToolTip(label.text() == text ? QString() : text);
+    label.setAccessibleName(text);
 }
 
 } // namespace
@@ -171,15 +155,15 @@ void TuneFrm2::FitTo(QSize room)
                         editor->sizeHint().height(), Shared().TuneTableCount});
     resize(plan.width, plan.height);
     ShowAllPic->PlaceAt({plan.grid.x, plan.grid.y}, plan.gridRows);
-    Place(*TunePic, plan.tunePic);
-    Place(*TuneNameLbl, plan.tuneNameLbl);
-    Place(*CreatedByLbl, plan.createdByLbl);
+    PutAt(*TunePic, plan.tunePic);
+    PutAt(*TuneNameLbl, plan.tuneNameLbl);
+    PutAt(*CreatedByLbl, plan.createdByLbl);
     std::size_t tool = 0;
     for (const char* name : {"TestPlayBtn", "RndTuneBtn", "NewTuneBtn", "ChangePicBtn", "SaveTuneBtn", "HelpBtn"})
-        Place(*findChild<QWidget*>(QString::fromLatin1(name)), plan.tools[tool++]);
-    Place(*findChild<QWidget*>(QStringLiteral("OkBtn")), plan.okBtn);
-    Place(*findChild<QWidget*>(QStringLiteral("CancelBtn")), plan.cancelBtn);
-    Place(*editor, plan.editor);
+        PutAt(*findChild<QWidget*>(QString::fromLatin1(name)), plan.tools[tool++]);
+    PutAt(*findChild<QWidget*>(QStringLiteral("OkBtn")), plan.okBtn);
+    PutAt(*findChild<QWidget*>(QStringLiteral("CancelBtn")), plan.cancelBtn);
+    PutAt(*editor, plan.editor);
 }
 
 void TuneFrm2::Open()
@@ -255,10 +239,15 @@ void TuneFrm2::ShowNothingSelected()
     ShowTune("New", "Me", {});
 }
 
-void TuneFrm2::ShowTune(const std::string& name, const std::string& author, const Picture& picture)
+void TuneFrm2::ShowNames(const std::string& name, const std::string& author)
 {
     SetFittingText(*TuneNameLbl, QtText(name));
     SetFittingText(*CreatedByLbl, QtText(author));
+}
+
+void TuneFrm2::ShowTune(const std::string& name, const std::string& author, const Picture& picture)
+{
+    ShowNames(name, author);
     TunePic->SetPicture(picture);
     TunePic->setAccessibleName(QtText(name));
 }
@@ -292,203 +281,6 @@ void TuneFrm2::PlaySelectedTune()
     LoadChosenTune(ChosenTune);
     if (ChosenTune.TuneWaveValid)
         PlayWaveDelayed(ChosenTune.TuneWave, kLeadInSeconds, "Playing Tune", Loop::No);
-}
-
-void TuneFrm2::OpenMoveMnu(QPoint at)
-{
-    for (int i = 0; i < kDeleteItem; ++i)
-        MoveMnu[static_cast<std::size_t>(i)]->setEnabled(
-            TuneMoveTarget(static_cast<TuneMove>(i), SelectedTune, Shared().TuneTableCount) > 0);
-    PopPosiMnu->popup(at);
-}
-
-void TuneFrm2::MoveTune(TuneMove move)
-{
-    const std::int32_t target = TuneMoveTarget(move, SelectedTune, Shared().TuneTableCount);
-    if (target == 0)
-        return;
-    std::swap(At(Shared().TuneTable, SelectedTune), At(Shared().TuneTable, target));
-    SelectedTune = target;
-    TakeTuneTable();
-    RefreshShowAllPic();
-}
-
-void TuneFrm2::DeleteTune()
-{
-    if (!HasSelectedTune()) {
-        ShowHint(QStringLiteral("Click on a picture to select a Tune"));
-        ShowMessage("Select a Tune and try this.");
-        return ShowHint({});
-    }
-    const Tune tune = At(Shared().TuneTable, SelectedTune);
-    if (IsOriginalTune(tune) && !Shared().AllowEditOriginal) {
-        ShowHint(QStringLiteral("Blue bordered are originals, red bordered are your new tunes"));
-        ShowMessage("This is an original Tune from " + std::string(kProductFamily) + ".",
-                    "This tune can not be deleted.");
-        return ShowHint({});
-    }
-    ShowHint(QStringLiteral("Click Yes to delete, No to keep"));
-    if (AskYesNo("Are you sure to delete this Tune?", "Tune name: " + tune.Name, " Confirm Delete Tune") == 1) {
-        DeleteTuneFiles(tune.Name);
-        SaveTuneOrder();
-        ReadTunesAgain();
-        SelectedTune = 0;
-        RefreshShowAllPic();
-    }
-    ShowHint({});
-}
-
-void TuneFrm2::ReadTunesAgain()
-{
-    Shared().TuneTableCount = 0;
-    LoadTuneFiles();
-    TakeTuneTable();
-}
-
-void TuneFrm2::TunePicClick()
-{
-    if (HasSelectedTune())
-        return PlaySelectedTune();
-    ShowHint(QStringLiteral("Click on a picture to select a tune"));
-    ShowMessage("Select a Tune first.");
-    ShowHint({});
-}
-
-void TuneFrm2::TestPlayBtn()
-{
-    editor->PlayCurrentTune(0);
-}
-
-void TuneFrm2::NewTuneBtn()
-{
-    Player().StopPlay();
-    Tune& tune = Shared().CurrentTune;
-    MakeNewTune(tune);
-    ChosenTune = tune;
-    NewTuneMode = true;
-    UpdateThisTune();
-    RefreshShowAllPic();
-    if (OkPressed && TuneChanged)
-        MergeTuneBeats(Shared().Song, tune);
-}
-
-void TuneFrm2::RndTuneBtn()
-{
-    Player().StopPlay();
-    editor->HidePlayMarks();
-    const RandomSequence next = RandomSequence::FromClock();
-    SelectedTune = -1;
-    RefreshShowAllPic();
-    MakeRandomTune(Shared().CurrentTune, next);
-    TuneChanged = true;
-    UpdateThisTune();
-    editor->PlayCurrentTune(0);
-}
-
-void TuneFrm2::SaveTuneBtn()
-{
-    ShowHint({});
-    if (const std::optional<TuneNames> names = AskNames())
-        SaveUnder(*names);
-}
-
-std::optional<TuneNames> TuneFrm2::AskNames()
-{
-    TuneNames names = NamesToOffer(Shared().CurrentTune, Shared().AllowEditOriginal);
-    do {
-        TuneNameFrm form(this, names);
-        form.ShowModal();
-        if (!form.NameOk)
-            return {};
-        names = Trimmed(form.Names());
-    } while (!MaySaveUnder(names));
-    return names;
-}
-
-bool TuneFrm2::MaySaveUnder(const TuneNames& names) const
-{
-    if (const std::string_view missing = WhatIsMissing(names); !missing.empty()) {
-        ShowMessage(missing);
-        return false;
-    }
-    if (!FileExists(TuneFile(names.Name)))
-        return true;
-    if (!Shared().AllowEditOriginal && IsNameOfOriginal(names.Name)) {
-        ShowMessage("An Original " + std::string(kProductFamily) + " Tune is there with this name \"" + names.Name +
-                        "\"\r\n",
-                    "Please enter another name for this Tune and save.");
-        return false;
-    }
-    return AskYesNo("Another Tune is there with this name: " + names.Name, "Would you like to overwrite that?") == 1;
-}
-
-void TuneFrm2::SaveUnder(const TuneNames& names)
-{
-    Tune tune = Shared().CurrentTune;
-    tune.Name = names.Name;
-    tune.CreatedBy = names.CreatedBy;
-    SaveTuneFile(tune);
-    Shared().CurrentTune.Name = names.Name;
-    Shared().CurrentTune.CreatedBy = names.CreatedBy;
-    SetFittingText(*TuneNameLbl, QtText(names.Name));
-    SetFittingText(*CreatedByLbl, QtText(names.CreatedBy));
-    ReadTunesAgain();
-    // The last one, whatever place the saved tune has.
-    SelectedTune = Shared().TuneTableCount;
-    ChosenTune = Shared().CurrentTune;
-    RefreshShowAllPic();
-    SaveTuneOrder();
-}
-
-void TuneFrm2::ChangePicBtn()
-{
-    ShowHint(QStringLiteral("Choose a small (32x32) bmp picture file"));
-    FileQuestion question;
-    question.Title = "Please select a picture file (32x32) to use";
-    question.Folder = GetSetting("General", "PictureSelectPath", PathText(Shared().InstallStars));
-    question.DefaultExtension = "bmp";
-    question.Filter = "Picture files|*.bmp;*.jpg;*.gif|All files|*.*";
-    try {
-        if (const std::optional<fs::path> file = ChooseFileToOpen(question))
-            TakePicture(*file);
-    } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("", "Error selecting picture file\r\n" + ErrorText(error));
-    }
-}
-
-void TuneFrm2::TakePicture(const fs::path& file)
-{
-    const Picture picture = TheServices().pictures->LoadPicture(file);
-    Shared().CurrentTune.Picture = picture;
-    TunePic->SetPicture(picture);
-    TuneChanged = true;
-    if (file.has_parent_path() && file.parent_path() != file.root_path())
-        PutSetting("General", "PictureSelectPath", PathText(AsFolder(file.parent_path())));
-}
-
-void TuneFrm2::HelpBtn()
-{
-    ShowHelp();
-}
-
-void TuneFrm2::OkBtn()
-{
-    ShowHint({});
-    OkPressed = true;
-    TuneChanged = true;
-    ShowAllPic->BlinkSelectedTimer().stop();
-    Answer(1);
-}
-
-void TuneFrm2::CancelBtn()
-{
-    ChosenTuneName = OriginalTuneName;
-    Player().StopPlay();
-    ShowHint({});
-    SelectedTune = 0;
-    OkPressed = false;
-    ShowAllPic->BlinkSelectedTimer().stop();
-    BandedForm::reject();
 }
 
 void TuneFrm2::reject()

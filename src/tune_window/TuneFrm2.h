@@ -61,6 +61,7 @@ protected:
 
 private:
     using Command = void (TuneFrm2::*)();
+    static constexpr int kDeleteItem = 4; ///< in `MoveMnu`, behind the moves
     struct CommandRow;
 
     void MakeGrid();
@@ -76,6 +77,7 @@ private:
     void ShowNoTunes();
     void ShowSelectedTune();
     void ShowNothingSelected();
+    void ShowNames(const std::string& name, const std::string& author);
     void ShowTune(const std::string& name, const std::string& author, const Picture& picture);
     [[nodiscard]] bool HasSelectedTune() const { return IsInTuneTable(SelectedTune); }
 

@@ -16,6 +16,13 @@ namespace {
 
 constexpr std::string_view kSortOrder = "SortOrder";
 
+/// A line of any other name would be read as something else, or cut the lines behind it off from their section.
+bool CanBeKey(std::string_view name)
+{
+    const std::string_view key = Trim(name);
+    return !key.empty() && key.front() != '[' && key.front() != ';' && key.find('=') == std::string_view::npos;
+}
+
 } // namespace
 
 TuneIndex TuneIndex::Read(const std::filesystem::path& file)
@@ -40,7 +47,7 @@ void TuneIndex::SetOrder(std::span<const std::string> names)
     std::int32_t place = 0;
     for (const std::string& name : names) {
         ++place;
-        if (!Trim(name).empty())
+        if (CanBeKey(name))
             ini.SetValue(kSortOrder, name, std::to_string(place));
     }
 }

@@ -24,7 +24,8 @@ public:
     /// The place of a name, in any letter case; `kNoPlace` where it has none.
     [[nodiscard]] std::int32_t Place(std::string_view name) const;
 
-    /// Gives the names the places 1, 2, ...; other names keep theirs. The place of a blank name stays free.
+    /// Gives the names the places 1, 2, ...; other names keep theirs. The place of a name that no key can be,
+    /// as a blank one, stays free.
     void SetOrder(std::span<const std::string> names);
 
     /// The whole file, of which the order is one section.

@@ -67,7 +67,7 @@ QPointer<HelpFrm>& OpenHelp()
 void ShowHelp()
 {
     QPointer<HelpFrm>& help = OpenHelp();
-    if (!help) {
+    if (!help || help->isHidden()) { // a closed one goes by itself
         help = new HelpFrm;
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, help, [] { delete OpenHelp(); });
         help->show();

@@ -79,6 +79,12 @@ class SoundServer:
         self.process.wait()
         os.remove(self.socket)
 
+    def plays_nothing(self):
+        """Whether no program has the device open, be it for silence."""
+        inputs = subprocess.run(["pactl", "list", "short", "sink-inputs"], env=self.environment, capture_output=True,
+                                text=True, check=True)
+        return not inputs.stdout.strip()
+
     def record(self):
         """Starts a recording and gives it once something arrives."""
         self.recordings += 1

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCursor>
 #include <QImage>
 #include <QLabel>
 #include <QScrollBar>
@@ -31,6 +32,7 @@ protected:
 
     CanvasFixture()
     {
+        QCursor::setPos(790, 790); // beside the window, so that the first move is one
         SetStatusLbl(&statusLbl);
         MakeProgramPictures();
         NewSong();

@@ -223,6 +223,34 @@ TEST_F(TempoBarTest, ExplainsItselfOnTheStatusLine)
     EXPECT_EQ(hintOf("SngDurLbl"), QStringLiteral("Song duration in seconds"));
 }
 
+TEST_F(TempoBarTest, FitsIntoANarrowWindow)
+{
+    bar->FitWidth(170);
+    EXPECT_LE(bar->width(), 170);
+    EXPECT_LE(Control("TempoLbl").geometry().bottom(), Control("SngDurLbl").y());
+    const QWidget& slot = Control("TempoSliderImg");
+    Press();
+    DragBy(500);
+    EXPECT_EQ(pointer().x() + pointer().width(), slot.width());
+    DragBy(-500);
+    Release();
+    EXPECT_EQ(song.Tempo, 160);
+    bar->FitWidth(1000);
+    EXPECT_EQ(slot.width(), 184);
+}
+
+TEST_F(TempoBarTest, MarksTheUsualTempoUnderThePointersMiddle)
+{
+    for (const int widthPx : {1000, 170}) {
+        bar->FitWidth(widthPx);
+        const QImage slot = Control("TempoSliderImg").grab().toImage();
+        const int middle = pointer().x() + pointer().width() / 2;
+        EXPECT_GT(slot.pixelColor(middle - 8, 6).lightness(), 150);
+        EXPECT_LT(slot.pixelColor(middle - 1, 6).lightness(), 150);
+        EXPECT_LT(slot.pixelColor(middle, 6).lightness(), 150);
+    }
+}
+
 TEST_F(TempoBarTest, HasAPointerThatAChildCanHit)
 {
     EXPECT_GE(pointer().width(), 20);

@@ -16,12 +16,14 @@ using testing::IsEmpty;
 
 class TrackCanvasInputTest : public CanvasFixture {
 protected:
-    void TurnWheel(QPoint eighths, Qt::KeyboardModifiers modifiers = {})
+    void TurnWheel(QPoint eighths, Qt::KeyboardModifiers modifiers = {}) { TurnWheelOver(Pic(), eighths, modifiers); }
+
+    static void TurnWheelOver(QWidget& part, QPoint eighths, Qt::KeyboardModifiers modifiers = {})
     {
-        const QPointF at(100, 100);
-        QWheelEvent turn(at, Pic().mapToGlobal(at), {}, eighths, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
+        const QPointF at(5, 5);
+        QWheelEvent turn(at, part.mapToGlobal(at), {}, eighths, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&turn); // a wheel of the program's own goes to no parent
-        qApp->notify(&Pic(), &turn);
+        qApp->notify(&part, &turn);
     }
 
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&Pic(), key, modifiers); }
@@ -220,6 +222,18 @@ TEST_F(TrackCanvasInputTest, TheWheelScrollsByRowsAndWithShiftSideways)
     for (int i = 0; i < 4; ++i) // a fine wheel: a row in four turns
         TurnWheel({0, -30});
     EXPECT_EQ(canvas->View().FirstTrack, 3);
+}
+
+TEST_F(TrackCanvasInputTest, TheWheelScrollsOverTheStripAndItsButtonsToo)
+{
+    SetTracks(20);
+    TurnWheelOver(Strip(), {0, -120});
+    EXPECT_EQ(canvas->View().FirstTrack, 2);
+    for (const char* name : {"TrackPlayBtn", "TrackTuneBtn", "Label1"}) {
+        Scroll("TrackVScroll").setValue(1);
+        TurnWheelOver(Part(name), {0, -120});
+        EXPECT_EQ(canvas->View().FirstTrack, 2) << name;
+    }
 }
 
 TEST_F(TrackCanvasInputTest, ArrowKeysScrollAndTheSpaceBarPlays)

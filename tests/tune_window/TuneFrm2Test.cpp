@@ -66,6 +66,21 @@ TEST_F(TuneFrm2Test, ALeftPressOnATuneChoosesAndPlaysIt)
     });
 }
 
+TEST_F(TuneFrm2Test, OriginalsHaveABlueBorderAndTheUsersTunesARedOne)
+{
+    MakeTuneFiles(1);
+    MakeTuneFile(PlainTune("Tune 02", "TONQUILL and friends"));
+    MakeTuneFile(PlainTune("Tune 03", "Bob of Tonquill"));
+    Open([](TuneFrm2& window) {
+        const QImage grid = GridOf(window).grab().toImage();
+        EXPECT_EQ(grid.pixelColor(44, 20), QColor(0, 0, 255));
+        EXPECT_EQ(grid.pixelColor(84, 20), QColor(0xC0, 0, 0));
+        EXPECT_EQ(grid.pixelColor(84, 2), QColor(Qt::white));
+        // The colours of a picture are kept as blue, green, red.
+        EXPECT_EQ(grid.pixelColor(60, 20), QColor(0x30, 0x20, 0x10));
+    });
+}
+
 TEST_F(TuneFrm2Test, AChosenTuneIsShownOnAMachineWithoutADeviceToo)
 {
     MakeTuneFiles(2);

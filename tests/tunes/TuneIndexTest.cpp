@@ -43,6 +43,14 @@ TEST_F(TuneIndexTest, WritesPlacesOfNamesInAnyAlphabetAndKeepsOthers)
     EXPECT_NE(ReadBytes(Shared().UserTunes / "tqtunes.INI").find("[Mine]\r\nKey=1"), std::string::npos);
 }
 
+TEST_F(TuneIndexTest, LeavesOutNamesThatWouldBeReadAsSomethingElse)
+{
+    TuneIndex index = TuneIndex::Read(TuneIndexFile());
+    index.SetOrder(std::vector<std::string>{"[Sun]", "; Rain", "Snow=2", " ", "Wind"});
+    index.Write();
+    EXPECT_EQ(ReadBytes(TuneIndexFile()), "[SortOrder]\r\nWind=5\r\n");
+}
+
 TEST_F(TuneIndexTest, IsSilentWhereItCannotBeWritten)
 {
     TuneIndex index = TuneIndex::Read(Shared().UserTunes / "no folder" / "TqTunes.ini");

@@ -162,7 +162,6 @@ TEST_F(HelpFrmTest, EscapeAndCloseEndItAndItRemembersNothing)
         else
             Click(help, "CloseBtn");
         EXPECT_EQ(OpenedHelp(), nullptr);
-        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         EXPECT_EQ(Shown(Open()), QStringLiteral("Welcome"));
         delete OpenedHelp();
     }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -302,6 +303,42 @@ TEST_F(PictureGridPicTest, ReachesTheLastOfFiveThousandPictures)
     EXPECT_EQ(grid.TopRow(), 413);
     const GridPlace place = PlaceInGrid(grid.Grid(), 5000);
     EXPECT_EQ(PixelAt(place.x, place.y), QColor(0xC8, 0, 0));
+}
+
+TEST_F(PictureGridPicTest, IsAListOfNamedPicturesForAScreenReader)
+{
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(&grid);
+    ASSERT_NE(list, nullptr);
+    EXPECT_EQ(list->role(), QAccessible::List);
+    EXPECT_EQ(list->childCount(), 100);
+    Choose(14);
+    QAccessibleInterface* picture = list->child(13);
+    ASSERT_NE(picture, nullptr);
+    EXPECT_EQ(picture->text(QAccessible::Name), QStringLiteral("beat 14"));
+    EXPECT_EQ(picture->text(QAccessible::Description), QStringLiteral("your own"));
+    EXPECT_EQ(picture->rect(), QRect(grid.mapToGlobal(QPoint(45, 45)), QSize(32, 32)));
+    EXPECT_TRUE(picture->state().selected);
+    EXPECT_FALSE(picture->state().offscreen);
+    EXPECT_EQ(picture->parent(), list);
+    EXPECT_EQ(list->indexOfChild(picture), 13);
+    EXPECT_EQ(list->focusChild(), picture);
+    const QPoint at = picture->rect().center();
+    EXPECT_EQ(list->childAt(at.x(), at.y()), picture);
+    EXPECT_EQ(list->child(0)->text(QAccessible::Description), QStringLiteral("original"));
+    EXPECT_TRUE(list->child(99)->state().offscreen);
+    EXPECT_EQ(list->child(100), nullptr);
+    EXPECT_EQ(list->child(-1), nullptr);
+}
+
+TEST_F(PictureGridPicTest, LetsAScreenReaderSeeThatAPictureIsGone)
+{
+    QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(&grid)->child(50);
+    EXPECT_TRUE(picture->isValid());
+    Fill(12);
+    EXPECT_FALSE(picture->isValid());
+    EXPECT_TRUE(picture->state().invalid);
+    EXPECT_EQ(picture->text(QAccessible::Name), QString());
+    EXPECT_EQ(picture->rect(), QRect());
 }
 
 } // namespace

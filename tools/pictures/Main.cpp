@@ -168,8 +168,6 @@ private:
 
     static QSize SizeOf(const QString& name)
     {
-        if (name == QStringLiteral("TempoSliderImg"))
-            return {184, 28};
         if (name == QStringLiteral("TempoPrtImg"))
             return {30, 35};
         if (name == QStringLiteral("TimeSlide"))
@@ -318,9 +316,6 @@ void DrawAllSheets(const QString& folder)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
-    sprout::DrawSongWindowSheets(folder);
-    sprout::DrawTuneWindowSheets(folder);
-    sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
 }
 

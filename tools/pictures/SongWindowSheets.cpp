@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QScrollBar>
 #include <QTemporaryDir>
+#include <QTextBrowser>
 
 #include <array>
 #include <cstdio>
@@ -13,6 +15,7 @@
 #include "main_window/About_Frm.h"
 #include "song_window/SongSelFrm.h"
 #include "ui/HelpFrm.h"
+#include "ui/MessageForms.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -68,10 +71,15 @@ void DrawSongWindows(const QString& folder, int songs)
 void DrawHelp(const QString& folder)
 {
     HelpFrm help;
+    auto* book = help.findChild<QTextBrowser*>(QStringLiteral("BookTxt"));
     auto* pages = help.findChild<QListWidget*>(QStringLiteral("PagesLst"));
     for (int page = 0; page < kHelpPagesDrawn; ++page) {
         pages->setCurrentRow(page);
         SavePicture(help, folder, QStringLiteral("help%1").arg(page + 1));
+        book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+        SavePicture(help, folder, QStringLiteral("help%1-further").arg(page + 1));
+        book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
+        SavePicture(help, folder, QStringLiteral("help%1-end").arg(page + 1));
     }
     help.setAttribute(Qt::WA_DeleteOnClose, false);
 }
@@ -82,6 +90,8 @@ void DrawSongWindowSheets(const QString& folder)
 {
     for (const int songs : {0, static_cast<int>(kSongNames.size()), kManySongs})
         DrawSongWindows(folder, songs);
+    PlainBoxFrm error(nullptr, "Error Copying file\r\nNo space left on device.", MessageIcon::None);
+    SavePicture(error, folder, QStringLiteral("songs-error"));
     About_Frm about(nullptr);
     SavePicture(about, folder, QStringLiteral("about"));
     DrawHelp(folder);

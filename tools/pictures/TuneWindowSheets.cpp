@@ -20,7 +20,7 @@
 #include "tune_window/OpenTuneWindow.h"
 #include "tune_window/TuneFrm2.h"
 #include "tune_window/TuneNameFrm.h"
-#include "ui/Artwork.h"
+#include "ui/MessageForms.h"
 #include "ui/ProgramPictures.h"
 #include "ui/QtMessages.h"
 #include "ui/QtScreen.h"
@@ -134,6 +134,11 @@ void DrawTuneWindowSheets(const QString& folder)
     TuneNameFrm form(nullptr, {"Rain dance", "Ann"});
     form.show();
     SavePicture(form, folder, "tune-name");
+    Msg1Btn2NoteFrm refusal(nullptr, "An Original Tonquill Tune is there with this name \"Lumo\"\r\n",
+                            "Please enter another name for this Tune and save.");
+    refusal.SetCaption(" Tonquill Sprout Painter");
+    refusal.show();
+    SavePicture(refusal, folder, "tune-refusal");
     TheServices() = Services();
 }
 

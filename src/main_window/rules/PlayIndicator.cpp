@@ -1,38 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/rules/PlayIndicator.h"
 
+#include <algorithm>
+
 #include "core/Errors.h"
-#include "core/Numbers.h"
-#include "core/SongModel.h"
+#include "sound/PlayMod.h"
 
 namespace sprout {
 
 namespace {
 
-PlayIndicator IndicatorAt(const PlayedSound& sound, const TrackView& view)
+/// Beyond every surface, and its pixels are still a number.
+constexpr std::int32_t kFarthestCell = 1'000'000;
+
+PlayIndicator IndicatorAt(const PlayModState& play, const TrackView& view)
 {
     PlayIndicator indicator;
-    const std::int32_t x = CellLeft(view, PlayingCell(sound));
-    if (sound.PlayingTrack == kWholeSong)
+    const std::int32_t x = CellLeft(view, std::min(CellInPlay(play), kFarthestCell));
+    if (play.PlayingTrack == kWholeSong)
         indicator.songLeft = x;
-    else if (RowIsVisible(view, sound.PlayingTrack))
-        indicator.track = PlayIndicator::OnRow{x, RowTop(view, sound.PlayingTrack) + kPaintTop};
+    else if (RowIsVisible(view, play.PlayingTrack))
+        indicator.track = PlayIndicator::OnRow{x, RowTop(view, play.PlayingTrack) + kPaintTop};
     return indicator;
 }
 
 } // namespace
 
-std::int32_t PlayingCell(const PlayedSound& sound)
+PlayIndicator MovePlayIndicator(const PlayModState& play, const TrackView& view)
 {
-    return RoundHalfEven(sound.PlayCursor / sound.rate / CellSeconds(sound.PlayTempo) + sound.PlayStartPos);
-}
-
-PlayIndicator MovePlayIndicator(const PlayedSound& sound, const TrackView& view)
-{
-    if (sound.PlayingTrack == 0)
+    if (play.PlayingTrack == 0)
         return {};
     try {
-        return IndicatorAt(sound, view);
+        return IndicatorAt(play, view);
     } catch (const RunTimeError&) {
         return {};
     }

@@ -26,7 +26,7 @@ std::byte Silence(const SoundFormat& format)
 } // namespace
 
 PcmFeed::PcmFeed(const SoundFormat& soundFormat, std::int64_t queued)
-    : format(soundFormat), queuedFrames(queued), timeOfFrame0(kUnknown)
+    : format(soundFormat), queuedFrames(queued), timeOfFrame0(kUnknown), firstTaken(kUnknown)
 {
 }
 
@@ -50,6 +50,7 @@ void PcmFeed::Start(StartFrom from, Loop loop)
         place = 0;
         framesHanded = 0;
         framesHeard = 0;
+        firstTaken = kUnknown;
     }
     ended = false;
     looping = loop == Loop::Yes;
@@ -83,6 +84,14 @@ SoundPlace PcmFeed::PlaceAt(Time now)
     return {static_cast<std::int32_t>(soundFrames == 0 ? 0 : framesHeard % soundFrames), plays};
 }
 
+std::optional<PcmFeed::Time> PcmFeed::FirstTaken() const
+{
+    const std::int64_t taken = firstTaken;
+    if (taken == kUnknown)
+        return std::nullopt;
+    return Time(std::chrono::duration_cast<Time::duration>(std::chrono::nanoseconds(taken)));
+}
+
 void PcmFeed::Fill(std::span<std::byte> out, Time now)
 {
     filling = true;
@@ -99,6 +108,8 @@ std::size_t PcmFeed::FillFromSound(std::span<std::byte> out, Time now)
         return 0;
     }
     const std::int64_t handed = framesHanded;
+    if (handed == 0)
+        firstTaken = Nanoseconds(now);
     const double aheadSeconds = static_cast<double>(handed - queuedFrames) / format.Rate;
     timeOfFrame0 = Nanoseconds(now) - static_cast<std::int64_t>(aheadSeconds * kNanosecondsASecond);
     std::size_t filled = 0;

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -34,6 +35,10 @@ public:
     /// Where the sound is heard at `now`.
     [[nodiscard]] SoundPlace PlaceAt(Time now);
 
+    /// When the device took the first frame since the last start from the beginning; nothing before it did. May be
+    /// asked from any thread.
+    [[nodiscard]] std::optional<Time> FirstTaken() const;
+
     /// Hands the next frames of the sound over, silence where there are none. now: when the device asked.
     void Fill(std::span<std::byte> out, Time now);
 
@@ -58,7 +63,8 @@ private:
     std::atomic<std::int64_t> framesHanded = 0;
     // When frame 0 would have been heard, in nanoseconds of the clock; `kUnknown` before the first `Fill`.
     std::atomic<std::int64_t> timeOfFrame0;
-    std::int64_t framesHeard = 0; // the cursor never goes back
+    std::atomic<std::int64_t> firstTaken; // likewise; `kUnknown` before the first frame
+    std::int64_t framesHeard = 0;         // the cursor never goes back
 };
 
 } // namespace sprout

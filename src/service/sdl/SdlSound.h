@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <mutex>
+#include <optional>
 #include <span>
 #include <thread>
 
@@ -31,6 +32,9 @@ public:
     [[nodiscard]] bool IsAliveIn(const SoundFormat& wanted);
     /// Length of the sound that is loaded next.
     void SetSize(std::int32_t bufferBytes) { soundBytes = static_cast<std::size_t>(std::max(0, bufferBytes)); }
+
+    /// See `PcmFeed`.
+    [[nodiscard]] std::optional<PcmFeed::Time> FirstTaken() const { return feed.FirstTaken(); }
 
     void Service06(std::span<const std::byte> pcm) override { feed.Load(pcm, soundBytes); }
     void Service04(StartFrom from, Loop loop) override;

@@ -61,6 +61,7 @@ void MakeNewTune(Tune& tune)
     tune.CreatedBy = "Me";
     tune.Name = "New";
     MakeStepsOff(tune);
+    tune.TuneWave = WaveData(); // or a file that is saved at once would carry the sound of another tune
     tune.TuneWaveValid = false;
 }
 

@@ -104,7 +104,8 @@ bool IsInTuneTable(std::int32_t index)
 
 std::int32_t FindInTuneTable(std::string_view name)
 {
-    for (std::int32_t i = 1; i <= Shared().TuneTableCount; ++i)
+    // An entry that could not be read has no name; it is not what is looked for.
+    for (std::int32_t i = 1; i <= Shared().TuneTableCount && !name.empty(); ++i)
         if (EqualIgnoringCase(At(Shared().TuneTable, i).Name, name))
             return i;
     return 0;

@@ -37,7 +37,7 @@ void SaveTuneOrder();
 /// True for an index of `TuneTable` that holds a tune; below 1 nothing is chosen.
 [[nodiscard]] bool IsInTuneTable(std::int32_t index);
 
-/// The first tune of that name in any letter case; 0 where there is none.
+/// The first tune of that name in any letter case; 0 where there is none, and for an empty name.
 [[nodiscard]] std::int32_t FindInTuneTable(std::string_view name);
 
 /// Where a move takes the chosen one of `count` tunes; 0 where it cannot go.

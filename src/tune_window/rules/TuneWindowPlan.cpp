@@ -10,23 +10,23 @@ namespace sprout {
 
 namespace {
 
-constexpr int kMargin = 12;
-constexpr int kGap = 6;
+constexpr int kPlanMargin = 12;
+constexpr int kPlanGap = 6;
 constexpr int kBeforePanel = 16;
 constexpr int kPanelWidth = 392;
-constexpr int kTool = 56;
+constexpr int kRoundButton = 56;
 constexpr int kWordWidth = 104;
 constexpr int kWordHeight = 44;
 constexpr int kSmallPic = 44; ///< the picture in its own size and its rim
 constexpr int kLargePic = 76; ///< twice its size
-constexpr int kNameHeight = 30;
+constexpr int kTuneNameHeight = 30;
 constexpr int kAuthorHeight = 24;
 constexpr std::int32_t kFewestRows = 2;
 constexpr std::int32_t kFewestRowsBesidePanel = 5;
 
 int WideWindow(const TuneWindowNeeds& needs)
 {
-    return 2 * kMargin + needs.gridWidth + kBeforePanel + kPanelWidth;
+    return 2 * kPlanMargin + needs.gridWidth + kBeforePanel + kPanelWidth;
 }
 
 std::int32_t GridRows(const TuneWindowNeeds& needs, int besideRows, std::int32_t fewest)
@@ -40,17 +40,17 @@ std::int32_t GridRows(const TuneWindowNeeds& needs, int besideRows, std::int32_t
 void PlaceTune(TuneWindowPlan& plan, int x, int y, int pictureSide, int width)
 {
     plan.tunePic = {x, y, pictureSide, pictureSide};
-    const int textX = plan.tunePic.Right() + kGap + 2;
-    const int textY = y + (pictureSide - kNameHeight - kAuthorHeight) / 2;
-    plan.tuneNameLbl = {textX, textY, x + width - textX, kNameHeight};
-    plan.createdByLbl = {textX, textY + kNameHeight, x + width - textX, kAuthorHeight};
+    const int textX = plan.tunePic.Right() + kPlanGap + 2;
+    const int textY = y + (pictureSide - kTuneNameHeight - kAuthorHeight) / 2;
+    plan.tuneNameLbl = {textX, textY, x + width - textX, kTuneNameHeight};
+    plan.createdByLbl = {textX, textY + kTuneNameHeight, x + width - textX, kAuthorHeight};
 }
 
 void PlaceTools(TuneWindowPlan& plan, int x, int y)
 {
     for (PlanBox& tool : plan.tools) {
-        tool = {x, y, kTool, kTool};
-        x += kTool + kGap;
+        tool = {x, y, kRoundButton, kRoundButton};
+        x += kRoundButton + kPlanGap;
     }
 }
 
@@ -58,42 +58,42 @@ void PlaceTools(TuneWindowPlan& plan, int x, int y)
 void PlaceAnswers(TuneWindowPlan& plan, int right, int bottom)
 {
     plan.cancelBtn = {right - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
-    plan.okBtn = {plan.cancelBtn.x - kGap - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
+    plan.okBtn = {plan.cancelBtn.x - kPlanGap - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
 }
 
 TuneWindowPlan PlanWide(const TuneWindowNeeds& needs)
 {
     TuneWindowPlan plan;
-    const int top = needs.bandHeight + kMargin;
-    const int beside = top + needs.gridFrameHeight + kMargin + needs.editorHeight + kMargin;
+    const int top = needs.bandHeight + kPlanMargin;
+    const int beside = top + needs.gridFrameHeight + kPlanMargin + needs.editorHeight + kPlanMargin;
     plan.gridRows = GridRows(needs, beside, kFewestRowsBesidePanel);
     plan.width = WideWindow(needs);
-    plan.grid = {kMargin, top, needs.gridWidth, plan.gridRows * kGridCell + needs.gridFrameHeight};
+    plan.grid = {kPlanMargin, top, needs.gridWidth, plan.gridRows * kGridCell + needs.gridFrameHeight};
     const int panelX = plan.grid.Right() + kBeforePanel;
     PlaceTune(plan, panelX, top, kLargePic, kPanelWidth);
-    PlaceTools(plan, panelX, plan.tunePic.Bottom() + kMargin);
+    PlaceTools(plan, panelX, plan.tunePic.Bottom() + kPlanMargin);
     PlaceAnswers(plan, panelX + kPanelWidth, plan.grid.Bottom());
-    plan.editor = {kMargin, plan.grid.Bottom() + kMargin, plan.width - 2 * kMargin, needs.editorHeight};
-    plan.height = plan.editor.Bottom() + kMargin;
+    plan.editor = {kPlanMargin, plan.grid.Bottom() + kPlanMargin, plan.width - 2 * kPlanMargin, needs.editorHeight};
+    plan.height = plan.editor.Bottom() + kPlanMargin;
     return plan;
 }
 
 TuneWindowPlan PlanNarrow(const TuneWindowNeeds& needs)
 {
     TuneWindowPlan plan;
-    const int top = needs.bandHeight + kGap;
-    const int beside = top + needs.gridFrameHeight + kGap + kTool + kGap + needs.editorHeight + kGap;
+    const int top = needs.bandHeight + kPlanGap;
+    const int beside = top + needs.gridFrameHeight + kPlanGap + kRoundButton + kPlanGap + needs.editorHeight + kPlanGap;
     plan.gridRows = GridRows(needs, beside, kFewestRowsBesidePanel);
-    plan.width = 2 * kMargin + needs.gridWidth;
-    plan.grid = {kMargin, top, needs.gridWidth, plan.gridRows * kGridCell + needs.gridFrameHeight};
-    const int barY = plan.grid.Bottom() + kGap;
+    plan.width = 2 * kPlanMargin + needs.gridWidth;
+    plan.grid = {kPlanMargin, top, needs.gridWidth, plan.gridRows * kGridCell + needs.gridFrameHeight};
+    const int barY = plan.grid.Bottom() + kPlanGap;
     const int barRight = plan.grid.Right();
-    PlaceAnswers(plan, barRight, barY + (kTool + kWordHeight) / 2);
-    const int toolsX = plan.okBtn.x - kGap - static_cast<int>(plan.tools.size()) * (kTool + kGap);
+    PlaceAnswers(plan, barRight, barY + (kRoundButton + kWordHeight) / 2);
+    const int toolsX = plan.okBtn.x - kPlanGap - static_cast<int>(plan.tools.size()) * (kRoundButton + kPlanGap);
     PlaceTools(plan, toolsX, barY);
-    PlaceTune(plan, kMargin, barY + (kTool - kSmallPic) / 2, kSmallPic, toolsX - kGap - kMargin);
-    plan.editor = {kMargin, barY + kTool + kGap, needs.gridWidth, needs.editorHeight};
-    plan.height = plan.editor.Bottom() + kGap;
+    PlaceTune(plan, kPlanMargin, barY + (kRoundButton - kSmallPic) / 2, kSmallPic, toolsX - kPlanGap - kPlanMargin);
+    plan.editor = {kPlanMargin, barY + kRoundButton + kPlanGap, needs.gridWidth, needs.editorHeight};
+    plan.height = plan.editor.Bottom() + kPlanGap;
     return plan;
 }
 

@@ -3,48 +3,67 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Errors.h"
-
 namespace sprout {
 namespace {
 
 constexpr TrackView kScrolled{2, 11, 600, 300, 300};
 
-TEST(PlayingCell, CountsCellsOfTheTempoAtTheStart)
+/// Cell 31 of a track or of the whole song is heard.
+PlayModState At31(std::int32_t track)
 {
-    EXPECT_EQ(PlayingCell({1, 0, 44100, 320, 33}), 33);
-    EXPECT_EQ(PlayingCell({1, 44100, 44100, 320, 33}), 38); // 5.33 cells
-    EXPECT_EQ(PlayingCell({1, 44100, 44100, 640, 33}), 44); // 10.67
-    EXPECT_EQ(PlayingCell({1, 44100, 22050, 320, 33}), 44); // the played wave's rate
-    EXPECT_THROW(static_cast<void>(PlayingCell({1, 0, 0, 320, 33})), RunTimeError);
+    PlayModState play;
+    play.PlayingTrack = track;
+    play.PlayBufRate = 44100;
+    play.PlayTempo = 320;
+    play.PlayStartPos = 31;
+    return play;
 }
 
 TEST(MovePlayIndicator, MarksTheTimeBandForTheWholeSong)
 {
-    const PlayIndicator indicator = MovePlayIndicator({kWholeSong, 0, 44100, 320, 31}, kScrolled);
+    const PlayIndicator indicator = MovePlayIndicator(At31(kWholeSong), kScrolled);
     EXPECT_EQ(indicator.songLeft, 60);
     EXPECT_FALSE(indicator.track);
 }
 
 TEST(MovePlayIndicator, MarksTheRowOfATrack)
 {
-    const PlayIndicator indicator = MovePlayIndicator({3, 0, 44100, 320, 31}, kScrolled);
+    const PlayIndicator indicator = MovePlayIndicator(At31(3), kScrolled);
     EXPECT_FALSE(indicator.songLeft);
     EXPECT_EQ(indicator.track, (PlayIndicator::OnRow{60, 73}));
 }
 
 TEST(MovePlayIndicator, HidesTheMarkOfATrackOutsideTheRows)
 {
-    EXPECT_FALSE(MovePlayIndicator({1, 0, 44100, 320, 31}, kScrolled).track);
-    EXPECT_TRUE(MovePlayIndicator({9, 0, 44100, 320, 31}, kScrolled).track);
-    EXPECT_FALSE(MovePlayIndicator({10, 0, 44100, 320, 31}, kScrolled).track);
+    EXPECT_FALSE(MovePlayIndicator(At31(1), kScrolled).track);
+    EXPECT_TRUE(MovePlayIndicator(At31(9), kScrolled).track);
+    EXPECT_FALSE(MovePlayIndicator(At31(10), kScrolled).track);
+}
+
+TEST(MovePlayIndicator, FollowsTheCursor)
+{
+    PlayModState play = At31(kWholeSong);
+    play.PlayCursor = 44100; // 5.33 cells
+    EXPECT_EQ(MovePlayIndicator(play, kScrolled).songLeft, 75);
+}
+
+TEST(MovePlayIndicator, StandsBeyondTheSurfaceAtAnAbsurdTempo)
+{
+    PlayModState play = At31(kWholeSong);
+    play.PlayTempo = 2'000'000'000;
+    play.PlayCursor = 30 * 44100;
+    EXPECT_GT(MovePlayIndicator(play, kScrolled).songLeft, 100'000);
 }
 
 TEST(MovePlayIndicator, ShowsNothingWhenNothingPlaysOrTheCellCannotBeTold)
 {
-    for (const PlayedSound& sound : {PlayedSound{0, 0, 44100, 320, 31}, PlayedSound{kWholeSong, 5, 0, 320, 31},
-                                     PlayedSound{kWholeSong, 0, 0, 320, 31}, PlayedSound{1, 1e300, 44100, 320, 31}}) {
-        const PlayIndicator indicator = MovePlayIndicator(sound, kScrolled);
+    PlayModState rateless = At31(kWholeSong);
+    rateless.PlayBufRate = 0;
+    PlayModState endless = At31(1);
+    endless.PlayTempo = 2'000'000'000;
+    endless.PlayCursor = 2'000'000'000;
+    for (const PlayModState& play : {At31(0), rateless, endless}) {
+        const PlayIndicator indicator = MovePlayIndicator(play, kScrolled);
         EXPECT_FALSE(indicator.songLeft);
         EXPECT_FALSE(indicator.track);
     }

@@ -77,6 +77,22 @@ TEST(PcmFeed, PlaysUntilTheDeviceAsksAgainAfterTheLastFrame)
     EXPECT_FALSE(feed.PlaceAt(kStart).Playing);
 }
 
+TEST(PcmFeed, TellsWhenTheFirstFrameWasTaken)
+{
+    PcmFeed feed(kByteFormat, 0);
+    LoadAll(feed, Counting(9));
+    Taken(feed, 4);
+    EXPECT_EQ(feed.FirstTaken(), std::nullopt);
+    feed.Start(StartFrom::Beginning, Loop::No);
+    Taken(feed, 4, kStart + milliseconds(7));
+    Taken(feed, 4, kStart + milliseconds(9));
+    EXPECT_EQ(feed.FirstTaken(), kStart + milliseconds(7));
+    feed.Start(StartFrom::WhereItStopped, Loop::No);
+    EXPECT_EQ(feed.FirstTaken(), kStart + milliseconds(7));
+    feed.Start(StartFrom::Beginning, Loop::No);
+    EXPECT_EQ(feed.FirstTaken(), std::nullopt);
+}
+
 TEST(PcmFeed, LoopsWithoutAGapAlsoWithinOneRequest)
 {
     PcmFeed feed(kByteFormat, 0);

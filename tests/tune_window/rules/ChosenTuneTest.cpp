@@ -70,6 +70,7 @@ TEST_F(ChosenTuneTest, ANewTuneIsSilentAndNotRendered)
     EXPECT_EQ(tune.Steps[1].OnPos, 0);
     EXPECT_TRUE(tune.Steps[1].StepBeat.Name.empty());
     EXPECT_FALSE(tune.TuneWaveValid);
+    EXPECT_EQ(tune.TuneWave.Length, 0);
 }
 
 TEST_F(ChosenTuneTest, TakesTheSoundFromTheFile)
