@@ -7,21 +7,15 @@ target_link_libraries(play_wave PRIVATE sprout_engine sprout_service_posix sprou
 add_test(NAME SoundServer COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/sound-server $<TARGET_FILE:play_wave>)
 set_tests_properties(SoundServer PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
 
-# Tells the scenarios where the controls of the running program are.
-file(GLOB widgets CONFIGURE_DEPENDS e2e/widgets/*.cpp)
-add_library(sproutwidgets MODULE ${widgets})
-set_target_properties(sproutwidgets PROPERTIES AUTOMOC ON
-                      LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/e2e/generic)
-target_compile_definitions(sproutwidgets PRIVATE QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
-target_link_libraries(sproutwidgets PRIVATE Qt6::Widgets)
+include(${CMAKE_CURRENT_LIST_DIR}/widgets/Plugin.cmake)
 
 # What a user does with the program: needs the program, its library and what the commands of tools/ render. Not in builds
 # with a sanitizer, which are too slow to play without gaps.
 if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
     foreach(scenario IN ITEMS
             PlayWholeSong PlayShortSong PaintAndPlay TakeStrokeBack ChangeTempo SoundServerDies StopAndPlayFromCell
-            SaveUnderNewName AskBeforeClosing FirstStart NoDisplay NoSoundServer SmallScreen MoveAndResize
-            MaximizeAndMinimize)
+            HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart NoDisplay NoSoundServer SmallScreen MoveAndResize
+            MaximizeAndMinimize MakeSongOfTunes)
         add_test(NAME Desk.${scenario}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})
         set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
