@@ -14,7 +14,7 @@ include(${CMAKE_CURRENT_LIST_DIR}/widgets/Plugin.cmake)
 if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
     foreach(scenario IN ITEMS
             PlayWholeSong PlayShortSong PaintAndPlay TakeStrokeBack ChangeTempo SoundServerDies StopAndPlayFromCell
-            SaveUnderNewName AskBeforeClosing FirstStart NoDisplay NoSoundServer SmallScreen MoveAndResize
+            HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart NoDisplay NoSoundServer SmallScreen MoveAndResize
             MaximizeAndMinimize MakeSongOfTunes)
         add_test(NAME Desk.${scenario}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})

@@ -85,6 +85,23 @@ class Mouse:
         self.screen.xdotool(*words, "mouseup", 1)
 
 
+class Keyboard:
+    def __init__(self, screen):
+        self.screen = screen
+
+    def press(self, *keys):
+        """Presses keys one after the other, such as "Return" or "ctrl+o"."""
+        self.screen.xdotool("key", "--delay", 20, *keys)
+
+    def type(self, text):
+        self.screen.xdotool("type", "--delay", 5, text)
+
+    def hold(self, held, *keys):
+        """Presses keys while others are held down."""
+        words = [word for key in held for word in ("keydown", key)]
+        self.screen.xdotool(*words, "key", "--delay", 20, *keys, *[word for key in held for word in ("keyup", key)])
+
+
 class Widget:
     """A control as it was when the program was asked."""
 
@@ -201,8 +218,8 @@ class Program:
         """Replaces the text of a box."""
         self.click(name, form)
         wait_for(f"the focus in {name}", lambda: self.wait_for(name, form=form).told["focus"])
-        self.desk.screen.xdotool("key", "ctrl+a")
-        self.desk.screen.xdotool("type", "--delay", 5, text)
+        self.desk.keyboard.press("ctrl+a")
+        self.desk.keyboard.type(text)
         self.wait_for(name, text, form)
 
     def text_of(self, name):
@@ -220,6 +237,7 @@ class Desk:
         self.folder, self.processes, self.build = folder, processes, build
         self.screen = Screen(folder, processes, screen_size)
         self.mouse = Mouse(self.screen)
+        self.keyboard = Keyboard(self.screen)
         self.sound = SoundServer(folder, processes)
         if sound:
             self.sound.start()
@@ -274,15 +292,21 @@ class Desk:
     def song(self, name):
         return os.path.join(self.songs, name + ".TqSng")
 
-    def render(self, song, start=None):
-        """The frames of a song file's mix, or of its part from a cell, made by the command-line tool."""
+    def render(self, song, *options):
+        """The frames of a song file's mix, or of the part that the options name, made by the command-line tool."""
+        return self.rendered("render", song, *options)
+
+    def cycle(self, tune, tempo):
+        """The frames of one cycle of a tune file."""
+        return self.rendered("cycle", tune, "--tempo", tempo)
+
+    def rendered(self, command, file, *options):
         self.renders += 1
         wave = os.path.join(self.folder, f"render{self.renders}.wav")
         tool = os.path.join(self.build, "bin", "sprout-song")
-        part = ["--from", str(start)] if start else []
-        done = subprocess.run([tool, "render", song, wave, "--user-root", self.user_root, *part], text=True,
+        done = subprocess.run([tool, command, file, wave, "--user-root", self.user_root, *map(str, options)], text=True,
                               stderr=subprocess.PIPE, stdout=subprocess.DEVNULL, check=False)
-        expect(done.returncode == 0, f"sprout-song could not render {song}: {done.stderr.strip()}")
+        expect(done.returncode == 0, f"sprout-song could not render {file}: {done.stderr.strip()}")
         return read_wave(wave)
 
     def info(self, song):
@@ -294,7 +318,8 @@ class Desk:
 
     def close_window(self, window):
         """Asks a window to close, as the window manager does."""
-        self.screen.xdotool("windowactivate", "--sync", window.told["id"], "key", "alt+F4")
+        self.screen.xdotool("windowactivate", "--sync", window.told["id"])
+        self.keyboard.press("alt+F4")
 
     def windows(self):
         """The numbers of all windows that the window manager knows."""

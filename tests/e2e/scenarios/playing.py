@@ -1,4 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
+import os
 import random
 import time
 
@@ -6,7 +7,8 @@ from processes import expect, wait_for
 from songs import SongFile
 from scenarios import scenario
 from scenarios.steps import (cell_place, close, expect_recording_of, expect_render_of_saved, give_short_song, open_song,
-                             play, stroke, wait_for_silence, SHORT_CELLS, SHORT_SONG)
+                             play, stop, stroke, ROW_HEIGHT, ROW_MIDDLE, SHORT_CELLS,
+                             SHORT_SONG)
 
 
 @scenario()
@@ -46,7 +48,7 @@ def PaintAndPlay(desk):
     open_song(program, SHORT_SONG)
     stroke(program, 3, 5, 40)
     stroke(program, 1, 30, 20, tool="EraserBtn")
-    wait_for_silence(desk, program)
+    stop(desk, program)
     expect_render_of_saved(desk, program, "Painted")
     song = SongFile(desk.song("Painted"))
     expect(song.painted(3) == list(range(5, 41)), f"track 3 was painted from 5 to 40, saved are {song.painted(3)}")
@@ -65,7 +67,7 @@ def TakeStrokeBack(desk):
     before = SongFile(desk.song(SHORT_SONG))
     cells = [*range(28, 61), *range(59, 39, -1)]
     desk.mouse.drag([cell_place(canvas, 1, cell) for cell in cells])
-    wait_for_silence(desk, program)
+    stop(desk, program)
     expect_render_of_saved(desk, program, "Back")
     song = SongFile(desk.song("Back"))
     expect(song.painted(1) == list(range(1, 41)), f"40 cells should be painted, saved are {song.painted(1)}")
@@ -125,7 +127,32 @@ def StopAndPlayFromCell(desk):
     cell = SHORT_CELLS // 2
     recording = desk.sound.record()
     desk.mouse.click(canvas.at((cell - 1) * 3, 8))
-    recording.expect_wave(desk.render(desk.song(SHORT_SONG), start=cell))
+    recording.expect_wave(desk.render(desk.song(SHORT_SONG), "--from", cell))
+    close(program)
+
+
+@scenario()
+def HearTracks(desk):
+    """A pointer that rests on the picture of a tune lets it sound; the button beside it plays the track."""
+    give_short_song(desk)
+    program = desk.start()
+    open_song(program, SHORT_SONG)
+    strip = program.wait_for("TrackTitlePic")
+    tune, tempo = desk.info(desk.song(SHORT_SONG))["song"]["tracks"][1]["tune"], SongFile(desk.song(SHORT_SONG)).tempo
+    recording = desk.sound.record()
+    desk.mouse.move(strip.at(40, ROW_HEIGHT + ROW_MIDDLE))
+    program.wait_for("SoundStatusLbl", "Playing Star")
+    recording.expect_wave(desk.cycle(os.path.join(desk.tunes, tune["name"] + ".TqTun"), tempo))
+    recording.stop()
+    desk.mouse.move(strip.at(110, ROW_HEIGHT + ROW_MIDDLE))
+    program.wait_for("TrackPlayBtn")
+    stop(desk, program)
+    desk.mouse.move(strip.at(110, ROW_HEIGHT + ROW_MIDDLE))
+    recording = desk.sound.record()
+    program.click("TrackPlayBtn")
+    program.wait_for("SoundStatusLbl", "Playing Track 2")
+    recording.expect_wave(desk.render(desk.song(SHORT_SONG), "--track", 2))
+    program.wait_for("SoundStatusLbl", "Done")
     close(program)
 
 

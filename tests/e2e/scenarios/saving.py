@@ -1,10 +1,11 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 import os
 
-from processes import expect
-from songs import without_time
+from processes import expect, wait_for
+from songs import SongFile, without_time
 from scenarios import scenario
-from scenarios.steps import close, give_short_song, open_song, save_song, stroke, SHORT_SONG
+from scenarios.steps import (close, expect_recording_of, give_short_song, open_song, save_song, stroke,
+                             wait_until_quiet, SHORT_SONG)
 
 
 @scenario()
@@ -55,3 +56,48 @@ def AskBeforeClosing(desk):
     expect(without_time(desk.song(SHORT_SONG)) != before, "the song was not saved though the answer was yes")
     left = [name for name in os.listdir(desk.songs) if not name.endswith(".TqSng")]
     expect(not left, f"files were left beside the songs: {left}")
+
+
+def go_to(desk, program, name):
+    """Presses the tabulator until a control has the focus."""
+    def focused():
+        if program.wait_for(name).told["focus"]:
+            return True
+        desk.keyboard.press("Tab")
+        return False
+    wait_for(f"the focus on {name}", focused)
+
+
+@scenario()
+def UseKeysAlone(desk):
+    """Without a mouse a song is opened, painted, heard, saved and left."""
+    give_short_song(desk)
+    program = desk.start()
+    desk.keyboard.press("ctrl+o")
+    program.wait_for("SngNmLst", form="SongSelFrm")
+    desk.keyboard.type(SHORT_SONG.lower())
+    desk.keyboard.press("Return")
+    program.wait_for("SngTitleLbl", SHORT_SONG)
+    go_to(desk, program, "TrackPic")
+    desk.keyboard.hold(["ctrl"], "Down", "Down", "Right", "Right", "Right")
+    program.wait_for("TrackMouPosLbl", "4")
+    desk.keyboard.hold(["ctrl", "shift"], *["Right"] * 8)
+    program.wait_for("TrackMouPosLbl", "12")
+    go_to(desk, program, "PlayStopBtn")
+    desk.keyboard.press("space")
+    wait_until_quiet(desk)
+    recording = desk.sound.record()
+    go_to(desk, program, "PlayAllBtn")
+    desk.keyboard.press("space")
+    wait_for("the sound", recording.sounds)
+    desk.keyboard.press("ctrl+s")
+    program.wait_for("SongNameTxt", SHORT_SONG)
+    desk.keyboard.press("Return")
+    program.wait_for("NoteLbl", f'Your song "{SHORT_SONG}" is saved.')
+    desk.keyboard.press("Return")
+    program.wait_until_gone("Msg1BtnFrm")
+    expect_recording_of(desk, program, recording, desk.song(SHORT_SONG))
+    painted = SongFile(desk.song(SHORT_SONG)).painted(3)
+    expect(painted == list(range(4, 13)), f"track 3 was painted from 4 to 12, saved are {painted}")
+    desk.keyboard.press("alt+F4")
+    expect(program.wait_for_end() == 0, "the program did not end well")

@@ -72,12 +72,16 @@ def play(desk, program):
     return recording
 
 
-def wait_for_silence(desk, program, seconds=30):
-    """Until nothing plays: a stroke lets its tune sound."""
-    program.click("PlayStopBtn")
+def wait_until_quiet(desk):
     recording = desk.sound.record()
-    wait_for("silence", lambda: recording.is_quiet(0.3), seconds)
+    wait_for("silence", lambda: recording.is_quiet(0.3))
     recording.stop()
+
+
+def stop(desk, program):
+    """Presses Stop and waits for silence: a stroke lets its tune sound."""
+    program.click("PlayStopBtn")
+    wait_until_quiet(desk)
 
 
 def expect_recording_of(desk, program, recording, song):

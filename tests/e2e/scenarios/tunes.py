@@ -3,7 +3,7 @@ import os
 
 from processes import expect, wait_for
 from scenarios import scenario
-from scenarios.steps import expect_render_of_saved, give_short_song, stroke, wait_for_silence
+from scenarios.steps import expect_render_of_saved, give_short_song, stop, stroke
 
 # The grid of tunes or beats, see the tune window and the beat window.
 PICTURE_CELL = 40
@@ -104,10 +104,10 @@ def MakeSongOfTunes(desk):
     save_tune(program, "Nora's tune", "Nora")
     leave_tune_window(program, "OkBtn")
 
-    wait_for_silence(desk, program)
+    stop(desk, program)
     stroke(program, 3, 1, 32)
     stroke(program, 4, 9, 40)
-    wait_for_silence(desk, program)
+    stop(desk, program)
     expect_render_of_saved(desk, program, "Two tunes")
     check_song(desk, plain, on, off, beat)
     program.click("CloseImgBtn")
