@@ -20,79 +20,79 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kNoBeatHint = "Click on a picture to select a beat";
-constexpr std::string_view kWavFileSelPath = "WavFileSelPath";
-constexpr std::string_view kPictureSelectPath = "PictureSelectPath";
+constexpr std::string_view kBeatWaveFolder = "WavFileSelPath";
+constexpr std::string_view kBeatPictureFolder = "PictureSelectPath";
 
-void HintCommand(std::string_view text)
+void HintBeatCommand(std::string_view text)
 {
     ShowHint(QtText(text));
 }
 
 /// A hint that stays as long as the message can be read.
-void TellWithHint(std::string_view hint, std::string_view line1, std::string_view line2 = {})
+void TellOfBeat(std::string_view hint, std::string_view line1, std::string_view line2 = {})
 {
-    HintCommand(hint);
+    HintBeatCommand(hint);
     ShowMessage(line1, line2);
-    HintCommand("");
+    HintBeatCommand("");
 }
 
-std::string Quoted(std::string_view name)
+std::string QuotedBeat(std::string_view name)
 {
     return '"' + std::string(name) + '"';
 }
 
-void KeepFolder(std::string_view setting, const fs::path& file)
+void KeepBeatFolder(std::string_view setting, const fs::path& file)
 {
     const std::string folder = ChosenFolder(file);
     if (!folder.empty())
         PutSetting("General", setting, folder);
 }
 
-std::optional<fs::path> AskForWave()
+std::optional<fs::path> AskForBeatWave()
 {
-    return ChooseFileToOpen({"Please select a .wav file to use", GetSetting("General", kWavFileSelPath, ""), "", "wav",
+    return ChooseFileToOpen({"Please select a .wav file to use", GetSetting("General", kBeatWaveFolder, ""), "", "wav",
                              "Wave files(*.wav)|*.wav|All files|*.*"});
 }
 
-std::optional<fs::path> AskForPicture()
+std::optional<fs::path> AskForBeatPicture()
 {
-    const std::string folder = GetSetting("General", kPictureSelectPath, PathText(Shared().InstallStars));
+    const std::string folder = GetSetting("General", kBeatPictureFolder, PathText(Shared().InstallStars));
     return ChooseFileToOpen({"Please select a picture file (32x32) to use", folder, "", "bmp",
                              "Picture files(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif|All files|*.*"});
 }
 
-void TellTooLong(const WaveData& wave)
+void TellBeatTooLong(const WaveData& wave)
 {
-    const double seconds = Seconds(wave);
+    const double seconds = BeatSeconds(wave);
     if (seconds > kLongestShownSeconds)
-        ShowMessage("The duration of this file is " + NumberText(seconds) + " seconds,",
+        ShowMessage("The duration of this file is " + SecondsText(seconds) + " seconds,",
                     "This will be trimmed to 3 seconds.");
 }
 
 /// The wave file for a new beat, of which the user was told what there is to tell; nothing where there is none.
-std::optional<fs::path> ChooseWave()
+std::optional<fs::path> ChooseBeatWave()
 {
-    const std::optional<fs::path> file = AskForWave();
+    const std::optional<fs::path> file = AskForBeatWave();
     if (!file)
         return std::nullopt;
     const WaveData wave = LoadWaveFile(*file);
     if (wave.Length < 1) {
-        HintCommand("");
+        HintBeatCommand("");
         ShowMessage("Failed to load wav file.");
         return std::nullopt;
     }
-    KeepFolder(kWavFileSelPath, *file);
-    TellTooLong(wave);
+    KeepBeatFolder(kBeatWaveFolder, *file);
+    TellBeatTooLong(wave);
     return file;
 }
 
-std::optional<Picture> ChoosePicture()
+std::optional<Picture> ChooseBeatPicture()
 {
-    const std::optional<fs::path> file = AskForPicture();
+    const std::optional<fs::path> file = AskForBeatPicture();
     if (!file)
         return std::nullopt;
     Picture picture = ReadChosenPicture(*file);
-    KeepFolder(kPictureSelectPath, *file);
+    KeepBeatFolder(kBeatPictureFolder, *file);
     return picture;
 }
 
@@ -100,15 +100,15 @@ std::optional<Picture> ChoosePicture()
 
 void BeatWindow::AddBeat()
 {
-    HintCommand("Choose a wav file and small (32x32) bmp picture file");
+    HintBeatCommand("Choose a wav file and small (32x32) bmp picture file");
     if (!AddHelpShown)
         ShowMessage("Select a .wav file to add as a new beat.");
-    const std::optional<fs::path> wave = ChooseWave();
+    const std::optional<fs::path> wave = ChooseBeatWave();
     if (!wave)
         return;
     if (!AddHelpShown)
         ShowMessage("Now select a picture (32x32) file to use for this new beat.");
-    const std::optional<Picture> picture = ChoosePicture();
+    const std::optional<Picture> picture = ChooseBeatPicture();
     if (!picture)
         return;
     const NewBeatName name = NameNewBeat(*wave);
@@ -117,8 +117,8 @@ void BeatWindow::AddBeat()
     table.SelectedBeat = kRefindBeat;
     table.RefindBeatName = name.Name;
     if (name.FirstName != name.Name) {
-        HintCommand("");
-        ShowMessage(Quoted(name.FirstName) + " already exists", "New beat is added as " + name.Name);
+        HintBeatCommand("");
+        ShowMessage(QuotedBeat(name.FirstName) + " already exists", "New beat is added as " + name.Name);
     }
     SaveBeatOrder(table);
     LoadBeatFiles();
@@ -127,13 +127,13 @@ void BeatWindow::AddBeat()
 void BeatWindow::RenameBeat()
 {
     if (!HasSelection(table))
-        return TellWithHint(kNoBeatHint, "Select a beat to rename.");
+        return TellOfBeat(kNoBeatHint, "Select a beat to rename.");
     const std::string oldName = SelectedEntry(table).Name;
     if (IsSelectedProtected(table))
-        return TellWithHint("Can not rename",
-                            Quoted(oldName) + " is an original Beat from " + std::string(kProductFamily),
-                            "Renaming is not possible.");
-    HintCommand("Enter a new name for this beat");
+        return TellOfBeat("Can not rename",
+                          QuotedBeat(oldName) + " is an original Beat from " + std::string(kProductFamily),
+                          "Renaming is not possible.");
+    HintBeatCommand("Enter a new name for this beat");
     const std::string newName = SafeFileName(AskText("", "Enter the new name"));
     if (newName.empty() || newName == oldName)
         return;
@@ -148,16 +148,16 @@ void BeatWindow::RenameBeat()
 void BeatWindow::DeleteBeat()
 {
     if (!HasSelection(table))
-        return TellWithHint(kNoBeatHint, "Select a beat to delete.");
-    HintCommand("This will delete the selected beat");
+        return TellOfBeat(kNoBeatHint, "Select a beat to delete.");
+    HintBeatCommand("This will delete the selected beat");
     if (IsSelectedProtected(table))
-        return TellWithHint("Blue bordered are originals, red bordered are your new beats",
-                            "This an original Beat from " + std::string(kProductFamily), "It can not be deleted.");
+        return TellOfBeat("Blue bordered are originals, red bordered are your new beats",
+                          "This an original Beat from " + std::string(kProductFamily), "It can not be deleted.");
     const std::string name = SelectedEntry(table).Name;
-    HintCommand("Click Yes to delete, No to keep");
+    HintBeatCommand("Click Yes to delete, No to keep");
     if (AskYesNo("Are you sure to delete this Beat?", "Beat name: " + name, " Confirm Delete Beat") != 1)
         return;
-    HintCommand("");
+    HintBeatCommand("");
     if (table.SelectedBeat == table.BeatListCount)
         --table.SelectedBeat;
     DeleteBeatFiles(name);

@@ -24,19 +24,19 @@ namespace sprout {
 
 namespace {
 
-constexpr int kMargin = 16;
-constexpr int kGridRows = 8;
-constexpr int kNoteTop = 8;
-constexpr int kNoteHeight = 26;
-constexpr int kGap = 8;
-constexpr int kRowGap = 12;
-constexpr int kNameHeight = 48; // two lines
-constexpr int kDurationHeight = 46;
+constexpr int kBeatMargin = 16;
+constexpr int kBeatRows = 8;
+constexpr int kBeatNoteTop = 8;
+constexpr int kBeatNoteHeight = 26;
+constexpr int kBeatGap = 8;
+constexpr int kBeatRowGap = 12;
+constexpr int kBeatNameHeight = 48; // two lines
+constexpr int kBeatDurationHeight = 46;
 
-constexpr std::string_view kNote = "Click on a picture to choose a beat";
-constexpr std::string_view kSelectHint = "Click on a picture to select a beat";
+constexpr std::string_view kBeatNote = "Click on a picture to choose a beat";
+constexpr std::string_view kSelectBeatHint = "Click on a picture to select a beat";
 
-constexpr std::array kHints{
+constexpr std::array kBeatHints{
     HintRow{"ShowAllPic", "Click on a picture to choose a beat"},
     HintRow{"BlinkSelectImg", "This is the chosen Beat. Click on it to play"},
     HintRow{"ChoosenPic", "That shows the selected beat, click on it to play this beat"},
@@ -61,7 +61,7 @@ BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
     MakeButtons();
     MakeMoveMnu();
     PlaceControls();
-    for (const HintRow& row : kHints)
+    for (const HintRow& row : kBeatHints)
         Watcher().Watch(*findChild<QWidget*>(QtText(row.name)), row.hint);
     ShowAllPic->setFocus();
 }
@@ -133,33 +133,33 @@ void BeatWindow::MakeMoveMnu()
 
 void BeatWindow::PlaceControls()
 {
-    const int gridTop = kNoteTop + kNoteHeight + kGap / 2;
-    const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kMargin, gridTop), kGridRows);
-    NoteLbl->setGeometry({BodyPoint(kMargin, kNoteTop), QSize(grid.width(), kNoteHeight)});
-    int columnWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
+    const int gridTop = kBeatNoteTop + kBeatNoteHeight + kBeatGap / 2;
+    const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kBeatMargin, gridTop), kBeatRows);
+    NoteLbl->setGeometry({BodyPoint(kBeatMargin, kBeatNoteTop), QSize(grid.width(), kBeatNoteHeight)});
+    int columnWidth = ChoosenPic->width() + kBeatGap + TestPlayBtn->width();
     for (const ImageButton* button : {AddBtn, RenameBtn, DeleteBtn, HelpBtn})
         columnWidth = std::max(columnWidth, button->sizeHint().width());
-    const QRect column(grid.right() + 1 + kMargin, grid.top(), columnWidth, grid.height());
+    const QRect column(grid.right() + 1 + kBeatMargin, grid.top(), columnWidth, grid.height());
     PlaceChoice(column);
     PlaceColumn(column);
-    const int rowTop = grid.bottom() + 1 + kRowGap;
-    OkBtn->move(kMargin, rowTop);
-    CancelBtn->move(kMargin + OkBtn->width() + kRowGap, rowTop);
+    const int rowTop = grid.bottom() + 1 + kBeatRowGap;
+    OkBtn->move(kBeatMargin, rowTop);
+    CancelBtn->move(kBeatMargin + OkBtn->width() + kBeatRowGap, rowTop);
     HelpBtn->setGeometry(column.left(), rowTop, columnWidth, HelpBtn->height());
-    resize(column.right() + 1 + kMargin, rowTop + OkBtn->height() + kRowGap);
+    resize(column.right() + 1 + kBeatMargin, rowTop + OkBtn->height() + kBeatRowGap);
 }
 
 /// The picture and the play button side by side at the top, the name and the duration below.
 void BeatWindow::PlaceChoice(const QRect& column)
 {
-    const int pairWidth = ChoosenPic->width() + kGap + TestPlayBtn->width();
+    const int pairWidth = ChoosenPic->width() + kBeatGap + TestPlayBtn->width();
     const int left = column.left() + (column.width() - pairWidth) / 2;
     ChoosenPic->move(left, column.top());
-    TestPlayBtn->move(left + ChoosenPic->width() + kGap,
+    TestPlayBtn->move(left + ChoosenPic->width() + kBeatGap,
                       column.top() + (ChoosenPic->height() - TestPlayBtn->height()) / 2);
-    const int nameTop = column.top() + ChoosenPic->height() + kGap / 2;
-    NmLbl->setGeometry(column.left(), nameTop, column.width(), kNameHeight);
-    DurLbl->setGeometry(column.left(), nameTop + kNameHeight, column.width(), kDurationHeight);
+    const int nameTop = column.top() + ChoosenPic->height() + kBeatGap / 2;
+    NmLbl->setGeometry(column.left(), nameTop, column.width(), kBeatNameHeight);
+    DurLbl->setGeometry(column.left(), nameTop + kBeatNameHeight, column.width(), kBeatDurationHeight);
 }
 
 /// The buttons stand on the grid's lower edge.
@@ -168,7 +168,7 @@ void BeatWindow::PlaceColumn(const QRect& column)
     int bottom = column.bottom() + 1;
     for (ImageButton* button : {DeleteBtn, RenameBtn, AddBtn}) {
         button->setGeometry(column.left(), bottom - button->height(), column.width(), button->height());
-        bottom -= button->height() + kGap;
+        bottom -= button->height() + kBeatGap;
     }
 }
 
@@ -218,7 +218,7 @@ void BeatWindow::ShowNoBeats()
 
 void BeatWindow::ShowChoice()
 {
-    NoteLbl->setText(QtText(kNote));
+    NoteLbl->setText(QtText(kBeatNote));
     NmLbl->ShowName(QtText(SelectedEntry(table).Name));
     ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
     ChoosenPic->setAccessibleName(NmLbl->text());
@@ -228,7 +228,7 @@ void BeatWindow::ShowChoice()
 
 void BeatWindow::ShowNoChoice()
 {
-    NoteLbl->setText(QtText(kNote));
+    NoteLbl->setText(QtText(kBeatNote));
     NmLbl->ShowName(tr("[none]"));
     DurLbl->setText(QStringLiteral(" "));
     ChoosenPic->ShowPicture({});
@@ -274,7 +274,7 @@ void BeatWindow::ClickPlay()
 {
     if (HasSelection(table))
         return PlaySelectedBeat();
-    HintBeat(kSelectHint);
+    HintBeat(kSelectBeatHint);
     ShowMessage("Select a Beat first.");
     HintBeat("");
 }

@@ -10,9 +10,9 @@ namespace sprout {
 
 namespace {
 
-constexpr int kShownSide = 2 * kPictureSide; // whole pixels for every pixel of the picture
-constexpr int kFrame = 4;
-constexpr qreal kCorner = 8;
+constexpr int kChoosenSide = 2 * kPictureSide; // whole pixels for every pixel of the picture
+constexpr int kChoosenFrame = 4;
+constexpr qreal kChoosenCorner = 8;
 
 } // namespace
 
@@ -26,7 +26,7 @@ ChoosenPicture::ChoosenPicture(QWidget* parent) : QAbstractButton(parent)
 
 QSize ChoosenPicture::sizeHint() const
 {
-    return {kShownSide + 2 * kFrame, kShownSide + 2 * kFrame};
+    return {kChoosenSide + 2 * kChoosenFrame, kChoosenSide + 2 * kChoosenFrame};
 }
 
 void ChoosenPicture::ShowPicture(const Picture& picture)
@@ -41,11 +41,11 @@ void ChoosenPicture::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(kStone, 2));
     painter.setBrush(Qt::white);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kCorner, kCorner);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kChoosenCorner, kChoosenCorner);
     painter.setRenderHint(QPainter::SmoothPixmapTransform,
                           image.width() != kPictureSide || image.height() != kPictureSide);
     if (!image.isNull())
-        painter.drawImage(QRect(kFrame, kFrame, kShownSide, kShownSide), image);
+        painter.drawImage(QRect(kChoosenFrame, kChoosenFrame, kChoosenSide, kChoosenSide), image);
 }
 
 } // namespace sprout

@@ -11,7 +11,7 @@ namespace sprout {
 namespace {
 
 /// The part of a text that stands in the first line of a width; words stay whole where they can.
-QString FirstLine(const QString& text, const QFont& font, int width)
+QString FirstLineOfName(const QString& text, const QFont& font, int width)
 {
     QTextLayout layout(text, font);
     QTextOption option;
@@ -42,7 +42,7 @@ void NameLabel::ShowName(const QString& name)
 void NameLabel::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
-    const QString first = FirstLine(text(), font(), width());
+    const QString first = FirstLineOfName(text(), font(), width());
     const QString rest = fontMetrics().elidedText(text().mid(first.size()), Qt::ElideRight, width());
     const int lineHeight = height() / 2;
     if (rest.isEmpty())

@@ -26,7 +26,7 @@ std::vector<FileChooserStandIn::Answer>& StandIns()
     return answers;
 }
 
-QString& LastFolder()
+QString& LastShownFolder()
 {
     static QString folder;
     return folder;
@@ -47,7 +47,7 @@ QString InAnyCase(std::string_view pattern)
     return any;
 }
 
-QString NameFilter(const std::string& name, const std::string& patterns)
+QString FileNameFilter(const std::string& name, const std::string& patterns)
 {
     QStringList list;
     for (const std::string& pattern : Split(patterns, ';'))
@@ -55,34 +55,34 @@ QString NameFilter(const std::string& name, const std::string& patterns)
     return QStringLiteral("%1 (%2)").arg(QtText(name), list.join(QLatin1Char(' ')));
 }
 
-QStringList NameFilters(const std::string& filter)
+QStringList FileNameFilters(const std::string& filter)
 {
     const std::vector<std::string> parts = Split(filter, '|');
     QStringList filters;
     for (std::size_t i = 0; i + 1 < parts.size(); i += 2)
-        filters << NameFilter(parts[i], parts[i + 1]);
+        filters << FileNameFilter(parts[i], parts[i + 1]);
     return filters;
 }
 
 /// The folder to begin in: the one asked for, else the one last shown, else the user's documents.
-QString FirstFolder(const fs::path& wanted)
+QString FirstShownFolder(const fs::path& wanted)
 {
     const QString folder = QFile::decodeName(wanted.c_str());
     if (!folder.isEmpty() && QDir(folder).exists())
         return folder;
-    if (!LastFolder().isEmpty())
-        return LastFolder();
+    if (!LastShownFolder().isEmpty())
+        return LastShownFolder();
     const QString documents = QFile::decodeName(Shared().DocumentsFolder.c_str());
     return documents.isEmpty() ? QDir::homePath() : documents;
 }
 
-void FillDialog(QFileDialog& dialog, const FileQuestion& question)
+void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
 {
     dialog.setObjectName(QStringLiteral("CommonDialog"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(NameFilters(question.Filter));
+    dialog.setNameFilters(FileNameFilters(question.Filter));
     dialog.setDefaultSuffix(QtText(question.DefaultExtension));
     if (!question.FileName.empty())
         dialog.selectFile(QtText(question.FileName));
@@ -94,10 +94,10 @@ std::optional<fs::path> ChooseFileToOpen(const FileQuestion& question)
 {
     if (!StandIns().empty())
         return StandIns().back()(question);
-    QFileDialog dialog(QApplication::activeWindow(), QtText(question.Title), FirstFolder(question.Folder));
-    FillDialog(dialog, question);
+    QFileDialog dialog(QApplication::activeWindow(), QtText(question.Title), FirstShownFolder(question.Folder));
+    FillFileDialog(dialog, question);
     const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    LastFolder() = dialog.directory().absolutePath();
+    LastShownFolder() = dialog.directory().absolutePath();
     if (!chosen)
         return std::nullopt;
     return fs::path(QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString());

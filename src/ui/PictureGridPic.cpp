@@ -25,27 +25,27 @@ namespace sprout {
 namespace {
 
 constexpr int kSelectionSide = kPictureSide + 2 * kGridInset;
-constexpr int kOutOfSight = -kSelectionSide - kGridInset;
-constexpr int kEdge = 2;   // keeps the margins of the last column and row as wide as those of the first
-constexpr int kAround = 5; // from the grid to the outside of the frame around it
-constexpr int kScrollWidth = 18;
-constexpr int kLineLeft = 10;
-constexpr int kLineHeight = 28;
-constexpr int kMostImageSide = 4 * kPictureSide; // enough for every screen
+constexpr int kFrameOutOfSight = -kSelectionSide - kGridInset;
+constexpr int kGridEdge = 2;   // keeps the margins of the last column and row as wide as those of the first
+constexpr int kGridAround = 5; // from the grid to the outside of the frame around it
+constexpr int kGridScrollWidth = 18;
+constexpr int kGridLineLeft = 10;
+constexpr int kGridLineHeight = 28;
+constexpr int kMostGridImageSide = 4 * kPictureSide; // enough for every screen
 constexpr std::chrono::milliseconds kBlinkEvery{400};
 
 QSize GridSize(int columns, int rows)
 {
-    return {columns * kGridCell + kEdge, rows * kGridCell + kEdge};
+    return {columns * kGridCell + kGridEdge, rows * kGridCell + kGridEdge};
 }
 
 /// A large picture is made small once and not at every drawing.
 QImage GridImage(const Picture& picture)
 {
     const QImage image = ToImage(picture);
-    if (image.width() <= kMostImageSide && image.height() <= kMostImageSide)
+    if (image.width() <= kMostGridImageSide && image.height() <= kMostGridImageSide)
         return image;
-    return image.scaled(kMostImageSide, kMostImageSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return image.scaled(kMostGridImageSide, kMostGridImageSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 /// The pixels of a small picture stay sharp where each of them covers whole pixels of the screen.
@@ -61,7 +61,7 @@ bool NeedsSmoothing(const QImage& image, qreal pixelRatio)
 SelectionFrame::SelectionFrame(QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("BlinkSelectImg"));
-    setGeometry(kOutOfSight, kOutOfSight, kSelectionSide, kSelectionSide);
+    setGeometry(kFrameOutOfSight, kFrameOutOfSight, kSelectionSide, kSelectionSide);
 }
 
 void SelectionFrame::ShowPhase(int newPhase)
@@ -103,15 +103,15 @@ PictureGridPic::PictureGridPic(int columnCount, QWidget* parent)
 
 QSize PictureGridPic::FrameSize(int columnCount, int rows)
 {
-    return GridSize(columnCount, rows) + QSize(kScrollWidth + 3 * kAround, 2 * kAround);
+    return GridSize(columnCount, rows) + QSize(kGridScrollWidth + 3 * kGridAround, 2 * kGridAround);
 }
 
 QRect PictureGridPic::PlaceAt(QPoint frameAt, int rows)
 {
     const QRect place(frameAt, FrameSize(columns, rows));
     frame->setGeometry(place);
-    setGeometry({frameAt + QPoint(kAround, kAround), GridSize(columns, rows)});
-    vScroll1->setGeometry(geometry().right() + 1 + kAround, y(), kScrollWidth, height());
+    setGeometry({frameAt + QPoint(kGridAround, kGridAround), GridSize(columns, rows)});
+    vScroll1->setGeometry(geometry().right() + 1 + kGridAround, y(), kGridScrollWidth, height());
     RefreshShowAllPic();
     return place;
 }
@@ -178,7 +178,7 @@ void PictureGridPic::PlaceFrame()
 {
     blinkSelectImg->setToolTip(HasChoice() ? QtText(Entry(selected).Name) : QString());
     if (!HasChoice() || !IsInGridView(Grid(), selected)) {
-        blinkSelectImg->move(kOutOfSight, kOutOfSight);
+        blinkSelectImg->move(kFrameOutOfSight, kFrameOutOfSight);
         blinkSelectedTimer->stop();
         return;
     }
@@ -238,12 +238,13 @@ void PictureGridPic::PaintLines(QPainter& painter) const
 {
     painter.setFont(LabelFont());
     painter.setPen(kBark);
-    const int room = width() - 2 * kLineLeft;
+    const int room = width() - 2 * kGridLineLeft;
     const int inset = kGridInset / 2;
-    const int lineHeight = std::min(kLineHeight, (height() - 2 * inset) / std::max(1, static_cast<int>(lines.size())));
+    const int lineHeight =
+        std::min(kGridLineHeight, (height() - 2 * inset) / std::max(1, static_cast<int>(lines.size())));
     int top = inset;
     for (const QString& line : lines) {
-        painter.drawText(QRect(kLineLeft, top, room, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(QRect(kGridLineLeft, top, room, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          painter.fontMetrics().elidedText(line, Qt::ElideMiddle, room));
         top += lineHeight;
     }

@@ -22,21 +22,21 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kExtensionLength = 4;
+constexpr std::size_t kWavLength = 4;
 
-std::string LowerName(const std::string& waveName)
+std::string LowerBeatName(const std::string& waveName)
 {
-    return LowerCase(waveName.substr(0, waveName.size() - kExtensionLength));
+    return LowerCase(waveName.substr(0, waveName.size() - kWavLength));
 }
 
-std::string WaveTitle(const fs::path& waveFile)
+std::string BeatWaveTitle(const fs::path& waveFile)
 {
     const std::string title = PathText(waveFile.filename());
-    const bool isWav = title.size() > kExtensionLength && LowerCase(title).ends_with(".wav");
+    const bool isWav = title.size() > kWavLength && LowerCase(title).ends_with(".wav");
     return isWav ? title : PathText(waveFile.stem()) + ".wav";
 }
 
-std::vector<std::byte> BytesOf(const fs::path& path)
+std::vector<std::byte> BytesOfFile(const fs::path& path)
 {
     FileSource source(path);
     std::vector<std::byte> bytes(static_cast<std::size_t>(source.Size()));
@@ -44,20 +44,20 @@ std::vector<std::byte> BytesOf(const fs::path& path)
     return bytes;
 }
 
-void PutFile(const fs::path& target, const fs::path& source)
+void PutBeatFile(const fs::path& target, const fs::path& source)
 {
-    const std::vector<std::byte> bytes = BytesOf(source);
+    const std::vector<std::byte> bytes = BytesOfFile(source);
     const std::span<const std::byte> piece(bytes);
     TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::No);
 }
 
 /// A file that is deleted whatever happens.
-class ScratchFile {
+class ScratchBeatFile {
 public:
-    explicit ScratchFile(std::string_view extension) : path(NewTempFileName(extension)) {}
-    ScratchFile(const ScratchFile&) = delete;
-    ScratchFile& operator=(const ScratchFile&) = delete;
-    ~ScratchFile() { DeleteFile(path); }
+    explicit ScratchBeatFile(std::string_view extension) : path(NewTempFileName(extension)) {}
+    ScratchBeatFile(const ScratchBeatFile&) = delete;
+    ScratchBeatFile& operator=(const ScratchBeatFile&) = delete;
+    ~ScratchBeatFile() { DeleteFile(path); }
 
     [[nodiscard]] const fs::path& Path() const { return path; }
 
@@ -66,22 +66,22 @@ private:
 };
 
 /// The picture goes through a scratch file and is read back, so that a disk without room is noticed.
-void PutPicture(const fs::path& target, const Picture& picture)
+void PutBeatPicture(const fs::path& target, const Picture& picture)
 {
-    const ScratchFile scratch("bmp");
+    const ScratchBeatFile scratch("bmp");
     TheServices().pictures->SavePicture(picture, scratch.Path());
     (void)TheServices().pictures->LoadPicture(scratch.Path());
     DeleteFile(target);
-    PutFile(target, scratch.Path());
+    PutBeatFile(target, scratch.Path());
 }
 
-fs::path BeatFile(std::string_view name, std::string_view extension)
+fs::path UserBeatFile(std::string_view name, std::string_view extension)
 {
     return NamedFile(Shared().UserBeats, name, extension);
 }
 
 /// A file system that tells letter case would let two beats of one name stand side by side.
-void RenameOneFile(const fs::path& from, const fs::path& to)
+void RenameBeatFile(const fs::path& from, const fs::path& to)
 {
     if (to.empty())
         throw RunTimeError("This cannot be the name of a file.");
@@ -98,11 +98,11 @@ void RenameOneFile(const fs::path& from, const fs::path& to)
 
 NewBeatName NameNewBeat(const fs::path& waveFile)
 {
-    const std::string title = WaveTitle(waveFile);
+    const std::string title = BeatWaveTitle(waveFile);
     std::string candidate = title;
     for (int n = 1; FileExists(Shared().UserBeats / candidate); ++n)
         candidate = "New" + std::to_string(n) + title;
-    return {candidate, LowerName(title), LowerName(candidate)};
+    return {candidate, LowerBeatName(title), LowerBeatName(candidate)};
 }
 
 Picture ReadChosenPicture(const fs::path& pictureFile)
@@ -114,10 +114,10 @@ Picture ReadChosenPicture(const fs::path& pictureFile)
 void AddBeatFiles(const fs::path& waveFile, const Picture& picture, const std::string& file)
 {
     const fs::path wave = Shared().UserBeats / file;
-    const fs::path pictureFile = fs::path(wave.native().substr(0, wave.native().size() - kExtensionLength) + ".bmp");
-    PutFile(wave, waveFile);
+    const fs::path pictureFile = fs::path(wave.native().substr(0, wave.native().size() - kWavLength) + ".bmp");
+    PutBeatFile(wave, waveFile);
     try {
-        PutPicture(pictureFile, picture);
+        PutBeatPicture(pictureFile, picture);
     } catch (...) {
         DeleteFile(wave);
         throw;
@@ -130,14 +130,14 @@ void AddBeatFiles(const fs::path& waveFile, const Picture& picture, const std::s
 
 void RenameBeatFiles(std::string_view oldName, std::string_view newName)
 {
-    RenameOneFile(BeatFile(oldName, ".wav"), BeatFile(newName, ".wav"));
-    RenameOneFile(BeatFile(oldName, ".bmp"), BeatFile(newName, ".bmp"));
+    RenameBeatFile(UserBeatFile(oldName, ".wav"), UserBeatFile(newName, ".wav"));
+    RenameBeatFile(UserBeatFile(oldName, ".bmp"), UserBeatFile(newName, ".bmp"));
 }
 
 void DeleteBeatFiles(std::string_view name)
 {
-    DeleteFile(BeatFile(name, ".wav"));
-    DeleteFile(BeatFile(name, ".bmp"));
+    DeleteFile(UserBeatFile(name, ".wav"));
+    DeleteFile(UserBeatFile(name, ".bmp"));
 }
 
 std::string ChosenFolder(const fs::path& file)
@@ -147,7 +147,7 @@ std::string ChosenFolder(const fs::path& file)
     return separator == std::string::npos || separator == 0 ? std::string() : text.substr(0, separator + 1);
 }
 
-std::string NumberText(double value)
+std::string SecondsText(double value)
 {
     std::array<char, 32> text{};
     constexpr int digits = 15;

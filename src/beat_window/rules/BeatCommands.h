@@ -39,6 +39,6 @@ void DeleteBeatFiles(std::string_view name);
 [[nodiscard]] std::string ChosenFolder(const std::filesystem::path& file);
 
 /// A number as text, with up to 15 digits.
-[[nodiscard]] std::string NumberText(double value);
+[[nodiscard]] std::string SecondsText(double value);
 
 } // namespace sprout

@@ -19,7 +19,7 @@ namespace sprout {
 namespace {
 
 /// In the order of the index; those of one place stay alphabetical.
-void SortPairs(std::vector<BeatPair>& pairs, const BeatIndex& index)
+void SortBeatPairs(std::vector<BeatPair>& pairs, const BeatIndex& index)
 {
     std::vector<std::pair<std::int32_t, std::size_t>> places;
     places.reserve(pairs.size());
@@ -33,7 +33,7 @@ void SortPairs(std::vector<BeatPair>& pairs, const BeatIndex& index)
     pairs = std::move(sorted);
 }
 
-std::int32_t FindPair(const std::vector<BeatPair>& pairs, std::string_view name)
+std::int32_t FindBeatPair(const std::vector<BeatPair>& pairs, std::string_view name)
 {
     const std::string key = NameKey(name);
     for (std::size_t i = 0; i < pairs.size(); ++i)
@@ -43,16 +43,16 @@ std::int32_t FindPair(const std::vector<BeatPair>& pairs, std::string_view name)
 }
 
 /// Keeps a selection that the list has; otherwise takes the named beat, or the first one.
-std::int32_t NewSelection(const BeatTable& table, const std::vector<BeatPair>& pairs, std::string_view wanted)
+std::int32_t NewBeatSelection(const BeatTable& table, const std::vector<BeatPair>& pairs, std::string_view wanted)
 {
     const auto count = static_cast<std::int32_t>(pairs.size());
     if (table.SelectedBeat >= 1 && table.SelectedBeat <= count)
         return table.SelectedBeat;
-    const std::int32_t found = FindPair(pairs, table.SelectedBeat == kRefindBeat ? table.RefindBeatName : wanted);
+    const std::int32_t found = FindBeatPair(pairs, table.SelectedBeat == kRefindBeat ? table.RefindBeatName : wanted);
     return found != 0 ? found : std::min(count, 1);
 }
 
-BeatIndex ReadIndex(const BeatFolder& folder)
+BeatIndex ReadBeatIndex(const BeatFolder& folder)
 {
     BeatIndex index = BeatIndex::Read();
     if (index.WriteProtectedList(folder.WaveNames))
@@ -80,9 +80,9 @@ bool IsSelectedProtected(const BeatTable& table)
 void LoadBeatFiles(BeatTable& table, std::string_view wanted)
 {
     BeatFolder folder = ListBeatFolder(Shared().UserBeats);
-    const BeatIndex index = ReadIndex(folder);
-    SortPairs(folder.Pairs, index);
-    table.SelectedBeat = NewSelection(table, folder.Pairs, wanted);
+    const BeatIndex index = ReadBeatIndex(folder);
+    SortBeatPairs(folder.Pairs, index);
+    table.SelectedBeat = NewBeatSelection(table, folder.Pairs, wanted);
     table.BeatListCount = static_cast<std::int32_t>(folder.Pairs.size());
     table.BeatList.assign(1, Beat());
     table.BeatProtected.assign(1, false);
@@ -144,13 +144,13 @@ bool MoveBeat(BeatTable& table, BeatMove move)
 
 std::string DurationText(const WaveData& sound)
 {
-    const double seconds = Seconds(sound);
+    const double seconds = BeatSeconds(sound);
     const auto tenths = static_cast<std::int64_t>(std::floor(seconds * 10 + 0.5));
     const std::string text = std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " Sec";
     return seconds > kLongestShownSeconds ? text + "(Only 3 seconds allowed)" : text;
 }
 
-double Seconds(const WaveData& sound)
+double BeatSeconds(const WaveData& sound)
 {
     return sound.Rate > 0 ? static_cast<double>(sound.Length) / sound.Rate : 0;
 }

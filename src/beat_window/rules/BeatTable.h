@@ -64,7 +64,7 @@ bool MoveBeat(BeatTable& table, BeatMove move);
 /// Duration for `DurLbl`, "0.8 Sec".
 [[nodiscard]] std::string DurationText(const WaveData& sound);
 
-/// Seconds that a sound lasts; 0 for one without a rate.
-[[nodiscard]] double Seconds(const WaveData& sound);
+/// BeatSeconds that a sound lasts; 0 for one without a rate.
+[[nodiscard]] double BeatSeconds(const WaveData& sound);
 
 } // namespace sprout

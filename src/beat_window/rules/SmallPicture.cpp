@@ -9,21 +9,21 @@ namespace sprout {
 
 namespace {
 
-constexpr int kMostSide = 4 * kPictureSide;
+constexpr int kMostSmallSide = 4 * kPictureSide;
 
-struct Stretch1D {
+struct PixelRange {
     int first = 0;
     int end = 0;
 };
 
 /// The pixels of a side that a pixel of the small picture stands for, at least one.
-Stretch1D PixelsUnder(int place, int side)
+PixelRange PixelsUnder(int place, int side)
 {
-    const int first = place * side / kMostSide;
-    return {first, std::max((place + 1) * side / kMostSide, first + 1)};
+    const int first = place * side / kMostSmallSide;
+    return {first, std::max((place + 1) * side / kMostSmallSide, first + 1)};
 }
 
-std::uint32_t AverageColour(const Picture& picture, Stretch1D columns, Stretch1D rows)
+std::uint32_t AverageColour(const Picture& picture, PixelRange columns, PixelRange rows)
 {
     std::uint64_t red = 0;
     std::uint64_t green = 0;
@@ -46,14 +46,14 @@ std::uint32_t AverageColour(const Picture& picture, Stretch1D columns, Stretch1D
 
 Picture SmallPicture(const Picture& picture)
 {
-    if (picture.Width() <= kMostSide && picture.Height() <= kMostSide)
+    if (picture.Width() <= kMostSmallSide && picture.Height() <= kMostSmallSide)
         return picture;
     std::vector<std::uint32_t> pixels;
-    pixels.reserve(static_cast<std::size_t>(kMostSide) * kMostSide);
-    for (int y = 0; y < kMostSide; ++y)
-        for (int x = 0; x < kMostSide; ++x)
+    pixels.reserve(static_cast<std::size_t>(kMostSmallSide) * kMostSmallSide);
+    for (int y = 0; y < kMostSmallSide; ++y)
+        for (int x = 0; x < kMostSmallSide; ++x)
             pixels.push_back(AverageColour(picture, PixelsUnder(x, picture.Width()), PixelsUnder(y, picture.Height())));
-    return {kMostSide, kMostSide, std::move(pixels)};
+    return {kMostSmallSide, kMostSmallSide, std::move(pixels)};
 }
 
 } // namespace sprout

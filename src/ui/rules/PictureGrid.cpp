@@ -11,24 +11,24 @@ namespace sprout {
 namespace {
 
 /// Rows are counted from 1.
-std::int32_t RowOf(const PictureGrid& grid, std::int32_t index)
+std::int32_t GridRowOf(const PictureGrid& grid, std::int32_t index)
 {
     return (index - 1) / grid.columns + 1;
 }
 
-std::int32_t RowCount(const PictureGrid& grid)
+std::int32_t GridRowCount(const PictureGrid& grid)
 {
     return (grid.count + grid.columns - 1) / grid.columns;
 }
 
 /// Rows that are drawn at once, at least one.
-std::int32_t RowsInView(const PictureGrid& grid)
+std::int32_t GridRowsInView(const PictureGrid& grid)
 {
     return std::max((grid.heightPx - kGridInset - kPictureSide) / kGridCell + 1, 1);
 }
 
 /// The cell that a place of one axis lies in, from 0; -1 between the pictures.
-std::int32_t CellAt(std::int32_t place)
+std::int32_t GridCellAt(std::int32_t place)
 {
     const std::int32_t inside = place - kGridInset;
     if (inside < 0 || inside % kGridCell > kPictureSide)
@@ -41,7 +41,7 @@ std::int32_t CellAt(std::int32_t place)
 GridPlace PlaceInGrid(const PictureGrid& grid, std::int32_t index)
 {
     const std::int32_t column = (index - 1) % grid.columns;
-    return {column * kGridCell + kGridInset, (RowOf(grid, index) - grid.topRow) * kGridCell + kGridInset};
+    return {column * kGridCell + kGridInset, (GridRowOf(grid, index) - grid.topRow) * kGridCell + kGridInset};
 }
 
 bool IsInGridView(const PictureGrid& grid, std::int32_t index)
@@ -55,8 +55,8 @@ bool IsInGridView(const PictureGrid& grid, std::int32_t index)
 std::int32_t HitTestGrid(const PictureGrid& grid, std::int32_t x, std::int32_t y)
 {
     // Rows above the surface are told from those in it only by their number, so the count begins at the first row.
-    const std::int32_t row = CellAt(y + (grid.topRow - 1) * kGridCell);
-    const std::int32_t column = CellAt(x);
+    const std::int32_t row = GridCellAt(y + (grid.topRow - 1) * kGridCell);
+    const std::int32_t column = GridCellAt(x);
     if (row < 0 || column < 0 || column >= grid.columns)
         return 0;
     const std::int32_t index = row * grid.columns + column + 1;
@@ -65,7 +65,7 @@ std::int32_t HitTestGrid(const PictureGrid& grid, std::int32_t x, std::int32_t y
 
 GridScroll GridScrollRange(const PictureGrid& grid)
 {
-    const std::int32_t most = RowCount(grid) - (grid.heightPx / kGridCell - 1);
+    const std::int32_t most = GridRowCount(grid) - (grid.heightPx / kGridCell - 1);
     return most >= 1 ? GridScroll{true, most} : GridScroll{};
 }
 
@@ -73,7 +73,7 @@ std::int32_t NeighbourInGrid(const PictureGrid& grid, std::int32_t index, GridSt
 {
     if (grid.count < 1 || index < 1 || index > grid.count)
         return std::min(grid.count, 1);
-    const std::int32_t page = RowsInView(grid) * grid.columns;
+    const std::int32_t page = GridRowsInView(grid) * grid.columns;
     const std::array<std::int32_t, 8> moves{-1, 1, -grid.columns, grid.columns, -page, page, -grid.count, grid.count};
     const std::int32_t target = index + moves[static_cast<std::size_t>(step)];
     if (step == GridStep::First || step == GridStep::Last)
@@ -82,14 +82,14 @@ std::int32_t NeighbourInGrid(const PictureGrid& grid, std::int32_t index, GridSt
         return step == GridStep::PageUp ? (index - 1) % grid.columns + 1 : index;
     // The last row may be shorter than the one above it.
     if (target > grid.count)
-        return RowOf(grid, index) < RowCount(grid) ? grid.count : index;
+        return GridRowOf(grid, index) < GridRowCount(grid) ? grid.count : index;
     return target;
 }
 
 std::int32_t TopRowShowing(const PictureGrid& grid, std::int32_t index)
 {
-    const std::int32_t row = RowOf(grid, std::clamp(index, 1, std::max(grid.count, 1)));
-    const std::int32_t nearest = std::clamp(grid.topRow, row - RowsInView(grid) + 1, row);
+    const std::int32_t row = GridRowOf(grid, std::clamp(index, 1, std::max(grid.count, 1)));
+    const std::int32_t nearest = std::clamp(grid.topRow, row - GridRowsInView(grid) + 1, row);
     return std::clamp(nearest, 1, std::max(GridScrollRange(grid).maximum, 1));
 }
 

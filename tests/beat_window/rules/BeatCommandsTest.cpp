@@ -206,11 +206,11 @@ TEST(ChosenFolder, EndsInASeparator)
     EXPECT_EQ(ChosenFolder("Bell.wav"), "");
 }
 
-TEST(NumberText, HasFifteenDigitsAndNoneThatAreNotNeeded)
+TEST(SecondsText, HasFifteenDigitsAndNoneThatAreNotNeeded)
 {
-    EXPECT_EQ(NumberText(10), "10");
-    EXPECT_EQ(NumberText(3.5), "3.5");
-    EXPECT_EQ(NumberText(10.0 / 3), "3.33333333333333");
+    EXPECT_EQ(SecondsText(10), "10");
+    EXPECT_EQ(SecondsText(3.5), "3.5");
+    EXPECT_EQ(SecondsText(10.0 / 3), "3.33333333333333");
 }
 
 } // namespace
