@@ -14,6 +14,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "../BenchSounds.h"
 #include "core/Shared.h"
@@ -102,9 +103,11 @@ Click ClickPlayAll(TransportCommands& transport, const WatchedOutput& sound)
     const auto clicked = Clock::now();
     transport.PlayAllBtn();
     const double worked = 1000 * (ProcessorSeconds() - processor);
-    while (!sound.newest || !sound.newest->FirstTaken())
+    while (!sound.newest || !sound.newest->FirstTaken()) {
         if (Clock::now() > clicked + kPatience)
             std::exit(1); // NOLINT(concurrency-mt-unsafe): as above
+        std::this_thread::sleep_for(std::chrono::microseconds(100));
+    }
     return {Milliseconds(*sound.newest->FirstTaken() - clicked), worked};
 }
 

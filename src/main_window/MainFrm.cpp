@@ -34,7 +34,7 @@ namespace sprout {
 namespace {
 
 constexpr int kFrameWidth = 6;
-constexpr int kIconSide = 64;
+constexpr int kWindowIconSide = 64;
 constexpr std::string_view kPlaceSection = "MainWindow";
 
 /// A vine at a lower corner.
@@ -116,7 +116,7 @@ MainFrm::MainFrm(TransportCommands& transport)
                            [this](bool opening) { trackCommands->SetOpening(opening); }})
 {
     setObjectName(QStringLiteral("MainFrm"));
-    setWindowIcon(QIcon(Artwork(QStringLiteral("pictures/Sprout"), QSize(kIconSide, kIconSide), 1)));
+    setWindowIcon(QIcon(Artwork(QStringLiteral("pictures/Sprout"), QSize(kWindowIconSide, kWindowIconSide), 1)));
     setMinimumSize(kLeastWindowWidth, kLeastWindowHeight);
     MakeButtons();
     MakeTitleBand();

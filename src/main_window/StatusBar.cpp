@@ -15,8 +15,8 @@ namespace {
 
 constexpr int kInset = 12;
 constexpr int kPartsApart = 10;
-constexpr int kCellWidthPx = 44;
-constexpr int kSoundWidthPx = 176; // the longest of the player's states
+constexpr int kCellWidthPx = 36;
+constexpr int kSoundWidthPx = 152; // the longest of the player's states
 constexpr int kSoundNarrowPx = 110;
 constexpr int kNarrowBar = 640;
 constexpr int kTwoLinesFontPx = 12;

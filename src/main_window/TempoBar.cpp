@@ -27,7 +27,7 @@ namespace {
 
 // At these widths one percent is one pixel.
 constexpr QSize kSlotSize{184, 28};
-constexpr QSize kPointerSize{34, 40};
+constexpr QSize kTempoPointerSize{34, 40};
 constexpr QSize kPointerPicture{30, 35}; // inside the frame of the focus
 constexpr int kBarHeight = 40;
 constexpr int kLabelGap = 8;
@@ -72,8 +72,8 @@ protected:
 private:
     [[nodiscard]] double MiddleOf(std::int32_t percent) const
     {
-        const TempoSlider slider{0, static_cast<double>(width()), kPointerSize.width()};
-        return slider.LeftOf(percent) + kPointerSize.width() / 2.0;
+        const TempoSlider slider{0, static_cast<double>(width()), kTempoPointerSize.width()};
+        return slider.LeftOf(percent) + kTempoPointerSize.width() / 2.0;
     }
 };
 
@@ -88,7 +88,7 @@ public:
     TempoPointer(QWidget* parent, Told onSlide, Told onChoose)
         : QAbstractSlider(parent), slide(std::move(onSlide)), choose(std::move(onChoose))
     {
-        resize(kPointerSize);
+        resize(kTempoPointerSize);
         setOrientation(Qt::Horizontal);
         setRange(kLowestPercent, kHighestPercent);
         setPageStep(kPercentsAPage);
@@ -181,7 +181,7 @@ private:
         move(static_cast<int>(std::lround(left)), y());
     }
 
-    TempoSlider slider{0, kSlotSize.width(), kPointerSize.width()};
+    TempoSlider slider{0, kSlotSize.width(), kTempoPointerSize.width()};
     Told slide;
     Told choose;
     bool TempoDragging = false;

@@ -14,7 +14,7 @@ namespace sprout {
 
 namespace {
 
-constexpr int kSproutSide = 30;
+constexpr int kBandSproutSide = 30;
 constexpr int kSproutLeft = 10;
 constexpr int kWindowButton = 28;
 constexpr int kWindowButtonsApart = 8;
@@ -55,7 +55,7 @@ void TitleBand::PlaceParts()
         button->move(right - kWindowButton, (kTitleBandHeight - kBandLine - kWindowButton) / 2);
         right = button->x() - kWindowButtonsApart;
     }
-    const int left = kSproutLeft + kSproutSide + 4;
+    const int left = kSproutLeft + kBandSproutSide + 4;
     captionLbl->setGeometry(left, 0, right - left, kTitleBandHeight - kBandLine);
     captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
 }
@@ -66,8 +66,8 @@ void TitleBand::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), kDeepLeaf);
     painter.fillRect(QRect(0, height() - kBandLine, width(), kBandLine), kBark);
     painter.drawPixmap(
-        kSproutLeft, (height() - kSproutSide) / 2,
-        Artwork(QStringLiteral("pictures/SproutPaper"), QSize(kSproutSide, kSproutSide), devicePixelRatioF()));
+        kSproutLeft, (height() - kBandSproutSide) / 2,
+        Artwork(QStringLiteral("pictures/SproutPaper"), QSize(kBandSproutSide, kBandSproutSide), devicePixelRatioF()));
 }
 
 void TitleBand::resizeEvent(QResizeEvent* event)

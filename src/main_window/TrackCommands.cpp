@@ -44,8 +44,8 @@ TrackCommands::TrackCommands(TrackCanvas& trackCanvas, QObject* parent, TuneChoo
 void TrackCommands::TrackAddBtn()
 {
     ShowHint({});
-    Player().StopPlay();
     Guarded([this] {
+        Player().StopPlay();
         const std::int32_t track = AddMusicTrack();
         // Whatever becomes of the window, a track without a tune does not stay.
         Guarded([this, track] { ChooseTuneOf(track); });

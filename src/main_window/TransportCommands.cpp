@@ -129,7 +129,7 @@ void TransportCommands::PlayAllBtn()
 void TransportCommands::PlayStopBtn()
 {
     ShowHint({});
-    Player().StopPlay();
+    Guarded([] { Player().StopPlay(); });
 }
 
 void TransportCommands::PlayOrStop()

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/OpenTuneWindow.h"
 
-#include <QApplication>
 #include <QPointer>
 
 #include "core/Shared.h"
@@ -9,6 +8,7 @@
 #include "tune_window/rules/ChosenTune.h"
 #include "tune_window/rules/TuneTable.h"
 #include "tunes/BeatFiles.h"
+#include "ui/Dialogs.h"
 
 namespace sprout {
 
@@ -24,7 +24,7 @@ QPointer<TuneFrm2>& TheTuneFrm2()
 TuneFrm2& OpenedTuneFrm2()
 {
     if (!TheTuneFrm2())
-        TheTuneFrm2() = new TuneFrm2(QApplication::activeWindow());
+        TheTuneFrm2() = new TuneFrm2(WindowInFront());
     return *TheTuneFrm2();
 }
 

@@ -34,6 +34,7 @@ constexpr int kSurfaceHeight = 304;
 constexpr int kUsualWidth = 740;
 constexpr int kBottomRowGap = 6;
 constexpr int kBottomRowHeight = 36;
+constexpr QSize kEditorSize{kUsualWidth, kSurfaceHeight + kBottomRowGap + kBottomRowHeight};
 constexpr int kComboWidth = 132;
 constexpr int kScrollHeight = 18;
 constexpr QSize kMarkSize{30, 16};
@@ -91,12 +92,12 @@ StepEditor::StepEditor(QWidget* parent) : QWidget(parent), chooseBeat(ChooseBeat
     MakeTunFramHScroll();
     MakeStepPopMnu();
     setFocusProxy(StepNosCmb);
-    resize(sizeHint());
+    resize(kEditorSize);
 }
 
 QSize StepEditor::sizeHint() const
 {
-    return {kUsualWidth, kSurfaceHeight + kBottomRowGap + kBottomRowHeight};
+    return kEditorSize;
 }
 
 void StepEditor::MakeTunFramPic()
@@ -243,16 +244,24 @@ StepFocus* StepEditor::MakeStepFocus(std::int32_t step)
 {
     auto* focus = new StepFocus(step, surface);
     connect(focus, &StepFocus::KeyPressed, this,
-            [this, step](QKeyEvent* event) { Guarded([&] { PressStepKey(step, *event); }); });
-    connect(focus, &StepFocus::MenuWanted, this,
-            [this, step] { Guarded([&] { OpenStepMenu(step, QPoint(StepLeft(step, StepsLeft), kNumberTop)); }); });
+            [this, step](QKeyEvent* event) { RunOnStep(step, [&] { PressStepKey(step, *event); }); });
+    connect(focus, &StepFocus::MenuWanted, this, [this, step] {
+        RunOnStep(step, [&] { OpenStepMenu(step, QPoint(StepLeft(step, StepsLeft), kNumberTop)); });
+    });
     connect(focus, &StepFocus::Reached, this, [this, step] { BringIntoView(step); });
-    connect(focus, &QAbstractButton::clicked, this, [this, step] { Guarded([&] { ToggleLamp(step); }); });
+    connect(focus, &QAbstractButton::clicked, this, [this, step] { RunOnStep(step, [&] { ToggleLamp(step); }); });
     QWidget* const before = step == 1 ? static_cast<QWidget*>(StepNosCmb) : stepFocus.back();
     setTabOrder(before, focus);
     setTabOrder(focus, ChangeAllBtn);
     focus->show();
     return focus;
+}
+
+void StepEditor::RunOnStep(std::int32_t step, const std::function<void()>& command)
+{
+    // A tune that is not shown yet may have fewer steps than the one that is.
+    if (step <= Shared().CurrentTune.StepCount)
+        Guarded(command);
 }
 
 void StepEditor::PlaceChangeAll()

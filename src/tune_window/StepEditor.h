@@ -75,6 +75,7 @@ private:
     void DrawTuneSteps();
     void SyncStepFocus();
     [[nodiscard]] StepFocus* MakeStepFocus(std::int32_t step);
+    void RunOnStep(std::int32_t step, const std::function<void()>& command);
     void PlaceChangeAll();
     void PlacePlayMarks();
     void ShowEdited();

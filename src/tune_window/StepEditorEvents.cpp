@@ -142,8 +142,9 @@ void StepEditor::DragTo(QPoint place)
 
 bool StepEditor::StretchBar(std::int32_t step, std::int32_t pixels)
 {
+    Tune& tune = Shared().CurrentTune;
     // No flag is cleared: the step sounds as it was rendered last.
-    if (!DragDuration(At(Shared().CurrentTune.Steps, step), pixels))
+    if (step > tune.StepCount || !DragDuration(At(tune.Steps, step), pixels))
         return false;
     DrawTuneSteps();
     PlayStep(step);

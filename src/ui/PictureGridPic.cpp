@@ -239,11 +239,14 @@ void PictureGridPic::PaintLines(QPainter& painter) const
     painter.setFont(LabelFont());
     painter.setPen(kBark);
     const int room = width() - 2 * kGridLineLeft;
-    int top = kGridInset;
+    const int inset = kGridInset / 2;
+    const int lineHeight =
+        std::min(kGridLineHeight, (height() - 2 * inset) / std::max(1, static_cast<int>(lines.size())));
+    int top = inset;
     for (const QString& line : lines) {
-        painter.drawText(QRect(kGridLineLeft, top, room, kGridLineHeight), Qt::AlignLeft | Qt::AlignVCenter,
+        painter.drawText(QRect(kGridLineLeft, top, room, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          painter.fontMetrics().elidedText(line, Qt::ElideMiddle, room));
-        top += kGridLineHeight;
+        top += lineHeight;
     }
 }
 

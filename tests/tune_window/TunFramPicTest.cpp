@@ -121,12 +121,19 @@ TEST_F(TunFramPicTest, MarksABeatWithoutAFileOnlyWhereFilesDoNotCarryTheirBeats)
 
 TEST_F(TunFramPicTest, ShowsATuneOnlyWhenAskedTo)
 {
+    const DurationBar bar = Surface().DurationBars()[4];
+    MoveTo(QPoint(bar.handleX + 1, bar.top + 1));
+    ASSERT_FALSE(Handle().isHidden());
     const QImage before = Drawn();
-    tune = Tune();
+    MakeTune(2);
     EXPECT_EQ(Drawn(), before);
-    MoveTo(In(2, 100));
-    ClickAt(In(2, 30));
-    EXPECT_EQ(edits, 0) << "the tune has no steps";
+    QTest::mousePress(&Surface(), Qt::LeftButton, Qt::NoModifier, QPoint(bar.handleX + 1, bar.top + 1));
+    MoveTo(QPoint(bar.handleX + 9, bar.top + 1));
+    QTest::mouseRelease(&Surface(), Qt::LeftButton, Qt::NoModifier, QPoint(bar.handleX + 9, bar.top + 1));
+    ClickAt(In(4, 30));
+    for (const Qt::Key key : {Qt::Key_Space, Qt::Key_Up, Qt::Key_Delete, Qt::Key_Right})
+        QTest::keyClick(&StepButton(4), key);
+    EXPECT_EQ(edits, 0) << "the tune has no such step";
 }
 
 } // namespace

@@ -10,8 +10,10 @@
 #include <cstdio>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "BeatWindowSheets.h"
+#include "MainWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "StepEditorSheets.h"
 #include "TuneWindowSheets.h"
@@ -294,33 +296,50 @@ void DrawForms(const QString& folder)
 } // namespace
 } // namespace sprout
 
-int main(int argc, char** argv)
+namespace {
+
+constexpr const char* kUsage = "usage: sprout-pictures SCALE FOLDER [SONG]\n"
+                               "       sprout-pictures --window PICTURE SONG\n"
+                               "Draws buttons, artworks, dialogs and, with a song, the main window, for example at the "
+                               "scale 2; or the\nmain window alone.\n";
+
+void StartOffscreen(const char* scale)
 {
-    if (argc != 3) {
-        std::fprintf(stderr, "usage: sprout-pictures SCALE FOLDER\n"
-                             "Draws sheets of buttons, artworks and dialogs, for example at the scale 2.\n");
-        return 2;
-    }
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", argv[1]);
-    QApplication application(argc, argv);
-    sprout::ApplyLook(application);
-    const QString folder = QFile::decodeName(argv[2]);
-    if (!QDir().mkpath(folder)) {
-        std::fprintf(stderr, "The folder %s cannot be made.\n", argv[2]);
-        return 1;
-    }
+    qputenv("QT_SCALE_FACTOR", scale);
+}
+
+void DrawAllSheets(const QString& folder)
+{
     sprout::DrawButtonSheet(folder);
     sprout::DrawWordSheet(folder);
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
-    sprout::DrawSongWindowSheets(folder);
-    sprout::DrawTuneWindowSheets(folder);
-    sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
-    sprout::DrawSongWindowSheets(folder);
-    sprout::DrawStepEditorSheets(folder);
-    sprout::DrawTuneWindowSheets(folder);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const bool windowAlone = argc == 4 && std::string_view(argv[1]) == "--window";
+    if (argc != 3 && argc != 4) {
+        std::fputs(kUsage, stderr);
+        return 2;
+    }
+    StartOffscreen(windowAlone ? "1" : argv[1]);
+    QApplication application(argc, argv);
+    sprout::ApplyLook(application);
+    if (windowAlone)
+        return sprout::DrawMainWindow(QFile::decodeName(argv[3]), QFile::decodeName(argv[2])) ? 0 : 1;
+    const QString folder = QFile::decodeName(argv[2]);
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "The folder %s cannot be made.\n", argv[2]);
+        return 1;
+    }
+    DrawAllSheets(folder);
+    if (argc == 4)
+        sprout::DrawMainWindowSheets(QFile::decodeName(argv[3]), folder);
     return 0;
 }
