@@ -14,6 +14,7 @@ public:
     {
         resize(screen.size() * 4 / 5);
         move(screen.center() - rect().center());
+        setWindowState(Qt::WindowMaximized); // as the program's window at its first starts
     }
 
 protected:
