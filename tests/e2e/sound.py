@@ -52,8 +52,9 @@ class SoundServer:
             file.write("leak:libpulse\nleak:libSDL2\nleak:libdbus-1\n")
         # The libraries' own leaks are not the player's, in a build with a sanitizer.
         self.environment["LSAN_OPTIONS"] = f"suppressions={leaks}:print_suppressions=0"
-        # A busy machine must not make gaps in the recording.
-        self.player_environment = {**self.environment, "PULSE_LATENCY_MSEC": "400"}
+        # A busy machine must not make gaps in the recording. 0 leaves the player its own latency.
+        latency = os.environ.get("PULSE_LATENCY_MSEC", "400")
+        self.player_environment = {**self.environment, "PULSE_LATENCY_MSEC": latency}
         self.log = open(os.path.join(folder, "log"), "a", encoding="utf-8")
         self.recordings = 0
 
