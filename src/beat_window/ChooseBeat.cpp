@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beat_window/ChooseBeat.h"
 
-#include <QApplication>
-
 #include "beat_window/BeatWindow.h"
+#include "ui/Dialogs.h"
 
 namespace sprout {
 
 bool ChooseBeat(std::string& name)
 {
-    BeatWindow window(QApplication::activeWindow());
+    BeatWindow window(WindowInFront());
     window.ChosenBeatName = name;
     window.LoadBeatFiles();
     window.ShowModal();

@@ -19,6 +19,7 @@ namespace {
 constexpr int kCaptionGap = 6;
 constexpr int kTitleAndAuthorApart = 16;
 constexpr int kLeastTitle = 90;
+constexpr int kBelowTheLine = 4;
 
 QRect RectOf(const BarPlace& place)
 {
@@ -108,7 +109,7 @@ void ControlBar::resizeEvent(QResizeEvent* event)
 void ControlBar::PlaceSongLabels(const ControlBarPlaces& places)
 {
     const QRect room = RectOf(places.song);
-    const int lineHeight = places.songInOneLine ? room.height() : room.height() * 3 / 5;
+    const int lineHeight = places.songInOneLine ? room.height() : room.height() * 11 / 20;
     const int captionWidth = titleCaption->sizeHint().width() + kCaptionGap;
     const int authorCaptionWidth = authorCaption->sizeHint().width() + kCaptionGap;
     const int titleNeeds = titleText->fontMetrics().horizontalAdvance(title) + 2;
@@ -116,7 +117,8 @@ void ControlBar::PlaceSongLabels(const ControlBarPlaces& places)
     const int titleLeft = room.x() + captionWidth;
     if (!places.songInOneLine) {
         titleText->setGeometry(titleLeft, room.y(), room.right() + 1 - titleLeft, lineHeight);
-        const int authorHeight = room.height() - lineHeight;
+        // What hangs below the line reaches into the gap between the rows.
+        const int authorHeight = room.height() - lineHeight + kBelowTheLine;
         authorCaption->setGeometry(room.x(), room.y() + lineHeight, captionWidth, authorHeight);
         authorText->setGeometry(titleLeft, room.y() + lineHeight, room.right() + 1 - titleLeft, authorHeight);
         return FitSongLabels();

@@ -127,6 +127,7 @@ MainFrm::MainFrm(TransportCommands& transport)
     MakeGrips();
     MakeShortcuts();
     WatchBackground();
+    SetTabOrder();
     processPic = new ProcessPic(this);
     ChooseTool(Tool::Brush);
     // Space plays and the arrows scroll until another control is chosen.
@@ -208,6 +209,16 @@ void MainFrm::MakeShortcuts()
     add(Qt::CTRL | Qt::Key_O, "OpenBtn");
     add(Qt::CTRL | Qt::Key_S, "SaveBtn");
     add(Qt::Key_F1, "HelpBtn");
+}
+
+void MainFrm::SetTabOrder()
+{
+    // The tracks come behind the tempo, as they lie in the window; the buttons were made in the order of the table.
+    const char* before = "TempoPrtImg";
+    for (const char* name : {"TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn", "TrackPic"}) {
+        setTabOrder(findChild<QWidget*>(QString::fromLatin1(before)), findChild<QWidget*>(QString::fromLatin1(name)));
+        before = name;
+    }
 }
 
 void MainFrm::WatchBackground()

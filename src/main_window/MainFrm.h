@@ -68,6 +68,7 @@ private:
     void MakeGrips();
     void MakeShortcuts();
     void WatchBackground();
+    void SetTabOrder();
 
     void TakePlaceFromSettings();
     void WritePlaceToSettings() const;

@@ -57,7 +57,7 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/)
     const qsizetype firstLength = FirstLineLength(text(), small, width());
     const QString second = painter.fontMetrics().elidedText(text().mid(firstLength).trimmed(), Qt::ElideRight, width());
     // Closer than the font's own lines, which leave room that these letters do not need.
-    const int baseline = (height() - kTwoLinesApart) / 2 + painter.fontMetrics().xHeight() / 2;
+    const int baseline = (height() - kTwoLinesApart + painter.fontMetrics().xHeight()) / 2 + 1;
     painter.drawText(0, baseline, text().left(firstLength));
     painter.drawText(0, baseline + kTwoLinesApart, second);
 }

@@ -26,10 +26,10 @@ namespace sprout {
 namespace {
 
 // At these widths one percent is one pixel.
-constexpr QSize kSlotSize{184, 28};
+constexpr QSize kTempoSlotSize{184, 28};
 constexpr QSize kTempoPointerSize{34, 40};
 constexpr QSize kPointerPicture{30, 35}; // inside the frame of the focus
-constexpr int kBarHeight = 40;
+constexpr int kTempoBarHeight = 40;
 constexpr int kLabelGap = 8;
 constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
@@ -49,7 +49,7 @@ int WidestWidth(const char* text)
 /// The slot: a stem with a knot under the pointer's middle at each half of the reference tempo.
 class TempoSlot : public QWidget {
 public:
-    explicit TempoSlot(QWidget* parent) : QWidget(parent) { resize(kSlotSize); }
+    explicit TempoSlot(QWidget* parent) : QWidget(parent) { resize(kTempoSlotSize); }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override
@@ -181,7 +181,7 @@ private:
         move(static_cast<int>(std::lround(left)), y());
     }
 
-    TempoSlider slider{0, kSlotSize.width(), kTempoPointerSize.width()};
+    TempoSlider slider{0, kTempoSlotSize.width(), kTempoPointerSize.width()};
     Told slide;
     Told choose;
     bool TempoDragging = false;
@@ -197,7 +197,7 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
       TempoLbl(new QLabel(this)),
       SngDurLbl(new QLabel(this))
 {
-    TempoSliderImg->move(0, (kBarHeight - TempoSliderImg->height()) / 2);
+    TempoSliderImg->move(0, (kTempoBarHeight - TempoSliderImg->height()) / 2);
     TempoPrtImg = new TempoPointer(
         this, [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
         [this](std::int32_t percent) { TakePercent(percent); });
@@ -223,20 +223,21 @@ void TempoBar::FitWidth(int widthPx)
     const int percentWidth = WidestWidth("200%");
     const int secondsWidth = WidestWidth("480 sec");
     const int besideTheSlot = kLabelGap + percentWidth + kLabelGap + secondsWidth;
-    const bool stacked = widthPx < kSlotSize.width() + besideTheSlot;
-    const int slotWidth =
-        stacked ? std::clamp(widthPx - kLabelGap - secondsWidth, kShortestSlot, kSlotSize.width()) : kSlotSize.width();
-    TempoSliderImg->resize(slotWidth, kSlotSize.height());
+    const bool stacked = widthPx < kTempoSlotSize.width() + besideTheSlot;
+    const int slotWidth = stacked
+                              ? std::clamp(widthPx - kLabelGap - secondsWidth, kShortestSlot, kTempoSlotSize.width())
+                              : kTempoSlotSize.width();
+    TempoSliderImg->resize(slotWidth, kTempoSlotSize.height());
     TempoPrtImg->SetSlotWidth(slotWidth);
     const int labelsLeft = slotWidth + kLabelGap;
     if (stacked) {
-        TempoLbl->setGeometry(labelsLeft, 0, secondsWidth, kBarHeight / 2);
-        SngDurLbl->setGeometry(labelsLeft, kBarHeight / 2, secondsWidth, kBarHeight / 2);
+        TempoLbl->setGeometry(labelsLeft, 0, secondsWidth, kTempoBarHeight / 2);
+        SngDurLbl->setGeometry(labelsLeft, kTempoBarHeight / 2, secondsWidth, kTempoBarHeight / 2);
     } else {
-        TempoLbl->setGeometry(labelsLeft, 0, percentWidth, kBarHeight);
-        SngDurLbl->setGeometry(labelsLeft + percentWidth + kLabelGap, 0, secondsWidth, kBarHeight);
+        TempoLbl->setGeometry(labelsLeft, 0, percentWidth, kTempoBarHeight);
+        SngDurLbl->setGeometry(labelsLeft + percentWidth + kLabelGap, 0, secondsWidth, kTempoBarHeight);
     }
-    setFixedSize(SngDurLbl->x() + SngDurLbl->width(), kBarHeight);
+    setFixedSize(SngDurLbl->x() + SngDurLbl->width(), kTempoBarHeight);
 }
 
 void TempoBar::UpdateTempoSliderValue()

@@ -45,7 +45,6 @@ void TrackCanvas::MakeSurfaces(ButtonScheme& buttons)
 {
     titlePic = new TrackTitlePic(view, buttons, calls, this);
     trackPic = new TrackPic(view, this);
-    setFocusProxy(trackPic);
     titlePic->Redraw = trackPic->Redraw = [this] { DrawTracksAll(); };
     connect(titlePic, &TrackTitlePic::RowChosen, this, &TrackCanvas::ShowRow);
     connect(trackPic, &TrackPic::Pressed, this, &TrackCanvas::Press);

@@ -21,7 +21,7 @@ namespace sprout {
 
 namespace {
 
-constexpr std::chrono::milliseconds kPlayPosInterval{40};
+constexpr std::chrono::milliseconds kSongPosInterval{40};
 constexpr std::chrono::milliseconds kTitlePlayInterval{1000};
 constexpr std::int32_t kMainWindow = 1;
 
@@ -99,7 +99,7 @@ void GuardedTick(QTimer& timer, Operation operation)
 TransportCommands::TransportCommands(QObject* parent) : QObject(parent), playPosTimer(this), trackTitlePlayTimer(this)
 {
     playPosTimer.setObjectName(QStringLiteral("PlayPosTimer"));
-    playPosTimer.setInterval(kPlayPosInterval);
+    playPosTimer.setInterval(kSongPosInterval);
     connect(&playPosTimer, &QTimer::timeout, this, &TransportCommands::PlayPosTimerTick);
     trackTitlePlayTimer.setObjectName(QStringLiteral("TrackTitlePlayTimer"));
     trackTitlePlayTimer.setInterval(kTitlePlayInterval);

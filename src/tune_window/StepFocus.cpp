@@ -29,8 +29,8 @@ StepFocus::StepFocus(std::int32_t step, QWidget* surface) : QAbstractButton(surf
     setFocusPolicy(Qt::TabFocus);
     setCheckable(true);
     setAccessibleDescription(
-        tr("The space bar switches the step on or off, up and down change its pitch, Enter chooses "
-           "its instrument, and the menu key has more."));
+        tr("The space bar switches the step on or off, up and down change its pitch, Shift with left or right its "
+           "length, Enter chooses its instrument. P plays the step, B its instrument. The menu key has more."));
 }
 
 void StepFocus::ShowStep(const TuneStep& step, std::int32_t stepsLeft)

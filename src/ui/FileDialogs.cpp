@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/FileDialogs.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -11,6 +10,7 @@
 
 #include "core/Shared.h"
 #include "core/Text.h"
+#include "ui/Dialogs.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -94,7 +94,7 @@ std::optional<fs::path> ChooseFileToOpen(const FileQuestion& question)
 {
     if (!StandIns().empty())
         return StandIns().back()(question);
-    QFileDialog dialog(QApplication::activeWindow(), QtText(question.Title), FirstShownFolder(question.Folder));
+    QFileDialog dialog(WindowInFront(), QtText(question.Title), FirstShownFolder(question.Folder));
     FillFileDialog(dialog, question);
     const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
     LastShownFolder() = dialog.directory().absolutePath();

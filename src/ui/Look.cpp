@@ -42,7 +42,7 @@ QScrollBar::handle { background: #3C9D4B; border: 2px solid #4A2F22; border-radi
 QScrollBar::handle:vertical { min-height: 32px; }
 QScrollBar::handle:horizontal { min-width: 32px; }
 QScrollBar::handle:pressed { background: #1F6B34; }
-QScrollBar::handle:disabled { background: #F1E3C4; border-color: #6B655C; }
+QScrollBar::handle:disabled { background: #F1E3C4; border-color: #F1E3C4; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 )");
 }

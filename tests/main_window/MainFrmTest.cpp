@@ -40,6 +40,12 @@ struct Hint {
     const char* text;
 };
 
+/// Where the mouse must be in the title strip for a button to come up.
+struct StripPoint {
+    const char* control;
+    int x;
+};
+
 constexpr std::array kHints{
     Hint{"AboutBtn", "About button, use it to read about Tonquill"},
     Hint{"BrushBtn", "Paint brush button, use this to choose paint brush for painting the tracks"},
@@ -88,9 +94,11 @@ TEST_F(MainFrmTest, HasItsButtonsInTheOrderOfTheTable)
 TEST_F(MainFrmTest, TellsWhatEachControlIsFor)
 {
     for (const Hint& hint : kHints) {
-        // Those of a track come up where the mouse is, the tune's only over a track.
-        if (std::string_view(hint.control) == "TrackTuneBtn")
-            MoveInStrip(QPoint(30, 40));
+        // Those of a track come up where the mouse is.
+        for (const StripPoint& button :
+             {StripPoint{"TrackTuneBtn", 30}, StripPoint{"TrackDeleteBtn", 76}, StripPoint{"TrackPlayBtn", 115}})
+            if (std::string_view(hint.control) == button.control)
+                MoveInStrip(QPoint(button.x, 40));
         if (std::string_view(hint.control) == "RestoreImgBtn")
             window->showMaximized();
         ShowHint(QStringLiteral("Before"));
@@ -481,9 +489,11 @@ TEST_F(MainFrmTest, ReachesEveryVisibleButtonOfItsBarByTab)
         reached.insert(window->focusWidget()->objectName());
         QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
     }
-    for (const char* name : {"PlayAllBtn", "PlayStopBtn", "BrushBtn", "EraserBtn", "PlayToolBtn", "NewBtn", "OpenBtn",
-                             "SaveBtn", "SongTitleChgBtn", "EmailBtn", "HelpBtn", "AboutBtn", "DemoBtn", "CloseImgBtn",
-                             "MaximizeImgBtn", "MinimizeImgBtn", "TrackAddBtn", "TrackAddRecBtn", "TempoPrtImg"})
+    for (const char* name :
+         {"PlayAllBtn",  "PlayStopBtn",    "BrushBtn",        "EraserBtn",      "PlayToolBtn", "NewBtn",
+          "OpenBtn",     "SaveBtn",        "SongTitleChgBtn", "EmailBtn",       "HelpBtn",     "AboutBtn",
+          "DemoBtn",     "CloseImgBtn",    "MaximizeImgBtn",  "MinimizeImgBtn", "TempoPrtImg", "TrackTitlePic",
+          "TrackAddBtn", "TrackAddRecBtn", "TrackPic"})
         EXPECT_TRUE(reached.count(QString::fromLatin1(name))) << name;
 }
 

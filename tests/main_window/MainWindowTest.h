@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QCursor>
 #include <QLabel>
 #include <QTest>
 
@@ -97,6 +98,8 @@ protected:
     /// Sends one mouse event at a point of the screen.
     static void Send(QWidget& control, QEvent::Type type, QPointF onScreen, Qt::MouseButtons held)
     {
+        // Hints follow the pointer itself, not moves that windows are sent when they open.
+        QCursor::setPos(onScreen.toPoint());
         const QPointF local = onScreen - control.mapToGlobal(QPointF(0, 0));
         const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
         QMouseEvent event(type, local, onScreen, button, held, Qt::NoModifier);

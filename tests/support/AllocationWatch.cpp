@@ -32,6 +32,16 @@ void* operator new[](std::size_t size)
     return Allocate(size);
 }
 
+// The library's own takes the memory of a sort from elsewhere, and would have it freed here.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept
+{
+    try {
+        return Allocate(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
 void* operator new(std::size_t size, std::align_val_t alignment)
 {
     const auto step = static_cast<std::size_t>(alignment);

@@ -316,6 +316,9 @@ void DrawAllSheets(const QString& folder)
     sprout::ArtSheet sheet;
     sprout::Save(sheet, folder, QStringLiteral("art"));
     sprout::DrawForms(folder);
+    sprout::DrawSongWindowSheets(folder);
+    sprout::DrawTuneWindowSheets(folder);
+    sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
 }
 

@@ -2,6 +2,7 @@
 #include "MainWindowSheets.h"
 
 #include <QApplication>
+#include <QCursor>
 #include <QFileInfo>
 #include <QMouseEvent>
 #include <QTemporaryDir>
@@ -94,6 +95,7 @@ public:
         auto* control = window->findChild<QWidget*>(QString::fromLatin1(name));
         QMouseEvent move(QEvent::MouseMove, at, control->mapToGlobal(QPointF(at)), Qt::NoButton, Qt::NoButton,
                          Qt::NoModifier);
+        QCursor::setPos(control->mapToGlobal(at));
         QApplication::sendEvent(control, &move);
     }
 
@@ -140,6 +142,7 @@ void DrawFaces(const QString& songPath, const QString& folder)
     shown.Draw(folder + QStringLiteral("/main-hover.png"));
     shown.Button("SaveBtn").SetFace(ButtonFace::Pressed);
     shown.Draw(folder + QStringLiteral("/main-pressed.png"));
+    shown.Button("SaveBtn").SetFace(ButtonFace::Normal);
     shown.Button("EraserBtn").click();
     shown.Point("TrackPic", QPoint(200, 100));
     shown.Draw(folder + QStringLiteral("/main-eraser.png"));
@@ -147,7 +150,7 @@ void DrawFaces(const QString& songPath, const QString& folder)
         shown.Point("TrackTitlePic", at);
         shown.Draw(QStringLiteral("%1/main-strip-%2.png").arg(folder).arg(at.x()));
     }
-    shown.Point("TrackAddRecBtn", QPoint(20, 20));
+    ShowHint(shown.Button("TrackAddRecBtn").Hint());
     shown.Draw(folder + QStringLiteral("/main-long-hint.png"), QSize(700, 500));
 }
 
@@ -163,6 +166,7 @@ void DrawStates(const QString& songPath, const QString& folder)
     canvas->ShowPlayIndicator({});
     shown.Window().ShowSoundDevices(0);
     shown.Draw(folder + QStringLiteral("/main-no-sound.png"));
+    shown.Window().ShowSoundDevices(1);
     NewSong();
     At(Shared().Song.Tracks, 1).TrackTune.Picture = Shared().BlankStarPic;
     Shared().Song.SongCreatedBy = "A name that is a good deal longer than any label of this window can be wide";
