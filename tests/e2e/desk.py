@@ -22,8 +22,7 @@ class Screen:
     """An X server on a free display, and openbox on it."""
 
     def __init__(self, folder, processes, size="1920x1080"):
-        self.processes = processes
-        self.folder = folder
+        self.size = tuple(map(int, size.split("x")))
         self.log = open(os.path.join(folder, "log"), "a", encoding="utf-8")
         own = os.path.join(folder, "screen")
         os.makedirs(own)

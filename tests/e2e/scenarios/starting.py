@@ -48,19 +48,38 @@ def NoSoundServer(desk):
     close(program)
 
 
-@scenario(screen_size="800x600")
-def SmallScreen(desk):
-    """On a small screen the window fits, and no button lies over another or outside."""
-    program = desk.start()
-    window = program.wait_for_window("MainFrm")
-    expect(window.x >= 0 and window.y >= 0 and window.x + window.width <= 800 and window.y + window.height <= 600,
-           f"the window reaches out of the screen: {window.told}")
-    # The track buttons move with the tracks.
-    buttons = [widget for widget in program.widgets()
-               if widget.kind == "ImageButton" and not widget.name.startswith("Track")]
-    expect(len(buttons) >= 16, f"only {len(buttons)} buttons can be seen")
+def expect_to_fit(desk, program, kind, least_buttons):
+    """A window lies on the screen, and none of its buttons is cut or lies over another."""
+    program.wait_for_window(kind)
+    widgets = program.widgets()
+    window = next(widget for widget in widgets if widget.kind == kind)
+    width, height = desk.screen.size
+    expect(window.x >= 0 and window.y >= 0 and window.x + window.width <= width and
+           window.y + window.height <= height, f"{kind} reaches out of the screen: {window.told}")
+    # The track buttons move with the tracks, that of all steps with the steps.
+    buttons = [widget for widget in widgets
+               if widget.kind == "ImageButton" and widget.told["window"] == window.told["window"] and
+               not widget.name.startswith("Track") and widget.name != "ChangeAllBtn"]
+    expect(len(buttons) >= least_buttons, f"only {len(buttons)} buttons of {kind} can be seen")
     for number, button in enumerate(buttons):
-        expect(button.told["whole"], f"{button.name} is cut")
+        expect(button.told["whole"], f"{button.name} of {kind} is cut")
         for other in buttons[:number]:
             expect(not button.overlaps(other), f"{button.name} lies over {other.name}")
-    close(program)
+
+
+@scenario(screen_size="800x600")
+def SmallScreen(desk):
+    """On a small screen all windows fit, and no button lies over another or outside."""
+    give_short_song(desk)
+    program = desk.start()
+    expect_to_fit(desk, program, "MainFrm", 16)
+    for button, form, least_buttons in (("OpenBtn", "SongSelFrm", 6), ("SaveBtn", "SongSelFrm", 6),
+                                        ("SongTitleChgBtn", "SongTitleFrm", 2), ("TrackAddBtn", "TuneFrm2", 8)):
+        program.click(button, form="MainFrm")
+        expect_to_fit(desk, program, form, least_buttons)
+        program.click("CancelBtn", form=form)
+        program.wait_until_gone(form)
+    program.click("CloseImgBtn")
+    expect_to_fit(desk, program, "SaveConfirmFrm", 3)
+    program.click("NoBtn", form="SaveConfirmFrm")
+    expect(program.wait_for_end() == 0, "the program did not end well")
