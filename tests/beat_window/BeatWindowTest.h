@@ -78,11 +78,11 @@ protected:
     }
     ~BeatWindowTest() override { SetStatusLbl(nullptr); }
 
-    /// Opens the window as its caller does, but goes on.
-    BeatWindow& Open(const std::string& name = "")
+    /// Opens the window as its caller does, but goes on. name: a copy, since it may be that of the window that goes.
+    BeatWindow& Open(std::string name = "")
     {
         window = std::make_unique<BeatWindow>(nullptr);
-        window->ChosenBeatName = name;
+        window->ChosenBeatName = std::move(name);
         window->LoadBeatFiles();
         window->show();
         return *window;
