@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/sdl/SdlSound.h"
 
-#include <SDL.h>
-
 #include <chrono>
 #include <utility>
+
+#include "service/sdl/SdlLibrary.h"
 
 namespace sprout {
 
@@ -43,7 +43,7 @@ SdlSound::~SdlSound()
 
 bool SdlSound::IsLost() const
 {
-    return device != 0 && SDL_GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED;
+    return device != 0 && Sdl().GetAudioDeviceStatus(device) == SDL_AUDIO_STOPPED;
 }
 
 bool SdlSound::IsAliveIn(const SoundFormat& wanted)
@@ -77,17 +77,17 @@ bool SdlSound::Open()
     wanted.callback = FillFromFeed;
     wanted.userdata = &feed;
     SDL_AudioSpec opened{};
-    device = SDL_OpenAudioDevice(nullptr, 0, &wanted, &opened, 0);
+    device = Sdl().OpenAudioDevice(nullptr, 0, &wanted, &opened, 0);
     if (device == 0)
         return false;
-    SDL_PauseAudioDevice(device, 0);
+    Sdl().PauseAudioDevice(device, 0);
     return true;
 }
 
 void SdlSound::Close()
 {
     if (device != 0)
-        SDL_CloseAudioDevice(device);
+        Sdl().CloseAudioDevice(device);
     device = 0;
 }
 

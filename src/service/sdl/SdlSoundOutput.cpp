@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/sdl/SdlSoundOutput.h"
 
-#include <SDL.h>
-
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <utility>
 
 #include "core/Shared.h"
+#include "service/sdl/SdlLibrary.h"
 #include "service/sdl/SdlSound.h"
 
 namespace sprout {
@@ -19,7 +18,7 @@ std::unique_ptr<SdlSound> OpenSound(const SoundFormat& format, std::chrono::mill
 {
     // ALSA, which SDL falls back on, complains on the standard error of every device that is not there. A list that
     // cannot be made (below 0) is not an empty one.
-    if (SDL_GetNumAudioDevices(0) == 0)
+    if (Sdl().GetNumAudioDevices(0) == 0)
         return nullptr;
     auto sound = std::make_unique<SdlSound>(format, restRound);
     return sound->Wake() ? std::move(sound) : nullptr;
@@ -36,7 +35,7 @@ SdlSoundOutput::~SdlSoundOutput()
 
 std::int32_t SdlSoundOutput::SoundDeviceCount()
 {
-    return StartAudio() ? std::max(0, SDL_GetNumAudioDevices(0)) : 0;
+    return StartAudio() ? std::max(0, Sdl().GetNumAudioDevices(0)) : 0;
 }
 
 SoundHandle SdlSoundOutput::Service02(SoundHandle old, std::int32_t, const SoundFormat& format,
@@ -60,22 +59,22 @@ SoundHandle SdlSoundOutput::Service02(SoundHandle old, std::int32_t, const Sound
 
 bool SdlSoundOutput::StartAudio()
 {
-    if (audioRuns)
-        return true;
+    if (audioRuns || !Sdl().IsThere())
+        return audioRuns;
     // Ctrl-C goes on ending the program.
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, std::string(kProductName).c_str());
-    audioRuns = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+    Sdl().SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    Sdl().SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, std::string(kProductName).c_str());
+    audioRuns = Sdl().InitSubSystem(SDL_INIT_AUDIO) == 0;
     // Nobody fetches these: the state of the open device tells the same.
-    SDL_EventState(SDL_AUDIODEVICEADDED, SDL_IGNORE);
-    SDL_EventState(SDL_AUDIODEVICEREMOVED, SDL_IGNORE);
+    Sdl().EventState(SDL_AUDIODEVICEADDED, SDL_IGNORE);
+    Sdl().EventState(SDL_AUDIODEVICEREMOVED, SDL_IGNORE);
     return audioRuns;
 }
 
 void SdlSoundOutput::StopAudio()
 {
     if (audioRuns)
-        SDL_QuitSubSystem(SDL_INIT_AUDIO);
+        Sdl().QuitSubSystem(SDL_INIT_AUDIO);
     audioRuns = false;
 }
 

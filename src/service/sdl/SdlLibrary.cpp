@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/sdl/SdlLibrary.h"
+
+#include <dlfcn.h>
+
+namespace sprout {
+
+namespace {
+
+constexpr const char* kLibraryFile = "libSDL2-2.0.so.0";
+
+/// Finds a call; false where the library lacks it.
+template <class Call>
+bool Find(void* library, const char* name, Call& call)
+{
+    call = reinterpret_cast<Call>(dlsym(library, name));
+    return call != nullptr;
+}
+
+SdlLibrary LoadLibrary()
+{
+    void* const library = dlopen(kLibraryFile, RTLD_LAZY | RTLD_LOCAL);
+    SdlLibrary calls;
+    const bool isWhole = library && Find(library, "SDL_SetHint", calls.SetHint) &&
+                         Find(library, "SDL_EventState", calls.EventState) &&
+                         Find(library, "SDL_InitSubSystem", calls.InitSubSystem) &&
+                         Find(library, "SDL_QuitSubSystem", calls.QuitSubSystem) &&
+                         Find(library, "SDL_GetNumAudioDevices", calls.GetNumAudioDevices) &&
+                         Find(library, "SDL_OpenAudioDevice", calls.OpenAudioDevice) &&
+                         Find(library, "SDL_PauseAudioDevice", calls.PauseAudioDevice) &&
+                         Find(library, "SDL_GetAudioDeviceStatus", calls.GetAudioDeviceStatus) &&
+                         Find(library, "SDL_CloseAudioDevice", calls.CloseAudioDevice);
+    return isWhole ? calls : SdlLibrary();
+}
+
+} // namespace
+
+const SdlLibrary& Sdl()
+{
+    static const SdlLibrary library = LoadLibrary();
+    return library;
+}
+
+} // namespace sprout
