@@ -95,7 +95,10 @@ std::optional<PcmFeed::Time> PcmFeed::FirstTaken() const
 void PcmFeed::Fill(std::span<std::byte> out, Time now)
 {
     filling = true;
-    const std::size_t filled = playing ? FillFromSound(out, now) : 0;
+    const bool settles = asksToSettle > 0;
+    if (settles)
+        --asksToSettle;
+    const std::size_t filled = playing && !settles ? FillFromSound(out, now) : 0;
     filling = false;
     const auto rest = out.subspan(filled);
     std::fill(rest.begin(), rest.end(), Silence(format));

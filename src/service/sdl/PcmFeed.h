@@ -27,6 +27,9 @@ public:
     /// Stops, and makes the sound `pcm`, which silence or a cut brings to `soundBytes`.
     void Load(std::span<const std::byte> pcm, std::size_t soundBytes);
     void Start(StartFrom from, Loop loop);
+    /// A device that was just opened takes silence `asks` times before it takes the sound: its first blocks may be lost
+    /// while it starts to run.
+    void SettleDevice(int asks) { asksToSettle = asks; }
     /// Keeps the place: what was handed over is heard to its end, and `StartFrom::WhereItStopped` goes on behind it.
     void Stop();
     void SetLooping(Loop loop);
@@ -59,6 +62,7 @@ private:
     std::atomic<bool> filling = false;
 
     std::atomic<bool> looping = false;
+    std::atomic<int> asksToSettle = 0;
     // Frames since the beginning, every pass of a loop counted.
     std::atomic<std::int64_t> framesHanded = 0;
     // When frame 0 would have been heard, in nanoseconds of the clock; `kUnknown` before the first `Fill`.

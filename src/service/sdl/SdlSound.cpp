@@ -19,6 +19,7 @@ std::int32_t FramesAsked(const SoundFormat& format)
     return kFramesAsked * format.Rate / 44100;
 }
 
+constexpr int kAsksToSettle = 2; // 23 ms
 constexpr int kRoundsBeforeRest = 3;
 
 void SDLCALL FillFromFeed(void* feed, Uint8* out, int bytes)
@@ -77,6 +78,7 @@ bool SdlSound::Open()
     wanted.callback = FillFromFeed;
     wanted.userdata = &feed;
     SDL_AudioSpec opened{};
+    feed.SettleDevice(kAsksToSettle);
     device = Sdl().OpenAudioDevice(nullptr, 0, &wanted, &opened, 0);
     if (device == 0)
         return false;

@@ -51,6 +51,19 @@ TEST(PcmFeed, GivesSilenceBeforeItIsStarted)
     EXPECT_FALSE(feed.PlaceAt(kStart).Playing);
 }
 
+TEST(PcmFeed, GivesSilenceWhileTheDeviceSettlesAndThenTheSoundFromItsBeginning)
+{
+    PcmFeed feed(kByteFormat, 0);
+    LoadAll(feed, Counting(4));
+    feed.SettleDevice(2);
+    feed.Start(StartFrom::Beginning, Loop::No);
+    EXPECT_EQ(Taken(feed, 2), Bytes(2, kSilence));
+    EXPECT_EQ(Taken(feed, 2), Bytes(2, kSilence));
+    EXPECT_FALSE(feed.FirstTaken());
+    EXPECT_TRUE(feed.PlaceAt(kStart).Playing);
+    EXPECT_EQ(Taken(feed, 4), Counting(4));
+}
+
 TEST(PcmFeed, SilenceOf16BitsIsZero)
 {
     PcmFeed feed({2, 44100, 16}, 0);
