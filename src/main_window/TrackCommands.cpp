@@ -47,6 +47,8 @@ void TrackCommands::TrackAddBtn()
     Guarded([this] {
         Player().StopPlay();
         const std::int32_t track = AddMusicTrack();
+        // The new row blinks behind the tune window: the buttons below the rows make room for it now.
+        canvas.DrawTracksAll();
         // Whatever becomes of the window, a track without a tune does not stay.
         Guarded([this, track] { ChooseTuneOf(track); });
         EndAddMusicTrack();
