@@ -1,0 +1,261 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// sprout_choose_bench SPROUT_FOLDER: milliseconds to open, scroll and use the tune window and the beat window, in
+// folders with copies of the installed tunes and beats. Sound goes to SDL's dummy device.
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "beat_window/BeatWindow.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/PlayDisplay.h"
+#include "service/Services.h"
+#include "service/posix/PosixFiles.h"
+#include "service/posix/PosixMachine.h"
+#include "service/qt/QtPictureFiles.h"
+#include "service/sdl/SdlSoundOutput.h"
+#include "service/stretch/StretchService.h"
+#include "sound/PlayMod.h"
+#include "sound/StepCache.h"
+#include "tune_window/OpenTuneWindow.h"
+#include "tune_window/TunFramPic.h"
+#include "tune_window/TuneFrm2.h"
+#include "tune_window/rules/StepLayout.h"
+#include "ui/Look.h"
+#include "ui/PictureGridPic.h"
+#include "ui/ProgramPictures.h"
+#include "ui/QtMessages.h"
+#include "ui/QtScreen.h"
+
+namespace sprout {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kOpenings = 5;
+constexpr int kTunesTried = 18; // a row of the grid
+constexpr int kLampY = 30;
+
+double Milliseconds(const std::function<void()>& work)
+{
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
+
+/// Memory of the program in MB.
+double ResidentMegabytes()
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:"))
+            return std::stod(line.substr(6)) / 1024;
+    return 0;
+}
+
+void Print(const std::string& name, std::vector<double> measured, const char* unit, double limit, const char* what)
+{
+    std::sort(measured.begin(), measured.end());
+    std::printf("%-22s %8.1f %s %8.0f %s   %s; at most %.1f\n", name.c_str(), measured[measured.size() / 2], unit,
+                limit, unit, what, measured.back());
+    std::fflush(stdout);
+}
+
+/// Files of `from` with an ending, each as often as it takes to have `count` of them, under names of their own.
+void CopyMany(const fs::path& from, const fs::path& to, const std::vector<std::string>& endings, int count)
+{
+    fs::remove_all(to);
+    fs::create_directories(to);
+    std::vector<fs::path> files;
+    for (const auto& entry : fs::directory_iterator(from))
+        if (entry.path().extension() == endings.front())
+            files.push_back(entry.path());
+    for (int i = 0; i < count; ++i) {
+        const fs::path& file = files[static_cast<std::size_t>(i) % files.size()];
+        for (const std::string& ending : endings)
+            fs::copy_file(fs::path(file).replace_extension(ending),
+                          to / (std::to_string(i) + " " + file.stem().string() + ending));
+    }
+}
+
+void Press(QWidget& surface, QPoint at)
+{
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const auto held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, at, surface.mapToGlobal(at), Qt::LeftButton, held, Qt::NoModifier);
+        QApplication::sendEvent(&surface, &event);
+    }
+}
+
+std::vector<double> ScrollTimes(PictureGridPic& grid)
+{
+    std::vector<double> times{0};
+    for (int row = 1; row <= std::min(grid.VScroll1().maximum(), 100); ++row)
+        times.push_back(Milliseconds([&grid, row] {
+            grid.VScroll1().setValue(row);
+            grid.repaint();
+        }));
+    grid.VScroll1().setValue(1);
+    return times;
+}
+
+/// What is measured while the tune window is open.
+struct TuneWindowTimes {
+    std::vector<double> open, memory, scroll, choose, lamp, key;
+};
+
+void UseTuneWindow(TuneFrm2& window, TuneWindowTimes& times)
+{
+    auto& grid = *window.findChild<PictureGridPic*>();
+    auto& steps = *window.findChild<TunFramPic*>();
+    const std::vector<double> scrolled = ScrollTimes(grid);
+    times.scroll.insert(times.scroll.end(), scrolled.begin(), scrolled.end());
+    for (int index = 2; index <= std::min(kTunesTried, grid.Count()); ++index) {
+        const GridPlace place = PlaceInGrid(grid.Grid(), index);
+        times.choose.push_back(Milliseconds([&] { Press(grid, {place.x + 4, place.y + 4}); }));
+        QApplication::processEvents();
+    }
+    times.lamp.push_back(Milliseconds([&] { Press(steps, {kStepsLeftAtStart + 2 * kStepPitch + 10, kLampY}); }));
+    TuneStep& first = At(Shared().CurrentTune.Steps, 1);
+    first.OnPos = 1;
+    window.UpdateThisTune();
+    TheStepCache().Clear();
+    first.PitchShift = first.PitchShift == 4 ? 5 : 4;
+    first.StepWaveValid = false;
+    constexpr QPoint lowestKey(kStepsLeftAtStart + 24, 210);
+    times.key.push_back(Milliseconds([&] { Press(steps, lowestKey); }));
+}
+
+void OpenTuneWindowOnce(TuneWindowTimes& times)
+{
+    const double before = ResidentMegabytes();
+    QElapsedTimer clock;
+    clock.start();
+    QTimer::singleShot(0, qApp, [&] {
+        auto& window = *qobject_cast<TuneFrm2*>(QApplication::activeModalWidget());
+        QApplication::processEvents();
+        window.repaint();
+        times.open.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+        times.memory.push_back(ResidentMegabytes() - before);
+        UseTuneWindow(window, times);
+        window.reject();
+    });
+    Tune tune;
+    bool newFlag = false;
+    if (OpenTuneWindow(tune, newFlag))
+        Player().StopPlay();
+}
+
+void MeasureTunes(const fs::path& installed, const fs::path& scratch, int count)
+{
+    CopyMany(installed / "Tunes", scratch / "Tunes", {".TqTun"}, count);
+    Shared().TuneTableCount = 0;
+    const std::string name = std::to_string(count) + " tunes, ";
+    Print(name + "table", {Milliseconds(LoadTuneFiles)}, "ms", 2000, "the table read at the start");
+    TuneWindowTimes times;
+    for (int i = 0; i < kOpenings; ++i)
+        OpenTuneWindowOnce(times);
+    Print(name + "open", times.open, "ms", 150, "the window opened and drawn");
+    Print(name + "memory", {times.memory.front()}, "MB", 60, "more than before the first opening");
+    Print(name + "scroll", times.scroll, "ms", 16, "the grid scrolled by a row and drawn");
+    Print(name + "choose", times.choose, "ms", 60, "from the press on a tune with stored sound until it plays");
+    Print(name + "lamp", times.lamp, "ms", 60, "from the press on a lamp until the tune plays");
+    Print(name + "key", times.key, "ms", 150, "from the press on a key until the step, rendered anew, plays");
+}
+
+void MeasureBeats(const fs::path& installed, const fs::path& scratch, int count)
+{
+    CopyMany(installed / "Beats", scratch / "Beats", {".wav", ".bmp"}, count);
+    const std::string name = std::to_string(count) + " beats, ";
+    std::vector<double> open, scroll;
+    const double before = ResidentMegabytes();
+    double memory = 0;
+    for (int i = 0; i < kOpenings; ++i) {
+        BeatWindow window(nullptr);
+        open.push_back(Milliseconds([&window] {
+            window.LoadBeatFiles();
+            window.show();
+            QApplication::processEvents();
+            window.repaint();
+        }));
+        if (i == 0)
+            memory = ResidentMegabytes() - before;
+        const std::vector<double> times = ScrollTimes(*window.findChild<PictureGridPic*>());
+        scroll.insert(scroll.end(), times.begin(), times.end());
+    }
+    Print(name + "open", open, "ms", count > 300 ? 2000 : 150, "the list read, the window opened and drawn");
+    Print(name + "memory", {memory}, "MB", 60, "more than before the first opening");
+    Print(name + "scroll", scroll, "ms", 16, "the grid scrolled by a row and drawn");
+}
+
+class TuneWindowDisplay : public PlayDisplay {
+public:
+    [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
+    void ShowSoundStatus(std::string_view /*text*/) override {}
+    void EnablePlayPosTimer() override {}
+    void UpdateThisTune() override { sprout::UpdateThisTune(); }
+};
+
+void MeasureAll(const fs::path& installed)
+{
+    QtMessages messages;
+    QtScreen screen;
+    PosixFiles files;
+    PosixMachine machine;
+    QtPictureFiles pictures;
+    SdlSoundOutput sound;
+    TuneWindowDisplay display;
+    const auto stretch = MakeStretch();
+    TheServices() = {.messages = &messages,
+                     .screen = &screen,
+                     .files = &files,
+                     .machine = &machine,
+                     .pictures = &pictures,
+                     .stretch = stretch.get(),
+                     .sound = &sound,
+                     .playDisplay = &display};
+    MakeProgramPictures();
+    std::string scratch = (fs::temp_directory_path() / "sprout-choose-XXXXXX").string();
+    if (!mkdtemp(scratch.data()))
+        return;
+    SetUserRoot(scratch);
+    SetSoundDriver(true);
+    QWidget mainWindow;
+    mainWindow.resize(800, 600);
+    mainWindow.show();
+    for (const int count : {200, 5000})
+        MeasureTunes(installed, scratch, count);
+    for (const int count : {300, 5000})
+        MeasureBeats(installed, scratch, count);
+    ReleasePlayer();
+    fs::remove_all(scratch);
+}
+
+} // namespace
+} // namespace sprout
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::fputs("usage: sprout_choose_bench SPROUT_FOLDER\n", stderr);
+        return 2;
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("SDL_AUDIODRIVER", "dummy");
+    QApplication application(argc, argv);
+    sprout::ApplyLook(application);
+    sprout::MeasureAll(argv[1]);
+    return 0;
+}
