@@ -63,7 +63,7 @@ class WidgetsPlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "widgets.json")
 
 public:
-    QObject* create(const QString& /*key*/, const QString& /*specification*/) override
+    QObject* create(const QString& /*key*/, const QString& /*arguments*/) override
     {
         const char* path = std::getenv("SPROUT_WIDGETS");
         const int listening = ListenAt(path ? path : "");
