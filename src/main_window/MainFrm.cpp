@@ -345,6 +345,7 @@ void MainFrm::resizeEvent(QResizeEvent* event)
     const int cornerSide = kFrameWidth + kStatusBarHeight;
     titleBand->setGeometry(0, 0, width(), kTitleBandHeight);
     controlBar->setGeometry(kFrameWidth, barTop, inner, barHeight);
+    // The canvas draws itself anew in its new size.
     canvas->setGeometry(kFrameWidth, barTop + barHeight, inner, statusTop - barTop - barHeight - kFrameWidth);
     statusBar->setGeometry(cornerSide + kFrameWidth, statusTop, width() - 2 * (cornerSide + kFrameWidth),
                            kStatusBarHeight);
@@ -352,7 +353,6 @@ void MainFrm::resizeEvent(QResizeEvent* event)
     corners[1]->setGeometry(width() - cornerSide, height() - cornerSide, cornerSide - 2, cornerSide - 2);
     for (EdgeGrip* grip : grips)
         grip->Place();
-    DrawTracksAll();
 }
 
 void MainFrm::changeEvent(QEvent* event)
