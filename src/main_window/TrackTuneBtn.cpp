@@ -8,6 +8,7 @@
 #include "main_window/TrackPictures.h"
 #include "ui/Hints.h"
 #include "ui/Palette.h"
+#include "ui/PlainToolTip.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -35,7 +36,7 @@ TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
 void TrackTuneBtn::SetTune(const Tune& tune)
 {
     raised = RaisedTunePicture(tune.Picture);
-    setToolTip(tune.Name.empty() ? tr("Tune Button") : QtText(tune.Name));
+    setToolTip(tune.Name.empty() ? tr("Tune Button") : PlainToolTip(tune.Name));
     update();
 }
 

@@ -8,6 +8,7 @@
 #include "tune_window/TunFramPic.h"
 #include "tune_window/rules/StepEdits.h"
 #include "ui/Dialogs.h"
+#include "ui/PlainToolTip.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -102,7 +103,7 @@ void StepEditor::MoveOnSurface(QPoint place)
 void StepEditor::ShowPointer(const StepPointer& pointer)
 {
     ShowHint(QtText(pointer.hint));
-    surface->setToolTip(QtText(pointer.toolTip));
+    surface->setToolTip(PlainToolTip(pointer.toolTip));
     if (pointer.cursor == StepCursor::PianoCursorImg)
         surface->setCursor(pianoCursor);
     else

@@ -18,6 +18,7 @@
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/PictureGridAccessible.h"
+#include "ui/PlainToolTip.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -176,7 +177,7 @@ void PictureGridPic::SetScrollRange()
 
 void PictureGridPic::PlaceFrame()
 {
-    blinkSelectImg->setToolTip(HasChoice() ? QtText(Entry(selected).Name) : QString());
+    blinkSelectImg->setToolTip(HasChoice() ? PlainToolTip(Entry(selected).Name) : QString());
     if (!HasChoice() || !IsInGridView(Grid(), selected)) {
         blinkSelectImg->move(kFrameOutOfSight, kFrameOutOfSight);
         blinkSelectedTimer->stop();
@@ -269,7 +270,7 @@ void PictureGridPic::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint at = event->position().toPoint();
     const int index = HitTestGrid(Grid(), at.x(), at.y());
-    setToolTip(index == 0 ? QString() : QtText(Entry(index).Name));
+    setToolTip(index == 0 ? QString() : PlainToolTip(Entry(index).Name));
     Q_EMIT Hovered(index);
 }
 

@@ -131,9 +131,13 @@ TEST_F(TrackTitlePicTest, TheTuneButtonTellsTheTunesNameAndLetsItPlay)
     TrackOf(1).TrackTune.Name = "Bambu";
     QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(12, 10));
     EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("Bambu"));
+    TrackOf(1).TrackTune.Name = "<b>Bambu</b>";
+    QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(13, 10));
+    EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("<p>&lt;b&gt;Bambu&lt;/b&gt;</p>"))
+        << "it comes from a stranger's file";
     Hover(40, RowY(2) + 20);
     QTest::mouseMove(&Part("TrackAudioBtn"), QPoint(10, 10));
-    EXPECT_EQ(titlePlays, 3);
+    EXPECT_EQ(titlePlays, 4);
 }
 
 TEST_F(TrackTitlePicTest, TheTuneButtonHidesWhereItsTrackIsGone)

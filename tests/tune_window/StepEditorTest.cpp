@@ -238,6 +238,13 @@ TEST_F(PointerTest, ShowsTheHintOfWhatItRestsOn)
     EXPECT_EQ(Surface().toolTip(), QString());
 }
 
+TEST_F(PointerTest, ShowsANameThatLooksLikeRichTextAsItIsWritten)
+{
+    tune.Steps[1].StepBeat.Name = "<b>Drum</b>";
+    MoveTo(In(1, 100));
+    EXPECT_EQ(Surface().toolTip(), QStringLiteral("<p>&lt;b&gt;Drum&lt;/b&gt;</p>"));
+}
+
 TEST_F(PointerTest, LosesItsToolTipWithTheNextDrawing)
 {
     MoveTo(In(1, 100));

@@ -189,6 +189,15 @@ TEST_F(PictureGridPicTest, NamesThePictureUnderThePointer)
     EXPECT_EQ(hovered.last().at(0).toInt(), 0);
 }
 
+TEST_F(PictureGridPicTest, ShowsANameThatLooksLikeRichTextAsItIsWritten)
+{
+    grid.SetEntries({{OneColour(kGreen), "<i>one</i>", true}, {OneColour(kGreen), "<b>two</b> & 3 < 4", true}});
+    Choose(1);
+    EXPECT_EQ(grid.BlinkSelectImg().toolTip(), QStringLiteral("<p>&lt;i&gt;one&lt;/i&gt;</p>"));
+    QTest::mouseMove(&grid, QPoint(50, 10));
+    EXPECT_EQ(grid.toolTip(), QStringLiteral("<p>&lt;b&gt;two&lt;/b&gt; &amp; 3 &lt; 4</p>"));
+}
+
 TEST_F(PictureGridPicTest, PressesTheNeighbourWithAnArrowKey)
 {
     Choose(14);
