@@ -110,7 +110,8 @@ void StepEditor::MakeTunFramPic()
             [this](QPoint place, Qt::MouseButton button) { Guarded([&] { PressSurface(place, button); }); });
     connect(surface, &TunFramPic::Released, this,
             [this](QPoint place, Qt::MouseButton button) { Guarded([&] { ReleaseSurface(place, button); }); });
-    connect(surface, &TunFramPic::Moved, this, [this](QPoint place) { Guarded([&] { MoveOnSurface(place); }); });
+    connect(surface, &TunFramPic::Moved, this,
+            [this](QPoint place, Qt::MouseButtons held) { Guarded([&] { MoveOnSurface(place, held); }); });
     connect(surface, &TunFramPic::Wheeled, this,
             [this](int pixels) { TunFramHScroll->setValue(TunFramHScroll->value() + pixels); });
     connect(surface, &TunFramPic::Resized, this, [this] { Guarded([this] { UpdateThisTune(); }); });
@@ -198,6 +199,12 @@ void StepEditor::UpdateThisTune()
     SyncStepCombo();
     SetStepScroll();
     DrawTuneSteps();
+}
+
+void StepEditor::Unload()
+{
+    DurationDragging = false;
+    HidePlayMarks();
 }
 
 void StepEditor::SyncStepCombo()

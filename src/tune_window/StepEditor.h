@@ -40,6 +40,9 @@ public:
     /// Shows `CurrentTune` from its first step.
     void UpdateThisTune();
 
+    /// Ends what must not outlast the window's closing: the play marks and the drag of a bar.
+    void Unload();
+
     /// Plays `CurrentTune`, rendered if it must be, behind `leadIn` (>= 0) seconds of silence, and follows it with the
     /// play marks.
     void PlayCurrentTune(float leadIn);
@@ -85,7 +88,7 @@ private:
     void PressKey(std::int32_t step, QPoint place, Qt::MouseButton button);
     void PressStrip(std::int32_t step, QPoint place, Qt::MouseButton button);
     void ReleaseSurface(QPoint place, Qt::MouseButton button);
-    void MoveOnSurface(QPoint place);
+    void MoveOnSurface(QPoint place, Qt::MouseButtons held);
     void ShowPointer(const StepPointer& pointer);
     void OfferHandle(QPoint place);
 

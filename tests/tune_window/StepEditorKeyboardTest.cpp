@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 
 #include <memory>
 
@@ -94,6 +95,24 @@ TEST_F(StepEditorKeyboardTest, SpaceTogglesTheLampAndKeepsTheStepInView)
     EXPECT_EQ(editorDisplay.tunesShown, 1);
     EXPECT_EQ(FocusedStep(), 60);
     EXPECT_EQ(Scroll().value(), scrolled);
+}
+
+TEST_F(StepEditorKeyboardTest, AKeyThatIsHeldDownEditsOnceAndOnlyArrowsRepeat)
+{
+    const auto hold = [this](Qt::Key key) {
+        for (const bool again : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), again);
+            QApplication::sendEvent(&StepButton(1), &press);
+        }
+    };
+    hold(Qt::Key_Space);
+    EXPECT_EQ(tune.Steps[1].OnPos, 0);
+    EXPECT_EQ(edits, 1);
+    hold(Qt::Key_Delete);
+    EXPECT_EQ(tune.Steps[1].StepBeat.Name, "B2");
+    EXPECT_EQ(edits, 2);
+    hold(Qt::Key_Up);
+    EXPECT_EQ(tune.Steps[1].PitchShift, 3);
 }
 
 TEST_F(StepEditorKeyboardTest, EnterOpensTheChooserOfAnOnStep)

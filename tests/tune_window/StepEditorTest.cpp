@@ -304,6 +304,22 @@ TEST_F(BarTest, IsDrawnOutByItsEndAndKeepsWhatIsRendered)
     EXPECT_TRUE(tune.TuneWaveValid);
 }
 
+TEST_F(BarTest, IsLetGoWhenTheReleaseWentElsewhere)
+{
+    const auto send = [this](QEvent::Type type, QPoint place, Qt::MouseButton held) {
+        QMouseEvent event(type, place, Surface().mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+        QApplication::sendEvent(&Surface(), &event);
+    };
+    const QPoint handle = HandleOf(Surface().DurationBars()[1]);
+    send(QEvent::MouseMove, handle, Qt::NoButton);
+    ASSERT_FALSE(Handle().isHidden());
+    send(QEvent::MouseButtonPress, handle, Qt::LeftButton);
+    send(QEvent::MouseMove, handle + QPoint(5, 0), Qt::NoButton);
+    EXPECT_EQ(tune.Steps[1].Duration, 100) << "no button is down any more";
+    ClickAt(In(2, 100));
+    EXPECT_EQ(chooserGot.size(), 1U);
+}
+
 TEST_F(BarTest, CanBeDrawnOutFromADurationOf0)
 {
     tune.Steps[1].Duration = 0;
