@@ -172,9 +172,11 @@ void TuneFrm2::Open()
     FitTo(screen()->availableGeometry().size());
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
+    editor->UpdateThisTune(); // no tune of the table may take its place
     Guarded([this] { FindChosenTune(); });
     ShowAllPic->setFocus();
     ShowModal();
+    editor->Unload();
 }
 
 void TuneFrm2::TakeTuneTable()
