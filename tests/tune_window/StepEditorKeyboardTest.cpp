@@ -57,6 +57,19 @@ TEST_F(StepEditorKeyboardTest, StepsThatAreAddedAreReachedInTheirOrder)
     EXPECT_EQ(editor.findChild<QWidget*>(QStringLiteral("Step3")), nullptr);
 }
 
+TEST_F(StepEditorKeyboardTest, ATuneOfAnyLengthHasNoMoreThan256StepsForTheKeyboard)
+{
+    ShowTuneOf(5000);
+    EXPECT_TRUE(editor.findChild<QWidget*>(QStringLiteral("Step256")));
+    EXPECT_FALSE(editor.findChild<QWidget*>(QStringLiteral("Step257")));
+    Press(256, Qt::Key_Right);
+    Scroll().setValue(Scroll().maximum());
+    ClickAt(QPoint(StepLeft(5000, StepsLeftAt(Scroll().value())) + 10, 141 + 3));
+    EXPECT_EQ(tune.Steps[5000].PitchShift, 11);
+    ShowTuneOf(3);
+    EXPECT_FALSE(editor.findChild<QWidget*>(QStringLiteral("Step4")));
+}
+
 TEST_F(StepEditorKeyboardTest, LeftAndRightWalkTheSteps)
 {
     StepButton(2).setFocus();
