@@ -202,12 +202,6 @@ void StepEditor::UpdateThisTune()
     DrawTuneSteps();
 }
 
-void StepEditor::Unload()
-{
-    DurationDragging = false;
-    HidePlayMarks();
-}
-
 void StepEditor::SyncStepCombo()
 {
     const int index = StepNosCmb->findData(Shared().CurrentTune.StepCount);

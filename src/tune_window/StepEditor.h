@@ -40,9 +40,6 @@ public:
     /// Shows `CurrentTune` from its first step.
     void UpdateThisTune();
 
-    /// Ends what must not outlast the window's closing: the play marks and the drag of a bar.
-    void Unload();
-
     /// Plays `CurrentTune`, rendered if it must be, behind `leadIn` (>= 0) seconds of silence, and follows it with the
     /// play marks.
     void PlayCurrentTune(float leadIn);

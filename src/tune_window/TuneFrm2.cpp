@@ -176,7 +176,7 @@ void TuneFrm2::Open()
     Guarded([this] { FindChosenTune(); });
     ShowAllPic->setFocus();
     ShowModal();
-    editor->Unload();
+    editor->HidePlayMarks();
 }
 
 void TuneFrm2::TakeTuneTable()

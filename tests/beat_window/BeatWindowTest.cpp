@@ -164,6 +164,10 @@ TEST_F(BeatWindowTest, ScrollsToTheRowsThatDoNotFit)
     EXPECT_FALSE(Grid().BlinkSelectedTimer().isActive());
     ClickBeat(109);
     EXPECT_EQ(TextOf("NmLbl"), "beat1108");
+    EXPECT_EQ(Grid().TopRow(), 3);
+    window->LoadBeatFiles();
+    EXPECT_EQ(Grid().TopRow(), 1) << "as after every command";
+    EXPECT_EQ(Grid().VScroll1().value(), 1);
 }
 
 TEST_F(BeatWindowTest, BeginsAtTheFirstRowAlsoWhereTheChosenBeatIsNotInView)

@@ -96,6 +96,16 @@ TEST_F(PictureGridPicTest, PutsTheSelectionFrameInPlaceOfTheBorder)
     EXPECT_EQ(PixelAt(45, 60), QColor(0x00, 0xA0, 0x00));
 }
 
+TEST_F(PictureGridPicTest, BeginsWithTheFirstFrameAtEveryChoice)
+{
+    Choose(3);
+    grid.Blink();
+    grid.Blink();
+    ASSERT_EQ(grid.BlinkSelectImg().Phase(), 1);
+    Choose(4);
+    EXPECT_EQ(grid.BlinkSelectImg().Phase(), 0);
+}
+
 TEST_F(PictureGridPicTest, ShowsTheTwoFramesInTurn)
 {
     Choose(1);
