@@ -331,7 +331,7 @@ void MainFrm::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), kPaper);
     if (isMaximized())
         return;
-    painter.setPen(QPen(kBark, 2));
+    painter.setPen(QPen(kBark, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin)); // the default join cuts the corners
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
