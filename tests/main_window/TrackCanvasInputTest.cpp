@@ -265,8 +265,10 @@ TEST_F(TrackCanvasInputTest, KeysMoveTheCellCursorAndPaint)
     Key(Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(Part("CellCursor").pos(), QPoint(CellX(2), RowY(2) + 7));
     EXPECT_EQ(cellText, "2");
+    EXPECT_EQ(Pic().accessibleName(), QStringLiteral("Track 2, cell 2, empty"));
     Key(Qt::Key_Return);
     EXPECT_THAT(Painted(2, 1, 3), ElementsAre(0, 1, 0));
+    EXPECT_EQ(Pic().accessibleName(), QStringLiteral("Track 2, cell 2, painted"));
     // A stroke from there, taken back by a cell.
     const auto both = Qt::ControlModifier | Qt::ShiftModifier;
     for (int i = 0; i < 4; ++i)
