@@ -5,6 +5,7 @@
 
 #include "main_window/CanvasFixture.h"
 #include "ui/ModalSteps.h"
+#include "ui/Palette.h"
 
 namespace sprout {
 namespace {
@@ -236,6 +237,21 @@ TEST_F(TrackTitlePicTest, AChosenRowIsScrolledIntoViewAndFramed)
     EXPECT_NE(Shown(Strip()).pixelColor(0, RowY(1)), without.pixelColor(0, RowY(1)));
     Pic().setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(Shown(Strip()), without);
+}
+
+TEST_F(TrackTitlePicTest, TheFrameOfATrackThatIsGoneGoesToTheLastOne)
+{
+    SetTracks(3);
+    Strip().setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&Strip(), Qt::Key_Down);
+    QTest::keyClick(&Strip(), Qt::Key_Down);
+    const auto framed = [this](std::int32_t row) { return ColourAt(Strip(), 0, RowY(row) + 30) == kLink; };
+    EXPECT_TRUE(framed(3));
+    SetTracks(2);
+    EXPECT_FALSE(framed(3));
+    EXPECT_TRUE(framed(2));
+    SetTracks(0);
+    EXPECT_FALSE(framed(1));
 }
 
 } // namespace
