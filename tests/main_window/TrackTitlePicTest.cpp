@@ -83,6 +83,9 @@ TEST_F(TrackTitlePicTest, FloatsDeleteAndPlayInTheirRangesAlone)
 
 TEST_F(TrackTitlePicTest, HidesTheButtonsOutsideTheRowsAndWhereThePointerLeaves)
 {
+    Hover(117, RowY(1) + 20);
+    QTest::mouseMove(&Part("TrackTopLbl"), QPoint(10, 10));
+    EXPECT_THAT(Floating(), IsEmpty());
     for (const int y : {5, 17, RowY(3) + 20}) {
         Hover(117, RowY(1) + 20);
         ASSERT_THAT(Floating(), ElementsAre("TrackPlayBtn"));
@@ -105,6 +108,17 @@ TEST_F(TrackTitlePicTest, HideTrackButtonsAndAWholeRedrawHideTheButtons)
     Hover(117, RowY(1) + 20);
     canvas->DrawTracksAll();
     EXPECT_THAT(Floating(), IsEmpty());
+}
+
+TEST_F(TrackTitlePicTest, APressShowsWhatItWouldPressWhereARedrawHidTheButtons)
+{
+    Hover(117, RowY(1) + 20);
+    canvas->DrawTracksAll(); // as behind a scroll or a deleted track, with the pointer at rest
+    ASSERT_THAT(Floating(), IsEmpty());
+    QTest::mouseClick(&Strip(), Qt::LeftButton, {}, QPoint(117, RowY(2) + 20));
+    EXPECT_THAT(Floating(), ElementsAre("TrackPlayBtn"));
+    EXPECT_EQ(canvas->HoverTrack(), 2);
+    EXPECT_THAT(asked, IsEmpty());
 }
 
 TEST_F(TrackTitlePicTest, AMoveOverTheStripClearsTheHintAndOneOverAButtonShowsIts)
@@ -132,9 +146,12 @@ TEST_F(TrackTitlePicTest, TheTuneButtonTellsTheTunesNameAndLetsItPlay)
     TrackOf(1).TrackTune.Name = "Bambu";
     QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(12, 10));
     EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("Bambu"));
+    TrackOf(1).TrackTune.Name = "<b>Bold</b>"; // a name, and no way to write it
+    QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(13, 10));
+    EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("<p>&lt;b&gt;Bold&lt;/b&gt;</p>"));
     Hover(40, RowY(2) + 20);
     QTest::mouseMove(&Part("TrackAudioBtn"), QPoint(10, 10));
-    EXPECT_EQ(titlePlays, 3);
+    EXPECT_EQ(titlePlays, 4);
 }
 
 TEST_F(TrackTitlePicTest, TheTuneButtonHidesWhereItsTrackIsGone)
