@@ -296,6 +296,16 @@ TEST_F(TrackCanvasInputTest, TheKeysCellIsScrolledIntoView)
     EXPECT_EQ(At(TrackOf(12).Painted, 202), 1);
 }
 
+TEST_F(TrackCanvasInputTest, EnterUsesTheToolOnTheLastRowWhereThatOfTheKeysIsGone)
+{
+    SetTracks(3);
+    for (int i = 0; i < 2; ++i)
+        Key(Qt::Key_Down, Qt::ControlModifier);
+    SetTracks(2);
+    Key(Qt::Key_Return);
+    EXPECT_THAT(Painted(2, 1, 2), ElementsAre(1, 0));
+}
+
 TEST_F(TrackCanvasInputTest, KeysDoNothingInASongOfNoCells)
 {
     Song().SongCells = 0;

@@ -5,6 +5,8 @@
 
 #include <QClipboard>
 
+#include <unistd.h>
+
 #include "core/Errors.h"
 #include "core/Shared.h"
 #include "service/Services.h"
@@ -29,6 +31,34 @@ public:
         throw RunTimeError("No space left on device.");
     }
     void DeleteStaleFile(const fs::path& /*path*/) override {}
+};
+
+/// A folder in which nothing can be deleted, not by root either, who lays down its rights.
+class UnchangeableFolder {
+public:
+    UnchangeableFolder(const fs::path& parent, const fs::path& lockedFolder) : folder(lockedFolder)
+    {
+        constexpr auto readAndEnter = fs::perms(0555);
+        fs::permissions(parent, fs::perms(0755));
+        fs::permissions(folder, readAndEnter);
+        if (wasRoot) {
+            EXPECT_EQ(seteuid(kNobody), 0);
+        }
+    }
+    UnchangeableFolder(const UnchangeableFolder&) = delete;
+    UnchangeableFolder& operator=(const UnchangeableFolder&) = delete;
+    ~UnchangeableFolder()
+    {
+        if (wasRoot) {
+            EXPECT_EQ(seteuid(0), 0);
+        }
+        fs::permissions(folder, fs::perms::owner_all);
+    }
+
+private:
+    static constexpr uid_t kNobody = 65534;
+    fs::path folder;
+    bool wasRoot = geteuid() == 0;
 };
 
 /// What a message or a question showed.
@@ -227,7 +257,9 @@ TEST_F(SongSelFrmTest, OpensTheSelectedSongOnly)
     Open(SongSelMode::Open);
     EXPECT_EQ(ClickAndAnswer("OkBtn", "OkBtn").line1, QStringLiteral("Song not selected."));
     ClickRow(1);
-    Click(form, "OkBtn");
+    ShowHint(QStringLiteral("A hint"));
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_EQ(statusLbl.text(), QString());
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(form.Ok);
     EXPECT_EQ(form.ChosenName, "Zumi");
@@ -491,6 +523,24 @@ TEST_F(SongSelFrmTest, DeletingAsksFirst)
     EXPECT_EQ(statusLbl.text(), QString());
 }
 
+TEST_F(SongSelFrmTest, ADeleteThatFailsIsToldAndLeavesTheSong)
+{
+    Put({"Rain", "Zumi"});
+    Open(SongSelMode::Open);
+    ClickRow(0);
+    {
+        const UnchangeableFolder locked(services.folder.Path(), songFolder);
+        ClickAndAnswer("DeleteBtn", "YesBtn");
+    }
+    ASSERT_EQ(services.messages.shown.size(), 1U);
+    EXPECT_EQ(services.messages.shown.front().title, "");
+    EXPECT_THAT(services.messages.shown.front().text, testing::StartsWith("Error Deleting file\r\n"));
+    EXPECT_EQ(statusLbl.text(), QString()); // not the question's hint
+    EXPECT_TRUE(HasSong("Rain"));
+    EXPECT_EQ(Selected(), QStringLiteral("Rain"));
+    EXPECT_TRUE(form.isVisible());
+}
+
 TEST_F(SongSelFrmTest, AfterTheLastLineIsDeletedTheNewLastOneIsSelected)
 {
     Put({"Apple", "Rain", "Zumi"});
@@ -524,6 +574,8 @@ TEST_F(SongSelFrmTest, ARenamedSongIsSelectedUnderItsNewName)
     EXPECT_EQ(Selected(), QStringLiteral("Ape"));
     EXPECT_EQ(ReadBytes(songFolder / "Ape.TqSng"), "Zumi");
     EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
+    Rename(QStringLiteral("Sky")); // behind another
+    EXPECT_EQ(Selected(), QStringLiteral("Sky"));
 }
 
 TEST_F(SongSelFrmTest, RenamingStartsWithTheOldNameAndAnEmptyAnswerEndsIt)
