@@ -5,6 +5,8 @@
 
 #include <QClipboard>
 
+#include <linux/capability.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 #include "core/Errors.h"
@@ -33,32 +35,35 @@ public:
     void DeleteStaleFile(const fs::path& /*path*/) override {}
 };
 
-/// A folder in which nothing can be deleted, not by root either, who lays down its rights.
+/// A folder in which nothing can be deleted as long as it lives, not by root either, who lays down the right to all.
 class UnchangeableFolder {
 public:
-    UnchangeableFolder(const fs::path& parent, const fs::path& lockedFolder) : folder(lockedFolder)
+    explicit UnchangeableFolder(const fs::path& lockedFolder) : folder(lockedFolder)
     {
-        constexpr auto readAndEnter = fs::perms(0555);
-        fs::permissions(parent, fs::perms(0755));
-        fs::permissions(folder, readAndEnter);
-        if (wasRoot) {
-            EXPECT_EQ(seteuid(kNobody), 0);
-        }
+        fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
+        EXPECT_EQ(syscall(SYS_capget, &head, rights), 0);
+        rightsBefore = rights[0].effective;
+        SetRights(rightsBefore & ~(1U << CAP_DAC_OVERRIDE));
     }
     UnchangeableFolder(const UnchangeableFolder&) = delete;
     UnchangeableFolder& operator=(const UnchangeableFolder&) = delete;
     ~UnchangeableFolder()
     {
-        if (wasRoot) {
-            EXPECT_EQ(seteuid(0), 0);
-        }
+        SetRights(rightsBefore);
         fs::permissions(folder, fs::perms::owner_all);
     }
 
 private:
-    static constexpr uid_t kNobody = 65534;
+    void SetRights(std::uint32_t effective)
+    {
+        rights[0].effective = effective;
+        EXPECT_EQ(syscall(SYS_capset, &head, rights), 0);
+    }
+
     fs::path folder;
-    bool wasRoot = geteuid() == 0;
+    __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct rights[2]{};
+    std::uint32_t rightsBefore = 0;
 };
 
 /// What a message or a question showed.
@@ -529,7 +534,7 @@ TEST_F(SongSelFrmTest, ADeleteThatFailsIsToldAndLeavesTheSong)
     Open(SongSelMode::Open);
     ClickRow(0);
     {
-        const UnchangeableFolder locked(services.folder.Path(), songFolder);
+        const UnchangeableFolder locked(songFolder);
         ClickAndAnswer("DeleteBtn", "YesBtn");
     }
     ASSERT_EQ(services.messages.shown.size(), 1U);
