@@ -28,6 +28,7 @@
 #include "ui/LaterCommands.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -116,6 +117,7 @@ MainFrm::MainFrm(TransportCommands& transport)
                            [this](bool opening) { trackCommands->SetOpening(opening); }})
 {
     setObjectName(QStringLiteral("MainFrm"));
+    SetSpokenRole(*this, QAccessible::Window);
     setWindowIcon(QIcon(Artwork(QStringLiteral("pictures/Sprout"), QSize(kWindowIconSide, kWindowIconSide), 1)));
     setMinimumSize(kLeastWindowWidth, kLeastWindowHeight);
     MakeButtons();
@@ -265,6 +267,7 @@ void MainFrm::ChooseTool(Tool tool)
     };
     for (const ToolButton& row : {ToolButton{Tool::Brush, "BrushBtn"}, ToolButton{Tool::Eraser, "EraserBtn"},
                                   ToolButton{Tool::PlayTool, "PlayToolBtn"}}) {
+        SetSpokenChoice(buttons.Button(row.name), row.tool == tool);
         if (row.tool == tool)
             buttons.ButtonSetOn(buttons.Button(row.name));
         else
@@ -331,7 +334,7 @@ void MainFrm::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), kPaper);
     if (isMaximized())
         return;
-    painter.setPen(QPen(kBark, 2));
+    painter.setPen(QPen(kBark, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin)); // the default join cuts the corners
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 

@@ -12,6 +12,7 @@
 #include "main_window/rules/CellValues.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -52,6 +53,7 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
 {
     songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
+    SetSpokenRole(*this, QAccessible::Canvas);
     setAccessibleName(tr("Tracks"));
     setAccessibleDescription(tr(
         "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "

@@ -8,8 +8,8 @@
 #include "main_window/TrackPictures.h"
 #include "ui/Hints.h"
 #include "ui/Palette.h"
-#include "ui/PlainToolTip.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -36,7 +36,7 @@ TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
 void TrackTuneBtn::SetTune(const Tune& tune)
 {
     raised = RaisedTunePicture(tune.Picture);
-    setToolTip(tune.Name.empty() ? tr("Tune Button") : PlainToolTip(tune.Name));
+    setToolTip(tune.Name.empty() ? tr("Tune Button") : QtTip(tune.Name));
     update();
 }
 

@@ -8,8 +8,8 @@
 #include "tune_window/TunFramPic.h"
 #include "tune_window/rules/StepEdits.h"
 #include "ui/Dialogs.h"
-#include "ui/PlainToolTip.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -111,7 +111,7 @@ void StepEditor::MoveOnSurface(QPoint place, Qt::MouseButtons held)
 void StepEditor::ShowPointer(const StepPointer& pointer)
 {
     ShowHint(QtText(pointer.hint));
-    surface->setToolTip(PlainToolTip(pointer.toolTip));
+    surface->setToolTip(QtTip(pointer.toolTip));
     if (pointer.cursor == StepCursor::PianoCursorImg)
         surface->setCursor(pianoCursor);
     else

@@ -18,8 +18,8 @@
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/PictureGridPic.h"
-#include "ui/PlainToolTip.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -39,7 +39,7 @@ void PutAt(QWidget& widget, const PlanBox& box)
 void SetFittingText(QLabel& label, const QString& text)
 {
     label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
-    label.setToolTip(label.text() == text ? QString() : PlainToolTip(text));
+    label.setToolTip(label.text() == text ? QString() : QtTip(text.toStdString()));
     label.setAccessibleName(text);
 }
 
