@@ -197,6 +197,22 @@ TEST_F(MainFrmTest, CutsATitleThatIsTooLongAndTellsItWholeToAScreenReader)
     EXPECT_EQ(Control("SngTitleLbl").accessibleName().size(), 300);
 }
 
+TEST_F(MainFrmTest, KeepsTheControlBarInOneLineDownToAThousandPixels)
+{
+    Song().SongTitle = "Zumi";
+    Song().SongCreatedBy = "Lina";
+    window->resize(1000, 640);
+    window->UpdateSongTitle();
+    EXPECT_EQ(Control("PlayAllBtn").y(), Control("DemoBtn").y());
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Zumi");
+    EXPECT_FALSE(Control("SngCreateLbl").isVisible());
+    for (const QSize size : {QSize(1280, 640), QSize(800, 640)}) {
+        window->resize(size);
+        EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
+        EXPECT_TRUE(Control("SngCreateLbl").isVisible());
+    }
+}
+
 TEST_F(MainFrmTest, MaximizesAndRestoresAndShowsTheButtonThatMakesSense)
 {
     EXPECT_TRUE(Control("MaximizeImgBtn").isVisible());
