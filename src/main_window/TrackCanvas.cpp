@@ -104,6 +104,7 @@ void TrackCanvas::DrawTracksAll()
     FitScrollBars();
     titlePic->Clear();
     trackPic->Clear();
+    trackPic->DrawMeadow(song.TrackCount);
     DrawTrackTop();
     for (std::int32_t track = 1; track <= song.TrackCount; ++track)
         DrawTrackOne(track);
