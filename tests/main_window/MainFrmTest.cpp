@@ -528,6 +528,19 @@ TEST_F(MainFrmTest, LivesWithASongOfNoTracks)
     EXPECT_EQ(Song().TrackCount, 2);
 }
 
+TEST_F(MainFrmTest, GivesTheRoomOfTheStatusLineToTheTracksInTheLowestWindow)
+{
+    window->resize(533, 200);
+    EXPECT_FALSE(Control("StatusFramePic").isVisible());
+    EXPECT_FALSE(Control("Corner4Pic").isVisible());
+    EXPECT_EQ(Control("TrackFramePic").geometry().bottom(), 193);
+    EXPECT_GT(Control("TrackPic").height(), 20 + 7);
+    window->resize(533, 266);
+    EXPECT_TRUE(Control("StatusFramePic").isVisible());
+    EXPECT_TRUE(Control("Corner4Pic").isVisible());
+    EXPECT_EQ(Control("TrackPic").height(), 20 + 46);
+}
+
 TEST_F(MainFrmTest, IsDrawnAtEverySizeItMayHave)
 {
     for (const QSize size : {QSize(533, 200), QSize(680, 400), QSize(800, 600), QSize(1200, 700), QSize(1920, 1080)}) {

@@ -112,6 +112,11 @@ std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount)
     return (trackCount - view.FirstTrack + 1) * kRowHeight + kAddButtonsBelow;
 }
 
+bool CanvasShowsARow(std::int32_t canvasHeight)
+{
+    return canvasHeight >= kFirstRowTop + kRowHeight + kScrollBarBreadth;
+}
+
 std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackCount)
 {
     const std::int32_t top = view.trackPicHeight - kMeadowHeight;

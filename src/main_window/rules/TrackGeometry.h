@@ -84,6 +84,12 @@ inline constexpr std::int32_t kAddButtonsApart = 55;
 /// Top of the buttons that add a track, below the last row.
 [[nodiscard]] std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount);
 
+/// Breadth of the canvas's scroll bars.
+inline constexpr std::int32_t kScrollBarBreadth = 18;
+
+/// True where a canvas of this height shows a whole row above its scroll bar.
+[[nodiscard]] bool CanvasShowsARow(std::int32_t canvasHeight);
+
 /// Height of the meadow on the lower edge of the painting surface.
 inline constexpr std::int32_t kMeadowHeight = 80;
 

@@ -20,6 +20,12 @@ TEST(RowTop, CountsFromTheFirstTrackInView)
     EXPECT_EQ(RowTop(ViewFrom(3), 2), -26);
 }
 
+TEST(CanvasShowsARow, NeedsTheTimeBandARowAndTheScrollBar)
+{
+    EXPECT_TRUE(CanvasShowsARow(84));
+    EXPECT_FALSE(CanvasShowsARow(83));
+}
+
 TEST(MeadowTop, StandsOnTheLowerEdgeWhereTheRowsLeaveRoom)
 {
     // Four rows end at 204.
