@@ -11,6 +11,7 @@
 #include <functional>
 #include <utility>
 
+#include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "main_window/rules/TempoSlider.h"
@@ -119,7 +120,7 @@ protected:
         if (event->button() != Qt::LeftButton)
             return;
         TempoDragging = true;
-        TempoDownX = static_cast<std::int32_t>(std::lround(event->position().x()));
+        TempoDownX = RoundHalfEven(event->position().x());
     }
 
     void mouseMoveEvent(QMouseEvent* event) override
@@ -127,15 +128,16 @@ protected:
         if (!TempoDragging)
             return;
         PutAt(slider.Dragged(left, event->position().x(), TempoDownX));
-        setValue(slider.PercentAt(left));
+        const std::int32_t percent = slider.PercentAt(left);
+        setValue(percent);
+        // Also where the value stays: a song's tempo beyond the slider has its own duration, which the drag ends.
+        slide(percent);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        if (event->button() != Qt::LeftButton || !TempoDragging)
-            return;
-        TempoDragging = false;
-        choose(slider.PercentAt(left));
+        if (event->button() == Qt::LeftButton)
+            EndDrag();
     }
 
     /// A wheel turned in passing changes nothing.
@@ -146,6 +148,13 @@ protected:
         if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
             ShowHint(property(kHintProperty).toString());
         QAbstractSlider::focusInEvent(event);
+    }
+
+    /// A window that opens during a drag gets the release in place of the pointer.
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        EndDrag();
+        QAbstractSlider::focusOutEvent(event);
     }
 
     void paintEvent(QPaintEvent* /*event*/) override
@@ -170,12 +179,19 @@ private:
         }
     }
 
+    /// What a key or a screen reader sets; a drag tells of itself.
     void TakeValue(int percent)
     {
-        if (TempoDragging)
-            slide(percent);
-        else if (percent != shown)
+        if (!TempoDragging && percent != shown)
             choose(percent);
+    }
+
+    void EndDrag()
+    {
+        if (!TempoDragging)
+            return;
+        TempoDragging = false;
+        choose(slider.PercentAt(left));
     }
 
     void PutAt(double newLeft)

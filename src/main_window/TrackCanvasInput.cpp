@@ -196,7 +196,7 @@ bool TrackCanvas::StepKeyCell(const QKeyEvent& event)
     if (!stroke.Dragging())
         keyTrack += arrow->tracks;
     keyTrack = std::clamp(keyTrack, 0, song.TrackCount);
-    keyCell = std::clamp(keyCell + arrow->cells, 1, song.SongCells);
+    keyCell = std::clamp(keyCell + arrow->cells, 1, std::max(song.SongCells, 1)); // a file may hold a song of no cells
     ShowKeyCell();
     return true;
 }

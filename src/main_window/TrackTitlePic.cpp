@@ -189,6 +189,7 @@ void TrackTitlePic::PaintRow(const Track& track, std::int32_t number)
 void TrackTitlePic::PlaceAddButtons(std::int32_t trackCount)
 {
     const int top = AddButtonsTop(view, trackCount);
+    chosenRow = std::min(chosenRow, trackCount); // the frame of a track that is gone goes to the last one
     addBtn->move(kAddButtonLeft, top);
     addRecBtn->move(kAddButtonLeft + kAddButtonsApart, top);
     topLbl->move(kAddButtonLeft, top + kAddButtonSize.height() + kTopLblGap);

@@ -178,6 +178,18 @@ TEST_F(MainFrmTest, ShowsTheCellUnderThePointer)
     EXPECT_EQ(TextOf("TrackMouPosLbl"), "11");
 }
 
+TEST_F(MainFrmTest, LabelsTheSecondsOfTheBandByTheNewTempo)
+{
+    const auto band = [this] { return Control("TrackPic").grab(QRect(20, 0, 400, 17)).toImage(); };
+    const QImage before = band();
+    QTest::keyClick(&Control("TempoPrtImg"), Qt::Key_Home);
+    ASSERT_EQ(Song().Tempo, 160);
+    const QImage after = band();
+    EXPECT_NE(after, before);
+    window->DrawTracksAll();
+    EXPECT_EQ(band(), after);
+}
+
 TEST_F(MainFrmTest, ShowsTitleAndAuthor)
 {
     Song().SongTitle = "Zumi";

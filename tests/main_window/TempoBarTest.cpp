@@ -121,6 +121,34 @@ TEST_F(TempoBarTest, ShowsADragAtOnceAndTakesItAtTheRelease)
     EXPECT_EQ(Text("SngDurLbl"), QStringLiteral("160 sec"));
 }
 
+TEST_F(TempoBarTest, ShowsTheDurationOfADragAlsoWhereTheTempoLayBeyondTheSlider)
+{
+    song.Tempo = 3200;
+    bar->UpdateTempoSliderValue();
+    ASSERT_EQ(Text("SngDurLbl"), QStringLiteral("24 sec"));
+    Press();
+    DragBy(20); // the pointer stands at the slot's end already
+    EXPECT_EQ(Text("TempoLbl"), QStringLiteral("200%"));
+    EXPECT_EQ(Text("SngDurLbl"), QStringLiteral("120 sec"));
+    EXPECT_EQ(song.Tempo, 3200);
+    Release();
+    EXPECT_EQ(song.Tempo, 640);
+}
+
+TEST_F(TempoBarTest, EndsADragWhoseReleaseGoesToAnotherWindow)
+{
+    QApplication::setActiveWindow(&window);
+    pointer().setFocus();
+    Press();
+    DragBy(50);
+    pointer().clearFocus();
+    EXPECT_EQ(song.Tempo, 480);
+    DragBy(20);
+    EXPECT_EQ(Text("TempoLbl"), QStringLiteral("150%"));
+    Release();
+    EXPECT_EQ(song.Tempo, 480);
+}
+
 TEST_F(TempoBarTest, MarksNothingWhereTheTempoComesBackAsItWas)
 {
     const QSignalSpy changes(bar.get(), &TempoBar::TempoChanged);
