@@ -345,11 +345,16 @@ void MainFrm::resizeEvent(QResizeEvent* event)
     const int barTop = kTitleBandHeight;
     const int barHeight = ControlBar::HeightFor(inner);
     const int statusTop = height() - kFrameWidth - kStatusBarHeight;
+    const int canvasTop = barTop + barHeight;
     const int cornerSide = kFrameWidth + kStatusBarHeight;
+    const bool hasStatus = CanvasShowsARow(statusTop - kFrameWidth - canvasTop);
+    for (QWidget* part : {static_cast<QWidget*>(statusBar), corners[0], corners[1]})
+        part->setVisible(hasStatus);
     titleBand->setGeometry(0, 0, width(), kTitleBandHeight);
     controlBar->setGeometry(kFrameWidth, barTop, inner, barHeight);
     // The canvas draws itself anew in its new size.
-    canvas->setGeometry(kFrameWidth, barTop + barHeight, inner, statusTop - barTop - barHeight - kFrameWidth);
+    const int canvasBottom = hasStatus ? statusTop - kFrameWidth : height() - kFrameWidth;
+    canvas->setGeometry(kFrameWidth, canvasTop, inner, canvasBottom - canvasTop);
     statusBar->setGeometry(cornerSide + kFrameWidth, statusTop, width() - 2 * (cornerSide + kFrameWidth),
                            kStatusBarHeight);
     corners[0]->setGeometry(2, height() - cornerSide, cornerSide - 2, cornerSide - 2);

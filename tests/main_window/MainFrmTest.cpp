@@ -256,6 +256,22 @@ TEST_F(MainFrmTest, CutsATitleThatIsTooLongAndTellsItWholeToAScreenReader)
     EXPECT_EQ(Control("SngTitleLbl").accessibleName().size(), 300);
 }
 
+TEST_F(MainFrmTest, KeepsTheControlBarInOneLineDownToAThousandPixels)
+{
+    Song().SongTitle = "Zumi";
+    Song().SongCreatedBy = "Lina";
+    window->resize(1000, 640);
+    window->UpdateSongTitle();
+    EXPECT_EQ(Control("PlayAllBtn").y(), Control("DemoBtn").y());
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Zumi");
+    EXPECT_FALSE(Control("SngCreateLbl").isVisible());
+    for (const QSize size : {QSize(1280, 640), QSize(800, 640)}) {
+        window->resize(size);
+        EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
+        EXPECT_TRUE(Control("SngCreateLbl").isVisible());
+    }
+}
+
 TEST_F(MainFrmTest, MaximizesAndRestoresAndShowsTheButtonThatMakesSense)
 {
     EXPECT_TRUE(Control("MaximizeImgBtn").isVisible());
@@ -569,6 +585,19 @@ TEST_F(MainFrmTest, LivesWithASongOfNoTracks)
     EXPECT_EQ(message.line1, QStringLiteral("Please select tune for track using tune button."));
     ClickButton("NewBtn");
     EXPECT_EQ(Song().TrackCount, 2);
+}
+
+TEST_F(MainFrmTest, GivesTheRoomOfTheStatusLineToTheTracksInTheLowestWindow)
+{
+    window->resize(533, 200);
+    EXPECT_FALSE(Control("StatusFramePic").isVisible());
+    EXPECT_FALSE(Control("Corner4Pic").isVisible());
+    EXPECT_EQ(Control("TrackFramePic").geometry().bottom(), 193);
+    EXPECT_GT(Control("TrackPic").height(), 20 + 7);
+    window->resize(533, 266);
+    EXPECT_TRUE(Control("StatusFramePic").isVisible());
+    EXPECT_TRUE(Control("Corner4Pic").isVisible());
+    EXPECT_EQ(Control("TrackPic").height(), 20 + 46);
 }
 
 TEST_F(MainFrmTest, IsDrawnAtEverySizeItMayHave)

@@ -253,7 +253,7 @@ TEST_F(TempoBarTest, ExplainsItselfOnTheStatusLine)
 
 TEST_F(TempoBarTest, FitsIntoANarrowWindow)
 {
-    bar->FitWidth(170);
+    bar->FitRoom({170, 40});
     EXPECT_LE(bar->width(), 170);
     EXPECT_LE(Control("TempoLbl").geometry().bottom(), Control("SngDurLbl").y());
     const QWidget& slot = Control("TempoSliderImg");
@@ -263,14 +263,32 @@ TEST_F(TempoBarTest, FitsIntoANarrowWindow)
     DragBy(-500);
     Release();
     EXPECT_EQ(song.Tempo, 160);
-    bar->FitWidth(1000);
+    bar->FitRoom({1000, 40});
     EXPECT_EQ(slot.width(), 184);
+}
+
+TEST_F(TempoBarTest, HasItsLabelsBelowTheSlotWhereTheRoomIsNarrowAndHigh)
+{
+    bar->FitRoom({126, 53});
+    EXPECT_EQ(bar->size(), QSize(126, 53));
+    EXPECT_EQ(Control("TempoSliderImg").width(), 126);
+    EXPECT_EQ(Control("TempoLbl").geometry(), QRect(13, 37, 50, 16));
+    EXPECT_EQ(Control("SngDurLbl").geometry(), QRect(63, 37, 50, 16));
+    for (const char* name : {"TempoLbl", "SngDurLbl"}) {
+        const auto& label = static_cast<const QLabel&>(Control(name));
+        EXPECT_GE(QFontInfo(label.font()).pixelSize(), 12);
+        EXPECT_LE(label.sizeHint().width(), label.width());
+    }
+    bar->FitRoom({300, 53});
+    EXPECT_EQ(bar->size(), QSize(184, 53));
+    bar->FitRoom({1000, 40});
+    EXPECT_EQ(bar->height(), 40);
 }
 
 TEST_F(TempoBarTest, MarksTheUsualTempoUnderThePointersMiddle)
 {
-    for (const int widthPx : {1000, 170}) {
-        bar->FitWidth(widthPx);
+    for (const QSize room : {QSize(1000, 40), QSize(170, 40), QSize(126, 53)}) {
+        bar->FitRoom(room);
         const QImage slot = Control("TempoSliderImg").grab().toImage();
         const int middle = pointer().x() + pointer().width() / 2;
         EXPECT_GT(slot.pixelColor(middle - 8, 6).lightness(), 150);

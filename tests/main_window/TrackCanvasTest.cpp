@@ -101,6 +101,18 @@ TEST_F(TrackCanvasTest, PutsStripSurfaceAndBarsSideBySide)
     EXPECT_EQ(canvas->View().trackPicWidth, 242);
 }
 
+TEST_F(TrackCanvasTest, HasAMeadowBelowFewTracksAndNoneBehindMany)
+{
+    const auto hasMeadow = [this] {
+        return ColourAt(Pic(), 300, kPicHeight - 1) != kPaper && ColourAt(Pic(), 590, kPicHeight - 1) != kPaper;
+    };
+    EXPECT_TRUE(hasMeadow());
+    EXPECT_EQ(ColourAt(Pic(), 300, kPicHeight - 81), kPaper);
+    SetTracks(4);
+    canvas->DrawTracksAll();
+    EXPECT_FALSE(hasMeadow());
+}
+
 TEST_F(TrackCanvasTest, GivesTrack9Tile10Track10Tile1AndTrack11Tile2)
 {
     SetTracks(20);
