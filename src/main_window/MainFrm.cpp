@@ -253,8 +253,7 @@ void MainFrm::WritePlaceToSettings() const
     PutSetting(kPlaceSection, "WindowState", isMinimized() ? "1" : isMaximized() ? "2" : "0");
     if (isMinimized() || isMaximized())
         return;
-    PutSetting(kPlaceSection, "Position", PairOfTwips(x(), y()));
-    PutSetting(kPlaceSection, "Size", PairOfTwips(width(), height()));
+    PutSettings(kPlaceSection, {{"Position", PairOfTwips(x(), y())}, {"Size", PairOfTwips(width(), height())}});
 }
 
 void MainFrm::ChooseTool(Tool tool)

@@ -74,10 +74,18 @@ TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
     return look;
 }
 
+void TrackPic::DrawAll(const SongState& song)
+{
+    Clear();
+    DrawTop(song);
+    for (std::int32_t track = 1; track <= song.TrackCount; ++track)
+        DrawRow(song, track);
+}
+
 void TrackPic::DrawRow(const SongState& song, std::int32_t track)
 {
     const auto row = static_cast<std::size_t>(track - view.FirstTrack);
-    if (!RowIsVisible(view, track) || row >= drawnRows.size())
+    if (IsStale() || !RowIsVisible(view, track) || row >= drawnRows.size())
         return;
     RowLook look = LookOf(song, track);
     if (drawnRows[row] == look)
@@ -97,7 +105,7 @@ void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
     if (!look.painted)
         painter.Write(kUnpaintedTextAt.x(), rowTop + kUnpaintedTextAt.y(), LabelFont(),
                       tr("Please paint on this track to play with others."));
-    update(background);
+    Changed(background);
 }
 
 void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
@@ -112,7 +120,7 @@ void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int
 void TrackPic::DrawTop(const SongState& song)
 {
     TopLook look{song.SongCells, song.Tempo, BusyMarks(song, view)};
-    if (drawnTop == look)
+    if (IsStale() || drawnTop == look)
         return;
     const QRect band(0, 0, width(), kTimeBandHeight);
     SurfacePainter painter = Painter();
@@ -121,7 +129,7 @@ void TrackPic::DrawTop(const SongState& song)
     PaintBusyMarks(painter, look.marks);
     PaintSeconds(painter, song);
     drawnTop = std::move(look);
-    update(band);
+    Changed(band);
 }
 
 void TrackPic::PaintBusyMarks(SurfacePainter& painter, const std::vector<BusyMark>& marks) const

@@ -81,18 +81,35 @@ void TrackSurface::Clear()
     if (kept.size() != DevicePixels())
         kept = QPixmap(DevicePixels());
     kept.fill(back);
+    isDrawn = true;
+    Changed(rect());
+}
+
+void TrackSurface::Forget()
+{
+    isDrawn = false;
     update();
+}
+
+void TrackSurface::Changed(const QRect& part)
+{
+    // What is drawn in a paint event is shown by it.
+    if (!isPainting)
+        update(part);
 }
 
 bool TrackSurface::IsStale() const
 {
-    return ratio != devicePixelRatioF() || kept.size() != DevicePixels();
+    return !isDrawn || ratio != devicePixelRatioF() || kept.size() != DevicePixels();
 }
 
 void TrackSurface::paintEvent(QPaintEvent* event)
 {
-    if (IsStale() && Redraw)
+    if (IsStale() && Redraw) {
+        isPainting = true;
         Redraw();
+        isPainting = false;
+    }
     QPainter painter(this);
     painter.save();
     // Without a scale the picture is copied and not resampled.
