@@ -5,8 +5,10 @@
 #include <QPixmap>
 
 #include <cstdint>
+#include <vector>
 
 #include "core/Song.h"
+#include "ui/Artwork.h"
 
 namespace sprout {
 
@@ -27,6 +29,9 @@ inline constexpr QSize kPlayPicSize{32, 32};
 [[nodiscard]] QPixmap BusyMarkPic(std::int32_t picture, qreal pixelRatio);
 /// A picture of `art/pictures`.
 [[nodiscard]] QPixmap CanvasPicture(const char* name, QSize size, qreal pixelRatio);
+
+/// What a song of music tracks is drawn with.
+[[nodiscard]] std::vector<WantedArtwork> CanvasArtworks(qreal pixelRatio);
 
 /// The tune's picture with a raised edge.
 [[nodiscard]] QImage RaisedTunePicture(const Picture& picture);

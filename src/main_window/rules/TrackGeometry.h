@@ -83,6 +83,7 @@ inline constexpr std::int32_t kAddButtonsApart = 55;
 /// Top of the buttons that add a track, below the last row.
 [[nodiscard]] std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount);
 
+inline constexpr std::int32_t kMusicTiles = 10;
 /// Which of the row tiles paints a track: 0 for audio, 1 to 10 for music by the track's number.
 [[nodiscard]] std::int32_t TileNumber(bool isAudio, std::int32_t track);
 
