@@ -12,6 +12,7 @@
 #include "main_window/rules/CellValues.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -52,6 +53,7 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
 {
     songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
+    SetSpokenRole(*this, QAccessible::Canvas);
     setAccessibleName(tr("Tracks"));
     setAccessibleDescription(tr(
         "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
@@ -63,6 +65,12 @@ void TrackPic::Clear()
     TrackSurface::Clear();
     drawnRows.assign(static_cast<std::size_t>(std::max(VisibleRows(view), 0)) + 1, std::nullopt);
     drawnTop.reset();
+}
+
+void TrackPic::PaintMeadow(std::int32_t trackCount)
+{
+    if (const auto top = MeadowTop(view, trackCount))
+        Painter().Tile(QRect(0, *top, width(), kMeadowHeight), CanvasPicture("Meadow", kMeadowTileSize, PixelRatio()));
 }
 
 TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
@@ -77,6 +85,7 @@ TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
 void TrackPic::DrawAll(const SongState& song)
 {
     Clear();
+    PaintMeadow(song.TrackCount);
     DrawTop(song);
     for (std::int32_t track = 1; track <= song.TrackCount; ++track)
         DrawRow(song, track);

@@ -72,6 +72,8 @@ private:
     };
 
     void Clear();
+    /// Draws a meadow on the lower edge of the emptied surface, if the rows leave room for it.
+    void PaintMeadow(std::int32_t trackCount);
     [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
     void PaintRow(const RowLook& look, std::int32_t rowTop);
     void PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,

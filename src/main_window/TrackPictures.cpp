@@ -2,7 +2,6 @@
 #include "main_window/TrackPictures.h"
 
 #include "main_window/rules/BevelTunePicture.h"
-#include "main_window/rules/TrackGeometry.h"
 
 namespace sprout {
 
@@ -49,10 +48,10 @@ QPixmap CanvasPicture(const char* name, QSize size, qreal pixelRatio)
 
 std::vector<WantedArtwork> CanvasArtworks(qreal pixelRatio)
 {
-    std::vector<WantedArtwork> artworks{CanvasArtwork("TimeSlide", kTimeSlideSize, pixelRatio),
-                                        BlankArtwork(0, pixelRatio),
-                                        CanvasArtwork("DeleteButtonPic", kDeleteButtonPicSize, pixelRatio),
-                                        CanvasArtwork("PlayPic", kPlayPicSize, pixelRatio)};
+    std::vector<WantedArtwork> artworks{
+        CanvasArtwork("TimeSlide", kTimeSlideSize, pixelRatio), CanvasArtwork("Meadow", kMeadowTileSize, pixelRatio),
+        BlankArtwork(0, pixelRatio), CanvasArtwork("DeleteButtonPic", kDeleteButtonPicSize, pixelRatio),
+        CanvasArtwork("PlayPic", kPlayPicSize, pixelRatio)};
     for (std::int32_t tile = 1; tile <= kMusicTiles; ++tile)
         artworks.push_back(TileArtwork(tile, pixelRatio));
     return artworks;

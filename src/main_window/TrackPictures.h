@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/Song.h"
+#include "main_window/rules/TrackGeometry.h"
 #include "ui/Artwork.h"
 
 namespace sprout {
@@ -20,6 +21,7 @@ inline constexpr int kBusyMarkWidth = 3;
 inline constexpr QSize kTimeSlideSize{3850, 15};
 inline constexpr QSize kDeleteButtonPicSize{14, 16};
 inline constexpr QSize kPlayPicSize{32, 32};
+inline constexpr QSize kMeadowTileSize{512, kMeadowHeight};
 
 /// The background of a row by the kind of its track; of kinds that do not exist, that of music.
 [[nodiscard]] QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio);
