@@ -135,18 +135,24 @@ void TrackSurface::PaintFocusRing(QPainter& painter, const QRect& place)
     frame(place, 2, kLink);
 }
 
+void TrackSurface::UpdateFocusRing()
+{
+    if (focusByKey)
+        update();
+}
+
 void TrackSurface::focusInEvent(QFocusEvent* event)
 {
     const auto reason = event->reason();
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
         focusByKey = reason != Qt::MouseFocusReason;
-    update();
+    UpdateFocusRing();
     QWidget::focusInEvent(event);
 }
 
 void TrackSurface::focusOutEvent(QFocusEvent* event)
 {
-    update();
+    UpdateFocusRing();
     QWidget::focusOutEvent(event);
 }
 

@@ -75,6 +75,7 @@ protected:
 
 private:
     [[nodiscard]] QSize DevicePixels() const;
+    void UpdateFocusRing();
 
     QColor back;
     QPixmap kept;
