@@ -141,19 +141,18 @@ void TrackSurface::UpdateFocusRing()
         update();
 }
 
+// A widget draws itself anew with every change of the focus; the surfaces are large and show it rarely.
 void TrackSurface::focusInEvent(QFocusEvent* event)
 {
     const auto reason = event->reason();
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
         focusByKey = reason != Qt::MouseFocusReason;
     UpdateFocusRing();
-    QWidget::focusInEvent(event);
 }
 
-void TrackSurface::focusOutEvent(QFocusEvent* event)
+void TrackSurface::focusOutEvent(QFocusEvent* /*event*/)
 {
     UpdateFocusRing();
-    QWidget::focusOutEvent(event);
 }
 
 void TrackSurface::mousePressEvent(QMouseEvent* event)
