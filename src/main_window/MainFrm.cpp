@@ -10,6 +10,8 @@
 
 #include <exception>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -20,6 +22,7 @@
 #include "main_window/TitleBand.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/TrackCommands.h"
+#include "main_window/TrackPictures.h"
 #include "main_window/TransportCommands.h"
 #include "main_window/rules/WindowPlace.h"
 #include "sound/PlayMod.h"
@@ -142,6 +145,19 @@ void MainFrm::MakeButtons()
 {
     for (const Row& row : Rows())
         buttons.AddButton(WithHint(row.name, row.spokenName, row.plate), [this, click = row.click] { click(*this); });
+    DrawPicturesAhead();
+}
+
+/// While the rest of the window is made, the pictures that it is first painted with are drawn.
+void MainFrm::DrawPicturesAhead()
+{
+    std::vector<WantedArtwork> wanted;
+    for (const Row& row : Rows())
+        for (WantedArtwork& artwork : buttons.Button(row.name).Artworks())
+            wanted.push_back(std::move(artwork));
+    for (WantedArtwork& artwork : CanvasArtworks(devicePixelRatioF()))
+        wanted.push_back(std::move(artwork));
+    DrawArtworkAhead(wanted);
 }
 
 void MainFrm::MakeTitleBand()
@@ -255,8 +271,7 @@ void MainFrm::WritePlaceToSettings() const
     PutSetting(kPlaceSection, "WindowState", isMinimized() ? "1" : isMaximized() ? "2" : "0");
     if (isMinimized() || isMaximized())
         return;
-    PutSetting(kPlaceSection, "Position", PairOfTwips(x(), y()));
-    PutSetting(kPlaceSection, "Size", PairOfTwips(width(), height()));
+    PutSettings(kPlaceSection, {{"Position", PairOfTwips(x(), y())}, {"Size", PairOfTwips(width(), height())}});
 }
 
 void MainFrm::ChooseTool(Tool tool)
