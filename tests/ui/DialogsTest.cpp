@@ -77,6 +77,27 @@ TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
     }
 }
 
+TEST(AskYesNo, IsNotAnsweredByAnEnterHeldDownSinceBefore)
+{
+    WithNextForm([](BandedForm& form) {
+        for (QWidget* target : {form.focusWidget(), static_cast<QWidget*>(&form)}) {
+            RepeatKey(*target, Qt::Key_Return);
+            EXPECT_TRUE(form.isVisible()) << target->objectName().toStdString();
+        }
+        Click(form, "NoBtn");
+    });
+    EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+}
+
+TEST(AskYesNo, HasTheTimerOfItsRaisedButtonsOnFromTheStart)
+{
+    WithNextForm([](BandedForm& form) {
+        EXPECT_TRUE(form.findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"))->isActive());
+        Click(form, "NoBtn");
+    });
+    EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+}
+
 TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
 {
     WithNextForm([](BandedForm& form) {
