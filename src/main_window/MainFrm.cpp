@@ -364,6 +364,9 @@ void MainFrm::changeEvent(QEvent* event)
 
 void MainFrm::closeEvent(QCloseEvent* event)
 {
+    // The question of a minimized window would not be seen.
+    if (isMinimized() && Shared().Song.SongChanged)
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     if (!songCommands.ConfirmClose()) {
         event->ignore();
         return;

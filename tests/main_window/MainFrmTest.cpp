@@ -347,6 +347,26 @@ TEST_F(MainFrmTest, StaysWhereTheSaveQuestionIsCancelled)
     EXPECT_EQ(Song().SongTitle, "Untitled");
 }
 
+TEST_F(MainFrmTest, ComesUpWithTheSaveQuestionWhereItIsClosedMinimized)
+{
+    Song().SongChanged = true;
+    window->showMinimized();
+    WithNextForm([this](BandedForm& form) {
+        EXPECT_FALSE(window->isMinimized());
+        Click(form, "Cancel_Btn");
+    });
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(window->isMinimized());
+}
+
+TEST_F(MainFrmTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
+{
+    const auto* timer = window->findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"));
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 5000);
+}
+
 TEST_F(MainFrmTest, ClosesWithoutSavingWhereTheSaveQuestionIsAnsweredNo)
 {
     Song().SongChanged = true;
