@@ -212,6 +212,34 @@ TEST_F(SongCommandsTest, OpenEndsWhereTheSaveQuestionIsCancelled)
     EXPECT_TRUE(Song().SongChanged);
 }
 
+TEST_F(SongCommandsTest, OpenSavesAfterYesAndTheSongIsUnchangedThenThoughNoneIsChosen)
+{
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& question) {
+        WithNextForm([](BandedForm& chooser) { Click(chooser, "CancelBtn"); });
+        Click(question, "YesBtn");
+    });
+    ClickButton("OpenBtn");
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+    EXPECT_TRUE(std::filesystem::exists(SongPath("Untitled")));
+}
+
+TEST_F(SongCommandsTest, OpenTellsOfAFullDiskAndKeepsTheSong)
+{
+    Song().SongChanged = true;
+    TheServices().files = &fullDisk;
+    ShownMessage message;
+    WithNextForm([&message](BandedForm& question) {
+        NoteNextMessage(message);
+        Click(question, "YesBtn");
+    });
+    ClickButton("OpenBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Error Opening file\r\nThere is no room left on the disk."));
+    EXPECT_EQ(message.caption, QStringLiteral(" Tonquill Sprout Painter"));
+    EXPECT_TRUE(Song().SongChanged);
+}
+
 TEST_F(SongCommandsTest, OpenTellsThatASongHasGoneMeanwhile)
 {
     PutSong("Rain", kQuickTempo);
@@ -294,7 +322,11 @@ TEST_F(SongCommandsTest, SaveReplacesAFileWhoseNameDiffersInCaseOnly)
 TEST_F(SongCommandsTest, SaveDoesNothingAfterCancel)
 {
     Song().SongChanged = true;
-    WithNextForm([](BandedForm& form) { Click(form, "CancelBtn"); });
+    ShowHint(QStringLiteral("Before"));
+    WithNextForm([this](BandedForm& form) {
+        EXPECT_EQ(TextOf("StatusLbl"), "");
+        Click(form, "CancelBtn");
+    });
     ClickButton("SaveBtn");
     EXPECT_TRUE(Song().SongChanged);
     EXPECT_FALSE(std::filesystem::exists(SongPath("Untitled")));
