@@ -517,6 +517,20 @@ TEST_F(MainFrmTest, ReachesEveryVisibleButtonOfItsBarByTab)
         EXPECT_TRUE(reached.count(QString::fromLatin1(name))) << name;
 }
 
+TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTracksAndToItsOwnButtonsLast)
+{
+    QStringList reached;
+    Control("PlayAllBtn").setFocus();
+    do {
+        reached << window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    } while (window->focusWidget() != &Control("PlayAllBtn") && reached.size() < 60);
+    EXPECT_EQ(reached.join(QLatin1Char(' ')).toStdString(),
+              "PlayAllBtn PlayStopBtn BrushBtn EraserBtn PlayToolBtn NewBtn OpenBtn SaveBtn SongTitleChgBtn EmailBtn "
+              "HelpBtn AboutBtn DemoBtn TempoPrtImg Label5 Label1 TrackTitlePic TrackAddBtn TrackAddRecBtn TrackPic "
+              "CloseImgBtn MaximizeImgBtn MinimizeImgBtn");
+}
+
 TEST_F(MainFrmTest, LivesWithASongOfNoTracks)
 {
     Song().TrackCount = 0;
