@@ -54,11 +54,12 @@ protected:
     }
 
     /// Answers the title form that comes next.
-    static void ChangeNextTitle(const char* name, const char* author, const char* button = "OkBtn")
+    void ChangeNextTitle(const char* name, const char* author, const char* button = "OkBtn") const
     {
-        WithNextForm([name, author, button](BandedForm& form) {
+        WithNextForm([this, name, author, button](BandedForm& form) {
             EXPECT_EQ(form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(),
                       QStringLiteral(" Change Song Title"));
+            EXPECT_EQ(TextOf("StatusLbl"), "");
             form.findChild<QLineEdit*>(QStringLiteral("NameTxt"))->setText(QString::fromLatin1(name));
             form.findChild<QLineEdit*>(QStringLiteral("CreatedTxt"))->setText(QString::fromLatin1(author));
             Click(form, button);
@@ -258,11 +259,16 @@ TEST_F(SongCommandsTest, OpenTellsThatASongHasGoneMeanwhile)
 TEST_F(SongCommandsTest, OpenLivesWithABrokenFile)
 {
     WriteBytes(SongPath("Broken"), "This is no song.");
-    ChooseNextSong("Broken");
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& question) {
+        ChooseNextSong("Broken");
+        Click(question, "NoBtn");
+    });
     ClickButton("OpenBtn");
     EXPECT_FALSE(fake.messages.shown.empty());
     EXPECT_EQ(Song().TrackCount, 0);
     EXPECT_EQ(TextOf("SngTitleLbl"), "Broken");
+    EXPECT_FALSE(Song().SongChanged);
     window->grab();
     ClickButton("NewBtn");
     EXPECT_EQ(Song().TrackCount, 2);
