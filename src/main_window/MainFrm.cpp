@@ -231,9 +231,11 @@ void MainFrm::MakeShortcuts()
 
 void MainFrm::SetTabOrder()
 {
-    // The tracks come behind the tempo, as they lie in the window; the buttons were made in the order of the table.
-    const char* before = "TempoPrtImg";
-    for (const char* name : {"TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn", "TrackPic"}) {
+    // The buttons were made in the order of the table. What belongs to the song comes as it lies in the window, from
+    // the bar's tools to the tracks; the window's own buttons are the last.
+    const char* before = "DemoBtn";
+    for (const char* name :
+         {"TempoPrtImg", "Label5", "Label1", "TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn", "TrackPic"}) {
         setTabOrder(findChild<QWidget*>(QString::fromLatin1(before)), findChild<QWidget*>(QString::fromLatin1(name)));
         before = name;
     }
@@ -387,6 +389,9 @@ void MainFrm::changeEvent(QEvent* event)
 
 void MainFrm::closeEvent(QCloseEvent* event)
 {
+    // The question of a minimized window would not be seen.
+    if (isMinimized() && Shared().Song.SongChanged)
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     if (!songCommands.ConfirmClose()) {
         event->ignore();
         return;

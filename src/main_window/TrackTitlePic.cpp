@@ -312,7 +312,9 @@ void TrackTitlePic::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        return PressChosen();
+        if (!event->isAutoRepeat())
+            PressChosen();
+        return;
     case Qt::Key_Escape:
         if (overlayShown)
             return HideTrackButtons();

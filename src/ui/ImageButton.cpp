@@ -215,10 +215,10 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event)
 
 void ImageButton::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat()) // a key held down would answer the question that its first press brings up
+        click();
 }
 
 void ImageButton::focusInEvent(QFocusEvent* event)
