@@ -128,7 +128,7 @@ void PulseSound::ListenToStream()
 void PulseSound::Close()
 {
     EndRounds();
-    answers.clear();
+    CancelQuestions();
     holdsQueue = false;
     if (!stream)
         return;
@@ -178,26 +178,38 @@ void PulseSound::OnState()
 
 bool PulseSound::AskWhere(Answer answer)
 {
-    pa_operation* const question = Pulse().StreamUpdateTimingInfo(
-        stream,
-        [](pa_stream*, int succeeded, void* data) {
-            auto* self = static_cast<PulseSound*>(data);
-            const Answer onAnswer = self->answers.front();
-            self->answers.pop_front();
-            if (onAnswer && succeeded != 0)
-                (self->*onAnswer)();
-        },
+    pa_operation* const operation = Pulse().StreamUpdateTimingInfo(
+        stream, [](pa_stream*, int succeeded, void* self) { static_cast<PulseSound*>(self)->OnAnswer(succeeded != 0); },
         this);
-    if (!question)
-        return false;
-    Forget(question);
-    answers.push_back(answer);
-    return true;
+    if (operation)
+        questions.push_back({operation, answer});
+    else // too many wait at a server that stands still; the next play opens a new stream
+        Close();
+    return operation != nullptr;
 }
 
-void PulseSound::ForgetAnswers()
+void PulseSound::OnAnswer(bool succeeded)
 {
-    std::fill(answers.begin(), answers.end(), nullptr);
+    const Question question = questions.front();
+    questions.pop_front();
+    Forget(question.operation);
+    if (question.answer && succeeded)
+        (this->*question.answer)();
+}
+
+void PulseSound::ForgetQuestions()
+{
+    for (Question& question : questions)
+        question.answer = nullptr;
+}
+
+void PulseSound::CancelQuestions()
+{
+    for (const Question& question : questions) {
+        Pulse().OperationCancel(question.operation);
+        Forget(question.operation);
+    }
+    questions.clear();
 }
 
 void PulseSound::OnBegun()
@@ -244,7 +256,7 @@ void PulseSound::Follow()
     if (!playing || !heard)
         return;
     const std::int64_t now = heard->place + Bytes(Now() - heard->time);
-    place = std::max(place, std::min(now, queue.Filled()));
+    place = std::max(place, std::min({now, queue.Filled(), queue.End()}));
     if (queue.EndsBy(place))
         End();
 }
@@ -281,7 +293,7 @@ void PulseSound::Service06(std::span<const std::byte> pcm)
     {
         const Lock lock(connection.Mutex());
         Stop();
-        ForgetAnswers();
+        ForgetQuestions();
         holdsQueue = false;
         place = 0;
     }
@@ -307,27 +319,29 @@ bool PulseSound::Begin(Loop loop)
     queue.Start(place, loop);
     if (queue.EndsBy(place))
         return false;
-    ForgetAnswers();
+    ForgetQuestions();
     heard.reset();
     takenAtPlace0.reset();
     takenAtStart.reset();
     holdsQueue = true;
     Forget(Pulse().StreamFlush(stream, nullptr, nullptr));
-    const bool asked = AskWhere(&PulseSound::OnBegun);
+    if (!AskWhere(&PulseSound::OnBegun))
+        return false;
     Write(static_cast<std::size_t>(Bytes(kQueued)), 0);
     Cork(false);
-    return asked;
+    return true;
 }
 
 bool PulseSound::GoOn(Loop loop)
 {
     heard.reset();
     takenAtStart.reset();
-    const bool asked = AskWhere(&PulseSound::OnBegun);
+    if (!AskWhere(&PulseSound::OnBegun))
+        return false;
     ChangeLooping(loop, place);
     Write(Pulse().StreamWritableSize(stream), 0);
     Cork(false);
-    return asked;
+    return true;
 }
 
 void PulseSound::Service05()
@@ -342,9 +356,7 @@ void PulseSound::Stop()
     if (!std::exchange(playing, false))
         return;
     Cork(true);
-    // A server that was asked much too often and never answered is left to itself; the next play opens a new stream.
-    if (!AskWhere(&PulseSound::OnStopped))
-        Close();
+    static_cast<void>(AskWhere(&PulseSound::OnStopped));
 }
 
 void PulseSound::End()

@@ -13,6 +13,7 @@
 #include "service/pulse/PulseConnection.h"
 #include "service/pulse/SoundQueue.h"
 
+struct pa_operation;
 struct pa_stream;
 struct pa_time_event;
 
@@ -53,6 +54,10 @@ public:
 private:
     using Lock = PulseConnection::Lock;
     using Answer = void (PulseSound::*)();
+    struct Question {
+        pa_operation* operation = nullptr;
+        Answer answer = nullptr; // null: nobody waits for it any more
+    };
 
     // What the server tells.
     void OnState();
@@ -69,8 +74,11 @@ private:
     void Close();
     void StartRounds();
     void EndRounds();
+    /// False if the server has not answered for so long that the stream was closed.
     [[nodiscard]] bool AskWhere(Answer answer);
-    void ForgetAnswers();
+    void ForgetQuestions();
+    void CancelQuestions();
+    void OnAnswer(bool succeeded);
     void Write(std::size_t bytes, std::int64_t seek);
     void Cork(bool corked);
     [[nodiscard]] bool Begin(Loop loop);
@@ -90,7 +98,7 @@ private:
     SoundQueue queue;
     pa_stream* stream = nullptr;     // none at rest
     pa_time_event* rounds = nullptr; // while there is a stream
-    std::deque<Answer> answers;      // to questions on their way, in their order; null: nobody waits any more
+    std::deque<Question> questions;  // on their way to the server, which answers in their order
     int silentRounds = 0;
     bool used = false; // since the last round
 

@@ -29,6 +29,8 @@ public:
     [[nodiscard]] std::size_t SetLooping(Loop loop, std::int64_t place);
 
     [[nodiscard]] bool EndsBy(std::int64_t place) const { return place >= end; }
+    /// The end of the last pass; the greatest number in a loop.
+    [[nodiscard]] std::int64_t End() const { return end; }
     [[nodiscard]] std::int64_t Filled() const { return filled; }
     /// The place as a frame of its pass; the last frame at the end.
     [[nodiscard]] std::int32_t FrameAt(std::int64_t place) const;
