@@ -46,9 +46,13 @@ std::int32_t MachineSound::SoundDeviceCount()
 SoundHandle MachineSound::Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
                                     std::int32_t bufferBytes)
 {
-    const ServerAnswer answer = IsOpenDevice(old, format) ? ServerAnswer::No : AskServer();
-    if (answer == ServerAnswer::Yes)
-        return server.Service02(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);
+    ServerAnswer answer = IsOpenDevice(old, format) ? ServerAnswer::No : AskServer();
+    if (answer == ServerAnswer::Yes) {
+        SoundHandle sound = server.Service02(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);
+        if (sound)
+            return sound;
+        answer = AskServer(); // its failure may be how its end is known
+    }
     if (answer == ServerAnswer::No)
         return device.Service02(KeepIf<SdlSound>(std::move(old)), windowHandle, format, bufferBytes);
     return nullptr;

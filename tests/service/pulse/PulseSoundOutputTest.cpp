@@ -114,7 +114,7 @@ TEST(PulseFormats, AreHeardBitExactEach)
                 ASSERT_TRUE(server.Start());
                 PulseSoundOutput output;
                 TestRecording recording(server);
-                const Bytes samples = Samples(format, rate); // of a second: longer than the queue
+                const Bytes samples = Samples(format, rate * 7 / 10); // longer than the queue
                 SoundHandle sound = Opened(output, format, samples);
                 ASSERT_TRUE(sound);
                 sound->Service04(StartFrom::Beginning, Loop::No);
