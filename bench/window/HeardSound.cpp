@@ -9,6 +9,7 @@
 #include <cstring>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "service/pulse/PulseSoundOutput.h"
@@ -21,11 +22,21 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kTries = 20;
 constexpr std::chrono::milliseconds kUntilSilence{300};
+constexpr double kAskedOfCursor = 15;
 
-/// A frame that was heard or at which the cursor stood, and when that was known.
-struct Moment {
+constexpr std::size_t kFrameBytes = 4;
+
+/// Where the cursor stood.
+struct CursorMoment {
     Clock::time_point time;
     std::int32_t frame = 0;
+};
+
+/// A piece of the sound that was heard.
+struct HeardMoment {
+    Clock::time_point begins;
+    Clock::time_point ends;
+    std::int32_t firstFrame = 0;
 };
 
 double Milliseconds(Clock::duration time)
@@ -52,21 +63,22 @@ std::int32_t NumberOf(const std::byte* bytes)
     return static_cast<std::int32_t>((frame & 0x7FFFU) | (frame >> 16U) << 15U) - 1;
 }
 
-/// Notes the last frame of the sound in each piece of a recording.
+/// Notes each piece of a recording in which the sound is heard.
 class Ear {
 public:
     void Hear(const Bytes& piece)
     {
         const auto now = Clock::now();
+        const auto ends = now + std::chrono::microseconds(piece.size() / kFrameBytes * 1000000 / 44100);
         const std::lock_guard lock(mutex);
-        for (std::size_t end = piece.size() / 4 * 4; end >= 4; end -= 4)
-            if (const std::int32_t frame = NumberOf(piece.data() + end - 4); frame >= 0) {
-                moments.push_back({now, frame});
+        for (std::size_t place = 0; place + kFrameBytes <= piece.size(); place += kFrameBytes)
+            if (const std::int32_t frame = NumberOf(piece.data() + place); frame >= 0) {
+                moments.push_back({now, ends, frame});
                 return;
             }
     }
 
-    [[nodiscard]] std::vector<Moment> Take()
+    [[nodiscard]] std::vector<HeardMoment> Take()
     {
         const std::lock_guard lock(mutex);
         return std::exchange(moments, {});
@@ -74,7 +86,7 @@ public:
 
 private:
     std::mutex mutex;
-    std::vector<Moment> moments;
+    std::vector<HeardMoment> moments;
 };
 
 struct Figures {
@@ -83,13 +95,13 @@ struct Figures {
     std::vector<double> behind; // of what is heard, the cursor
 };
 
-void AddBehind(const std::vector<Moment>& cursors, const std::vector<Moment>& heard, Figures& figures)
+void AddBehind(const std::vector<CursorMoment>& cursors, const std::vector<HeardMoment>& heard, Figures& figures)
 {
-    for (const Moment& moment : heard) {
+    for (const HeardMoment& moment : heard) {
         const auto later = std::find_if(cursors.begin(), cursors.end(),
-                                        [&](const Moment& cursor) { return cursor.time >= moment.time; });
+                                        [&](const CursorMoment& cursor) { return cursor.time >= moment.begins; });
         if (later != cursors.end() && later->frame > 0)
-            figures.behind.push_back((moment.frame - later->frame) / 44.1);
+            figures.behind.push_back((moment.firstFrame - later->frame) / 44.1);
     }
 }
 
@@ -97,7 +109,7 @@ void PlayOnce(SoundObject& sound, Ear& ear, std::chrono::milliseconds length, Fi
 {
     const auto played = Clock::now();
     sound.Service04(StartFrom::Beginning, Loop::Yes);
-    std::vector<Moment> cursors;
+    std::vector<CursorMoment> cursors;
     while (Clock::now() < played + length) {
         cursors.push_back({Clock::now(), sound.Service07().Cursor});
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
@@ -105,11 +117,11 @@ void PlayOnce(SoundObject& sound, Ear& ear, std::chrono::milliseconds length, Fi
     const auto stopped = Clock::now();
     sound.Service05();
     std::this_thread::sleep_for(kUntilSilence);
-    const std::vector<Moment> heard = ear.Take();
+    const std::vector<HeardMoment> heard = ear.Take();
     if (heard.empty())
         std::exit(1); // NOLINT(concurrency-mt-unsafe): a benchmark of silence measures nothing
-    figures.untilFirst.push_back(Milliseconds(heard.front().time - played));
-    figures.untilLast.push_back(Milliseconds(heard.back().time - stopped));
+    figures.untilFirst.push_back(Milliseconds(heard.front().begins - played));
+    figures.untilLast.push_back(Milliseconds(heard.back().ends - stopped));
     AddBehind(cursors, heard, figures);
 }
 
@@ -142,6 +154,10 @@ int Run(std::chrono::milliseconds length)
     Print("play to first sound", figures.untilFirst);
     Print("stop to last sound", figures.untilLast);
     Print("cursor behind heard", figures.behind);
+    const auto near = std::count_if(figures.behind.begin(), figures.behind.end(),
+                                    [](double behind) { return std::abs(behind) <= kAskedOfCursor; });
+    std::printf("%-24s %8.1f %%\n", "cursor within 15 ms",
+                100.0 * static_cast<double>(near) / static_cast<double>(figures.behind.size()));
     return 0;
 }
 
