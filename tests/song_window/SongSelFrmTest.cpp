@@ -5,10 +5,10 @@
 
 #include <QClipboard>
 
-#include "core/Errors.h"
 #include "core/Shared.h"
 #include "service/Services.h"
 #include "support/FakeServices.h"
+#include "support/FullDisk.h"
 #include "support/TestFolder.h"
 #include "ui/HelpFrm.h"
 #include "ui/ModalSteps.h"
@@ -20,16 +20,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
-
-class FullDisk : public Files {
-public:
-    void ReplaceFile(const fs::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
-                     Flush /*flush*/) override
-    {
-        throw RunTimeError("No space left on device.");
-    }
-    void DeleteStaleFile(const fs::path& /*path*/) override {}
-};
 
 /// What a message or a question showed.
 struct Told {
