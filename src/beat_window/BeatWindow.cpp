@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QScreen>
 
 #include <algorithm>
 #include <exception>
@@ -25,13 +26,13 @@ namespace sprout {
 namespace {
 
 constexpr int kBeatMargin = 16;
-constexpr int kBeatRows = 8;
 constexpr int kBeatNoteTop = 8;
 constexpr int kBeatNoteHeight = 26;
 constexpr int kBeatGap = 8;
 constexpr int kBeatRowGap = 12;
 constexpr int kBeatNameHeight = 48; // two lines
 constexpr int kBeatDurationHeight = 46;
+constexpr int kBeatGridTop = kBeatNoteTop + kBeatNoteHeight + kBeatGap / 2;
 
 constexpr std::string_view kBeatNote = "Click on a picture to choose a beat";
 constexpr std::string_view kSelectBeatHint = "Click on a picture to select a beat";
@@ -60,7 +61,7 @@ BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
     MakeChoice();
     MakeButtons();
     MakeMoveMnu();
-    PlaceControls();
+    PlaceControls(FittingRows());
     for (const HintRow& row : kBeatHints)
         Watcher().Watch(*findChild<QWidget*>(QtText(row.name)), row.hint);
     ShowAllPic->setFocus();
@@ -131,10 +132,17 @@ void BeatWindow::MakeMoveMnu()
     }
 }
 
-void BeatWindow::PlaceControls()
+/// Rows that the list asks for and the screen has room for.
+int BeatWindow::FittingRows() const
 {
-    const int gridTop = kBeatNoteTop + kBeatNoteHeight + kBeatGap / 2;
-    const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kBeatMargin, gridTop), kBeatRows);
+    const int frameHeight = PictureGridPic::FrameSize(kBeatColumns, 0).height();
+    const int beside = kBandHeight + kBeatGridTop + frameHeight + OkBtn->height() + 2 * kBeatRowGap;
+    return BeatGridRows(table.BeatListCount, screen()->availableGeometry().height() - beside);
+}
+
+void BeatWindow::PlaceControls(int rows)
+{
+    const QRect grid = ShowAllPic->PlaceAt(BodyPoint(kBeatMargin, kBeatGridTop), rows);
     NoteLbl->setGeometry({BodyPoint(kBeatMargin, kBeatNoteTop), QSize(grid.width(), kBeatNoteHeight)});
     int columnWidth = ChoosenPic->width() + kBeatGap + TestPlayBtn->width();
     for (const ImageButton* button : {AddBtn, RenameBtn, DeleteBtn, HelpBtn})
@@ -177,6 +185,8 @@ void BeatWindow::LoadBeatFiles()
     const Hourglass hourglass;
     sprout::LoadBeatFiles(table, ChosenBeatName);
     FillGrid();
+    if (!isVisible()) // an open window keeps its size
+        PlaceControls(FittingRows());
     ShowAllPic->SetTopRow(1);
     RefreshShowAllPic();
 }

@@ -45,7 +45,8 @@ private:
     void MakeChoice();
     void MakeButtons();
     void MakeMoveMnu();
-    void PlaceControls();
+    void PlaceControls(int rows);
+    [[nodiscard]] int FittingRows() const;
     void PlaceChoice(const QRect& column);
     void PlaceColumn(const QRect& column);
 

@@ -17,13 +17,29 @@ namespace sprout {
 namespace {
 
 constexpr int kCaptionGap = 6;
-constexpr int kTitleAndAuthorApart = 16;
-constexpr int kLeastTitle = 90;
 constexpr int kBelowTheLine = 4;
 
 QRect RectOf(const BarPlace& place)
 {
     return {place.left, place.top, place.width, place.height};
+}
+
+int CaptionWidth(const QLabel& caption)
+{
+    return caption.sizeHint().width() + kCaptionGap;
+}
+
+int WidthOfText(const QLabel& label, const QString& text)
+{
+    return label.fontMetrics().horizontalAdvance(text) + 2;
+}
+
+/// How much deeper a small text has to be set than a large one, each in the middle of its label's height, so that both
+/// stand on one line.
+int BaselineBelow(const QLabel& large, const QLabel& small)
+{
+    const auto belowMiddle = [](const QFontMetrics& font) { return (font.ascent() - font.descent()) / 2.0; };
+    return qRound(belowMiddle(large.fontMetrics()) - belowMiddle(small.fontMetrics()));
 }
 
 /// Shows a text, cut to the label's width; the whole of it is there for a screen reader.
@@ -100,7 +116,7 @@ void ControlBar::resizeEvent(QResizeEvent* event)
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
         if (tools[tool])
             tools[tool]->setGeometry(RectOf(places.tools[tool]));
-    tempoBar->FitWidth(places.tempo.width);
+    tempoBar->FitRoom(RectOf(places.tempo).size());
     tempoBar->move(places.tempo.left + (places.songInOneLine ? 0 : places.tempo.width - tempoBar->width()),
                    places.tempo.top);
     PlaceSongLabels(places);
@@ -108,36 +124,43 @@ void ControlBar::resizeEvent(QResizeEvent* event)
 
 void ControlBar::PlaceSongLabels(const ControlBarPlaces& places)
 {
-    const QRect room = RectOf(places.song);
-    const int lineHeight = places.songInOneLine ? room.height() : room.height() * 11 / 20;
-    const int captionWidth = titleCaption->sizeHint().width() + kCaptionGap;
-    const int authorCaptionWidth = authorCaption->sizeHint().width() + kCaptionGap;
-    const int titleNeeds = titleText->fontMetrics().horizontalAdvance(title) + 2;
-    titleCaption->setGeometry(room.x(), room.y(), captionWidth, lineHeight);
-    const int titleLeft = room.x() + captionWidth;
-    if (!places.songInOneLine) {
-        titleText->setGeometry(titleLeft, room.y(), room.right() + 1 - titleLeft, lineHeight);
-        // What hangs below the line reaches into the gap between the rows.
-        const int authorHeight = room.height() - lineHeight + kBelowTheLine;
-        authorCaption->setGeometry(room.x(), room.y() + lineHeight, captionWidth, authorHeight);
-        authorText->setGeometry(titleLeft, room.y() + lineHeight, room.right() + 1 - titleLeft, authorHeight);
-        return FitSongLabels();
-    }
-    const int authorNeeds = authorCaptionWidth + authorText->fontMetrics().horizontalAdvance(author) + 2;
-    const int bothGet = room.width() - captionWidth - kTitleAndAuthorApart;
-    const int titleGets = std::min(titleNeeds, std::max(kLeastTitle, bothGet - authorNeeds));
-    titleText->setGeometry(titleLeft, room.y(), titleGets, lineHeight);
-    const int authorLeft = titleLeft + titleGets + kTitleAndAuthorApart;
-    authorCaption->setGeometry(authorLeft, room.y(), authorCaptionWidth, lineHeight);
-    const int authorTextLeft = authorLeft + authorCaptionWidth;
-    authorText->setGeometry(authorTextLeft, room.y(), std::max(0, room.right() + 1 - authorTextLeft), lineHeight);
-    FitSongLabels();
-}
-
-void ControlBar::FitSongLabels()
-{
+    if (places.songInOneLine)
+        PlaceSongInOneLine(RectOf(places.song));
+    else
+        PlaceSongInTwoLines(RectOf(places.song));
     ShowCut(*titleText, title);
     ShowCut(*authorText, author);
+}
+
+void ControlBar::PlaceSongInOneLine(const QRect& room)
+{
+    const SongLine line = FitSongLine({CaptionWidth(*titleCaption), WidthOfText(*titleText, title),
+                                       CaptionWidth(*authorCaption), WidthOfText(*authorText, author)},
+                                      room.width());
+    const int smallTop = room.y() + BaselineBelow(*titleText, *authorText);
+    titleCaption->setVisible(line.hasCaption);
+    authorCaption->setVisible(line.hasAuthor);
+    authorText->setVisible(line.hasAuthor);
+    titleCaption->setGeometry(room.x(), smallTop, line.titleLeft, room.height());
+    titleText->setGeometry(room.x() + line.titleLeft, room.y(), line.titleWidth, room.height());
+    authorCaption->setGeometry(room.x() + line.authorCaptionLeft, smallTop, line.authorLeft - line.authorCaptionLeft,
+                               room.height());
+    authorText->setGeometry(room.x() + line.authorLeft, smallTop, line.authorWidth, room.height());
+}
+
+void ControlBar::PlaceSongInTwoLines(const QRect& room)
+{
+    const int lineHeight = room.height() * 11 / 20;
+    const int captionWidth = CaptionWidth(*titleCaption);
+    const int textWidth = room.width() - captionWidth;
+    // What hangs below the line reaches into the gap between the rows.
+    const int authorHeight = room.height() - lineHeight + kBelowTheLine;
+    for (QLabel* label : {titleCaption, authorCaption, authorText})
+        label->show();
+    titleCaption->setGeometry(room.x(), room.y() + BaselineBelow(*titleText, *titleCaption), captionWidth, lineHeight);
+    titleText->setGeometry(room.x() + captionWidth, room.y(), textWidth, lineHeight);
+    authorCaption->setGeometry(room.x(), room.y() + lineHeight, captionWidth, authorHeight);
+    authorText->setGeometry(room.x() + captionWidth, room.y() + lineHeight, textWidth, authorHeight);
 }
 
 bool ControlBar::eventFilter(QObject* watched, QEvent* event)

@@ -45,7 +45,8 @@ protected:
 private:
     QLabel& AddSongLabel(const char* name, HintWatcher& watcher);
     void PlaceSongLabels(const ControlBarPlaces& places);
-    void FitSongLabels();
+    void PlaceSongInOneLine(const QRect& room);
+    void PlaceSongInTwoLines(const QRect& room);
 
     std::array<ImageButton*, kBarTools> tools{};
     QLabel* titleCaption; ///< `SngTitle2Lbl`

@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QWindow>
 
-#include "main_window/DesktopPlacesWindows.h"
+#include "ui/DesktopPlacesWindows.h"
 
 namespace sprout {
 
@@ -58,12 +58,13 @@ void EdgeGrip::mousePressEvent(QMouseEvent* event)
     downAt = event->globalPosition().toPoint();
     const QRect place = window()->geometry();
     start = {place.x(), place.y(), place.width(), place.height()};
-    if (dragging && DesktopPlacesWindows() && window()->windowHandle())
-        dragging = !window()->windowHandle()->startSystemResize(SystemEdges(held));
 }
 
 void EdgeGrip::mouseMoveEvent(QMouseEvent* event)
 {
+    // Not at the press already: the desktop would hold the edge to the pointer where the button is up before it hears.
+    if (dragging && DesktopPlacesWindows() && window()->windowHandle())
+        dragging = !window()->windowHandle()->startSystemResize(SystemEdges(held));
     if (!dragging)
         return;
     const QPoint by = event->globalPosition().toPoint() - downAt;

@@ -28,6 +28,7 @@
 #include "ui/LaterCommands.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -116,6 +117,7 @@ MainFrm::MainFrm(TransportCommands& transport)
                            [this](bool opening) { trackCommands->SetOpening(opening); }})
 {
     setObjectName(QStringLiteral("MainFrm"));
+    SetSpokenRole(*this, QAccessible::Window);
     setWindowIcon(QIcon(Artwork(QStringLiteral("pictures/Sprout"), QSize(kWindowIconSide, kWindowIconSide), 1)));
     setMinimumSize(kLeastWindowWidth, kLeastWindowHeight);
     MakeButtons();
@@ -265,6 +267,7 @@ void MainFrm::ChooseTool(Tool tool)
     };
     for (const ToolButton& row : {ToolButton{Tool::Brush, "BrushBtn"}, ToolButton{Tool::Eraser, "EraserBtn"},
                                   ToolButton{Tool::PlayTool, "PlayToolBtn"}}) {
+        SetSpokenChoice(buttons.Button(row.name), row.tool == tool);
         if (row.tool == tool)
             buttons.ButtonSetOn(buttons.Button(row.name));
         else
@@ -331,7 +334,7 @@ void MainFrm::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), kPaper);
     if (isMaximized())
         return;
-    painter.setPen(QPen(kBark, 2));
+    painter.setPen(QPen(kBark, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin)); // the default join cuts the corners
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
@@ -342,11 +345,16 @@ void MainFrm::resizeEvent(QResizeEvent* event)
     const int barTop = kTitleBandHeight;
     const int barHeight = ControlBar::HeightFor(inner);
     const int statusTop = height() - kFrameWidth - kStatusBarHeight;
+    const int canvasTop = barTop + barHeight;
     const int cornerSide = kFrameWidth + kStatusBarHeight;
+    const bool hasStatus = CanvasShowsARow(statusTop - kFrameWidth - canvasTop);
+    for (QWidget* part : {static_cast<QWidget*>(statusBar), corners[0], corners[1]})
+        part->setVisible(hasStatus);
     titleBand->setGeometry(0, 0, width(), kTitleBandHeight);
     controlBar->setGeometry(kFrameWidth, barTop, inner, barHeight);
     // The canvas draws itself anew in its new size.
-    canvas->setGeometry(kFrameWidth, barTop + barHeight, inner, statusTop - barTop - barHeight - kFrameWidth);
+    const int canvasBottom = hasStatus ? statusTop - kFrameWidth : height() - kFrameWidth;
+    canvas->setGeometry(kFrameWidth, canvasTop, inner, canvasBottom - canvasTop);
     statusBar->setGeometry(cornerSide + kFrameWidth, statusTop, width() - 2 * (cornerSide + kFrameWidth),
                            kStatusBarHeight);
     corners[0]->setGeometry(2, height() - cornerSide, cornerSide - 2, cornerSide - 2);

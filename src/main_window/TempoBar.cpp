@@ -11,6 +11,7 @@
 #include <functional>
 #include <utility>
 
+#include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "main_window/rules/TempoSlider.h"
@@ -31,6 +32,9 @@ constexpr QSize kTempoPointerSize{34, 40};
 constexpr QSize kPointerPicture{30, 35}; // inside the frame of the focus
 constexpr int kTempoBarHeight = 40;
 constexpr int kLabelGap = 8;
+constexpr int kLabelBelowHeight = 16;
+constexpr int kHeightWithLabelsBelow = 53; // the labels lie over the frame of the pointer's focus, not over its picture
+constexpr int kStemEnd = 4;                // sticks out behind the outer knots
 constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
 constexpr std::int32_t kUsualPercent = 100;
@@ -58,7 +62,7 @@ protected:
         painter.setRenderHint(QPainter::Antialiasing);
         const double middle = height() / 2.0;
         const QLineF stem(MiddleOf(kLowestPercent), middle, MiddleOf(kHighestPercent), middle);
-        for (const QPen& pen : {QPen(kBark, 9), QPen(kLeaf, 5)}) {
+        for (const QPen& pen : {QPen(kBark, 2 * kStemEnd), QPen(kLeaf, kStemEnd)}) {
             painter.setPen(QPen(pen.brush(), pen.widthF(), Qt::SolidLine, Qt::RoundCap));
             painter.drawLine(stem);
         }
@@ -116,7 +120,7 @@ protected:
         if (event->button() != Qt::LeftButton)
             return;
         TempoDragging = true;
-        TempoDownX = static_cast<std::int32_t>(std::lround(event->position().x()));
+        TempoDownX = RoundHalfEven(event->position().x());
     }
 
     void mouseMoveEvent(QMouseEvent* event) override
@@ -124,15 +128,16 @@ protected:
         if (!TempoDragging)
             return;
         PutAt(slider.Dragged(left, event->position().x(), TempoDownX));
-        setValue(slider.PercentAt(left));
+        const std::int32_t percent = slider.PercentAt(left);
+        setValue(percent);
+        // Also where the value stays: a song's tempo beyond the slider has its own duration, which the drag ends.
+        slide(percent);
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override
     {
-        if (event->button() != Qt::LeftButton || !TempoDragging)
-            return;
-        TempoDragging = false;
-        choose(slider.PercentAt(left));
+        if (event->button() == Qt::LeftButton)
+            EndDrag();
     }
 
     /// A wheel turned in passing changes nothing.
@@ -143,6 +148,13 @@ protected:
         if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
             ShowHint(property(kHintProperty).toString());
         QAbstractSlider::focusInEvent(event);
+    }
+
+    /// A window that opens during a drag gets the release in place of the pointer.
+    void focusOutEvent(QFocusEvent* event) override
+    {
+        EndDrag();
+        QAbstractSlider::focusOutEvent(event);
     }
 
     void paintEvent(QPaintEvent* /*event*/) override
@@ -167,12 +179,19 @@ private:
         }
     }
 
+    /// What a key or a screen reader sets; a drag tells of itself.
     void TakeValue(int percent)
     {
-        if (TempoDragging)
-            slide(percent);
-        else if (percent != shown)
+        if (!TempoDragging && percent != shown)
             choose(percent);
+    }
+
+    void EndDrag()
+    {
+        if (!TempoDragging)
+            return;
+        TempoDragging = false;
+        choose(slider.PercentAt(left));
     }
 
     void PutAt(double newLeft)
@@ -202,11 +221,8 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
         this, [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
         [this](std::int32_t percent) { TakePercent(percent); });
     TempoPrtImg->setAccessibleName(QStringLiteral("Tempo"));
-    for (QLabel* label : {TempoLbl, SngDurLbl}) {
-        label->setFont(LabelFont());
-        label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    }
-    FitWidth(QWIDGETSIZE_MAX);
+    SngDurLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    FitRoom({QWIDGETSIZE_MAX, kTempoBarHeight});
     const auto name = [&watcher](QWidget& control, const char* systemName) {
         control.setObjectName(QString::fromLatin1(systemName));
         watcher.Watch(control, MainWindowHint(systemName));
@@ -218,26 +234,60 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
     UpdateTempoSliderValue();
 }
 
-void TempoBar::FitWidth(int widthPx)
+void TempoBar::FitRoom(QSize room)
 {
     const int percentWidth = WidestWidth("200%");
     const int secondsWidth = WidestWidth("480 sec");
-    const int besideTheSlot = kLabelGap + percentWidth + kLabelGap + secondsWidth;
-    const bool stacked = widthPx < kTempoSlotSize.width() + besideTheSlot;
-    const int slotWidth = stacked
-                              ? std::clamp(widthPx - kLabelGap - secondsWidth, kShortestSlot, kTempoSlotSize.width())
-                              : kTempoSlotSize.width();
-    TempoSliderImg->resize(slotWidth, kTempoSlotSize.height());
-    TempoPrtImg->SetSlotWidth(slotWidth);
-    const int labelsLeft = slotWidth + kLabelGap;
-    if (stacked) {
-        TempoLbl->setGeometry(labelsLeft, 0, secondsWidth, kTempoBarHeight / 2);
-        SngDurLbl->setGeometry(labelsLeft, kTempoBarHeight / 2, secondsWidth, kTempoBarHeight / 2);
-    } else {
-        TempoLbl->setGeometry(labelsLeft, 0, percentWidth, kTempoBarHeight);
-        SngDurLbl->setGeometry(labelsLeft + percentWidth + kLabelGap, 0, secondsWidth, kTempoBarHeight);
-    }
-    setFixedSize(SngDurLbl->x() + SngDurLbl->width(), kTempoBarHeight);
+    const bool hasSmallLabels = room.height() >= kHeightWithLabelsBelow;
+    const int lineWidth = kTempoSlotSize.width() + kLabelGap + percentWidth + kLabelGap + secondsWidth;
+    for (QLabel* label : {TempoLbl, SngDurLbl})
+        label->setFont(hasSmallLabels ? HintFont() : LabelFont());
+    TempoLbl->setAlignment((hasSmallLabels ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
+    if (hasSmallLabels)
+        PlaceLabelsBelow(room.width());
+    else if (room.width() >= lineWidth)
+        PlaceInLine(percentWidth, secondsWidth);
+    else
+        PlaceLabelsStacked(room.width(), secondsWidth);
+}
+
+void TempoBar::PlaceInLine(int percentWidth, int secondsWidth)
+{
+    SetSlotWidth(kTempoSlotSize.width());
+    const int percentLeft = kTempoSlotSize.width() + kLabelGap;
+    const int secondsLeft = percentLeft + percentWidth + kLabelGap;
+    TempoLbl->setGeometry(percentLeft, 0, percentWidth, kTempoBarHeight);
+    SngDurLbl->setGeometry(secondsLeft, 0, secondsWidth, kTempoBarHeight);
+    setFixedSize(secondsLeft + secondsWidth, kTempoBarHeight);
+}
+
+void TempoBar::PlaceLabelsBelow(int widthPx)
+{
+    const int slotWidth = std::min(widthPx, kTempoSlotSize.width());
+    SetSlotWidth(slotWidth);
+    // The labels stand under the ends of the stem.
+    const int left = kTempoPointerSize.width() / 2 - kStemEnd;
+    const int labelsWidth = slotWidth - 2 * left;
+    const int top = kHeightWithLabelsBelow - kLabelBelowHeight;
+    TempoLbl->setGeometry(left, top, labelsWidth / 2, kLabelBelowHeight);
+    SngDurLbl->setGeometry(left + labelsWidth / 2, top, labelsWidth - labelsWidth / 2, kLabelBelowHeight);
+    setFixedSize(slotWidth, kHeightWithLabelsBelow);
+}
+
+void TempoBar::PlaceLabelsStacked(int widthPx, int secondsWidth)
+{
+    const int slotWidth = std::clamp(widthPx - kLabelGap - secondsWidth, kShortestSlot, kTempoSlotSize.width());
+    SetSlotWidth(slotWidth);
+    const int left = slotWidth + kLabelGap;
+    TempoLbl->setGeometry(left, 0, secondsWidth, kTempoBarHeight / 2);
+    SngDurLbl->setGeometry(left, kTempoBarHeight / 2, secondsWidth, kTempoBarHeight / 2);
+    setFixedSize(left + secondsWidth, kTempoBarHeight);
+}
+
+void TempoBar::SetSlotWidth(int widthPx)
+{
+    TempoSliderImg->resize(widthPx, kTempoSlotSize.height());
+    TempoPrtImg->SetSlotWidth(widthPx);
 }
 
 void TempoBar::UpdateTempoSliderValue()

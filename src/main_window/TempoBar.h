@@ -22,14 +22,19 @@ public:
     /// Shows the song's tempo.
     void UpdateTempoSliderValue();
 
-    /// Takes no more than a width: in a narrow one the slot is shorter and the labels stand one above the other.
-    void FitWidth(int widthPx);
+    /// Takes no more than a width: in a narrow one the slot is shorter and the labels stand below it where the height
+    /// allows that, else beside it, one above the other.
+    void FitRoom(QSize room);
 
 Q_SIGNALS:
     /// The song has another tempo, so that its cells last differently.
     void TempoChanged();
 
 private:
+    void PlaceInLine(int percentWidth, int secondsWidth);
+    void PlaceLabelsBelow(int widthPx);
+    void PlaceLabelsStacked(int widthPx, int secondsWidth);
+    void SetSlotWidth(int widthPx);
     void ShowLabels(std::int32_t percent, std::int32_t tempo);
     /// The user's choice.
     void TakePercent(std::int32_t percent);

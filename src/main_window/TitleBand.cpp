@@ -3,9 +3,7 @@
 
 #include <QMouseEvent>
 #include <QPainter>
-#include <QWindow>
 
-#include "main_window/DesktopPlacesWindows.h"
 #include "ui/Artwork.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
@@ -78,27 +76,22 @@ void TitleBand::resizeEvent(QResizeEvent* event)
 
 void TitleBand::mousePressEvent(QMouseEvent* event)
 {
-    moving = event->button() == Qt::LeftButton;
-    // In places on the screen: a place inside the window is stale while the server still moves the window.
-    downAt = event->globalPosition().toPoint() - window()->pos();
-    if (moving && DesktopPlacesWindows() && window()->windowHandle())
-        moving = !window()->windowHandle()->startSystemMove();
+    mover.Press(*window(), *event);
 }
 
 void TitleBand::mouseMoveEvent(QMouseEvent* event)
 {
-    if (moving && window()->windowState() == Qt::WindowNoState)
-        window()->move(event->globalPosition().toPoint() - downAt);
+    mover.Move(*window(), *event);
 }
 
 void TitleBand::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
-    moving = false;
+    mover.Release();
 }
 
 void TitleBand::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    moving = false;
+    mover.Release();
     if (event->button() == Qt::LeftButton)
         window()->setWindowState(window()->windowState() ^ Qt::WindowMaximized);
 }

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QLabel>
-#include <QPoint>
 #include <QWidget>
 
 #include <vector>
 
 #include "ui/ImageButton.h"
+#include "ui/WindowMover.h"
 
 namespace sprout {
 
@@ -39,8 +39,7 @@ private:
     QLabel* captionLbl;
     QString captionText;
     std::vector<ImageButton*> windowButtons;
-    QPoint downAt;
-    bool moving = false;
+    WindowMover mover;
 };
 
 } // namespace sprout

@@ -18,8 +18,6 @@ namespace sprout {
 
 namespace {
 
-constexpr int kScrollBarBreadth = 18;
-
 /// Gives a bar its range and its place, of which no event tells, and returns the place.
 std::int32_t FitScrollBar(QScrollBar& bar, const ScrollRange& range, std::int32_t first, int pageStep)
 {
@@ -104,6 +102,7 @@ void TrackCanvas::DrawTracksAll()
     FitScrollBars();
     titlePic->Clear();
     trackPic->Clear();
+    trackPic->DrawMeadow(song.TrackCount);
     DrawTrackTop();
     for (std::int32_t track = 1; track <= song.TrackCount; ++track)
         DrawTrackOne(track);

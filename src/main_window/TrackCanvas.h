@@ -93,6 +93,7 @@ private:
     bool StepKeyCell(const QKeyEvent& event);
     void ShowKeyCell();
     void PressKeyCell();
+    void TellKeyCell();
     [[nodiscard]] QPoint KeyPoint() const;
 
     TrackCanvasCalls calls;

@@ -11,6 +11,7 @@
 #include "main_window/TrackCanvas.h"
 #include "main_window/TrackPic.h"
 #include "main_window/rules/CellValues.h"
+#include "main_window/rules/TrackPointer.h"
 #include "ui/Hints.h"
 #include "ui/QtText.h"
 #include "ui/ToolCursor.h"
@@ -196,8 +197,9 @@ bool TrackCanvas::StepKeyCell(const QKeyEvent& event)
     if (!stroke.Dragging())
         keyTrack += arrow->tracks;
     keyTrack = std::clamp(keyTrack, 0, song.TrackCount);
-    keyCell = std::clamp(keyCell + arrow->cells, 1, song.SongCells);
+    keyCell = std::clamp(keyCell + arrow->cells, 1, std::max(song.SongCells, 1)); // a file may hold a song of no cells
     ShowKeyCell();
+    TellKeyCell();
     return true;
 }
 
@@ -215,6 +217,13 @@ void TrackCanvas::PressKeyCell()
     ShowKeyCell();
     Press(KeyPoint());
     EndStroke();
+    TellKeyCell();
+}
+
+void TrackCanvas::TellKeyCell()
+{
+    // The name of what has the focus is read out when it changes.
+    trackPic->setAccessibleName(QtText(CellInWords(Shared().Song, keyTrack, keyCell)));
 }
 
 void TrackCanvas::keyReleaseEvent(QKeyEvent* event)

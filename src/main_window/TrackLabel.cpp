@@ -9,6 +9,7 @@
 
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -27,6 +28,7 @@ TrackLabel::TrackLabel(const char* name, const QString& text, std::function<void
     setFont(font);
     setAlignment(Qt::AlignCenter);
     setFocusPolicy(Qt::TabFocus);
+    SetSpokenRole(*this, QAccessible::Button);
 }
 
 void TrackLabel::mouseReleaseEvent(QMouseEvent* event)

@@ -12,6 +12,7 @@
 #include "main_window/rules/CellValues.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -19,6 +20,7 @@ namespace {
 
 constexpr QPoint kTimeSlideAt{-5, 2};
 constexpr QPoint kUnpaintedTextAt{10, 6}; ///< below the row's top
+constexpr int kMeadowTileWidth = 512;
 constexpr int kByteBits = 8;
 
 bool AnyCellIsPainted(const Track& track)
@@ -52,6 +54,7 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
 {
     songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
+    SetSpokenRole(*this, QAccessible::Canvas);
     setAccessibleName(tr("Tracks"));
     setAccessibleDescription(tr(
         "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
@@ -63,6 +66,13 @@ void TrackPic::Clear()
     TrackSurface::Clear();
     drawnRows.assign(static_cast<std::size_t>(std::max(VisibleRows(view), 0)) + 1, std::nullopt);
     drawnTop.reset();
+}
+
+void TrackPic::DrawMeadow(std::int32_t trackCount)
+{
+    if (const auto top = MeadowTop(view, trackCount))
+        Painter().Tile(QRect(0, *top, width(), kMeadowHeight),
+                       CanvasPicture("Meadow", QSize(kMeadowTileWidth, kMeadowHeight), PixelRatio()));
 }
 
 TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const

@@ -28,6 +28,8 @@ public:
 
     /// Empties the surface and forgets what was drawn.
     void Clear();
+    /// Draws a meadow on the lower edge of an emptied surface, if the rows leave room for it.
+    void DrawMeadow(std::int32_t trackCount);
     /// Draws a track's row, if it is in view and does not show just that already.
     void DrawRow(const SongState& song, std::int32_t track);
     /// Draws the time band, if it does not show just that already.

@@ -15,6 +15,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/SpokenRoles.h"
 
 namespace sprout {
 
@@ -65,6 +66,7 @@ TrackTitlePic::TrackTitlePic(const TrackView& shownView, ButtonScheme& scheme, c
 {
     // The pointer leaves the focus where it is, so that the space bar goes on playing and stopping.
     setFocusPolicy(Qt::TabFocus);
+    SetSpokenRole(*this, QAccessible::ToolBar);
     setAccessibleName(tr("Buttons of the tracks"));
     setAccessibleDescription(tr("Choose a track with up and down and its button with left and right, press Enter."));
     MakeHeadings();
@@ -189,6 +191,7 @@ void TrackTitlePic::PaintRow(const Track& track, std::int32_t number)
 void TrackTitlePic::PlaceAddButtons(std::int32_t trackCount)
 {
     const int top = AddButtonsTop(view, trackCount);
+    chosenRow = std::min(chosenRow, trackCount); // the frame of a track that is gone goes to the last one
     addBtn->move(kAddButtonLeft, top);
     addRecBtn->move(kAddButtonLeft + kAddButtonsApart, top);
     topLbl->move(kAddButtonLeft, top + kAddButtonSize.height() + kTopLblGap);

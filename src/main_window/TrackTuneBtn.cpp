@@ -9,6 +9,7 @@
 #include "ui/Hints.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -35,7 +36,7 @@ TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
 void TrackTuneBtn::SetTune(const Tune& tune)
 {
     raised = RaisedTunePicture(tune.Picture);
-    setToolTip(tune.Name.empty() ? tr("Tune Button") : QtText(tune.Name));
+    setToolTip(tune.Name.empty() ? tr("Tune Button") : QtTip(tune.Name));
     update();
 }
 

@@ -30,7 +30,8 @@ constexpr int kSongMargin = 16;
 constexpr int kListWidth = 360;
 constexpr int kLabelHeight = 24;
 constexpr int kSongNameHeight = 34;
-constexpr int kModePicSide = 34;
+constexpr int kModePicSide = 30;
+constexpr int kModePicInset = 4; ///< of the drawing in the picture
 constexpr int kSongRowGap = 12;
 constexpr int kColumnGap = 8;
 
@@ -148,10 +149,12 @@ void SongSelFrm::PlaceControls()
 {
     const SongSelLayout& layout = LayoutOf(mode);
     const int listBottom = layout.ListTop + layout.ListHeight;
-    ModePic->setGeometry(
-        {BodyPoint(kSongMargin, layout.ListTop - kModePicSide - 2), QSize(kModePicSide, kModePicSide)});
-    ListTitleLbl->setGeometry({BodyPoint(kSongMargin + kModePicSide + 2, layout.ListTitleTop),
-                               QSize(kListWidth - kModePicSide - 2, kLabelHeight)});
+    const int pictureLeft = kSongMargin - kModePicInset;
+    const int titleLeft = pictureLeft + kModePicSide;
+    ModePic->setGeometry({BodyPoint(pictureLeft, layout.ListTitleTop - (kModePicSide - kLabelHeight) / 2),
+                          QSize(kModePicSide, kModePicSide)});
+    ListTitleLbl->setGeometry(
+        {BodyPoint(titleLeft, layout.ListTitleTop), QSize(kSongMargin + kListWidth - titleLeft, kLabelHeight)});
     SngNmLst->setGeometry({BodyPoint(kSongMargin, layout.ListTop), QSize(kListWidth, layout.ListHeight)});
     PlaceColumn(layout.ListTop, listBottom);
     if (layout.HasNameBox)
@@ -176,7 +179,9 @@ void SongSelFrm::PlaceColumn(int top, int bottom)
 void SongSelFrm::PlaceNameBox(int top)
 {
     const int nameLeft = kSongMargin + SongNmLbl->sizeHint().width() + 8;
-    TextTitleLbl->setGeometry({BodyPoint(kSongMargin, top), QSize(width() - 2 * kSongMargin, kLabelHeight)});
+    // The title begins with a blank, the label below it does not.
+    const int titleLeft = kSongMargin - TextTitleLbl->fontMetrics().horizontalAdvance(QChar(u' '));
+    TextTitleLbl->setGeometry({BodyPoint(titleLeft, top), QSize(width() - titleLeft - kSongMargin, kLabelHeight)});
     SongNmLbl->setGeometry(
         {BodyPoint(kSongMargin, top + kLabelHeight + 2), QSize(nameLeft - kSongMargin, kSongNameHeight)});
     SongNameTxt->setGeometry(

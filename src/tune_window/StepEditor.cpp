@@ -24,6 +24,7 @@
 #include "ui/Guarded.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/PopupKeys.h"
 #include "ui/QtText.h"
 
 namespace sprout {
@@ -60,10 +61,10 @@ constexpr std::array kStepNos{
     StepNosRow{"64 Steps", 64}, StepNosRow{"Other...!", kOtherSteps},
 };
 
-/// Turning the wheel over the box must not change the tune.
+/// Turning the wheel over the box must not change the tune, closing its list must not close the window.
 class StepNosBox : public QComboBox {
 public:
-    using QComboBox::QComboBox;
+    explicit StepNosBox(QWidget* parent) : QComboBox(parent) { KeepClosingKeys(*this); }
 
 protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }

@@ -9,6 +9,7 @@
 #include "tune_window/rules/StepEdits.h"
 #include "ui/Dialogs.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -102,7 +103,7 @@ void StepEditor::MoveOnSurface(QPoint place)
 void StepEditor::ShowPointer(const StepPointer& pointer)
 {
     ShowHint(QtText(pointer.hint));
-    surface->setToolTip(QtText(pointer.toolTip));
+    surface->setToolTip(QtTip(pointer.toolTip));
     if (pointer.cursor == StepCursor::PianoCursorImg)
         surface->setCursor(pianoCursor);
     else

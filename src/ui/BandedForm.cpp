@@ -8,7 +8,6 @@
 #include <QPainterPath>
 #include <QRegion>
 #include <QScreen>
-#include <QWindow>
 
 #include <algorithm>
 #include <iterator>
@@ -37,12 +36,6 @@ QPainterPath Outline(const QRectF& rect)
     QPainterPath path;
     path.addRoundedRect(rect, kCorner, kCorner);
     return path;
-}
-
-/// On Wayland a window cannot place itself.
-bool SystemMovesWindows()
-{
-    return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));
 }
 
 /// An X server may have no compositor, and then shows black where a window lets through.
@@ -194,22 +187,18 @@ void BandedForm::resizeEvent(QResizeEvent* event)
 
 void BandedForm::mousePressEvent(QMouseEvent* event)
 {
-    moving = event->button() == Qt::LeftButton && event->position().y() < kBandHeight;
-    // In places on the screen: a place inside the window is stale while the server still moves the window.
-    downAt = event->globalPosition().toPoint() - pos();
-    if (moving && SystemMovesWindows() && windowHandle())
-        moving = !windowHandle()->startSystemMove();
+    if (event->position().y() < kBandHeight)
+        mover.Press(*this, *event);
 }
 
 void BandedForm::mouseMoveEvent(QMouseEvent* event)
 {
-    if (moving)
-        move(event->globalPosition().toPoint() - downAt);
+    mover.Move(*this, *event);
 }
 
 void BandedForm::mouseReleaseEvent(QMouseEvent* /*event*/)
 {
-    moving = false;
+    mover.Release();
 }
 
 void BandedForm::keyPressEvent(QKeyEvent* event)

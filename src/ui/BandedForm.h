@@ -3,7 +3,6 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QPoint>
 
 #include <span>
 #include <string_view>
@@ -11,6 +10,7 @@
 
 #include "ui/ButtonScheme.h"
 #include "ui/Hints.h"
+#include "ui/WindowMover.h"
 
 namespace sprout {
 
@@ -75,8 +75,7 @@ private:
     QLabel* captionLbl;
     ImageButton* closeBox;
     std::vector<ImageButton*> wordButtons;
-    QPoint downAt;
-    bool moving = false;
+    WindowMover mover;
 };
 
 } // namespace sprout

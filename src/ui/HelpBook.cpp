@@ -63,8 +63,9 @@ HelpBook::HelpBook(QWidget* parent) : QTextBrowser(parent)
     setOpenExternalLinks(false);
     document()->setDocumentMargin(kPageMargin);
     document()->setDefaultStyleSheet(StyleOfPages());
-    setStyleSheet(QStringLiteral("QTextBrowser { background: white; border: 2px solid #6B655C; border-radius: 8px; }"
-                                 "QTextBrowser:focus { border-color: #1F6FA8; }"));
+    setStyleSheet(QStringLiteral(
+        "QTextBrowser { background: white; border: 2px solid #6B655C; border-radius: 8px; padding: 3px; }"
+        "QTextBrowser:focus { border-color: #1F6FA8; }"));
 }
 
 QVariant HelpBook::loadResource(int type, const QUrl& name)

@@ -27,8 +27,9 @@ QLineEdit, QComboBox, QListWidget {
 QLineEdit:focus, QComboBox:focus, QListWidget:focus { border-color: #1F6FA8; }
 QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right; width: 26px; border: none; }
 QComboBox::down-arrow { image: url(:/art/pictures/DropArrow.svg); width: 14px; height: 14px; }
-QListWidget { outline: none; }
-QListWidget::item { padding: 2px 4px; border: none; }
+QComboBox QAbstractItemView { background: #FFF8E7; color: #4A2F22; border: 2px solid #4A2F22; outline: none; }
+QListWidget { outline: none; padding: 3px 6px; }
+QListWidget::item { padding: 2px 4px; border: none; border-radius: 6px; }
 QListWidget::item:selected { background: #1F6FA8; color: white; }
 QToolTip { background: #FFF8E7; color: #4A2F22; border: 1px solid #4A2F22; padding: 2px 6px; }
 QMenu { background: #FFF8E7; color: #4A2F22; border: 2px solid #4A2F22; padding: 4px; }

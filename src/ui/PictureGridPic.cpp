@@ -19,6 +19,7 @@
 #include "ui/Palette.h"
 #include "ui/PictureGridAccessible.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -176,7 +177,7 @@ void PictureGridPic::SetScrollRange()
 
 void PictureGridPic::PlaceFrame()
 {
-    blinkSelectImg->setToolTip(HasChoice() ? QtText(Entry(selected).Name) : QString());
+    blinkSelectImg->setToolTip(HasChoice() ? QtTip(Entry(selected).Name) : QString());
     if (!HasChoice() || !IsInGridView(Grid(), selected)) {
         blinkSelectImg->move(kFrameOutOfSight, kFrameOutOfSight);
         blinkSelectedTimer->stop();
@@ -269,7 +270,7 @@ void PictureGridPic::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint at = event->position().toPoint();
     const int index = HitTestGrid(Grid(), at.x(), at.y());
-    setToolTip(index == 0 ? QString() : QtText(Entry(index).Name));
+    setToolTip(index == 0 ? QString() : QtTip(Entry(index).Name));
     Q_EMIT Hovered(index);
 }
 

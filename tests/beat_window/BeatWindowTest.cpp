@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beat_window/BeatWindowTest.h"
 
+#include <QScreen>
+
 #include "beat_window/ChooseBeat.h"
 #include "ui/HelpFrm.h"
 
@@ -155,23 +157,39 @@ TEST_F(BeatWindowTest, TellsOfADamagedPictureAndStaysUsable)
 
 TEST_F(BeatWindowTest, ScrollsToTheRowsThatDoNotFit)
 {
-    for (int i = 0; i < 9 * 12 + 1; ++i)
+    for (int i = 0; i < 17 * 12 + 1; ++i)
         MakeBeat("beat" + std::to_string(1000 + i), 10);
     Open();
     EXPECT_TRUE(Grid().VScroll1().isEnabled());
     EXPECT_EQ(Grid().VScroll1().maximum(), 3);
     Grid().VScroll1().setValue(3);
     EXPECT_FALSE(Grid().BlinkSelectedTimer().isActive());
-    ClickBeat(109);
-    EXPECT_EQ(TextOf("NmLbl"), "beat1108");
+    ClickBeat(205);
+    EXPECT_EQ(TextOf("NmLbl"), "beat1204");
+}
+
+TEST_F(BeatWindowTest, IsAsHighAsItsBeatsAskForAndTheScreenAllows)
+{
+    MakeBeat("beat1000", 10);
+    Open();
+    const int fewRows = Grid().height();
+    EXPECT_EQ(fewRows, 8 * 40 + 2);
+    for (int i = 1; i < 8 * 12; ++i)
+        MakeBeat("beat" + std::to_string(1000 + i), 10);
+    window->LoadBeatFiles();
+    EXPECT_EQ(Grid().height(), fewRows) << "the open window has changed its size";
+    Open();
+    EXPECT_EQ(Grid().height(), fewRows + 40);
+    EXPECT_FALSE(Grid().VScroll1().isEnabled());
+    EXPECT_LE(window->height(), window->screen()->availableGeometry().height());
 }
 
 TEST_F(BeatWindowTest, BeginsAtTheFirstRowAlsoWhereTheChosenBeatIsNotInView)
 {
-    for (int i = 0; i < 9 * 12 + 1; ++i)
+    for (int i = 0; i < 17 * 12 + 1; ++i)
         MakeBeat("beat" + std::to_string(1000 + i), 10);
-    Open("beat1108");
-    EXPECT_EQ(TextOf("NmLbl"), "beat1108");
+    Open("beat1204");
+    EXPECT_EQ(TextOf("NmLbl"), "beat1204");
     EXPECT_EQ(Grid().TopRow(), 1);
     EXPECT_FALSE(Grid().BlinkSelectedTimer().isActive());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/MainFrm.h"
 
+#include <QAccessible>
 #include <QSignalSpy>
 
 #include <array>
@@ -161,6 +162,30 @@ TEST_F(MainFrmTest, HasJustOneToolOnAndStartsWithTheBrush)
     EXPECT_EQ(faces(), (Faces{on, off, off}));
 }
 
+TEST_F(MainFrmTest, TellsScreenReadersTheChosenTool)
+{
+    const auto chosen = [this](const char* name) {
+        const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&Control(name));
+        EXPECT_EQ(spoken->role(), QAccessible::RadioButton);
+        return static_cast<bool>(spoken->state().checked);
+    };
+    EXPECT_TRUE(chosen("BrushBtn"));
+    EXPECT_FALSE(chosen("EraserBtn"));
+    ClickButton("EraserBtn");
+    EXPECT_FALSE(chosen("BrushBtn"));
+    EXPECT_TRUE(chosen("EraserBtn"));
+}
+
+TEST_F(MainFrmTest, TellsScreenReadersWhatItsPartsAre)
+{
+    const auto role = [](QWidget& part) { return QAccessible::queryAccessibleInterface(&part)->role(); };
+    EXPECT_EQ(role(*window), QAccessible::Window);
+    EXPECT_EQ(role(Control("TrackPic")), QAccessible::Canvas);
+    EXPECT_EQ(role(Control("TrackTitlePic")), QAccessible::ToolBar);
+    EXPECT_EQ(role(Control("TempoPrtImg")), QAccessible::Slider);
+    EXPECT_EQ(role(Control("Label1")), QAccessible::Button);
+}
+
 TEST_F(MainFrmTest, PaintsWithTheToolThatIsOn)
 {
     QWidget& pic = Control("TrackPic");
@@ -171,11 +196,45 @@ TEST_F(MainFrmTest, PaintsWithTheToolThatIsOn)
     EXPECT_EQ(At(Song().Tracks, 1).Painted[11], 2);
 }
 
+TEST_F(MainFrmTest, PaintsWithAFinger)
+{
+    QWidget& pic = Control("TrackPic");
+    static QPointingDevice* const screen = QTest::createTouchDevice();
+    QTest::touchEvent(&pic, screen).press(1, QPoint(30, 40));
+    QTest::touchEvent(&pic, screen).move(1, QPoint(36, 40));
+    QTest::touchEvent(&pic, screen).release(1, QPoint(36, 40));
+    EXPECT_EQ(At(Song().Tracks, 1).Painted[11], 1);
+    EXPECT_EQ(At(Song().Tracks, 1).Painted[12], 1);
+    EXPECT_EQ(At(Song().Tracks, 1).Painted[13], 1);
+    EXPECT_EQ(At(Song().Tracks, 1).Painted[14], 0);
+}
+
+TEST_F(MainFrmTest, PressesAButtonWithAFinger)
+{
+    QWidget& eraser = Control("EraserBtn");
+    static QPointingDevice* const screen = QTest::createTouchDevice();
+    QTest::touchEvent(&eraser, screen).press(1, QPoint(20, 20));
+    QTest::touchEvent(&eraser, screen).release(1, QPoint(20, 20));
+    EXPECT_EQ(FaceOf("EraserBtn"), ButtonFace::PressedOn);
+}
+
 TEST_F(MainFrmTest, ShowsTheCellUnderThePointer)
 {
     QWidget& pic = Control("TrackPic");
     Send(pic, QEvent::MouseMove, pic.mapToGlobal(QPointF(30, 40)), Qt::NoButton);
     EXPECT_EQ(TextOf("TrackMouPosLbl"), "11");
+}
+
+TEST_F(MainFrmTest, LabelsTheSecondsOfTheBandByTheNewTempo)
+{
+    const auto band = [this] { return Control("TrackPic").grab(QRect(20, 0, 400, 17)).toImage(); };
+    const QImage before = band();
+    QTest::keyClick(&Control("TempoPrtImg"), Qt::Key_Home);
+    ASSERT_EQ(Song().Tempo, 160);
+    const QImage after = band();
+    EXPECT_NE(after, before);
+    window->DrawTracksAll();
+    EXPECT_EQ(band(), after);
 }
 
 TEST_F(MainFrmTest, ShowsTitleAndAuthor)
@@ -195,6 +254,22 @@ TEST_F(MainFrmTest, CutsATitleThatIsTooLongAndTellsItWholeToAScreenReader)
     window->UpdateSongTitle();
     EXPECT_LT(TextOf("SngTitleLbl").size(), 200U);
     EXPECT_EQ(Control("SngTitleLbl").accessibleName().size(), 300);
+}
+
+TEST_F(MainFrmTest, KeepsTheControlBarInOneLineDownToAThousandPixels)
+{
+    Song().SongTitle = "Zumi";
+    Song().SongCreatedBy = "Lina";
+    window->resize(1000, 640);
+    window->UpdateSongTitle();
+    EXPECT_EQ(Control("PlayAllBtn").y(), Control("DemoBtn").y());
+    EXPECT_EQ(TextOf("SngTitleLbl"), "Zumi");
+    EXPECT_FALSE(Control("SngCreateLbl").isVisible());
+    for (const QSize size : {QSize(1280, 640), QSize(800, 640)}) {
+        window->resize(size);
+        EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
+        EXPECT_TRUE(Control("SngCreateLbl").isVisible());
+    }
 }
 
 TEST_F(MainFrmTest, MaximizesAndRestoresAndShowsTheButtonThatMakesSense)
@@ -510,6 +585,19 @@ TEST_F(MainFrmTest, LivesWithASongOfNoTracks)
     EXPECT_EQ(message.line1, QStringLiteral("Please select tune for track using tune button."));
     ClickButton("NewBtn");
     EXPECT_EQ(Song().TrackCount, 2);
+}
+
+TEST_F(MainFrmTest, GivesTheRoomOfTheStatusLineToTheTracksInTheLowestWindow)
+{
+    window->resize(533, 200);
+    EXPECT_FALSE(Control("StatusFramePic").isVisible());
+    EXPECT_FALSE(Control("Corner4Pic").isVisible());
+    EXPECT_EQ(Control("TrackFramePic").geometry().bottom(), 193);
+    EXPECT_GT(Control("TrackPic").height(), 20 + 7);
+    window->resize(533, 266);
+    EXPECT_TRUE(Control("StatusFramePic").isVisible());
+    EXPECT_TRUE(Control("Corner4Pic").isVisible());
+    EXPECT_EQ(Control("TrackPic").height(), 20 + 46);
 }
 
 TEST_F(MainFrmTest, IsDrawnAtEverySizeItMayHave)

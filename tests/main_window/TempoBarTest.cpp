@@ -121,6 +121,34 @@ TEST_F(TempoBarTest, ShowsADragAtOnceAndTakesItAtTheRelease)
     EXPECT_EQ(Text("SngDurLbl"), QStringLiteral("160 sec"));
 }
 
+TEST_F(TempoBarTest, ShowsTheDurationOfADragAlsoWhereTheTempoLayBeyondTheSlider)
+{
+    song.Tempo = 3200;
+    bar->UpdateTempoSliderValue();
+    ASSERT_EQ(Text("SngDurLbl"), QStringLiteral("24 sec"));
+    Press();
+    DragBy(20); // the pointer stands at the slot's end already
+    EXPECT_EQ(Text("TempoLbl"), QStringLiteral("200%"));
+    EXPECT_EQ(Text("SngDurLbl"), QStringLiteral("120 sec"));
+    EXPECT_EQ(song.Tempo, 3200);
+    Release();
+    EXPECT_EQ(song.Tempo, 640);
+}
+
+TEST_F(TempoBarTest, EndsADragWhoseReleaseGoesToAnotherWindow)
+{
+    QApplication::setActiveWindow(&window);
+    pointer().setFocus();
+    Press();
+    DragBy(50);
+    pointer().clearFocus();
+    EXPECT_EQ(song.Tempo, 480);
+    DragBy(20);
+    EXPECT_EQ(Text("TempoLbl"), QStringLiteral("150%"));
+    Release();
+    EXPECT_EQ(song.Tempo, 480);
+}
+
 TEST_F(TempoBarTest, MarksNothingWhereTheTempoComesBackAsItWas)
 {
     const QSignalSpy changes(bar.get(), &TempoBar::TempoChanged);
@@ -225,7 +253,7 @@ TEST_F(TempoBarTest, ExplainsItselfOnTheStatusLine)
 
 TEST_F(TempoBarTest, FitsIntoANarrowWindow)
 {
-    bar->FitWidth(170);
+    bar->FitRoom({170, 40});
     EXPECT_LE(bar->width(), 170);
     EXPECT_LE(Control("TempoLbl").geometry().bottom(), Control("SngDurLbl").y());
     const QWidget& slot = Control("TempoSliderImg");
@@ -235,14 +263,32 @@ TEST_F(TempoBarTest, FitsIntoANarrowWindow)
     DragBy(-500);
     Release();
     EXPECT_EQ(song.Tempo, 160);
-    bar->FitWidth(1000);
+    bar->FitRoom({1000, 40});
     EXPECT_EQ(slot.width(), 184);
+}
+
+TEST_F(TempoBarTest, HasItsLabelsBelowTheSlotWhereTheRoomIsNarrowAndHigh)
+{
+    bar->FitRoom({126, 53});
+    EXPECT_EQ(bar->size(), QSize(126, 53));
+    EXPECT_EQ(Control("TempoSliderImg").width(), 126);
+    EXPECT_EQ(Control("TempoLbl").geometry(), QRect(13, 37, 50, 16));
+    EXPECT_EQ(Control("SngDurLbl").geometry(), QRect(63, 37, 50, 16));
+    for (const char* name : {"TempoLbl", "SngDurLbl"}) {
+        const auto& label = static_cast<const QLabel&>(Control(name));
+        EXPECT_GE(QFontInfo(label.font()).pixelSize(), 12);
+        EXPECT_LE(label.sizeHint().width(), label.width());
+    }
+    bar->FitRoom({300, 53});
+    EXPECT_EQ(bar->size(), QSize(184, 53));
+    bar->FitRoom({1000, 40});
+    EXPECT_EQ(bar->height(), 40);
 }
 
 TEST_F(TempoBarTest, MarksTheUsualTempoUnderThePointersMiddle)
 {
-    for (const int widthPx : {1000, 170}) {
-        bar->FitWidth(widthPx);
+    for (const QSize room : {QSize(1000, 40), QSize(170, 40), QSize(126, 53)}) {
+        bar->FitRoom(room);
         const QImage slot = Control("TempoSliderImg").grab().toImage();
         const int middle = pointer().x() + pointer().width() / 2;
         EXPECT_GT(slot.pixelColor(middle - 8, 6).lightness(), 150);

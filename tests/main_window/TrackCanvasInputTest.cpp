@@ -265,8 +265,10 @@ TEST_F(TrackCanvasInputTest, KeysMoveTheCellCursorAndPaint)
     Key(Qt::Key_Right, Qt::ControlModifier);
     EXPECT_EQ(Part("CellCursor").pos(), QPoint(CellX(2), RowY(2) + 7));
     EXPECT_EQ(cellText, "2");
+    EXPECT_EQ(Pic().accessibleName(), QStringLiteral("Track 2, cell 2, empty"));
     Key(Qt::Key_Return);
     EXPECT_THAT(Painted(2, 1, 3), ElementsAre(0, 1, 0));
+    EXPECT_EQ(Pic().accessibleName(), QStringLiteral("Track 2, cell 2, painted"));
     // A stroke from there, taken back by a cell.
     const auto both = Qt::ControlModifier | Qt::ShiftModifier;
     for (int i = 0; i < 4; ++i)
@@ -294,6 +296,32 @@ TEST_F(TrackCanvasInputTest, TheKeysCellIsScrolledIntoView)
     Scroll("TrackHScroll").setValue(600);
     Key(Qt::Key_Return);
     EXPECT_EQ(At(TrackOf(12).Painted, 202), 1);
+}
+
+TEST_F(TrackCanvasInputTest, EnterUsesTheToolOnTheLastRowWhereThatOfTheKeysIsGone)
+{
+    SetTracks(3);
+    for (int i = 0; i < 2; ++i)
+        Key(Qt::Key_Down, Qt::ControlModifier);
+    SetTracks(2);
+    Key(Qt::Key_Return);
+    EXPECT_THAT(Painted(2, 1, 2), ElementsAre(1, 0));
+}
+
+TEST_F(TrackCanvasInputTest, KeysDoNothingInASongOfNoCells)
+{
+    Song().SongCells = 0;
+    SetTracks(2);
+    for (const Qt::KeyboardModifiers modifiers :
+         {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::ControlModifier | Qt::ShiftModifier})
+        Key(Qt::Key_Right, modifiers);
+    Key(Qt::Key_Return);
+    EXPECT_THAT(TrackOf(1).Painted, ElementsAre(0));
+    EXPECT_EQ(cellText, "");
+    NewSong();
+    canvas->DrawTracksAll();
+    Key(Qt::Key_Right, Qt::ControlModifier);
+    EXPECT_EQ(cellText, "2");
 }
 
 TEST_F(TrackCanvasInputTest, AStrokeOfTheKeysEndsWithTheFocus)

@@ -4,9 +4,11 @@
 #include <gmock/gmock.h>
 
 #include <QPaintEvent>
+#include <QPainter>
 
 #include "main_window/CanvasFixture.h"
 #include "ui/Artwork.h"
+#include "ui/Look.h"
 #include "ui/Palette.h"
 
 namespace sprout {
@@ -61,6 +63,31 @@ bool HasColourIn(const QImage& image, const QRect& place, const QColor& colour)
     return false;
 }
 
+/// The box around the pixels of a place that `isInk` tells.
+template <class IsInk>
+QRect InkIn(const QRect& place, IsInk isInk)
+{
+    QRect box;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        for (int x = place.left(); x <= place.right(); ++x)
+            if (isInk(x, y))
+                box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+/// The box of a text whose line begins at `at`.
+QRect InkOf(const QString& text, QPoint at, const QFont& font)
+{
+    QImage page(600, 400, QImage::Format_RGB32);
+    page.fill(Qt::white);
+    QPainter painter(&page);
+    painter.setFont(font);
+    painter.setPen(kBark);
+    painter.drawText(QPointF(at.x(), at.y() + QFontMetricsF(font).ascent()), text);
+    painter.end();
+    return InkIn(page.rect(), [&page](int x, int y) { return page.pixelColor(x, y) == kBark; });
+}
+
 TEST_F(TrackCanvasTest, PutsStripSurfaceAndBarsSideBySide)
 {
     EXPECT_EQ(canvas->objectName(), QStringLiteral("TrackFramePic"));
@@ -72,6 +99,18 @@ TEST_F(TrackCanvasTest, PutsStripSurfaceAndBarsSideBySide)
     EXPECT_EQ(Pic().geometry(), QRect(140, 0, 242, 200));
     EXPECT_EQ(Part("PlayPosImg0").height(), 200);
     EXPECT_EQ(canvas->View().trackPicWidth, 242);
+}
+
+TEST_F(TrackCanvasTest, HasAMeadowBelowFewTracksAndNoneBehindMany)
+{
+    const auto hasMeadow = [this] {
+        return ColourAt(Pic(), 300, kPicHeight - 1) != kPaper && ColourAt(Pic(), 590, kPicHeight - 1) != kPaper;
+    };
+    EXPECT_TRUE(hasMeadow());
+    EXPECT_EQ(ColourAt(Pic(), 300, kPicHeight - 81), kPaper);
+    SetTracks(4);
+    canvas->DrawTracksAll();
+    EXPECT_FALSE(hasMeadow());
 }
 
 TEST_F(TrackCanvasTest, GivesTrack9Tile10Track10Tile1AndTrack11Tile2)
@@ -189,6 +228,49 @@ TEST_F(TrackCanvasTest, LabelsTheSecondsUpTo480AtHalfTheTempo)
     canvas->DrawTrackTop();
     EXPECT_TRUE(HasColourIn(Shown(Pic()), label, kBark));
     EXPECT_NE(Shown(Pic()).copy(label), at240);
+}
+
+TEST_F(TrackCanvasTest, WritesTheWordsOfATrackWithoutPaintAtTheirPlace)
+{
+    const QImage shown = Shown(Pic());
+    const QRect row(0, RowY(1) + 2, kPicWidth, 42);
+    EXPECT_EQ(
+        InkIn(row, [&shown](int x, int y) { return shown.pixelColor(x, y) == kBark; }),
+        InkOf(QStringLiteral("Please paint on this track to play with others."), QPoint(10, RowY(1) + 6), LabelFont()));
+}
+
+TEST_F(TrackCanvasTest, WritesTheNumberOfATrackAheadOfItsPicture)
+{
+    SetTracks(110);
+    QFont small = ButtonFont();
+    small.setPixelSize(12); // a third digit would reach into the picture
+    const auto expectNumber = [this](std::int32_t track, int left, const QFont& font) {
+        Scroll("TrackVScroll").setValue(track);
+        const QImage shown = Shown(Strip());
+        const QRect ahead(0, RowY(1) + 2, 24, 42);
+        EXPECT_EQ(InkIn(ahead, [&shown](int x, int y) { return shown.pixelColor(x, y) == kBark; }),
+                  InkOf(QString::number(track), QPoint(left, RowY(1) + 13), font))
+            << track;
+    };
+    expectNumber(9, 6, ButtonFont());
+    expectNumber(10, 2, ButtonFont());
+    expectNumber(99, 2, ButtonFont());
+    expectNumber(104, 2, small);
+}
+
+TEST_F(TrackCanvasTest, StandsTheSecondsOnTheFootOfTheBand)
+{
+    const QImage with = Shown(Pic());
+    Song().Tempo = 0; // none
+    canvas->DrawTrackTop();
+    const QImage without = Shown(Pic());
+    const QRect aroundFive(72, 0, 40, 17); // five seconds stand 80 pixels behind the start
+    const int top = 17 - QFontMetrics(HintFont()).height();
+    EXPECT_EQ(InkIn(aroundFive,
+                    [&](int x, int y) {
+                        return with.pixelColor(x, y) == kBark && with.pixelColor(x, y) != without.pixelColor(x, y);
+                    }),
+              InkOf(QStringLiteral("5"), QPoint(80, top), HintFont()));
 }
 
 TEST_F(TrackCanvasTest, DrawsTheStripOfAMusicTrack)

@@ -91,7 +91,9 @@ TEST_F(TrackCommandsTest, ANoKeepsTheTrackAndTheSound)
     PlaySomething();
     HoverDeleteButton(2);
     const NextForm form("NoBtn");
+    statusLbl.setText(QStringLiteral("Delete button"));
     tracks->TrackDeleteBtn();
+    EXPECT_TRUE(statusLbl.text().isEmpty());
     EXPECT_EQ(form.lines.size(), 2U);
     EXPECT_EQ(song.TrackCount, 3);
     EXPECT_TRUE(Unmarked());
@@ -164,7 +166,9 @@ TEST_F(TrackCommandsTest, ACancelledTuneWindowRendersATuneThatIsNotRenderedAndMa
 TEST_F(TrackCommandsTest, OpensNoTuneWindowWhereNoTrackIsHovered)
 {
     PlaySomething();
+    statusLbl.setText(QStringLiteral("Tune button"));
     tracks->TrackTuneBtn();
+    EXPECT_TRUE(statusLbl.text().isEmpty());
     EXPECT_EQ(tuneWindowsOpened, 0);
     EXPECT_EQ(play.PlayState, PlayState::Playing);
 }

@@ -5,6 +5,7 @@
 
 #include "main_window/CanvasFixture.h"
 #include "ui/ModalSteps.h"
+#include "ui/Palette.h"
 
 namespace sprout {
 namespace {
@@ -82,6 +83,9 @@ TEST_F(TrackTitlePicTest, FloatsDeleteAndPlayInTheirRangesAlone)
 
 TEST_F(TrackTitlePicTest, HidesTheButtonsOutsideTheRowsAndWhereThePointerLeaves)
 {
+    Hover(117, RowY(1) + 20);
+    QTest::mouseMove(&Part("TrackTopLbl"), QPoint(10, 10));
+    EXPECT_THAT(Floating(), IsEmpty());
     for (const int y : {5, 17, RowY(3) + 20}) {
         Hover(117, RowY(1) + 20);
         ASSERT_THAT(Floating(), ElementsAre("TrackPlayBtn"));
@@ -104,6 +108,17 @@ TEST_F(TrackTitlePicTest, HideTrackButtonsAndAWholeRedrawHideTheButtons)
     Hover(117, RowY(1) + 20);
     canvas->DrawTracksAll();
     EXPECT_THAT(Floating(), IsEmpty());
+}
+
+TEST_F(TrackTitlePicTest, APressShowsWhatItWouldPressWhereARedrawHidTheButtons)
+{
+    Hover(117, RowY(1) + 20);
+    canvas->DrawTracksAll(); // as behind a scroll or a deleted track, with the pointer at rest
+    ASSERT_THAT(Floating(), IsEmpty());
+    QTest::mouseClick(&Strip(), Qt::LeftButton, {}, QPoint(117, RowY(2) + 20));
+    EXPECT_THAT(Floating(), ElementsAre("TrackPlayBtn"));
+    EXPECT_EQ(canvas->HoverTrack(), 2);
+    EXPECT_THAT(asked, IsEmpty());
 }
 
 TEST_F(TrackTitlePicTest, AMoveOverTheStripClearsTheHintAndOneOverAButtonShowsIts)
@@ -131,9 +146,12 @@ TEST_F(TrackTitlePicTest, TheTuneButtonTellsTheTunesNameAndLetsItPlay)
     TrackOf(1).TrackTune.Name = "Bambu";
     QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(12, 10));
     EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("Bambu"));
+    TrackOf(1).TrackTune.Name = "<b>Bold</b>"; // a name, and no way to write it
+    QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(13, 10));
+    EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("<p>&lt;b&gt;Bold&lt;/b&gt;</p>"));
     Hover(40, RowY(2) + 20);
     QTest::mouseMove(&Part("TrackAudioBtn"), QPoint(10, 10));
-    EXPECT_EQ(titlePlays, 3);
+    EXPECT_EQ(titlePlays, 4);
 }
 
 TEST_F(TrackTitlePicTest, TheTuneButtonHidesWhereItsTrackIsGone)
@@ -236,6 +254,21 @@ TEST_F(TrackTitlePicTest, AChosenRowIsScrolledIntoViewAndFramed)
     EXPECT_NE(Shown(Strip()).pixelColor(0, RowY(1)), without.pixelColor(0, RowY(1)));
     Pic().setFocus(Qt::MouseFocusReason);
     EXPECT_EQ(Shown(Strip()), without);
+}
+
+TEST_F(TrackTitlePicTest, TheFrameOfATrackThatIsGoneGoesToTheLastOne)
+{
+    SetTracks(3);
+    Strip().setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&Strip(), Qt::Key_Down);
+    QTest::keyClick(&Strip(), Qt::Key_Down);
+    const auto framed = [this](std::int32_t row) { return ColourAt(Strip(), 0, RowY(row) + 30) == kLink; };
+    EXPECT_TRUE(framed(3));
+    SetTracks(2);
+    EXPECT_FALSE(framed(3));
+    EXPECT_TRUE(framed(2));
+    SetTracks(0);
+    EXPECT_FALSE(framed(1));
 }
 
 } // namespace

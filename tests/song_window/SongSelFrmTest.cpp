@@ -5,6 +5,10 @@
 
 #include <QClipboard>
 
+#include <linux/capability.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
 #include "core/Shared.h"
 #include "service/Services.h"
 #include "support/FakeServices.h"
@@ -20,6 +24,37 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
+
+/// A folder in which nothing can be deleted as long as it lives, not by root either, who lays down the right to all.
+class UnchangeableFolder {
+public:
+    explicit UnchangeableFolder(const fs::path& lockedFolder) : folder(lockedFolder)
+    {
+        fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
+        EXPECT_EQ(syscall(SYS_capget, &head, rights), 0);
+        rightsBefore = rights[0].effective;
+        SetRights(rightsBefore & ~(1U << CAP_DAC_OVERRIDE));
+    }
+    UnchangeableFolder(const UnchangeableFolder&) = delete;
+    UnchangeableFolder& operator=(const UnchangeableFolder&) = delete;
+    ~UnchangeableFolder()
+    {
+        SetRights(rightsBefore);
+        fs::permissions(folder, fs::perms::owner_all);
+    }
+
+private:
+    void SetRights(std::uint32_t effective)
+    {
+        rights[0].effective = effective;
+        EXPECT_EQ(syscall(SYS_capset, &head, rights), 0);
+    }
+
+    fs::path folder;
+    __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
+    __user_cap_data_struct rights[2]{};
+    std::uint32_t rightsBefore = 0;
+};
 
 /// What a message or a question showed.
 struct Told {
@@ -217,7 +252,9 @@ TEST_F(SongSelFrmTest, OpensTheSelectedSongOnly)
     Open(SongSelMode::Open);
     EXPECT_EQ(ClickAndAnswer("OkBtn", "OkBtn").line1, QStringLiteral("Song not selected."));
     ClickRow(1);
-    Click(form, "OkBtn");
+    ShowHint(QStringLiteral("A hint"));
+    QTest::keyClick(&List(), Qt::Key_Return);
+    EXPECT_EQ(statusLbl.text(), QString());
     EXPECT_FALSE(form.isVisible());
     EXPECT_TRUE(form.Ok);
     EXPECT_EQ(form.ChosenName, "Zumi");
@@ -481,6 +518,24 @@ TEST_F(SongSelFrmTest, DeletingAsksFirst)
     EXPECT_EQ(statusLbl.text(), QString());
 }
 
+TEST_F(SongSelFrmTest, ADeleteThatFailsIsToldAndLeavesTheSong)
+{
+    Put({"Rain", "Zumi"});
+    Open(SongSelMode::Open);
+    ClickRow(0);
+    {
+        const UnchangeableFolder locked(songFolder);
+        ClickAndAnswer("DeleteBtn", "YesBtn");
+    }
+    ASSERT_EQ(services.messages.shown.size(), 1U);
+    EXPECT_EQ(services.messages.shown.front().title, "");
+    EXPECT_THAT(services.messages.shown.front().text, testing::StartsWith("Error Deleting file\r\n"));
+    EXPECT_EQ(statusLbl.text(), QString()); // not the question's hint
+    EXPECT_TRUE(HasSong("Rain"));
+    EXPECT_EQ(Selected(), QStringLiteral("Rain"));
+    EXPECT_TRUE(form.isVisible());
+}
+
 TEST_F(SongSelFrmTest, AfterTheLastLineIsDeletedTheNewLastOneIsSelected)
 {
     Put({"Apple", "Rain", "Zumi"});
@@ -514,6 +569,8 @@ TEST_F(SongSelFrmTest, ARenamedSongIsSelectedUnderItsNewName)
     EXPECT_EQ(Selected(), QStringLiteral("Ape"));
     EXPECT_EQ(ReadBytes(songFolder / "Ape.TqSng"), "Zumi");
     EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
+    Rename(QStringLiteral("Sky")); // behind another
+    EXPECT_EQ(Selected(), QStringLiteral("Sky"));
 }
 
 TEST_F(SongSelFrmTest, RenamingStartsWithTheOldNameAndAnEmptyAnswerEndsIt)

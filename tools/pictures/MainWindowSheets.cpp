@@ -126,12 +126,14 @@ void SetTrackCount(std::int32_t count)
 void DrawSizes(const QString& songPath, const QString& folder)
 {
     ShownWindow shown(songPath);
-    for (const QSize size : {QSize(533, 200), QSize(600, 400), kUsualSize, QSize(1024, 640), QSize(1920, 1080)})
+    for (const QSize size : {QSize(533, 200), QSize(600, 400), kUsualSize, QSize(1000, 640), QSize(1024, 768),
+                             QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)})
         shown.Draw(QStringLiteral("%1/main-%2x%3.png").arg(folder).arg(size.width()).arg(size.height()), size);
     for (const std::int32_t count : {40, 8, 1}) {
         SetTrackCount(count);
         shown.ShowSong();
         shown.Draw(QStringLiteral("%1/main-tracks-%2.png").arg(folder).arg(count));
+        shown.Draw(QStringLiteral("%1/main-tracks-%2-1366x768.png").arg(folder).arg(count), QSize(1366, 768));
     }
 }
 

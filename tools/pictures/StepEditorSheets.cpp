@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "StepEditorSheets.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -88,6 +90,14 @@ void DrawStepMenu(StepEditor& editor, const QString& folder)
     menu.hide();
 }
 
+void DrawStepNumbers(StepEditor& editor, const QString& folder)
+{
+    auto& combo = *editor.findChild<QComboBox*>(QStringLiteral("StepNosCmb"));
+    combo.showPopup();
+    SaveAs(*combo.view()->window(), folder, QStringLiteral("steps-combo"));
+    combo.hidePopup();
+}
+
 } // namespace
 
 void DrawStepEditorSheets(const QString& folder)
@@ -114,6 +124,7 @@ void DrawStepEditorSheets(const QString& folder)
     SaveAs(window, folder, QStringLiteral("steps-64-end"));
     DrawMarks(editor, folder);
     DrawStepMenu(editor, folder);
+    DrawStepNumbers(editor, folder);
     Shared().CurrentTune = Tune();
     TheServices() = Services();
 }

@@ -98,10 +98,12 @@ void DrawLibrary(const QString& folder)
     Shared().TuneTableCount = 0;
     LoadTuneFiles();
     DrawOpened([&folder](TuneFrm2& window) {
-        window.FitTo({800, 600});
-        SavePicture(window, folder, "tune-library-800x600");
-        window.FitTo({1920, 1080});
-        SavePicture(window, folder, "tune-library-1920x1080");
+        for (const QSize size :
+             {QSize(800, 600), QSize(1024, 768), QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)}) {
+            window.FitTo(size);
+            SavePicture(window, folder,
+                        QStringLiteral("tune-library-%1x%2").arg(size.width()).arg(size.height()).toLatin1());
+        }
         DrawMenu(window, folder);
     });
 }

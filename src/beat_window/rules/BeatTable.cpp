@@ -13,10 +13,13 @@
 #include "core/Text.h"
 #include "sound/WavOperations.h"
 #include "tunes/BeatFiles.h"
+#include "ui/rules/PictureGrid.h"
 
 namespace sprout {
 
 namespace {
+
+constexpr std::int32_t kFewestBeatRows = 8;
 
 /// In the order of the index; those of one place stay alphabetical.
 void SortBeatPairs(std::vector<BeatPair>& pairs, const BeatIndex& index)
@@ -61,6 +64,12 @@ BeatIndex ReadBeatIndex(const BeatFolder& folder)
 }
 
 } // namespace
+
+std::int32_t BeatGridRows(std::int32_t beats, std::int32_t roomPx)
+{
+    const std::int32_t filled = (beats + kBeatColumns - 1) / kBeatColumns;
+    return std::max(std::min(filled + 1, roomPx / kGridCell), kFewestBeatRows);
+}
 
 bool HasSelection(const BeatTable& table)
 {

@@ -17,6 +17,10 @@ inline constexpr std::int32_t kLongestShownSeconds = 3;
 /// Columns of the grid of beats.
 inline constexpr std::int32_t kBeatColumns = 12;
 
+/// Rows of the grid that show `beats` without scrolling, as far as a height has room for them; at least eight. The last
+/// one stays free: a grid that is filled to its last row can be scrolled.
+[[nodiscard]] std::int32_t BeatGridRows(std::int32_t beats, std::int32_t roomPx);
+
 /// `SelectedBeat` where the next load is to find `RefindBeatName`.
 inline constexpr std::int32_t kRefindBeat = -1;
 

@@ -17,6 +17,13 @@ constexpr std::int32_t kBarTop = 8; ///< of the tools of the one row
 constexpr std::int32_t kSongLine = 28;
 constexpr std::int32_t kTempoLine = 36;
 constexpr std::int32_t kTempoWidth = 312; ///< what the tempo bar asks for
+constexpr std::int32_t kTightTempoWidth = 126;
+constexpr std::int32_t kTightTempoHeight = 53; ///< with its labels below the slot
+constexpr std::int32_t kTightBarHeight = 80;
+constexpr std::int32_t kBelowTightTempo = 2;
+constexpr std::int32_t kSongPartsApart = 16;
+constexpr std::int32_t kLeastTitle = 120;
+constexpr std::int32_t kLeastAuthor = 60;
 
 /// Sets tools side by side, from the left or towards it.
 class ToolRow {
@@ -51,16 +58,35 @@ private:
     std::int32_t top;
 };
 
-/// Places the tools of one row, and the room that they leave.
-BarPlace OneRow(ControlBarPlaces& places, std::int32_t width)
+/// Room that the tools of one row leave between them.
+BarPlace RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t top)
 {
-    const ToolRow row(places, kTool, kBarTop);
+    const ToolRow row(places, kTool, top);
     std::int32_t left = row.Group(kBarMargin, {BarTool::PlayAll, BarTool::PlayStop});
     left = row.Group(left, {BarTool::Brush, BarTool::Eraser, BarTool::PlayTool});
     std::int32_t right = row.GroupBefore(width - kBarMargin, {BarTool::Help, BarTool::About, BarTool::Demo});
     right = row.GroupBefore(right, {BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email});
     right = row.GroupBefore(right, {BarTool::SongTitleChg});
-    return {left, (kTool + 2 * kBarTop - kSongLine - kTempoLine) / 2, right - left, kSongLine + kTempoLine};
+    return {left, top, right - left, kTool};
+}
+
+void OneRow(ControlBarPlaces& places, const BarPlace& room)
+{
+    const std::int32_t top = (kTool + 2 * kBarTop - kSongLine - kTempoLine) / 2;
+    places.songInOneLine = true;
+    places.song = {room.left, top, room.width, kSongLine};
+    places.tempo = {room.left, top + kSongLine, kTempoWidth, kTempoLine};
+    places.height = kTool + 2 * kBarTop;
+}
+
+/// The row is a little higher, for the tempo's labels stand below its slot.
+void OneTightRow(ControlBarPlaces& places, std::int32_t width)
+{
+    const BarPlace room = RoomInOneRow(places, width, (kTightBarHeight - kTool) / 2);
+    places.songInOneLine = true;
+    places.song = {room.left, 0, room.width, kSongLine};
+    places.tempo = {room.left, kTightBarHeight - kBelowTightTempo - kTightTempoHeight, room.width, kTightTempoHeight};
+    places.height = kTightBarHeight;
 }
 
 void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
@@ -76,7 +102,9 @@ void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
     left = lower.Group(kBarMargin, {BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email});
     left = lower.Group(left, {BarTool::Help, BarTool::About, BarTool::Demo});
     const std::int32_t tempoWidth = std::min(width - kBarMargin - left, kTempoWidth);
-    places.tempo = {width - kBarMargin - tempoWidth, lowerTop + (side - kTempoLine) / 2, tempoWidth, kTempoLine};
+    const bool isTight = tempoWidth < kTempoWidth && side >= kTightTempoHeight;
+    const std::int32_t tempoHeight = isTight ? kTightTempoHeight : kTempoLine;
+    places.tempo = {width - kBarMargin - tempoWidth, lowerTop + (side - tempoHeight) / 2, tempoWidth, tempoHeight};
     places.height = 2 * side + 3 * kToolsApart;
 }
 
@@ -85,18 +113,36 @@ void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
 ControlBarPlaces PlaceControlBar(std::int32_t width)
 {
     ControlBarPlaces places;
-    const BarPlace room = OneRow(places, width);
-    if (room.width >= kTempoWidth) {
-        places.song = {room.left, room.top, room.width, kSongLine};
-        places.songInOneLine = true;
-        places.tempo = {room.left, room.top + kSongLine, kTempoWidth, kTempoLine};
-        places.height = kTool + 2 * kBarTop;
-        return places;
-    }
-    TwoRows(places, width, kTool);
-    if (places.tempo.width < kTempoWidth)
+    const BarPlace room = RoomInOneRow(places, width, kBarTop);
+    if (room.width >= kTempoWidth)
+        OneRow(places, room);
+    else if (room.width >= kTightTempoWidth)
+        OneTightRow(places, width);
+    else
+        TwoRows(places, width, kTool);
+    if (places.tempo.width < kTightTempoWidth)
         TwoRows(places, width, kSmallTool);
     return places;
+}
+
+SongLine FitSongLine(const SongLineNeeds& needs, std::int32_t room)
+{
+    SongLine line;
+    const std::int32_t behindTitle = kSongPartsApart + needs.authorCaption;
+    const std::int32_t leastTitle = std::min(needs.title, kLeastTitle);
+    const std::int32_t leastAuthor = std::min(needs.author, kLeastAuthor);
+    line.hasCaption = needs.titleCaption + leastTitle <= room;
+    const std::int32_t beforeTitle = line.hasCaption ? needs.titleCaption : 0;
+    line.hasAuthor = beforeTitle + leastTitle + behindTitle + leastAuthor <= room;
+    const std::int32_t bothGet = room - beforeTitle - (line.hasAuthor ? behindTitle : 0);
+    const std::int32_t authorWants = line.hasAuthor ? needs.author : 0;
+    line.titleLeft = beforeTitle;
+    line.titleWidth = std::min(needs.title, std::max(leastTitle, bothGet - authorWants));
+    line.titleWidth = std::min(line.titleWidth, bothGet);
+    line.authorCaptionLeft = line.titleLeft + line.titleWidth + kSongPartsApart;
+    line.authorLeft = line.authorCaptionLeft + needs.authorCaption;
+    line.authorWidth = line.hasAuthor ? bothGet - line.titleWidth : 0;
+    return line;
 }
 
 } // namespace sprout

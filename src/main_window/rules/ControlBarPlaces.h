@@ -40,11 +40,34 @@ struct ControlBarPlaces {
     std::array<BarPlace, kBarTools> tools; ///< squares, by `BarTool`
     BarPlace song;                         ///< the song's title and its author
     bool songInOneLine = false;            ///< the author stands behind the title, else below it
-    BarPlace tempo;
+    BarPlace tempo;                        ///< as low as one line, or with room for labels below the slot
 };
 
-/// Lays the control bar out in a width: one row where title and tempo find room between the tools, else two, of smaller
-/// tools in the narrowest windows. Tools of one group stand 6 px apart, groups 12 px.
+/// Lays the control bar out in a width: one row where title and tempo find room between the tools, if need be a short
+/// one; else two, of smaller tools in the narrowest windows. Tools of one group stand 6 px apart, groups 12 px.
 [[nodiscard]] ControlBarPlaces PlaceControlBar(std::int32_t width);
+
+/// Widths that the parts of the song's line ask for, each caption with the gap behind it.
+struct SongLineNeeds {
+    std::int32_t titleCaption = 0;
+    std::int32_t title = 0;
+    std::int32_t authorCaption = 0;
+    std::int32_t author = 0;
+};
+
+/// Where the parts of the song's line stand, from the line's left edge.
+struct SongLine {
+    bool hasCaption = false; ///< the title's; it stands at the left edge
+    bool hasAuthor = false;  ///< with the caption before it
+    std::int32_t titleLeft = 0;
+    std::int32_t titleWidth = 0;
+    std::int32_t authorCaptionLeft = 0;
+    std::int32_t authorLeft = 0;
+    std::int32_t authorWidth = 0; ///< all that is left behind the title
+};
+
+/// Fits title and author into one line. Where both have no room, the title is cut first and then the author; in a short
+/// line the author is left out, in the shortest the title's caption too.
+[[nodiscard]] SongLine FitSongLine(const SongLineNeeds& needs, std::int32_t room);
 
 } // namespace sprout

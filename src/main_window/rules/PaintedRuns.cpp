@@ -30,6 +30,14 @@ std::int32_t EndLineLeft(const PaintedRun& run, std::int32_t cycleCells, const T
     return run.lastCell * kCellWidth;
 }
 
+/// Where the run's second cycle starts, or the first one behind it in view: a run of any length costs no more ticks
+/// than the view shows.
+std::int64_t SecondCycle(const PaintedRun& run, std::int32_t cycleCells, const TrackView& view)
+{
+    const std::int32_t cyclesAhead = std::max(view.FirstCell - run.firstCell - 1, 0) / cycleCells;
+    return run.firstCell + std::int64_t{cycleCells} * (cyclesAhead + 1);
+}
+
 /// First cell behind the run that starts at `cell`.
 std::int32_t CellBehindRun(const Track& track, std::int32_t cell, std::int32_t songCells)
 {
@@ -81,7 +89,7 @@ std::vector<PixelRect> RunMarks(const PaintedRun& run, std::int32_t cycleCells, 
     const std::int32_t top = rowTop + kPaintTop;
     const std::int32_t bottom = top + kPaintHeight;
     std::vector<PixelRect> marks{{left, top, width, 1}, {left, bottom, width, 1}, FullHeightLine(left, top)};
-    for (std::int64_t cell = std::int64_t{run.firstCell} + cycleCells; cell <= run.lastCell; cell += cycleCells) {
+    for (std::int64_t cell = SecondCycle(run, cycleCells, view); cell <= run.lastCell; cell += cycleCells) {
         const std::int32_t x = CellLeft(view, static_cast<std::int32_t>(cell));
         marks.push_back({x, top, 1, kTickHeight});
         marks.push_back({x, bottom + 1 - kTickHeight, 1, kTickHeight});

@@ -2,8 +2,8 @@
 #include "main_window/rules/TimeBand.h"
 
 #include <algorithm>
+#include <cmath>
 
-#include "core/Numbers.h"
 #include "core/SongModel.h"
 #include "main_window/rules/CellValues.h"
 
@@ -20,6 +20,14 @@ bool AnyTrackIsPainted(const SongState& song, std::int32_t cell)
         if (At(At(song.Tracks, track).Painted, cell) == kPaintedCell)
             return true;
     return false;
+}
+
+/// A label at or ahead of the first one in view, so that a song of any length costs no more than its view.
+std::int64_t LabelAheadOf(const TrackView& view, double cellSeconds)
+{
+    const double secondsAhead = (view.FirstCell - 1 + kLabelsBeforeTheBand / kCellWidth) * cellSeconds;
+    return std::max(static_cast<std::int64_t>(secondsAhead / kSecondsBetweenLabels), std::int64_t{0}) *
+           kSecondsBetweenLabels;
 }
 
 } // namespace
@@ -42,11 +50,14 @@ std::vector<SecondsLabel> SecondsLabels(const SongState& song, const TrackView& 
     if (song.Tempo <= 0)
         return {};
     const double cellSeconds = CellSeconds(song.Tempo);
-    const std::int32_t lastSecond = RoundHalfEven(cellSeconds * song.SongCells + kSecondsBetweenLabels);
+    const double lastSecond = std::nearbyint(cellSeconds * song.SongCells + kSecondsBetweenLabels);
     std::vector<SecondsLabel> labels;
-    for (std::int32_t second = 0; second <= lastSecond; second += kSecondsBetweenLabels) {
-        const double x = (second / cellSeconds - view.FirstCell + 1) * kCellWidth;
-        if (x > kLabelsBeforeTheBand && x <= view.trackPicWidth)
+    for (std::int64_t second = LabelAheadOf(view, cellSeconds); static_cast<double>(second) <= lastSecond;
+         second += kSecondsBetweenLabels) {
+        const double x = (static_cast<double>(second) / cellSeconds - view.FirstCell + 1) * kCellWidth;
+        if (x > view.trackPicWidth)
+            break;
+        if (x > kLabelsBeforeTheBand)
             labels.push_back({second, x});
     }
     return labels;

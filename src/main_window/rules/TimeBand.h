@@ -18,7 +18,7 @@ struct BusyMark {
 
 /// A number of seconds on the band.
 struct SecondsLabel {
-    std::int32_t seconds = 0;
+    std::int64_t seconds = 0;
     double x = 0; ///< left edge, may lie up to 5 pixels before the band
 };
 

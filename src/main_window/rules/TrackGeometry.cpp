@@ -14,6 +14,7 @@ constexpr std::int32_t kMusicTiles = 10;
 constexpr std::int32_t kRowsAlwaysScrollable = 3;
 constexpr std::int32_t kCellsBehindTheSong = 10;
 constexpr std::int32_t kAddButtonsBelow = 30;
+constexpr std::int32_t kMeadowBelowRows = 24;
 
 std::int32_t RowTrackAt(const TrackView& view, std::int32_t y)
 {
@@ -109,6 +110,17 @@ ScrollRange CellScrollRange(const TrackView& view, std::int32_t songCells)
 std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount)
 {
     return (trackCount - view.FirstTrack + 1) * kRowHeight + kAddButtonsBelow;
+}
+
+bool CanvasShowsARow(std::int32_t canvasHeight)
+{
+    return canvasHeight >= kFirstRowTop + kRowHeight + kScrollBarBreadth;
+}
+
+std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackCount)
+{
+    const std::int32_t top = view.trackPicHeight - kMeadowHeight;
+    return top < RowTop(view, trackCount + 1) + kMeadowBelowRows ? std::nullopt : std::optional(top);
 }
 
 std::int32_t TileNumber(bool isAudio, std::int32_t track)

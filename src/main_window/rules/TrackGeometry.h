@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "core/Song.h"
 
@@ -82,6 +83,18 @@ inline constexpr std::int32_t kAddButtonsApart = 55;
 
 /// Top of the buttons that add a track, below the last row.
 [[nodiscard]] std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount);
+
+/// Breadth of the canvas's scroll bars.
+inline constexpr std::int32_t kScrollBarBreadth = 18;
+
+/// True where a canvas of this height shows a whole row above its scroll bar.
+[[nodiscard]] bool CanvasShowsARow(std::int32_t canvasHeight);
+
+/// Height of the meadow on the lower edge of the painting surface.
+inline constexpr std::int32_t kMeadowHeight = 80;
+
+/// Top of the meadow; it grows only where it stays clear of the rows.
+[[nodiscard]] std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackCount);
 
 /// Which of the row tiles paints a track: 0 for audio, 1 to 10 for music by the track's number.
 [[nodiscard]] std::int32_t TileNumber(bool isAudio, std::int32_t track);

@@ -19,6 +19,11 @@ std::optional<CellCursor> CursorOfCell(const TrackView& view, std::int32_t cell,
     return CellCursor{x, RowTop(view, track) + kPaintTop, startsGroup ? kGroupStartColour : kCellColour};
 }
 
+bool IsPainted(const Track& track, std::int32_t cell)
+{
+    return cell > 0 && static_cast<std::size_t>(cell) < track.Painted.size() && At(track.Painted, cell) == kPaintedCell;
+}
+
 } // namespace
 
 TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::int32_t dragTrack)
@@ -30,6 +35,15 @@ TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::
         return {PointerImage::PlayTool, kTimeBandHint, cell, std::nullopt};
     const std::int32_t track = dragTrack > 0 ? dragTrack : hit.track;
     return {PointerImage::ToolCursor, kTracksHint, cell, CursorOfCell(view, hit.cell, track)};
+}
+
+std::string CellInWords(const SongState& song, std::int32_t track, std::int32_t cell)
+{
+    const std::string place = "cell " + std::to_string(cell);
+    if (track < 1 || track > song.TrackCount)
+        return "Time, " + place;
+    return "Track " + std::to_string(track) + ", " + place +
+           (IsPainted(At(song.Tracks, track), cell) ? ", painted" : ", empty");
 }
 
 } // namespace sprout

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/Song.h"
 #include "main_window/rules/TrackGeometry.h"
 
 namespace sprout {
@@ -38,5 +39,8 @@ struct TrackPointer {
 
 /// Looks for a pointer that moved. dragTrack: track of the stroke that goes on, 0 for none.
 [[nodiscard]] TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::int32_t dragTrack);
+
+/// A cell for a screen reader: "Track 2, cell 14, painted". track: 0 for the time band.
+[[nodiscard]] std::string CellInWords(const SongState& song, std::int32_t track, std::int32_t cell);
 
 } // namespace sprout

@@ -280,6 +280,22 @@ TEST_F(SaveBeatOrderTest, KeepsTheOrderForTheNextLoad)
     EXPECT_TRUE(table.BeatProtected[2]) << "the originals stand beside the order";
 }
 
+TEST(BeatGridRows, ShowsAllBeatsWhereTheScreenHasRoom)
+{
+    EXPECT_EQ(BeatGridRows(129, 900), 12);
+    EXPECT_EQ(BeatGridRows(132, 900), 12);
+    EXPECT_EQ(BeatGridRows(133, 900), 13);
+    EXPECT_EQ(BeatGridRows(129, 479), 11);
+    EXPECT_EQ(BeatGridRows(1000, 900), 22);
+}
+
+TEST(BeatGridRows, NeverHasFewerThanEight)
+{
+    EXPECT_EQ(BeatGridRows(0, 900), 8);
+    EXPECT_EQ(BeatGridRows(84, 900), 8);
+    EXPECT_EQ(BeatGridRows(129, 100), 8);
+}
+
 TEST(DurationText, ShowsTenthsOfASecond)
 {
     EXPECT_EQ(DurationText(QuietWave(11025)), "1.0 Sec");

@@ -51,6 +51,22 @@ TEST(PlaceControlBar, StandsInOneRowWhereTitleAndTempoFindRoom)
     EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{1136, 8, 56, 56}));
 }
 
+TEST(PlaceControlBar, KeepsOneTightRowInAWindowOfAThousandPixels)
+{
+    const ControlBarPlaces places = PlaceControlBar(988);
+    EXPECT_EQ(places.height, 80);
+    EXPECT_TRUE(places.songInOneLine);
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 12, 56, 56}));
+    EXPECT_EQ(places.song, (BarPlace{330, 0, 136, 28}));
+    EXPECT_EQ(places.tempo, (BarPlace{330, 25, 136, 53}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{478, 12, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{924, 12, 56, 56}));
+    EXPECT_EQ(PlaceControlBar(978).height, 80);
+    EXPECT_EQ(PlaceControlBar(977).height, 130);
+    EXPECT_EQ(PlaceControlBar(1163).height, 80);
+    EXPECT_EQ(PlaceControlBar(1164).height, 72);
+}
+
 TEST(PlaceControlBar, WrapsToTwoRows)
 {
     const ControlBarPlaces places = PlaceControlBar(788);
@@ -62,6 +78,15 @@ TEST(PlaceControlBar, WrapsToTwoRows)
     EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{8, 68, 56, 56}));
     EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{386, 68, 56, 56}));
     EXPECT_EQ(places.tempo, (BarPlace{468, 78, 312, 36}));
+}
+
+TEST(PlaceControlBar, KeepsLargeToolsAsLongAsAShortTempoFits)
+{
+    const ControlBarPlaces places = PlaceControlBar(588);
+    EXPECT_EQ(places.height, 130);
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{386, 68, 56, 56}));
+    EXPECT_EQ(places.tempo, (BarPlace{454, 69, 126, 53}));
+    EXPECT_EQ(PlaceControlBar(587).height, 98);
 }
 
 TEST(PlaceControlBar, HasSmallerToolsInTheNarrowestWindow)
@@ -82,8 +107,8 @@ TEST(PlaceControlBar, KeepsTargetsApartAndInsideTheBarAtEveryWidth)
         for (std::size_t i = 0; i < all.size(); ++i) {
             ASSERT_GE(all[i].left, 8) << width;
             ASSERT_LE(all[i].left + all[i].width, width - 8) << width;
-            ASSERT_GE(all[i].top, 4) << width;
-            ASSERT_LE(all[i].top + all[i].height, places.height - 4) << width;
+            ASSERT_GE(all[i].top, 0) << width;
+            ASSERT_LE(all[i].top + all[i].height, places.height - 2) << width;
             for (std::size_t other = i + 1; other < kBarTools; ++other)
                 ASSERT_GE(Apart(all[i], all[other]), 6) << width << ", tools " << i << " and " << other;
         }
@@ -91,6 +116,61 @@ TEST(PlaceControlBar, KeepsTargetsApartAndInsideTheBarAtEveryWidth)
             for (const BarPlace& label : {places.song, places.tempo})
                 ASSERT_GE(Apart(all[tool], label), 6) << width << ", tool " << tool;
     }
+}
+
+constexpr SongLineNeeds kShortSong{42, 50, 24, 160};
+constexpr SongLineNeeds kLongSong{42, 700, 24, 600};
+
+TEST(FitSongLine, ShowsTitleAndAuthorWholeWhereTheyHaveRoom)
+{
+    const SongLine line = FitSongLine(kShortSong, 348);
+    EXPECT_TRUE(line.hasCaption);
+    EXPECT_TRUE(line.hasAuthor);
+    EXPECT_EQ(line.titleLeft, 42);
+    EXPECT_EQ(line.titleWidth, 50);
+    EXPECT_EQ(line.authorCaptionLeft, 108);
+    EXPECT_EQ(line.authorLeft, 132);
+    EXPECT_EQ(line.authorWidth, 216);
+}
+
+TEST(FitSongLine, CutsTheTitleBeforeTheAuthorIsLeftOut)
+{
+    const SongLine line = FitSongLine(kLongSong, 348);
+    EXPECT_TRUE(line.hasAuthor);
+    EXPECT_EQ(line.titleWidth, 120);
+    EXPECT_EQ(line.authorLeft, 202);
+    EXPECT_EQ(line.authorWidth, 146);
+}
+
+TEST(FitSongLine, LeavesTheAuthorOutOfAShortLine)
+{
+    const SongLine line = FitSongLine(kLongSong, 261);
+    EXPECT_TRUE(line.hasCaption);
+    EXPECT_FALSE(line.hasAuthor);
+    EXPECT_EQ(line.titleWidth, 219);
+    EXPECT_TRUE(FitSongLine(kLongSong, 262).hasAuthor);
+}
+
+TEST(FitSongLine, LeavesTheCaptionOutOfTheShortestLine)
+{
+    const SongLine line = FitSongLine(kLongSong, 161);
+    EXPECT_FALSE(line.hasCaption);
+    EXPECT_EQ(line.titleLeft, 0);
+    EXPECT_EQ(line.titleWidth, 161);
+    EXPECT_TRUE(FitSongLine(kLongSong, 162).hasCaption);
+}
+
+TEST(FitSongLine, StaysInsideItsRoom)
+{
+    for (const SongLineNeeds& needs : {kShortSong, kLongSong, SongLineNeeds{42, 2, 24, 2}})
+        for (std::int32_t room = 126; room < 900; ++room) {
+            const SongLine line = FitSongLine(needs, room);
+            ASSERT_LE(line.titleLeft + line.titleWidth, room);
+            ASSERT_GE(line.authorWidth, 0);
+            if (line.hasAuthor) {
+                ASSERT_EQ(line.authorLeft + line.authorWidth, room);
+            }
+        }
 }
 
 } // namespace

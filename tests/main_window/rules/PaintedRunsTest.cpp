@@ -119,6 +119,23 @@ TEST(RunMarks, CountsTheCellsBehindTheCut)
     EXPECT_EQ(RunMarks(runs[0], 16, NarrowView(), 20).back(), (PixelRect{63, 27, 1, 33}));
 }
 
+TEST(RunMarks, TicksOnlyTheCyclesInViewOfARunOfAnyLength)
+{
+    const auto ticks = [](std::int32_t firstCell) {
+        const auto marks = RunMarks({1, 19}, 4, NarrowView(firstCell), 20); // cycles start at 5, 9, 13, 17
+        std::vector<std::int32_t> left;
+        for (std::size_t i = 3; i + 1 < marks.size(); i += 2)
+            left.push_back(marks[i].x);
+        return left;
+    };
+    EXPECT_THAT(ticks(1), ElementsAre(12, 24, 36, 48));
+    EXPECT_THAT(ticks(8), ElementsAre(3, 15, 27));
+    EXPECT_THAT(ticks(9), ElementsAre(0, 12, 24));
+    EXPECT_THAT(ticks(10), ElementsAre(9, 21));
+    EXPECT_THAT(ticks(19), IsEmpty());
+    EXPECT_LT(RunMarks({1, 100'000'021}, 1, NarrowView(100'000'001), 20).size(), 50U);
+}
+
 TEST(RunMarks, CountsCyclesFromTheStartOfEachRun)
 {
     const auto ticks = [](const PaintedRun& run) { return RunMarks(run, 4, NarrowView(), 20)[3].x; };

@@ -80,6 +80,18 @@ TEST(SecondsLabels, RunTo480AtHalfTheTempo)
     EXPECT_EQ(SecondsLabels(song, view).back().seconds, 480);
 }
 
+TEST(SecondsLabels, BeginAtTheViewInASongOfAnyLength)
+{
+    SongState song = EmptySong(0);
+    song.Tempo = 1; // a minute a cell
+    song.SongCells = 2'000'000'000;
+    const auto labels = SecondsLabels(song, {1, 1'000'000'001, 6, 300, 300});
+    ASSERT_FALSE(labels.empty());
+    EXPECT_LE(labels.size(), 45U); // every quarter of a pixel from -5 to 6
+    EXPECT_NEAR(static_cast<double>(labels.front().seconds), 59'999'999'905.0, 5);
+    EXPECT_DOUBLE_EQ(labels.back().x, 6);
+}
+
 TEST(SecondsLabels, AreNoneAtATempoThatIsNone)
 {
     SongState song = EmptySong(1);

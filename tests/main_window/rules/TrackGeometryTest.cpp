@@ -20,6 +20,23 @@ TEST(RowTop, CountsFromTheFirstTrackInView)
     EXPECT_EQ(RowTop(ViewFrom(3), 2), -26);
 }
 
+TEST(CanvasShowsARow, NeedsTheTimeBandARowAndTheScrollBar)
+{
+    EXPECT_TRUE(CanvasShowsARow(84));
+    EXPECT_FALSE(CanvasShowsARow(83));
+}
+
+TEST(MeadowTop, StandsOnTheLowerEdgeWhereTheRowsLeaveRoom)
+{
+    // Four rows end at 204.
+    EXPECT_EQ(MeadowTop(ViewFrom(), 0), 220);
+    EXPECT_EQ(MeadowTop(ViewFrom(), 3), 220);
+    EXPECT_EQ(MeadowTop(ViewFrom(), 4), std::nullopt);
+    EXPECT_EQ(MeadowTop(ViewFrom(2), 4), 220);
+    EXPECT_EQ(MeadowTop({1, 1, 600, 123, 123}, 0), std::nullopt);
+    EXPECT_EQ(MeadowTop({1, 1, 600, 124, 124}, 0), 44);
+}
+
 TEST(CellLeft, IsThreePixelsACell)
 {
     EXPECT_EQ(CellLeft(ViewFrom(1, 10), 10), 0);

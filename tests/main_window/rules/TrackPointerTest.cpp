@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "main_window/rules/CellValues.h"
+
 namespace sprout {
 namespace {
 
@@ -55,6 +57,18 @@ TEST(PointerOverTracks, HidesTheCursorOutsideTheSurface)
     EXPECT_FALSE(PointerOverTracks(kUnscrolled, {1, 0, true}, 0).cellCursor);
     EXPECT_FALSE(PointerOverTracks(kUnscrolled, {9, 5, true}, 0).cellCursor);
     EXPECT_FALSE(PointerOverTracks({3, 1, 600, 300, 300}, {2, 5, true}, 0).cellCursor);
+}
+
+TEST(CellInWords, SaysTrackCellAndWhetherItIsPainted)
+{
+    SongState song;
+    song.TrackCount = 2;
+    song.Tracks.resize(3);
+    song.Tracks[2].Painted = {0, 0, kPaintedCell, kErasedCell};
+    EXPECT_EQ(CellInWords(song, 2, 2), "Track 2, cell 2, painted");
+    EXPECT_EQ(CellInWords(song, 2, 3), "Track 2, cell 3, empty");
+    EXPECT_EQ(CellInWords(song, 2, 900), "Track 2, cell 900, empty"); // beyond what was ever painted
+    EXPECT_EQ(CellInWords(song, 0, 7), "Time, cell 7");
 }
 
 } // namespace
