@@ -96,8 +96,8 @@ void BeatWindow::MakeButtons()
 {
     struct Row {
         ButtonRow button;
-        ImageButton* BeatWindow::*member;
-        void (BeatWindow::*click)();
+        ImageButton* BeatWindow::*member = nullptr;
+        void (BeatWindow::*click)() = nullptr;
     };
     static constexpr std::array rows{
         Row{{"OkBtn", "OK", "Click Ok after choosing a beat", Plate::Word, kDeepLeaf},

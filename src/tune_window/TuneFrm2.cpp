@@ -48,7 +48,7 @@ void SetFittingText(QLabel& label, const QString& text)
 /// A button and what its click does.
 struct TuneFrm2::CommandRow {
     ButtonRow button;
-    Command command;
+    Command command = nullptr;
 };
 
 TuneFrm2::TuneFrm2(QWidget* parent) : BandedForm(parent)

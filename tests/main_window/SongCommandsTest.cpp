@@ -5,24 +5,13 @@
 #include <QListWidget>
 #include <QTimer>
 
-#include "core/Errors.h"
 #include "main_window/MainWindowTest.h"
+#include "support/FullDisk.h"
 
 namespace sprout {
 namespace {
 
 constexpr std::int32_t kQuickTempo = 400;
-
-/// A disk that is full.
-class FullDisk : public Files {
-public:
-    void ReplaceFile(const std::filesystem::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
-                     Flush /*flush*/) override
-    {
-        throw RunTimeError("There is no room left on the disk.");
-    }
-    void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
-};
 
 class SongCommandsTest : public MainWindowTest {
 protected:
@@ -167,7 +156,7 @@ TEST_F(SongCommandsTest, NewKeepsASongThatCannotBeSaved)
         Click(form, "YesBtn");
     });
     ClickButton("NewBtn");
-    EXPECT_EQ(message.line1, QStringLiteral("Error making new file\r\nThere is no room left on the disk."));
+    EXPECT_EQ(message.line1, QStringLiteral("Error making new file\r\nNo space left on device."));
     EXPECT_EQ(Song().Tempo, kQuickTempo);
     EXPECT_TRUE(Song().SongChanged);
 }
@@ -345,7 +334,7 @@ TEST_F(SongCommandsTest, SaveTellsOfAFullDiskAndKeepsTheSongAsItWas)
     ShownMessage message;
     SaveNextAs("Rain", message);
     ClickButton("SaveBtn");
-    EXPECT_EQ(message.line1, QStringLiteral("Error Saving file\r\nThere is no room left on the disk."));
+    EXPECT_EQ(message.line1, QStringLiteral("Error Saving file\r\nNo space left on device."));
     EXPECT_TRUE(Song().SongChanged);
     EXPECT_EQ(Song().SongTitle, "Untitled");
     EXPECT_EQ(TextOf("SngTitleLbl"), "Untitled");
