@@ -437,6 +437,9 @@ TEST_F(MainFrmTest, ComesUpWithTheSaveQuestionWhereItIsClosedMinimized)
 
 TEST_F(MainFrmTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
 {
+    // Before it is shown: where the pointer rests on a button, the timer runs then.
+    window.reset();
+    window = std::make_unique<MainFrm>(transport);
     const auto* timer = window->findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"));
     EXPECT_FALSE(timer->isActive());
     EXPECT_EQ(timer->interval(), 5000);
