@@ -40,6 +40,7 @@ public:
     ProgramServices()
     {
         TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
+        sound.CountAhead();
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
@@ -69,7 +70,8 @@ int RunProgram()
     QObject::connect(
         &window, &MainFrm::Unloaded, qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     OpenMainWindow(window);
-    return QApplication::exec();
+    // A window that the desktop closed while it appeared left no loop to end.
+    return window.isVisible() ? QApplication::exec() : EXIT_SUCCESS;
 }
 
 } // namespace

@@ -34,7 +34,17 @@ ServerAnswer MachineSound::AskServer()
     return driver && *driver != '\0' ? ServerAnswer::No : server.AskServer();
 }
 
+void MachineSound::CountAhead()
+{
+    countAhead = std::async(std::launch::async, [this] { return CountDevices(); });
+}
+
 std::int32_t MachineSound::SoundDeviceCount()
+{
+    return countAhead.valid() ? countAhead.get() : CountDevices();
+}
+
+std::int32_t MachineSound::CountDevices()
 {
     const ServerAnswer answer = AskServer();
     if (answer == ServerAnswer::Yes)
@@ -46,6 +56,8 @@ std::int32_t MachineSound::SoundDeviceCount()
 SoundHandle MachineSound::Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
                                     std::int32_t bufferBytes)
 {
+    if (countAhead.valid())
+        countAhead.wait();
     ServerAnswer answer = IsOpenDevice(old, format) ? ServerAnswer::No : AskServer();
     if (answer == ServerAnswer::Yes) {
         SoundHandle sound = server.Service02(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <chrono>
+#include <future>
 
 #include "service/SoundOutput.h"
 #include "service/pulse/PulseSoundOutput.h"
@@ -18,15 +19,20 @@ public:
     /// restRound: see the two outputs.
     explicit MachineSound(std::chrono::milliseconds restRound = std::chrono::seconds(1));
 
+    /// Counts the devices in a thread of its own, for the first `SoundDeviceCount`: the program starts meanwhile.
+    void CountAhead();
+
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
     [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
                                         std::int32_t bufferBytes) override;
 
 private:
     [[nodiscard]] ServerAnswer AskServer();
+    [[nodiscard]] std::int32_t CountDevices();
 
     PulseSoundOutput server;
     SdlSoundOutput device;
+    std::future<std::int32_t> countAhead; // goes first: it uses both
 };
 
 } // namespace sprout
