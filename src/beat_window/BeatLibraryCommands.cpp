@@ -72,7 +72,7 @@ void TellBeatTooLong(const WaveData& wave)
 /// The wave file for a new beat, of which the user was told what there is to tell; nothing where there is none.
 std::optional<fs::path> ChooseBeatWave()
 {
-    const std::optional<fs::path> file = AskForBeatWave();
+    std::optional<fs::path> file = AskForBeatWave();
     if (!file)
         return std::nullopt;
     const WaveData wave = LoadWaveFile(*file);

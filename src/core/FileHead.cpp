@@ -6,10 +6,13 @@
 #include <charconv>
 #include <cstdlib>
 #include <ctime>
-#include <string>
+#include <span>
+#include <vector>
 
+#include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/Text.h"
+#include "service/Services.h"
 
 namespace sprout {
 
@@ -87,6 +90,15 @@ std::string_view FileTail()
     return tail;
 }
 
+void ReplaceDataFile(const std::filesystem::path& path, std::string_view head, const LongsWriter& data, Flush flush)
+{
+    const std::string_view tail = FileTail();
+    std::vector<std::span<const std::byte>> pieces = data.Pieces();
+    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
+    pieces.push_back(std::as_bytes(std::span(tail)));
+    TheServices().files->ReplaceFile(path, pieces, flush);
+}
+
 std::string HeadValue(ByteSource& source, std::string_view key, std::string_view fallback)
 {
     const std::string head = ReadHead(source, key);
@@ -95,6 +107,11 @@ std::string HeadValue(ByteSource& source, std::string_view key, std::string_view
         return std::string(fallback);
     const auto end = head.find(kLineEnd, begin);
     return end == std::string::npos ? std::string(fallback) : head.substr(begin, end - begin);
+}
+
+float FileVersion(ByteSource& source)
+{
+    return static_cast<float>(NumberPrefix(HeadValue(source, "File Version", "0")));
 }
 
 std::optional<std::uint64_t> FindHeadData(ByteSource& source)

@@ -2,11 +2,14 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
 
 #include "core/ByteCursor.h"
+#include "core/Longs.h"
+#include "service/Files.h"
 
 namespace sprout {
 
@@ -17,9 +20,15 @@ namespace sprout {
 /// What stands behind the array: four zero bytes and the end mark.
 [[nodiscard]] std::string_view FileTail();
 
+/// Replaces a file by a head, an array and `FileTail`. Throws like `Files::ReplaceFile`.
+void ReplaceDataFile(const std::filesystem::path& path, std::string_view head, const LongsWriter& data, Flush flush);
+
 /// The value of a line CR LF key=value of the head, which is searched in the first 1000 bytes without regard to case;
 /// `fallback` where the line or its end is missing.
 [[nodiscard]] std::string HeadValue(ByteSource& source, std::string_view key, std::string_view fallback);
+
+/// The number behind "File Version="; 0 where there is none.
+[[nodiscard]] float FileVersion(ByteSource& source);
 
 /// The byte behind CR LF "Data="; nothing where it is not found.
 [[nodiscard]] std::optional<std::uint64_t> FindHeadData(ByteSource& source);

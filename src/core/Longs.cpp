@@ -125,11 +125,11 @@ std::int32_t LongsWriter::Count() const
     return static_cast<std::int32_t>(count);
 }
 
-void LongsWriter::Replace(std::int32_t element, std::int32_t value)
+void LongsWriter::PutLastIndex()
 {
-    const std::size_t place = static_cast<std::size_t>(element) * kElementBytes;
-    assert(!runs.empty() && place + kElementBytes <= runs.front().words.size());
-    std::memcpy(runs.front().words.data() + place, &value, kElementBytes);
+    assert(!runs.empty() && runs.front().words.size() >= kElementBytes);
+    const std::int32_t last = Count() - 1;
+    std::memcpy(runs.front().words.data(), &last, kElementBytes);
 }
 
 std::vector<std::span<const std::byte>> LongsWriter::Pieces() const

@@ -32,8 +32,8 @@ public:
     /// Number of elements so far. Throws `RunTimeError` beyond the 32-bit numbers.
     [[nodiscard]] std::int32_t Count() const;
 
-    /// Overwrites an element that `Put` or `PutText` wrote ahead of any wave.
-    void Replace(std::int32_t element, std::int32_t value);
+    /// Overwrites element 0, for which `Put` made room, with the index of the last element.
+    void PutLastIndex();
 
     /// The array's bytes as pieces that stay valid as long as the writer is not changed.
     [[nodiscard]] std::vector<std::span<const std::byte>> Pieces() const;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Paths.h"
 
+#include <algorithm>
 #include <chrono>
 #include <ctime>
 #include <system_error>
+#include <vector>
 
 #include "core/Busy.h"
+#include "core/FolderFiles.h"
 #include "core/Shared.h"
 #include "core/Text.h"
 #include "service/Desktop.h"
@@ -85,11 +88,9 @@ fs::path FindFile(const fs::path& path)
     if (IsPlainFile(path))
         return path;
     const std::string wanted = LowerCase(path.filename().native());
-    std::error_code error;
-    fs::directory_iterator entries(path.has_parent_path() ? path.parent_path() : fs::path("."), error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error))
-        if (LowerCase(entries->path().filename().native()) == wanted && IsPlainFile(entries->path()))
-            return entries->path();
+    for (const fs::directory_entry& entry : EntriesOfFolder(path.has_parent_path() ? path.parent_path() : "."))
+        if (LowerCase(entry.path().filename().native()) == wanted && IsPlainFile(entry.path()))
+            return entry.path();
     return {};
 }
 
@@ -156,12 +157,10 @@ bool CopyFolder(const fs::path& source, const fs::path& destination)
 
 bool HoldsFile(const fs::path& folder)
 {
-    std::error_code error;
-    fs::directory_iterator entries(folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error))
-        if (entries->path().filename().native().front() != '.' && IsPlainFile(entries->path()))
-            return true;
-    return false;
+    const std::vector<fs::directory_entry> entries = EntriesOfFolder(folder);
+    return std::any_of(entries.begin(), entries.end(), [](const fs::directory_entry& entry) {
+        return entry.path().filename().native().front() != '.' && IsPlainFile(entry.path());
+    });
 }
 
 void FindTempFolder()

@@ -7,6 +7,7 @@
 #include "songs/SongVersions.h"
 #include "tunes/BeatEntry.h"
 #include "tunes/BeatFiles.h"
+#include "tunes/StepEntry.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {

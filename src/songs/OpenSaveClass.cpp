@@ -3,18 +3,14 @@
 
 #include <exception>
 #include <optional>
-#include <span>
 #include <string>
 #include <utility>
-#include <vector>
 
 #include "core/Errors.h"
 #include "core/FileHead.h"
-#include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "service/Messages.h"
-#include "service/Services.h"
+#include "core/Tell.h"
 #include "songs/SongVersions.h"
 
 namespace sprout {
@@ -25,15 +21,10 @@ namespace {
 
 using SongLoader = void (*)(LongsReader&, SongState&);
 
-void Tell(std::string_view title, std::string_view text)
-{
-    TheServices().messages->MessageBox(title, text);
-}
-
 /// The reader of a file's version; none for a version that this program does not know.
 SongLoader LoaderOf(ByteSource& source)
 {
-    const auto version = static_cast<float>(NumberPrefix(HeadValue(source, "File Version", "0")));
+    const float version = FileVersion(source);
     if (version == 2.0F)
         return Load_Song_V20;
     if (version == 1.0F)
@@ -88,12 +79,7 @@ void OpenSaveClass::Save_Song(const fs::path& path)
     SongState& song = Shared().Song;
     Compact_Song_Beats(song);
     const LongsWriter data = Write_Song_Data(song);
-    const std::string head = FileHead("TqSng", " Sprout Song File");
-    const std::string_view tail = FileTail();
-    std::vector<std::span<const std::byte>> pieces = data.Pieces();
-    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
-    pieces.push_back(std::as_bytes(std::span(tail)));
-    TheServices().files->ReplaceFile(path, pieces, saveFlush);
+    ReplaceDataFile(path, FileHead("TqSng", " Sprout Song File"), data, saveFlush);
 }
 
 } // namespace sprout

@@ -39,12 +39,4 @@ void ReadTuneHead(LongsReader& data, Tune& tune)
     tune.Picture = data.GetPicture();
 }
 
-void MakeSteps(LongsReader& data, Tune& tune, std::int64_t stepElements)
-{
-    const std::int32_t count = data.Get();
-    data.Require(count, stepElements);
-    tune.Steps.resize(static_cast<std::size_t>(count) + 1);
-    tune.StepCount = count;
-}
-
 } // namespace sprout

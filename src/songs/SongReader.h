@@ -25,7 +25,4 @@ void ReadPaint(LongsReader& data, Track& track, std::int32_t songCells);
 /// Reads `DateStamp`, `CreatedBy` and `Picture` of a tune that the file holds.
 void ReadTuneHead(LongsReader& data, Tune& tune);
 
-/// Makes `Steps` as many as the next element tells. stepElements: elements that each of them takes.
-void MakeSteps(LongsReader& data, Tune& tune, std::int64_t stepElements);
-
 } // namespace sprout

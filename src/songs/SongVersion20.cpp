@@ -9,6 +9,7 @@
 #include "songs/SongVersions.h"
 #include "tunes/BeatEntry.h"
 #include "tunes/BeatFiles.h"
+#include "tunes/StepEntry.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
@@ -16,7 +17,7 @@ namespace sprout {
 namespace {
 
 constexpr std::int64_t kBeatElements = kTextElements + 1;
-constexpr std::int64_t kStepElements = 5;
+constexpr std::int64_t kStepElements20 = kStepEntryElements + 1;
 
 /// Reads one song. Beats and tunes that are kept outside are read once each, however often the song names them.
 class SongReader20 {
@@ -85,14 +86,10 @@ void SongReader20::ReadMusic(Tune& tune)
 void SongReader20::ReadTune(Tune& tune)
 {
     ReadTuneHead(data, tune);
-    MakeSteps(data, tune, kStepElements);
+    MakeSteps(data, tune, kStepElements20);
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
-        TuneStep& step = At(tune.Steps, i);
-        step.OnPos = data.Get();
-        step.PitchShift = data.Get();
-        step.Duration = data.Get();
-        step.Volume = data.Get();
-        step.BeatIndex = data.Get();
+        ReadStepEntry(data, At(tune.Steps, i));
+        At(tune.Steps, i).BeatIndex = data.Get();
     }
     static_cast<void>(data.Get()); // the end mark
 }

@@ -3,6 +3,7 @@
 
 #include "songs/SongVersions.h"
 #include "tunes/BeatEntry.h"
+#include "tunes/StepEntry.h"
 
 namespace sprout {
 
@@ -26,12 +27,8 @@ void WriteTune(LongsWriter& data, const Tune& tune)
     data.PutPicture(tune.Picture);
     data.Put(tune.StepCount);
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
-        const TuneStep& step = At(tune.Steps, i);
-        data.Put(step.OnPos);
-        data.Put(step.PitchShift);
-        data.Put(step.Duration);
-        data.Put(step.Volume);
-        data.Put(step.BeatIndex);
+        WriteStepEntry(data, At(tune.Steps, i));
+        data.Put(At(tune.Steps, i).BeatIndex);
     }
     data.Put(0);
 }
@@ -65,7 +62,7 @@ LongsWriter Write_Song_Data(const SongState& song)
         WriteBeat(data, At(song.SongBeats, i));
     for (std::int32_t i = 1; i <= song.TrackCount; ++i)
         WriteTrack(data, At(song.Tracks, i), song.SongCells);
-    data.Replace(0, data.Count() - 1);
+    data.PutLastIndex();
     return data;
 }
 

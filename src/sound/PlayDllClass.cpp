@@ -9,8 +9,7 @@
 
 #include "core/Errors.h"
 #include "core/Numbers.h"
-#include "service/Messages.h"
-#include "service/Services.h"
+#include "core/Tell.h"
 #include "sound/PlayShared.h"
 #include "sound/WaveBytes.h"
 
@@ -191,7 +190,7 @@ PlayResult PlayDllClass::PlayWritten(Loop loop)
 void PlayDllClass::PlayDx9Cls_MsgBoxOb(std::string_view prompt, std::string_view title) const
 {
     if (prompt != "S2")
-        TheServices().messages->MessageBox(title, prompt);
+        Tell(title, prompt);
 }
 
 void PlayDllClass::Raise(std::string_view prompt, std::string_view title) const

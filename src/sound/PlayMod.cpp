@@ -11,7 +11,7 @@
 #include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
-#include "service/Messages.h"
+#include "core/Tell.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"
 
@@ -33,7 +33,7 @@ std::unique_ptr<PlayDllClass>& PlayerInstance()
 
 void TellDriverFailed(std::string_view description)
 {
-    TheServices().messages->MessageBox("", std::string(kDriverFailed).append(description));
+    Tell("", std::string(kDriverFailed).append(description));
 }
 
 void EnableSoundDriver()

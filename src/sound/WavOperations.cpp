@@ -17,9 +17,8 @@
 #include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/Tell.h"
 #include "core/Text.h"
-#include "service/Messages.h"
-#include "service/Services.h"
 #include "sound/WaveBytes.h"
 
 namespace sprout {
@@ -44,11 +43,6 @@ struct Refusal {
     std::string title;
     std::string text;
 };
-
-void Tell(std::string_view title, std::string_view text)
-{
-    TheServices().messages->MessageBox(title, text);
-}
 
 char UpperLetter(std::byte letter)
 {

@@ -7,8 +7,8 @@
 #include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/Tell.h"
 #include "core/Text.h"
-#include "service/Messages.h"
 #include "service/PictureFiles.h"
 #include "service/Services.h"
 #include "sound/WavOperations.h"
@@ -89,7 +89,7 @@ Picture LoadPictureFile(const fs::path& path)
     try {
         return TheServices().pictures->LoadPicture(file);
     } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("Error Loading Picture", ErrorText(error));
+        Tell("Error Loading Picture", ErrorText(error));
         return Shared().DefaultTunePicture;
     }
 }

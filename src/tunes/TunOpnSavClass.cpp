@@ -2,19 +2,15 @@
 #include "tunes/TunOpnSavClass.h"
 
 #include <exception>
-#include <span>
 #include <string>
-#include <vector>
 
 #include "core/Errors.h"
 #include "core/FileHead.h"
-#include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
+#include "core/Tell.h"
 #include "core/Text.h"
-#include "service/Messages.h"
-#include "service/Services.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -25,18 +21,13 @@ namespace {
 
 void Write_Tune_File(const LongsWriter& data, const fs::path& path, Flush flush)
 {
-    const std::string head = FileHead("TqTun", " Sprout Tune File");
-    const std::string_view tail = FileTail();
-    std::vector<std::span<const std::byte>> pieces = data.Pieces();
-    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
-    pieces.push_back(std::as_bytes(std::span(tail)));
-    TheServices().files->ReplaceFile(path, pieces, flush);
+    ReplaceDataFile(path, FileHead("TqTun", " Sprout Tune File"), data, flush);
 }
 
 bool LoadVersion(Tune& tune, const fs::path& path, TuneLoad mode)
 {
     FileSource source(path);
-    const auto version = static_cast<float>(NumberPrefix(HeadValue(source, "File Version", "0")));
+    const float version = FileVersion(source);
     tune = Tune();
     if (version == 2.0F)
         return Load_Tune_V20(tune, source, path, mode);
@@ -67,7 +58,7 @@ bool TunOpnSavClass::Load_Tune(const fs::path& path, TuneLoad mode)
     try {
         return LoadVersion(tune, file, mode);
     } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("Error Opening File", ErrorText(error));
+        Tell("Error Opening File", ErrorText(error));
         return false;
     }
 }

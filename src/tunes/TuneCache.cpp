@@ -34,7 +34,7 @@ void WriteTuneCache(const Tune& tune, const fs::path& path)
     data.Put(0);
     data.PutText(FileStamp(path));
     data.PutWave(tune.TuneWave);
-    data.Replace(0, data.Count() - 1);
+    data.PutLastIndex();
     std::filebuf file;
     bool written = OpenKept(file, CachePath(path));
     for (const std::span<const std::byte> piece : data.Pieces()) {

@@ -8,10 +8,10 @@
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "service/Messages.h"
-#include "service/Services.h"
+#include "core/Tell.h"
 #include "tunes/BeatEntry.h"
 #include "tunes/BeatFiles.h"
+#include "tunes/StepEntry.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -20,12 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::int64_t kStepElements = 4;
-
-void Tell(std::string_view text)
-{
-    TheServices().messages->MessageBox("Error Loading Tune File", text);
-}
+constexpr std::string_view kTuneFailed = "Error Loading Tune File";
 
 void ReadListPart(LongsReader& data, Tune& tune, const fs::path& path)
 {
@@ -37,17 +32,9 @@ void ReadListPart(LongsReader& data, Tune& tune, const fs::path& path)
 
 void ReadSteps(LongsReader& data, Tune& tune)
 {
-    const std::int32_t count = data.Get();
-    data.Require(count, kStepElements);
-    tune.Steps.resize(static_cast<std::size_t>(count) + 1);
-    tune.StepCount = count;
-    for (std::int32_t i = 1; i <= count; ++i) {
-        TuneStep& step = At(tune.Steps, i);
-        step.OnPos = data.Get();
-        step.PitchShift = data.Get();
-        step.Duration = data.Get();
-        step.Volume = data.Get();
-    }
+    MakeSteps(data, tune, kStepEntryElements);
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i)
+        ReadStepEntry(data, At(tune.Steps, i));
 }
 
 void ReadBeatNames(LongsReader& data, Tune& tune)
@@ -119,9 +106,9 @@ bool Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoa
             ReadTune(data, tune, path, mode);
             return true;
         }
-        Tell("Failed to find Data");
+        Tell(kTuneFailed, "Failed to find Data");
     } catch (const std::exception& error) {
-        Tell(ErrorText(error));
+        Tell(kTuneFailed, ErrorText(error));
     }
     return false;
 }

@@ -5,6 +5,7 @@
 #include "core/Shared.h"
 #include "core/Text.h"
 #include "tunes/BeatEntry.h"
+#include "tunes/StepEntry.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -14,13 +15,8 @@ namespace {
 void WriteSteps(LongsWriter& data, const Tune& tune)
 {
     data.Put(tune.StepCount);
-    for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
-        const TuneStep& step = At(tune.Steps, i);
-        data.Put(step.OnPos);
-        data.Put(step.PitchShift);
-        data.Put(step.Duration);
-        data.Put(step.Volume);
-    }
+    for (std::int32_t i = 1; i <= tune.StepCount; ++i)
+        WriteStepEntry(data, At(tune.Steps, i));
 }
 
 void WriteBeatNames(LongsWriter& data, const Tune& tune)
@@ -57,7 +53,7 @@ LongsWriter Write_Tune_Data(const Tune& tune)
     // Whether the sound is that of the steps is not asked: a tune that was not rendered again plays its old sound.
     if (Shared().SongBeatsInside)
         data.PutWave(tune.TuneWave);
-    data.Replace(0, data.Count() - 1);
+    data.PutLastIndex();
     return data;
 }
 

@@ -67,7 +67,7 @@ QStringList FileNameFilters(const std::string& filter)
 /// The folder to begin in: the one asked for, else the one last shown, else the user's documents.
 QString FirstShownFolder(const fs::path& wanted)
 {
-    const QString folder = QFile::decodeName(wanted.c_str());
+    QString folder = QFile::decodeName(wanted.c_str());
     if (!folder.isEmpty() && QDir(folder).exists())
         return folder;
     if (!LastShownFolder().isEmpty())

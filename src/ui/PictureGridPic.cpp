@@ -43,7 +43,7 @@ QSize GridSize(int columns, int rows)
 /// A large picture is made small once and not at every drawing.
 QImage GridImage(const Picture& picture)
 {
-    const QImage image = ToImage(picture);
+    QImage image = ToImage(picture);
     if (image.width() <= kMostGridImageSide && image.height() <= kMostGridImageSide)
         return image;
     return image.scaled(kMostGridImageSide, kMostGridImageSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);

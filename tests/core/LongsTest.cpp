@@ -146,13 +146,13 @@ TEST(LongsWriter, WritesPicturesInColumns)
     EXPECT_EQ(elements[32], 0x123456);
 }
 
-TEST(LongsWriter, ReplacesAnElementAheadOfTheWaves)
+TEST(LongsWriter, PutsTheLastIndexAheadOfTheWaves)
 {
     LongsWriter data;
     data.Put(0);
     data.PutText("abc");
     data.PutWave(WaveOf({1}));
-    data.Replace(0, data.Count() - 1);
+    data.PutLastIndex();
     EXPECT_EQ(data.Elements().front(), static_cast<std::int32_t>(data.Elements().size()) - 1);
 }
 

@@ -9,10 +9,10 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-#include "core/Errors.h"
 #include "core/Shared.h"
 #include "service/Services.h"
 #include "support/FakeServices.h"
+#include "support/FullDisk.h"
 #include "support/TestFolder.h"
 #include "ui/HelpFrm.h"
 #include "ui/ModalSteps.h"
@@ -24,16 +24,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
-
-class FullDisk : public Files {
-public:
-    void ReplaceFile(const fs::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
-                     Flush /*flush*/) override
-    {
-        throw RunTimeError("No space left on device.");
-    }
-    void DeleteStaleFile(const fs::path& /*path*/) override {}
-};
 
 /// A folder in which nothing can be deleted as long as it lives, not by root either, who lays down the right to all.
 class UnchangeableFolder {

@@ -8,6 +8,7 @@
 #include <set>
 
 #include "core/Errors.h"
+#include "core/FolderFiles.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -33,18 +34,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::uint32_t kPaper = 0xFFF8E7;
-
-/// The files of a folder with an extension, by name.
-std::vector<fs::path> FilesOf(const fs::path& folder, std::string_view extension)
-{
-    std::vector<fs::path> files;
-    if (fs::is_directory(folder))
-        for (const fs::directory_entry& entry : fs::directory_iterator(folder))
-            if (entry.path().extension() == extension)
-                files.push_back(entry.path());
-    std::sort(files.begin(), files.end());
-    return files;
-}
 
 void WriteText(const fs::path& file, std::string_view bytes)
 {
@@ -201,9 +190,9 @@ void Maker::MakeTunes()
     std::vector<std::string> names;
     for (const TableRow& row : ReadTable(texts / "tunes.txt", 2, 2))
         names.push_back(row.cells[0]);
-    for (const fs::path& file : FilesOf(texts / "tunes", ".ini"))
-        if (std::find(names.begin(), names.end(), BaseName(file)) == names.end())
-            throw RunTimeError("The tune " + BaseName(file) + " is missing from tunes.txt.");
+    for (const std::string& name : NamesInFolder(texts / "tunes", ".ini"))
+        if (std::find(names.begin(), names.end(), name) == names.end())
+            throw RunTimeError("The tune " + name + " is missing from tunes.txt.");
     for (const std::string& name : names)
         MakeTune(name);
     WriteTuneOrder(names);
@@ -211,8 +200,7 @@ void Maker::MakeTunes()
 
 void Maker::MakeStars()
 {
-    for (const fs::path& text : FilesOf(texts / "stars", ".ini")) {
-        const std::string name = BaseName(text);
+    for (const auto& [name, text] : FilesInFolder(texts / "stars", ".ini")) {
         const fs::path star = fs::path("Stars") / (name + ".TqSta");
         const fs::path bmp = fs::path("Stars") / (name + ".bmp");
         const std::array drawings = {art / "stars" / (name + ".svg")};
@@ -227,8 +215,8 @@ void Maker::MakeStars()
 
 void Maker::MakeSongs()
 {
-    for (const fs::path& file : FilesOf(texts / "songs", ".txt")) {
-        const fs::path song = fs::path("Songs") / (BaseName(file) + ".TqSng");
+    for (const auto& [name, file] : FilesInFolder(texts / "songs", ".txt")) {
+        const fs::path song = fs::path("Songs") / (name + ".TqSng");
         const SongText text = ReadSongText(file);
         Fingerprint print = base;
         print.AddFile(file);

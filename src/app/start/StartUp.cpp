@@ -13,9 +13,9 @@
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
+#include "core/Tell.h"
 #include "service/Desktop.h"
 #include "service/Machine.h"
-#include "service/Messages.h"
 #include "service/Services.h"
 #include "sound/WavOperations.h"
 
@@ -48,17 +48,17 @@ void MakeFolderIfMissing(const fs::path& folder)
 
 void WriteProgramFacts()
 {
-    PutSetting(kGeneral, "InstalledPath", PathText(Shared().ProgramFolder));
-    PutSetting(kGeneral, "FreeHardDisk", std::to_string(FreeDiskBytes()));
+    PutSettings(kGeneral, {{"InstalledPath", PathText(Shared().ProgramFolder)},
+                           {"FreeHardDisk", std::to_string(FreeDiskBytes())}});
 }
 
 void ProbeMemory()
 {
     const MemoryStatus memory = TheServices().machine->GlobalMemoryStatus();
-    PutSetting(kGeneral, "PhyMemorySz", std::to_string(memory.AvailableBytes));
-    PutSetting(kGeneral, "PhyMemoryLoad", std::to_string(memory.LoadPercent));
+    PutSettings(kGeneral, {{"PhyMemorySz", std::to_string(memory.AvailableBytes)},
+                           {"PhyMemoryLoad", std::to_string(memory.LoadPercent)},
+                           {"TotalPhyMemory", std::to_string(memory.TotalBytes)}});
     Shared().SoundMemoryLimit = SoundMemoryLimit(memory.TotalBytes);
-    PutSetting(kGeneral, "TotalPhyMemory", std::to_string(memory.TotalBytes));
 }
 
 /// The machine has no DirectX, so the question for its version always fails.
@@ -90,8 +90,7 @@ void TestSupportFiles()
 {
     const fs::path file = Shared().ProgramFolder / "Sprout" / "Beats" / "G_Acoustic Guitar High.wav";
     if (!FileExists(file))
-        TheServices().messages->MessageBox("", "Some support files are missing\r\n" + PathText(file) +
-                                                   "\r\nPlease reinstall");
+        Tell("", "Some support files are missing\r\n" + PathText(file) + "\r\nPlease reinstall");
 }
 
 void MakeInstallFolders()
@@ -121,7 +120,7 @@ void FindDocumentsFolder()
 {
     fs::path documents = TheServices().desktop->DocumentsFolder();
     if (documents.empty())
-        TheServices().messages->MessageBox("", "Reinstall the Application");
+        Tell("", "Reinstall the Application");
     else if (!documents.has_filename())
         documents = documents.parent_path();
     Shared().DocumentsFolder = documents;

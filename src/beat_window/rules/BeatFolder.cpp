@@ -2,10 +2,8 @@
 #include "beat_window/rules/BeatFolder.h"
 
 #include <map>
-#include <string_view>
-#include <system_error>
-#include <utility>
 
+#include "core/FolderFiles.h"
 #include "core/Paths.h"
 #include "core/Text.h"
 
@@ -15,68 +13,32 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t kEndingLength = 4;
-
-/// By name in lower case, which is also their order.
-using FilesByName = std::map<std::string, std::vector<fs::path>>;
-
-struct BeatListing {
-    FilesByName waves;
-    FilesByName pictures;
-};
-
-std::string WithoutEnding(const std::string& fileName)
+/// The files that a look-up by name finds, by their names in lower case: the one of just that name before those of
+/// another case.
+std::map<std::string, fs::path> FilesByName(const std::vector<FolderFile>& files)
 {
-    return fileName.substr(0, fileName.size() - kEndingLength);
-}
-
-void AddListedFile(BeatListing& listing, const fs::path& path)
-{
-    const std::string name = LowerCase(PathText(path.filename()));
-    if (name.size() <= kEndingLength)
-        return;
-    if (name.ends_with(".wav"))
-        listing.waves[WithoutEnding(name)].push_back(path);
-    else if (name.ends_with(".bmp"))
-        listing.pictures[WithoutEnding(name)].push_back(path);
-}
-
-BeatListing ReadListing(const fs::path& folder)
-{
-    BeatListing listing;
-    std::error_code error;
-    fs::directory_iterator entries(folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
-        std::error_code vanished;
-        if (entries->is_regular_file(vanished))
-            AddListedFile(listing, entries->path());
+    std::map<std::string, fs::path> byName;
+    for (const FolderFile& file : files) {
+        const std::string fileName = PathText(file.Path.filename());
+        const auto [found, isFirst] = byName.try_emplace(LowerCase(file.Name), file.Path);
+        if (fileName == LowerCase(fileName))
+            found->second = file.Path;
     }
-    return listing;
-}
-
-/// A look-up by name takes the file of just that name before those of another case.
-const fs::path& FileOfName(const std::vector<fs::path>& files, const std::string& fileName)
-{
-    for (const fs::path& file : files)
-        if (file.filename().native() == fileName)
-            return file;
-    return files.front();
+    return byName;
 }
 
 } // namespace
 
 BeatFolder ListBeatFolder(const fs::path& folder)
 {
-    const BeatListing listing = ReadListing(folder);
+    const std::vector<FolderFile> waves = FilesInFolder(folder, ".wav", DotFiles::Yes);
+    const std::map<std::string, fs::path> pictures = FilesByName(FilesInFolder(folder, ".bmp", DotFiles::Yes));
     BeatFolder found;
-    for (const auto& [name, waves] : listing.waves) {
-        for (const fs::path& wave : waves)
-            found.WaveNames.push_back(WithoutEnding(PathText(wave.filename())));
-        const auto pictures = listing.pictures.find(name);
-        if (pictures != listing.pictures.end())
-            found.Pairs.push_back(
-                {name, FileOfName(waves, name + ".wav"), FileOfName(pictures->second, name + ".bmp")});
-    }
+    for (const FolderFile& wave : waves)
+        found.WaveNames.push_back(wave.Name);
+    for (const auto& [name, wave] : FilesByName(waves))
+        if (const auto picture = pictures.find(name); picture != pictures.end())
+            found.Pairs.push_back({name, wave, picture->second});
     return found;
 }
 

@@ -20,7 +20,7 @@ struct BeatFolder {
     std::vector<BeatPair> Pairs;        ///< one for names that differ in case only, as a look-up by name finds it
 };
 
-/// Reads a folder once. One that cannot be read is an empty one.
+/// Reads a folder. One that cannot be read is an empty one.
 [[nodiscard]] BeatFolder ListBeatFolder(const std::filesystem::path& folder);
 
 } // namespace sprout

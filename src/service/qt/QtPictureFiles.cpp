@@ -106,7 +106,7 @@ QImage ReadImage(QByteArray bytes, const std::filesystem::path& path)
         throw RunTimeError("The picture " + path.native() + " is too large.");
     if (!IsKnownKind(kind) || size.width() < 1 || size.height() == 0 || IsCut(bytes, kind, size))
         throw RunTimeError("The picture " + path.native() + " cannot be read.");
-    const QImage image = reader.read();
+    QImage image = reader.read();
     if (image.isNull())
         throw RunTimeError("The picture " + path.native() + " cannot be read.");
     return image;

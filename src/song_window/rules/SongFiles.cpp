@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <system_error>
-#include <tuple>
 
 #include "core/ByteCursor.h"
 #include "core/Errors.h"
@@ -20,13 +19,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kSongExtension = ".TqSng";
-
-bool IsSong(const fs::directory_entry& entry)
-{
-    std::error_code error;
-    return entry.path().filename().native().front() != '.' && entry.is_regular_file(error) &&
-           EqualIgnoringCase(entry.path().extension().native(), kSongExtension);
-}
 
 /// True where a file, a folder or a link stands already, whatever the case of its letters.
 bool IsTaken(const fs::path& path)
@@ -58,21 +50,7 @@ std::vector<std::byte> BytesOfSong(const SongFile& song)
 
 std::vector<SongFile> ListSongs(const fs::path& folder)
 {
-    std::vector<SongFile> songs;
-    std::error_code error;
-    fs::directory_iterator entries(folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error))
-        if (IsSong(*entries))
-            songs.push_back({BaseName(entries->path()), entries->path()});
-    std::vector<std::tuple<std::string, std::string, std::size_t>> keys;
-    for (std::size_t i = 0; i < songs.size(); ++i)
-        keys.emplace_back(LowerCase(songs[i].Name), songs[i].Path.native(), i);
-    std::sort(keys.begin(), keys.end());
-    std::vector<SongFile> sorted;
-    sorted.reserve(songs.size());
-    for (const auto& [name, path, index] : keys)
-        sorted.push_back(std::move(songs[index]));
-    return sorted;
+    return FilesInFolder(folder, kSongExtension);
 }
 
 const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name)

@@ -7,13 +7,11 @@
 #include <string_view>
 #include <vector>
 
+#include "core/FolderFiles.h"
+
 namespace sprout {
 
-/// A song file of a folder. Name: without its extension. Path: as the folder has it, whatever the case of its letters.
-struct SongFile {
-    std::string Name;
-    std::filesystem::path Path;
-};
+using SongFile = FolderFile;
 
 /// The songs of a folder, by name without regard to case. Hidden files are none. A folder that cannot be read has none.
 [[nodiscard]] std::vector<SongFile> ListSongs(const std::filesystem::path& folder);

@@ -10,10 +10,10 @@
 #include <system_error>
 #include <vector>
 
+#include "core/FolderFiles.h"
 #include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "tune_window/rules/TuneTable.h"
 #include "tunes/BeatFiles.h"
 
 namespace sprout {

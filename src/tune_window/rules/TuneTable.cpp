@@ -2,10 +2,10 @@
 #include "tune_window/rules/TuneTable.h"
 
 #include <algorithm>
-#include <system_error>
 #include <utility>
 
 #include "core/Busy.h"
+#include "core/FolderFiles.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Text.h"
@@ -15,60 +15,23 @@ namespace sprout {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-/// Orders by a key that is made once for each name.
-template <class Key>
-std::vector<std::string> SortedBy(std::vector<std::string> names, const Key& key)
-{
-    using Keyed = std::pair<decltype(key(names.front())), std::string>;
-    std::vector<Keyed> keyed;
-    keyed.reserve(names.size());
-    for (std::string& name : names) {
-        auto itsKey = key(name);
-        keyed.emplace_back(std::move(itsKey), std::move(name));
-    }
-    std::stable_sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.first < b.first; });
-    names.clear();
-    for (Keyed& entry : keyed)
-        names.push_back(std::move(entry.second));
-    return names;
-}
-
-bool IsHidden(std::string_view fileName)
-{
-    return fileName.starts_with('.');
-}
-
-} // namespace
-
 fs::path TuneFile(std::string_view name)
 {
     return NamedFile(Shared().UserTunes, name, ".TqTun");
 }
 
-std::vector<std::string> NamesInFolder(const fs::path& folder, std::string_view extension)
-{
-    std::vector<std::string> names;
-    std::error_code error;
-    fs::directory_iterator entries(folder, error);
-    for (; !error && entries != fs::directory_iterator(); entries.increment(error)) {
-        const std::string file = entries->path().filename().native();
-        std::error_code unknown;
-        if (file.size() <= extension.size() || IsHidden(file) || !entries->is_regular_file(unknown))
-            continue;
-        const std::size_t nameLength = file.size() - extension.size();
-        if (EqualIgnoringCase(std::string_view(file).substr(nameLength), extension))
-            names.push_back(file.substr(0, nameLength));
-    }
-    // Names that differ in case alone stand in one order too, whatever that of the folder.
-    std::sort(names.begin(), names.end());
-    return SortedBy(std::move(names), [](const std::string& name) { return LowerCase(name); });
-}
-
 std::vector<std::string> InTuneOrder(std::vector<std::string> names, const TuneIndex& index)
 {
-    return SortedBy(std::move(names), [&index](const std::string& name) { return index.Place(name); });
+    using Keyed = std::pair<decltype(index.Place({})), std::string>;
+    std::vector<Keyed> keyed; // each name is looked up once
+    keyed.reserve(names.size());
+    for (std::string& name : names) {
+        const auto place = index.Place(name);
+        keyed.emplace_back(place, std::move(name));
+    }
+    std::stable_sort(keyed.begin(), keyed.end(), [](const Keyed& a, const Keyed& b) { return a.first < b.first; });
+    std::transform(keyed.begin(), keyed.end(), names.begin(), [](Keyed& entry) { return std::move(entry.second); });
+    return names;
 }
 
 void ReadTuneTable()

@@ -20,10 +20,6 @@ enum class TuneMove { Up = 0, Down = 1, Left = 2, Right = 3 };
 /// The file of a tune in `UserTunes`; empty, which names no file, for a name that can have none.
 [[nodiscard]] std::filesystem::path TuneFile(std::string_view name);
 
-/// Names of the files of a folder that have the extension in any letter case, without it, in alphabetical order without
-/// regard to case. Hidden files do not count; none where the folder cannot be read.
-[[nodiscard]] std::vector<std::string> NamesInFolder(const std::filesystem::path& folder, std::string_view extension);
-
 /// Names by their places in the index; names of one place keep their order.
 [[nodiscard]] std::vector<std::string> InTuneOrder(std::vector<std::string> names, const TuneIndex& index);
 

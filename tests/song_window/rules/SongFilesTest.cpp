@@ -6,6 +6,7 @@
 #include "core/Errors.h"
 #include "service/Services.h"
 #include "support/FakeServices.h"
+#include "support/FullDisk.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -15,17 +16,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
-
-/// A disk on which nothing can be written.
-class FullDisk : public Files {
-public:
-    void ReplaceFile(const fs::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
-                     Flush /*flush*/) override
-    {
-        throw RunTimeError("No space left on device.");
-    }
-    void DeleteStaleFile(const fs::path& /*path*/) override {}
-};
 
 class SongFilesTest : public testing::Test {
 protected:

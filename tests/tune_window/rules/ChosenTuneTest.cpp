@@ -5,9 +5,9 @@
 
 #include <filesystem>
 
-#include "core/Errors.h"
 #include "core/Shared.h"
 #include "support/FakeServices.h"
+#include "support/FullDisk.h"
 #include "tune_window/Tunes.h"
 
 namespace sprout {
@@ -175,15 +175,8 @@ TEST_F(ChosenTuneTest, ASoundThatCannotBeKeptIsHeardAllTheSame)
 {
     MakeSilentTuneFile(PlainTune("Rain", "Ann"));
     const std::string before = ReadBytes(File());
-    class FullDisk : public Files {
-    public:
-        void ReplaceFile(const fs::path&, std::span<const std::span<const std::byte>>, Flush) override
-        {
-            throw RunTimeError("The disk is full.");
-        }
-        void DeleteStaleFile(const fs::path&) override {}
-    } fullDisk;
-    TheServices().files = &fullDisk;
+    FullDisk disk;
+    TheServices().files = &disk;
     Tune chosen = Entry();
     LoadChosenTune(chosen);
     EXPECT_GT(chosen.TuneWave.Length, 0);

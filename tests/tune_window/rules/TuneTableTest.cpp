@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class TuneTableTest : public testing::Test {
 protected:
@@ -31,19 +30,6 @@ protected:
 
     FakeServices services;
 };
-
-TEST_F(TuneTableTest, ListsTheFilesOfAnExtensionAlphabeticallyWithoutRegardToCase)
-{
-    for (const char* name : {"beta.TqTun", "Alpha.tqtun", "GAMMA.TQTUN", "picture.bmp", ".hidden.TqTun", ".TqTun"})
-        WriteBytes(Folder() / name, "x");
-    fs::create_directory(Folder() / "folder.TqTun");
-    EXPECT_THAT(NamesInFolder(Folder(), ".TqTun"), ElementsAre("Alpha", "beta", "GAMMA"));
-}
-
-TEST_F(TuneTableTest, ListsNothingOfAFolderThatIsNotThere)
-{
-    EXPECT_THAT(NamesInFolder(Folder() / "missing", ".TqTun"), IsEmpty());
-}
 
 TEST_F(TuneTableTest, TunesWithTheSameNumberKeepTheAlphabeticalOrder)
 {

@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string_view>
+
+namespace sprout {
+
+/// Shows a plain message box; an empty title leaves it untitled. Returns when the user has read it. Interface thread
+/// only.
+void Tell(std::string_view title, std::string_view text);
+
+} // namespace sprout

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/Errors.h"
+#include "service/Files.h"
+
+namespace sprout {
+
+/// A disk on which nothing can be written.
+class FullDisk : public Files {
+public:
+    void ReplaceFile(const std::filesystem::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
+                     Flush /*flush*/) override
+    {
+        throw RunTimeError("No space left on device.");
+    }
+    void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
+};
+
+} // namespace sprout
