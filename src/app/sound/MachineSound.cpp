@@ -63,6 +63,7 @@ SoundHandle MachineSound::Service02(SoundHandle old, std::int32_t windowHandle, 
         SoundHandle sound = server.Service02(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);
         if (sound)
             return sound;
+        old = nullptr;
         answer = AskServer(); // its failure may be how its end is known
     }
     if (answer == ServerAnswer::No)
