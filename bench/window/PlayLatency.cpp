@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // sprout_play_bench: milliseconds from the call of `PlayAllBtn` until the device takes the first frame, and the
-// processor time of the program at rest. It plays on the sound output that the environment names.
+// processor time of the program at rest. It plays on the sound server that the environment names.
 #include <sys/resource.h>
 
 #include <QApplication>
@@ -26,8 +26,8 @@
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
-#include "service/sdl/SdlSound.h"
-#include "service/sdl/SdlSoundOutput.h"
+#include "service/pulse/PulseSound.h"
+#include "service/pulse/PulseSoundOutput.h"
 #include "service/stretch/StretchService.h"
 #include "sound/PlayMod.h"
 #include "sound/StepCache.h"
@@ -54,18 +54,18 @@ public:
     }
 };
 
-/// SDL's sound output, which lets the newest sound be looked at.
-class WatchedOutput : public SdlSoundOutput {
+/// The sound server's output, which lets the newest sound be looked at.
+class WatchedOutput : public PulseSoundOutput {
 public:
     [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t window, const SoundFormat& format,
                                         std::int32_t bufferBytes) override
     {
-        SoundHandle sound = SdlSoundOutput::Service02(std::move(old), window, format, bufferBytes);
-        newest = static_cast<const SdlSound*>(sound.get());
+        SoundHandle sound = PulseSoundOutput::Service02(std::move(old), window, format, bufferBytes);
+        newest = static_cast<PulseSound*>(sound.get());
         return sound;
     }
 
-    const SdlSound* newest = nullptr;
+    PulseSound* newest = nullptr;
 };
 
 double Milliseconds(Clock::duration time)

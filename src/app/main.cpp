@@ -5,6 +5,7 @@
 #include <cstdlib>
 #include <memory>
 
+#include "app/sound/MachineSound.h"
 #include "app/start/StartUp.h"
 #include "main_window/MainFrm.h"
 #include "main_window/OpenMainWindow.h"
@@ -13,7 +14,6 @@
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/qt/QtPictureFiles.h"
-#include "service/sdl/SdlSoundOutput.h"
 #include "service/stretch/StretchService.h"
 #include "service/xdg/XdgDesktop.h"
 #include "sound/PlayMod.h"
@@ -55,7 +55,7 @@ private:
     XdgDesktop desktop;
     QtPictureFiles pictures;
     std::unique_ptr<Stretch> stretch = MakeStretch();
-    SdlSoundOutput sound;
+    MachineSound sound;
 };
 
 int RunProgram()

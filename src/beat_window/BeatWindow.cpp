@@ -103,7 +103,9 @@ void BeatWindow::MakeButtons()
         Row{{"OkBtn", "OK", "Click Ok after choosing a beat", Plate::Word, kDeepLeaf},
             &BeatWindow::OkBtn,
             &BeatWindow::ClickOk},
-        Row{{"CancelBtn", "Cancel", "", Plate::Word, kStone}, &BeatWindow::CancelBtn, &BeatWindow::reject},
+        Row{{"CancelBtn", "Cancel", "Cancel button, use it to leave the beat as it was", Plate::Word, kStone},
+            &BeatWindow::CancelBtn,
+            &BeatWindow::reject},
         Row{{"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "TrackPlayBtn"},
             &BeatWindow::TestPlayBtn,
             &BeatWindow::ClickPlay},
@@ -116,7 +118,9 @@ void BeatWindow::MakeButtons()
         Row{{"DeleteBtn", "Delete", "This button will deletes the selected beat", Plate::Word, kCoral, "WordDelete"},
             &BeatWindow::DeleteBtn,
             &BeatWindow::ClickDelete},
-        Row{{"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, &BeatWindow::HelpBtn, &BeatWindow::ClickHelp}};
+        Row{{"HelpBtn", "Help", "Help button, use it to see help", Plate::Word, kBerry, "WordHelp"},
+            &BeatWindow::HelpBtn,
+            &BeatWindow::ClickHelp}};
     for (const Row& row : rows)
         this->*row.member = &AddWordButton(row.button, [this, &row] { Guarded([&] { (this->*row.click)(); }); });
 }
@@ -212,6 +216,7 @@ void BeatWindow::RefreshShowAllPic()
         ShowChoice();
     else
         ShowNoChoice();
+    ChoosenPic->setAccessibleName(NmLbl->text());
 }
 
 void BeatWindow::ShowNoBeats()
@@ -231,7 +236,6 @@ void BeatWindow::ShowChoice()
     NoteLbl->setText(QtText(kBeatNote));
     NmLbl->ShowName(QtText(SelectedEntry(table).Name));
     ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
-    ChoosenPic->setAccessibleName(NmLbl->text());
     LoadSelectedSound(table);
     DurLbl->setText(QtText(DurationText(SelectedEntry(table).Sound)));
 }

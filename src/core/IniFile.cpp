@@ -208,21 +208,31 @@ std::string GetIniValue(std::string_view section, std::string_view key, std::str
     return IniFile::Read(file).Value(section, key, fallback);
 }
 
-void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
-                 const std::filesystem::path& file)
+void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file)
 {
     const std::string_view named = Trim(section).empty() ? kGeneral : section;
     IniFile ini = IniFile::Read(file);
-    if (Trim(key).empty())
-        ini.RemoveSection(named);
-    else
-        ini.SetValue(named, key, value);
+    const std::string before = ini.Bytes();
+    for (const IniValue& value : values) {
+        if (Trim(value.key).empty())
+            ini.RemoveSection(named);
+        else
+            ini.SetValue(named, value.key, value.value);
+    }
     try {
-        ini.Write(file);
+        if (ini.Bytes() != before)
+            ini.Write(file);
     } catch (const RunTimeError&) {
         // Where the file cannot be written, the program runs on without it.
         return;
     }
+}
+
+void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
+                 const std::filesystem::path& file)
+{
+    const IniValue one{key, std::string(value)};
+    PutIniValues(section, {&one, 1}, file);
 }
 
 } // namespace sprout

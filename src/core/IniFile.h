@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -58,8 +59,16 @@ private:
 [[nodiscard]] std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,
                                       const std::filesystem::path& file);
 
-/// Writes a value. A blank section becomes "General", a blank key deletes the section. A failure is silent, as in a
-/// read-only folder.
+struct IniValue {
+    std::string_view key;
+    std::string value;
+};
+
+/// Writes values. A blank section becomes "General", a blank key deletes the section. The file is replaced once, and
+/// not at all where it says the same already. A failure is silent, as in a read-only folder.
+void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file);
+
+/// Writes one value, likewise.
 void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
                  const std::filesystem::path& file);
 

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/Settings.h"
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 #include "core/Errors.h"
-#include "core/IniFile.h"
 #include "core/Numbers.h"
 #include "core/Text.h"
 
@@ -36,11 +39,19 @@ std::string GetSetting(std::string_view section, std::string_view key, std::stri
     return std::string(FirstCharacters(value, kLongestSetting));
 }
 
-void PutSetting(std::string_view section, std::string_view key, std::string_view value)
+void PutSettings(std::string_view section, std::initializer_list<IniValue> values)
 {
     // A blank key would delete the section; a setting without a name is none.
-    if (!Trim(key).empty())
-        PutIniValue(NamedSection(section), key, value, Shared().SettingsFile);
+    std::vector<IniValue> named;
+    std::copy_if(values.begin(), values.end(), std::back_inserter(named),
+                 [](const IniValue& value) { return !Trim(value.key).empty(); });
+    if (!named.empty())
+        PutIniValues(NamedSection(section), named, Shared().SettingsFile);
+}
+
+void PutSetting(std::string_view section, std::string_view key, std::string_view value)
+{
+    PutSettings(section, {{key, std::string(value)}});
 }
 
 WaveViewColours ReadWaveColours()

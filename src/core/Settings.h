@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
+#include "core/IniFile.h"
 #include "core/Shared.h"
 
 namespace sprout {
@@ -15,7 +17,11 @@ inline constexpr std::size_t kLongestSetting = 99;
 /// unless the file has a key "END".
 [[nodiscard]] std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback);
 
-/// Writes a value to the settings file. A blank section becomes "General"; a blank key is ignored. A failure is silent.
+/// Writes values to the settings file in one go. A blank section becomes "General"; a blank key is ignored. A failure
+/// is silent.
+void PutSettings(std::string_view section, std::initializer_list<IniValue> values);
+
+/// Writes one value, likewise.
 void PutSetting(std::string_view section, std::string_view key, std::string_view value);
 
 /// The colours of the wave view: each setting's number, the built-in colour in place of -1.

@@ -10,6 +10,8 @@
 
 #include <exception>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -20,6 +22,7 @@
 #include "main_window/TitleBand.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/TrackCommands.h"
+#include "main_window/TrackPictures.h"
 #include "main_window/TransportCommands.h"
 #include "main_window/rules/WindowPlace.h"
 #include "sound/PlayMod.h"
@@ -142,6 +145,19 @@ void MainFrm::MakeButtons()
 {
     for (const Row& row : Rows())
         buttons.AddButton(WithHint(row.name, row.spokenName, row.plate), [this, click = row.click] { click(*this); });
+    DrawPicturesAhead();
+}
+
+/// While the rest of the window is made, the pictures that it is first painted with are drawn.
+void MainFrm::DrawPicturesAhead()
+{
+    std::vector<WantedArtwork> wanted;
+    for (const Row& row : Rows())
+        for (WantedArtwork& artwork : buttons.Button(row.name).Artworks())
+            wanted.push_back(std::move(artwork));
+    for (WantedArtwork& artwork : CanvasArtworks(devicePixelRatioF()))
+        wanted.push_back(std::move(artwork));
+    DrawArtworkAhead(wanted);
 }
 
 void MainFrm::MakeTitleBand()
@@ -215,9 +231,11 @@ void MainFrm::MakeShortcuts()
 
 void MainFrm::SetTabOrder()
 {
-    // The tracks come behind the tempo, as they lie in the window; the buttons were made in the order of the table.
-    const char* before = "TempoPrtImg";
-    for (const char* name : {"TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn", "TrackPic"}) {
+    // The buttons were made in the order of the table. What belongs to the song comes as it lies in the window, from
+    // the bar's tools to the tracks; the window's own buttons are the last.
+    const char* before = "DemoBtn";
+    for (const char* name :
+         {"TempoPrtImg", "Label5", "Label1", "TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn", "TrackPic"}) {
         setTabOrder(findChild<QWidget*>(QString::fromLatin1(before)), findChild<QWidget*>(QString::fromLatin1(name)));
         before = name;
     }
@@ -255,8 +273,7 @@ void MainFrm::WritePlaceToSettings() const
     PutSetting(kPlaceSection, "WindowState", isMinimized() ? "1" : isMaximized() ? "2" : "0");
     if (isMinimized() || isMaximized())
         return;
-    PutSetting(kPlaceSection, "Position", PairOfTwips(x(), y()));
-    PutSetting(kPlaceSection, "Size", PairOfTwips(width(), height()));
+    PutSettings(kPlaceSection, {{"Position", PairOfTwips(x(), y())}, {"Size", PairOfTwips(width(), height())}});
 }
 
 void MainFrm::ChooseTool(Tool tool)
@@ -372,6 +389,9 @@ void MainFrm::changeEvent(QEvent* event)
 
 void MainFrm::closeEvent(QCloseEvent* event)
 {
+    // The question of a minimized window would not be seen.
+    if (isMinimized() && Shared().Song.SongChanged)
+        setWindowState(windowState() & ~Qt::WindowMinimized);
     if (!songCommands.ConfirmClose()) {
         event->ignore();
         return;

@@ -60,6 +60,7 @@ private:
     static const std::array<Row, 17>& Rows();
 
     void MakeButtons();
+    void DrawPicturesAhead();
     void MakeTitleBand();
     void MakeControlBar();
     void MakeCanvas();

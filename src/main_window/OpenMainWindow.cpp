@@ -2,8 +2,6 @@
 #include "main_window/OpenMainWindow.h"
 
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QWindow>
 
 #include <exception>
 
@@ -20,23 +18,11 @@ namespace sprout {
 
 namespace {
 
-constexpr int kShownAtLatestMs = 1000;
-
 void ShowSong(MainFrm& window)
 {
     window.DrawTracksAll();
     window.UpdateTempoSliderValue();
     window.UpdateSongTitle();
-}
-
-/// Waits until the desktop has put the window on the screen, and draws it. A desktop that shows it later does not hold
-/// up the start.
-void Refresh(MainFrm& window)
-{
-    const QDeadlineTimer latest(kShownAtLatestMs);
-    while (!window.windowHandle()->isExposed() && !latest.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents, 20);
-    window.repaint();
 }
 
 /// Without the table of tunes the program is of use; it is read again when the tune window opens.
@@ -57,11 +43,12 @@ void StartSound(MainFrm& window)
 
 } // namespace
 
+// The desktop takes about as long to put the window on the screen as all that follows here: nothing waits for it, and
+// the window is drawn once, with everything in it.
 void OpenMainWindow(MainFrm& window)
 {
     window.show();
     ShowSong(window);
-    Refresh(window);
     FillTuneTable();
     ShowHint(QCoreApplication::translate("OpenMainWindow", "Ready"));
     StartSound(window);

@@ -6,7 +6,8 @@ namespace sprout {
 class MainFrm;
 
 /// The part of the program's start that needs the main window, in its order: shows the window, fills the table of
-/// tunes, starts the sound and, on the first starts, opens the sample song. Returns when all of it is on the screen.
+/// tunes, starts the sound and, on the first starts, opens the sample song. The window is drawn when the desktop has
+/// put it on the screen.
 void OpenMainWindow(MainFrm& window);
 
 } // namespace sprout

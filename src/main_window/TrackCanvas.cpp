@@ -43,7 +43,8 @@ void TrackCanvas::MakeSurfaces(ButtonScheme& buttons)
 {
     titlePic = new TrackTitlePic(view, buttons, calls, this);
     trackPic = new TrackPic(view, this);
-    titlePic->Redraw = trackPic->Redraw = [this] { DrawTracksAll(); };
+    titlePic->Redraw = [this] { titlePic->DrawAll(Shared().Song); };
+    trackPic->Redraw = [this] { trackPic->DrawAll(Shared().Song); };
     connect(titlePic, &TrackTitlePic::RowChosen, this, &TrackCanvas::ShowRow);
     connect(trackPic, &TrackPic::Pressed, this, &TrackCanvas::Press);
     connect(trackPic, &TrackPic::Moved, this, &TrackCanvas::Move);
@@ -100,12 +101,8 @@ void TrackCanvas::DrawTracksAll()
     const SongState& song = Shared().Song;
     view = ClampedView(view, song.TrackCount);
     FitScrollBars();
-    titlePic->Clear();
-    trackPic->Clear();
-    trackPic->DrawMeadow(song.TrackCount);
-    DrawTrackTop();
-    for (std::int32_t track = 1; track <= song.TrackCount; ++track)
-        DrawTrackOne(track);
+    titlePic->Forget();
+    trackPic->Forget();
     titlePic->PlaceAddButtons(song.TrackCount);
     HideTrackButtons();
     trackPic->ShowCellCursor(std::nullopt);

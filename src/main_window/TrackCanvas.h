@@ -46,6 +46,7 @@ public:
     /// buttons: the window's; the buttons of the canvas are added to it.
     TrackCanvas(QWidget* parent, ButtonScheme& buttons, TrackCanvasCalls calls);
 
+    /// Places everything and has the surfaces drawn when they are shown next: as often as it is called, once.
     void DrawTracksAll();
     void DrawTrackOne(std::int32_t track);
     void DrawTrackTop();

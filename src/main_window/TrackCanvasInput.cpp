@@ -248,8 +248,11 @@ void TrackCanvas::wheelEvent(QWheelEvent* event)
 
 void TrackCanvas::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space)
-        return Ask(calls.PlayOrStop);
+    if (event->key() == Qt::Key_Space) {
+        if (!event->isAutoRepeat()) // held down it would start and stop by turns
+            Ask(calls.PlayOrStop);
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         return PressKeyCell();
     if (event->modifiers() & Qt::ControlModifier && StepKeyCell(*event))

@@ -40,10 +40,10 @@ void TrackLabel::mouseReleaseEvent(QMouseEvent* event)
 void TrackLabel::keyPressEvent(QKeyEvent* event)
 {
     const int key = event->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Space)
-        onClick();
-    else
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space)
         QLabel::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        onClick();
 }
 
 void TrackLabel::focusInEvent(QFocusEvent* event)

@@ -20,7 +20,6 @@ namespace {
 
 constexpr QPoint kTimeSlideAt{-5, 2};
 constexpr QPoint kUnpaintedTextAt{10, 6}; ///< below the row's top
-constexpr int kMeadowTileWidth = 512;
 constexpr int kByteBits = 8;
 
 bool AnyCellIsPainted(const Track& track)
@@ -68,11 +67,10 @@ void TrackPic::Clear()
     drawnTop.reset();
 }
 
-void TrackPic::DrawMeadow(std::int32_t trackCount)
+void TrackPic::PaintMeadow(std::int32_t trackCount)
 {
     if (const auto top = MeadowTop(view, trackCount))
-        Painter().Tile(QRect(0, *top, width(), kMeadowHeight),
-                       CanvasPicture("Meadow", QSize(kMeadowTileWidth, kMeadowHeight), PixelRatio()));
+        Painter().Tile(QRect(0, *top, width(), kMeadowHeight), CanvasPicture("Meadow", kMeadowTileSize, PixelRatio()));
 }
 
 TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
@@ -84,10 +82,19 @@ TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
     return look;
 }
 
+void TrackPic::DrawAll(const SongState& song)
+{
+    Clear();
+    PaintMeadow(song.TrackCount);
+    DrawTop(song);
+    for (std::int32_t track = 1; track <= song.TrackCount; ++track)
+        DrawRow(song, track);
+}
+
 void TrackPic::DrawRow(const SongState& song, std::int32_t track)
 {
     const auto row = static_cast<std::size_t>(track - view.FirstTrack);
-    if (!RowIsVisible(view, track) || row >= drawnRows.size())
+    if (IsStale() || !RowIsVisible(view, track) || row >= drawnRows.size())
         return;
     RowLook look = LookOf(song, track);
     if (drawnRows[row] == look)
@@ -107,7 +114,7 @@ void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
     if (!look.painted)
         painter.Write(kUnpaintedTextAt.x(), rowTop + kUnpaintedTextAt.y(), LabelFont(),
                       tr("Please paint on this track to play with others."));
-    update(background);
+    Changed(background);
 }
 
 void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
@@ -122,7 +129,7 @@ void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int
 void TrackPic::DrawTop(const SongState& song)
 {
     TopLook look{song.SongCells, song.Tempo, BusyMarks(song, view)};
-    if (drawnTop == look)
+    if (IsStale() || drawnTop == look)
         return;
     const QRect band(0, 0, width(), kTimeBandHeight);
     SurfacePainter painter = Painter();
@@ -131,7 +138,7 @@ void TrackPic::DrawTop(const SongState& song)
     PaintBusyMarks(painter, look.marks);
     PaintSeconds(painter, song);
     drawnTop = std::move(look);
-    update(band);
+    Changed(band);
 }
 
 void TrackPic::PaintBusyMarks(SurfacePainter& painter, const std::vector<BusyMark>& marks) const

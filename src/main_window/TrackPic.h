@@ -26,11 +26,10 @@ public:
     /// view: what is scrolled into it; outlives the surface.
     TrackPic(const TrackView& view, QWidget* parent);
 
-    /// Empties the surface and forgets what was drawn.
-    void Clear();
-    /// Draws a meadow on the lower edge of an emptied surface, if the rows leave room for it.
-    void DrawMeadow(std::int32_t trackCount);
-    /// Draws a track's row, if it is in view and does not show just that already.
+    /// Empties the surface and draws all of it.
+    void DrawAll(const SongState& song);
+    /// Draws a track's row, if it is in view and does not show just that already. A surface that is still to be drawn
+    /// whole is left as it is.
     void DrawRow(const SongState& song, std::int32_t track);
     /// Draws the time band, if it does not show just that already.
     void DrawTop(const SongState& song);
@@ -72,6 +71,9 @@ private:
         friend bool operator==(const TopLook&, const TopLook&) = default;
     };
 
+    void Clear();
+    /// Draws a meadow on the lower edge of the emptied surface, if the rows leave room for it.
+    void PaintMeadow(std::int32_t trackCount);
     [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
     void PaintRow(const RowLook& look, std::int32_t rowTop);
     void PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,

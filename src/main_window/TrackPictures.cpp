@@ -2,21 +2,37 @@
 #include "main_window/TrackPictures.h"
 
 #include "main_window/rules/BevelTunePicture.h"
-#include "main_window/rules/TrackGeometry.h"
-#include "ui/Artwork.h"
 
 namespace sprout {
+
+namespace {
+
+WantedArtwork BlankArtwork(int kind, qreal pixelRatio)
+{
+    return {QStringLiteral("pictures/TrackBlankPic%1").arg(kind), QSize(kTileWidth, kBackgroundHeight), pixelRatio};
+}
+
+WantedArtwork TileArtwork(std::int32_t tile, qreal pixelRatio)
+{
+    return {QStringLiteral("tiles/Tile%1").arg(tile), QSize(kTileWidth, kPaintHeight), pixelRatio};
+}
+
+WantedArtwork CanvasArtwork(const char* name, QSize size, qreal pixelRatio)
+{
+    return {QStringLiteral("pictures/") + QString::fromLatin1(name), size, pixelRatio};
+}
+
+} // namespace
 
 QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio)
 {
     const int kind = trackType == static_cast<std::int32_t>(TrackKind::Audio) ? 1 : 0;
-    return Artwork(QStringLiteral("pictures/TrackBlankPic%1").arg(kind), QSize(kTileWidth, kBackgroundHeight),
-                   pixelRatio);
+    return Artwork(BlankArtwork(kind, pixelRatio));
 }
 
 QPixmap TrackDrawnPic(std::int32_t tile, qreal pixelRatio)
 {
-    return Artwork(QStringLiteral("tiles/Tile%1").arg(tile), QSize(kTileWidth, kPaintHeight), pixelRatio);
+    return Artwork(TileArtwork(tile, pixelRatio));
 }
 
 QPixmap BusyMarkPic(std::int32_t picture, qreal pixelRatio)
@@ -27,7 +43,18 @@ QPixmap BusyMarkPic(std::int32_t picture, qreal pixelRatio)
 
 QPixmap CanvasPicture(const char* name, QSize size, qreal pixelRatio)
 {
-    return Artwork(QStringLiteral("pictures/") + QString::fromLatin1(name), size, pixelRatio);
+    return Artwork(CanvasArtwork(name, size, pixelRatio));
+}
+
+std::vector<WantedArtwork> CanvasArtworks(qreal pixelRatio)
+{
+    std::vector<WantedArtwork> artworks{
+        CanvasArtwork("TimeSlide", kTimeSlideSize, pixelRatio), CanvasArtwork("Meadow", kMeadowTileSize, pixelRatio),
+        BlankArtwork(0, pixelRatio), CanvasArtwork("DeleteButtonPic", kDeleteButtonPicSize, pixelRatio),
+        CanvasArtwork("PlayPic", kPlayPicSize, pixelRatio)};
+    for (std::int32_t tile = 1; tile <= kMusicTiles; ++tile)
+        artworks.push_back(TileArtwork(tile, pixelRatio));
+    return artworks;
 }
 
 QImage RaisedTunePicture(const Picture& picture)

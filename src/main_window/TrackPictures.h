@@ -5,8 +5,11 @@
 #include <QPixmap>
 
 #include <cstdint>
+#include <vector>
 
 #include "core/Song.h"
+#include "main_window/rules/TrackGeometry.h"
+#include "ui/Artwork.h"
 
 namespace sprout {
 
@@ -18,6 +21,7 @@ inline constexpr int kBusyMarkWidth = 3;
 inline constexpr QSize kTimeSlideSize{3850, 15};
 inline constexpr QSize kDeleteButtonPicSize{14, 16};
 inline constexpr QSize kPlayPicSize{32, 32};
+inline constexpr QSize kMeadowTileSize{512, kMeadowHeight};
 
 /// The background of a row by the kind of its track; of kinds that do not exist, that of music.
 [[nodiscard]] QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio);
@@ -27,6 +31,9 @@ inline constexpr QSize kPlayPicSize{32, 32};
 [[nodiscard]] QPixmap BusyMarkPic(std::int32_t picture, qreal pixelRatio);
 /// A picture of `art/pictures`.
 [[nodiscard]] QPixmap CanvasPicture(const char* name, QSize size, qreal pixelRatio);
+
+/// What a song of music tracks is drawn with.
+[[nodiscard]] std::vector<WantedArtwork> CanvasArtworks(qreal pixelRatio);
 
 /// The tune's picture with a raised edge.
 [[nodiscard]] QImage RaisedTunePicture(const Picture& picture);

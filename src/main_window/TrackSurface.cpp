@@ -81,18 +81,35 @@ void TrackSurface::Clear()
     if (kept.size() != DevicePixels())
         kept = QPixmap(DevicePixels());
     kept.fill(back);
+    isDrawn = true;
+    Changed(rect());
+}
+
+void TrackSurface::Forget()
+{
+    isDrawn = false;
     update();
+}
+
+void TrackSurface::Changed(const QRect& part)
+{
+    // What is drawn in a paint event is shown by it.
+    if (!isPainting)
+        update(part);
 }
 
 bool TrackSurface::IsStale() const
 {
-    return ratio != devicePixelRatioF() || kept.size() != DevicePixels();
+    return !isDrawn || ratio != devicePixelRatioF() || kept.size() != DevicePixels();
 }
 
 void TrackSurface::paintEvent(QPaintEvent* event)
 {
-    if (IsStale() && Redraw)
+    if (IsStale() && Redraw) {
+        isPainting = true;
         Redraw();
+        isPainting = false;
+    }
     QPainter painter(this);
     painter.save();
     // Without a scale the picture is copied and not resampled.
@@ -118,19 +135,24 @@ void TrackSurface::PaintFocusRing(QPainter& painter, const QRect& place)
     frame(place, 2, kLink);
 }
 
+void TrackSurface::UpdateFocusRing()
+{
+    if (focusByKey)
+        update();
+}
+
+// A widget draws itself anew with every change of the focus; the surfaces are large and show it rarely.
 void TrackSurface::focusInEvent(QFocusEvent* event)
 {
     const auto reason = event->reason();
     if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
         focusByKey = reason != Qt::MouseFocusReason;
-    update();
-    QWidget::focusInEvent(event);
+    UpdateFocusRing();
 }
 
-void TrackSurface::focusOutEvent(QFocusEvent* event)
+void TrackSurface::focusOutEvent(QFocusEvent* /*event*/)
 {
-    update();
-    QWidget::focusOutEvent(event);
+    UpdateFocusRing();
 }
 
 void TrackSurface::mousePressEvent(QMouseEvent* event)

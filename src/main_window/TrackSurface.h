@@ -43,8 +43,11 @@ public:
 
     /// Empties the surface, at its size and the screen's pixel ratio of this moment.
     void Clear();
+    /// Everything is drawn anew when the surface has to be shown next.
+    void Forget();
 
-    /// Called where the surface has to be shown and was not drawn at its size and the screen's pixel ratio.
+    /// Draws everything. Called where the surface has to be shown and was not drawn at its size and the screen's pixel
+    /// ratio, or was forgotten.
     std::function<void()> Redraw;
 
 protected:
@@ -60,19 +63,25 @@ protected:
     [[nodiscard]] bool FocusByKey() const { return focusByKey; }
     [[nodiscard]] QColor BackColour() const { return back; }
     [[nodiscard]] qreal PixelRatio() const { return ratio; }
-    /// A painter on the kept picture; whoever draws calls `update` for what changed.
+    /// What is drawn now is thrown away: `Redraw` comes before it is seen.
+    [[nodiscard]] bool IsStale() const;
+    /// A painter on the kept picture; whoever draws calls `Changed` for it.
     [[nodiscard]] SurfacePainter Painter() { return {kept, ratio}; }
+
+    void Changed(const QRect& part);
 
     /// Frames `place` light beside dark, so that the frame stands out on every ground.
     static void PaintFocusRing(QPainter& painter, const QRect& place);
 
 private:
     [[nodiscard]] QSize DevicePixels() const;
-    [[nodiscard]] bool IsStale() const;
+    void UpdateFocusRing();
 
     QColor back;
     QPixmap kept;
     qreal ratio = 1;
+    bool isDrawn = false;
+    bool isPainting = false;
     bool focusByKey = false;
 };
 

@@ -152,10 +152,17 @@ void TrackTitlePic::Clear()
     drawnRows.assign(static_cast<std::size_t>(std::max(VisibleRows(view), 0)) + 1, std::nullopt);
 }
 
+void TrackTitlePic::DrawAll(const SongState& song)
+{
+    Clear();
+    for (std::int32_t track = 1; track <= song.TrackCount; ++track)
+        DrawRow(song, track);
+}
+
 void TrackTitlePic::DrawRow(const SongState& song, std::int32_t t)
 {
     const auto row = static_cast<std::size_t>(t - view.FirstTrack);
-    if (!RowIsVisible(view, t) || row >= drawnRows.size())
+    if (IsStale() || !RowIsVisible(view, t) || row >= drawnRows.size())
         return;
     const Track& track = At(song.Tracks, t);
     const auto& drawn = drawnRows[row];
@@ -185,7 +192,7 @@ void TrackTitlePic::PaintRow(const Track& track, std::int32_t number)
                 CanvasPicture("DeleteButtonPic", kDeleteButtonPicSize, PixelRatio()));
     painter.Lay(QRect(QPoint(kPlayPicLeft, top + kPlayPicTop), kPlayPicSize),
                 CanvasPicture("PlayPic", kPlayPicSize, PixelRatio()));
-    update(background);
+    Changed(background);
 }
 
 void TrackTitlePic::PlaceAddButtons(std::int32_t trackCount)
@@ -305,7 +312,9 @@ void TrackTitlePic::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        return PressChosen();
+        if (!event->isAutoRepeat())
+            PressChosen();
+        return;
     case Qt::Key_Escape:
         if (overlayShown)
             return HideTrackButtons();

@@ -34,9 +34,10 @@ public:
     /// strip.
     TrackTitlePic(const TrackView& view, ButtonScheme& buttons, const TrackCanvasCalls& calls, QWidget* parent);
 
-    /// Empties the strip and forgets what was drawn.
-    void Clear();
-    /// Draws a track's row, if it is in view and does not show just that already.
+    /// Empties the strip and draws all of it.
+    void DrawAll(const SongState& song);
+    /// Draws a track's row, if it is in view and does not show just that already. A strip that is still to be drawn
+    /// whole is left as it is.
     void DrawRow(const SongState& song, std::int32_t track);
     /// Puts the buttons that add a track, and their label, below the last row.
     void PlaceAddButtons(std::int32_t trackCount);
@@ -74,6 +75,7 @@ private:
     ImageButton& AddStripButton(const ButtonRow& row, QSize size, const std::function<void()>& onClick);
     void TuneHovered();
 
+    void Clear();
     void PaintRow(const Track& track, std::int32_t number);
     void HoverAt(std::int32_t x, std::int32_t y);
     void LeaveRows();

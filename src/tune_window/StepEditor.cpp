@@ -44,6 +44,7 @@ constexpr QPoint kNotePianoPlace{8, 118};
 constexpr QSize kPianoCursorSize{32, 32};
 constexpr QPoint kPianoCursorTip{9, 3};
 constexpr std::chrono::milliseconds kPlayMarksInterval{40};
+constexpr std::int32_t kMostFocusSteps = 256; // as many as a person's tune can have; a stranger's file may hold more
 
 constexpr ButtonRow kChangeAllRow{"ChangeAllBtn", "Change All",
                                   "Change All button, use it to choose one instrument for all steps", Plate::Word,
@@ -111,7 +112,8 @@ void StepEditor::MakeTunFramPic()
             [this](QPoint place, Qt::MouseButton button) { Guarded([&] { PressSurface(place, button); }); });
     connect(surface, &TunFramPic::Released, this,
             [this](QPoint place, Qt::MouseButton button) { Guarded([&] { ReleaseSurface(place, button); }); });
-    connect(surface, &TunFramPic::Moved, this, [this](QPoint place) { Guarded([&] { MoveOnSurface(place); }); });
+    connect(surface, &TunFramPic::Moved, this,
+            [this](QPoint place, Qt::MouseButtons held) { Guarded([&] { MoveOnSurface(place, held); }); });
     connect(surface, &TunFramPic::Wheeled, this,
             [this](int pixels) { TunFramHScroll->setValue(TunFramHScroll->value() + pixels); });
     connect(surface, &TunFramPic::Resized, this, [this] { Guarded([this] { UpdateThisTune(); }); });
@@ -232,12 +234,13 @@ void StepEditor::DrawTuneSteps()
 void StepEditor::SyncStepFocus()
 {
     const Tune& tune = Shared().CurrentTune;
-    const auto wanted = static_cast<std::size_t>(tune.StepCount) + 1;
+    const std::int32_t reached = std::min(tune.StepCount, kMostFocusSteps);
+    const auto wanted = static_cast<std::size_t>(reached) + 1;
     for (; stepFocus.size() > wanted; stepFocus.pop_back())
         delete stepFocus.back();
     while (stepFocus.size() < wanted)
         stepFocus.push_back(MakeStepFocus(static_cast<std::int32_t>(stepFocus.size())));
-    for (std::int32_t step = 1; step <= tune.StepCount; ++step)
+    for (std::int32_t step = 1; step <= reached; ++step)
         At(stepFocus, step)->ShowStep(At(tune.Steps, step), StepsLeft);
 }
 

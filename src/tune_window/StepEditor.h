@@ -85,7 +85,7 @@ private:
     void PressKey(std::int32_t step, QPoint place, Qt::MouseButton button);
     void PressStrip(std::int32_t step, QPoint place, Qt::MouseButton button);
     void ReleaseSurface(QPoint place, Qt::MouseButton button);
-    void MoveOnSurface(QPoint place);
+    void MoveOnSurface(QPoint place, Qt::MouseButtons held);
     void ShowPointer(const StepPointer& pointer);
     void OfferHandle(QPoint place);
 

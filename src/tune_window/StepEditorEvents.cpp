@@ -15,6 +15,11 @@ namespace sprout {
 
 namespace {
 
+bool IsArrow(int key)
+{
+    return key == Qt::Key_Left || key == Qt::Key_Right || key == Qt::Key_Up || key == Qt::Key_Down;
+}
+
 bool IsOn(std::int32_t step)
 {
     return At(Shared().CurrentTune.Steps, step).OnPos == 1;
@@ -88,8 +93,11 @@ void StepEditor::ReleaseSurface(QPoint place, Qt::MouseButton button)
         PlayBeat(step);
 }
 
-void StepEditor::MoveOnSurface(QPoint place)
+void StepEditor::MoveOnSurface(QPoint place, Qt::MouseButtons held)
 {
+    // A message that came up on the way has taken the release.
+    if (held == Qt::NoButton)
+        DurationDragging = false;
     if (DurationDragging)
         return DragTo(place);
     if (!IsOnHandle(place)) {
@@ -155,6 +163,9 @@ bool StepEditor::StretchBar(std::int32_t step, std::int32_t pixels)
 void StepEditor::PressStepKey(std::int32_t step, QKeyEvent& event)
 {
     event.accept();
+    // A key that is held down would render, or delete, again and again.
+    if (event.isAutoRepeat() && !IsArrow(event.key()))
+        return;
     switch (event.key()) {
     case Qt::Key_Space:
         ToggleLamp(step);

@@ -204,7 +204,7 @@ void TunFramPic::mousePressEvent(QMouseEvent* event)
 
 void TunFramPic::mouseMoveEvent(QMouseEvent* event)
 {
-    Q_EMIT Moved(PixelOf(event->position()));
+    Q_EMIT Moved(PixelOf(event->position()), event->buttons());
 }
 
 void TunFramPic::mouseReleaseEvent(QMouseEvent* event)

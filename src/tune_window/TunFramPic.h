@@ -32,7 +32,7 @@ public:
 
 Q_SIGNALS:
     void Pressed(QPoint place, Qt::MouseButton button);
-    void Moved(QPoint place);
+    void Moved(QPoint place, Qt::MouseButtons held);
     void Released(QPoint place, Qt::MouseButton button);
     void Wheeled(int pixels); ///< to the right, to the left if below 0
     void Resized();

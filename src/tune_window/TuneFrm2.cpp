@@ -19,6 +19,7 @@
 #include "ui/Palette.h"
 #include "ui/PictureGridPic.h"
 #include "ui/QtText.h"
+#include "ui/QtTip.h"
 
 namespace sprout {
 
@@ -38,7 +39,7 @@ void PutAt(QWidget& widget, const PlanBox& box)
 void SetFittingText(QLabel& label, const QString& text)
 {
     label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
-    label.setToolTip(label.text() == text ? QString() : text);
+    label.setToolTip(label.text() == text ? QString() : QtTip(text.toStdString()));
     label.setAccessibleName(text);
 }
 
@@ -171,9 +172,11 @@ void TuneFrm2::Open()
     FitTo(screen()->availableGeometry().size());
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
+    editor->UpdateThisTune(); // no tune of the table may take its place
     Guarded([this] { FindChosenTune(); });
     ShowAllPic->setFocus();
     ShowModal();
+    editor->HidePlayMarks();
 }
 
 void TuneFrm2::TakeTuneTable()

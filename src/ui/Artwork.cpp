@@ -6,7 +6,12 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+#include <condition_variable>
 #include <cstdint>
+#include <deque>
+#include <mutex>
+#include <thread>
+#include <utility>
 #include <vector>
 
 #include "ui/Palette.h"
@@ -49,17 +54,104 @@ QString KeyOf(const QString& name, QSize devicePixels, qreal pixelRatio, const Q
         .arg(colour.isValid() ? colour.name() : QString());
 }
 
+QSize DevicePixels(QSize size, qreal pixelRatio)
+{
+    return (QSizeF(size) * pixelRatio).toSize();
+}
+
+/// Artworks that are drawn before they are asked for.
+class ArtworkAhead {
+public:
+    ArtworkAhead() = default;
+    ArtworkAhead(const ArtworkAhead&) = delete;
+    ArtworkAhead& operator=(const ArtworkAhead&) = delete;
+    ~ArtworkAhead()
+    {
+        if (worker.joinable())
+            worker.join();
+    }
+
+    void Draw(const std::vector<WantedArtwork>& wanted)
+    {
+        if (worker.joinable())
+            worker.join();
+        for (const auto& [name, size, pixelRatio, colour] : wanted) {
+            const QSize devicePixels = DevicePixels(size, pixelRatio);
+            waiting.push_back({KeyOf(name, devicePixels, pixelRatio, colour), name, devicePixels, colour});
+        }
+        worker = std::thread([this] { DrawWaiting(); });
+    }
+
+    /// The artwork, an empty image where the caller has to draw it.
+    QImage Take(const QString& key)
+    {
+        std::unique_lock lock(mutex);
+        std::erase_if(waiting, [&key](const Order& order) { return order.key == key; });
+        isDrawn.wait(lock, [this, &key] { return beingDrawn != key; });
+        return drawn.take(key);
+    }
+
+private:
+    struct Order {
+        QString key;
+        QString name;
+        QSize devicePixels;
+        QColor colour;
+    };
+
+    void DrawWaiting()
+    {
+        std::unique_lock lock(mutex);
+        while (!waiting.empty()) {
+            const Order order = std::move(waiting.front());
+            waiting.pop_front();
+            beingDrawn = order.key;
+            lock.unlock();
+            QImage image = Drawn(order.name, order.devicePixels, order.colour, Qt::transparent);
+            lock.lock();
+            drawn.insert(std::exchange(beingDrawn, {}), std::move(image));
+            isDrawn.notify_one();
+        }
+    }
+
+    std::thread worker;
+    std::mutex mutex; // of what follows
+    std::condition_variable isDrawn;
+    std::deque<Order> waiting;
+    QString beingDrawn;
+    QHash<QString, QImage> drawn;
+};
+
+ArtworkAhead& TheArtworkAhead()
+{
+    static ArtworkAhead ahead;
+    return ahead;
+}
+
 } // namespace
+
+QPixmap Artwork(const WantedArtwork& wanted)
+{
+    return Artwork(wanted.name, wanted.size, wanted.pixelRatio, wanted.inPlaceOfDeepLeaf);
+}
+
+void DrawArtworkAhead(const std::vector<WantedArtwork>& wanted)
+{
+    TheArtworkAhead().Draw(wanted);
+}
 
 QPixmap Artwork(const QString& name, QSize size, qreal pixelRatio, const QColor& inPlaceOfDeepLeaf)
 {
     static QHash<QString, QPixmap> kept;
-    const QSize devicePixels = (QSizeF(size) * pixelRatio).toSize();
+    const QSize devicePixels = DevicePixels(size, pixelRatio);
     const QString key = KeyOf(name, devicePixels, pixelRatio, inPlaceOfDeepLeaf);
     const auto found = kept.constFind(key);
     if (found != kept.constEnd())
         return *found;
-    QPixmap pixmap = QPixmap::fromImage(Drawn(name, devicePixels, inPlaceOfDeepLeaf, Qt::transparent));
+    QImage image = TheArtworkAhead().Take(key);
+    if (image.isNull())
+        image = Drawn(name, devicePixels, inPlaceOfDeepLeaf, Qt::transparent);
+    QPixmap pixmap = QPixmap::fromImage(std::move(image));
     pixmap.setDevicePixelRatio(pixelRatio);
     kept.insert(key, pixmap);
     return pixmap;

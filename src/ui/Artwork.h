@@ -7,6 +7,8 @@
 #include <QSize>
 #include <QString>
 
+#include <vector>
+
 #include "core/Picture.h"
 
 namespace sprout {
@@ -16,6 +18,19 @@ namespace sprout {
 /// name: path below art/ without its ending, "buttons/PlayAllBtn"; an unknown name gives an empty pixmap.
 /// inPlaceOfDeepLeaf: takes the place of that one colour, for plates that come in several.
 [[nodiscard]] QPixmap Artwork(const QString& name, QSize size, qreal pixelRatio, const QColor& inPlaceOfDeepLeaf = {});
+
+/// What `Artwork` is asked for.
+struct WantedArtwork {
+    QString name;
+    QSize size;
+    qreal pixelRatio = 1;
+    QColor inPlaceOfDeepLeaf{};
+};
+[[nodiscard]] QPixmap Artwork(const WantedArtwork& wanted);
+
+/// Draws artworks in a thread of its own while the program goes on. `Artwork` takes what is drawn, waits for the one
+/// that is just being drawn, and draws the others itself.
+void DrawArtworkAhead(const std::vector<WantedArtwork>& wanted);
 
 /// A 32 x 32 artwork as a picture of the song, opaque on white.
 [[nodiscard]] Picture ArtworkPicture(const QString& name);

@@ -206,7 +206,7 @@ void BandedForm::keyPressEvent(QKeyEvent* event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        if (!wordButtons.empty())
+        if (!wordButtons.empty() && !event->isAutoRepeat())
             wordButtons.front()->click();
         break;
     case Qt::Key_Left:

@@ -16,7 +16,7 @@ constexpr std::chrono::milliseconds kAllOffAfter{5000};
 
 } // namespace
 
-ButtonScheme::ButtonScheme(QWidget& owner, AllOffTimer timer) : window(owner)
+ButtonScheme::ButtonScheme(QWidget& owner, AllOffTimer timer) : QObject(&owner), window(owner)
 {
     allOffTimer.setObjectName(QStringLiteral("ButtonAllOffTimer"));
     allOffTimer.setParent(this);

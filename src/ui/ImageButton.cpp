@@ -8,7 +8,6 @@
 
 #include <algorithm>
 
-#include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Hints.h"
 #include "ui/Look.h"
@@ -124,23 +123,40 @@ void ImageButton::paintEvent(QPaintEvent* /*event*/)
         PaintFocus(painter);
 }
 
+WantedArtwork ImageButton::PlateArtwork() const
+{
+    const QSize plateSize = plate == Plate::Word ? QSize(height(), height()) : size();
+    return {PlateName(plate, face), plateSize, devicePixelRatioF(), plateColour};
+}
+
+WantedArtwork ImageButton::GlyphArtwork() const
+{
+    if (plate == Plate::Word)
+        return {glyph, QSize(kGlyphSide, kGlyphSide), devicePixelRatioF()};
+    // The tool plates' rim stays free, so that the ring of a button that is on shows all around.
+    const qreal share = plate == Plate::Tool ? kGlyphShareOfTool : 1;
+    return {glyph, (QSizeF(size()) * share).toSize(), devicePixelRatioF()};
+}
+
+std::vector<WantedArtwork> ImageButton::Artworks() const
+{
+    std::vector<WantedArtwork> artworks{PlateArtwork()};
+    if (!glyph.isEmpty())
+        artworks.push_back(GlyphArtwork());
+    return artworks;
+}
+
 void ImageButton::PaintPlate(QPainter& painter) const
 {
-    const QString name = PlateName(plate, face);
-    if (plate == Plate::Word)
-        painter.drawPixmap(
-            0, 0, WordPlate(Artwork(name, QSize(height(), height()), devicePixelRatioF(), plateColour), size()));
-    else
-        painter.drawPixmap(0, 0, Artwork(name, size(), devicePixelRatioF()));
+    const QPixmap picture = Artwork(PlateArtwork());
+    painter.drawPixmap(0, 0, plate == Plate::Word ? WordPlate(picture, size()) : picture);
 }
 
 void ImageButton::PaintGlyph(QPainter& painter) const
 {
-    // The tool plates' rim stays free, so that the ring of a button that is on shows all around.
-    const qreal share = plate == Plate::Tool ? kGlyphShareOfTool : 1;
-    const QSize room = (QSizeF(size()) * share).toSize();
-    painter.drawPixmap((width() - room.width()) / 2, (height() - room.height()) / 2 + Lift(),
-                       Artwork(glyph, room, devicePixelRatioF()));
+    const WantedArtwork artwork = GlyphArtwork();
+    painter.drawPixmap((width() - artwork.size.width()) / 2, (height() - artwork.size.height()) / 2 + Lift(),
+                       Artwork(artwork));
 }
 
 void ImageButton::PaintWord(QPainter& painter) const
@@ -148,8 +164,7 @@ void ImageButton::PaintWord(QPainter& painter) const
     const int wordWidth = fontMetrics().horizontalAdvance(text());
     const int left = (width() - wordWidth - GlyphRoom()) / 2;
     if (!glyph.isEmpty())
-        painter.drawPixmap(left, (height() - kGlyphSide) / 2 + Lift(),
-                           Artwork(glyph, QSize(kGlyphSide, kGlyphSide), devicePixelRatioF()));
+        painter.drawPixmap(left, (height() - kGlyphSide) / 2 + Lift(), Artwork(GlyphArtwork()));
     painter.setPen(Qt::white);
     painter.setFont(font());
     painter.drawText(QRect(left + GlyphRoom(), Lift(), wordWidth + 1, height()), Qt::AlignLeft | Qt::AlignVCenter,
@@ -200,10 +215,10 @@ void ImageButton::mouseReleaseEvent(QMouseEvent* event)
 
 void ImageButton::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat()) // a key held down would answer the question that its first press brings up
+        click();
 }
 
 void ImageButton::focusInEvent(QFocusEvent* event)

@@ -4,6 +4,9 @@
 #include <QAbstractButton>
 #include <QColor>
 
+#include <vector>
+
+#include "ui/Artwork.h"
 #include "ui/ButtonStates.h"
 
 namespace sprout {
@@ -38,6 +41,9 @@ public:
     [[nodiscard]] QString Hint() const { return hint; }
     void SetHint(const QString& text);
 
+    /// The artworks that it is painted with as it is now.
+    [[nodiscard]] std::vector<WantedArtwork> Artworks() const;
+
     [[nodiscard]] QSize sizeHint() const override;
 
 protected:
@@ -54,6 +60,8 @@ private:
     void PaintGlyph(QPainter& painter) const;
     void PaintWord(QPainter& painter) const;
     void PaintFocus(QPainter& painter) const;
+    [[nodiscard]] WantedArtwork PlateArtwork() const;
+    [[nodiscard]] WantedArtwork GlyphArtwork() const;
     [[nodiscard]] int Lift() const;
     [[nodiscard]] int GlyphRoom() const;
 

@@ -180,7 +180,6 @@ InputBoxFrm::InputBoxFrm(QWidget* parent, std::string_view defaultText, std::str
     InputTxt->setText(QtText(defaultText));
     InputTxt->setGeometry({BodyPoint(2 * kSideMargin, boxTop), QSize(innerWidth, kBoxHeight)});
     InputTxt->selectAll();
-    setTabOrder(InputTxt, findChild<ImageButton*>(QStringLiteral("OkBtn")));
     InputTxt->setFocus();
 }
 

@@ -2,10 +2,17 @@
 #include "ui/QtScreen.h"
 
 #include <QApplication>
+#include <QWindow>
 
 #include <utility>
 
 namespace sprout {
+
+namespace {
+
+constexpr int kBlinkMs = 50;
+
+} // namespace
 
 void QtScreen::ShowHourglass()
 {
@@ -19,8 +26,10 @@ void QtScreen::RestorePointer()
 
 void QtScreen::ShowProcessPic()
 {
-    if (++shown == 1 && processPic)
-        processPic->Appear();
+    if (++shown != 1 || !processPic)
+        return;
+    sinceShown.start();
+    processPic->Appear();
 }
 
 void QtScreen::HideProcessPic()
@@ -31,8 +40,19 @@ void QtScreen::HideProcessPic()
 
 void QtScreen::ShowProgress(std::size_t done, std::size_t total)
 {
-    if (processPic)
-        processPic->ShowProgress(done, total);
+    if (!processPic)
+        return;
+    if (!windowHasAppeared && sinceShown.isValid() && sinceShown.hasExpired(kBlinkMs))
+        LetWindowAppear();
+    processPic->ShowProgress(done, total);
+}
+
+void QtScreen::LetWindowAppear()
+{
+    const QWindow* const window = processPic->window()->windowHandle();
+    windowHasAppeared = window && window->isExposed();
+    if (window && !windowHasAppeared)
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void QtScreen::EnableTuneNotFilledTimer()

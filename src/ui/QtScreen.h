@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPointer>
 
 #include <functional>
@@ -12,6 +13,9 @@ namespace sprout {
 
 /// Hourglass, working sign and the blinking of tracks without a tune. Before the main window has given its sign and its
 /// timer, their calls do nothing but are counted.
+///
+/// Work that goes on while the desktop has not yet put the new main window on the screen lets it appear, if the work is
+/// not done in the blink of an eye.
 class QtScreen : public Screen {
 public:
     void ShowHourglass() override;
@@ -27,9 +31,13 @@ public:
     void SetTuneNotFilledTimer(std::function<void()> enableTimer);
 
 private:
+    void LetWindowAppear();
+
     QPointer<ProcessPic> processPic;
     std::function<void()> enableTuneNotFilled;
+    QElapsedTimer sinceShown;
     int shown = 0;
+    bool windowHasAppeared = false;
     bool tuneNotFilledWanted = false;
 };
 

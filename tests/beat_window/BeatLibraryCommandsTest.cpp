@@ -366,6 +366,7 @@ TEST_F(DeleteBeatTest, DeletesThePairAfterAQuestionAndSelectsTheBeatBehind)
     EXPECT_EQ(FilesOfUserBeats(), "b.bmp b.wav original.bmp original.wav ");
     EXPECT_EQ(ListedNames(), "b original ");
     EXPECT_EQ(TextOf("NmLbl"), "b");
+    EXPECT_THAT(IndexText(), testing::HasSubstr("b=2\r\noriginal=3\r\n")) << "the order was written";
     EXPECT_EQ(statusLbl.text(), QString());
 }
 

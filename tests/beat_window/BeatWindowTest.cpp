@@ -166,6 +166,10 @@ TEST_F(BeatWindowTest, ScrollsToTheRowsThatDoNotFit)
     EXPECT_FALSE(Grid().BlinkSelectedTimer().isActive());
     ClickBeat(205);
     EXPECT_EQ(TextOf("NmLbl"), "beat1204");
+    EXPECT_EQ(Grid().TopRow(), 3);
+    window->LoadBeatFiles();
+    EXPECT_EQ(Grid().TopRow(), 1) << "as after every command";
+    EXPECT_EQ(Grid().VScroll1().value(), 1);
 }
 
 TEST_F(BeatWindowTest, IsAsHighAsItsBeatsAskForAndTheScreenAllows)
@@ -314,8 +318,8 @@ TEST_F(BeatWindowTest, TellsWhatEachControlDoes)
         {"AddBtn", "Adds more beats with your wav file"},
         {"RenameBtn", "Renames the beat"},
         {"DeleteBtn", "This button will deletes the selected beat"},
-        {"CancelBtn", ""},
-        {"HelpBtn", ""},
+        {"CancelBtn", "Cancel button, use it to leave the beat as it was"},
+        {"HelpBtn", "Help button, use it to see help"},
         {"NoteLbl", ""}};
     for (const auto& [name, hint] : hints) {
         auto& control = Control(name);
@@ -335,6 +339,9 @@ TEST_F(BeatWindowTest, NamesEveryControlForAScreenReader)
          {"ShowAllPic", "VScroll1", "OkBtn", "CancelBtn", "HelpBtn", "TestPlayBtn", "AddBtn", "RenameBtn", "DeleteBtn"})
         EXPECT_FALSE(Control(name).accessibleName().isEmpty()) << name;
     EXPECT_EQ(Control("ChoosenPic").accessibleName(), QStringLiteral("a"));
+    std::filesystem::remove(Shared().UserBeats / "a.wav");
+    window->LoadBeatFiles();
+    EXPECT_EQ(Control("ChoosenPic").accessibleName(), QStringLiteral("[none]"));
 }
 
 TEST_F(BeatWindowTest, OpensTheHelp)

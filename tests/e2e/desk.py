@@ -266,7 +266,7 @@ class Desk:
         return os.path.join(self.program_folder, "sprout-painter.ini")
 
     def environment(self, **changes):
-        environment = {**self.sound.player_environment, "DISPLAY": self.screen.display, "QT_QPA_PLATFORM": "xcb",
+        environment = {**self.sound.environment, "DISPLAY": self.screen.display, "QT_QPA_PLATFORM": "xcb",
                        "XDG_CONFIG_HOME": os.path.join(self.home, ".config"),
                        "XDG_DATA_HOME": os.path.join(self.home, ".local"),
                        "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "TMPDIR": self.temp, "LANG": "C.UTF-8",

@@ -6,11 +6,11 @@
 #include <string>
 #include <thread>
 
+#include "app/sound/MachineSound.h"
 #include "service/Messages.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
-#include "service/sdl/SdlSoundOutput.h"
 #include "sound/PlayMod.h"
 #include "sound/WavOperations.h"
 
@@ -64,7 +64,7 @@ int main(int argc, char** argv)
         return 2;
     sprout::PrintedMessages messages;
     sprout::PosixFiles files;
-    sprout::SdlSoundOutput sound;
+    sprout::MachineSound sound;
     sprout::NoDisplay display;
     sprout::Services& services = sprout::TheServices();
     services.messages = &messages;

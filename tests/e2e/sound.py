@@ -34,7 +34,7 @@ def read_wave(path):
 
 
 class SoundServer:
-    """A server of the test's own in a folder. Its environment is what its clients need; a player takes its own."""
+    """A server of the test's own in a folder. Its environment is what its clients need."""
 
     def __init__(self, folder, processes):
         self.processes = processes
@@ -45,16 +45,12 @@ class SoundServer:
         os.makedirs(home, exist_ok=True)
         os.makedirs(run, mode=0o700, exist_ok=True)
         self.environment = {**os.environ, "HOME": home, "XDG_RUNTIME_DIR": run, "PULSE_RUNTIME_PATH": run,
-                            "PULSE_STATE_PATH": home, "PULSE_SERVER": "unix:" + self.socket,
-                            "SDL_AUDIODRIVER": "pulseaudio"}
+                            "PULSE_STATE_PATH": home, "PULSE_SERVER": "unix:" + self.socket}
         leaks = os.path.join(folder, "leaks")
         with open(leaks, "w", encoding="utf-8") as file:
             file.write("leak:libpulse\nleak:libSDL2\nleak:libdbus-1\n")
         # The libraries' own leaks are not the player's, in a build with a sanitizer.
         self.environment["LSAN_OPTIONS"] = f"suppressions={leaks}:print_suppressions=0"
-        # A busy machine must not make gaps in the recording. 0 leaves the player its own latency.
-        latency = os.environ.get("PULSE_LATENCY_MSEC", "400")
-        self.player_environment = {**self.environment, "PULSE_LATENCY_MSEC": latency}
         self.log = open(os.path.join(folder, "log"), "a", encoding="utf-8")
         self.recordings = 0
 

@@ -422,6 +422,29 @@ TEST_F(MainFrmTest, StaysWhereTheSaveQuestionIsCancelled)
     EXPECT_EQ(Song().SongTitle, "Untitled");
 }
 
+TEST_F(MainFrmTest, ComesUpWithTheSaveQuestionWhereItIsClosedMinimized)
+{
+    Song().SongChanged = true;
+    window->showMinimized();
+    WithNextForm([this](BandedForm& form) {
+        EXPECT_FALSE(window->isMinimized());
+        Click(form, "Cancel_Btn");
+    });
+    window->close();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_FALSE(window->isMinimized());
+}
+
+TEST_F(MainFrmTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
+{
+    // Before it is shown: where the pointer rests on a button, the timer runs then.
+    window.reset();
+    window = std::make_unique<MainFrm>(transport);
+    const auto* timer = window->findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"));
+    EXPECT_FALSE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 5000);
+}
+
 TEST_F(MainFrmTest, ClosesWithoutSavingWhereTheSaveQuestionIsAnsweredNo)
 {
     Song().SongChanged = true;
@@ -570,6 +593,20 @@ TEST_F(MainFrmTest, ReachesEveryVisibleButtonOfItsBarByTab)
           "DemoBtn",     "CloseImgBtn",    "MaximizeImgBtn",  "MinimizeImgBtn", "TempoPrtImg", "TrackTitlePic",
           "TrackAddBtn", "TrackAddRecBtn", "TrackPic"})
         EXPECT_TRUE(reached.count(QString::fromLatin1(name))) << name;
+}
+
+TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTracksAndToItsOwnButtonsLast)
+{
+    QStringList reached;
+    Control("PlayAllBtn").setFocus();
+    do {
+        reached << window->focusWidget()->objectName();
+        QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    } while (window->focusWidget() != &Control("PlayAllBtn") && reached.size() < 60);
+    EXPECT_EQ(reached.join(QLatin1Char(' ')).toStdString(),
+              "PlayAllBtn PlayStopBtn BrushBtn EraserBtn PlayToolBtn NewBtn OpenBtn SaveBtn SongTitleChgBtn EmailBtn "
+              "HelpBtn AboutBtn DemoBtn TempoPrtImg Label5 Label1 TrackTitlePic TrackAddBtn TrackAddRecBtn TrackPic "
+              "CloseImgBtn MaximizeImgBtn MinimizeImgBtn");
 }
 
 TEST_F(MainFrmTest, LivesWithASongOfNoTracks)

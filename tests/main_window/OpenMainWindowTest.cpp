@@ -2,6 +2,7 @@
 #include "main_window/OpenMainWindow.h"
 
 #include "main_window/MainWindowTest.h"
+#include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
 namespace {
@@ -27,6 +28,16 @@ TEST_F(OpenMainWindowTest, TellsWithoutABoxThatThereIsNoSoundDevice)
     OpenMainWindow(*window);
     EXPECT_EQ(TextOf("SoundStatusLbl"), "Device Failed:");
     EXPECT_TRUE(fake.messages.shown.empty());
+}
+
+TEST_F(OpenMainWindowTest, HasTheTunesOfTheUserReady)
+{
+    Shared().TuneClipboard = Tune();
+    Shared().TuneClipboard.Name = "Walk";
+    TunOpnSavClass(Flush::No).Save_Tune(Shared().UserTunes / "Walk.TqTun");
+    OpenMainWindow(*window);
+    ASSERT_EQ(Shared().TuneTableCount, 1);
+    EXPECT_EQ(At(Shared().TuneTable, 1).Name, "Walk");
 }
 
 TEST_F(OpenMainWindowTest, ReadsTheOptionsThatAUserSetsByHand)

@@ -43,11 +43,12 @@ protected:
     }
 
     /// Answers the title form that comes next.
-    static void ChangeNextTitle(const char* name, const char* author, const char* button = "OkBtn")
+    void ChangeNextTitle(const char* name, const char* author, const char* button = "OkBtn") const
     {
-        WithNextForm([name, author, button](BandedForm& form) {
+        WithNextForm([this, name, author, button](BandedForm& form) {
             EXPECT_EQ(form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(),
                       QStringLiteral(" Change Song Title"));
+            EXPECT_EQ(TextOf("StatusLbl"), "");
             form.findChild<QLineEdit*>(QStringLiteral("NameTxt"))->setText(QString::fromLatin1(name));
             form.findChild<QLineEdit*>(QStringLiteral("CreatedTxt"))->setText(QString::fromLatin1(author));
             Click(form, button);
@@ -201,6 +202,34 @@ TEST_F(SongCommandsTest, OpenEndsWhereTheSaveQuestionIsCancelled)
     EXPECT_TRUE(Song().SongChanged);
 }
 
+TEST_F(SongCommandsTest, OpenSavesAfterYesAndTheSongIsUnchangedThenThoughNoneIsChosen)
+{
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& question) {
+        WithNextForm([](BandedForm& chooser) { Click(chooser, "CancelBtn"); });
+        Click(question, "YesBtn");
+    });
+    ClickButton("OpenBtn");
+    EXPECT_FALSE(Song().SongChanged);
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+    EXPECT_TRUE(std::filesystem::exists(SongPath("Untitled")));
+}
+
+TEST_F(SongCommandsTest, OpenTellsOfAFullDiskAndKeepsTheSong)
+{
+    Song().SongChanged = true;
+    TheServices().files = &fullDisk;
+    ShownMessage message;
+    WithNextForm([&message](BandedForm& question) {
+        NoteNextMessage(message);
+        Click(question, "YesBtn");
+    });
+    ClickButton("OpenBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Error Opening file\r\nThere is no room left on the disk."));
+    EXPECT_EQ(message.caption, QStringLiteral(" Tonquill Sprout Painter"));
+    EXPECT_TRUE(Song().SongChanged);
+}
+
 TEST_F(SongCommandsTest, OpenTellsThatASongHasGoneMeanwhile)
 {
     PutSong("Rain", kQuickTempo);
@@ -219,11 +248,16 @@ TEST_F(SongCommandsTest, OpenTellsThatASongHasGoneMeanwhile)
 TEST_F(SongCommandsTest, OpenLivesWithABrokenFile)
 {
     WriteBytes(SongPath("Broken"), "This is no song.");
-    ChooseNextSong("Broken");
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& question) {
+        ChooseNextSong("Broken");
+        Click(question, "NoBtn");
+    });
     ClickButton("OpenBtn");
     EXPECT_FALSE(fake.messages.shown.empty());
     EXPECT_EQ(Song().TrackCount, 0);
     EXPECT_EQ(TextOf("SngTitleLbl"), "Broken");
+    EXPECT_FALSE(Song().SongChanged);
     window->grab();
     ClickButton("NewBtn");
     EXPECT_EQ(Song().TrackCount, 2);
@@ -283,7 +317,11 @@ TEST_F(SongCommandsTest, SaveReplacesAFileWhoseNameDiffersInCaseOnly)
 TEST_F(SongCommandsTest, SaveDoesNothingAfterCancel)
 {
     Song().SongChanged = true;
-    WithNextForm([](BandedForm& form) { Click(form, "CancelBtn"); });
+    ShowHint(QStringLiteral("Before"));
+    WithNextForm([this](BandedForm& form) {
+        EXPECT_EQ(TextOf("StatusLbl"), "");
+        Click(form, "CancelBtn");
+    });
     ClickButton("SaveBtn");
     EXPECT_TRUE(Song().SongChanged);
     EXPECT_FALSE(std::filesystem::exists(SongPath("Untitled")));

@@ -6,6 +6,7 @@
 
 #include "main_window/CanvasFixture.h"
 #include "main_window/rules/TrackPointer.h"
+#include "ui/ModalSteps.h"
 
 namespace sprout {
 namespace {
@@ -255,6 +256,13 @@ TEST_F(TrackCanvasInputTest, ArrowKeysScrollAndTheSpaceBarPlays)
     EXPECT_EQ(canvas->View().FirstCell, 1);
     EXPECT_THAT(asked, IsEmpty());
     Key(Qt::Key_Space);
+    EXPECT_THAT(asked, ElementsAre("PlayOrStop"));
+}
+
+TEST_F(TrackCanvasInputTest, ASpaceBarHeldDownPlaysOnce)
+{
+    Key(Qt::Key_Space);
+    RepeatKey(*canvas, Qt::Key_Space);
     EXPECT_THAT(asked, ElementsAre("PlayOrStop"));
 }
 

@@ -206,6 +206,7 @@ TEST_F(TrackTitlePicTest, TheHeadingsExplainThemselvesWhenClicked)
     expectMessage("Label5", "Click on the Tune button below this.", [this] { Click(window, "Label5"); });
     expectMessage("Label5", "Click on the Tune button below this.",
                   [this] { QTest::keyClick(&Part("Label5"), Qt::Key_Return); });
+    RepeatKey(Part("Label5"), Qt::Key_Return); // brings up no message that this test would have to close
     // Above the columns that they name.
     EXPECT_LT(Part("Label1").geometry().bottom(), 20);
     EXPECT_TRUE(Part("Label1").geometry().contains(QPoint(118, 10)));
@@ -235,6 +236,15 @@ TEST_F(TrackTitlePicTest, KeysChooseARowAndItsButtonAndPressIt)
     QTest::keyClick(&Strip(), Qt::Key_Return); // shows it again first
     EXPECT_THAT(Floating(), ElementsAre("TrackTuneBtn"));
     EXPECT_EQ(asked.size(), 2U);
+}
+
+TEST_F(TrackTitlePicTest, AKeyHeldDownPressesTheChosenButtonOnce)
+{
+    Strip().setFocus(Qt::TabFocusReason);
+    QTest::keyPress(&Strip(), Qt::Key_Return);
+    RepeatKey(Strip(), Qt::Key_Return);
+    RepeatKey(Strip(), Qt::Key_Space);
+    EXPECT_THAT(asked, ElementsAre("TrackPlayBtn"));
 }
 
 TEST_F(TrackTitlePicTest, AChosenRowIsScrolledIntoViewAndFramed)

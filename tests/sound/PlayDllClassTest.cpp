@@ -44,6 +44,9 @@ TEST_F(PlayDllTest, DxObjWith0StopsAndReleasesTheDevice)
     EXPECT_EQ(driver, 0);
     EXPECT_EQ(sound.open, 0);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    play.PlayState = PlayState::Paused; // also where there is none to release
+    Player().DxObj(driver);
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
 }
 
 TEST_F(PlayDllTest, TheBufferIsAWholeWaveFile)

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/OpenTuneWindow.h"
 
+#include <QComboBox>
+#include <QTimer>
+
 #include "tune_window/TuneWindowTest.h"
 
 namespace sprout {
@@ -96,6 +99,31 @@ TEST_F(OpenTuneWindowTest, OneWindowLivesForAllOpenings)
     Open([&second](TuneFrm2& window) { second = &window; });
     EXPECT_TRUE(first);
     EXPECT_EQ(first, second);
+}
+
+TEST_F(OpenTuneWindowTest, WithoutTunesEachOpeningShowsTheTrackInTheEditor)
+{
+    Open([](TuneFrm2& window) { EXPECT_TRUE(window.findChild<QWidget*>(QStringLiteral("Step2"))); });
+    tune = Tune();
+    Open([](TuneFrm2& window) {
+        EXPECT_EQ(PartOf<QComboBox>(window, "StepNosCmb").currentText(), QStringLiteral("16 Steps"));
+        EXPECT_TRUE(window.findChild<QWidget*>(QStringLiteral("Step16")));
+    });
+}
+
+TEST_F(OpenTuneWindowTest, ThePlayMarksEndWithTheWindow)
+{
+    MakeTuneFile(PlainTune("Rain", "Ann", 44100));
+    Open([this](TuneFrm2& window) {
+        Click(window, "TestPlayBtn");
+        services.sound.place = {1, true};
+        ASSERT_TRUE(QMetaObject::invokeMethod(&PartOf<QTimer>(window, "PlayPosTimer"), "timeout"));
+        EXPECT_FALSE(PartOf(window, "PlayingStepImg").isHidden());
+        Click(window, "OkBtn");
+    });
+    EXPECT_EQ(PlayShared().PlayState, PlayState::Playing);
+    EXPECT_FALSE(TheWindow()->findChild<QTimer*>(QStringLiteral("PlayPosTimer"))->isActive());
+    EXPECT_TRUE(PartOf(*TheWindow(), "PlayingStepImg").isHidden());
 }
 
 TEST_F(OpenTuneWindowTest, TheTableIsReadOnceAndNotAtEachOpening)

@@ -2,6 +2,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QContextMenuEvent>
+#include <QKeyEvent>
 
 #include <memory>
 
@@ -56,6 +57,19 @@ TEST_F(StepEditorKeyboardTest, StepsThatAreAddedAreReachedInTheirOrder)
     EXPECT_EQ(editor.findChild<QWidget*>(QStringLiteral("Step3")), nullptr);
 }
 
+TEST_F(StepEditorKeyboardTest, ATuneOfAnyLengthHasNoMoreThan256StepsForTheKeyboard)
+{
+    ShowTuneOf(5000);
+    EXPECT_TRUE(editor.findChild<QWidget*>(QStringLiteral("Step256")));
+    EXPECT_FALSE(editor.findChild<QWidget*>(QStringLiteral("Step257")));
+    Press(256, Qt::Key_Right);
+    Scroll().setValue(Scroll().maximum());
+    ClickAt(QPoint(StepLeft(5000, StepsLeftAt(Scroll().value())) + 10, 141 + 3));
+    EXPECT_EQ(tune.Steps[5000].PitchShift, 11);
+    ShowTuneOf(3);
+    EXPECT_FALSE(editor.findChild<QWidget*>(QStringLiteral("Step4")));
+}
+
 TEST_F(StepEditorKeyboardTest, LeftAndRightWalkTheSteps)
 {
     StepButton(2).setFocus();
@@ -94,6 +108,24 @@ TEST_F(StepEditorKeyboardTest, SpaceTogglesTheLampAndKeepsTheStepInView)
     EXPECT_EQ(editorDisplay.tunesShown, 1);
     EXPECT_EQ(FocusedStep(), 60);
     EXPECT_EQ(Scroll().value(), scrolled);
+}
+
+TEST_F(StepEditorKeyboardTest, AKeyThatIsHeldDownEditsOnceAndOnlyArrowsRepeat)
+{
+    const auto hold = [this](Qt::Key key) {
+        for (const bool again : {false, true, true}) {
+            QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QString(), again);
+            QApplication::sendEvent(&StepButton(1), &press);
+        }
+    };
+    hold(Qt::Key_Space);
+    EXPECT_EQ(tune.Steps[1].OnPos, 0);
+    EXPECT_EQ(edits, 1);
+    hold(Qt::Key_Delete);
+    EXPECT_EQ(tune.Steps[1].StepBeat.Name, "B2");
+    EXPECT_EQ(edits, 2);
+    hold(Qt::Key_Up);
+    EXPECT_EQ(tune.Steps[1].PitchShift, 3);
 }
 
 TEST_F(StepEditorKeyboardTest, EnterOpensTheChooserOfAnOnStep)

@@ -238,6 +238,13 @@ TEST_F(PointerTest, ShowsTheHintOfWhatItRestsOn)
     EXPECT_EQ(Surface().toolTip(), QString());
 }
 
+TEST_F(PointerTest, ShowsANameThatLooksLikeRichTextAsItIsWritten)
+{
+    tune.Steps[1].StepBeat.Name = "<b>Drum</b>";
+    MoveTo(In(1, 100));
+    EXPECT_EQ(Surface().toolTip(), QStringLiteral("<p>&lt;b&gt;Drum&lt;/b&gt;</p>"));
+}
+
 TEST_F(PointerTest, LosesItsToolTipWithTheNextDrawing)
 {
     MoveTo(In(1, 100));
@@ -287,6 +294,9 @@ TEST_F(BarTest, IsDrawnOutByItsEndAndKeepsWhatIsRendered)
     EXPECT_EQ(tune.Steps[1].Duration, 125);
     MoveTo(HandleOf(bar) + QPoint(300, 0));
     EXPECT_EQ(tune.Steps[1].Duration, 200);
+    MoveTo(HandleOf(bar) + QPoint(310, 0));
+    MoveTo(HandleOf(bar) + QPoint(295, 0));
+    EXPECT_EQ(tune.Steps[1].Duration, 175) << "counted from where it last changed";
     MoveTo(QPoint(-500, 0));
     EXPECT_EQ(tune.Steps[1].Duration, 0);
     QTest::mouseRelease(&Surface(), Qt::LeftButton, Qt::NoModifier, QPoint(0, 0));
@@ -295,6 +305,22 @@ TEST_F(BarTest, IsDrawnOutByItsEndAndKeepsWhatIsRendered)
     EXPECT_EQ(edits, 0);
     EXPECT_TRUE(tune.Steps[1].StepWaveValid);
     EXPECT_TRUE(tune.TuneWaveValid);
+}
+
+TEST_F(BarTest, IsLetGoWhenTheReleaseWentElsewhere)
+{
+    const auto send = [this](QEvent::Type type, QPoint place, Qt::MouseButton held) {
+        QMouseEvent event(type, place, Surface().mapToGlobal(place), Qt::LeftButton, held, Qt::NoModifier);
+        QApplication::sendEvent(&Surface(), &event);
+    };
+    const QPoint handle = HandleOf(Surface().DurationBars()[1]);
+    send(QEvent::MouseMove, handle, Qt::NoButton);
+    ASSERT_FALSE(Handle().isHidden());
+    send(QEvent::MouseButtonPress, handle, Qt::LeftButton);
+    send(QEvent::MouseMove, handle + QPoint(5, 0), Qt::NoButton);
+    EXPECT_EQ(tune.Steps[1].Duration, 100) << "no button is down any more";
+    ClickAt(In(2, 100));
+    EXPECT_EQ(chooserGot.size(), 1U);
 }
 
 TEST_F(BarTest, CanBeDrawnOutFromADurationOf0)
@@ -418,6 +444,14 @@ TEST_F(StepNosCmbTest, RepeatsThePatternOfACycleThatGrowsAndPlays)
     EXPECT_EQ(edits, 1);
     EXPECT_EQ(Played(), tune.TuneWave.Length + kLeadInFrames);
     EXPECT_EQ(StepNos().currentText(), QStringLiteral("8 Steps"));
+}
+
+TEST_F(StepNosCmbTest, SetsTheScrollToTheNewNumberAlsoWhereThePlayDoesNotBegin)
+{
+    editorDisplay.editor = nullptr;
+    PickSteps(StepNos(), 3);
+    EXPECT_EQ(Scroll().maximum(), 64 * 35 - 592);
+    EXPECT_EQ(Surface().DurationBars().size(), 65U);
 }
 
 TEST_F(StepNosCmbTest, AsksForAnyNumberUntilItIsOne)
@@ -601,6 +635,17 @@ TEST_F(PlayMarksTest, GoBeforeAStepIsPlayed)
     EXPECT_TRUE(Find<QWidget>("PlayingStepImg").isHidden());
     EXPECT_FALSE(Find<QTimer>("PlayPosTimer").isActive());
     EXPECT_TRUE(sound.place.Playing) << "the step's own sound";
+}
+
+TEST_F(PlayMarksTest, GoBeforeABeatIsPlayed)
+{
+    editor.PlayCurrentTune(0);
+    sound.place = {kCellFrames, true};
+    Tick(editor);
+    ClickAt(In(1, 100), Qt::RightButton);
+    EXPECT_EQ(editorDisplay.status, "Playing Step");
+    EXPECT_TRUE(Find<QWidget>("PlayingStepImg").isHidden());
+    EXPECT_FALSE(Find<QTimer>("PlayPosTimer").isActive());
 }
 
 TEST_F(PlayMarksTest, AreNotShownWithoutSteps)

@@ -50,7 +50,24 @@ TEST_F(TunFramPicTest, DrawsLampsForAllStepsAndKeysForOnSteps)
         const bool isOn = step != 3;
         EXPECT_EQ(drawn.pixelColor(x + 15, 24 + 8), (isOn ? on : off).pixelColor(15, 8)) << step;
         for (const QPoint place : {QPoint(24, 3), QPoint(5, 9), QPoint(24, 40)})
-            EXPECT_EQ(drawn.pixelColor(x + place.x(), 141 + place.y()) == octave.pixelColor(place), isOn) << step;
+            for (const int top : {141, 213})
+                EXPECT_EQ(drawn.pixelColor(x + place.x(), top + place.y()) == octave.pixelColor(place), isOn) << step;
+    }
+}
+
+TEST_F(TunFramPicTest, PrintsTheNumberOfEveryStepBelowItsLamp)
+{
+    ShowTuneOf(64);
+    Scroll().setValue(Scroll().maximum());
+    const QImage drawn = Drawn();
+    for (const std::int32_t step : {50, 64}) {
+        const QRect place(StepLeft(step, StepsLeftAt(Scroll().value())), kNumberTop, 30, 14);
+        int inked = 0;
+        for (int y = place.top(); y <= place.bottom(); ++y)
+            for (int x = place.left(); x <= place.right(); ++x)
+                inked += drawn.pixelColor(x, y).value() < 128 ? 1 : 0;
+        EXPECT_GT(inked, 15) << step;
+        EXPECT_LT(inked, 150) << step;
     }
 }
 
@@ -60,10 +77,21 @@ TEST_F(TunFramPicTest, LaysTheStripFromItsLeftEndToTheLastStep)
     const QColor plank = ArtOf("PitchOnOffMiddle", QSize(35, 38)).pixelColor(20, 10);
     EXPECT_EQ(drawn.pixelColor(8 + 33, 19 + 10), plank);
     EXPECT_EQ(drawn.pixelColor(8 + 4 * 35 - 1, 19 + 10), plank);
+    const QColor end = ArtOf("PitchOnOffRight", QSize(4, 38)).pixelColor(2, 10);
+    EXPECT_NE(end, kPaper);
+    EXPECT_EQ(drawn.pixelColor(8 + 4 * 35 + 2, 19 + 10), end);
     EXPECT_EQ(drawn.pixelColor(8 + 4 * 35 + 4, 19 + 10), kPaper);
     EXPECT_EQ(drawn.pixelColor(4, 19 + 10), kPaper);
     EXPECT_NE(drawn.pixelColor(5, 19 + 10), kPaper);
     EXPECT_EQ(drawn.pixelColor(8 + 33, 18), kPaper);
+}
+
+TEST_F(TunFramPicTest, KeepsTheLeftEndOfTheStripWhereItIsWhenTheStepsAreScrolled)
+{
+    Scroll().setValue(3);
+    const QImage drawn = Drawn();
+    EXPECT_EQ(drawn.pixelColor(4, 19 + 10), kPaper);
+    EXPECT_NE(drawn.pixelColor(5, 19 + 10), kPaper);
 }
 
 TEST_F(TunFramPicTest, DrawsTheIconInARaisedFrame)

@@ -235,6 +235,10 @@ TEST_F(TuneFrm2Test, ATuneIsKeptOnAnyAnswerButYes)
 {
     MakeTuneFiles(2);
     Open([this](TuneFrm2& window) {
+        WithNextForm([](BandedForm& form) { form.reject(); });
+        MenuItem(window, 4).trigger();
+        EXPECT_EQ(statusLbl.text(), QString());
+        EXPECT_EQ(GridOf(window).Count(), 2);
         AnswerNext("NoBtn");
         MenuItem(window, 4).trigger();
         EXPECT_EQ(GridOf(window).Count(), 2);
@@ -265,6 +269,9 @@ TEST_F(TuneFrm2Test, AnOriginalCanBeDeletedWhereOriginalsMayBeEdited)
         AnswerNext("YesBtn");
         MenuItem(window, 4).trigger();
         EXPECT_EQ(TextOf(window, "TuneNameLbl"), "[none]");
+        EXPECT_EQ(TextOf(window, "CreatedByLbl"), "");
+        EXPECT_TRUE(PartOf<TunePicture>(window, "TunePic").Picture().IsNothing());
+        EXPECT_EQ(GridOf(window).BlinkSelectImg().pos(), QPoint(-47, -47));
     });
     EXPECT_FALSE(fs::exists(File("Lumo.TqTun")));
 }
@@ -314,6 +321,7 @@ TEST_F(TuneFrm2Test, ANewTuneIsSilentAndStandsForNoPicture)
         EXPECT_TRUE(SamePicture(current.Picture, Shared().NewTunePicture));
         EXPECT_EQ(current.StepCount, 16);
         EXPECT_FALSE(current.TuneWaveValid);
+        EXPECT_TRUE(window.findChild<QWidget*>(QStringLiteral("Step16"))) << "the editor shows it";
         Click(window, "OkBtn");
     });
     EXPECT_EQ(tune.Name, "New");

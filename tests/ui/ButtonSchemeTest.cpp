@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "ui/Hints.h"
+#include "ui/ModalSteps.h"
 
 namespace sprout {
 namespace {
@@ -93,6 +94,23 @@ TEST_F(ButtonSchemeTest, EnterAndSpaceClickTheButtonWithTheFocus)
     QTest::keyClick(&play, Qt::Key_Return);
     QTest::keyClick(&play, Qt::Key_Space);
     EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(ButtonSchemeTest, AKeyHeldDownClicksOnce)
+{
+    QTest::keyPress(&play, Qt::Key_Return);
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space})
+        RepeatKey(play, key);
+    EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(ButtonSchemeTest, AReleaseStartsTheFiveSeconds)
+{
+    QTest::mousePress(&play, Qt::LeftButton);
+    scheme.ButtonHover(stop); // counts for nothing while a button is held
+    EXPECT_FALSE(Timer().isActive());
+    QTest::mouseRelease(&play, Qt::LeftButton);
+    EXPECT_TRUE(Timer().isActive());
 }
 
 TEST_F(ButtonSchemeTest, TheButtonWithTheFocusLooksDifferent)

@@ -33,7 +33,7 @@ TEST(ShowMessage, UsesTheFormOfOneNoteForABlankSecondLine)
 {
     Seen seen;
     ClickNext(seen, "OkBtn");
-    ShowMessage("Song not selected.", "  ", "");
+    ShowMessage("Song not selected.", "  ", " ");
     EXPECT_EQ(seen.form, QStringLiteral("Msg1BtnFrm"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Tonquill Sprout Painter"));
 }
@@ -77,6 +77,27 @@ TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
     }
 }
 
+TEST(AskYesNo, IsNotAnsweredByAnEnterHeldDownSinceBefore)
+{
+    WithNextForm([](BandedForm& form) {
+        for (QWidget* target : {form.focusWidget(), static_cast<QWidget*>(&form)}) {
+            RepeatKey(*target, Qt::Key_Return);
+            EXPECT_TRUE(form.isVisible()) << target->objectName().toStdString();
+        }
+        Click(form, "NoBtn");
+    });
+    EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+}
+
+TEST(AskYesNo, HasTheTimerOfItsRaisedButtonsOnFromTheStart)
+{
+    WithNextForm([](BandedForm& form) {
+        EXPECT_TRUE(form.findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"))->isActive());
+        Click(form, "NoBtn");
+    });
+    EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+}
+
 TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
 {
     WithNextForm([](BandedForm& form) {
@@ -93,6 +114,20 @@ TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
         QTest::keyClick(form.findChild<QWidget*>(QStringLiteral("InputTxt")), Qt::Key_Return);
     });
     EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "Zumi");
+}
+
+TEST(AskText, GoesFromTheBoxToOkAndCancelByTab)
+{
+    QStringList reached;
+    WithNextForm([&reached](BandedForm& form) {
+        for (int i = 0; i < 4; ++i) {
+            reached << form.focusWidget()->objectName();
+            QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
+        }
+        Click(form, "CancelBtn");
+    });
+    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "");
+    EXPECT_EQ(reached.join(QLatin1Char(' ')), QStringLiteral("InputTxt OkBtn CancelBtn InputTxt"));
 }
 
 TEST(ShowMessage, StacksOnAnotherModalForm)

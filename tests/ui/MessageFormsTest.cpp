@@ -132,8 +132,8 @@ protected:
 TEST_F(SongTitleFrmTest, PutsAnUnderscoreInPlaceOfWhatNoFileNameMayHold)
 {
     NameTxt().clear();
-    QTest::keyClicks(&NameTxt(), QStringLiteral("a/b.c|d\"e,f"));
-    EXPECT_EQ(form.Name(), "a_b_c_d_e,f");
+    QTest::keyClicks(&NameTxt(), QStringLiteral("a/b.c|d\"e,f\\g:h*i?j<k>l"));
+    EXPECT_EQ(form.Name(), "a_b_c_d_e,f_g_h_i_j_k_l");
 }
 
 TEST_F(SongTitleFrmTest, KeepsTheCaretWhereItWas)
@@ -148,9 +148,13 @@ TEST_F(SongTitleFrmTest, KeepsTheCaretWhereItWas)
 TEST_F(SongTitleFrmTest, StaysOpenWithoutATitle)
 {
     NameTxt().setText(QStringLiteral("  "));
+    QLabel statusLbl;
+    SetStatusLbl(&statusLbl);
+    ShowHint(QStringLiteral("Before"));
     QString message;
-    WithNextForm([&message](BandedForm& shown) {
-        WithNextForm([&message](BandedForm& box) {
+    WithNextForm([&](BandedForm& shown) {
+        WithNextForm([&](BandedForm& box) {
+            EXPECT_EQ(statusLbl.text(), QString());
             message = box.findChild<QLabel*>(QStringLiteral("NoteLbl"))->text();
             Click(box, "OkBtn");
         });

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QTest>
 #include <QTimer>
 
@@ -19,6 +20,13 @@ inline void WithNextForm(std::function<void(BandedForm&)> steps)
         if (form)
             steps(*form);
     });
+}
+
+/// Sends what a key that is held down sends again and again.
+inline void RepeatKey(QWidget& control, Qt::Key key)
+{
+    QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QApplication::sendEvent(&control, &again);
 }
 
 /// Clicks a control of a window by its name.

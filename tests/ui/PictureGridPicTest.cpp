@@ -96,6 +96,16 @@ TEST_F(PictureGridPicTest, PutsTheSelectionFrameInPlaceOfTheBorder)
     EXPECT_EQ(PixelAt(45, 60), QColor(0x00, 0xA0, 0x00));
 }
 
+TEST_F(PictureGridPicTest, BeginsWithTheFirstFrameAtEveryChoice)
+{
+    Choose(3);
+    grid.Blink();
+    grid.Blink();
+    ASSERT_EQ(grid.BlinkSelectImg().Phase(), 1);
+    Choose(4);
+    EXPECT_EQ(grid.BlinkSelectImg().Phase(), 0);
+}
+
 TEST_F(PictureGridPicTest, ShowsTheTwoFramesInTurn)
 {
     Choose(1);
@@ -187,6 +197,15 @@ TEST_F(PictureGridPicTest, NamesThePictureUnderThePointer)
     QTest::mouseMove(&grid, QPoint(40, 10));
     EXPECT_EQ(grid.toolTip(), QString());
     EXPECT_EQ(hovered.last().at(0).toInt(), 0);
+}
+
+TEST_F(PictureGridPicTest, ShowsANameThatLooksLikeRichTextAsItIsWritten)
+{
+    grid.SetEntries({{OneColour(kGreen), "<i>one</i>", true}, {OneColour(kGreen), "<b>two</b> & 3 < 4", true}});
+    Choose(1);
+    EXPECT_EQ(grid.BlinkSelectImg().toolTip(), QStringLiteral("<p>&lt;i&gt;one&lt;/i&gt;</p>"));
+    QTest::mouseMove(&grid, QPoint(50, 10));
+    EXPECT_EQ(grid.toolTip(), QStringLiteral("<p>&lt;b&gt;two&lt;/b&gt; &amp; 3 &lt; 4</p>"));
 }
 
 TEST_F(PictureGridPicTest, PressesTheNeighbourWithAnArrowKey)

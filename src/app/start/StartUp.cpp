@@ -48,17 +48,17 @@ void MakeFolderIfMissing(const fs::path& folder)
 
 void WriteProgramFacts()
 {
-    PutSetting(kGeneral, "InstalledPath", PathText(Shared().ProgramFolder));
-    PutSetting(kGeneral, "FreeHardDisk", std::to_string(FreeDiskBytes()));
+    PutSettings(kGeneral, {{"InstalledPath", PathText(Shared().ProgramFolder)},
+                           {"FreeHardDisk", std::to_string(FreeDiskBytes())}});
 }
 
 void ProbeMemory()
 {
     const MemoryStatus memory = TheServices().machine->GlobalMemoryStatus();
-    PutSetting(kGeneral, "PhyMemorySz", std::to_string(memory.AvailableBytes));
-    PutSetting(kGeneral, "PhyMemoryLoad", std::to_string(memory.LoadPercent));
+    PutSettings(kGeneral, {{"PhyMemorySz", std::to_string(memory.AvailableBytes)},
+                           {"PhyMemoryLoad", std::to_string(memory.LoadPercent)},
+                           {"TotalPhyMemory", std::to_string(memory.TotalBytes)}});
     Shared().SoundMemoryLimit = SoundMemoryLimit(memory.TotalBytes);
-    PutSetting(kGeneral, "TotalPhyMemory", std::to_string(memory.TotalBytes));
 }
 
 /// The machine has no DirectX, so the question for its version always fails.

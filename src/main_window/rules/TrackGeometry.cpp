@@ -10,7 +10,6 @@ namespace sprout {
 
 namespace {
 
-constexpr std::int32_t kMusicTiles = 10;
 constexpr std::int32_t kRowsAlwaysScrollable = 3;
 constexpr std::int32_t kCellsBehindTheSong = 10;
 constexpr std::int32_t kAddButtonsBelow = 30;

@@ -96,6 +96,7 @@ inline constexpr std::int32_t kMeadowHeight = 80;
 /// Top of the meadow; it grows only where it stays clear of the rows.
 [[nodiscard]] std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackCount);
 
+inline constexpr std::int32_t kMusicTiles = 10;
 /// Which of the row tiles paints a track: 0 for audio, 1 to 10 for music by the track's number.
 [[nodiscard]] std::int32_t TileNumber(bool isAudio, std::int32_t track);
 

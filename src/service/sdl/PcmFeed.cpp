@@ -2,7 +2,6 @@
 #include "service/sdl/PcmFeed.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <thread>
 
@@ -18,26 +17,17 @@ std::int64_t Nanoseconds(PcmFeed::Time time)
     return std::chrono::duration_cast<std::chrono::nanoseconds>(time.time_since_epoch()).count();
 }
 
-std::byte Silence(const SoundFormat& format)
-{
-    return format.Bits == 8 ? std::byte{0x80} : std::byte{0};
-}
-
 } // namespace
 
 PcmFeed::PcmFeed(const SoundFormat& soundFormat, std::int64_t queued)
-    : format(soundFormat), queuedFrames(queued), timeOfFrame0(kUnknown), firstTaken(kUnknown)
+    : format(soundFormat), queuedFrames(queued), sound(format), timeOfFrame0(kUnknown), firstTaken(kUnknown)
 {
 }
 
 void PcmFeed::Load(std::span<const std::byte> pcm, std::size_t soundBytes)
 {
     Stop();
-    const std::size_t whole = soundBytes - soundBytes % static_cast<std::size_t>(format.FrameBytes());
-    sound.reserve(whole);
-    const auto taken = pcm.first(std::min(pcm.size(), whole));
-    sound.assign(taken.begin(), taken.end());
-    sound.resize(whole, Silence(format));
+    sound.Load(pcm, soundBytes);
     place = 0;
     framesHanded = 0;
     framesHeard = 0;
@@ -55,7 +45,7 @@ void PcmFeed::Start(StartFrom from, Loop loop)
     ended = false;
     looping = loop == Loop::Yes;
     timeOfFrame0 = kUnknown;
-    playing = !sound.empty();
+    playing = sound.Size() > 0;
 }
 
 void PcmFeed::Stop()
@@ -80,7 +70,7 @@ SoundPlace PcmFeed::PlaceAt(Time now)
         const auto heard = static_cast<std::int64_t>(seconds * format.Rate);
         framesHeard = std::max(framesHeard, std::min(heard, handed - 1));
     }
-    const auto soundFrames = static_cast<std::int64_t>(sound.size()) / format.FrameBytes();
+    const auto soundFrames = static_cast<std::int64_t>(sound.Size()) / format.FrameBytes();
     return {static_cast<std::int32_t>(soundFrames == 0 ? 0 : framesHeard % soundFrames), plays};
 }
 
@@ -101,12 +91,12 @@ void PcmFeed::Fill(std::span<std::byte> out, Time now)
     const std::size_t filled = playing && !settles ? FillFromSound(out, now) : 0;
     filling = false;
     const auto rest = out.subspan(filled);
-    std::fill(rest.begin(), rest.end(), Silence(format));
+    std::fill(rest.begin(), rest.end(), SilenceOf(format));
 }
 
 std::size_t PcmFeed::FillFromSound(std::span<std::byte> out, Time now)
 {
-    if (ended || (place == sound.size() && !looping)) {
+    if (ended || (place == sound.Size() && !looping)) {
         playing = false;
         return 0;
     }
@@ -117,10 +107,9 @@ std::size_t PcmFeed::FillFromSound(std::span<std::byte> out, Time now)
     timeOfFrame0 = Nanoseconds(now) - static_cast<std::int64_t>(aheadSeconds * kNanosecondsASecond);
     std::size_t filled = 0;
     while (filled < out.size() && !ended) {
-        if (place == sound.size() && looping)
+        if (place == sound.Size() && looping)
             place = 0;
-        const std::size_t bytes = std::min(out.size() - filled, sound.size() - place);
-        std::memcpy(out.data() + filled, sound.data() + place, bytes);
+        const std::size_t bytes = sound.CopyFrom(place, out.subspan(filled));
         place += bytes;
         filled += bytes;
         ended = bytes == 0;

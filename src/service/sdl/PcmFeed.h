@@ -7,8 +7,8 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <vector>
 
+#include "core/PcmSound.h"
 #include "service/SoundOutput.h"
 
 namespace sprout {
@@ -52,7 +52,7 @@ private:
     const std::int64_t queuedFrames;
 
     // Changed while the device takes nothing from the sound.
-    std::vector<std::byte> sound;
+    PcmSound sound;
     std::size_t place = 0; // byte that is handed over next
     bool ended = false;    // silence followed the last frame, so that nothing may go on without a gap
 

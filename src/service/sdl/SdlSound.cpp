@@ -53,6 +53,12 @@ bool SdlSound::IsAliveIn(const SoundFormat& wanted)
     return wanted == format && !IsLost();
 }
 
+bool SdlSound::IsOpenIn(const SoundFormat& wanted)
+{
+    const std::lock_guard lock(mutex);
+    return wanted == format && device != 0 && !IsLost();
+}
+
 bool SdlSound::Wake()
 {
     {

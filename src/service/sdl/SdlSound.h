@@ -30,6 +30,8 @@ public:
     [[nodiscard]] bool Wake();
     /// It has this format, and its device is there or rests.
     [[nodiscard]] bool IsAliveIn(const SoundFormat& wanted);
+    /// It has this format, and its device is open.
+    [[nodiscard]] bool IsOpenIn(const SoundFormat& wanted);
     /// Length of the sound that is loaded next.
     void SetSize(std::int32_t bufferBytes) { soundBytes = static_cast<std::size_t>(std::max(0, bufferBytes)); }
 

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/sound/MachineSound.h"
+
+#include <cstdlib>
+#include <utility>
+
+#include "service/pulse/PulseSound.h"
+#include "service/sdl/SdlSound.h"
+
+namespace sprout {
+
+namespace {
+
+/// `handle`, or an empty one where it is none of a `Sound`: what one output opened means nothing to the other.
+template <class Sound>
+SoundHandle KeepIf(SoundHandle handle)
+{
+    return dynamic_cast<Sound*>(handle.get()) ? std::move(handle) : nullptr;
+}
+
+bool IsOpenDevice(const SoundHandle& handle, const SoundFormat& format)
+{
+    auto* const sound = dynamic_cast<SdlSound*>(handle.get());
+    return sound && sound->IsOpenIn(format);
+}
+
+} // namespace
+
+MachineSound::MachineSound(std::chrono::milliseconds restRound) : server(restRound), device(restRound) {}
+
+ServerAnswer MachineSound::AskServer()
+{
+    const char* const driver = std::getenv("SDL_AUDIODRIVER"); // NOLINT(concurrency-mt-unsafe): nobody writes it
+    return driver && *driver != '\0' ? ServerAnswer::No : server.AskServer();
+}
+
+std::int32_t MachineSound::SoundDeviceCount()
+{
+    const ServerAnswer answer = AskServer();
+    if (answer == ServerAnswer::Yes)
+        return server.SoundDeviceCount();
+    // SDL would wait for a silent server without a limit.
+    return answer == ServerAnswer::No ? device.SoundDeviceCount() : 0;
+}
+
+SoundHandle MachineSound::Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                    std::int32_t bufferBytes)
+{
+    ServerAnswer answer = IsOpenDevice(old, format) ? ServerAnswer::No : AskServer();
+    if (answer == ServerAnswer::Yes) {
+        SoundHandle sound = server.Service02(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);
+        if (sound)
+            return sound;
+        answer = AskServer(); // its failure may be how its end is known
+    }
+    if (answer == ServerAnswer::No)
+        return device.Service02(KeepIf<SdlSound>(std::move(old)), windowHandle, format, bufferBytes);
+    return nullptr;
+}
+
+} // namespace sprout

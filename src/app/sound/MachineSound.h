@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+
+#include "service/SoundOutput.h"
+#include "service/pulse/PulseSoundOutput.h"
+#include "service/sdl/SdlSoundOutput.h"
+
+namespace sprout {
+
+/// The machine's sound output: the sound server where there is one, SDL where there is none.
+///
+/// A server is looked for with each question and each device that is opened, so that one that comes later is found. The
+/// variable SDL_AUDIODRIVER, with which a user chooses SDL's way to the device, chooses SDL too.
+class MachineSound : public SoundOutput {
+public:
+    /// restRound: see the two outputs.
+    explicit MachineSound(std::chrono::milliseconds restRound = std::chrono::seconds(1));
+
+    [[nodiscard]] std::int32_t SoundDeviceCount() override;
+    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                        std::int32_t bufferBytes) override;
+
+private:
+    [[nodiscard]] ServerAnswer AskServer();
+
+    PulseSoundOutput server;
+    SdlSoundOutput device;
+};
+
+} // namespace sprout

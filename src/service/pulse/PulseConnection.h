@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <mutex>
+#include <thread>
+
+struct pa_context;
+struct pa_mainloop;
+struct pa_mainloop_api;
+
+namespace sprout {
+
+/// What a question to the sound server comes to.
+enum class ServerAnswer {
+    Yes,
+    No,      ///< there is no server, or no library to speak to it
+    Silence, ///< somebody is there and did not answer in time
+};
+
+/// No call waits longer for a server that does not answer: the window stands still meanwhile.
+inline constexpr std::chrono::milliseconds kServerPatience{800};
+
+/// The connection to the sound server, PulseAudio or PipeWire, and the thread that reads what the server tells.
+///
+/// libpulse's own thread waits without a limit and locks what no tool sees; so this is libpulse's plain loop in a
+/// thread that waits with the mutex unlocked. All calls of libpulse are made with `Mutex()` locked, and what the loop
+/// calls is called with it locked. The thread sleeps while the server tells nothing.
+class PulseConnection {
+public:
+    using Lock = std::unique_lock<std::mutex>;
+    using Time = std::chrono::steady_clock::time_point;
+
+    PulseConnection() = default;
+    PulseConnection(const PulseConnection&) = delete;
+    PulseConnection& operator=(const PulseConnection&) = delete;
+    ~PulseConnection();
+
+    [[nodiscard]] std::mutex& Mutex() { return mutex; }
+
+    /// Connects to the server that the environment names, unless that is done. Waits until `deadline` at most.
+    [[nodiscard]] ServerAnswer Connect(Lock& lock, Time deadline);
+    /// Output devices of the server; 0 where it does not answer in time.
+    [[nodiscard]] std::int32_t CountSinks(Lock& lock, Time deadline);
+    /// Of a connection that stands.
+    [[nodiscard]] pa_context* Context() const { return context; }
+    [[nodiscard]] pa_mainloop_api& Api() const;
+
+    /// Waits until `condition` holds, which is looked at after each `Notify`. False if it did not hold in time.
+    template <class Condition>
+    [[nodiscard]] bool WaitFor(Lock& lock, Time deadline, Condition condition)
+    {
+        return changed.wait_until(lock, deadline, condition);
+    }
+    void Notify() { changed.notify_all(); }
+
+private:
+    [[nodiscard]] bool Stands() const;
+    [[nodiscard]] bool StartLoop();
+    void Disconnect();
+    void RunLoop();
+
+    std::mutex mutex;
+    std::condition_variable changed;
+    pa_mainloop* loop = nullptr; // from the first question on
+    pa_context* context = nullptr;
+    std::thread thread; // runs the loop
+};
+
+} // namespace sprout

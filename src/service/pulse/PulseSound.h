@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <algorithm>
+#include <chrono>
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <optional>
+#include <span>
+
+#include "service/SoundOutput.h"
+#include "service/pulse/PulseConnection.h"
+#include "service/pulse/SoundQueue.h"
+
+struct pa_operation;
+struct pa_stream;
+struct pa_time_event;
+
+namespace sprout {
+
+/// A sound on a stream of its own at the server.
+///
+/// The server holds half a second of it, so that this program may be late, and asks the device for 10 ms at a time. A
+/// stop takes the stream out of what the device is given next and leaves the queue where it is, so that the sound goes
+/// on without a lost or a repeated frame; a new beginning throws the queue away.
+///
+/// The stream is closed when nothing was played for a while, and opened again by the next play: at rest nothing runs.
+class PulseSound : public SoundObject {
+public:
+    using Time = PulseConnection::Time;
+
+    /// restRound: how often is looked whether the stream is still needed; after three looks in vain it is closed.
+    PulseSound(PulseConnection& server, const SoundFormat& format, std::chrono::milliseconds restRound);
+    ~PulseSound() override;
+
+    /// Connects and opens the stream, unless that is done. Waits until `deadline` at most. False where it is not to be
+    /// had.
+    [[nodiscard]] bool Wake(Time deadline);
+    /// It has this format, and its stream is there or rests.
+    [[nodiscard]] bool IsAliveIn(const SoundFormat& wanted);
+    /// Length of the sound that is loaded next.
+    void SetSize(std::int32_t bufferBytes) { soundBytes = static_cast<std::size_t>(std::max(0, bufferBytes)); }
+
+    /// When the server told that the device takes frames, after the last start from the beginning.
+    [[nodiscard]] std::optional<Time> FirstTaken();
+
+    void Service06(std::span<const std::byte> pcm) override;
+    void Service04(StartFrom from, Loop loop) override;
+    void Service05() override;
+    [[nodiscard]] SoundPlace Service07() override;
+    void Service09(Loop loop) override;
+
+private:
+    using Lock = PulseConnection::Lock;
+    using Answer = void (PulseSound::*)();
+    struct Question {
+        pa_operation* operation = nullptr;
+        Answer answer = nullptr; // null: nobody waits for it any more
+    };
+
+    // What the server tells.
+    void OnState();
+    void OnStarted();
+    void OnTimingInfo();
+    void OnBegun();
+    void OnStopped();
+    void OnMoreWanted();
+    void OnRound();
+
+    [[nodiscard]] bool Wake(Lock& lock, Time deadline);
+    [[nodiscard]] bool Open(Lock& lock, Time deadline);
+    void ListenToStream();
+    void Close();
+    void StartRounds();
+    void EndRounds();
+    /// False if the server has not answered for so long that the stream was closed.
+    [[nodiscard]] bool AskWhere(Answer answer);
+    void ForgetQuestions();
+    void CancelQuestions();
+    void OnAnswer(bool succeeded);
+    void Write(std::size_t bytes, std::int64_t seek);
+    void Cork(bool corked);
+    [[nodiscard]] bool Begin(Loop loop);
+    [[nodiscard]] bool GoOn(Loop loop);
+    void ChangeLooping(Loop loop, std::int64_t firstPlace);
+    [[nodiscard]] std::int64_t FirstPlaceNotGiven() const;
+    void Stop();
+    void End();
+    void Follow();
+    [[nodiscard]] std::int64_t Bytes(std::chrono::nanoseconds time) const;
+
+    PulseConnection& connection;
+    const std::chrono::milliseconds restRound;
+    std::size_t soundBytes = 0;
+
+    // The connection's mutex guards what follows. The queue's sound is changed without it, while nothing plays.
+    SoundQueue queue;
+    pa_stream* stream = nullptr;     // none at rest
+    pa_time_event* rounds = nullptr; // while there is a stream
+    std::deque<Question> questions;  // on their way to the server, which answers in their order
+    int silentRounds = 0;
+    bool used = false; // since the last round
+
+    bool playing = false;
+    bool holdsQueue = false; // the server's queue goes on at the place
+    std::int64_t place = 0;  // heard so far; it never goes back
+    // The server counts the bytes that the device took from the stream.
+    std::optional<std::int64_t> takenAtPlace0;
+    std::optional<std::int64_t> takenAtStart;
+    struct Heard {
+        Time time;
+        std::int64_t place = 0;
+    };
+    std::optional<Heard> heard; // what the server last told
+    std::optional<Time> firstTaken;
+};
+
+} // namespace sprout

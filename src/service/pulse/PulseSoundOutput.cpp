@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/pulse/PulseSoundOutput.h"
+
+#include <memory>
+
+#include "service/pulse/PulseSound.h"
+
+namespace sprout {
+
+namespace {
+
+PulseConnection::Time Deadline()
+{
+    return std::chrono::steady_clock::now() + kServerPatience;
+}
+
+} // namespace
+
+PulseSoundOutput::PulseSoundOutput(std::chrono::milliseconds round) : restRound(round) {}
+
+ServerAnswer PulseSoundOutput::AskServer()
+{
+    PulseConnection::Lock lock(connection.Mutex());
+    return connection.Connect(lock, Deadline());
+}
+
+std::int32_t PulseSoundOutput::SoundDeviceCount()
+{
+    const auto deadline = Deadline();
+    PulseConnection::Lock lock(connection.Mutex());
+    return connection.Connect(lock, deadline) == ServerAnswer::Yes ? connection.CountSinks(lock, deadline) : 0;
+}
+
+SoundHandle PulseSoundOutput::Service02(SoundHandle old, std::int32_t, const SoundFormat& format,
+                                        std::int32_t bufferBytes)
+{
+    const auto deadline = Deadline();
+    std::unique_ptr<PulseSound> sound(static_cast<PulseSound*>(old.release()));
+    bool isAwake = sound && sound->IsAliveIn(format) && sound->Wake(deadline);
+    // Twice: of a server that was started anew only the first failure tells that the connection to the old one is gone.
+    for (int tries = 0; tries < 2 && !isAwake; ++tries) {
+        sound.reset();
+        sound = std::make_unique<PulseSound>(connection, format, restRound);
+        isAwake = sound->Wake(deadline);
+    }
+    if (!isAwake)
+        return nullptr;
+    sound->SetSize(bufferBytes);
+    return sound;
+}
+
+} // namespace sprout

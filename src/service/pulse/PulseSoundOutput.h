@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+
+#include "service/SoundOutput.h"
+#include "service/pulse/PulseConnection.h"
+
+namespace sprout {
+
+/// Sound output through the sound server that the environment names, PulseAudio or PipeWire.
+///
+/// It connects with the first question to it, and anew where the connection is gone, so that a server that came later
+/// is found. No call waits longer than `kServerPatience` for a server that does not answer.
+class PulseSoundOutput : public SoundOutput {
+public:
+    /// restRound: a stream on which nothing was played for three to four of these is closed until the next play.
+    explicit PulseSoundOutput(std::chrono::milliseconds restRound = std::chrono::seconds(1));
+
+    /// Whether there is a server, to which it then is connected.
+    [[nodiscard]] ServerAnswer AskServer();
+
+    [[nodiscard]] std::int32_t SoundDeviceCount() override;
+    /// Keeps the stream of `old`, which must come from here, where it is alive and has the same format.
+    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                        std::int32_t bufferBytes) override;
+
+private:
+    const std::chrono::milliseconds restRound;
+    PulseConnection connection;
+};
+
+} // namespace sprout

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "core/PcmSound.h"
+#include "service/SoundOutput.h"
+
+namespace sprout {
+
+/// What goes to a server's queue: the passes of a sound one after the other, and silence behind the end of the last.
+///
+/// Places are bytes since the beginning of the first pass, at whole frames.
+class SoundQueue {
+public:
+    explicit SoundQueue(const SoundFormat& format) : sound(format) {}
+
+    /// See `PcmSound`.
+    void Load(std::span<const std::byte> pcm, std::size_t soundBytes) { sound.Load(pcm, soundBytes); }
+    /// What is filled next is what belongs at `place`; the pass that reaches or holds it is the last without a loop.
+    void Start(std::int64_t place, Loop loop);
+    /// Fills `out` with what follows.
+    void Fill(std::span<std::byte> out);
+    /// Lets the sound go on after its end, or end with a whole pass. place: the first one that may still be changed;
+    /// a sound that ends before it ends, and a loop plays the pass to its end in which it lies.
+    /// Returns how many bytes filled last are now others; they are filled again next.
+    [[nodiscard]] std::size_t SetLooping(Loop loop, std::int64_t place);
+
+    [[nodiscard]] bool EndsBy(std::int64_t place) const { return place >= end; }
+    /// The end of the last pass; the greatest number in a loop.
+    [[nodiscard]] std::int64_t End() const { return end; }
+    [[nodiscard]] std::int64_t Filled() const { return filled; }
+    /// The place as a frame of its pass; the last frame at the end.
+    [[nodiscard]] std::int32_t FrameAt(std::int64_t place) const;
+    [[nodiscard]] const SoundFormat& Format() const { return sound.Format(); }
+
+private:
+    [[nodiscard]] std::int64_t EndOfPass(std::int64_t place) const;
+
+    PcmSound sound;
+    std::int64_t filled = 0;
+    std::int64_t end = 0; // of the last pass
+};
+
+} // namespace sprout

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/pulse/TestSoundServer.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <utility>
+
+#include "core/PcmSound.h"
+
+namespace sprout {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+constexpr std::chrono::seconds kPatience{30};
+constexpr std::array kVariables{"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH", "XDG_RUNTIME_DIR"};
+
+/// Starts a program, which ends with this one at the latest. out: where its standard output goes; -1: nowhere.
+pid_t Start(std::vector<std::string> words, int out)
+{
+    words.insert(words.begin(), {"setpriv", "--pdeathsig", "KILL"});
+    std::vector<char*> arguments;
+    for (std::string& word : words)
+        arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    posix_spawn_file_actions_t files;
+    posix_spawn_file_actions_init(&files);
+    posix_spawn_file_actions_addopen(&files, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
+    if (out >= 0)
+        posix_spawn_file_actions_adddup2(&files, out, STDOUT_FILENO);
+    pid_t process = 0;
+    const int failed = posix_spawnp(&process, words[0].c_str(), &files, nullptr, arguments.data(), environ);
+    posix_spawn_file_actions_destroy(&files);
+    return failed == 0 ? process : 0;
+}
+
+void End(pid_t process)
+{
+    if (process == 0)
+        return;
+    kill(process, SIGKILL);
+    waitpid(process, nullptr, 0);
+}
+
+std::string DeviceFormat(const SoundFormat& format)
+{
+    return std::string("format=") + (format.Bits == 8 ? "u8" : "s16le") + " rate=" + std::to_string(format.Rate) +
+           " channels=" + std::to_string(format.Channels);
+}
+
+} // namespace
+
+TestSoundServer::TestSoundServer(const SoundFormat& deviceFormat, Rewinds rewinds)
+    : format(deviceFormat), deviceRewinds(rewinds)
+{
+    for (const char* const variable : kVariables)
+        setenv(variable, folder.Path().c_str(), 1);
+    setenv("PULSE_SERVER", ("unix:" + socket).c_str(), 1);
+}
+
+TestSoundServer::~TestSoundServer()
+{
+    Kill();
+    for (const char* const variable : kVariables)
+        unsetenv(variable);
+}
+
+bool TestSoundServer::Start()
+{
+    const std::string device = "module-null-sink sink_name=out " + DeviceFormat(format) +
+                               (deviceRewinds == Rewinds::Yes ? "" : " norewinds=1");
+    process = sprout::Start({"env", "-u", "PULSE_SERVER", "HOME=" + folder.Path().string(), "pulseaudio", "-n",
+                             "--daemonize=no", "--system=no", "--use-pid-file=no", "--exit-idle-time=-1",
+                             "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-target=stderr", "-L",
+                             "module-native-protocol-unix socket=" + socket + " auth-anonymous=1", "-L", device},
+                            -1);
+    const auto latest = Clock::now() + kPatience;
+    while (process != 0 && !Listens() && Clock::now() < latest)
+        usleep(2000);
+    return Listens();
+}
+
+bool TestSoundServer::Listens() const
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    socket.copy(address.sun_path, sizeof address.sun_path - 1);
+    const int client = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    const bool listens = connect(client, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    close(client);
+    return listens;
+}
+
+void TestSoundServer::Kill()
+{
+    End(std::exchange(process, 0));
+    std::filesystem::remove(socket);
+}
+
+void TestSoundServer::Freeze() const
+{
+    kill(process, SIGSTOP);
+    waitpid(process, nullptr, WUNTRACED);
+}
+
+void TestSoundServer::Thaw() const
+{
+    kill(process, SIGCONT);
+}
+
+std::string TestSoundServer::Inputs() const
+{
+    const std::string list = folder.Path() / "inputs";
+    const int out = open(list.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0600);
+    const pid_t lister = sprout::Start({"pactl", "list", "short", "sink-inputs"}, out);
+    close(out);
+    int status = 0;
+    waitpid(lister, &status, 0);
+    return status == 0 ? ReadBytes(list) : "no answer";
+}
+
+TestRecording::TestRecording(const TestSoundServer& server) : silence(SilenceOf(server.Format()))
+{
+    std::array<int, 2> pipe{};
+    if (pipe2(pipe.data(), O_CLOEXEC) != 0)
+        return;
+    output = pipe[0];
+    const SoundFormat& format = server.Format();
+    process = Start({"parec", "--latency-msec=10", "--raw", "-d", "out.monitor",
+                     std::string("--format=") + (format.Bits == 8 ? "u8" : "s16le"),
+                     "--rate=" + std::to_string(format.Rate), "--channels=" + std::to_string(format.Channels)},
+                    pipe[1]);
+    close(pipe[1]);
+    reader = std::thread([this] { Read(); });
+    static_cast<void>(Comes([](const Bytes& bytes) { return !bytes.empty(); }));
+}
+
+TestRecording::~TestRecording()
+{
+    End(process); // which ends the reader
+    if (reader.joinable())
+        reader.join();
+    if (output >= 0)
+        close(output);
+}
+
+void TestRecording::Read()
+{
+    Bytes piece(4096);
+    for (ssize_t count = 1; count > 0;) {
+        count = read(output, piece.data(), piece.size());
+        const std::lock_guard lock(mutex);
+        const Bytes bytes(piece.begin(), piece.begin() + std::max<ssize_t>(0, count));
+        recorded.insert(recorded.end(), bytes.begin(), bytes.end());
+        if (listener)
+            listener(bytes);
+        arrived.notify_all();
+    }
+}
+
+void TestRecording::SetListener(Listener newListener)
+{
+    const std::lock_guard lock(mutex);
+    listener = std::move(newListener);
+}
+
+bool TestRecording::Comes(const std::function<bool(const Bytes&)>& condition)
+{
+    std::unique_lock lock(mutex);
+    return arrived.wait_for(lock, kPatience, [&] { return condition(recorded); });
+}
+
+bool TestRecording::Sounds()
+{
+    return Comes([this](const Bytes& bytes) {
+        return std::any_of(bytes.begin(), bytes.end(), [this](std::byte byte) { return byte != silence; });
+    });
+}
+
+bool TestRecording::Holds(const Bytes& sound)
+{
+    return Comes([&](const Bytes& bytes) {
+        return std::search(bytes.begin(), bytes.end(), sound.begin(), sound.end()) != bytes.end();
+    });
+}
+
+bool TestRecording::Grows(std::size_t bytes)
+{
+    std::size_t wanted = 0;
+    return Comes([&](const Bytes& all) {
+        wanted = wanted == 0 ? all.size() + bytes : wanted;
+        return all.size() >= wanted;
+    });
+}
+
+Bytes TestRecording::Sounded()
+{
+    const std::lock_guard lock(mutex);
+    const auto sounds = [this](std::byte byte) { return byte != silence; };
+    const auto first = std::find_if(recorded.begin(), recorded.end(), sounds);
+    const auto last = std::find_if(recorded.rbegin(), recorded.rend(), sounds).base();
+    return first < last ? Bytes(first, last) : Bytes();
+}
+
+} // namespace sprout

@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <sys/types.h>
+
+#include <condition_variable>
+#include <cstddef>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "service/SoundOutput.h"
+#include "support/TestFolder.h"
+
+namespace sprout {
+
+using Bytes = std::vector<std::byte>;
+
+enum class Rewinds { No, Yes };
+
+/// A sound server of the test's own, with one device that nobody hears; the environment names it as long as it lives.
+class TestSoundServer {
+public:
+    /// rewinds: whether the device gives back what it has not played yet, as most cards do.
+    explicit TestSoundServer(const SoundFormat& deviceFormat = {}, Rewinds rewinds = Rewinds::No);
+    TestSoundServer(const TestSoundServer&) = delete;
+    TestSoundServer& operator=(const TestSoundServer&) = delete;
+    ~TestSoundServer();
+
+    /// False if it does not listen in time.
+    [[nodiscard]] bool Start();
+    void Kill();
+    /// It stays and does nothing any more.
+    void Freeze() const;
+    void Thaw() const;
+
+    [[nodiscard]] const SoundFormat& Format() const { return format; }
+    /// What plays on the device, be it silence, as the server lists it.
+    [[nodiscard]] std::string Inputs() const;
+
+private:
+    [[nodiscard]] bool Listens() const;
+
+    const SoundFormat format;
+    const Rewinds deviceRewinds;
+    TestFolder folder;
+    const std::string socket = folder.Path() / "native";
+    pid_t process = 0;
+};
+
+/// What a server's device plays from the making on.
+class TestRecording {
+public:
+    explicit TestRecording(const TestSoundServer& server);
+    TestRecording(const TestRecording&) = delete;
+    TestRecording& operator=(const TestRecording&) = delete;
+    ~TestRecording();
+
+    /// Waits until `condition` holds for what was recorded so far. False if it does not in time.
+    [[nodiscard]] bool Comes(const std::function<bool(const Bytes&)>& condition);
+    /// Waits until something is heard.
+    [[nodiscard]] bool Sounds();
+    /// Waits until `sound` is heard whole, without a gap.
+    [[nodiscard]] bool Holds(const Bytes& sound);
+    /// Waits until that many bytes more are recorded.
+    [[nodiscard]] bool Grows(std::size_t bytes);
+    /// What was recorded so far, without the silence ahead and behind.
+    [[nodiscard]] Bytes Sounded();
+
+    /// Called with each piece of the recording, in a thread of its own.
+    using Listener = std::function<void(const Bytes& piece)>;
+    /// Before the recording sounds.
+    void SetListener(Listener newListener);
+
+private:
+    void Read();
+
+    const std::byte silence;
+    int output = -1;
+    pid_t process = 0;
+    std::mutex mutex;
+    std::condition_variable arrived;
+    Bytes recorded;
+    Listener listener;
+    std::thread reader;
+};
+
+} // namespace sprout
