@@ -78,11 +78,6 @@ std::optional<QPoint>& HintPoint()
 
 } // namespace
 
-std::span<const HintRow> MainWindowHints()
-{
-    return kMainWindowHints;
-}
-
 std::string_view MainWindowHint(std::string_view name)
 {
     const auto* row = std::find_if(kMainWindowHints.begin(), kMainWindowHints.end(),

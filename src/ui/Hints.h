@@ -5,7 +5,6 @@
 #include <QObject>
 #include <QString>
 
-#include <span>
 #include <string_view>
 
 namespace sprout {
@@ -15,9 +14,6 @@ struct HintRow {
     std::string_view name;
     std::string_view hint;
 };
-
-/// Hints of the main window's controls.
-[[nodiscard]] std::span<const HintRow> MainWindowHints();
 
 /// The main window's hint for a control, empty where it has none.
 [[nodiscard]] std::string_view MainWindowHint(std::string_view name);

@@ -48,7 +48,7 @@ public:
     void UpdateThisTune() override { sprout::UpdateThisTune(); }
 };
 
-void SavePicture(QWidget& widget, const QString& folder, const char* name)
+void SaveTunePicture(QWidget& widget, const QString& folder, const char* name)
 {
     QApplication::processEvents();
     const QString path = QStringLiteral("%1/%2.png").arg(folder, QString::fromLatin1(name));
@@ -89,7 +89,7 @@ void DrawMenu(TuneFrm2& window, const QString& folder)
     auto& menu = *window.findChild<QMenu*>(QStringLiteral("PopPosiMnu"));
     menu.popup(window.pos());
     menu.setActiveAction(menu.actions().front());
-    SavePicture(menu, folder, "tune-menu");
+    SaveTunePicture(menu, folder, "tune-menu");
     menu.hide();
 }
 
@@ -101,8 +101,8 @@ void DrawLibrary(const QString& folder)
         for (const QSize size :
              {QSize(800, 600), QSize(1024, 768), QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)}) {
             window.FitTo(size);
-            SavePicture(window, folder,
-                        QStringLiteral("tune-library-%1x%2").arg(size.width()).arg(size.height()).toLatin1());
+            SaveTunePicture(window, folder,
+                            QStringLiteral("tune-library-%1x%2").arg(size.width()).arg(size.height()).toLatin1());
         }
         DrawMenu(window, folder);
     });
@@ -125,22 +125,22 @@ void DrawTuneWindowSheets(const QString& folder)
     FillTuneTable(200);
     DrawOpened([&folder](TuneFrm2& window) {
         window.FitTo({1366, 740});
-        SavePicture(window, folder, "tune-200-1366x768");
+        SaveTunePicture(window, folder, "tune-200-1366x768");
     });
     SetUserRoot("/home/child/Documents/Tonquill Sprout Painter");
     FillTuneTable(0);
     DrawOpened([&folder](TuneFrm2& window) {
         window.FitTo({800, 600});
-        SavePicture(window, folder, "tune-none-800x600");
+        SaveTunePicture(window, folder, "tune-none-800x600");
     });
     TuneNameFrm form(nullptr, {"Rain dance", "Ann"});
     form.show();
-    SavePicture(form, folder, "tune-name");
+    SaveTunePicture(form, folder, "tune-name");
     Msg1Btn2NoteFrm refusal(nullptr, "An Original Tonquill Tune is there with this name \"Lumo\"\r\n",
                             "Please enter another name for this Tune and save.");
     refusal.SetCaption(" Tonquill Sprout Painter");
     refusal.show();
-    SavePicture(refusal, folder, "tune-refusal");
+    SaveTunePicture(refusal, folder, "tune-refusal");
     TheServices() = Services();
 }
 
