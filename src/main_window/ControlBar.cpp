@@ -60,6 +60,7 @@ ControlBar::ControlBar(QWidget* parent, HintWatcher& watcher)
       tempoBar(new TempoBar(this, watcher))
 {
     setObjectName(QStringLiteral("ControlFramePic"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     watcher.Watch(*this, "");
     titleCaption->setText(tr("Song"));
     authorCaption->setText(tr("by"));

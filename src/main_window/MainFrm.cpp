@@ -120,6 +120,7 @@ MainFrm::MainFrm(TransportCommands& transport)
                            [this](bool opening) { trackCommands->SetOpening(opening); }})
 {
     setObjectName(QStringLiteral("MainFrm"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     SetSpokenRole(*this, QAccessible::Window);
     setWindowIcon(QIcon(Artwork(QStringLiteral("pictures/Sprout"), QSize(kWindowIconSide, kWindowIconSide), 1)));
     setMinimumSize(kLeastWindowWidth, kLeastWindowHeight);

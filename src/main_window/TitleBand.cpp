@@ -24,10 +24,13 @@ constexpr int kBandLine = 2;
 TitleBand::TitleBand(QWidget* parent) : QWidget(parent), captionLbl(new QLabel(this))
 {
     setObjectName(QStringLiteral("MainTitlePic"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     captionLbl->setObjectName(QStringLiteral("CaptionLbl"));
     captionLbl->setFont(ButtonFont());
     captionLbl->setTextFormat(Qt::PlainText);
-    captionLbl->setStyleSheet(QStringLiteral("color: #FFF8E7"));
+    QPalette onDeepLeaf = captionLbl->palette();
+    onDeepLeaf.setColor(QPalette::WindowText, kPaper);
+    captionLbl->setPalette(onDeepLeaf);
     captionLbl->setAttribute(Qt::WA_TransparentForMouseEvents);
 }
 

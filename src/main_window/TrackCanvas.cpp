@@ -35,6 +35,7 @@ TrackCanvas::TrackCanvas(QWidget* parent, ButtonScheme& buttons, TrackCanvasCall
     : QWidget(parent), calls(std::move(windowCalls))
 {
     setObjectName(QStringLiteral("TrackFramePic"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
     MakeSurfaces(buttons);
     MakeScrollBars();
 }

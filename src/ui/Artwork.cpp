@@ -109,7 +109,7 @@ private:
             lock.unlock();
             QImage image = Drawn(order.name, order.devicePixels, order.colour, Qt::transparent);
             lock.lock();
-            drawn.insert(std::exchange(beingDrawn, {}), std::move(image));
+            drawn.insert(std::exchange(beingDrawn, {}), image);
             isDrawn.notify_one();
         }
     }
