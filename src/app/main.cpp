@@ -3,6 +3,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <future>
 #include <memory>
 
 #include "app/sound/MachineSound.h"
@@ -59,10 +60,12 @@ private:
     MachineSound sound;
 };
 
-int RunProgram()
+int RunProgram(QApplication& application)
 {
     ProgramServices services;
-    MakeProgramPictures();
+    std::future<void> pictures = std::async(MakeProgramPictures);
+    ApplyLook(application);
+    pictures.get();
     RunStartUp();
     MainFrm window(services.transport);
     services.screen.SetProcessPic(&window.WorkingSign());
@@ -84,6 +87,5 @@ int main(int argc, char** argv)
     qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("sprout-painter"));
-    sprout::ApplyLook(application);
-    return sprout::RunProgram();
+    return sprout::RunProgram(application);
 }

@@ -7,12 +7,28 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
+#include "core/MemoryBlock.h"
 #include "ui/Palette.h"
 
 namespace sprout {
 
-SurfacePainter::SurfacePainter(QPixmap& kept, qreal pixelRatio) : painter(&kept), ratio(pixelRatio) {}
+namespace {
+
+QImage ImageOfSize(QSize size)
+{
+    using Pixels = std::shared_ptr<QRgb[]>;
+    const auto count = static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
+    auto pixels = std::make_unique<Pixels>(MemoryBlock<QRgb>(count));
+    auto* const bytes = reinterpret_cast<uchar*>(pixels->get());
+    const auto release = [](void* block) { delete static_cast<Pixels*>(block); };
+    return {bytes, size.width(), size.height(), QImage::Format_RGB32, release, pixels.release()};
+}
+
+} // namespace
+
+SurfacePainter::SurfacePainter(QImage& kept, qreal pixelRatio) : painter(&kept), ratio(pixelRatio) {}
 
 QRect SurfacePainter::DeviceRect(const QRect& place) const
 {
@@ -79,7 +95,7 @@ void TrackSurface::Clear()
 {
     ratio = devicePixelRatioF();
     if (kept.size() != DevicePixels())
-        kept = QPixmap(DevicePixels());
+        kept = ImageOfSize(DevicePixels());
     kept.fill(back);
     isDrawn = true;
     Changed(rect());
@@ -117,7 +133,7 @@ void TrackSurface::paintEvent(QPaintEvent* event)
     for (const QRect& part : event->region()) {
         const QRectF device(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
         const QRect whole = device.toAlignedRect() & kept.rect();
-        painter.drawPixmap(whole, kept, whole);
+        painter.drawImage(whole, kept, whole);
     }
     painter.restore();
     PaintOver(painter);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QImage>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
@@ -14,7 +15,7 @@ namespace sprout {
 /// pixel, so that neighbours meet without a seam at any pixel ratio.
 class SurfacePainter {
 public:
-    SurfacePainter(QPixmap& kept, qreal pixelRatio);
+    SurfacePainter(QImage& kept, qreal pixelRatio);
 
     void Fill(const QRect& place, const QColor& colour);
     /// Fills `place` with copies of an artwork that was drawn for the pixel ratio, from its top left on.
@@ -78,7 +79,7 @@ private:
     void UpdateFocusRing();
 
     QColor back;
-    QPixmap kept;
+    QImage kept;
     qreal ratio = 1;
     bool isDrawn = false;
     bool isPainting = false;

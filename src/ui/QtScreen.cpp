@@ -16,12 +16,18 @@ constexpr int kBlinkMs = 50;
 
 void QtScreen::ShowHourglass()
 {
-    QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (WindowHasAppeared())
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        ++waitingHourglasses;
 }
 
 void QtScreen::RestorePointer()
 {
-    QApplication::restoreOverrideCursor();
+    if (waitingHourglasses > 0)
+        --waitingHourglasses;
+    else
+        QApplication::restoreOverrideCursor();
 }
 
 void QtScreen::ShowProcessPic()
@@ -42,17 +48,28 @@ void QtScreen::ShowProgress(std::size_t done, std::size_t total)
 {
     if (!processPic)
         return;
-    if (!windowHasAppeared && sinceShown.isValid() && sinceShown.hasExpired(kBlinkMs))
+    if (sinceShown.isValid() && sinceShown.hasExpired(kBlinkMs))
         LetWindowAppear();
     processPic->ShowProgress(done, total);
 }
 
+bool QtScreen::WindowHasAppeared()
+{
+    if (!windowHasAppeared && processPic) {
+        const QWindow* const window = processPic->window()->windowHandle();
+        windowHasAppeared = window && window->isExposed();
+    }
+    return windowHasAppeared || !processPic;
+}
+
 void QtScreen::LetWindowAppear()
 {
-    const QWindow* const window = processPic->window()->windowHandle();
-    windowHasAppeared = window && window->isExposed();
-    if (window && !windowHasAppeared)
+    if (!WindowHasAppeared() && processPic->window()->windowHandle())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (!WindowHasAppeared())
+        return;
+    for (; waitingHourglasses > 0; --waitingHourglasses)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
 }
 
 void QtScreen::EnableTuneNotFilledTimer()

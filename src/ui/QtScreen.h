@@ -15,7 +15,7 @@ namespace sprout {
 /// timer, their calls do nothing but are counted.
 ///
 /// Work that goes on while the desktop has not yet put the new main window on the screen lets it appear, if the work is
-/// not done in the blink of an eye.
+/// not done in the blink of an eye. Before it has appeared there is nothing to point at, and the hourglass waits.
 class QtScreen : public Screen {
 public:
     void ShowHourglass() override;
@@ -31,12 +31,14 @@ public:
     void SetTuneNotFilledTimer(std::function<void()> enableTimer);
 
 private:
+    bool WindowHasAppeared();
     void LetWindowAppear();
 
     QPointer<ProcessPic> processPic;
     std::function<void()> enableTuneNotFilled;
     QElapsedTimer sinceShown;
     int shown = 0;
+    int waitingHourglasses = 0;
     bool windowHasAppeared = false;
     bool tuneNotFilledWanted = false;
 };

@@ -130,6 +130,41 @@ TEST_F(IniOnDisk, RemovesTheSectionOfABlankKey)
     EXPECT_EQ(ReadBytes(Path()), "[c]\r\nd=2\r\n");
 }
 
+/// Notes how often a file is replaced.
+class CountedFiles : public PosixFiles {
+public:
+    void ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush) override
+    {
+        ++replaced;
+        PosixFiles::ReplaceFile(target, pieces, flush);
+    }
+
+    int replaced = 0;
+};
+
+TEST_F(IniOnDisk, ReplacesTheFileOnceForSeveralValues)
+{
+    CountedFiles files;
+    TheServices().files = &files;
+    const std::vector<IniValue> values{{"b", "1"}, {"c", "2"}};
+    PutIniValues("a", values, Path());
+    EXPECT_EQ(ReadBytes(Path()), "[a]\r\nb=1\r\nc=2\r\n");
+    EXPECT_EQ(files.replaced, 1);
+}
+
+TEST_F(IniOnDisk, LeavesAFileAloneThatSaysTheSameAlready)
+{
+    CountedFiles files;
+    TheServices().files = &files;
+    PutIniValue("a", "b", "1", Path());
+    PutIniValue("a", "b", "1", Path());
+    EXPECT_EQ(files.replaced, 1);
+    PutIniValue("a", "b", "2", Path());
+    EXPECT_EQ(files.replaced, 2);
+    PutIniValue("a", "none", "", Path()); // an empty value differs from none
+    EXPECT_EQ(files.replaced, 3);
+}
+
 TEST_F(IniOnDisk, FindsTheFileInAnyLetterCase)
 {
     WriteBytes(fake.folder.Path() / "INDEX.INI", "[a]\nb=1\n");

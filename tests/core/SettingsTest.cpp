@@ -33,6 +33,13 @@ TEST_F(Settings, ReadsAndWritesABlankSectionAsGeneral)
     EXPECT_EQ(GetSetting(" ", "k", ""), "1");
 }
 
+TEST_F(Settings, WritesSeveralValuesWithoutThoseOfBlankKeys)
+{
+    PutSettings("s", {{"k", std::string(150, 'a')}, {" ", "2"}, {"l", "3"}});
+    EXPECT_EQ(GetSetting("s", "k", ""), std::string(99, 'a'));
+    EXPECT_EQ(GetSetting("s", "l", ""), "3");
+}
+
 TEST_F(Settings, ReadsABlankKeyAsEnd)
 {
     Write("[General]\r\nk=1\r\n");

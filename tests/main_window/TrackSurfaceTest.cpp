@@ -8,16 +8,15 @@
 namespace sprout {
 namespace {
 
-QPixmap Canvas(int width, int height)
+QImage Canvas(int width, int height)
 {
-    QPixmap pixmap(width, height);
-    pixmap.fill(Qt::white);
-    return pixmap;
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    return image;
 }
 
-int BlackColumns(const QPixmap& pixmap, int y)
+int BlackColumns(const QImage& image, int y)
 {
-    const QImage image = pixmap.toImage();
     int count = 0;
     for (int x = 0; x < image.width(); ++x)
         count += image.pixelColor(x, y) == QColor(Qt::black);
@@ -27,20 +26,20 @@ int BlackColumns(const QPixmap& pixmap, int y)
 TEST(SurfacePainter, FillsWholeDevicePixelsAtAnyRatio)
 {
     for (const auto& [ratio, columns] : {std::pair{1.0, 3}, std::pair{2.0, 6}, std::pair{1.5, 4}}) {
-        QPixmap pixmap = Canvas(40, 20);
-        SurfacePainter(pixmap, ratio).Fill(QRect(1, 0, 3, 4), Qt::black); // 1.5 and 6 round to 2 and 6
-        EXPECT_EQ(BlackColumns(pixmap, 0), columns) << ratio;
+        QImage canvas = Canvas(40, 20);
+        SurfacePainter(canvas, ratio).Fill(QRect(1, 0, 3, 4), Qt::black); // 1.5 and 6 round to 2 and 6
+        EXPECT_EQ(BlackColumns(canvas, 0), columns) << ratio;
     }
 }
 
 TEST(SurfacePainter, LeavesNoSeamBetweenNeighbours)
 {
     for (const qreal ratio : {1.25, 1.5, 1.75, 2.0}) {
-        QPixmap pixmap = Canvas(200, 10);
-        SurfacePainter painter(pixmap, ratio);
+        QImage canvas = Canvas(200, 10);
+        SurfacePainter painter(canvas, ratio);
         for (int x = 0; x < 90; x += 3)
             painter.Fill(QRect(x, 0, 3, 4), Qt::black);
-        EXPECT_EQ(BlackColumns(pixmap, 0), qRound(90 * ratio)) << ratio;
+        EXPECT_EQ(BlackColumns(canvas, 0), qRound(90 * ratio)) << ratio;
     }
 }
 
@@ -48,23 +47,23 @@ TEST(SurfacePainter, CopiesAnArtworkPixelByPixelAtTwiceTheSize)
 {
     const QPixmap tile = Artwork(QStringLiteral("tiles/Tile3"), QSize(64, 32), 2);
     ASSERT_EQ(tile.size(), QSize(128, 64));
-    QPixmap pixmap = Canvas(300, 80);
-    SurfacePainter(pixmap, 2).Lay(QRect(10, 4, 64, 32), tile);
+    QImage canvas = Canvas(300, 80);
+    SurfacePainter(canvas, 2).Lay(QRect(10, 4, 64, 32), tile);
     QImage expected = tile.toImage().convertToFormat(QImage::Format_RGB32);
     expected.setDevicePixelRatio(1);
-    EXPECT_EQ(pixmap.toImage().convertToFormat(QImage::Format_RGB32).copy(20, 8, 128, 64), expected);
+    EXPECT_EQ(canvas.copy(20, 8, 128, 64), expected);
 }
 
 TEST(SurfacePainter, CutsALaidArtworkAndTheLastTile)
 {
-    QPixmap black = Canvas(8, 8);
+    QPixmap black(8, 8);
     black.fill(Qt::black);
-    QPixmap pixmap = Canvas(40, 10);
-    SurfacePainter(pixmap, 1).Lay(QRect(0, 0, 5, 8), black);
-    EXPECT_EQ(BlackColumns(pixmap, 7), 5);
-    SurfacePainter(pixmap, 1).Tile(QRect(0, 0, 21, 8), black);
-    EXPECT_EQ(BlackColumns(pixmap, 7), 21);
-    EXPECT_EQ(BlackColumns(pixmap, 8), 0);
+    QImage canvas = Canvas(40, 10);
+    SurfacePainter(canvas, 1).Lay(QRect(0, 0, 5, 8), black);
+    EXPECT_EQ(BlackColumns(canvas, 7), 5);
+    SurfacePainter(canvas, 1).Tile(QRect(0, 0, 21, 8), black);
+    EXPECT_EQ(BlackColumns(canvas, 7), 21);
+    EXPECT_EQ(BlackColumns(canvas, 8), 0);
 }
 
 TEST(SurfacePainter, RepeatsTheBitsOfAPictureAtTwiceTheSize)
@@ -72,10 +71,10 @@ TEST(SurfacePainter, RepeatsTheBitsOfAPictureAtTwiceTheSize)
     QImage bitmap(2, 1, QImage::Format_RGB32);
     bitmap.setPixelColor(0, 0, Qt::white);
     bitmap.setPixelColor(1, 0, Qt::black);
-    QPixmap pixmap = Canvas(4, 2);
-    SurfacePainter(pixmap, 2).LayBitmap(QRect(0, 0, 2, 1), bitmap);
-    EXPECT_EQ(BlackColumns(pixmap, 1), 2);
-    EXPECT_EQ(pixmap.toImage().pixelColor(1, 0), QColor(Qt::white));
+    QImage canvas = Canvas(4, 2);
+    SurfacePainter(canvas, 2).LayBitmap(QRect(0, 0, 2, 1), bitmap);
+    EXPECT_EQ(BlackColumns(canvas, 1), 2);
+    EXPECT_EQ(canvas.pixelColor(1, 0), QColor(Qt::white));
 }
 
 TEST(TrackSurface, AsksToBeDrawnWhereItsSizeChangedAndShowsWhatWasDrawn)
@@ -94,6 +93,37 @@ TEST(TrackSurface, AsksToBeDrawnWhereItsSizeChangedAndShowsWhatWasDrawn)
     surface.resize(31, 20);
     static_cast<void>(surface.grab());
     EXPECT_EQ(redraws, 2);
+}
+
+TEST(TrackSurface, IsDrawnOnceHoweverOftenItWasForgotten)
+{
+    TrackSurface surface("Surface", Qt::green, nullptr);
+    int redraws = 0;
+    surface.Redraw = [&surface, &redraws] {
+        ++redraws;
+        surface.Clear();
+    };
+    surface.resize(30, 20);
+    static_cast<void>(surface.grab());
+    surface.Forget();
+    surface.Forget();
+    EXPECT_EQ(redraws, 1);
+    static_cast<void>(surface.grab());
+    EXPECT_EQ(redraws, 2);
+    static_cast<void>(surface.grab());
+    EXPECT_EQ(redraws, 2);
+}
+
+TEST(TrackSurface, KeepsALargePictureWholeWhenItChangesItsSize)
+{
+    TrackSurface surface("Surface", Qt::green, nullptr);
+    surface.Redraw = [&surface] { surface.Clear(); };
+    for (const QSize size : {QSize(1600, 1000), QSize(30, 20), QSize(2000, 1200)}) {
+        surface.resize(size);
+        const QImage shown = surface.grab().toImage();
+        EXPECT_EQ(shown.size(), size);
+        EXPECT_EQ(shown.pixelColor(size.width() - 1, size.height() - 1), QColor(Qt::green));
+    }
 }
 
 } // namespace

@@ -31,6 +31,35 @@ TEST(Artwork, IsDrawnOnce)
     EXPECT_EQ(Tile(3).cacheKey(), Tile(3).cacheKey());
 }
 
+TEST(Artwork, IsTheSameWhereItIsDrawnAhead)
+{
+    const WantedArtwork ahead{QStringLiteral("buttons/PlayAllBtn"), QSize(57, 57), 2, QColor(Qt::red)};
+    const WantedArtwork unknown{QStringLiteral("buttons/NoSuchBtn"), QSize(57, 57), 2};
+    const WantedArtwork another{QStringLiteral("buttons/PlayStopBtn"), QSize(57, 57), 2};
+    DrawArtworkAhead({ahead, unknown, another});
+    EXPECT_TRUE(Artwork(unknown).isNull());
+    const QPixmap taken = Artwork(ahead);
+    EXPECT_EQ(taken.size(), QSize(114, 114));
+    EXPECT_EQ(taken.devicePixelRatio(), 2);
+    // Drawn at another ratio it is asked for by another key, and so drawn here.
+    QImage drawnHere = Artwork(ahead.name, QSize(114, 114), 1, ahead.inPlaceOfDeepLeaf).toImage();
+    drawnHere.setDevicePixelRatio(2);
+    EXPECT_EQ(taken.toImage(), drawnHere);
+    EXPECT_EQ(Artwork(ahead).cacheKey(), taken.cacheKey());
+    EXPECT_FALSE(Artwork(another).isNull());
+}
+
+TEST(Artwork, IsDrawnAheadOneOrderAfterTheOther)
+{
+    std::vector<WantedArtwork> orders;
+    for (int side = 100; side < 110; ++side)
+        orders.push_back({QStringLiteral("buttons/BrushBtn"), QSize(side, side), 1});
+    for (const WantedArtwork& order : orders)
+        DrawArtworkAhead({order});
+    for (const WantedArtwork& order : orders)
+        EXPECT_EQ(Artwork(order).size(), order.size);
+}
+
 TEST(Artwork, IsEmptyForAnUnknownName)
 {
     EXPECT_TRUE(Artwork(QStringLiteral("buttons/NoSuchBtn"), QSize(56, 56), 1).isNull());

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QElapsedTimer>
+#include <QTest>
+#include <QWindow>
 
 #include "core/Busy.h"
 
@@ -18,6 +21,51 @@ TEST(QtScreen, ShowsTheHourglassAsOftenAsItIsAskedTo)
     screen.RestorePointer();
     ASSERT_NE(QApplication::overrideCursor(), nullptr);
     EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    screen.RestorePointer();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+/// A main window that the desktop has been asked to show and has not yet shown.
+class ScreenOfNewWindow : public testing::Test {
+protected:
+    ScreenOfNewWindow()
+    {
+        window.resize(400, 300);
+        screen.SetProcessPic(&sign);
+        window.show();
+    }
+
+    QtScreen screen;
+    QWidget window;
+    ProcessPic sign{&window};
+};
+
+TEST_F(ScreenOfNewWindow, ShowsNoHourglassBeforeTheWindowAppears)
+{
+    screen.ShowHourglass();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    screen.RestorePointer();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    screen.ShowHourglass();
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    screen.RestorePointer();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(ScreenOfNewWindow, LetsTheWindowAppearWhereTheWorkIsLong)
+{
+    screen.ShowHourglass();
+    screen.ShowProcessPic();
+    ASSERT_FALSE(window.windowHandle()->isExposed());
+    QElapsedTimer working;
+    working.start();
+    while (!window.windowHandle()->isExposed() && !working.hasExpired(30'000))
+        screen.ShowProgress(1, 2);
+    EXPECT_TRUE(window.windowHandle()->isExposed());
+    screen.ShowProgress(2, 2);
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    screen.HideProcessPic();
     screen.RestorePointer();
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }

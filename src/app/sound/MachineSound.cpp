@@ -36,7 +36,7 @@ ServerAnswer MachineSound::AskServer()
 
 void MachineSound::CountAhead()
 {
-    countAhead = std::async(std::launch::async, [this] { return CountDevices(); });
+    countAhead = std::async([this] { return CountDevices(); });
 }
 
 std::int32_t MachineSound::SoundDeviceCount()

@@ -49,6 +49,23 @@ TEST_F(MachineSoundTest, AServerThatAnswersIsUsed)
     EXPECT_TRUE(IsOfServer(Opened()));
 }
 
+TEST_F(MachineSoundTest, WhatIsCountedAheadIsTheFirstAnswerAlone)
+{
+    ASSERT_TRUE(server.Start());
+    output.CountAhead();
+    EXPECT_TRUE(IsOfServer(Opened()));
+    EXPECT_EQ(output.SoundDeviceCount(), 1);
+    server.Kill();
+    setenv("SDL_AUDIODRIVER", "none", 1);
+    EXPECT_EQ(output.SoundDeviceCount(), 0);
+}
+
+TEST_F(MachineSoundTest, AnOutputThatNobodyAsksEndsWithItsCount)
+{
+    MachineSound unasked;
+    unasked.CountAhead();
+}
+
 TEST_F(MachineSoundTest, WithoutAServerSdlPlays)
 {
     EXPECT_EQ(output.SoundDeviceCount(), 1);
