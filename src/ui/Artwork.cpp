@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/Artwork.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QHash>
 #include <QPainter>
@@ -65,11 +66,7 @@ public:
     ArtworkAhead() = default;
     ArtworkAhead(const ArtworkAhead&) = delete;
     ArtworkAhead& operator=(const ArtworkAhead&) = delete;
-    ~ArtworkAhead()
-    {
-        if (worker.joinable())
-            worker.join();
-    }
+    ~ArtworkAhead() { End(); }
 
     void Draw(const std::vector<WantedArtwork>& wanted)
     {
@@ -89,6 +86,17 @@ public:
         std::erase_if(waiting, [&key](const Order& order) { return order.key == key; });
         isDrawn.wait(lock, [this, &key] { return beingDrawn != key; });
         return drawn.take(key);
+    }
+
+    /// Draws nothing more than what is just being drawn.
+    void End()
+    {
+        {
+            const std::lock_guard lock(mutex);
+            waiting.clear();
+        }
+        if (worker.joinable())
+            worker.join();
     }
 
 private:
@@ -128,6 +136,12 @@ ArtworkAhead& TheArtworkAhead()
     return ahead;
 }
 
+/// Drawing uses tables of Qt that may go before anything static of ours: it ends with the application.
+void EndArtworkAhead()
+{
+    TheArtworkAhead().End();
+}
+
 } // namespace
 
 QPixmap Artwork(const WantedArtwork& wanted)
@@ -137,6 +151,8 @@ QPixmap Artwork(const WantedArtwork& wanted)
 
 void DrawArtworkAhead(const std::vector<WantedArtwork>& wanted)
 {
+    static std::once_flag isToEnd;
+    std::call_once(isToEnd, qAddPostRoutine, EndArtworkAhead);
     TheArtworkAhead().Draw(wanted);
 }
 

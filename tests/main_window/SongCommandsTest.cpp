@@ -225,7 +225,7 @@ TEST_F(SongCommandsTest, OpenTellsOfAFullDiskAndKeepsTheSong)
         Click(question, "YesBtn");
     });
     ClickButton("OpenBtn");
-    EXPECT_EQ(message.line1, QStringLiteral("Error Opening file\r\nThere is no room left on the disk."));
+    EXPECT_EQ(message.line1, QStringLiteral("Error Opening file\r\nNo space left on device."));
     EXPECT_EQ(message.caption, QStringLiteral(" Tonquill Sprout Painter"));
     EXPECT_TRUE(Song().SongChanged);
 }
