@@ -136,10 +136,12 @@ public:
     void ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush) override
     {
         ++replaced;
+        allFlushed = allFlushed && flush == Flush::Yes;
         PosixFiles::ReplaceFile(target, pieces, flush);
     }
 
     int replaced = 0;
+    bool allFlushed = true;
 };
 
 TEST_F(IniOnDisk, ReplacesTheFileOnceForSeveralValues)
@@ -150,6 +152,7 @@ TEST_F(IniOnDisk, ReplacesTheFileOnceForSeveralValues)
     PutIniValues("a", values, Path());
     EXPECT_EQ(ReadBytes(Path()), "[a]\r\nb=1\r\nc=2\r\n");
     EXPECT_EQ(files.replaced, 1);
+    EXPECT_TRUE(files.allFlushed);
 }
 
 TEST_F(IniOnDisk, LeavesAFileAloneThatSaysTheSameAlready)

@@ -46,25 +46,18 @@ void MakeFolderIfMissing(const fs::path& folder)
         fs::create_directory(folder, error);
 }
 
-void WriteProgramFacts()
-{
-    PutSettings(kGeneral, {{"InstalledPath", PathText(Shared().ProgramFolder)},
-                           {"FreeHardDisk", std::to_string(FreeDiskBytes())}});
-}
-
-void ProbeMemory()
+/// All facts are written in one go: each write waits for the disk. The machine has no DirectX, so the question for its
+/// version always fails.
+void ProbeMachine()
 {
     const MemoryStatus memory = TheServices().machine->GlobalMemoryStatus();
-    PutSettings(kGeneral, {{"PhyMemorySz", std::to_string(memory.AvailableBytes)},
-                           {"PhyMemoryLoad", std::to_string(memory.LoadPercent)},
-                           {"TotalPhyMemory", std::to_string(memory.TotalBytes)}});
     Shared().SoundMemoryLimit = SoundMemoryLimit(memory.TotalBytes);
-}
-
-/// The machine has no DirectX, so the question for its version always fails.
-void ProbeDirectX()
-{
-    PutSetting(kGeneral, "DirectXInstalled", "ErrorInDetecting");
+    PutSettings(kGeneral, {{"InstalledPath", PathText(Shared().ProgramFolder)},
+                           {"FreeHardDisk", std::to_string(FreeDiskBytes())},
+                           {"PhyMemorySz", std::to_string(memory.AvailableBytes)},
+                           {"PhyMemoryLoad", std::to_string(memory.LoadPercent)},
+                           {"TotalPhyMemory", std::to_string(memory.TotalBytes)},
+                           {"DirectXInstalled", "ErrorInDetecting"}});
 }
 
 void SetInstallFolders()
@@ -162,10 +155,9 @@ std::int32_t SoundMemoryLimit(std::uint64_t totalBytes)
 void RunStartUp()
 {
     // The new song comes before the user's folders are known, so its name is free in the current folder only.
-    constexpr Step steps[] = {FindTempFolder,      WriteProgramFacts, ProbeMemory,      ProbeDirectX,
-                              SetInstallFolders,   SetSoundFormat,    TestSupportFiles, MakeInstallFolders,
-                              KeepTestTone,        NewSong,           KeepWaveColours,  SetDemoImages,
-                              FindDocumentsFolder, SetUserFolders,    FillUserFolders};
+    constexpr Step steps[] = {FindTempFolder,      ProbeMachine,   SetInstallFolders, SetSoundFormat,  TestSupportFiles,
+                              MakeInstallFolders,  KeepTestTone,   NewSong,           KeepWaveColours, SetDemoImages,
+                              FindDocumentsFolder, SetUserFolders, FillUserFolders};
     for (const Step step : steps)
         GoOnAfter(step);
 }

@@ -48,7 +48,7 @@ void PutBeatFile(const fs::path& target, const fs::path& source)
 {
     const std::vector<std::byte> bytes = BytesOfFile(source);
     const std::span<const std::byte> piece(bytes);
-    TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::No);
+    TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::Yes);
 }
 
 /// A file that is deleted whatever happens.
