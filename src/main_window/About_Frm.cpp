@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/About_Frm.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
 
@@ -30,6 +31,19 @@ constexpr std::string_view kLinkStyle =
     " padding: 2px 4px; text-align: left; text-decoration: underline; }"
     "QPushButton:hover { color: #1F6B34; } QPushButton:focus { border-color: #1F6FA8; }";
 
+/// A key held down opens its page once.
+class LinkButton : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        if (!event->isAutoRepeat())
+            QPushButton::keyPressEvent(event);
+    }
+};
+
 } // namespace
 
 About_Frm::About_Frm(QWidget* parent) : BandedForm(parent)
@@ -58,7 +72,7 @@ QLabel& About_Frm::AddLine(const char* name, const QFont& font, std::string_view
 
 void About_Frm::MakeLink()
 {
-    auto* link = new QPushButton(QtText(kWebSite), this);
+    auto* link = new LinkButton(QtText(kWebSite), this);
     link->setObjectName(QStringLiteral("WebSiteLbl"));
     link->setAccessibleName(tr("The makers' pages: %1").arg(link->text()));
     link->setStyleSheet(QtText(kLinkStyle));

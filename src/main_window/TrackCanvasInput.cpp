@@ -248,13 +248,12 @@ void TrackCanvas::wheelEvent(QWheelEvent* event)
 
 void TrackCanvas::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space) {
-        if (!event->isAutoRepeat()) // held down it would start and stop by turns
-            Ask(calls.PlayOrStop);
-        return;
+    const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (presses || event->key() == Qt::Key_Space) {
+        if (event->isAutoRepeat()) // held down it would start and stop by turns
+            return;
+        return presses ? PressKeyCell() : Ask(calls.PlayOrStop);
     }
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        return PressKeyCell();
     if (event->modifiers() & Qt::ControlModifier && StepKeyCell(*event))
         return;
     const ScrollKey* row = RowOfKey(kScrollKeys, event->key());

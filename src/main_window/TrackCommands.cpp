@@ -118,12 +118,11 @@ void TrackCommands::TuneNotFilledTimerTick()
     if (songIsOpening)
         return;
     // Once on, the timer stays on: the next song or track may have no tune again.
-    const bool drawn = Guarded([this] {
+    const auto blink = [this] {
         for (const std::int32_t track : BlinkTunesNotFilled())
             canvas.DrawTrackOne(track);
-    });
-    if (!drawn)
-        tuneNotFilledTimer.stop();
+    };
+    Guarded(blink, [this] { tuneNotFilledTimer.stop(); });
 }
 
 } // namespace sprout

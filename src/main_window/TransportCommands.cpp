@@ -86,12 +86,11 @@ int PlayBrushedTune(const Tune& tune)
     return TuneInterval(tune);
 }
 
-/// Runs a tick. One that fails tells of it and ends its timer, so that it does not fail again and again.
+/// Runs a tick. One that fails ends its timer and tells of it, so that it does not fail again and again.
 template <class Operation>
 void GuardedTick(QTimer& timer, Operation operation)
 {
-    if (!Guarded(operation))
-        timer.stop();
+    Guarded(operation, [&timer] { timer.stop(); });
 }
 
 } // namespace

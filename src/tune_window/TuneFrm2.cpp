@@ -291,10 +291,16 @@ void TuneFrm2::reject()
     Guarded([this] { CancelBtn(); });
 }
 
+void TuneFrm2::HearByKey(const QKeyEvent& event)
+{
+    if (!event.isAutoRepeat()) // held down it would start the tune again and again
+        Guarded([this] { TestPlayBtn(); });
+}
+
 void TuneFrm2::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Space)
-        Guarded([this] { TestPlayBtn(); });
+        HearByKey(*event);
     else
         BandedForm::keyPressEvent(event);
 }
@@ -304,7 +310,7 @@ bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
     // In the grid the blank hears the tune as it stands now, edits and all.
     if (watched == ShowAllPic && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
-        Guarded([this] { TestPlayBtn(); });
+        HearByKey(static_cast<QKeyEvent&>(*event));
         return true;
     }
     return BandedForm::eventFilter(watched, event);

@@ -90,6 +90,7 @@ private:
     void CancelBtn();
     void HelpBtn();
     void TestPlayBtn();
+    void HearByKey(const QKeyEvent& event);
     void NewTuneBtn();
     void RndTuneBtn();
     void SaveTuneBtn();

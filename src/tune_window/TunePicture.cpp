@@ -48,10 +48,10 @@ void TunePicture::paintEvent(QPaintEvent* /*event*/)
 
 void TunePicture::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        click();
-    else
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
+    else if (!event->isAutoRepeat())
+        click();
 }
 
 } // namespace sprout

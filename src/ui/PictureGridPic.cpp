@@ -308,13 +308,12 @@ void PictureGridPic::keyPressEvent(QKeyEvent* event)
     for (const auto& [key, step] : steps)
         if (event->key() == key)
             return StepTo(step);
-    if (event->key() == Qt::Key_Space)
-        PressSelected(Qt::LeftButton);
-    else if (event->key() == Qt::Key_Menu ||
-             (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier)))
-        PressSelected(Qt::RightButton);
-    else
-        QWidget::keyPressEvent(event);
+    const bool asksForMenu = event->key() == Qt::Key_Menu ||
+                             (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier));
+    if (event->key() != Qt::Key_Space && !asksForMenu)
+        return QWidget::keyPressEvent(event);
+    if (!event->isAutoRepeat()) // held down it would start the sound again and again
+        PressSelected(asksForMenu ? Qt::RightButton : Qt::LeftButton);
 }
 
 /// The menu key arrives as a key press too, the right mouse button as a mouse press.

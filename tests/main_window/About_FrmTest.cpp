@@ -51,6 +51,7 @@ TEST_F(AboutFrmTest, TheLinkIsReachedAndOpenedWithKeys)
     QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
     ASSERT_TRUE(link->hasFocus());
     QTest::keyClick(link, Qt::Key_Return);
+    RepeatKey(*link, Qt::Key_Return);
     EXPECT_EQ(services.desktop.opened.size(), 1U);
     EXPECT_TRUE(form.isVisible());
     QTest::keyClick(link, Qt::Key_Space);

@@ -266,6 +266,17 @@ TEST_F(TrackCanvasInputTest, ASpaceBarHeldDownPlaysOnce)
     EXPECT_THAT(asked, ElementsAre("PlayOrStop"));
 }
 
+TEST_F(TrackCanvasInputTest, EnterHeldDownPressesOnce)
+{
+    Pic().setFocus(Qt::TabFocusReason);
+    Key(Qt::Key_Up, Qt::ControlModifier); // onto the time band
+    Key(Qt::Key_Return);
+    const std::size_t once = asked.size();
+    EXPECT_GT(once, 0U);
+    RepeatKey(*canvas, Qt::Key_Return);
+    EXPECT_EQ(asked.size(), once);
+}
+
 TEST_F(TrackCanvasInputTest, KeysMoveTheCellCursorAndPaint)
 {
     Pic().setFocus(Qt::TabFocusReason);

@@ -448,6 +448,10 @@ TEST_F(TuneFrm2Test, TheBlankInTheGridIsThePlayButton)
         ForgetPlay();
         QTest::keyClick(&GridOf(window), Qt::Key_Space);
         EXPECT_EQ(Played(), 7);
+        ForgetPlay();
+        RepeatKey(GridOf(window), Qt::Key_Space);
+        RepeatKey(window, Qt::Key_Space);
+        EXPECT_EQ(Played(), 0);
     });
 }
 

@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "ui/ModalSteps.h"
+
 namespace sprout {
 namespace {
 
@@ -255,6 +257,9 @@ TEST_F(PictureGridPicTest, PressesTheChoiceWithTheBlankAndOpensItsMenuWithTheMen
     QTest::keyClick(&grid, Qt::Key_Space);
     EXPECT_EQ(LastPressed(), 14);
     EXPECT_EQ(pressed.last().at(1).value<Qt::MouseButton>(), Qt::LeftButton);
+    RepeatKey(grid, Qt::Key_Space);
+    RepeatKey(grid, Qt::Key_Menu);
+    EXPECT_EQ(pressed.count(), 1);
     QTest::keyClick(&grid, Qt::Key_Menu);
     EXPECT_EQ(pressed.last().at(1).value<Qt::MouseButton>(), Qt::RightButton);
     EXPECT_EQ(pressed.last().at(2).toPoint(), grid.mapToGlobal(QPoint(45 + 16, 45 + 16)));

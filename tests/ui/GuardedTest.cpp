@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/Guarded.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+#include "core/Errors.h"
+#include "support/FakeServices.h"
+
+namespace sprout {
+namespace {
+
+/// Notes the order in which things happen.
+class GuardedTest : public testing::Test {
+protected:
+    class NotedMessages : public Messages {
+    public:
+        explicit NotedMessages(std::vector<std::string>& events) : noted(events) {}
+        void MessageBox(std::string_view /*title*/, std::string_view text, MessageIcon /*icon*/) override
+        {
+            noted.emplace_back(text);
+        }
+
+    private:
+        std::vector<std::string>& noted;
+    };
+
+    GuardedTest() { TheServices().messages = &messages; }
+
+    FakeServices services;
+    std::vector<std::string> noted;
+    NotedMessages messages{noted};
+};
+
+TEST_F(GuardedTest, TellsWhatWentWrong)
+{
+    EXPECT_FALSE(Guarded([] { throw RunTimeError("No room."); }));
+    EXPECT_TRUE(Guarded([this] { noted.emplace_back("done"); }));
+    EXPECT_THAT(noted, testing::ElementsAre("No room.", "done"));
+}
+
+TEST_F(GuardedTest, EndsWhatWouldFailAgainBeforeTheBoxOpens)
+{
+    Guarded([] { throw RunTimeError("No room."); }, [this] { noted.emplace_back("timer stopped"); });
+    Guarded([] {}, [this] { noted.emplace_back("not stopped"); });
+    EXPECT_THAT(noted, testing::ElementsAre("timer stopped", "No room."));
+}
+
+} // namespace
+} // namespace sprout
