@@ -21,7 +21,7 @@ ChoosenPicture::ChoosenPicture(QWidget* parent) : QAbstractButton(parent)
     setObjectName(QStringLiteral("ChoosenPic"));
     setFocusPolicy(Qt::NoFocus); // the play button beside it does the same
     setCursor(Qt::PointingHandCursor);
-    resize(sizeHint());
+    resize(ChoosenPicture::sizeHint());
 }
 
 QSize ChoosenPicture::sizeHint() const

@@ -71,7 +71,7 @@ ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal,
     // The pointer leaves the focus where it is, so that a text box keeps the caret while a button is clicked.
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover, false);
-    resize(sizeHint());
+    resize(ImageButton::sizeHint());
 }
 
 void ImageButton::SetHint(const QString& text)
