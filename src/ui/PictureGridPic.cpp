@@ -308,8 +308,8 @@ void PictureGridPic::keyPressEvent(QKeyEvent* event)
     for (const auto& [key, step] : steps)
         if (event->key() == key)
             return StepTo(step);
-    const bool asksForMenu = event->key() == Qt::Key_Menu ||
-                             (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier));
+    const bool asksForMenu =
+        event->key() == Qt::Key_Menu || (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier));
     if (event->key() != Qt::Key_Space && !asksForMenu)
         return QWidget::keyPressEvent(event);
     if (!event->isAutoRepeat()) // held down it would start the sound again and again
