@@ -41,11 +41,12 @@ public:
     ProgramServices()
     {
         TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
-        sound.CountAhead();
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
     ~ProgramServices() { ReleasePlayer(); }
+
+    void CountSoundDevicesAhead() { sound.CountAhead(); }
 
     QtScreen screen;
     TransportCommands transport{nullptr};
@@ -66,6 +67,7 @@ int RunProgram(QApplication& application)
     std::future<void> pictures = std::async(MakeProgramPictures);
     ApplyLook(application);
     pictures.get();
+    services.CountSoundDevicesAhead(); // behind the pictures: many machines have two cores
     RunStartUp();
     MainFrm window(services.transport);
     services.screen.SetProcessPic(&window.WorkingSign());
