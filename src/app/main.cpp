@@ -12,6 +12,7 @@
 #include "main_window/OpenMainWindow.h"
 #include "main_window/TransportCommands.h"
 #include "service/Services.h"
+#include "service/fontconfig/FontList.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/qt/QtPictureFiles.h"
@@ -84,6 +85,7 @@ int RunProgram(QApplication& application)
 
 int main(int argc, char** argv)
 {
+    const std::future<void> fonts = sprout::ReadFontListAhead();
     const QtMessageHandler handler = qInstallMessageHandler(sprout::TellNoDisplay);
     QApplication application(argc, argv);
     qInstallMessageHandler(handler);

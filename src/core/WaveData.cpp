@@ -3,8 +3,10 @@
 
 #include <algorithm>
 #include <cassert>
+#include <new>
 
-#include "core/MemoryBlock.h"
+#include "service/Machine.h"
+#include "service/Services.h"
 
 namespace sprout {
 
@@ -15,9 +17,34 @@ std::size_t ElementCount(std::int32_t upperBound)
     return static_cast<std::size_t>(upperBound) + 1;
 }
 
-std::shared_ptr<std::int16_t[]> ZeroBlock(std::int32_t upperBound)
+using Block = std::shared_ptr<std::int16_t[]>;
+
+// Most of the time that a long sound takes to load goes into its first touch of one small page after the other. Blocks
+// of several large pages ask the machine for these instead.
+constexpr std::size_t kLargePageBytes = std::size_t{1} << 21;
+constexpr std::size_t kSmallestLargeBlock = 2 * kLargePageBytes;
+
+Block LargeBlock(std::size_t bytes)
 {
-    auto block = MemoryBlock<std::int16_t>(ElementCount(upperBound));
+    constexpr std::align_val_t alignment{kLargePageBytes};
+    const auto release = [](std::int16_t* memory) { ::operator delete(memory, alignment); };
+    Block block(static_cast<std::int16_t*>(::operator new(bytes, alignment)), release);
+    if (const Machine* machine = TheServices().machine)
+        machine->PreferLargePages(block.get(), bytes / kLargePageBytes * kLargePageBytes);
+    return block;
+}
+
+/// Elements 0 to `upperBound`, whatever they hold.
+Block UnfilledBlock(std::int32_t upperBound)
+{
+    const std::size_t count = ElementCount(upperBound);
+    const std::size_t bytes = count * sizeof(std::int16_t);
+    return bytes < kSmallestLargeBlock ? std::make_shared_for_overwrite<std::int16_t[]>(count) : LargeBlock(bytes);
+}
+
+Block ZeroBlock(std::int32_t upperBound)
+{
+    Block block = UnfilledBlock(upperBound);
     std::fill_n(block.get(), ElementCount(upperBound), std::int16_t{0});
     return block;
 }
@@ -37,7 +64,7 @@ Channel Channel::Unfilled(std::int32_t upperBound)
     assert(upperBound >= 0);
     Channel channel;
     if (upperBound > 0) {
-        channel.block = MemoryBlock<std::int16_t>(ElementCount(upperBound));
+        channel.block = UnfilledBlock(upperBound);
         channel.block[0] = 0;
     }
     channel.upper = upperBound;
@@ -56,7 +83,7 @@ std::span<std::int16_t> Channel::Change()
     if (!block) {
         block = ZeroBlock(upper);
     } else if (block.use_count() != 1) {
-        auto copy = MemoryBlock<std::int16_t>(ElementCount(upper));
+        auto copy = UnfilledBlock(upper);
         std::copy_n(block.get(), ElementCount(upper), copy.get());
         block = std::move(copy);
     }

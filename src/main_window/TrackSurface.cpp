@@ -7,28 +7,15 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
 
-#include "core/MemoryBlock.h"
 #include "ui/Palette.h"
 
 namespace sprout {
 
-namespace {
-
-QImage ImageOfSize(QSize size)
+SurfacePainter::SurfacePainter(QPaintDevice& device, qreal pixelRatio) : painter(&device), ratio(pixelRatio)
 {
-    using Pixels = std::shared_ptr<QRgb[]>;
-    const auto count = static_cast<std::size_t>(size.width()) * static_cast<std::size_t>(size.height());
-    auto pixels = std::make_unique<Pixels>(MemoryBlock<QRgb>(count));
-    auto* const bytes = reinterpret_cast<uchar*>(pixels->get());
-    const auto release = [](void* block) { delete static_cast<Pixels*>(block); };
-    return {bytes, size.width(), size.height(), QImage::Format_RGB32, release, pixels.release()};
+    painter.scale(1 / device.devicePixelRatio(), 1 / device.devicePixelRatio());
 }
-
-} // namespace
-
-SurfacePainter::SurfacePainter(QImage& kept, qreal pixelRatio) : painter(&kept), ratio(pixelRatio) {}
 
 QRect SurfacePainter::DeviceRect(const QRect& place) const
 {
@@ -94,9 +81,9 @@ QSize TrackSurface::DevicePixels() const
 void TrackSurface::Clear()
 {
     ratio = devicePixelRatioF();
-    if (kept.size() != DevicePixels())
-        kept = ImageOfSize(DevicePixels());
-    kept.fill(back);
+    if (!isStraight && kept.size() != DevicePixels())
+        kept = QImage(DevicePixels(), QImage::Format_RGB32);
+    Painter().Fill(rect(), back);
     isDrawn = true;
     Changed(rect());
 }
@@ -116,26 +103,47 @@ void TrackSurface::Changed(const QRect& part)
 
 bool TrackSurface::IsStale() const
 {
-    return !isDrawn || ratio != devicePixelRatioF() || kept.size() != DevicePixels();
+    return !isDrawn || ratio != devicePixelRatioF() || (!isStraight && kept.size() != DevicePixels());
 }
 
-void TrackSurface::paintEvent(QPaintEvent* event)
+SurfacePainter TrackSurface::Painter()
 {
-    if (IsStale() && Redraw) {
-        isPainting = true;
+    return {isStraight ? static_cast<QPaintDevice&>(*this) : kept, ratio};
+}
+
+void TrackSurface::PaintStraight()
+{
+    isStraight = true;
+    Redraw();
+    isStraight = false;
+    isDrawn = false;
+    QMetaObject::invokeMethod(this, qOverload<>(&QWidget::update), Qt::QueuedConnection);
+}
+
+void TrackSurface::PaintKept(const QRegion& region)
+{
+    if (IsStale() && Redraw)
         Redraw();
-        isPainting = false;
-    }
     QPainter painter(this);
-    painter.save();
     // Without a scale the picture is copied and not resampled.
     painter.scale(1 / ratio, 1 / ratio);
-    for (const QRect& part : event->region()) {
+    for (const QRect& part : region) {
         const QRectF device(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
         const QRect whole = device.toAlignedRect() & kept.rect();
         painter.drawImage(whole, kept, whole);
     }
-    painter.restore();
+}
+
+void TrackSurface::paintEvent(QPaintEvent* event)
+{
+    isPainting = true;
+    if (wasShown || !Redraw)
+        PaintKept(event->region());
+    else
+        PaintStraight();
+    isPainting = false;
+    wasShown = true;
+    QPainter painter(this);
     PaintOver(painter);
 }
 

@@ -11,11 +11,11 @@
 
 namespace sprout {
 
-/// Draws on a picture that is kept in device pixels. Places are logical pixels; every edge falls on a whole device
-/// pixel, so that neighbours meet without a seam at any pixel ratio.
+/// Draws on a picture that is kept in device pixels, or on the screen. Places are logical pixels; every edge falls on a
+/// whole device pixel, so that neighbours meet without a seam at any pixel ratio.
 class SurfacePainter {
 public:
-    SurfacePainter(QImage& kept, qreal pixelRatio);
+    SurfacePainter(QPaintDevice& device, qreal pixelRatio);
 
     void Fill(const QRect& place, const QColor& colour);
     /// Fills `place` with copies of an artwork that was drawn for the pixel ratio, from its top left on.
@@ -67,7 +67,7 @@ protected:
     /// What is drawn now is thrown away: `Redraw` comes before it is seen.
     [[nodiscard]] bool IsStale() const;
     /// A painter on the kept picture; whoever draws calls `Changed` for it.
-    [[nodiscard]] SurfacePainter Painter() { return {kept, ratio}; }
+    [[nodiscard]] SurfacePainter Painter();
 
     void Changed(const QRect& part);
 
@@ -76,6 +76,11 @@ protected:
 
 private:
     [[nodiscard]] QSize DevicePixels() const;
+    /// Draws on the screen itself, for the first time that the surface is shown: the memory of a large picture takes
+    /// several ms, and the window can be there before. The picture that is kept follows at once.
+    void PaintStraight();
+    /// Copies what is kept, drawn anew where it has to be.
+    void PaintKept(const QRegion& region);
     void UpdateFocusRing();
 
     QColor back;
@@ -83,6 +88,8 @@ private:
     qreal ratio = 1;
     bool isDrawn = false;
     bool isPainting = false;
+    bool isStraight = false;
+    bool wasShown = false;
     bool focusByKey = false;
 };
 

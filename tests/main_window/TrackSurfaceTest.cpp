@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TrackSurface.h"
 
+#include <QCoreApplication>
+#include <QEventLoop>
+
 #include <gtest/gtest.h>
 
 #include "ui/Artwork.h"
@@ -77,41 +80,71 @@ TEST(SurfacePainter, RepeatsTheBitsOfAPictureAtTwiceTheSize)
     EXPECT_EQ(canvas.pixelColor(1, 0), QColor(Qt::white));
 }
 
-TEST(TrackSurface, AsksToBeDrawnWhereItsSizeChangedAndShowsWhatWasDrawn)
-{
-    TrackSurface surface("Surface", Qt::green, nullptr);
+/// A surface with a dot in a corner, which counts how often it is drawn.
+class DottedSurface : public TrackSurface {
+public:
+    DottedSurface() : TrackSurface("Surface", Qt::green, nullptr)
+    {
+        Redraw = [this] {
+            ++redraws;
+            Clear();
+            Painter().Fill(QRect(1, 2, 3, 4), Qt::black);
+        };
+        resize(30, 20);
+    }
+
+    QImage Shown() { return grab().toImage(); }
+
     int redraws = 0;
-    surface.Redraw = [&surface, &redraws] {
-        ++redraws;
-        surface.Clear();
-    };
-    surface.resize(30, 20);
-    EXPECT_EQ(surface.grab().toImage().pixelColor(29, 19), QColor(Qt::green));
-    EXPECT_EQ(redraws, 1);
-    static_cast<void>(surface.grab());
-    EXPECT_EQ(redraws, 1);
+};
+
+TEST(TrackSurface, LooksTheSameDrawnOnTheScreenAndKept)
+{
+    DottedSurface surface;
+    const QImage straight = surface.Shown();
+    EXPECT_EQ(straight.pixelColor(29, 19), QColor(Qt::green));
+    EXPECT_EQ(straight.pixelColor(3, 5), QColor(Qt::black));
+    EXPECT_EQ(straight.pixelColor(4, 5), QColor(Qt::green));
+    EXPECT_EQ(surface.Shown(), straight);
+    EXPECT_EQ(surface.redraws, 2);
+    EXPECT_EQ(surface.Shown(), straight);
+    EXPECT_EQ(surface.redraws, 2);
+}
+
+TEST(TrackSurface, KeepsItsPictureSoonAfterItIsFirstShown)
+{
+    DottedSurface surface;
+    surface.show();
+    while (surface.redraws < 2)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    const QImage shown = surface.Shown();
+    EXPECT_EQ(shown.pixelColor(3, 5), QColor(Qt::black));
+    EXPECT_EQ(surface.redraws, 2);
+}
+
+TEST(TrackSurface, AsksToBeDrawnWhereItsSizeChanged)
+{
+    DottedSurface surface;
+    static_cast<void>(surface.Shown());
+    static_cast<void>(surface.Shown());
+    EXPECT_EQ(surface.redraws, 2);
     surface.resize(31, 20);
-    static_cast<void>(surface.grab());
-    EXPECT_EQ(redraws, 2);
+    EXPECT_EQ(surface.Shown().pixelColor(30, 19), QColor(Qt::green));
+    EXPECT_EQ(surface.redraws, 3);
 }
 
 TEST(TrackSurface, IsDrawnOnceHoweverOftenItWasForgotten)
 {
-    TrackSurface surface("Surface", Qt::green, nullptr);
-    int redraws = 0;
-    surface.Redraw = [&surface, &redraws] {
-        ++redraws;
-        surface.Clear();
-    };
-    surface.resize(30, 20);
-    static_cast<void>(surface.grab());
+    DottedSurface surface;
+    static_cast<void>(surface.Shown());
+    static_cast<void>(surface.Shown());
     surface.Forget();
     surface.Forget();
-    EXPECT_EQ(redraws, 1);
-    static_cast<void>(surface.grab());
-    EXPECT_EQ(redraws, 2);
-    static_cast<void>(surface.grab());
-    EXPECT_EQ(redraws, 2);
+    EXPECT_EQ(surface.redraws, 2);
+    static_cast<void>(surface.Shown());
+    EXPECT_EQ(surface.redraws, 3);
+    static_cast<void>(surface.Shown());
+    EXPECT_EQ(surface.redraws, 3);
 }
 
 TEST(TrackSurface, KeepsALargePictureWholeWhenItChangesItsSize)
