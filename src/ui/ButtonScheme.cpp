@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ButtonScheme.h"
 
+#include <QEvent>
+
 #include <cassert>
 #include <chrono>
 #include <utility>
@@ -25,6 +27,7 @@ ButtonScheme::ButtonScheme(QWidget& owner, AllOffTimer timer) : QObject(&owner),
     connect(&allOffTimer, &QTimer::timeout, this, &ButtonScheme::ButtonsOff);
     if (timer == AllOffTimer::OnAtOnce)
         allOffTimer.start();
+    window.installEventFilter(this);
 }
 
 ImageButton& ButtonScheme::AddButton(const ButtonRow& row, std::function<void()> onClick)
@@ -100,6 +103,23 @@ void ButtonScheme::RefreshButtons()
         ImageButton& button = *buttons[static_cast<std::size_t>(number)];
         button.SetFace(states.State(number).Shown);
     }
+}
+
+bool ButtonScheme::eventFilter(QObject* watched, QEvent* event)
+{
+    // A key can open a form while the mouse holds a button, which would then not see itself released.
+    if (event->type() == QEvent::WindowBlocked)
+        LetGo();
+    return QObject::eventFilter(watched, event);
+}
+
+void ButtonScheme::LetGo()
+{
+    for (ImageButton* button : buttons)
+        if (button && button->isDown()) {
+            button->setDown(false);
+            ButtonRelease(*button);
+        }
 }
 
 } // namespace sprout

@@ -40,7 +40,12 @@ public:
     void ButtonSetNormal(const ImageButton& button);
     void RefreshButtons();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void LetGo();
+
     QWidget& window;
     ButtonStates states;
     std::vector<ImageButton*> buttons{nullptr}; ///< by number

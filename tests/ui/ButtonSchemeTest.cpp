@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDialog>
 #include <QTest>
 
 #include "ui/Hints.h"
@@ -66,6 +67,20 @@ TEST_F(ButtonSchemeTest, TheTimerLowersTheRaisedButtonAndLeavesTheOneThatIsOn)
     EXPECT_FALSE(Timer().isActive());
     EXPECT_EQ(play.Face(), ButtonFace::Normal);
     EXPECT_EQ(brush.Face(), ButtonFace::PressedOn);
+}
+
+TEST_F(ButtonSchemeTest, AFormThatOpensOverAHeldButtonLetsItGo)
+{
+    QTest::mousePress(&play, Qt::LeftButton);
+    QDialog form(&window);
+    form.open();
+    EXPECT_FALSE(play.isDown());
+    EXPECT_EQ(play.Face(), ButtonFace::Raised);
+    EXPECT_TRUE(Timer().isActive());
+    form.reject();
+    QTest::mouseMove(&stop, QPoint(20, 20));
+    EXPECT_EQ(stop.Face(), ButtonFace::Raised);
+    EXPECT_EQ(clicks, 0);
 }
 
 TEST_F(ButtonSchemeTest, PressAndReleaseShowTheirFacesAndClick)
