@@ -46,8 +46,8 @@ void Forget(pa_operation* operation)
 
 } // namespace
 
-PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milliseconds round)
-    : connection(server), restRound(round), queue(format)
+PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milliseconds round, milliseconds tailBehindEnd)
+    : connection(server), restRound(round), tailTime(tailBehindEnd), queue(format)
 {
 }
 
@@ -109,7 +109,8 @@ bool PulseSound::Open(Lock& lock, Time deadline)
     });
     if (!answered || Pulse().StreamGetState(stream) != PA_STREAM_READY)
         return false;
-    StartRounds();
+    silentRounds = 0;
+    rounds = After<&PulseSound::OnRound>(restRound);
     return true;
 }
 
@@ -128,6 +129,7 @@ void PulseSound::ListenToStream()
 void PulseSound::Close()
 {
     EndRounds();
+    EndTail();
     CancelQuestions();
     holdsQueue = false;
     if (!stream)
@@ -140,12 +142,11 @@ void PulseSound::Close()
     Pulse().StreamUnref(std::exchange(stream, nullptr));
 }
 
-void PulseSound::StartRounds()
+template <void (PulseSound::*Call)()> pa_time_event* PulseSound::After(milliseconds time)
 {
-    silentRounds = 0;
-    rounds = Pulse().ContextRtTimeNew(
-        connection.Context(), Pulse().RtClockNow() + static_cast<pa_usec_t>(microseconds(restRound).count()),
-        [](pa_mainloop_api*, pa_time_event*, const timeval*, void* self) { static_cast<PulseSound*>(self)->OnRound(); },
+    return Pulse().ContextRtTimeNew(
+        connection.Context(), Pulse().RtClockNow() + static_cast<pa_usec_t>(microseconds(time).count()),
+        [](pa_mainloop_api*, pa_time_event*, const timeval*, void* self) { (static_cast<PulseSound*>(self)->*Call)(); },
         this);
 }
 
@@ -153,6 +154,12 @@ void PulseSound::EndRounds()
 {
     if (rounds)
         connection.Api().time_free(std::exchange(rounds, nullptr));
+}
+
+void PulseSound::EndTail()
+{
+    if (tail)
+        connection.Api().time_free(std::exchange(tail, nullptr));
 }
 
 void PulseSound::OnRound()
@@ -172,6 +179,7 @@ void PulseSound::OnState()
         playing = false;
         holdsQueue = false;
         EndRounds();
+        EndTail();
     }
     connection.Notify();
 }
@@ -324,6 +332,8 @@ bool PulseSound::Begin(Loop loop)
     takenAtPlace0.reset();
     takenAtStart.reset();
     holdsQueue = true;
+    if (tail)
+        OnTailHeard();
     Forget(Pulse().StreamFlush(stream, nullptr, nullptr));
     if (!AskWhere(&PulseSound::OnBegun))
         return false;
@@ -363,6 +373,13 @@ void PulseSound::End()
 {
     playing = false;
     holdsQueue = false;
+    // Some servers are still giving the last frames to the device when they tell that these are heard.
+    tail = After<&PulseSound::OnTailHeard>(tailTime);
+}
+
+void PulseSound::OnTailHeard()
+{
+    EndTail();
     Cork(true);
 }
 

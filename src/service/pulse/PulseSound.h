@@ -31,7 +31,9 @@ public:
     using Time = PulseConnection::Time;
 
     /// restRound: how often is looked whether the stream is still needed; after three looks in vain it is closed.
-    PulseSound(PulseConnection& server, const SoundFormat& format, std::chrono::milliseconds restRound);
+    /// tail: for how long the stream runs on, silently, behind the end of a sound.
+    PulseSound(PulseConnection& server, const SoundFormat& format, std::chrono::milliseconds restRound,
+               std::chrono::milliseconds tail);
     ~PulseSound() override;
 
     /// Connects and opens the stream, unless that is done. Waits until `deadline` at most. False where it is not to be
@@ -67,13 +69,16 @@ private:
     void OnStopped();
     void OnMoreWanted();
     void OnRound();
+    void OnTailHeard();
 
     [[nodiscard]] bool Wake(Lock& lock, Time deadline);
     [[nodiscard]] bool Open(Lock& lock, Time deadline);
     void ListenToStream();
     void Close();
-    void StartRounds();
+    /// Calls `Call` once after `time`, unless the event is freed before.
+    template <void (PulseSound::*Call)()> [[nodiscard]] pa_time_event* After(std::chrono::milliseconds time);
     void EndRounds();
+    void EndTail();
     /// False if the server has not answered for so long that the stream was closed.
     [[nodiscard]] bool AskWhere(Answer answer);
     void ForgetQuestions();
@@ -92,12 +97,14 @@ private:
 
     PulseConnection& connection;
     const std::chrono::milliseconds restRound;
+    const std::chrono::milliseconds tailTime;
     std::size_t soundBytes = 0;
 
     // The connection's mutex guards what follows. The queue's sound is changed without it, while nothing plays.
     SoundQueue queue;
     pa_stream* stream = nullptr;     // none at rest
     pa_time_event* rounds = nullptr; // while there is a stream
+    pa_time_event* tail = nullptr;   // while the stream runs on behind an end
     std::deque<Question> questions;  // on their way to the server, which answers in their order
     int silentRounds = 0;
     bool used = false; // since the last round

@@ -16,7 +16,10 @@ PulseConnection::Time Deadline()
 
 } // namespace
 
-PulseSoundOutput::PulseSoundOutput(std::chrono::milliseconds round) : restRound(round) {}
+PulseSoundOutput::PulseSoundOutput(std::chrono::milliseconds round, std::chrono::milliseconds tailBehindEnd)
+    : restRound(round), tail(tailBehindEnd)
+{
+}
 
 ServerAnswer PulseSoundOutput::AskServer()
 {
@@ -40,7 +43,7 @@ SoundHandle PulseSoundOutput::Service02(SoundHandle old, std::int32_t, const Sou
     // Twice: of a server that was started anew only the first failure tells that the connection to the old one is gone.
     for (int tries = 0; tries < 2 && !isAwake; ++tries) {
         sound.reset();
-        sound = std::make_unique<PulseSound>(connection, format, restRound);
+        sound = std::make_unique<PulseSound>(connection, format, restRound, tail);
         isAwake = sound->Wake(deadline);
     }
     if (!isAwake)

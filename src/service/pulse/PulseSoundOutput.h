@@ -15,7 +15,9 @@ namespace sprout {
 class PulseSoundOutput : public SoundOutput {
 public:
     /// restRound: a stream on which nothing was played for three to four of these is closed until the next play.
-    explicit PulseSoundOutput(std::chrono::milliseconds restRound = std::chrono::seconds(1));
+    /// tail: for how long the stream runs on behind the end of a sound; less than what is queued, which is silence.
+    explicit PulseSoundOutput(std::chrono::milliseconds restRound = std::chrono::seconds(1),
+                              std::chrono::milliseconds tail = std::chrono::milliseconds(100));
 
     /// Whether there is a server, to which it then is connected.
     [[nodiscard]] ServerAnswer AskServer();
@@ -27,6 +29,7 @@ public:
 
 private:
     const std::chrono::milliseconds restRound;
+    const std::chrono::milliseconds tail;
     PulseConnection connection;
 };
 

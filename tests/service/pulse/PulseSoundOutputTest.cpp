@@ -319,6 +319,36 @@ TEST_F(PulseTest, ASoundThatHasEndedDoesNotGoOnAndStartsAnew)
     EXPECT_TRUE(Same(WithoutSilence(recording.Sounded()), Repeated(samples, 2 * samples.size())));
 }
 
+TEST_F(PulseTest, TheStreamStopsSoonAfterASoundHasEnded)
+{
+    PulseSoundOutput tireless(std::chrono::hours(1));
+    SoundHandle sound = Opened(tireless, format, Samples(format, 3000));
+    ASSERT_TRUE(sound);
+    EXPECT_TRUE(server.HasStoppedInput());
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Ends(sound));
+    EXPECT_TRUE(Comes([this] { return server.HasStoppedInput(); }));
+}
+
+TEST_F(PulseTest, TheStreamRunsOnBehindAnEndUntilTheNextPlay)
+{
+    PulseSoundOutput running(std::chrono::hours(1), std::chrono::hours(1));
+    SoundHandle sound;
+    for (unsigned play = 1; play <= 3; ++play) {
+        TestRecording recording(server);
+        const Bytes samples = Samples(format, 3001, play);
+        sound = Opened(running, format, samples, std::move(sound));
+        ASSERT_TRUE(sound);
+        sound->Service04(StartFrom::Beginning, Loop::No);
+        EXPECT_TRUE(Ends(sound));
+        EXPECT_FALSE(server.HasStoppedInput());
+        EXPECT_TRUE(recording.Grows(8820));
+        EXPECT_TRUE(Same(recording.Sounded(), samples));
+        sound->Service05();
+        EXPECT_FALSE(sound->Service07().Playing);
+    }
+}
+
 TEST_F(PulseTest, TheNextSoundCutsTheFirstOffAndIsHeardWhole)
 {
     TestRecording recording(server);

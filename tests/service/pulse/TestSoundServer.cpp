@@ -118,15 +118,25 @@ void TestSoundServer::Thaw() const
     kill(process, SIGCONT);
 }
 
-std::string TestSoundServer::Inputs() const
+std::string TestSoundServer::Told(const std::vector<std::string>& question) const
 {
-    const std::string list = folder.Path() / "inputs";
+    const std::string list = folder.Path() / "told";
     const int out = open(list.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0600);
-    const pid_t lister = sprout::Start({"pactl", "list", "short", "sink-inputs"}, out);
+    const pid_t lister = sprout::Start(question, out);
     close(out);
     int status = 0;
     waitpid(lister, &status, 0);
     return status == 0 ? ReadBytes(list) : "no answer";
+}
+
+std::string TestSoundServer::Inputs() const
+{
+    return Told({"pactl", "list", "short", "sink-inputs"});
+}
+
+bool TestSoundServer::HasStoppedInput() const
+{
+    return Told({"env", "LC_ALL=C", "pactl", "list", "sink-inputs"}).find("Corked: yes") != std::string::npos;
 }
 
 TestRecording::TestRecording(const TestSoundServer& server) : silence(SilenceOf(server.Format()))

@@ -39,9 +39,13 @@ public:
     [[nodiscard]] const SoundFormat& Format() const { return format; }
     /// What plays on the device, be it silence, as the server lists it.
     [[nodiscard]] std::string Inputs() const;
+    /// Whether something is there to be played that the device is not given.
+    [[nodiscard]] bool HasStoppedInput() const;
 
 private:
     [[nodiscard]] bool Listens() const;
+    /// What a program prints; "no answer" if it fails.
+    [[nodiscard]] std::string Told(const std::vector<std::string>& question) const;
 
     const SoundFormat format;
     const Rewinds deviceRewinds;
