@@ -7,6 +7,7 @@ import subprocess
 
 from processes import Failure, expect, wait_for
 
+STARTER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support", "sound-server")
 RATE = 44100
 FRAME_BYTES = 4
 TAIL_FRAMES = RATE // 20
@@ -57,12 +58,8 @@ class SoundServer:
     def start(self):
         environment = {name: value for name, value in self.environment.items() if name != "PULSE_SERVER"}
         # Without norewinds the beginning of a sound is lost.
-        self.process = self.processes.start(
-            ["pulseaudio", "-n", "--daemonize=no", "--system=no", "--use-pid-file=no", "--exit-idle-time=-1",
-             "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-target=stderr",
-             "-L", f"module-native-protocol-unix socket={self.socket} auth-anonymous=1",
-             "-L", "module-null-sink sink_name=out rate=44100 channels=2 format=s16le norewinds=1"],
-            env=environment, stderr=self.log)
+        self.process = self.processes.start([STARTER, self.socket, "s16le", str(RATE), "2", "norewinds=1"],
+                                            env=environment, stderr=self.log)
         wait_for("the sound server", self.answers)
 
     def answers(self):

@@ -23,6 +23,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds kPatience{30};
+constexpr const char* kStarter = SPROUT_TEST_DATA "/../support/sound-server";
 constexpr std::array kVariables{"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH", "XDG_RUNTIME_DIR"};
 
 /// Starts a program, which ends with this one at the latest. out: where its standard output goes; -1: nowhere.
@@ -52,10 +53,9 @@ void End(pid_t process)
     waitpid(process, nullptr, 0);
 }
 
-std::string DeviceFormat(const SoundFormat& format)
+std::vector<std::string> DeviceWords(const SoundFormat& format)
 {
-    return std::string("format=") + (format.Bits == 8 ? "u8" : "s16le") + " rate=" + std::to_string(format.Rate) +
-           " channels=" + std::to_string(format.Channels);
+    return {format.Bits == 8 ? "u8" : "s16le", std::to_string(format.Rate), std::to_string(format.Channels)};
 }
 
 } // namespace
@@ -77,13 +77,12 @@ TestSoundServer::~TestSoundServer()
 
 bool TestSoundServer::Start()
 {
-    const std::string device = "module-null-sink sink_name=out " + DeviceFormat(format) +
-                               (deviceRewinds == Rewinds::Yes ? "" : " norewinds=1");
-    process = sprout::Start({"env", "-u", "PULSE_SERVER", "HOME=" + folder.Path().string(), "pulseaudio", "-n",
-                             "--daemonize=no", "--system=no", "--use-pid-file=no", "--exit-idle-time=-1",
-                             "--disable-shm=yes", "--realtime=no", "--high-priority=no", "--log-target=stderr", "-L",
-                             "module-native-protocol-unix socket=" + socket + " auth-anonymous=1", "-L", device},
-                            -1);
+    std::vector<std::string> words{"env", "-u", "PULSE_SERVER", "HOME=" + folder.Path().string(), kStarter, socket};
+    for (const std::string& word : DeviceWords(format))
+        words.push_back(word);
+    if (deviceRewinds == Rewinds::No)
+        words.emplace_back("norewinds=1");
+    process = sprout::Start(std::move(words), -1);
     const auto latest = Clock::now() + kPatience;
     while (process != 0 && !Listens() && Clock::now() < latest)
         usleep(2000);
