@@ -46,7 +46,8 @@ void Forget(pa_operation* operation)
 
 } // namespace
 
-PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milliseconds round, milliseconds tailBehindEnd)
+PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milliseconds round,
+                       milliseconds tailBehindEnd)
     : connection(server), restRound(round), tailTime(tailBehindEnd), queue(format)
 {
 }
@@ -142,7 +143,8 @@ void PulseSound::Close()
     Pulse().StreamUnref(std::exchange(stream, nullptr));
 }
 
-template <void (PulseSound::*Call)()> pa_time_event* PulseSound::After(milliseconds time)
+template <void (PulseSound::*Call)()>
+pa_time_event* PulseSound::After(milliseconds time)
 {
     return Pulse().ContextRtTimeNew(
         connection.Context(), Pulse().RtClockNow() + static_cast<pa_usec_t>(microseconds(time).count()),

@@ -76,7 +76,8 @@ private:
     void ListenToStream();
     void Close();
     /// Calls `Call` once after `time`, unless the event is freed before.
-    template <void (PulseSound::*Call)()> [[nodiscard]] pa_time_event* After(std::chrono::milliseconds time);
+    template <void (PulseSound::*Call)()>
+    [[nodiscard]] pa_time_event* After(std::chrono::milliseconds time);
     void EndRounds();
     void EndTail();
     /// False if the server has not answered for so long that the stream was closed.
