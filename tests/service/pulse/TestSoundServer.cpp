@@ -23,7 +23,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 constexpr std::chrono::seconds kPatience{30};
-constexpr const char* kStarter = SPROUT_TEST_DATA "/../support/sound-server";
+constexpr const char* kStarter = SPROUT_TEST_SUPPORT "/sound-server";
 constexpr std::array kVariables{"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH", "XDG_RUNTIME_DIR"};
 
 /// Starts a program, which ends with this one at the latest. out: where its standard output goes; -1: nowhere.
