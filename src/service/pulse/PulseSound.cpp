@@ -91,9 +91,9 @@ bool PulseSound::Wake(Lock& lock, Time deadline)
 bool PulseSound::Open(Lock& lock, Time deadline)
 {
     const SoundFormat& format = queue.Format();
-    const pa_sample_spec spec{format.Bits == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE,
-                              static_cast<std::uint32_t>(format.Rate), static_cast<std::uint8_t>(format.Channels)};
-    stream = Pulse().StreamNew(connection.Context(), std::string(kProductName).c_str(), &spec, nullptr);
+    const pa_sample_spec samples{format.Bits == 8 ? PA_SAMPLE_U8 : PA_SAMPLE_S16LE,
+                                 static_cast<std::uint32_t>(format.Rate), static_cast<std::uint8_t>(format.Channels)};
+    stream = Pulse().StreamNew(connection.Context(), std::string(kProductName).c_str(), &samples, nullptr);
     if (!stream)
         return false;
     ListenToStream();
