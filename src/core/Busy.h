@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <string_view>
+
 #include "service/Screen.h"
 #include "service/Services.h"
 
@@ -25,6 +27,18 @@ public:
 
 private:
     Hourglass hourglass;
+};
+
+/// Work that its user may stop, as long as it lives: `Screen::ShowProgress` then throws `WorkStopped`.
+class StoppableWork {
+public:
+    /// what: a short sentence that tells what is being done.
+    explicit StoppableWork(std::string_view what) { TheServices().screen->BeginStoppable(what); }
+    StoppableWork(const StoppableWork&) = delete;
+    StoppableWork& operator=(const StoppableWork&) = delete;
+    ~StoppableWork() { TheServices().screen->EndStoppable(); }
+
+    void GoOnWith(std::string_view what) { TheServices().screen->NextStage(what); }
 };
 
 } // namespace sprout

@@ -13,6 +13,9 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+/// Thrown where the user ended long work. No failure, so that nothing that tells of failures takes it for one.
+class WorkStopped {};
+
 /// The sentence that tells the user of any exception: its own words, or plain ones for those of the standard library.
 [[nodiscard]] std::string ErrorText(const std::exception& error);
 

@@ -36,6 +36,9 @@ public:
         return true;
     }
 
+    /// Leaves undone what nobody has begun.
+    void GiveUp() { next.store(count); }
+
     [[nodiscard]] std::size_t Done() const { return done.load(); }
 
     void ThrowKept() const
@@ -83,9 +86,14 @@ void ParallelFor(std::size_t count, const std::function<void(std::size_t)>& work
                 break; // fewer threads do the same work
             }
         }
-        while (pieces.DoNext())
-            if (progress)
-                progress(pieces.Done(), count);
+        try {
+            while (pieces.DoNext())
+                if (progress)
+                    progress(pieces.Done(), count);
+        } catch (...) {
+            pieces.GiveUp();
+            throw;
+        }
     }
     if (progress && count > 0)
         progress(count, count);

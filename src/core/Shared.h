@@ -27,6 +27,25 @@ struct WaveViewColours {
     std::int32_t PlayPosIndiColor = 0xFF00FF;
 };
 
+/// A codec that the WMA encoder offers. Elements of the arrays count from 1.
+struct WmaCodec {
+    std::string Name;
+    std::int32_t FormatCount = 0;
+    std::vector<std::string> Descriptions;
+    std::vector<std::int32_t> BitRates;      ///< bits a second
+    std::vector<std::int32_t> SampleRates;   ///< frames a second
+    std::vector<std::int32_t> Channels;      ///< 1 or 2
+    std::vector<std::int32_t> BitsPerSample; ///< 8 or 16
+};
+
+/// The encoder's codecs, listed at the first export, and the format that exports use. Codec and format count from 0.
+struct WmaChoice {
+    std::vector<WmaCodec> Codecs;
+    std::int32_t ChosenCodec = -1;
+    std::int32_t ChosenFormat = -1;
+    bool CodecChosen = false;
+};
+
 /// What every window and the engine read and write directly; it lives from start to exit.
 struct SharedState {
     // The one sound format in memory, set at the start and never changed.
@@ -47,6 +66,7 @@ struct SharedState {
     bool SongBeatsInside = true;    ///< song and tune files carry their beats
     bool AllowEditOriginal = false; ///< the tunes that came with the program may be edited
     WaveViewColours WaveColours;
+    WmaChoice Wma;
 
     // Pictures that the program itself holds; told apart by identity.
     Picture BlankPic;           ///< of a track's tune that was not chosen yet

@@ -2,12 +2,43 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <span>
+
+#include "core/Errors.h"
 
 namespace sprout {
 
 enum class Flush { No, Yes };
+
+/// Thrown where a new file is whole and what stands in its place does not give way.
+class NotReplaced : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
+
+/// A file that is written beside its target under a hidden name and takes the target's place when it is whole.
+///
+/// At any moment the target holds the old bytes or the new ones, never a part. One that is destroyed before it was put
+/// in place leaves the target as it was and nothing beside it. All failures are thrown as `RunTimeError` with a plain
+/// sentence.
+class Replacement {
+public:
+    Replacement() = default;
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+    virtual ~Replacement() = default;
+
+    /// Writes at the present place, which moves behind what was written.
+    virtual void Write(std::span<const std::byte> bytes) = 0;
+    /// Moves the place to a byte, counted from 0; what a write leaves out below it becomes zero.
+    virtual void MoveTo(std::uint64_t place) = 0;
+    /// Puts the file in the target's place, the last call. With `Flush::Yes` its bytes are on the disk before, and its
+    /// name before the return. Throws `NotReplaced` where an old file stays in the way.
+    virtual void PutInPlace(Flush flush) = 0;
+};
 
 /// File operations that need more of the machine than the standard library gives.
 class Files {
@@ -25,6 +56,14 @@ public:
     /// target then stands as before and nothing is left beside it.
     virtual void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> pieces,
                              Flush flush) = 0;
+
+    /// Begins such a replacement of a file that may be too large to stand in memory once more. Throws `RunTimeError`
+    /// where nothing can be written beside the target.
+    [[nodiscard]] virtual std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& target) = 0;
+
+    /// True where nothing stands at `target`, or a plain file that its user may write in a folder that he may change.
+    /// Links are followed.
+    [[nodiscard]] virtual bool MayBeReplaced(const std::filesystem::path& target) const = 0;
 
     /// Deletes a temporary file, unless a running program still holds it. Follows no link.
     virtual void DeleteStaleFile(const std::filesystem::path& path) = 0;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string_view>
 
 namespace sprout {
 
@@ -21,8 +22,16 @@ public:
     virtual void ShowProcessPic() = 0;
     virtual void HideProcessPic() = 0;
 
-    /// Long work tells how far it is: `done` of `total` pieces.
+    /// Long work tells how far it is: `done` of `total` pieces. Throws `WorkStopped` where the work may be stopped and
+    /// its user asked for that.
     virtual void ShowProgress(std::size_t done, std::size_t total) = 0;
+
+    /// From here to `EndStoppable` the user may stop the work: if it lasts, a window shows its progress and `what` is
+    /// being done, a short sentence. Calls do not nest. Where there are no windows nothing can be stopped.
+    virtual void BeginStoppable(std::string_view /*what*/) {}
+    /// The work goes on with something else.
+    virtual void NextStage(std::string_view /*what*/) {}
+    virtual void EndStoppable() {}
 
     /// Lets tracks without a chosen tune blink.
     virtual void EnableTuneNotFilledTimer() = 0;

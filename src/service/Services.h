@@ -6,12 +6,16 @@ namespace sprout {
 class Desktop;
 class Files;
 class Machine;
+class Mail;
 class Messages;
 class PictureFiles;
 class PlayDisplay;
+class PrivateFolders;
 class Screen;
 class SoundOutput;
+class SoundReader;
 class Stretch;
+class WmaEncoder;
 
 /// The services that the program runs on. Whoever starts the program fills it once, before anything else; the objects
 /// outlive every use. A service that a program does not use may stay null.
@@ -25,6 +29,10 @@ struct Services {
     Stretch* stretch = nullptr;
     SoundOutput* sound = nullptr;
     PlayDisplay* playDisplay = nullptr;
+    WmaEncoder* wma = nullptr;
+    SoundReader* soundReader = nullptr;
+    Mail* mail = nullptr;
+    PrivateFolders* privateFolders = nullptr;
 };
 
 /// The one shared instance.

@@ -250,14 +250,23 @@ WaveData LoadWaveFile(const fs::path& path, ReadSamples samples)
     return EmptyWave();
 }
 
-void SaveWaveFile(const WaveData& wave, const fs::path& path)
+bool MayWriteWave(const WaveData& wave, const fs::path& path)
 {
     if (path.empty())
-        return Tell("", "No file name given to write");
-    if (wave.Length == 0)
-        return Tell("Writing wave error", "Silent or Zero size wave found");
-    if (!IsKnownFormat(wave))
-        return Tell("", "Format not Known to write wave file");
+        Tell("", "No file name given to write");
+    else if (wave.Length == 0)
+        Tell("Writing wave error", "Silent or Zero size wave found");
+    else if (!IsKnownFormat(wave))
+        Tell("", "Format not Known to write wave file");
+    else
+        return true;
+    return false;
+}
+
+void SaveWaveFile(const WaveData& wave, const fs::path& path)
+{
+    if (!MayWriteWave(wave, path))
+        return;
     try {
         WriteWave(wave, path);
     } catch (const std::runtime_error& error) {

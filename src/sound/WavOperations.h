@@ -26,6 +26,9 @@ enum class ReadSamples { Yes, HeaderOnly };
 /// With `ReadSamples::HeaderOnly` format and length are set, and no samples.
 [[nodiscard]] WaveData LoadWaveFile(const std::filesystem::path& path, ReadSamples samples = ReadSamples::Yes);
 
+/// False where a wave can be no file, which is told: no name, no sound, or an unknown format.
+[[nodiscard]] bool MayWriteWave(const WaveData& wave, const std::filesystem::path& path);
+
 /// Writes `wave` as a canonical WAV file with a header of 44 bytes. Failures are told in a message. An empty wave or
 /// one of an unknown format leaves an existing file untouched; an 8-bit sample outside -128..127 ends the write where
 /// it stands.

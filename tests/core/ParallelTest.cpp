@@ -9,6 +9,8 @@
 #include <thread>
 #include <vector>
 
+#include "core/Errors.h"
+
 namespace sprout {
 namespace {
 
@@ -29,6 +31,18 @@ TEST(ParallelFor, DoesNothingForNoPieces)
     ParallelFor(
         0, [&called](std::size_t) { called = true; }, [&called](std::size_t, std::size_t) { called = true; });
     EXPECT_FALSE(called);
+}
+
+TEST(ParallelFor, LeavesTheRestWhereTheProgressThrows)
+{
+    for (const std::size_t threads : {1U, 2U}) {
+        std::atomic<std::size_t> done = 0;
+        const auto work = [&done](std::size_t) { ++done; };
+        const auto stop = [](std::size_t, std::size_t) { throw WorkStopped(); };
+        EXPECT_THROW(ParallelFor(100000, work, stop, threads), WorkStopped);
+        EXPECT_LT(done, 100000U);
+        EXPECT_GE(done, 1U);
+    }
 }
 
 TEST(ParallelFor, ThrowsTheErrorOfTheLowestPieceAfterAllAreDone)

@@ -196,6 +196,8 @@ public:
     {
         flushes.push_back(flush);
     }
+    [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const fs::path&) override { return nullptr; }
+    [[nodiscard]] bool MayBeReplaced(const fs::path&) const override { return true; }
     void DeleteStaleFile(const fs::path&) override {}
 
     std::vector<Flush> flushes;

@@ -74,6 +74,7 @@ std::vector<FakeStretch::Call> FakeStretch::Calls() const
 FakeServices::FakeServices()
 {
     TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, &stretch, &sound, &playDisplay};
+    TheServices().wma = &wma;
     Shared() = SharedState();
     SharedState& shared = Shared();
     shared.BlankPic = OneColour(0x000001);

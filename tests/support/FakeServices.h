@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/Errors.h"
 #include "core/Picture.h"
 #include "core/Shared.h"
 #include "service/Desktop.h"
@@ -20,6 +21,7 @@
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
 #include "support/FakeSound.h"
+#include "support/FakeWma.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -49,8 +51,16 @@ public:
     void RestorePointer() override { --hourglasses; }
     void ShowProcessPic() override { ++processPics, ++processPicsShown; }
     void HideProcessPic() override { --processPics; }
-    void ShowProgress(std::size_t done, std::size_t total) override { lastProgress = {done, total}; }
+    void ShowProgress(std::size_t done, std::size_t total) override
+    {
+        lastProgress = {done, total};
+        if (progressesBeforeStop-- == 0)
+            throw WorkStopped();
+    }
     void EnableTuneNotFilledTimer() override { tuneNotFilledTimer = true; }
+    void BeginStoppable(std::string_view what) override { stages.emplace_back(what); }
+    void NextStage(std::string_view what) override { stages.emplace_back(what); }
+    void EndStoppable() override { stages.emplace_back(); }
 
     int hourglasses = 0; // shown now
     int hourglassesShown = 0;
@@ -58,6 +68,8 @@ public:
     int processPicsShown = 0;
     std::pair<std::size_t, std::size_t> lastProgress;
     bool tuneNotFilledTimer = false;
+    std::vector<std::string> stages; ///< of stoppable work, blank at its end
+    int progressesBeforeStop = -1;   ///< below 0: nobody stops the work
 };
 
 class FakeMachine : public Machine {
@@ -134,6 +146,7 @@ public:
     FakeStretch stretch;
     FakeSoundOutput sound;
     FakePlayDisplay playDisplay;
+    FakeWmaEncoder wma;
 };
 
 } // namespace sprout

@@ -14,6 +14,11 @@ public:
     {
         throw RunTimeError("No space left on device.");
     }
+    [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& /*target*/) override
+    {
+        throw RunTimeError("No space left on device.");
+    }
+    [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& /*target*/) const override { return true; }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
 };
 

@@ -28,10 +28,10 @@ constexpr mode_t kOwnerOnly = 0600;
 constexpr mode_t kAllButExecute = 0666;
 constexpr int kMostSavesAtOnce = 100; // hidden files of other running programs in one folder
 
+template <class Error = RunTimeError>
 [[noreturn]] void Fail(const fs::path& path, int error)
 {
-    throw RunTimeError("The file " + path.native() +
-                       " could not be written: " + std::generic_category().message(error) + ".");
+    throw Error("The file " + path.native() + " could not be written: " + std::generic_category().message(error) + ".");
 }
 
 /// An open file descriptor.
@@ -74,12 +74,14 @@ public:
     }
 
     void Write(std::span<const std::span<const std::byte>> pieces);
+    void MoveTo(std::uint64_t place);
     void TakeMode();
     void FlushToDisk();
     void MoveOver();
 
 private:
     int Create();
+    [[noreturn]] void FailToReplace() const;
 
     fs::path wanted;
     fs::path path;
@@ -178,6 +180,12 @@ void FileBeside::Write(std::span<const std::span<const std::byte>> pieces)
     }
 }
 
+void FileBeside::MoveTo(std::uint64_t place)
+{
+    if (::lseek(file.Number(), static_cast<off_t>(place), SEEK_SET) < 0)
+        Fail(wanted, errno);
+}
+
 /// The mode of the file that is replaced, or what a new file gets.
 void FileBeside::TakeMode()
 {
@@ -209,8 +217,17 @@ void FileBeside::MoveOver()
     if (const int error = file.Close(); error != 0)
         Fail(wanted, error);
     if (Uninterrupted([&] { return ::rename(path.c_str(), wanted.c_str()); }) != 0)
-        Fail(wanted, errno);
+        FailToReplace();
     moved = true;
+}
+
+void FileBeside::FailToReplace() const
+{
+    const int error = errno;
+    struct stat facts {};
+    if (::lstat(wanted.c_str(), &facts) == 0)
+        Fail<NotReplaced>(wanted, error);
+    Fail(wanted, error);
 }
 
 /// Lets the folder's entry reach the disk. Some file systems cannot; the rename itself has succeeded.
@@ -232,19 +249,51 @@ fs::path ThroughLinks(const fs::path& target)
     return error ? target : resolved;
 }
 
+class PosixReplacement : public Replacement {
+public:
+    explicit PosixReplacement(const fs::path& target) : file(ThroughLinks(target)), beside(file) {}
+
+    void Write(std::span<const std::byte> bytes) override { beside.Write({&bytes, 1}); }
+    void MoveTo(std::uint64_t place) override { beside.MoveTo(place); }
+    void PutInPlace(Flush flush) override
+    {
+        beside.TakeMode();
+        if (flush == Flush::Yes)
+            beside.FlushToDisk();
+        beside.MoveOver();
+        if (flush == Flush::Yes)
+            FlushFolder(file);
+    }
+
+    void WriteAll(std::span<const std::span<const std::byte>> pieces) { beside.Write(pieces); }
+
+private:
+    fs::path file;
+    FileBeside beside;
+};
+
 } // namespace
 
 void PosixFiles::ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush)
 {
+    PosixReplacement replacement(target);
+    replacement.WriteAll(pieces);
+    replacement.PutInPlace(flush);
+}
+
+std::unique_ptr<Replacement> PosixFiles::BeginReplacement(const fs::path& target)
+{
+    return std::make_unique<PosixReplacement>(target);
+}
+
+bool PosixFiles::MayBeReplaced(const fs::path& target) const
+{
     const fs::path file = ThroughLinks(target);
-    FileBeside beside(file);
-    beside.Write(pieces);
-    beside.TakeMode();
-    if (flush == Flush::Yes)
-        beside.FlushToDisk();
-    beside.MoveOver();
-    if (flush == Flush::Yes)
-        FlushFolder(file);
+    struct stat facts {};
+    if (::stat(file.c_str(), &facts) != 0)
+        return errno == ENOENT;
+    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
+    return S_ISREG(facts.st_mode) && ::access(file.c_str(), W_OK) == 0 && ::access(folder.c_str(), W_OK) == 0;
 }
 
 void PosixFiles::DeleteStaleFile(const fs::path& path)

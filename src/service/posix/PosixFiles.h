@@ -10,6 +10,8 @@ class PosixFiles : public Files {
 public:
     void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> pieces,
                      Flush flush) override;
+    [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& target) override;
+    [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& target) const override;
     void DeleteStaleFile(const std::filesystem::path& path) override;
 };
 

@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "songs/SongExport.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <ctime>
+#include <exception>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/Errors.h"
+#include "core/Numbers.h"
+#include "core/Shared.h"
+#include "core/Tell.h"
+#include "service/Files.h"
+#include "service/Screen.h"
+#include "service/Services.h"
+#include "service/WmaEncoder.h"
+#include "songs/WmaFormats.h"
+#include "sound/WavOperations.h"
+#include "sound/WaveBytes.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kNoFormats = "Failed to get WMA Codec Formats";
+constexpr const char* kNotWritten = "Failed to write WMA file";
+constexpr const char* kNotOpened = "Failed to open WMA Writer";
+constexpr const char* kNotTaken = "Failed Writing to WMA file";
+constexpr const char* kNotClosed = "Failed Closing WMA writer";
+constexpr std::int32_t kBlockSeconds = 10;
+
+/// The end of an export that `line1` explains.
+ExportOutcome Refused(const char* line1, std::string line2 = {})
+{
+    return {.Line1 = line1, .Line2 = std::move(line2)};
+}
+
+/// Fills the list of codecs. The message of a failure; nothing where the list is filled.
+std::optional<ExportOutcome> GetWmaCodecList(WmaEncoder& encoder)
+{
+    try {
+        if (!encoder.Load())
+            return Refused(kNoFormats);
+        const std::int32_t length = encoder.FormatListLength();
+        if (length < 1)
+            return Refused(kNoFormats);
+        const std::optional<std::string> list = encoder.FormatList();
+        if (!list)
+            return Refused(kNoFormats, "Length needed = " + std::to_string(length));
+        Shared().Wma.Codecs = ParseWmaCodecs(*list);
+        return std::nullopt;
+    } catch (const std::exception& error) {
+        return Refused(kNoFormats, ErrorText(error));
+    }
+}
+
+/// Chooses the format of exports, once. The end of the export where there is none: no format of that kind is told by
+/// the missing file alone.
+std::optional<ExportOutcome> SelectWmaCodec(WmaEncoder& encoder)
+{
+    WmaChoice& choice = Shared().Wma;
+    if (choice.CodecChosen)
+        return std::nullopt;
+    if (std::optional<ExportOutcome> failure = GetWmaCodecList(encoder))
+        return failure;
+    choice.ChosenCodec = -1;
+    choice.ChosenFormat = -1;
+    const std::optional<WmaFormatPlace> place = FindWmaFormat(choice.Codecs);
+    if (!place)
+        return ExportOutcome{};
+    choice.ChosenCodec = place->Codec;
+    choice.ChosenFormat = place->Format;
+    choice.CodecChosen = true;
+    return std::nullopt;
+}
+
+std::string ThisYear()
+{
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return std::to_string(local.tm_year + 1900);
+}
+
+WmaTags SongTags()
+{
+    return {.Title = Shared().Song.SongTitle,
+            .Author = Shared().Song.SongCreatedBy,
+            .Copyright = "All rights reserved",
+            .Rating = "",
+            .Year = ThisYear(),
+            .Description = std::string(kProductName) + " Song"};
+}
+
+/// The message of a wave that the encoder does not take.
+std::optional<ExportOutcome> RefusedFormat(const WaveData& wave)
+{
+    if (wave.Bits != 16)
+        return Refused(kNotWritten, "This WMA Writer can write only 16 bit wave file\r\nThis is " +
+                                        std::to_string(wave.Bits) + " bits");
+    if (wave.Channels != 2)
+        return Refused(kNotWritten, "This WMA Writer can write only stereo wave file\r\nThis is " +
+                                        std::to_string(wave.Channels) + " channel");
+    return std::nullopt;
+}
+
+/// Hands a wave's frames to `take` as bytes, at most `blockFrames` at a time, and shows how far it is. False where
+/// `take` was false.
+template <class Take>
+bool TakeBlocks(const WaveData& wave, std::int32_t blockFrames, Take take)
+{
+    CheckFrames(wave);
+    const auto frameBytes = static_cast<std::size_t>(FrameBytes(wave));
+    std::vector<std::byte> bytes(static_cast<std::size_t>(std::min(blockFrames, wave.Length)) * frameBytes);
+    for (std::int32_t done = 0; done < wave.Length;) {
+        const std::int32_t frames = std::min(wave.Length - done, blockFrames);
+        const auto block = std::span(bytes).first(static_cast<std::size_t>(frames) * frameBytes);
+        PackFrames(wave, done + 1, block);
+        if (!take(std::span<const std::byte>(block)))
+            return false;
+        done += frames;
+        TheServices().screen->ShowProgress(static_cast<std::size_t>(done), static_cast<std::size_t>(wave.Length));
+    }
+    return true;
+}
+
+/// The message of what fails while a WMA file is written; null where all is well.
+const char* EncodeWave(WmaEncoder& encoder, Replacement& target, const WaveData& wave)
+{
+    const std::unique_ptr<WmaFile> file = encoder.Open(
+        target, {wave.Rate, wave.Channels, wave.Bits, Shared().Wma.ChosenCodec, Shared().Wma.ChosenFormat});
+    if (!file)
+        return kNotOpened;
+    file->SetTags(SongTags());
+    const bool taken = TakeBlocks(wave, wave.Rate * kBlockSeconds,
+                                  [&file](std::span<const std::byte> block) { return file->Write(block); });
+    if (!taken) {
+        static_cast<void>(file->Close()); // the handle is released; the file is given up
+        return kNotTaken;
+    }
+    return file->Close() ? nullptr : kNotClosed;
+}
+
+/// Whether a whole file came into its target's place. Throws `RunTimeError` where the disk refuses it.
+ExportEnd PutInPlace(Replacement& file)
+{
+    try {
+        file.PutInPlace(Flush::Yes);
+        return ExportEnd::Written;
+    } catch (const NotReplaced&) {
+        return ExportEnd::NotReplaced;
+    }
+}
+
+void WriteWave(Replacement& file, const WaveData& wave)
+{
+    constexpr std::int32_t blockFrames = 65536;
+    constexpr auto headBytes = static_cast<std::int32_t>(kWaveHeadBytes);
+    const std::int32_t fileBytes = RoundHalfEven(static_cast<double>(FrameBytes(wave)) * wave.Length + headBytes);
+    auto head = WaveHead(wave);
+    SetWaveSizes(head, fileBytes - headBytes);
+    file.Write(head);
+    TakeBlocks(wave, blockFrames, [&file](std::span<const std::byte> block) {
+        file.Write(block);
+        return true;
+    });
+}
+
+} // namespace
+
+ExportOutcome WriteWavFile(const WaveData& wave, const fs::path& path)
+{
+    if (!MayWriteWave(wave, path))
+        return {};
+    try {
+        const std::unique_ptr<Replacement> file = TheServices().files->BeginReplacement(path);
+        WriteWave(*file, wave);
+        return {.End = PutInPlace(*file)};
+    } catch (const std::exception& error) {
+        Tell("Wav file Write error", ErrorText(error));
+        return {};
+    }
+}
+
+ExportOutcome WriteWmaFile(const WaveData& wave, const fs::path& path)
+{
+    WmaEncoder* const encoder = TheServices().wma;
+    if (!encoder)
+        return Refused(kNoFormats);
+    if (std::optional<ExportOutcome> failure = SelectWmaCodec(*encoder))
+        return *failure;
+    if (std::optional<ExportOutcome> refusal = RefusedFormat(wave))
+        return *refusal;
+    const char* failure = kNotOpened;
+    try {
+        const std::unique_ptr<Replacement> file = TheServices().files->BeginReplacement(path);
+        failure = EncodeWave(*encoder, *file, wave);
+        if (failure)
+            return Refused(failure);
+        failure = kNotClosed;
+        return wave.Length > 0 ? ExportOutcome{.End = PutInPlace(*file)} : ExportOutcome{};
+    } catch (const RunTimeError&) {
+        return Refused(failure);
+    }
+}
+
+} // namespace sprout
