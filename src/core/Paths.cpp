@@ -134,6 +134,13 @@ std::string SafeFileName(std::string_view name)
     return safe;
 }
 
+std::string ChosenFolder(const fs::path& file)
+{
+    const std::string text = PathText(file);
+    const auto separator = text.find_last_of('/');
+    return separator == std::string::npos || separator == 0 ? std::string() : text.substr(0, separator + 1);
+}
+
 void OpenWithShell(std::string_view target)
 {
     TheServices().desktop->OpenWithShell(target);

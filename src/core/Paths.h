@@ -36,6 +36,9 @@ bool DeleteFile(const std::filesystem::path& path);
 /// `name` with "_" for each character that file names cannot hold.
 [[nodiscard]] std::string SafeFileName(std::string_view name);
 
+/// The folder of a chosen file with a separator at its end, as the settings keep it; empty where it has none.
+[[nodiscard]] std::string ChosenFolder(const std::filesystem::path& file);
+
 /// Hands a file or an address to the desktop. Errors are ignored.
 void OpenWithShell(std::string_view target);
 

@@ -204,4 +204,13 @@ std::string_view FirstCharacters(std::string_view text, std::size_t count)
     return text.substr(0, end);
 }
 
+std::string_view CharactersInBytes(std::string_view text, std::size_t bytes)
+{
+    if (text.size() <= bytes)
+        return text;
+    while (bytes > 0 && (static_cast<unsigned char>(text[bytes]) & 0xC0U) == 0x80U)
+        --bytes;
+    return text.substr(0, bytes);
+}
+
 } // namespace sprout

@@ -45,4 +45,7 @@ namespace sprout {
 /// At most `count` characters of a UTF-8 text.
 [[nodiscard]] std::string_view FirstCharacters(std::string_view text, std::size_t count);
 
+/// The characters of a UTF-8 text that fit whole into its first `bytes`.
+[[nodiscard]] std::string_view CharactersInBytes(std::string_view text, std::size_t bytes);
+
 } // namespace sprout

@@ -16,7 +16,6 @@
 #include "song_window/SongList.h"
 #include "ui/Artwork.h"
 #include "ui/Dialogs.h"
-#include "ui/LaterCommands.h"
 #include "ui/Look.h"
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"
@@ -113,9 +112,9 @@ void SongSelFrm::MakeButtons()
                        [this] { Try("Error Renaming file", &SongSelFrm::RenameSelected); }),
         &AddWordButton({"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, [this] { ClickHelp(); })};
     soundFileButtons = {&AddWordButton({"SavWavBtn", "Wav file", kSavWavHint, Plate::Word, kLink, "WordWave"},
-                                       [] { ShowLaterCommand("SavWavBtn"); }),
+                                       [this] { SaveAsSound(SoundFileKind::Wav); }),
                         &AddWordButton({"SavWmaBtn", "Wma file", kSavWmaHint, Plate::Word, kLink, "WordWma"},
-                                       [] { ShowLaterCommand("SavWmaBtn"); })};
+                                       [this] { SaveAsSound(SoundFileKind::Wma); })};
 }
 
 void SongSelFrm::InitilizeThisWindow(SongSelMode newMode)
@@ -356,6 +355,13 @@ void SongSelFrm::RenameSelected()
     const auto renamed =
         std::find_if(songs.begin(), songs.end(), [&](const SongFile& candidate) { return candidate.Name == newName; });
     SelectRow(renamed == songs.end() ? -1 : static_cast<int>(renamed - songs.begin()));
+}
+
+/// The song counts as no more saved than before: the sound file is no song.
+void SongSelFrm::SaveAsSound(SoundFileKind kind)
+{
+    if (SaveSongAsSound(kind))
+        reject();
 }
 
 void SongSelFrm::ClickHelp()

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "sharing/ExportSong.h"
 #include "song_window/rules/SongChoice.h"
 #include "song_window/rules/SongFiles.h"
 #include "ui/BandedForm.h"
@@ -60,6 +61,7 @@ private:
     void CopySelected();
     void DeleteSelected();
     void RenameSelected();
+    void SaveAsSound(SoundFileKind kind);
     void ClickHelp();
     /// Runs a command on files; an error is told after `text`.
     void Try(std::string_view text, void (SongSelFrm::*command)());

@@ -79,10 +79,22 @@ void BandedForm::FitCaption()
 
 int BandedForm::ShowModal()
 {
-    const QPoint middle = screen()->availableGeometry().center();
-    move(middle - QPoint(width() / 2, height() / 2));
+    Centre();
     exec();
     return Result;
+}
+
+void BandedForm::Appear()
+{
+    Centre();
+    setWindowModality(Qt::ApplicationModal);
+    show();
+}
+
+void BandedForm::Centre()
+{
+    const QPoint middle = screen()->availableGeometry().center();
+    move(middle - QPoint(width() / 2, height() / 2));
 }
 
 void BandedForm::Answer(int result)

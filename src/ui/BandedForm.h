@@ -34,6 +34,9 @@ public:
     /// Centres the form on its screen, shows it modally and returns `Result`.
     int ShowModal();
 
+    /// Centres the form on its screen and shows it in front of all windows, without waiting for its answer.
+    void Appear();
+
     void reject() override;
 
 protected:
@@ -64,6 +67,7 @@ protected:
     [[nodiscard]] HintWatcher& Watcher() { return watcher; }
 
 private:
+    void Centre();
     void PaintBand(QPainter& painter) const;
     void PaintVine(QPainter& painter) const;
     void FitCaption();

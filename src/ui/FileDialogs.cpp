@@ -4,10 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QStandardPaths>
 
+#include <system_error>
 #include <utility>
 #include <vector>
 
+#include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Text.h"
 #include "ui/Dialogs.h"
@@ -64,28 +67,56 @@ QStringList FileNameFilters(const std::string& filter)
     return filters;
 }
 
-/// The folder to begin in: the one asked for, else the one last shown, else the user's documents.
-QString FirstShownFolder(const fs::path& wanted)
+QString DocumentsFolderShown()
+{
+    const QString documents = QFile::decodeName(Shared().DocumentsFolder.c_str());
+    return documents.isEmpty() ? QDir::homePath() : documents;
+}
+
+QString MusicFolderShown()
+{
+    const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    return QDir(music).exists() ? music : DocumentsFolderShown();
+}
+
+/// The folder to begin in: the one asked for, else the one last shown, else `otherwise`.
+QString FirstShownFolder(const fs::path& wanted, const QString& otherwise)
 {
     QString folder = QFile::decodeName(wanted.c_str());
     if (!folder.isEmpty() && QDir(folder).exists())
         return folder;
-    if (!LastShownFolder().isEmpty())
-        return LastShownFolder();
-    const QString documents = QFile::decodeName(Shared().DocumentsFolder.c_str());
-    return documents.isEmpty() ? QDir::homePath() : documents;
+    return LastShownFolder().isEmpty() ? otherwise : LastShownFolder();
 }
 
 void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
 {
     dialog.setObjectName(QStringLiteral("CommonDialog"));
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
     dialog.setNameFilters(FileNameFilters(question.Filter));
     dialog.setDefaultSuffix(QtText(question.DefaultExtension));
     if (!question.FileName.empty())
         dialog.selectFile(QtText(question.FileName));
+}
+
+std::optional<fs::path> AnswerOf(QFileDialog& dialog)
+{
+    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
+    LastShownFolder() = dialog.directory().absolutePath();
+    if (!chosen)
+        return std::nullopt;
+    return fs::path(QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString());
+}
+
+std::optional<fs::path> AskWhereToSave(const FileQuestion& question)
+{
+    if (!StandIns().empty())
+        return StandIns().back()(question);
+    QFileDialog dialog(WindowInFront(), QtText(question.Title), FirstShownFolder(question.Folder, MusicFolderShown()));
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    FillFileDialog(dialog, question);
+    return AnswerOf(dialog);
 }
 
 } // namespace
@@ -94,13 +125,25 @@ std::optional<fs::path> ChooseFileToOpen(const FileQuestion& question)
 {
     if (!StandIns().empty())
         return StandIns().back()(question);
-    QFileDialog dialog(WindowInFront(), QtText(question.Title), FirstShownFolder(question.Folder));
+    QFileDialog dialog(WindowInFront(), QtText(question.Title),
+                       FirstShownFolder(question.Folder, DocumentsFolderShown()));
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
     FillFileDialog(dialog, question);
-    const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
-    LastShownFolder() = dialog.directory().absolutePath();
-    if (!chosen)
-        return std::nullopt;
-    return fs::path(QFile::encodeName(dialog.selectedFiles().constFirst()).toStdString());
+    return AnswerOf(dialog);
+}
+
+std::optional<fs::path> ChooseFileToSave(const FileQuestion& question)
+{
+    FileQuestion asked = question;
+    for (;;) {
+        const std::optional<fs::path> answer = AskWhereToSave(asked);
+        std::error_code error;
+        if (!answer || fs::is_directory(answer->parent_path(), error))
+            return answer;
+        ShowMessage("This folder is not there.", PathText(answer->parent_path()));
+        asked.FileName = PathText(answer->filename());
+    }
 }
 
 FileChooserStandIn::FileChooserStandIn(Answer answer)

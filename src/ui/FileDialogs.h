@@ -20,6 +20,11 @@ struct FileQuestion {
 /// Asks for a file that exists; nothing if the question was cancelled.
 [[nodiscard]] std::optional<std::filesystem::path> ChooseFileToOpen(const FileQuestion& question);
 
+/// Asks where a file is to be saved, in a folder that is there; nothing if the question was cancelled. What stands
+/// there already is the caller's to ask about. Begins in the folder asked for, else in the one last shown, else in the
+/// user's music folder.
+[[nodiscard]] std::optional<std::filesystem::path> ChooseFileToSave(const FileQuestion& question);
+
 /// Takes the place of the desktop's dialog, as long as it lives: who cannot click a dialog of the desktop answers here.
 class FileChooserStandIn {
 public:

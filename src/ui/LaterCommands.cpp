@@ -23,8 +23,6 @@ constexpr std::array kLaterCommands{
     LaterCommand{"TrackAddRecBtn", "This program cannot record your voice yet.",
                  "Add a music track and choose a tune for it."},
     LaterCommand{"TrackAudioBtn", "This program cannot edit a recording yet.", "You can paint it and play it."},
-    LaterCommand{"SavWavBtn", "This program cannot make wav files yet.", "Click OK to save your song as a song."},
-    LaterCommand{"SavWmaBtn", "This program cannot make wma files yet.", "Click OK to save your song as a song."},
 };
 
 } // namespace

@@ -2,32 +2,56 @@
 #include "ui/QtScreen.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <QWindow>
 
 #include <utility>
+
+#include "core/Errors.h"
+#include "ui/Dialogs.h"
 
 namespace sprout {
 
 namespace {
 
 constexpr int kBlinkMs = 50;
+constexpr int kWorkFormAfterMs = 500;
+constexpr int kEventsEveryMs = 20;
+
+/// Lets no timer of other windows tick, as long as it lives.
+class TimersWait : public QObject {
+public:
+    TimersWait() { qApp->installEventFilter(this); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        return event->type() == QEvent::Timer && qobject_cast<QTimer*>(watched);
+    }
+};
 
 } // namespace
 
 void QtScreen::ShowHourglass()
 {
-    if (WindowHasAppeared())
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        ++waitingHourglasses;
+    ++hourglasses;
+    UpdateHourglass();
 }
 
 void QtScreen::RestorePointer()
 {
-    if (waitingHourglasses > 0)
-        --waitingHourglasses;
-    else
+    --hourglasses;
+    UpdateHourglass();
+}
+
+/// Nothing is to be pointed at before the window has appeared; the button of a work form is.
+void QtScreen::UpdateHourglass()
+{
+    const bool wanted = hourglasses > 0 && !workFrm && WindowHasAppeared();
+    if (wanted && !hourglassShown)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    if (!wanted && hourglassShown)
         QApplication::restoreOverrideCursor();
+    hourglassShown = wanted;
 }
 
 void QtScreen::ShowProcessPic()
@@ -46,11 +70,53 @@ void QtScreen::HideProcessPic()
 
 void QtScreen::ShowProgress(std::size_t done, std::size_t total)
 {
-    if (!processPic)
-        return;
-    if (sinceShown.isValid() && sinceShown.hasExpired(kBlinkMs))
-        LetWindowAppear();
-    processPic->ShowProgress(done, total);
+    if (processPic) {
+        if (sinceShown.isValid() && sinceShown.hasExpired(kBlinkMs))
+            LetWindowAppear();
+        processPic->ShowProgress(done, total);
+    }
+    if (sinceWorkBegan.isValid())
+        ShowWork(done, total);
+}
+
+void QtScreen::BeginStoppable(std::string_view what)
+{
+    stage = what;
+    sinceWorkBegan.start();
+}
+
+void QtScreen::NextStage(std::string_view what)
+{
+    stage = what;
+    if (workFrm)
+        workFrm->ShowStage(stage);
+}
+
+void QtScreen::EndStoppable()
+{
+    sinceWorkBegan.invalidate();
+    workFrm.reset();
+    UpdateHourglass();
+}
+
+void QtScreen::ShowWork(std::size_t done, std::size_t total)
+{
+    if (!workFrm) {
+        if (!sinceWorkBegan.hasExpired(kWorkFormAfterMs))
+            return;
+        workFrm = std::make_unique<WorkFrm>(WindowInFront(), stage);
+        workFrm->Appear();
+        UpdateHourglass();
+        sinceEvents.invalidate();
+    }
+    workFrm->ShowShare(done, total);
+    if (!sinceEvents.isValid() || sinceEvents.hasExpired(kEventsEveryMs)) {
+        const TimersWait wait;
+        QCoreApplication::processEvents();
+        sinceEvents.start();
+    }
+    if (workFrm->StopWanted())
+        throw WorkStopped();
 }
 
 bool QtScreen::WindowHasAppeared()
@@ -66,10 +132,7 @@ void QtScreen::LetWindowAppear()
 {
     if (!WindowHasAppeared() && processPic->window()->windowHandle())
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    if (!WindowHasAppeared())
-        return;
-    for (; waitingHourglasses > 0; --waitingHourglasses)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
+    UpdateHourglass();
 }
 
 void QtScreen::EnableTuneNotFilledTimer()

@@ -189,5 +189,12 @@ TEST_F(Paths, TakeTheBaseNameBetweenSeparatorAndLastDot)
     EXPECT_EQ(BaseName("É.wav"), "É");
 }
 
+TEST(ChosenFolder, EndsInASeparator)
+{
+    EXPECT_EQ(ChosenFolder("/home/child/Bell.wav"), "/home/child/");
+    EXPECT_EQ(ChosenFolder("/Bell.wav"), "");
+    EXPECT_EQ(ChosenFolder("Bell.wav"), "");
+}
+
 } // namespace
 } // namespace sprout

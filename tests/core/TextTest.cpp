@@ -102,5 +102,15 @@ TEST(NameKey, IsOneForNamesThatDifferInLetterCaseOrInFormOnly)
     EXPECT_NE(NameKey("Drum"), NameKey("Drum "));
 }
 
+TEST(CharactersInBytes, CutsNoCharacter)
+{
+    EXPECT_EQ(CharactersInBytes("song", 4), "song");
+    EXPECT_EQ(CharactersInBytes("song", 3), "son");
+    EXPECT_EQ(CharactersInBytes("sö", 2), "s");
+    EXPECT_EQ(CharactersInBytes("sö", 3), "sö");
+    EXPECT_EQ(CharactersInBytes("a\xF0\x9F\x8C\xB1", 4), "a");
+    EXPECT_EQ(CharactersInBytes("song", 0), "");
+}
+
 } // namespace
 } // namespace sprout

@@ -140,13 +140,6 @@ void DeleteBeatFiles(std::string_view name)
     DeleteFile(UserBeatFile(name, ".bmp"));
 }
 
-std::string ChosenFolder(const fs::path& file)
-{
-    const std::string text = PathText(file);
-    const auto separator = text.find_last_of('/');
-    return separator == std::string::npos || separator == 0 ? std::string() : text.substr(0, separator + 1);
-}
-
 std::string SecondsText(double value)
 {
     std::array<char, 32> text{};

@@ -35,9 +35,6 @@ void RenameBeatFiles(std::string_view oldName, std::string_view newName);
 /// Deletes the .wav and the .bmp of a beat in `UserBeats`; a failure is silent.
 void DeleteBeatFiles(std::string_view name);
 
-/// The folder of a chosen file with a separator at its end, as the settings keep it; empty where it has none.
-[[nodiscard]] std::string ChosenFolder(const std::filesystem::path& file);
-
 /// A number as text, with up to 15 digits.
 [[nodiscard]] std::string SecondsText(double value);
 

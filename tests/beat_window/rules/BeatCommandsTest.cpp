@@ -199,13 +199,6 @@ TEST_F(BeatCommandsTest, DeletesBothFilesWhateverTheirLetterCase)
     EXPECT_EQ(FilesOfUserBeats(), "stays.bmp stays.wav ");
 }
 
-TEST(ChosenFolder, EndsInASeparator)
-{
-    EXPECT_EQ(ChosenFolder("/home/child/Bell.wav"), "/home/child/");
-    EXPECT_EQ(ChosenFolder("/Bell.wav"), "");
-    EXPECT_EQ(ChosenFolder("Bell.wav"), "");
-}
-
 TEST(SecondsText, HasFifteenDigitsAndNoneThatAreNotNeeded)
 {
     EXPECT_EQ(SecondsText(10), "10");

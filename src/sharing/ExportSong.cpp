@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sharing/ExportSong.h"
+
+#include <exception>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+#include "core/Busy.h"
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Settings.h"
+#include "core/Shared.h"
+#include "service/Files.h"
+#include "service/Messages.h"
+#include "service/Services.h"
+#include "sharing/rules/ExportName.h"
+#include "songs/SongExport.h"
+#include "sound/TrackRender.h"
+#include "ui/Dialogs.h"
+#include "ui/FileDialogs.h"
+#include "ui/Hints.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kSoundFolder = "WavFileSelPath";
+
+/// The words and the writer of one kind of sound file.
+struct ExportKind {
+    std::string_view selectHint;
+    const char* dialogTitle;
+    const char* extension; ///< with its dot
+    const char* filter;
+    std::string_view savingHint;
+    std::string_view writingStage;
+    std::string_view saved;
+    std::string_view failed;
+    std::string_view error;
+    ExportOutcome (*write)(const WaveData&, const fs::path&);
+};
+
+constexpr ExportKind kWavKind{"Select wav file name to save the song as audio (.wav) file",
+                              "Please select a .wav file to save",
+                              ".wav",
+                              "Wave files(*.wav)|*.wav|All files|*.*",
+                              "Saving the song as audio (.wav) file",
+                              "Writing the wav file",
+                              "Good! Your song is saved as audio (.wav) file",
+                              "Failed to save the song as audio (.wav) file.",
+                              "Error saving song to wav file",
+                              WriteWavFile};
+
+constexpr ExportKind kWmaKind{"Select wma file name to save the song as audio (.wma) file",
+                              "Please select a WMA file name to save",
+                              ".wma",
+                              "Windows Media Audio files(*.wma)|*.wma|All files|*.*",
+                              "Saving the song as audio (.wma) file",
+                              "Writing the wma file",
+                              "Good! Your song is saved as audio (.wma) file",
+                              "Failed to save the song as audio (.wma) file.",
+                              "Error saving song to wma",
+                              WriteWmaFile};
+
+void HintExport(std::string_view text)
+{
+    ShowHint(QtText(text));
+}
+
+bool MayOverwriteSound(const fs::path& target)
+{
+    std::error_code error;
+    // What is no plain file is refused later, without a question.
+    return !fs::is_regular_file(target, error) ||
+           AskYesNo("A file with this name already exists: " + PathText(target.filename()),
+                    "Do you wish to overwrite?") == 1;
+}
+
+/// The file to save to, its extension right and what stands there allowed to go; nothing if that was cancelled.
+std::optional<fs::path> AskForSoundFile(const ExportKind& kind)
+{
+    FileQuestion question{kind.dialogTitle, GetSetting("General", kSoundFolder, ""),
+                          OfferedName(Shared().Song.SongTitle, kind.extension), kind.extension + 1, kind.filter};
+    for (;;) {
+        const std::optional<fs::path> answer = ChooseFileToSave(question);
+        if (!answer)
+            return std::nullopt;
+        fs::path target = WithExtension(*answer, kind.extension);
+        if (MayOverwriteSound(target))
+            return target;
+        question.Folder = target.parent_path();
+        question.FileName = PathText(target.filename());
+    }
+}
+
+void KeepSoundFolder(const fs::path& target)
+{
+    if (const std::string folder = ChosenFolder(target); !folder.empty())
+        PutSetting("General", kSoundFolder, folder);
+}
+
+ExportOutcome MixAndWrite(const ExportKind& kind, const fs::path& target)
+{
+    HintExport(kind.savingHint);
+    StoppableWork work("Mixing your song");
+    MixSong();
+    HintExport("");
+    work.GoOnWith(kind.writingStage);
+    const WorkingSign sign;
+    return kind.write(Shared().Song.SongMix, target);
+}
+
+void TellNotReplaced(const fs::path& target)
+{
+    ShowMessage("File could not be deleted.", PathText(target));
+}
+
+/// Returns whether the song window is to hide.
+bool SaveTo(const ExportKind& kind, const fs::path& target)
+{
+    if (!TheServices().files->MayBeReplaced(target)) {
+        TellNotReplaced(target);
+        return false;
+    }
+    const ExportOutcome outcome = MixAndWrite(kind, target);
+    if (!outcome.Line1.empty())
+        ShowMessage(outcome.Line1, outcome.Line2);
+    if (outcome.End == ExportEnd::NotReplaced) {
+        TellNotReplaced(target);
+        return false;
+    }
+    if (outcome.End == ExportEnd::Written)
+        ShowMessage(kind.saved, PathText(target.filename()));
+    else
+        ShowMessage(kind.failed);
+    return true;
+}
+
+} // namespace
+
+bool SaveSongAsSound(SoundFileKind soundFile)
+{
+    const ExportKind& kind = soundFile == SoundFileKind::Wav ? kWavKind : kWmaKind;
+    try {
+        HintExport(kind.selectHint);
+        const std::optional<fs::path> target = AskForSoundFile(kind);
+        HintExport("");
+        if (!target)
+            return false;
+        KeepSoundFolder(*target);
+        return SaveTo(kind, *target);
+    } catch (const WorkStopped&) {
+        HintExport("");
+    } catch (const std::exception& error) {
+        HintExport("");
+        TheServices().messages->MessageBox("", std::string(kind.error) + "\r\n" + ErrorText(error));
+    }
+    return false;
+}
+
+} // namespace sprout
