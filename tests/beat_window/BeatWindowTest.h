@@ -19,54 +19,11 @@
 #include "beat_window/BeatWindow.h"
 #include "sound/PlayTest.h"
 #include "support/FakeServices.h"
+#include "ui/FormAnswers.h"
 #include "ui/Hints.h"
 #include "ui/ModalSteps.h"
 
 namespace sprout {
-
-/// Answers the forms that come one after the other with a button each, and notes their lines and the hint that stood
-/// then, joined by bars.
-class FormAnswers : public QObject {
-public:
-    FormAnswers(QLabel& hints, std::vector<std::string> names) : statusLbl(hints), buttons(std::move(names))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        auto* form = qobject_cast<BandedForm*>(watched);
-        if (event->type() == QEvent::Show && form && form->objectName() != QStringLiteral("BeatWindow")) {
-            // The pointer may move over the form as soon as it stands.
-            hint = statusLbl.text().toStdString();
-            QTimer::singleShot(0, form, [this, form] { Answer(*form); });
-        }
-        return false;
-    }
-
-    std::vector<std::string> seen;
-    QString caption; ///< of the last form
-    QString typed;   ///< into a box, before its button is clicked
-
-private:
-    void Answer(BandedForm& form)
-    {
-        std::string lines;
-        for (const char* name : {"NoteLbl", "NoteLbl1", "NoteLbl2"})
-            if (const auto* label = form.findChild<QLabel*>(QString::fromLatin1(name)))
-                lines += label->text().toStdString() + "|";
-        seen.push_back(lines + hint);
-        caption = form.windowTitle();
-        if (auto* box = form.findChild<QLineEdit*>(QStringLiteral("InputTxt")))
-            box->setText(typed);
-        const std::string button = seen.size() <= buttons.size() ? buttons[seen.size() - 1] : "OkBtn";
-        Click(form, button.c_str());
-    }
-
-    QLabel& statusLbl;
-    std::string hint;
-    std::vector<std::string> buttons;
-};
 
 /// The beat window on a folder of beats of the test's own.
 class BeatWindowTest : public PlayTest {

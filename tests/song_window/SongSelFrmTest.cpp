@@ -5,15 +5,14 @@
 
 #include <QClipboard>
 
-#include <linux/capability.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-
 #include "core/Shared.h"
 #include "service/Services.h"
+#include "sound/WavOperations.h"
 #include "support/FakeServices.h"
 #include "support/FullDisk.h"
 #include "support/TestFolder.h"
+#include "support/UnchangeableFolder.h"
+#include "ui/FileDialogs.h"
 #include "ui/HelpFrm.h"
 #include "ui/ModalSteps.h"
 
@@ -24,37 +23,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace fs = std::filesystem;
-
-/// A folder in which nothing can be deleted as long as it lives, not by root either, who lays down the right to all.
-class UnchangeableFolder {
-public:
-    explicit UnchangeableFolder(const fs::path& lockedFolder) : folder(lockedFolder)
-    {
-        fs::permissions(folder, fs::perms::owner_read | fs::perms::owner_exec);
-        EXPECT_EQ(syscall(SYS_capget, &head, rights), 0);
-        rightsBefore = rights[0].effective;
-        SetRights(rightsBefore & ~(1U << CAP_DAC_OVERRIDE));
-    }
-    UnchangeableFolder(const UnchangeableFolder&) = delete;
-    UnchangeableFolder& operator=(const UnchangeableFolder&) = delete;
-    ~UnchangeableFolder()
-    {
-        SetRights(rightsBefore);
-        fs::permissions(folder, fs::perms::owner_all);
-    }
-
-private:
-    void SetRights(std::uint32_t effective)
-    {
-        rights[0].effective = effective;
-        EXPECT_EQ(syscall(SYS_capset, &head, rights), 0);
-    }
-
-    fs::path folder;
-    __user_cap_header_struct head{_LINUX_CAPABILITY_VERSION_3, 0};
-    __user_cap_data_struct rights[2]{};
-    std::uint32_t rightsBefore = 0;
-};
 
 /// What a message or a question showed.
 struct Told {
@@ -694,11 +662,27 @@ TEST_F(SongSelFrmTest, ShowsTheHintOfTheListByItsMode)
     }
 }
 
-TEST_F(SongSelFrmTest, TheSoundFilesAreForLater)
+TEST_F(SongSelFrmTest, ASoundFileHidesTheWindowWithoutSavingASong)
+{
+    Shared().Song.SongMix = EmptyWave();
+    Shared().Song.SongMixValid = true;
+    const FileChooserStandIn dialog([this](const FileQuestion&) { return services.folder.Path() / "Mine"; });
+    for (const char* button : {"SavWavBtn", "SavWmaBtn"}) {
+        Open(SongSelMode::Save);
+        const Told told = ClickAndAnswer(button, "OkBtn");
+        EXPECT_THAT(told.line1.toStdString(), testing::StartsWith("Failed to save the song as audio")) << button;
+        EXPECT_FALSE(form.isVisible());
+        EXPECT_FALSE(form.Ok);
+        EXPECT_EQ(statusLbl.text(), QString());
+    }
+}
+
+TEST_F(SongSelFrmTest, ACancelledSoundFileLeavesTheWindowOpen)
 {
     Open(SongSelMode::Save);
-    EXPECT_EQ(ClickAndAnswer("SavWavBtn", "OkBtn").line1, QStringLiteral("This program cannot make wav files yet."));
-    EXPECT_EQ(ClickAndAnswer("SavWmaBtn", "OkBtn").line1, QStringLiteral("This program cannot make wma files yet."));
+    const FileChooserStandIn dialog([](const FileQuestion&) { return std::nullopt; });
+    Click(form, "SavWavBtn");
+    Click(form, "SavWmaBtn");
     EXPECT_TRUE(form.isVisible());
 }
 

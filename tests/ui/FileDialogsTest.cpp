@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QLineEdit>
 #include <QTimer>
 
 #include <functional>
@@ -14,6 +15,7 @@
 
 #include "core/Paths.h"
 #include "support/FakeServices.h"
+#include "ui/ModalSteps.h"
 
 namespace sprout {
 namespace {
@@ -34,7 +36,7 @@ protected:
             if (dialog)
                 steps(*dialog);
         });
-        const auto answer = ChooseFileToOpen(question);
+        const auto answer = choose(question);
         EXPECT_TRUE(stood);
         return answer;
     }
@@ -45,7 +47,15 @@ protected:
                 "Wave files(*.wav)|*.wav|All files|*.*"};
     }
 
+    static inline std::optional<std::filesystem::path> (*choose)(const FileQuestion&) = ChooseFileToOpen;
     FakeServices services;
+};
+
+/// The same for a file that is to be saved.
+class ChooseFileToSaveTest : public ChooseFileToOpenTest {
+protected:
+    ChooseFileToSaveTest() { choose = ChooseFileToSave; }
+    ~ChooseFileToSaveTest() override { choose = ChooseFileToOpen; }
 };
 
 TEST_F(ChooseFileToOpenTest, ReturnsTheChosenFile)
@@ -133,6 +143,54 @@ TEST_F(ChooseFileToOpenTest, IsAnsweredByAStandInAsLongAsItLives)
         EXPECT_EQ(ChooseFileToOpen(Question()), std::nullopt);
     }
     EXPECT_EQ(ChooseFileToOpen(Question()), std::filesystem::path("/outer.wav"));
+}
+
+TEST_F(ChooseFileToSaveTest, OffersANameAndReturnsWhatIsTyped)
+{
+    FileQuestion question = Question();
+    question.FileName = "Zumi.wav";
+    const auto answer = Ask(question, [](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        auto* name = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+        EXPECT_EQ(name->text(), QStringLiteral("Zumi.wav"));
+        name->setText(QStringLiteral("Mine"));
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(answer, services.folder.Path() / "Mine.wav");
+}
+
+TEST_F(ChooseFileToSaveTest, LeavesTheQuestionOfOverwritingToItsCaller)
+{
+    const auto file = services.folder.Path() / "Zumi.wav";
+    WriteBytes(file, "wave");
+    FileQuestion question = Question();
+    question.FileName = "Zumi.wav";
+    EXPECT_EQ(Ask(question, [](QFileDialog& dialog) { static_cast<QDialog&>(dialog).accept(); }), file);
+}
+
+TEST_F(ChooseFileToSaveTest, AsksAgainWhereTheFolderIsNotThere)
+{
+    int asked = 0;
+    const FileChooserStandIn dialog([&](const FileQuestion& question) -> std::optional<std::filesystem::path> {
+        if (asked++ == 0)
+            return services.folder.Path() / "gone" / "Zumi.wav";
+        EXPECT_EQ(question.FileName, "Zumi.wav");
+        return std::nullopt;
+    });
+    QString note;
+    WithNextForm([&note](BandedForm& form) {
+        note = form.findChild<QLabel*>(QStringLiteral("NoteLbl1"))->text();
+        Click(form, "OkBtn");
+    });
+    EXPECT_EQ(ChooseFileToSave(Question()), std::nullopt);
+    EXPECT_EQ(note, QStringLiteral("This folder is not there."));
+    EXPECT_EQ(asked, 2);
+}
+
+TEST_F(ChooseFileToSaveTest, TakesABareName)
+{
+    const FileChooserStandIn dialog([](const FileQuestion&) { return std::filesystem::path("bare.wav"); });
+    EXPECT_EQ(ChooseFileToSave(Question()), std::filesystem::path("bare.wav"));
 }
 
 } // namespace

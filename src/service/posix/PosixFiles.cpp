@@ -249,6 +249,11 @@ fs::path ThroughLinks(const fs::path& target)
     return error ? target : resolved;
 }
 
+bool MayWrite(const fs::path& path)
+{
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
+}
+
 class PosixReplacement : public Replacement {
 public:
     explicit PosixReplacement(const fs::path& target) : file(ThroughLinks(target)), beside(file) {}
@@ -293,7 +298,7 @@ bool PosixFiles::MayBeReplaced(const fs::path& target) const
     if (::stat(file.c_str(), &facts) != 0)
         return errno == ENOENT;
     const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-    return S_ISREG(facts.st_mode) && ::access(file.c_str(), W_OK) == 0 && ::access(folder.c_str(), W_OK) == 0;
+    return S_ISREG(facts.st_mode) && MayWrite(file) && MayWrite(folder);
 }
 
 void PosixFiles::DeleteStaleFile(const fs::path& path)

@@ -15,6 +15,7 @@
 
 #include "core/Errors.h"
 #include "support/TestFolder.h"
+#include "support/UnchangeableFolder.h"
 
 namespace sprout {
 namespace {
@@ -129,6 +130,83 @@ TEST_F(FilesOnDisk, FollowNoLinkUnderTheHiddenName)
     Save(In("song"), "new");
     EXPECT_EQ(ReadBytes(In("victim")), "kept");
     EXPECT_TRUE(fs::is_symlink(In(".TqkSave1")));
+}
+
+TEST_F(FilesOnDisk, ReplaceAFilePieceByPiece)
+{
+    WriteBytes(In("song"), "old");
+    const auto bytes = [](std::string_view text) { return std::as_bytes(std::span(text)); };
+    const auto file = PosixFiles().BeginReplacement(In("song"));
+    file->Write(bytes("head"));
+    file->Write({});
+    file->MoveTo(6);
+    file->Write(bytes("tail"));
+    file->MoveTo(0);
+    file->Write(bytes("HE"));
+    EXPECT_EQ(ReadBytes(In("song")), "old") << "until it is put in place";
+    file->PutInPlace(Flush::Yes);
+    EXPECT_EQ(ReadBytes(In("song")), std::string("HEad\0\0tail", 10));
+    EXPECT_EQ(Names(), std::vector<std::string>{"song"});
+}
+
+TEST_F(FilesOnDisk, LeaveNothingOfAReplacementThatIsGivenUp)
+{
+    WriteBytes(In("song"), "old");
+    {
+        const auto file = PosixFiles().BeginReplacement(In("song"));
+        file->Write(std::as_bytes(std::span(std::string_view("new"))));
+        EXPECT_EQ(Names().size(), 2U);
+    }
+    EXPECT_EQ(ReadBytes(In("song")), "old");
+    EXPECT_EQ(Names(), std::vector<std::string>{"song"});
+}
+
+TEST_F(FilesOnDisk, TellWhatDoesNotGiveWay)
+{
+    fs::create_directory(In("folder"));
+    EXPECT_THROW(PosixFiles().BeginReplacement(In("folder"))->PutInPlace(Flush::No), NotReplaced);
+    // Here nothing stands in the way: the name itself cannot be.
+    const auto file = PosixFiles().BeginReplacement(In(std::string(300, 'n')));
+    try {
+        file->PutInPlace(Flush::No);
+        ADD_FAILURE() << "the name is too long";
+    } catch (const NotReplaced&) {
+        ADD_FAILURE() << "there is nothing to be replaced";
+    } catch (const RunTimeError&) {
+    }
+    EXPECT_THROW(static_cast<void>(PosixFiles().BeginReplacement(In("missing/file"))), RunTimeError);
+}
+
+TEST_F(FilesOnDisk, KnowWhatMayBeReplaced)
+{
+    const PosixFiles files;
+    WriteBytes(In("song"), "old");
+    fs::create_directory(In("folder"));
+    fs::create_symlink(In("song"), In("link"));
+    fs::create_symlink(In("nothing"), In("dangling"));
+    ASSERT_EQ(::mkfifo(In("pipe").c_str(), 0600), 0);
+    EXPECT_TRUE(files.MayBeReplaced(In("nothing")));
+    EXPECT_TRUE(files.MayBeReplaced(In("song")));
+    EXPECT_TRUE(files.MayBeReplaced(In("link")));
+    EXPECT_TRUE(files.MayBeReplaced(In("dangling")));
+    EXPECT_FALSE(files.MayBeReplaced(In("folder")));
+    EXPECT_FALSE(files.MayBeReplaced(In("pipe")));
+    EXPECT_FALSE(files.MayBeReplaced("/dev/null"));
+}
+
+TEST_F(FilesOnDisk, KnowThatAProtectedFileOrFolderMayNotBeReplaced)
+{
+    const PosixFiles files;
+    WriteBytes(In("song"), "old");
+    {
+        const UnchangeableFolder locked(folder.Path());
+        EXPECT_FALSE(files.MayBeReplaced(In("song"))) << "its folder cannot be changed";
+        EXPECT_TRUE(files.MayBeReplaced(In("nothing"))) << "that fails when it is written";
+    }
+    fs::create_directory(In("other"));
+    fs::permissions(In("song"), fs::perms::owner_read);
+    const UnchangeableFolder rightsLaidDown(In("other"));
+    EXPECT_FALSE(files.MayBeReplaced(In("song"))) << "the file is protected";
 }
 
 TEST_F(FilesOnDisk, DeleteStaleFilesUnlessTheyAreHeld)
