@@ -68,11 +68,7 @@ private:
     {
         if (whence == AVSEEK_SIZE)
             return size;
-        if (whence == SEEK_CUR)
-            offset += place;
-        if (whence == SEEK_END)
-            offset += size;
-        if (offset < 0)
+        if (whence != SEEK_SET || offset < 0) // FFmpeg counts from the begin
             return AVERROR(EINVAL);
         if (!Try([&] { file.MoveTo(static_cast<std::uint64_t>(offset)); }))
             return AVERROR(EIO);
