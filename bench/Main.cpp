@@ -11,12 +11,15 @@
 #include <string_view>
 #include <vector>
 
+#include "BenchFacts.h"
 #include "BenchSounds.h"
+#include "Export.h"
 #include "Yardsticks.h"
 #include "core/Shared.h"
 #include "service/Messages.h"
 #include "service/Screen.h"
 #include "service/Services.h"
+#include "service/ffmpeg/FfmpegWmaEncoder.h"
 #include "service/posix/PosixFiles.h"
 #include "service/stretch/StretchService.h"
 #include "songs/OpenSaveClass.h"
@@ -69,13 +72,6 @@ std::vector<WaveData>& StepSounds()
         return made;
     }();
     return sounds;
-}
-
-/// The song's files lie where bench/compare says.
-std::filesystem::path SongFile()
-{
-    const char* named = std::getenv("SPROUT_BENCH_SONG"); // NOLINT(concurrency-mt-unsafe)
-    return named ? named : "bench.TqSng";
 }
 
 void Mix(benchmark::State& state)
@@ -164,7 +160,7 @@ void StepsWholeWay(benchmark::State& state)
 
 void Load(benchmark::State& state)
 {
-    const std::filesystem::path file = SongFile();
+    const std::filesystem::path file = BenchSong();
     for ([[maybe_unused]] auto _ : state) {
         OpenSaveClass().Load_Song(file);
         state.PauseTiming();
@@ -175,8 +171,8 @@ void Load(benchmark::State& state)
 
 void Save(benchmark::State& state)
 {
-    OpenSaveClass().Load_Song(SongFile());
-    const std::filesystem::path target = SongFile().native() + ".saved";
+    OpenSaveClass().Load_Song(BenchSong());
+    const std::filesystem::path target = BenchSong().native() + ".saved";
     for ([[maybe_unused]] auto _ : state) {
         state.PauseTiming();
         std::filesystem::remove(target);
@@ -212,7 +208,7 @@ std::vector<std::filesystem::path> MakeTunes(const std::filesystem::path& folder
 
 void ListTunes(benchmark::State& state)
 {
-    const std::filesystem::path folder = SongFile().native() + ".tunes";
+    const std::filesystem::path folder = BenchSong().native() + ".tunes";
     const std::vector<std::filesystem::path> paths = MakeTunes(folder);
     std::size_t next = 0;
     for ([[maybe_unused]] auto _ : state)
@@ -220,26 +216,13 @@ void ListTunes(benchmark::State& state)
     std::filesystem::remove_all(folder);
 }
 
-/// A line "name: n kB" of /proc/self/status, in bytes.
-std::int64_t StatusBytes(std::string_view name)
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;) {
-        std::int64_t kibibytes = 0;
-        if (word == name && status >> kibibytes)
-            return kibibytes * 1024;
-    }
-    return 0;
-}
-
 /// Prints the bytes that a mix of the full song needs at its peak above the loaded song.
 int PrintMemory()
 {
     MakeFullSong();
-    std::ofstream("/proc/self/clear_refs") << "5"; // the peak begins anew
-    const std::int64_t before = StatusBytes("VmRSS:");
+    const std::int64_t before = RestartMemoryPeak();
     MixSong();
-    std::printf("%lld\n", static_cast<long long>(StatusBytes("VmHWM:") - before));
+    std::printf("%lld\n", static_cast<long long>(MemoryPeak() - before));
     return Shared().Song.SongMix.Length >= kFullSongFrames ? 0 : 1;
 }
 
@@ -272,6 +255,8 @@ int RunBenchmarks(int argc, char** argv)
     add("steps-all-cores", StepsWholeWay<0>);
     add("load", Load);
     add("save", Save);
+    add("wav-export", WavExport);
+    add("wma-export", WmaExport);
     benchmark::RegisterBenchmark("list-tunes", ListTunes)
         ->Iterations(5000)
         ->UseRealTime()
@@ -287,7 +272,8 @@ int Run(int argc, char** argv)
     NoScreen screen;
     PosixFiles files;
     const std::unique_ptr<Stretch> stretch = MakeStretch();
-    TheServices() = {&messages, &screen, &files, nullptr, nullptr, nullptr, stretch.get()};
+    FfmpegWmaEncoder wma;
+    TheServices() = {.messages = &messages, .screen = &screen, .files = &files, .stretch = stretch.get(), .wma = &wma};
     const std::vector<std::string_view> words(argv + 1, argv + argc);
     if (words.size() == 1 && words[0] == "--memory")
         return PrintMemory();
@@ -295,6 +281,14 @@ int Run(int argc, char** argv)
         return WriteWaves(words[1]);
     if (words.size() == 2 && words[0] == "--write-song")
         return WriteSong(words[1]);
+    if (words.size() == 2 && words[0] == "--write-mix")
+        return WriteMix(words[1]);
+    if (words.size() == 2 && words[0] == "--memory-wav-export")
+        return PrintWavMemory(words[1]);
+    if (words.size() == 2 && words[0] == "--memory-wma-export")
+        return PrintWmaMemory(words[1]);
+    if (words.size() == 3 && words[0] == "--wma")
+        return EncodeWavFile(words[1], words[2]);
     return RunBenchmarks(argc, argv);
 }
 

@@ -14,12 +14,12 @@ class Replacement;
 
 /// What a WMA file tells of itself, in UTF-8. An empty text is left out.
 struct WmaTags {
-    std::string Title;
-    std::string Author;
-    std::string Copyright;
-    std::string Rating;
-    std::string Year;
-    std::string Description;
+    std::string Title{};
+    std::string Author{};
+    std::string Copyright{};
+    std::string Rating{};
+    std::string Year{};
+    std::string Description{};
 };
 
 /// What is to be encoded, and how.

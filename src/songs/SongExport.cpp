@@ -202,9 +202,9 @@ ExportOutcome WriteWmaFile(const WaveData& wave, const fs::path& path)
     const char* failure = kNotOpened;
     try {
         const std::unique_ptr<Replacement> file = TheServices().files->BeginReplacement(path);
-        failure = EncodeWave(*encoder, *file, wave);
-        if (failure)
-            return Refused(failure);
+        failure = kNotTaken;
+        if (const char* const told = EncodeWave(*encoder, *file, wave))
+            return Refused(told);
         failure = kNotClosed;
         return wave.Length > 0 ? ExportOutcome{.End = PutInPlace(*file)} : ExportOutcome{};
     } catch (const RunTimeError&) {

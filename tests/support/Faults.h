@@ -7,10 +7,10 @@
 namespace sprout {
 
 /// The system calls of a file's replacement, which a program linked with `--wrap` for each of them can let fail.
-enum class SystemCall { Open, Writev, Fchmod, Fsync, Close, Rename };
-inline constexpr std::size_t kSystemCalls = 6;
-inline constexpr std::array<const char*, kSystemCalls> kCallNames = {"open",  "writev", "fchmod",
-                                                                     "fsync", "close",  "rename"};
+enum class SystemCall { Open, Writev, Fchmod, Fsync, Close, Rename, Lseek };
+inline constexpr std::size_t kSystemCalls = 7;
+inline constexpr std::array<const char*, kSystemCalls> kCallNames = {"open",  "writev", "fchmod", "fsync",
+                                                                     "close", "rename", "lseek"};
 
 enum class Fault {
     None,

@@ -24,6 +24,7 @@ namespace fs = std::filesystem;
 
 const std::string kOld(3000, 'o');
 const std::string kNew(200000, 'n');
+constexpr std::size_t kCallsOfASave = kSystemCalls - 1; // all but lseek, the last of them
 
 class ReplaceFile : public testing::Test {
 protected:
@@ -73,7 +74,7 @@ std::vector<int> CallsOfASave()
 TEST_F(ReplaceFile, MakesEveryCallThatTheFaultsHit)
 {
     const std::vector<int> calls = CallsOfASave();
-    for (std::size_t call = 0; call < kSystemCalls; ++call)
+    for (std::size_t call = 0; call < kCallsOfASave; ++call)
         EXPECT_GE(calls[call], 1) << kCallNames[call];
 }
 
@@ -97,7 +98,7 @@ TEST_F(ReplaceFile, LeavesTheOldOrTheNewFileWholeWhereACallFailsOnce)
 
 TEST_F(ReplaceFile, LeavesTheOldFileAndTellsWhereACallFailsForGood)
 {
-    for (std::size_t call = 0; call < kSystemCalls; ++call) {
+    for (std::size_t call = 0; call < kCallsOfASave; ++call) {
         for (const int error : {EIO, ENOSPC, EACCES}) {
             SCOPED_TRACE(std::string(kCallNames[call]) + " " + std::to_string(error));
             WriteBytes(Target(), kOld);

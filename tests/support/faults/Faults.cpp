@@ -64,6 +64,7 @@ extern "C" {
 
 int __real_open(const char* path, int flags, ...);
 ssize_t __real_writev(int descriptor, const iovec* blocks, int count);
+off_t __real_lseek(int descriptor, off_t offset, int whence);
 int __real_fchmod(int descriptor, mode_t mode);
 int __real_fsync(int descriptor);
 int __real_close(int descriptor);
@@ -90,6 +91,11 @@ ssize_t __wrap_writev(int descriptor, const iovec* blocks, int count)
         return __real_writev(descriptor, &part, 1);
     }
     return Behind(SystemCall::Writev, __real_writev(descriptor, blocks, count));
+}
+
+off_t __wrap_lseek(int descriptor, off_t offset, int whence)
+{
+    return Fails(SystemCall::Lseek) ? -1 : Behind(SystemCall::Lseek, __real_lseek(descriptor, offset, whence));
 }
 
 int __wrap_fchmod(int descriptor, mode_t mode)
