@@ -23,6 +23,7 @@
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"
 #include "ui/ProcessPic.h"
+#include "ui/WorkFrm.h"
 
 namespace sprout {
 namespace {
@@ -290,6 +291,9 @@ void DrawForms(const QString& folder)
     window.show();
     sign.ShowProgress(12, 20);
     sheet.Add(window);
+    WorkFrm work(nullptr, "Writing the wav file");
+    work.ShowShare(3, 5);
+    sheet.Add(work);
     sheet.SaveTo(folder);
 }
 

@@ -37,6 +37,11 @@ public:
         throw RunTimeError(PathText(target) + " is not written.");
     }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
+    [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& /*target*/) override
+    {
+        return nullptr;
+    }
+    [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& /*target*/) const override { return false; }
 };
 
 /// There is no main window; the tune window shows its tune.

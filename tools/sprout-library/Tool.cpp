@@ -111,7 +111,7 @@ int Run(Session& session, const std::vector<std::string>& words)
 int RunTool(const std::vector<std::string>& words, std::ostream& out, std::ostream& err)
 {
     try {
-        Session session(out, err, fs::temp_directory_path(), false);
+        Session session(out, err, fs::temp_directory_path(), false, StandardErrorIsWatched());
         return Run(session, words);
     } catch (const std::exception& error) {
         err << "sprout-library: " << error.what() << '\n';

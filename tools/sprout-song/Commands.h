@@ -23,6 +23,7 @@ struct Command {
 
 bool RunInfo(Session& session, const Arguments& arguments);
 bool RunRender(Session& session, const Arguments& arguments);
+bool RunExport(Session& session, const Arguments& arguments);
 bool RunCycle(Session& session, const Arguments& arguments);
 bool RunResave(Session& session, const Arguments& arguments);
 bool RunConvert(Session& session, const Arguments& arguments);

@@ -54,6 +54,14 @@ Facts WaveFacts(const WaveData& wave)
     return {{"bits", wave.Bits}, {"channels", wave.Channels}, {"rate", wave.Rate}, {"length", wave.Length}};
 }
 
+Facts EncodedFacts(const SoundFacts& sound)
+{
+    return {{"codec", sound.Codec},        {"bit_rate", sound.BitRate}, {"channels", sound.Channels},
+            {"rate", sound.Rate},          {"seconds", sound.Seconds},  {"title", sound.Title},
+            {"author", sound.Author},      {"year", sound.Year},        {"copyright", sound.Copyright},
+            {"description", sound.Comment}};
+}
+
 Facts TuneFacts(const Tune& tune)
 {
     Facts steps = Facts::array();

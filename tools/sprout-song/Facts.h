@@ -5,6 +5,7 @@
 
 #include "core/Song.h"
 #include "core/WaveData.h"
+#include "service/ffmpeg/SoundFacts.h"
 
 namespace sprout {
 
@@ -13,6 +14,7 @@ namespace sprout {
 using Facts = nlohmann::ordered_json;
 
 [[nodiscard]] Facts WaveFacts(const WaveData& wave);
+[[nodiscard]] Facts EncodedFacts(const SoundFacts& sound);
 [[nodiscard]] Facts TuneFacts(const Tune& tune);
 [[nodiscard]] Facts SongFacts(const SongState& song);
 

@@ -30,6 +30,10 @@ Facts LoadFacts(Session& session, FileKind kind, const std::filesystem::path& pa
         const std::optional<WaveData> wave = LoadWave(session, path, ReadSamples::HeaderOnly);
         return wave ? WaveFacts(*wave) : Facts();
     }
+    case FileKind::Wma: {
+        const std::optional<SoundFacts> sound = LoadSoundFacts(session, path);
+        return sound ? EncodedFacts(*sound) : Facts();
+    }
     }
     return {};
 }

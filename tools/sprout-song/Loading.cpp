@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Text.h"
@@ -28,7 +29,8 @@ struct KindMark {
 
 constexpr std::array kKinds = {
     KindMark{FileKind::Song, "song", ".TqSng", "TqSng"}, KindMark{FileKind::Tune, "tune", ".TqTun", "TqTun"},
-    KindMark{FileKind::Star, "star", ".TqSta", "TqSta"}, KindMark{FileKind::Wave, "wave", ".wav", "RIFF"}};
+    KindMark{FileKind::Star, "star", ".TqSta", "TqSta"}, KindMark{FileKind::Wave, "wave", ".wav", "RIFF"},
+    KindMark{FileKind::Wma, "wma", ".wma", "\x30\x26\xB2\x75\x8E"}};
 
 /// The engine takes a missing file for an empty one; a person who named it wants to know.
 bool IsThere(Session& session, const fs::path& path, std::string_view title)
@@ -109,6 +111,19 @@ std::optional<WaveData> LoadWave(Session& session, const fs::path& path, ReadSam
     const std::size_t before = session.messages.Shown().size();
     WaveData wave = LoadWaveFile(path, samples);
     return session.NoMessageSince(before) ? std::optional(std::move(wave)) : std::nullopt;
+}
+
+std::optional<SoundFacts> LoadSoundFacts(Session& session, const fs::path& path)
+{
+    constexpr std::string_view title = "Error Loading Sound File";
+    if (!IsThere(session, path, title))
+        return std::nullopt;
+    try {
+        return ReadSoundFacts(path);
+    } catch (const RunTimeError& error) {
+        session.Fail(title, error.what());
+        return std::nullopt;
+    }
 }
 
 bool SaveWave(Session& session, const WaveData& wave, const fs::path& path)

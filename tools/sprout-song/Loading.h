@@ -6,12 +6,13 @@
 #include <string_view>
 
 #include "core/Song.h"
+#include "service/ffmpeg/SoundFacts.h"
 #include "sound/WavOperations.h"
 #include "sprout-song/Session.h"
 
 namespace sprout {
 
-enum class FileKind { Song, Tune, Star, Wave };
+enum class FileKind { Song, Tune, Star, Wave, Wma };
 
 [[nodiscard]] std::string_view KindName(FileKind kind);
 
@@ -26,6 +27,8 @@ bool LoadTune(Session& session, const std::filesystem::path& path);
 /// The star in the file's own folder.
 std::optional<Tune> LoadStar(Session& session, const std::filesystem::path& path);
 std::optional<WaveData> LoadWave(Session& session, const std::filesystem::path& path, ReadSamples samples);
+
+std::optional<SoundFacts> LoadSoundFacts(Session& session, const std::filesystem::path& path);
 
 /// Writes a wave; false where a message came.
 bool SaveWave(Session& session, const WaveData& wave, const std::filesystem::path& path);

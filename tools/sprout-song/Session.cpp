@@ -11,6 +11,11 @@
 
 namespace sprout {
 
+Watched StandardErrorIsWatched()
+{
+    return ::isatty(STDERR_FILENO) == 1 ? Watched::Yes : Watched::No;
+}
+
 void ToolMessages::MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/)
 {
     shown.push_back({std::string(title), std::string(text)});
@@ -21,19 +26,20 @@ void ToolMessages::MessageBox(std::string_view title, std::string_view text, Mes
 
 void ToolScreen::ShowProgress(std::size_t done, std::size_t total)
 {
-    if (!watched || total < 2)
+    if (watched == Watched::No || total < 2)
         return;
-    err << "\rRendering sounds: " << done << " of " << total;
+    err << '\r' << stage << ": " << done << " of " << total;
     if (done == total)
         err << "\r\033[K";
     err.flush();
 }
 
 Session::Session(std::ostream& outStream, std::ostream& errStream, const std::filesystem::path& userRoot,
-                 bool beatsOutside)
-    : out(outStream), messages(errStream), screen(errStream, ::isatty(STDERR_FILENO) == 1), stretch(MakeStretch())
+                 bool beatsOutside, Watched watched)
+    : out(outStream), messages(errStream), screen(errStream, watched), stretch(MakeStretch())
 {
     TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get()};
+    TheServices().wma = &wma;
     Shared() = SharedState();
     Shared().SongBeatsInside = !beatsOutside;
     MakePlainPictures();

@@ -11,6 +11,7 @@
 #include "service/Messages.h"
 #include "service/Screen.h"
 #include "service/Stretch.h"
+#include "service/ffmpeg/FfmpegWmaEncoder.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/qt/QtPictureFiles.h"
@@ -37,10 +38,16 @@ private:
     std::vector<Message> shown;
 };
 
+/// Whether a person watches a terminal.
+enum class Watched { No, Yes };
+
+/// Of the standard error.
+[[nodiscard]] Watched StandardErrorIsWatched();
+
 /// Draws a progress line for long work where a person watches.
 class ToolScreen : public Screen {
 public:
-    ToolScreen(std::ostream& stream, bool terminal) : err(stream), watched(terminal) {}
+    ToolScreen(std::ostream& stream, Watched isWatched) : err(stream), watched(isWatched) {}
 
     void ShowHourglass() override {}
     void RestorePointer() override {}
@@ -48,17 +55,20 @@ public:
     void HideProcessPic() override {}
     void EnableTuneNotFilledTimer() override {}
     void ShowProgress(std::size_t done, std::size_t total) override;
+    void BeginStoppable(std::string_view what) override { stage = what; }
 
 private:
     std::ostream& err;
-    bool watched;
+    Watched watched;
+    std::string stage = "Rendering sounds";
 };
 
 /// The services and the shared state of one command.
 class Session {
 public:
     /// userRoot: where Beats, Tunes, Stars and Songs lie; empty for the user's own folder.
-    Session(std::ostream& out, std::ostream& err, const std::filesystem::path& userRoot, bool beatsOutside);
+    Session(std::ostream& out, std::ostream& err, const std::filesystem::path& userRoot, bool beatsOutside,
+            Watched watched);
     Session(const Session&) = delete;
     Session& operator=(const Session&) = delete;
     ~Session();
@@ -77,6 +87,7 @@ private:
     PosixMachine machine;
     XdgDesktop desktop;
     QtPictureFiles pictures;
+    FfmpegWmaEncoder wma;
     std::unique_ptr<Stretch> stretch;
 };
 

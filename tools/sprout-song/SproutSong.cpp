@@ -67,7 +67,8 @@ int Run(const std::vector<std::string>& words, std::ostream& out, std::ostream& 
     }
     if (!command)
         throw UsageError("A command is missing.");
-    Session session(out, err, arguments.Text("--user-root").value_or(""), arguments.Has("--beats-outside"));
+    Session session(out, err, arguments.Text("--user-root").value_or(""), arguments.Has("--beats-outside"),
+                    StandardErrorIsWatched());
     return command->run(session, arguments) ? kDone : kFailed;
 }
 
@@ -76,12 +77,17 @@ int Run(const std::vector<std::string>& words, std::ostream& out, std::ostream& 
 const std::vector<Command>& AllCommands()
 {
     static const std::vector<Command> commands = {
-        {"info", "[--json] FILE...", "Facts of songs, tunes, stars and WAV files.", {{"--json"}}, RunInfo},
+        {"info", "[--json] FILE...", "Facts of songs, tunes, stars, WAV and WMA files.", {{"--json"}}, RunInfo},
         {"render",
          "SONG OUT.wav [--track N] [--from CELL]",
          "The mix, one track alone, or the part from a cell, as the program plays it.",
          {{"--track", true}, {"--from", true}},
          RunRender},
+        {"export",
+         "SONG... [--to wma|wav] [--out FOLDER]",
+         "Songs as sound files (default wma) under their names, beside them or in a folder.",
+         {{"--to", true}, {"--out", true}},
+         RunExport},
         {"cycle",
          "TUNE OUT.wav [--tempo CELLS_PER_MINUTE]",
          "One cycle of a tune, rendered anew (default 320).",

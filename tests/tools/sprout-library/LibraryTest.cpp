@@ -101,7 +101,7 @@ TEST_F(MadeLibrary, HoldsWhatTheProgramAsksForAtItsStart)
 TEST_F(MadeLibrary, HasSongsWhoseBeatsAreThoseOfTheFolder)
 {
     std::ostringstream out, err;
-    Session session(out, err, Made(), false);
+    Session session(out, err, Made(), false, Watched::No);
     OpenSaveClass().Load_Song(Made() / "Songs" / "Zumi.TqSng");
     const SongState& song = Shared().Song;
     ASSERT_GE(song.TrackCount, 6);
