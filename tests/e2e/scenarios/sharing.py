@@ -1,0 +1,169 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+import math
+import os
+import stat
+import subprocess
+
+from processes import expect, wait_for
+from sound import read_wave
+from scenarios import scenario
+from scenarios.steps import close
+
+ZUMI = "Zumi"
+SAVED = {"wav": "Good! Your song is saved as audio (.wav) file", "wma": "Good! Your song is saved as audio (.wma) file"}
+BUTTONS = {"wav": "SavWavBtn", "wma": "SavWmaBtn"}
+
+
+def choose_file(program, path):
+    """Types a path into the dialog for a file."""
+    program.wait_for_window("QFileDialog")
+    program.type_into("fileNameEdit", path)
+    program.desk.keyboard.press("Return")
+    program.wait_until_gone("QFileDialog")
+
+
+def save_as_sound(program, kind, path):
+    program.click("SaveBtn")
+    program.click(BUTTONS[kind], form="SongSelFrm")
+    choose_file(program, path)
+    program.wait_for("NoteLbl1", SAVED[kind], form="Msg1Btn2NoteFrm", seconds=60)
+    expect(program.text_of("NoteLbl2") == os.path.basename(path), "the message names another file")
+    program.click("OkBtn", form="Msg1Btn2NoteFrm")
+    program.wait_until_gone("SongSelFrm")
+
+
+def probe(path, *entries):
+    """What ffprobe tells of a file, by entry."""
+    told = subprocess.run(["ffprobe", "-v", "error", "-show_entries", ":".join(entries), "-of", "default=nw=1", path],
+                          check=True, text=True, stdout=subprocess.PIPE).stdout
+    return dict(line.split("=", 1) for line in told.splitlines() if "=" in line)
+
+
+def decode(path):
+    """Its frames as ffmpeg decodes them, stereo of 16 bits."""
+    return subprocess.run(["ffmpeg", "-v", "error", "-i", path, "-f", "s16le", "-ac", "2", "-ar", "44100", "-"],
+                          check=True, stdout=subprocess.PIPE).stdout
+
+
+def expect_zumi_as_wma(path, frames):
+    told = probe(path, "stream=codec_name,sample_rate,channels", "format_tags=title,artist,copyright,comment,WM/Year")
+    expect(told["codec_name"] == "wmav2" and told["sample_rate"] == "44100" and told["channels"] == "2",
+           f"the WMA file is of another kind: {told}")
+    expect(told["TAG:title"] == ZUMI, f"the WMA file has another title: {told}")
+    expect(told["TAG:comment"] == "Tonquill Sprout Painter Song", f"the WMA file has another comment: {told}")
+    decoded = decode(path)
+    expect(0 <= len(decoded) - len(frames) <= 4 * 4096, f"{len(decoded)} bytes were decoded, {len(frames)} mixed")
+    expect(signal_to_noise(frames, decoded) > 19.5, "the WMA file sounds otherwise than the song")
+
+
+def signal_to_noise(wanted, heard):
+    """In dB, over the frames of `wanted`, a sample in every 16."""
+    pairs = zip(memoryview(wanted).cast("h")[::16], memoryview(heard).cast("h")[::16])
+    signal = noise = 1e-9
+    for sample, other in pairs:
+        signal += sample * sample
+        noise += (sample - other) ** 2
+    return 10 * math.log10(signal / noise)
+
+
+def write_program(path, text):
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("#!/bin/sh\n" + text)
+    os.chmod(path, os.stat(path).st_mode | stat.S_IXUSR)
+
+
+class MailDesk:
+    """Stand-ins for the desktop's programs: what starts a mail program notes what it was given."""
+
+    def __init__(self, desk, desktop_file):
+        self.folder = os.path.join(desk.folder, "mail")
+        self.applications = os.path.join(self.folder, "share", "applications")
+        self.noted = os.path.join(self.folder, "noted")
+        os.makedirs(self.applications)
+        write_program(os.path.join(self.folder, "xdg-mime"), f"echo {desktop_file}\n")
+        write_program(os.path.join(self.folder, "xdg-open"), f'printf "%s\\0" "$@" > {self.folder}/opened\n')
+        self.environment = {"PATH": self.folder + ":" + os.environ["PATH"],
+                            "XDG_DATA_DIRS": os.path.join(self.folder, "share") + ":/usr/share"}
+
+    def add_program(self, name, desktop_file, categories):
+        """A program that notes its words, and its desktop file."""
+        program = os.path.join(self.folder, name)
+        write_program(program, f'printf "%s\\0" "$@" > {self.noted}.part\nmv {self.noted}.part {self.noted}\n')
+        with open(os.path.join(self.applications, desktop_file), "w", encoding="utf-8") as file:
+            file.write(f"[Desktop Entry]\nType=Application\nName={name}\nExec={program} %u\nCategories={categories}\n")
+
+    def words(self):
+        def read():
+            if not os.path.exists(self.noted):
+                return None
+            with open(self.noted, encoding="utf-8") as file:
+                return file.read().split("\0")[:-1]
+        return wait_for("the mail program", read)
+
+
+@scenario()
+def TakeSongHome(desk):
+    """Zumi leaves the program as WAV and WMA, the same samples that are rendered, and by mail."""
+    mail = MailDesk(desk, "letters.desktop")
+    mail.add_program("xdg-email", "letters.desktop", "Network;Email;")
+    program = desk.start(**mail.environment)
+    program.wait_for("SngTitleLbl", ZUMI)
+    rendered = desk.render(desk.song(ZUMI))
+
+    wave = os.path.join(desk.folder, "Mine.wav")
+    save_as_sound(program, "wav", wave)
+    expect(read_wave(wave) == rendered, "the WAV file is another sound than the rendered song")
+    wma = os.path.join(desk.folder, "Mine.wma")
+    save_as_sound(program, "wma", os.path.join(desk.folder, "Mine"))
+    expect_zumi_as_wma(wma, rendered)
+    left = sorted(name for name in os.listdir(desk.folder) if name.startswith(".Tqk"))
+    expect(not left, f"files were left beside the sounds: {left}")
+
+    program.click("EmailBtn")
+    words = mail.words()
+    attached = words[words.index("--attach") + 1]
+    expect(words[words.index("--subject") + 1] == "Song i composed myself - Zumi", f"another subject: {words}")
+    expect('"Zumi" I composed with Tonquill Sprout Painter\n' in words[words.index("--body") + 1],
+           f"another body: {words}")
+    expect(os.path.basename(attached) == "Zumi.wma", f"the friend sees another name: {attached}")
+    expect_zumi_as_wma(attached, rendered)
+    close(program)
+    expect(os.path.exists(attached), "the mailed file went with the program")
+
+
+@scenario()
+def MailByThunderbirdOrNobody(desk):
+    """Thunderbird gets the song in its own way; where only a web browser takes mails, the song's place is told."""
+    mail = MailDesk(desk, "thunderbird.desktop")
+    mail.add_program("thunderbird", "thunderbird.desktop", "Network;Email;")
+    program = desk.start(**mail.environment)
+    program.wait_for("SngTitleLbl", ZUMI)
+    program.click("EmailBtn")
+    words = mail.words()
+    expect(words[0] == "-compose", f"Thunderbird was told: {words}")
+    expect("attachment='file:///" in words[1] and "Zumi.wma'" in words[1], f"nothing is attached: {words}")
+    expect("subject=Song%20i%20composed%20myself%20-%20Zumi," in words[1], f"another subject: {words}")
+
+    write_program(os.path.join(mail.folder, "xdg-mime"), "echo browser.desktop\n")
+    mail.add_program("browser", "browser.desktop", "Network;WebBrowser;")
+    os.remove(mail.noted)
+    program.click("EmailBtn")
+    program.wait_for("NoteLbl1", "Failed to send email. Song is saved to file:", form="Msg1Btn2NoteFrm")
+    told = program.text_of("NoteLbl2")
+    program.click("OkBtn", form="Msg1Btn2NoteFrm")
+    opened = os.path.join(mail.folder, "opened")
+    wait_for("the folder of the song", lambda: os.path.exists(opened))
+    expect(not os.path.exists(mail.noted), "the browser was started")
+    expect("Zumi.wma" in told, f"the message tells {told}")
+    close(program)
+
+
+@scenario()
+def HideTheMail(desk):
+    """A school's setting takes the button of the mail away."""
+    with open(desk.settings, "w", encoding="utf-8") as settings:
+        settings.write("[General]\nHideEmail=1\n")
+    program = desk.start()
+    program.wait_for("HelpBtn")
+    expect(not program.find("EmailBtn"), "the button is there")
+    close(program)
