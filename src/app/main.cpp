@@ -15,9 +15,11 @@
 #include "service/fontconfig/FontList.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
+#include "service/posix/PosixPrivateFolders.h"
 #include "service/qt/QtPictureFiles.h"
 #include "service/stretch/StretchService.h"
 #include "service/xdg/XdgDesktop.h"
+#include "service/xdg/XdgMail.h"
 #include "sound/PlayMod.h"
 #include "ui/Look.h"
 #include "ui/ProgramPictures.h"
@@ -42,6 +44,8 @@ public:
     ProgramServices()
     {
         TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
+        TheServices().mail = &mail;
+        TheServices().privateFolders = &privateFolders;
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
@@ -60,6 +64,8 @@ private:
     QtPictureFiles pictures;
     std::unique_ptr<Stretch> stretch = MakeStretch();
     MachineSound sound;
+    XdgMail mail;
+    PosixPrivateFolders privateFolders;
 };
 
 int RunProgram(QApplication& application)
