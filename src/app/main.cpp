@@ -16,9 +16,11 @@
 #include "service/fontconfig/FontList.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
+#include "service/posix/PosixPrivateFolders.h"
 #include "service/qt/QtPictureFiles.h"
 #include "service/stretch/StretchService.h"
 #include "service/xdg/XdgDesktop.h"
+#include "service/xdg/XdgMail.h"
 #include "sound/PlayMod.h"
 #include "ui/Look.h"
 #include "ui/ProgramPictures.h"
@@ -44,6 +46,8 @@ public:
     {
         TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
         TheServices().wma = &wma;
+        TheServices().mail = &mail;
+        TheServices().privateFolders = &privateFolders;
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
@@ -63,6 +67,8 @@ private:
     std::unique_ptr<Stretch> stretch = MakeStretch();
     MachineSound sound;
     FfmpegWmaEncoder wma;
+    XdgMail mail;
+    PosixPrivateFolders privateFolders;
 };
 
 int RunProgram(QApplication& application)

@@ -39,6 +39,11 @@ std::string GetSetting(std::string_view section, std::string_view key, std::stri
     return std::string(FirstCharacters(value, kLongestSetting));
 }
 
+bool IsSetToOne(std::string_view key)
+{
+    return NumberPrefix(GetSetting("General", key, "0")) == 1;
+}
+
 void PutSettings(std::string_view section, std::initializer_list<IniValue> values)
 {
     // A blank key would delete the section; a setting without a name is none.

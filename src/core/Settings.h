@@ -17,6 +17,9 @@ inline constexpr std::size_t kLongestSetting = 99;
 /// unless the file has a key "END".
 [[nodiscard]] std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback);
 
+/// True where the number of a setting of "General" is 1: the switches that a user sets by hand.
+[[nodiscard]] bool IsSetToOne(std::string_view key);
+
 /// Writes values to the settings file in one go. A blank section becomes "General"; a blank key is ignored. A failure
 /// is silent.
 void PutSettings(std::string_view section, std::initializer_list<IniValue> values);

@@ -51,8 +51,9 @@ void ShowCut(QLabel& label, const QString& text)
 
 } // namespace
 
-ControlBar::ControlBar(QWidget* parent, HintWatcher& watcher)
+ControlBar::ControlBar(QWidget* parent, HintWatcher& watcher, EmailTool email)
     : QWidget(parent),
+      emailTool(email),
       titleCaption(&AddSongLabel("SngTitle2Lbl", watcher)),
       titleText(&AddSongLabel("SngTitleLbl", watcher)),
       authorCaption(&AddSongLabel("SngCreate2Lbl", watcher)),
@@ -86,16 +87,16 @@ void ControlBar::AddTool(BarTool tool, ImageButton& button)
     tools[static_cast<std::size_t>(tool)] = &button;
 }
 
-int ControlBar::HeightFor(int width)
+int ControlBar::HeightFor(int width) const
 {
-    return PlaceControlBar(width).height;
+    return PlaceControlBar(width, emailTool).height;
 }
 
 void ControlBar::ShowSong(std::string_view songTitle, std::string_view songAuthor)
 {
     title = QtText(songTitle);
     author = QtText(songAuthor);
-    PlaceSongLabels(PlaceControlBar(width()));
+    PlaceSongLabels(PlaceControlBar(width(), emailTool));
 }
 
 void ControlBar::UpdateTempoSliderValue()
@@ -113,7 +114,7 @@ void ControlBar::paintEvent(QPaintEvent* /*event*/)
 void ControlBar::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    const ControlBarPlaces places = PlaceControlBar(width());
+    const ControlBarPlaces places = PlaceControlBar(width(), emailTool);
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
         if (tools[tool])
             tools[tool]->setGeometry(RectOf(places.tools[tool]));

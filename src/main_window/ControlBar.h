@@ -20,13 +20,14 @@ class ControlBar : public QWidget {
     Q_OBJECT
 
 public:
-    ControlBar(QWidget* parent, HintWatcher& watcher);
+    /// email: whether the bar has room for its button.
+    ControlBar(QWidget* parent, HintWatcher& watcher, EmailTool email);
 
     /// Takes the button of a tool.
     void AddTool(BarTool tool, ImageButton& button);
 
     /// Height that the bar needs in a width.
-    [[nodiscard]] static int HeightFor(int width);
+    [[nodiscard]] int HeightFor(int width) const;
 
     void ShowSong(std::string_view title, std::string_view author);
     void UpdateTempoSliderValue();
@@ -48,6 +49,7 @@ private:
     void PlaceSongInOneLine(const QRect& room);
     void PlaceSongInTwoLines(const QRect& room);
 
+    EmailTool emailTool;
     std::array<ImageButton*, kBarTools> tools{};
     QLabel* titleCaption; ///< `SngTitle2Lbl`
     QLabel* titleText;    ///< `SngTitleLbl`

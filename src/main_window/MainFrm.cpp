@@ -25,6 +25,7 @@
 #include "main_window/TrackPictures.h"
 #include "main_window/TransportCommands.h"
 #include "main_window/rules/WindowPlace.h"
+#include "sharing/EmailSong.h"
 #include "sound/PlayMod.h"
 #include "ui/Artwork.h"
 #include "ui/HelpFrm.h"
@@ -99,7 +100,7 @@ const std::array<MainFrm::Row, 17>& MainFrm::Rows()
         {"OpenBtn", "Open", Plate::Tool, [](MainFrm& frm) { frm.songCommands.OpenBtn(); }},
         {"SaveBtn", "Save", Plate::Tool, [](MainFrm& frm) { frm.songCommands.SaveBtn(); }},
         {"SongTitleChgBtn", "Change", Plate::Tool, [](MainFrm& frm) { frm.songCommands.SongTitleChgBtn(); }},
-        {"EmailBtn", "Email song", Plate::Tool, [](MainFrm&) { ShowForLater("EmailBtn"); }},
+        {"EmailBtn", "Email song", Plate::Tool, [](MainFrm& frm) { frm.emailSong->EmailBtn(); }},
         {"HelpBtn", "Help", Plate::Tool, [](MainFrm&) { ShowHelp(); }},
         {"AboutBtn", "About", Plate::Tool, [](MainFrm& frm) { frm.AboutBtn(); }},
         {"DemoBtn", "Demo", Plate::Tool, [](MainFrm&) { ShowForLater("DemoBtn"); }},
@@ -117,7 +118,8 @@ MainFrm::MainFrm(TransportCommands& transport)
       buttons(*this, AllOffTimer::OffAtFirst),
       watcher(this),
       songCommands(*this, {[this] { ShowNewSong(); }, [this] { UpdateSongTitle(); },
-                           [this](bool opening) { trackCommands->SetOpening(opening); }})
+                           [this](bool opening) { trackCommands->SetOpening(opening); }}),
+      emailSong(new EmailSong(this))
 {
     setObjectName(QStringLiteral("MainFrm"));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -171,9 +173,13 @@ void MainFrm::MakeTitleBand()
 
 void MainFrm::MakeControlBar()
 {
-    controlBar = new ControlBar(this, watcher);
+    // A school may want no mail to leave its machines.
+    const EmailTool email = IsSetToOne("HideEmail") ? EmailTool::Hidden : EmailTool::Shown;
+    controlBar = new ControlBar(this, watcher, email);
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
         controlBar->AddTool(static_cast<BarTool>(tool), buttons.Button(Rows()[tool].name));
+    if (email == EmailTool::Hidden)
+        buttons.Button("EmailBtn").hide();
     connect(controlBar, &ControlBar::SongTitleDoubleClicked, this, [this] { songCommands.SongTitleChgBtn(); });
     connect(controlBar, &ControlBar::TempoChanged, this, [this] { canvas->DrawTrackTop(); });
 }
@@ -361,7 +367,7 @@ void MainFrm::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     const int inner = width() - 2 * kFrameWidth;
     const int barTop = kTitleBandHeight;
-    const int barHeight = ControlBar::HeightFor(inner);
+    const int barHeight = controlBar->HeightFor(inner);
     const int statusTop = height() - kFrameWidth - kStatusBarHeight;
     const int canvasTop = barTop + barHeight;
     const int cornerSide = kFrameWidth + kStatusBarHeight;
@@ -398,6 +404,7 @@ void MainFrm::closeEvent(QCloseEvent* event)
         return;
     }
     ShowHint({});
+    emailSong->StopWaiting();
     WritePlaceToSettings();
     ShutSound();
     event->accept();

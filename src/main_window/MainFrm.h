@@ -16,6 +16,7 @@ namespace sprout {
 
 class ControlBar;
 class EdgeGrip;
+class EmailSong;
 class StatusBar;
 class TitleBand;
 class TrackCanvas;
@@ -82,6 +83,7 @@ private:
     ButtonScheme buttons;
     HintWatcher watcher;
     SongCommands songCommands;
+    EmailSong* emailSong;
     TitleBand* titleBand = nullptr;
     ControlBar* controlBar = nullptr;
     TrackCanvas* canvas = nullptr;

@@ -33,6 +33,19 @@ TEST_F(Settings, ReadsAndWritesABlankSectionAsGeneral)
     EXPECT_EQ(GetSetting(" ", "k", ""), "1");
 }
 
+TEST_F(Settings, TakesASwitchForSetWhereItsNumberIsOne)
+{
+    EXPECT_FALSE(IsSetToOne("k"));
+    for (const char* value : {"1", "1.0", " 1x", "+1"}) {
+        PutSetting("General", "k", value);
+        EXPECT_TRUE(IsSetToOne("k")) << value;
+    }
+    for (const char* value : {"0", "", "1.2", "yes", "-1", "11"}) {
+        PutSetting("General", "k", value);
+        EXPECT_FALSE(IsSetToOne("k")) << value;
+    }
+}
+
 TEST_F(Settings, WritesSeveralValuesWithoutThoseOfBlankKeys)
 {
     PutSettings("s", {{"k", std::string(150, 'a')}, {" ", "2"}, {"l", "3"}});

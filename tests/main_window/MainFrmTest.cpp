@@ -8,6 +8,7 @@
 #include <set>
 
 #include "main_window/MainWindowTest.h"
+#include "sound/PlayTest.h"
 
 namespace sprout {
 namespace {
@@ -511,7 +512,7 @@ TEST_F(MainFrmTest, TellsInRedThatThereIsNoSoundDeviceAndInBarkWhatThePlayerDoes
 
 TEST_F(MainFrmTest, TellsThatAButtonIsForLater)
 {
-    for (const char* name : {"EmailBtn", "DemoBtn", "TrackAddRecBtn"}) {
+    for (const char* name : {"DemoBtn", "TrackAddRecBtn"}) {
         ShowHint(QStringLiteral("Before"));
         ShownMessage message;
         NoteNextMessage(message);
@@ -519,6 +520,56 @@ TEST_F(MainFrmTest, TellsThatAButtonIsForLater)
         EXPECT_FALSE(message.line1.isEmpty()) << name;
         EXPECT_EQ(TextOf("StatusLbl"), "") << name;
     }
+}
+
+TEST_F(MainFrmTest, MailsTheSong)
+{
+    ShowHint(QStringLiteral("Before"));
+    ClickButton("EmailBtn");
+    EXPECT_EQ(TextOf("StatusLbl"), "Please paint on the track.");
+    Song().SongMix = CountingWave(1000);
+    Song().SongMixValid = true;
+    ClickButton("EmailBtn");
+    fake.mail.WaitForMessage();
+    EXPECT_EQ(fake.mail.messages.front().Subject, "Song i composed myself - Untitled");
+}
+
+TEST_F(MainFrmTest, WaitsForNoMailProgramOnceItIsClosed)
+{
+    Song().SongMix = CountingWave(1000);
+    Song().SongMixValid = true;
+    fake.mail.takesItsTime = true;
+    ClickButton("EmailBtn");
+    fake.mail.WaitForMessage();
+    window->close();
+    EXPECT_TRUE(fake.mail.wasStopped);
+}
+
+TEST_F(MainFrmTest, HasNoMailWhereItIsSwitchedOff)
+{
+    for (const char* value : {"1", "1.0", " 1x"}) {
+        PutSetting("General", "HideEmail", value);
+        Open();
+        EXPECT_FALSE(Control("EmailBtn").isVisible()) << value;
+    }
+    const int gap = Control("HelpBtn").x() - Control("SaveBtn").geometry().right();
+    Control("SongTitleChgBtn").setFocus();
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), &Control("HelpBtn"));
+    for (const char* value : {"0", "", "1.2", "yes"}) {
+        PutSetting("General", "HideEmail", value);
+        Open();
+        EXPECT_TRUE(Control("EmailBtn").isVisible()) << value;
+    }
+    EXPECT_EQ(Control("HelpBtn").x() - Control("EmailBtn").geometry().right(), gap);
+}
+
+TEST_F(MainFrmTest, ReadsOnlyOnceWhetherMailIsSwitchedOff)
+{
+    PutSetting("General", "HideEmail", "1");
+    window->resize(800, 600);
+    window->showMaximized();
+    EXPECT_TRUE(Control("EmailBtn").isVisible());
 }
 
 TEST_F(MainFrmTest, TellsWhatItIs)

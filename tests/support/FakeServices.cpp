@@ -75,6 +75,8 @@ FakeServices::FakeServices()
 {
     TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, &stretch, &sound, &playDisplay};
     TheServices().wma = &wma;
+    TheServices().mail = &mail;
+    TheServices().privateFolders = &privateFolders;
     Shared() = SharedState();
     SharedState& shared = Shared();
     shared.BlankPic = OneColour(0x000001);

@@ -20,6 +20,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "support/FakeMail.h"
 #include "support/FakeSound.h"
 #include "support/FakeWma.h"
 #include "support/TestFolder.h"
@@ -147,6 +148,8 @@ public:
     FakeSoundOutput sound;
     FakePlayDisplay playDisplay;
     FakeWmaEncoder wma;
+    FakeMail mail;
+    FakePrivateFolders privateFolders;
 };
 
 } // namespace sprout

@@ -16,6 +16,7 @@
 #include "core/Tell.h"
 #include "service/Desktop.h"
 #include "service/Machine.h"
+#include "service/PrivateFolders.h"
 #include "service/Services.h"
 #include "sound/WavOperations.h"
 
@@ -136,9 +137,10 @@ void FillUserFolders()
             CopyFolder(shared.InstallRoot / name, shared.UserRoot);
 }
 
-bool IsSetToOne(std::string_view key)
+/// Last, for the start does not wait for it.
+void DeleteLeftMails()
 {
-    return NumberPrefix(GetSetting(kGeneral, key, "0")) == 1;
+    TheServices().privateFolders->DeleteLeftFolders(Shared().TempFolder);
 }
 
 } // namespace
@@ -157,7 +159,7 @@ void RunStartUp()
     // The new song comes before the user's folders are known, so its name is free in the current folder only.
     constexpr Step steps[] = {FindTempFolder,      ProbeMachine,   SetInstallFolders, SetSoundFormat,  TestSupportFiles,
                               MakeInstallFolders,  KeepTestTone,   NewSong,           KeepWaveColours, SetDemoImages,
-                              FindDocumentsFolder, SetUserFolders, FillUserFolders};
+                              FindDocumentsFolder, SetUserFolders, FillUserFolders,   DeleteLeftMails};
     for (const Step step : steps)
         GoOnAfter(step);
 }

@@ -9,7 +9,8 @@ namespace sprout {
 // the sound and calls `ReadOptionFlags`. All services must be there, and the four pictures of the shared state.
 
 /// Finds the folders, writes the facts about the machine to the settings file, makes the test tone and the new song
-/// and, where the user's folders hold no file, fills them from the installed ones.
+/// and, where the user's folders hold no file, fills them from the installed ones. Deletes the mailed songs that
+/// earlier runs left more than a day ago.
 ///
 /// A step that fails is given up and the next one runs. Missing support files, a missing documents folder and a failed
 /// copy are told in messages. Never throws.

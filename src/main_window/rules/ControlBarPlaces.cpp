@@ -2,7 +2,8 @@
 #include "main_window/rules/ControlBarPlaces.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <array>
+#include <span>
 
 namespace sprout {
 
@@ -25,6 +26,19 @@ constexpr std::int32_t kSongPartsApart = 16;
 constexpr std::int32_t kLeastTitle = 120;
 constexpr std::int32_t kLeastAuthor = 60;
 
+constexpr std::array kPlayTools{BarTool::PlayAll, BarTool::PlayStop};
+constexpr std::array kPaintTools{BarTool::Brush, BarTool::Eraser, BarTool::PlayTool};
+constexpr std::array kSongTools{BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email};
+constexpr std::array kTitleTool{BarTool::SongTitleChg};
+constexpr std::array kHelpTools{BarTool::Help, BarTool::About, BarTool::Demo};
+
+using ToolGroup = std::span<const BarTool>;
+
+ToolGroup SongTools(EmailTool email)
+{
+    return ToolGroup(kSongTools).first(kSongTools.size() - (email == EmailTool::Hidden ? 1 : 0));
+}
+
 /// Sets tools side by side, from the left or towards it.
 class ToolRow {
 public:
@@ -34,7 +48,7 @@ public:
     }
 
     /// Sets a group at `left` and returns the left edge of what stands behind it.
-    std::int32_t Group(std::int32_t left, std::initializer_list<BarTool> group) const
+    std::int32_t Group(std::int32_t left, ToolGroup group) const
     {
         for (const BarTool tool : group) {
             places.tools[static_cast<std::size_t>(tool)] = {left, top, side, side};
@@ -44,7 +58,7 @@ public:
     }
 
     /// Sets a group so that it ends at `right` and returns the right edge of what stands before it.
-    std::int32_t GroupBefore(std::int32_t right, std::initializer_list<BarTool> group) const
+    std::int32_t GroupBefore(std::int32_t right, ToolGroup group) const
     {
         const auto count = static_cast<std::int32_t>(group.size());
         const std::int32_t left = right - count * side - (count - 1) * kToolsApart;
@@ -59,14 +73,14 @@ private:
 };
 
 /// Room that the tools of one row leave between them.
-BarPlace RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t top)
+BarPlace RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t top, EmailTool email)
 {
     const ToolRow row(places, kTool, top);
-    std::int32_t left = row.Group(kBarMargin, {BarTool::PlayAll, BarTool::PlayStop});
-    left = row.Group(left, {BarTool::Brush, BarTool::Eraser, BarTool::PlayTool});
-    std::int32_t right = row.GroupBefore(width - kBarMargin, {BarTool::Help, BarTool::About, BarTool::Demo});
-    right = row.GroupBefore(right, {BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email});
-    right = row.GroupBefore(right, {BarTool::SongTitleChg});
+    std::int32_t left = row.Group(kBarMargin, kPlayTools);
+    left = row.Group(left, kPaintTools);
+    std::int32_t right = row.GroupBefore(width - kBarMargin, kHelpTools);
+    right = row.GroupBefore(right, SongTools(email));
+    right = row.GroupBefore(right, kTitleTool);
     return {left, top, right - left, kTool};
 }
 
@@ -80,27 +94,27 @@ void OneRow(ControlBarPlaces& places, const BarPlace& room)
 }
 
 /// The row is a little higher, for the tempo's labels stand below its slot.
-void OneTightRow(ControlBarPlaces& places, std::int32_t width)
+void OneTightRow(ControlBarPlaces& places, std::int32_t width, EmailTool email)
 {
-    const BarPlace room = RoomInOneRow(places, width, (kTightBarHeight - kTool) / 2);
+    const BarPlace room = RoomInOneRow(places, width, (kTightBarHeight - kTool) / 2, email);
     places.songInOneLine = true;
     places.song = {room.left, 0, room.width, kSongLine};
     places.tempo = {room.left, kTightBarHeight - kBelowTightTempo - kTightTempoHeight, room.width, kTightTempoHeight};
     places.height = kTightBarHeight;
 }
 
-void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
+void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side, EmailTool email)
 {
     const ToolRow upper(places, side, kToolsApart);
-    std::int32_t left = upper.Group(kBarMargin, {BarTool::PlayAll, BarTool::PlayStop});
-    left = upper.Group(left, {BarTool::Brush, BarTool::Eraser, BarTool::PlayTool});
-    const std::int32_t right = upper.GroupBefore(width - kBarMargin, {BarTool::SongTitleChg});
+    std::int32_t left = upper.Group(kBarMargin, kPlayTools);
+    left = upper.Group(left, kPaintTools);
+    const std::int32_t right = upper.GroupBefore(width - kBarMargin, kTitleTool);
     places.song = {left, kToolsApart, right - left, side};
 
     const std::int32_t lowerTop = side + 2 * kToolsApart;
     const ToolRow lower(places, side, lowerTop);
-    left = lower.Group(kBarMargin, {BarTool::New, BarTool::Open, BarTool::Save, BarTool::Email});
-    left = lower.Group(left, {BarTool::Help, BarTool::About, BarTool::Demo});
+    left = lower.Group(kBarMargin, SongTools(email));
+    left = lower.Group(left, kHelpTools);
     const std::int32_t tempoWidth = std::min(width - kBarMargin - left, kTempoWidth);
     const bool isTight = tempoWidth < kTempoWidth && side >= kTightTempoHeight;
     const std::int32_t tempoHeight = isTight ? kTightTempoHeight : kTempoLine;
@@ -110,18 +124,18 @@ void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side)
 
 } // namespace
 
-ControlBarPlaces PlaceControlBar(std::int32_t width)
+ControlBarPlaces PlaceControlBar(std::int32_t width, EmailTool email)
 {
     ControlBarPlaces places;
-    const BarPlace room = RoomInOneRow(places, width, kBarTop);
+    const BarPlace room = RoomInOneRow(places, width, kBarTop, email);
     if (room.width >= kTempoWidth)
         OneRow(places, room);
     else if (room.width >= kTightTempoWidth)
-        OneTightRow(places, width);
+        OneTightRow(places, width, email);
     else
-        TwoRows(places, width, kTool);
+        TwoRows(places, width, kTool, email);
     if (places.tempo.width < kTightTempoWidth)
-        TwoRows(places, width, kSmallTool);
+        TwoRows(places, width, kSmallTool, email);
     return places;
 }
 

@@ -25,6 +25,9 @@ enum class BarTool : std::size_t {
 };
 inline constexpr std::size_t kBarTools = 13;
 
+/// Whether the song can be mailed. The tools close up where `BarTool::Email` is missing.
+enum class EmailTool { Shown, Hidden };
+
 /// A rectangle of the bar in logical pixels.
 struct BarPlace {
     std::int32_t left = 0;
@@ -37,7 +40,7 @@ struct BarPlace {
 /// Where the parts of the control bar stand.
 struct ControlBarPlaces {
     std::int32_t height = 0;
-    std::array<BarPlace, kBarTools> tools; ///< squares, by `BarTool`
+    std::array<BarPlace, kBarTools> tools; ///< squares, by `BarTool`; empty: hidden
     BarPlace song;                         ///< the song's title and its author
     bool songInOneLine = false;            ///< the author stands behind the title, else below it
     BarPlace tempo;                        ///< as low as one line, or with room for labels below the slot
@@ -45,7 +48,7 @@ struct ControlBarPlaces {
 
 /// Lays the control bar out in a width: one row where title and tempo find room between the tools, if need be a short
 /// one; else two, of smaller tools in the narrowest windows. Tools of one group stand 6 px apart, groups 12 px.
-[[nodiscard]] ControlBarPlaces PlaceControlBar(std::int32_t width);
+[[nodiscard]] ControlBarPlaces PlaceControlBar(std::int32_t width, EmailTool email = EmailTool::Shown);
 
 /// Widths that the parts of the song's line ask for, each caption with the gap behind it.
 struct SongLineNeeds {

@@ -2,7 +2,6 @@
 #include "service/posix/PosixFiles.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/uio.h>
 #include <unistd.h>
@@ -13,10 +12,10 @@
 #include <cstdio>
 #include <string>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 #include "core/Errors.h"
+#include "service/posix/Descriptor.h"
 
 namespace sprout {
 
@@ -33,32 +32,6 @@ template <class Error = RunTimeError>
 {
     throw Error("The file " + path.native() + " could not be written: " + std::generic_category().message(error) + ".");
 }
-
-/// An open file descriptor.
-class Descriptor {
-public:
-    explicit Descriptor(int opened) : number(opened) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
-    Descriptor& operator=(Descriptor&& other) noexcept
-    {
-        std::swap(number, other.number);
-        return *this;
-    }
-    ~Descriptor()
-    {
-        if (number >= 0)
-            ::close(number);
-    }
-
-    [[nodiscard]] int Number() const { return number; }
-    /// Closes now; 0 or the error. Either way the descriptor is gone.
-    int Close() { return ::close(std::exchange(number, -1)) == 0 ? 0 : errno; }
-
-private:
-    int number;
-};
 
 /// A new hidden file beside a target. It is locked as long as it is written, so that no other running program takes it
 /// for a stale one, and it is deleted unless it was moved over the target.
@@ -89,26 +62,6 @@ private:
     Descriptor lock{-1}; // of the file while it is closed and moved
     bool moved = false;
 };
-
-/// Repeats a call that a signal interrupted.
-template <class Call>
-int Uninterrupted(Call call)
-{
-    int result = call();
-    while (result < 0 && errno == EINTR)
-        result = call();
-    return result;
-}
-
-enum class Lock { Taken, Held, Unknown };
-
-/// Locks an open file without waiting. `Unknown`: the file system has no locks.
-Lock TakeLock(int descriptor)
-{
-    if (Uninterrupted([&] { return ::flock(descriptor, LOCK_EX | LOCK_NB); }) == 0)
-        return Lock::Taken;
-    return errno == EWOULDBLOCK ? Lock::Held : Lock::Unknown;
-}
 
 /// True while `path` still names the open file. Who holds the lock alone may delete or move it, so that under the lock
 /// the answer stays true.

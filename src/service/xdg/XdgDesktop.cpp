@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/xdg/XdgDesktop.h"
 
-#include <fcntl.h>
-#include <pwd.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -10,48 +8,15 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <cstdlib>
-#include <span>
-#include <stdexcept>
 #include <system_error>
 
-#include "core/ByteCursor.h"
+#include "service/xdg/Environment.h"
 
 namespace sprout {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-fs::path FromEnvironment(const char* name)
-{
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing of the program changes its environment
-    const char* value = std::getenv(name);
-    return value ? value : "";
-}
-
-fs::path HomeFolder()
-{
-    fs::path home = FromEnvironment("HOME");
-    if (!home.empty())
-        return home;
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): asked on the interface thread alone
-    const passwd* user = ::getpwuid(::getuid());
-    return user && user->pw_dir ? user->pw_dir : "";
-}
-
-/// Empty where the file is missing or cannot be read.
-std::string FileText(const fs::path& path)
-{
-    try {
-        FileSource source(path);
-        std::string text(static_cast<std::size_t>(source.Size()), '\0');
-        source.Read(0, std::as_writable_bytes(std::span(text)));
-        return text;
-    } catch (const std::runtime_error&) {
-        return {};
-    }
-}
 
 /// The value between the quotes of a line NAME="value", its backslashes resolved.
 std::string QuotedValue(std::string_view line)

@@ -87,6 +87,12 @@ TEST_F(StartUp, FindsEveryFolder)
     EXPECT_EQ(Shared().TempFolder, fake.machine.temp);
 }
 
+TEST_F(StartUp, CleansUpWhatEarlierRunsMailed)
+{
+    RunStartUp();
+    EXPECT_EQ(fake.privateFolders.cleaned, (std::vector<fs::path>{fake.machine.temp}));
+}
+
 TEST_F(StartUp, DropsTheSeparatorBehindTheDocumentsFolder)
 {
     fake.desktop.documents /= "";

@@ -13,10 +13,11 @@ BarPlace PlaceOf(const ControlBarPlaces& places, BarTool tool)
     return places.tools[static_cast<std::size_t>(tool)];
 }
 
-/// All places of a bar, those of the tools first.
+/// All places of a bar that are not empty, those of the tools first.
 std::vector<BarPlace> AllPlaces(const ControlBarPlaces& places)
 {
     std::vector<BarPlace> all(places.tools.begin(), places.tools.end());
+    std::erase(all, BarPlace());
     all.push_back(places.song);
     all.push_back(places.tempo);
     return all;
@@ -99,24 +100,61 @@ TEST(PlaceControlBar, HasSmallerToolsInTheNarrowestWindow)
     EXPECT_EQ(places.tempo.width, 171);
 }
 
-TEST(PlaceControlBar, KeepsTargetsApartAndInsideTheBarAtEveryWidth)
+TEST(PlaceControlBar, ClosesUpWhereTheSongCannotBeMailed)
 {
+    const ControlBarPlaces one = PlaceControlBar(1200, EmailTool::Hidden);
+    EXPECT_EQ(one.height, 72);
+    EXPECT_EQ(PlaceOf(one, BarTool::Email), BarPlace());
+    EXPECT_EQ(PlaceOf(one, BarTool::SongTitleChg), (BarPlace{752, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::New), (BarPlace{820, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::Save), (BarPlace{944, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::Help), (BarPlace{1012, 8, 56, 56}));
+    EXPECT_EQ(one.song.width, 410);
+
+    const ControlBarPlaces two = PlaceControlBar(788, EmailTool::Hidden);
+    EXPECT_EQ(two.height, 130);
+    EXPECT_EQ(PlaceOf(two, BarTool::Email), BarPlace());
+    EXPECT_EQ(PlaceOf(two, BarTool::Save), (BarPlace{132, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(two, BarTool::Help), (BarPlace{200, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(two, BarTool::Demo), (BarPlace{324, 68, 56, 56}));
+}
+
+TEST(PlaceControlBar, GivesTheRoomOfTheHiddenToolToTheOthers)
+{
+    const auto height = [](std::int32_t width) { return PlaceControlBar(width, EmailTool::Hidden).height; };
+    EXPECT_EQ(height(1102), 72);
+    EXPECT_EQ(height(1101), 80);
+    EXPECT_EQ(height(916), 80);
+    EXPECT_EQ(height(915), 130);
+    EXPECT_EQ(height(526), 130);
+    EXPECT_EQ(height(525), 98);
+}
+
+class ControlBarAtEveryWidth : public testing::TestWithParam<EmailTool> {};
+
+TEST_P(ControlBarAtEveryWidth, KeepsTargetsApartAndInsideTheBar)
+{
+    const std::size_t tools = kBarTools - (GetParam() == EmailTool::Hidden ? 1 : 0);
     for (std::int32_t width = 521; width <= 2000; ++width) {
-        const ControlBarPlaces places = PlaceControlBar(width);
+        const ControlBarPlaces places = PlaceControlBar(width, GetParam());
         const std::vector<BarPlace> all = AllPlaces(places);
+        ASSERT_EQ(all.size(), tools + 2) << width;
         for (std::size_t i = 0; i < all.size(); ++i) {
             ASSERT_GE(all[i].left, 8) << width;
             ASSERT_LE(all[i].left + all[i].width, width - 8) << width;
             ASSERT_GE(all[i].top, 0) << width;
             ASSERT_LE(all[i].top + all[i].height, places.height - 2) << width;
-            for (std::size_t other = i + 1; other < kBarTools; ++other)
+            for (std::size_t other = i + 1; other < tools; ++other)
                 ASSERT_GE(Apart(all[i], all[other]), 6) << width << ", tools " << i << " and " << other;
         }
-        for (std::size_t tool = 0; tool < kBarTools; ++tool)
+        for (std::size_t tool = 0; tool < tools; ++tool)
             for (const BarPlace& label : {places.song, places.tempo})
                 ASSERT_GE(Apart(all[tool], label), 6) << width << ", tool " << tool;
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(WithAndWithoutMail, ControlBarAtEveryWidth,
+                         testing::Values(EmailTool::Shown, EmailTool::Hidden));
 
 constexpr SongLineNeeds kShortSong{42, 50, 24, 160};
 constexpr SongLineNeeds kLongSong{42, 700, 24, 600};

@@ -10,11 +10,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
-#include <map>
-#include <optional>
 
-#include "support/TestFolder.h"
+#include "service/xdg/XdgHome.h"
 
 namespace sprout {
 namespace {
@@ -39,36 +36,6 @@ TEST(DocumentsOfUserDirs, IsEmptyWhereTheyAreSwitchedOffOrNotAbsolute)
     EXPECT_EQ(DocumentsOfUserDirs("", "/home/child"), fs::path());
     EXPECT_EQ(DocumentsOfUserDirs("XDG_DOCUMENTS_DIR=/x", "/home/child"), fs::path());
 }
-
-/// A home of its own; the environment comes back afterwards.
-class XdgHome : public testing::Test {
-protected:
-    XdgHome()
-    {
-        Set("HOME", folder.Path() / "home");
-        Set("XDG_CONFIG_HOME", "");
-        fs::create_directories(folder.Path() / "home/.config");
-    }
-    ~XdgHome() override
-    {
-        for (const auto& [name, value] : before) {
-            if (value)
-                ::setenv(name.c_str(), value->c_str(), 1);
-            else
-                ::unsetenv(name.c_str());
-        }
-    }
-
-    void Set(const std::string& name, const std::string& value)
-    {
-        const char* old = std::getenv(name.c_str());
-        before.emplace(name, old ? std::optional<std::string>(old) : std::nullopt);
-        ::setenv(name.c_str(), value.c_str(), 1);
-    }
-
-    TestFolder folder;
-    std::map<std::string, std::optional<std::string>> before;
-};
 
 TEST_F(XdgHome, MakesDocumentsInTheHomeFolder)
 {

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <stop_token>
+#include <string>
+
+namespace sprout {
+
+/// A message that the user reads, addresses and sends. Texts are UTF-8; lines end in CR LF or LF.
+struct MailMessage {
+    std::string Recipient; ///< empty: the user fills it in
+    std::string Subject;
+    std::string Body;
+    std::filesystem::path Attachment; ///< absolute; mail programs read it when they send
+};
+
+/// The user's mail program.
+class Mail {
+public:
+    Mail() = default;
+    Mail(const Mail&) = delete;
+    Mail& operator=(const Mail&) = delete;
+    virtual ~Mail() = default;
+
+    /// Opens the mail program with a new message. True where it was started with the attachment; whether the message is
+    /// ever sent, nobody learns. False where there is no mail program or it does not start.
+    ///
+    /// Takes up to some seconds, on any thread, and ends at once when `stop` asks for it; the result then tells
+    /// nothing.
+    [[nodiscard]] virtual bool HandOver(const MailMessage& message, std::stop_token stop) = 0;
+};
+
+} // namespace sprout

@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <sys/file.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+namespace sprout {
+
+/// An open file descriptor.
+class Descriptor {
+public:
+    explicit Descriptor(int opened) : number(opened) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(number, other.number);
+        return *this;
+    }
+    ~Descriptor()
+    {
+        if (number >= 0)
+            ::close(number);
+    }
+
+    [[nodiscard]] int Number() const { return number; }
+    /// Closes now; 0 or the error. Either way the descriptor is gone.
+    int Close() { return ::close(std::exchange(number, -1)) == 0 ? 0 : errno; }
+    /// Leaves the closing to somebody else.
+    int Release() { return std::exchange(number, -1); }
+
+private:
+    int number;
+};
+
+/// Repeats a call that a signal interrupted.
+template <class Call>
+int Uninterrupted(Call call)
+{
+    int result = call();
+    while (result < 0 && errno == EINTR)
+        result = call();
+    return result;
+}
+
+enum class Lock { Taken, Held, Unknown };
+
+/// Locks an open file or folder without waiting. `Unknown`: the file system has no locks.
+inline Lock TakeLock(int descriptor)
+{
+    if (Uninterrupted([&] { return ::flock(descriptor, LOCK_EX | LOCK_NB); }) == 0)
+        return Lock::Taken;
+    return errno == EWOULDBLOCK ? Lock::Held : Lock::Unknown;
+}
+
+} // namespace sprout

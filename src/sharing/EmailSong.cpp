@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sharing/EmailSong.h"
+
+#include <QApplication>
+
+#include <exception>
+#include <stop_token>
+#include <system_error>
+
+#include "core/Busy.h"
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Mail.h"
+#include "service/PrivateFolders.h"
+#include "service/Services.h"
+#include "sharing/rules/AttachmentName.h"
+#include "sharing/rules/MailText.h"
+#include "songs/SongExport.h"
+#include "sound/TrackRender.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kLookForQuietMs = 100;
+
+/// A private folder that goes with this object, unless it is kept.
+class MailFolder {
+public:
+    MailFolder() : path(TheServices().privateFolders->MakeFolder(Shared().TempFolder)) {}
+    MailFolder(const MailFolder&) = delete;
+    MailFolder& operator=(const MailFolder&) = delete;
+    ~MailFolder()
+    {
+        if (!kept)
+            TheServices().privateFolders->DeleteFolder(path);
+    }
+
+    [[nodiscard]] const fs::path& Path() const { return path; }
+    void Keep() { kept = true; }
+
+private:
+    fs::path path;
+    bool kept = false;
+};
+
+ExportOutcome WriteMailedSong(const fs::path& file)
+{
+    StoppableWork work("Mixing your song");
+    MixSong();
+    work.GoOnWith("Writing the wma file");
+    return WriteWmaFile(Shared().Song.SongMix, file);
+}
+
+/// Whether a mail program was started with the message.
+bool WasStarted(Mail& mail, const MailMessage& message, const std::stop_token& stop)
+{
+    try {
+        return mail.HandOver(message, stop);
+    } catch (const std::exception&) {
+        return false; // the message tells where the file is
+    }
+}
+
+/// A message would come between the user and what waits for an answer, end a stroke, or break into long work, which
+/// shows the hourglass.
+bool IsBusy()
+{
+    return QApplication::activeModalWidget() || QApplication::activePopupWidget() || QApplication::overrideCursor() ||
+           QApplication::mouseButtons() != Qt::NoButton;
+}
+
+} // namespace
+
+EmailSong::EmailSong(QObject* parent) : QObject(parent), tellTimer(this)
+{
+    tellTimer.setInterval(kLookForQuietMs);
+    connect(&tellTimer, &QTimer::timeout, this, &EmailSong::TellFailure);
+}
+
+void EmailSong::EmailBtn()
+{
+    if (underWay) {
+        ShowHint(tr("Your mail program is starting."));
+        return;
+    }
+    ShowHint({});
+    underWay = true;
+    bool isHandedOver = false;
+    Guarded([&] { isHandedOver = MailSong(); });
+    underWay = isHandedOver;
+}
+
+/// Returns whether the song is on its way.
+bool EmailSong::MailSong()
+{
+    try {
+        MailFolder folder;
+        const fs::path wma = folder.Path() / AttachmentName(Shared().Song.SongTitle);
+        const ExportOutcome outcome = WriteMailedSong(wma);
+        if (!outcome.Line1.empty())
+            ShowMessage(outcome.Line1, outcome.Line2);
+        if (outcome.End != ExportEnd::Written) {
+            if (Shared().Song.SongMix.Length == 0)
+                ShowHint(tr("Please paint on the track."));
+            return false;
+        }
+        folder.Keep();
+        HandOver(wma);
+        return true;
+    } catch (const WorkStopped&) {
+        return false;
+    }
+}
+
+void EmailSong::HandOver(const fs::path& wma)
+{
+    file = wma;
+    const SongState& song = Shared().Song;
+    const MailMessage message{{}, MailSubject(song.SongTitle), MailBody(song.SongTitle, song.SongCreatedBy), wma};
+    const auto work = [this, &mail = *TheServices().mail, message](const std::stop_token& stop) {
+        const bool started = WasStarted(mail, message, stop);
+        QMetaObject::invokeMethod(
+            this, [this, started] { EndHandOver(started); }, Qt::QueuedConnection);
+    };
+    try {
+        handOver = std::jthread(work);
+    } catch (const std::system_error&) {
+        tellTimer.start(); // no thread is to be had
+    }
+}
+
+void EmailSong::EndHandOver(bool started)
+{
+    if (!handOver.joinable())
+        return; // nobody waits any more
+    handOver.join();
+    underWay = !started;
+    if (!started)
+        TellFailure();
+}
+
+void EmailSong::TellFailure()
+{
+    if (IsBusy()) {
+        tellTimer.start();
+        return;
+    }
+    tellTimer.stop();
+    Guarded([this] {
+        ShowMessage("Failed to send email. Song is saved to file:", PathText(file));
+        OpenWithShell(PathText(file.parent_path()));
+    });
+    underWay = false;
+}
+
+void EmailSong::StopWaiting()
+{
+    tellTimer.stop();
+    handOver = std::jthread(); // asks the hand-over to end, and waits until it has
+    underWay = false;
+}
+
+} // namespace sprout

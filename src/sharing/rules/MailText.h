@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace sprout {
+
+/// The subject of a mail that brings a song.
+[[nodiscard]] std::string MailSubject(std::string_view songTitle);
+
+/// The text of a mail that brings a song, in lines that end in CR LF; the last one is the author.
+[[nodiscard]] std::string MailBody(std::string_view songTitle, std::string_view createdBy);
+
+} // namespace sprout
