@@ -7,17 +7,15 @@
 #include <stop_token>
 #include <system_error>
 
-#include "core/Busy.h"
 #include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Mail.h"
 #include "service/PrivateFolders.h"
 #include "service/Services.h"
+#include "sharing/WriteSong.h"
 #include "sharing/rules/AttachmentName.h"
 #include "sharing/rules/MailText.h"
-#include "songs/SongExport.h"
-#include "sound/TrackRender.h"
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
@@ -49,14 +47,6 @@ private:
     fs::path path;
     bool kept = false;
 };
-
-ExportOutcome WriteMailedSong(const fs::path& file)
-{
-    StoppableWork work("Mixing your song");
-    MixSong();
-    work.GoOnWith("Writing the wma file");
-    return WriteWmaFile(Shared().Song.SongMix, file);
-}
 
 /// Whether a mail program was started with the message.
 bool WasStarted(Mail& mail, const MailMessage& message, const std::stop_token& stop)
@@ -103,7 +93,7 @@ bool EmailSong::MailSong()
     try {
         MailFolder folder;
         const fs::path wma = folder.Path() / AttachmentName(Shared().Song.SongTitle);
-        const ExportOutcome outcome = WriteMailedSong(wma);
+        const ExportOutcome outcome = MixAndWrite(WriteWmaFile, wma, "Writing the wma file");
         if (!outcome.Line1.empty())
             ShowMessage(outcome.Line1, outcome.Line2);
         if (outcome.End != ExportEnd::Written) {

@@ -8,7 +8,6 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/Busy.h"
 #include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
@@ -16,9 +15,8 @@
 #include "service/Files.h"
 #include "service/Messages.h"
 #include "service/Services.h"
+#include "sharing/WriteSong.h"
 #include "sharing/rules/ExportName.h"
-#include "songs/SongExport.h"
-#include "sound/TrackRender.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/Hints.h"
@@ -43,7 +41,7 @@ struct ExportKind {
     std::string_view saved;
     std::string_view failed;
     std::string_view error;
-    ExportOutcome (*write)(const WaveData&, const fs::path&);
+    SongWriter write;
 };
 
 constexpr ExportKind kWavKind{"Select wav file name to save the song as audio (.wav) file",
@@ -105,17 +103,6 @@ void KeepSoundFolder(const fs::path& target)
         PutSetting("General", kSoundFolder, folder);
 }
 
-ExportOutcome MixAndWrite(const ExportKind& kind, const fs::path& target)
-{
-    HintExport(kind.savingHint);
-    StoppableWork work("Mixing your song");
-    MixSong();
-    HintExport("");
-    work.GoOnWith(kind.writingStage);
-    const WorkingSign sign;
-    return kind.write(Shared().Song.SongMix, target);
-}
-
 void TellNotReplaced(const fs::path& target)
 {
     ShowMessage("File could not be deleted.", PathText(target));
@@ -128,7 +115,8 @@ bool SaveTo(const ExportKind& kind, const fs::path& target)
         TellNotReplaced(target);
         return false;
     }
-    const ExportOutcome outcome = MixAndWrite(kind, target);
+    HintExport(kind.savingHint);
+    const ExportOutcome outcome = MixAndWrite(kind.write, target, kind.writingStage);
     if (!outcome.Line1.empty())
         ShowMessage(outcome.Line1, outcome.Line2);
     if (outcome.End == ExportEnd::NotReplaced) {

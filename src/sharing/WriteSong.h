@@ -1,0 +1,17 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+
+#include "songs/SongExport.h"
+
+namespace sprout {
+
+using SongWriter = ExportOutcome (*)(const WaveData&, const std::filesystem::path&);
+
+/// Mixes the shared song and lets `write` make a file of it, as stoppable work. writing: what the second half is
+/// called. Throws `WorkStopped`.
+[[nodiscard]] ExportOutcome MixAndWrite(SongWriter write, const std::filesystem::path& file, std::string_view writing);
+
+} // namespace sprout
