@@ -5,8 +5,8 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/file.h>
-#include <sys/pidfd.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -146,7 +146,7 @@ pid_t Spawn(const fs::path& program, int from, int to, std::int64_t mostFrames, 
 /// A running child, which ends with the object at the latest.
 class Child {
 public:
-    explicit Child(pid_t spawned) : pid(spawned), end(::pidfd_open(spawned, 0)) {}
+    explicit Child(pid_t spawned) : pid(spawned), end(static_cast<int>(::syscall(SYS_pidfd_open, spawned, 0))) {}
     Child(const Child&) = delete;
     Child& operator=(const Child&) = delete;
     ~Child()

@@ -19,8 +19,8 @@ constexpr int kIoBytes = 32768;
 
 /// Files that children have: sounds, and videos for their sound. None of these kinds leads to other files.
 constexpr const char* kFormats =
-    "aac,ac3,aiff,amr,ape,asf,au,avi,caf,eac3,flac,flv,m4a,matroska,mov,mp3,mp4,mpeg,mpegts,"
-    "ogg,opus,spx,tta,voc,w64,wav,webm,wv";
+    "aac,ac3,aiff,amr,ape,asf,au,avi,caf,eac3,flac,flv,matroska,mov,mp3,mpeg,mpegts,ogg,tta,"
+    "voc,w64,wav,wv";
 
 int DescriptorOf(void* opaque)
 {
