@@ -12,6 +12,7 @@
 #include "main_window/OpenMainWindow.h"
 #include "main_window/TransportCommands.h"
 #include "service/Services.h"
+#include "service/ffmpeg/SoundChild.h"
 #include "service/fontconfig/FontList.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
@@ -42,6 +43,7 @@ public:
     ProgramServices()
     {
         TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
+        TheServices().soundReader = &soundReader;
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
@@ -60,6 +62,7 @@ private:
     QtPictureFiles pictures;
     std::unique_ptr<Stretch> stretch = MakeStretch();
     MachineSound sound;
+    SoundChild soundReader{machine.ExecutablePath().parent_path() / "sprout-read-sound"};
 };
 
 int RunProgram(QApplication& application)

@@ -82,7 +82,9 @@ void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(FileNameFilters(question.Filter));
+    const QStringList filters = FileNameFilters(question.Filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(question.FilterIndex - 1));
     dialog.setDefaultSuffix(QtText(question.DefaultExtension));
     if (!question.FileName.empty())
         dialog.selectFile(QtText(question.FileName));

@@ -75,6 +75,7 @@ FakeServices::FakeServices()
 {
     TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, &stretch, &sound, &playDisplay};
     TheServices().wma = &wma;
+    TheServices().soundReader = &soundReader;
     Shared() = SharedState();
     SharedState& shared = Shared();
     shared.BlankPic = OneColour(0x000001);

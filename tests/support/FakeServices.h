@@ -21,6 +21,7 @@
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
 #include "support/FakeSound.h"
+#include "support/FakeSoundReader.h"
 #include "support/FakeWma.h"
 #include "support/TestFolder.h"
 
@@ -147,6 +148,7 @@ public:
     FakeSoundOutput sound;
     FakePlayDisplay playDisplay;
     FakeWmaEncoder wma;
+    FakeSoundReader soundReader;
 };
 
 } // namespace sprout
