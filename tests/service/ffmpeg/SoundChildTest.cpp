@@ -267,6 +267,20 @@ TEST_F(SoundChildTest, ReadsTheSoundOfAFilm)
     EXPECT_EQ(Convert(Make("silent.mp4", "-f lavfi -i testsrc=duration=1", "")).Outcome, Conversion::Unreadable);
 }
 
+TEST_F(SoundChildTest, GoesOnWhereASoundChangesItsFormat)
+{
+    const Samples tone = ToneBehind(0, 48000);
+    const std::string mono = ReadBytes(MakeFrom(tone, "mono.mp3", "-b:a 64k"));
+    WriteBytes(In("both.mp3"), mono + ReadBytes(MakeFrom(tone, "stereo.mp3", "-b:a 64k -ac 2 -ar 32000")));
+    const Converted converted = Convert(In("both.mp3"));
+    ASSERT_EQ(converted.Outcome, Conversion::Done);
+    const Heard heard = Hear(converted.Wave->Path());
+    EXPECT_EQ(heard.channels, 1) << "as it began";
+    EXPECT_NEAR(static_cast<double>(heard.left.size()), 88200, 4000);
+    EXPECT_GT(FitTone(heard.left, 10000, 40000).sinad, 25);
+    EXPECT_GT(FitTone(heard.left, 55000, 80000).sinad, 25);
+}
+
 TEST_F(SoundChildTest, TakesExactlyTheMostSecondsAndRefusesAFrameMore)
 {
     EXPECT_EQ(Convert(MakeFrom(ToneBehind(0, 48000), "a.wav", "-c:a pcm_s16le"), 1).Outcome, Conversion::Done);
