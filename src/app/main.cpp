@@ -13,6 +13,7 @@
 #include "main_window/TransportCommands.h"
 #include "service/Services.h"
 #include "service/ffmpeg/FfmpegWmaEncoder.h"
+#include "service/ffmpeg/SoundChild.h"
 #include "service/fontconfig/FontList.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
@@ -48,6 +49,7 @@ public:
         TheServices().wma = &wma;
         TheServices().mail = &mail;
         TheServices().privateFolders = &privateFolders;
+        TheServices().soundReader = &soundReader;
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
@@ -69,6 +71,7 @@ private:
     FfmpegWmaEncoder wma;
     XdgMail mail;
     PosixPrivateFolders privateFolders;
+    SoundChild soundReader{machine.ExecutablePath().parent_path() / "sprout-read-sound"};
 };
 
 int RunProgram(QApplication& application)

@@ -5,10 +5,13 @@
 
 #include "beat_window/BeatWindow.h"
 #include "beat_window/rules/BeatCommands.h"
+#include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
+#include "sound/ChosenSound.h"
 #include "sound/WavOperations.h"
+#include "tunes/BeatFiles.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/QtText.h"
@@ -51,14 +54,14 @@ void KeepBeatFolder(std::string_view setting, const fs::path& file)
 std::optional<fs::path> AskForBeatWave()
 {
     return ChooseFileToOpen({"Please select a .wav file to use", GetSetting("General", kBeatWaveFolder, ""), "", "wav",
-                             "Wave files(*.wav)|*.wav|All files|*.*"});
+                             "Wave files(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter), 3});
 }
 
 std::optional<fs::path> AskForBeatPicture()
 {
     const std::string folder = GetSetting("General", kBeatPictureFolder, PathText(Shared().InstallStars));
     return ChooseFileToOpen({"Please select a picture file (32x32) to use", folder, "", "bmp",
-                             "Picture files(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif|All files|*.*"});
+                             "Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*"});
 }
 
 void TellBeatTooLong(const WaveData& wave)
@@ -69,13 +72,25 @@ void TellBeatTooLong(const WaveData& wave)
                     "This will be trimmed to 3 seconds.");
 }
 
-/// The wave file for a new beat, of which the user was told what there is to tell; nothing where there is none.
-std::optional<fs::path> ChooseBeatWave()
+/// Of a sound that must be converted, no more than a beat can use.
+std::optional<ChosenSound> OpenBeatSound(const fs::path& file)
 {
-    std::optional<fs::path> file = AskForBeatWave();
-    if (!file)
+    try {
+        return OpenChosenSound(file, kLongestBeatSeconds, TooLong::Cut);
+    } catch (const WorkStopped&) {
+        HintBeatCommand("");
         return std::nullopt;
-    const WaveData wave = LoadWaveFile(*file);
+    }
+}
+
+/// The sound for a new beat, of which the user was told what there is to tell; nothing where there is none.
+std::optional<ChosenSound> ChooseBeatSound()
+{
+    const std::optional<fs::path> file = AskForBeatWave();
+    std::optional<ChosenSound> sound = file ? OpenBeatSound(*file) : std::nullopt;
+    if (!sound)
+        return std::nullopt;
+    const WaveData wave = LoadWaveFile(sound->WaveFile);
     if (wave.Length < 1) {
         HintBeatCommand("");
         ShowMessage("Failed to load wav file.");
@@ -83,7 +98,7 @@ std::optional<fs::path> ChooseBeatWave()
     }
     KeepBeatFolder(kBeatWaveFolder, *file);
     TellBeatTooLong(wave);
-    return file;
+    return sound;
 }
 
 std::optional<Picture> ChooseBeatPicture()
@@ -103,16 +118,16 @@ void BeatWindow::AddBeat()
     HintBeatCommand("Choose a wav file and small (32x32) bmp picture file");
     if (!AddHelpShown)
         ShowMessage("Select a .wav file to add as a new beat.");
-    const std::optional<fs::path> wave = ChooseBeatWave();
-    if (!wave)
+    const std::optional<ChosenSound> sound = ChooseBeatSound();
+    if (!sound)
         return;
     if (!AddHelpShown)
         ShowMessage("Now select a picture (32x32) file to use for this new beat.");
     const std::optional<Picture> picture = ChooseBeatPicture();
     if (!picture)
         return;
-    const NewBeatName name = NameNewBeat(*wave);
-    AddBeatFiles(*wave, *picture, name.File);
+    const NewBeatName name = NameNewBeat(sound->File);
+    AddBeatFiles(sound->WaveFile, *picture, name.File);
     AddHelpShown = true;
     table.SelectedBeat = kRefindBeat;
     table.RefindBeatName = name.Name;

@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// Picture files of the kinds .bmp, .jpg and .gif. Needs no display.
+/// Picture files of the kinds .bmp, .jpg, .gif and .png. Needs no display.
 class PictureFiles {
 public:
     PictureFiles() = default;

@@ -20,6 +20,7 @@
 #include "core/Tell.h"
 #include "core/Text.h"
 #include "sound/WaveBytes.h"
+#include "sound/WaveFields.h"
 
 namespace sprout {
 
@@ -30,12 +31,6 @@ namespace {
 // Samples go to and from files as they lie in memory.
 static_assert(std::endian::native == std::endian::little);
 
-constexpr std::uint64_t kSmallestWave = 45; // a header of 44 bytes and at least one of sound
-constexpr std::uint64_t kChannelsByte = 22;
-constexpr std::uint64_t kRateByte = 24;
-constexpr std::uint64_t kBitsByte = 34;
-constexpr std::uint64_t kSearchByte = 35;
-
 constexpr std::string_view kNoMemory = "There is not enough memory.";
 
 /// What ends a load with a message of its own.
@@ -44,53 +39,17 @@ struct Refusal {
     std::string text;
 };
 
-char UpperLetter(std::byte letter)
-{
-    const char c = static_cast<char>(letter);
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
-}
-
-/// Byte of the "data" that begins the sound; 0 where there is none.
-std::uint64_t FindData(ByteSource& source)
-{
-    constexpr std::string_view name = "DATA";
-    std::array<char, 4> window{};
-    const std::uint64_t size = source.Size();
-    ByteCursor cursor(source, kSearchByte, size);
-    // A name is looked at as long as at least one byte follows it.
-    for (std::uint64_t read = kSearchByte; read + 1 < size; ++read) {
-        std::byte letter{};
-        cursor.Read({&letter, 1});
-        std::shift_left(window.begin(), window.end(), 1);
-        window.back() = UpperLetter(letter);
-        if (std::string_view(window.data(), window.size()) == name)
-            return read + 1 - name.size();
-    }
-    return 0;
-}
-
-std::uint8_t ByteAt(ByteSource& source, std::uint64_t place)
-{
-    std::byte value{};
-    source.Read(place, {&value, 1});
-    return std::to_integer<std::uint8_t>(value);
-}
-
-std::int32_t Int32At(ByteSource& source, std::uint64_t place)
-{
-    return ByteCursor(source, place, place + 4).ReadInt32();
-}
-
 WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::string& name)
 {
+    const WaveFields fields = ReadWaveFields(source);
     WaveData wave;
-    wave.Channels = ByteAt(source, kChannelsByte);
+    wave.Channels = fields.Channels;
     if (!IsKnownChannels(wave.Channels))
         throw Refusal{"Error Loading " + name, "Channal info invalid at byte location 23"};
-    wave.Rate = Int32At(source, kRateByte);
+    wave.Rate = fields.Rate;
     if (!IsKnownRate(wave.Rate))
         throw Refusal{"Failed Loading " + name, "Sampling rate (" + std::to_string(wave.Rate) + ") not supported"};
-    wave.Bits = ByteAt(source, kBitsByte);
+    wave.Bits = fields.Bits;
     if (!IsKnownBits(wave.Bits))
         throw Refusal{"Error Loading " + name, "Bits per sample not supported"};
     wave.Length = RoundHalfEven(static_cast<double>(dataSize) / FrameBytes(wave));
@@ -135,12 +94,10 @@ WaveData ReadWave(const fs::path& path, const std::string& name, ReadSamples sam
     FileSource source(path);
     if (source.Size() < kSmallestWave)
         throw Refusal{"Error Loading " + name, "No wave Data found in file"};
-    const std::uint64_t data = FindData(source);
+    const std::uint64_t data = FindWaveData(source);
     if (data == 0)
         throw Refusal{"Error Loading " + name, "The String 'Data' - is not found"};
-    if (data + 8 > source.Size())
-        throw RunTimeError("The file ends before its sound.");
-    WaveData wave = ReadWaveHead(source, Int32At(source, data + 4), name);
+    WaveData wave = ReadWaveHead(source, ReadWaveDataSize(source, data), name);
     if (samples == ReadSamples::HeaderOnly)
         return wave;
     const std::vector<std::byte> bytes = ReadSampleBytes(source, wave, data + 8);

@@ -183,7 +183,7 @@ void TuneFrm2::ChangePicBtn()
     question.Title = "Please select a picture file (32x32) to use";
     question.Folder = GetSetting("General", "PictureSelectPath", PathText(Shared().InstallStars));
     question.DefaultExtension = "bmp";
-    question.Filter = "Picture files|*.bmp;*.jpg;*.gif|All files|*.*";
+    question.Filter = "Picture files|*.bmp;*.jpg;*.gif;*.png|All files|*.*";
     try {
         if (const std::optional<fs::path> file = ChooseFileToOpen(question))
             TakePicture(*file);

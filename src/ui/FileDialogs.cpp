@@ -92,7 +92,9 @@ void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
 {
     dialog.setObjectName(QStringLiteral("CommonDialog"));
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    dialog.setNameFilters(FileNameFilters(question.Filter));
+    const QStringList filters = FileNameFilters(question.Filter);
+    dialog.setNameFilters(filters);
+    dialog.selectNameFilter(filters.value(question.FilterIndex - 1));
     dialog.setDefaultSuffix(QtText(question.DefaultExtension));
     if (!question.FileName.empty())
         dialog.selectFile(QtText(question.FileName));

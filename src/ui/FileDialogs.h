@@ -15,6 +15,7 @@ struct FileQuestion {
     std::string FileName;         ///< offered at first
     std::string DefaultExtension; ///< without its dot
     std::string Filter;           ///< name|patterns|name|patterns, the patterns joined by semicolons
+    int FilterIndex = 1;          ///< of the filter selected at first, counted from 1
 };
 
 /// Asks for a file that exists; nothing if the question was cancelled.

@@ -2,12 +2,15 @@
 #include <QFile>
 #include <QImage>
 
+#include <sys/stat.h>
+
 #include <optional>
 
 #include "beat_window/BeatWindowTest.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "service/qt/QtPictureFiles.h"
+#include "sound/ChosenSound.h"
 #include "tunes/BeatFiles.h"
 #include "ui/FileDialogs.h"
 
@@ -34,6 +37,14 @@ protected:
     }
 
     fs::path Chosen(const std::string& name) const { return services.folder.Path() / name; }
+
+    /// Sounds of other kinds become this one.
+    void ConvertTo(const WaveData& wave)
+    {
+        SaveWaveFile(wave, Chosen("converted.wav"));
+        services.soundReader.wave = ReadBytes(Chosen("converted.wav"));
+        services.soundReader.outcome = Conversion::Done;
+    }
 
     /// Clicks Add and answers its two dialogs.
     void Add(const std::optional<fs::path>& wave, const std::optional<fs::path>& picture)
@@ -101,11 +112,12 @@ TEST_F(AddBeatTest, AsksForTheTwoFilesInTheirFolders)
     EXPECT_EQ(questions[0].Folder, "/waves/");
     EXPECT_EQ(questions[0].FileName, "");
     EXPECT_EQ(questions[0].DefaultExtension, "wav");
-    EXPECT_EQ(questions[0].Filter, "Wave files(*.wav)|*.wav|All files|*.*");
+    EXPECT_EQ(questions[0].Filter, "Wave files(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter));
+    EXPECT_EQ(questions[0].FilterIndex, 3) << "every sound is shown at first, .wav among them";
     EXPECT_EQ(questions[1].Title, "Please select a picture file (32x32) to use");
     EXPECT_EQ(questions[1].Folder, "/install/Stars/");
     EXPECT_EQ(questions[1].DefaultExtension, "bmp");
-    EXPECT_EQ(questions[1].Filter, "Picture files(*.bmp;*.jpg;*.gif)|*.bmp;*.jpg;*.gif|All files|*.*");
+    EXPECT_EQ(questions[1].Filter, "Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*");
     const std::string folder = services.folder.Path().native() + "/";
     EXPECT_EQ(GetSetting("General", "WavFileSelPath", ""), folder);
     EXPECT_EQ(GetSetting("General", "PictureSelectPath", ""), folder);
@@ -198,6 +210,102 @@ TEST_F(AddBeatTest, RefusesAFileWithoutSound)
     EXPECT_EQ(GetSetting("General", "WavFileSelPath", "none"), "none");
 }
 
+TEST_F(AddBeatTest, MakesABeatOfASoundOfAnotherKind)
+{
+    ConvertTo(QuietWave(200));
+    WriteBytes(Chosen("Bell.mp3"), "a song");
+    BeatWindow::AddHelpShown = true;
+    Open();
+    Add(Chosen("Bell.mp3"), Chosen("Picture.bmp"));
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(services.messages.shown, IsEmpty());
+    EXPECT_THAT(services.soundReader.calls,
+                ElementsAre(FakeSoundReader::Call{Chosen("Bell.mp3"), kLongestBeatSeconds, TooLong::Cut}));
+    EXPECT_EQ(FilesOfUserBeats(), "Bell.bmp Bell.wav original.bmp original.wav ");
+    EXPECT_EQ(ReadBytes(Shared().UserBeats / "Bell.wav"), services.soundReader.wave);
+    EXPECT_EQ(TextOf("NmLbl"), "bell");
+    EXPECT_TRUE(fs::is_empty(Shared().TempFolder));
+    EXPECT_EQ(GetSetting("General", "WavFileSelPath", ""), services.folder.Path().native() + "/");
+}
+
+TEST_F(AddBeatTest, GivesASoundOfAnotherKindAFreeName)
+{
+    MakeBeat("bell", 10);
+    ConvertTo(QuietWave(200));
+    WriteBytes(Chosen("Bell.ogg"), "a song");
+    BeatWindow::AddHelpShown = true;
+    Open();
+    Add(Chosen("Bell.ogg"), Chosen("Picture.bmp"));
+    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as new1bell|"));
+    EXPECT_EQ(FilesOfUserBeats(), "New1Bell.bmp New1Bell.wav bell.bmp bell.wav original.bmp original.wav ");
+}
+
+TEST_F(AddBeatTest, TellsOfTheTrimmingOfASoundOfAnotherKind)
+{
+    ConvertTo(QuietWave(5 * 11025));
+    WriteBytes(Chosen("Long.mp3"), "a song of an hour");
+    BeatWindow::AddHelpShown = true;
+    Open();
+    Add(Chosen("Long.mp3"), Chosen("Picture.bmp"));
+    EXPECT_THAT(told,
+                ElementsAre(std::string("The duration of this file is 5 seconds,|This will be trimmed to 3 seconds.|") +
+                            kAddHint));
+}
+
+TEST_F(AddBeatTest, TellsOfASoundThatCannotBeRead)
+{
+    WriteBytes(Chosen("Bell.mp3"), "damaged");
+    BeatWindow::AddHelpShown = true;
+    Open();
+    Add(Chosen("Bell.mp3"), Chosen("Picture.bmp"));
+    EXPECT_EQ(services.soundReader.calls.size(), 1U);
+    EXPECT_THAT(told, ElementsAre("Failed to load wav file.|"));
+    ASSERT_EQ(services.messages.shown.size(), 1U) << "the reader of waves tells why";
+    EXPECT_EQ(services.messages.shown[0].title, "Error Loading " + Chosen("Bell.mp3").native());
+    EXPECT_EQ(FilesOfUserBeats(), "original.bmp original.wav ");
+    EXPECT_TRUE(fs::is_empty(Shared().TempFolder));
+}
+
+TEST_F(AddBeatTest, EndsSilentlyWhenTheUserStopsTheReading)
+{
+    ConvertTo(QuietWave(200));
+    services.screen.progressesBeforeStop = 0;
+    WriteBytes(Chosen("Bell.mp3"), "a song");
+    BeatWindow::AddHelpShown = true;
+    Open();
+    Add(Chosen("Bell.mp3"), Chosen("Picture.bmp"));
+    EXPECT_EQ(questions.size(), 1U);
+    EXPECT_THAT(told, IsEmpty());
+    EXPECT_THAT(services.messages.shown, IsEmpty());
+    EXPECT_EQ(statusLbl.text(), QString());
+    EXPECT_EQ(FilesOfUserBeats(), "original.bmp original.wav ");
+    EXPECT_EQ(GetSetting("General", "WavFileSelPath", "none"), "none");
+}
+
+TEST_F(AddBeatTest, DeletesTheConvertedSoundWhenThePictureIsCancelled)
+{
+    ConvertTo(QuietWave(200));
+    WriteBytes(Chosen("Bell.mp3"), "a song");
+    Open();
+    Add(Chosen("Bell.mp3"), std::nullopt);
+    EXPECT_EQ(questions.size(), 2U);
+    EXPECT_TRUE(fs::is_empty(Shared().TempFolder));
+    EXPECT_EQ(FilesOfUserBeats(), "original.bmp original.wav ");
+}
+
+TEST_F(AddBeatTest, WaitsForNoPipeAndNoDevice)
+{
+    BeatWindow::AddHelpShown = true;
+    ASSERT_EQ(::mkfifo(Chosen("pipe.mp3").c_str(), 0600), 0);
+    Open();
+    for (const fs::path& file : {Chosen("pipe.mp3"), fs::path("/dev/zero"), services.folder.Path()}) {
+        Add(file, Chosen("Picture.bmp"));
+        EXPECT_THAT(told, ElementsAre("Failed to load wav file.|"));
+    }
+    EXPECT_THAT(services.soundReader.calls, IsEmpty());
+    EXPECT_EQ(FilesOfUserBeats(), "original.bmp original.wav ");
+}
+
 TEST_F(AddBeatTest, TellsOfADamagedPictureAndAddsNothing)
 {
     WriteBytes(Chosen("Picture.bmp"), "bad");
@@ -237,12 +345,17 @@ TEST_F(AddBeatTest, StoresEveryKindAndSizeOfPictureAsBmp)
     photo.fill(Qt::green);
     ASSERT_TRUE(photo.save(QFile::decodeName(Chosen("photo.jpg").c_str()), "JPG"));
     WriteBytes(Chosen("dot.GIF"), GifBytes().toStdString());
+    ASSERT_TRUE(photo.save(QFile::decodeName(Chosen("flag.png").c_str()), "PNG"));
     fs::remove(Shared().UserBeats / "original.bmp");
     Open();
     BeatWindow::AddHelpShown = true;
     Add(Chosen("Bell.wav"), Chosen("photo.jpg"));
     Add(Chosen("Bell.wav"), Chosen("dot.GIF"));
+    Add(Chosen("Bell.wav"), Chosen("flag.png"));
     EXPECT_THAT(services.messages.shown, IsEmpty());
+    const QImage fromPng(QFile::decodeName((Shared().UserBeats / "New2Bell.bmp").c_str()), "BMP");
+    EXPECT_EQ(fromPng.size(), QSize(200, 100));
+    EXPECT_EQ(fromPng.pixelColor(50, 50), QColor(Qt::green));
     const QImage fromJpg(QFile::decodeName((Shared().UserBeats / "Bell.bmp").c_str()), "BMP");
     EXPECT_EQ(fromJpg.size(), QSize(200, 100));
     EXPECT_GT(fromJpg.pixelColor(50, 50).green(), 250);

@@ -255,10 +255,11 @@ class Desk:
         os.mkdir(self.program_folder)
         self.executable = os.path.join(self.program_folder, "sprout-painter")
         built = os.path.join(self.build, "bin")
-        try:
-            os.link(os.path.join(built, "sprout-painter"), self.executable)
-        except OSError:  # on another disk
-            shutil.copy2(os.path.join(built, "sprout-painter"), self.executable)
+        for name in ("sprout-painter", "sprout-read-sound"):
+            try:
+                os.link(os.path.join(built, name), os.path.join(self.program_folder, name))
+            except OSError:  # on another disk
+                shutil.copy2(os.path.join(built, name), os.path.join(self.program_folder, name))
         os.symlink(os.path.join(built, "Sprout"), os.path.join(self.program_folder, "Sprout"))
 
     @property

@@ -77,6 +77,7 @@ FakeServices::FakeServices()
     TheServices().wma = &wma;
     TheServices().mail = &mail;
     TheServices().privateFolders = &privateFolders;
+    TheServices().soundReader = &soundReader;
     Shared() = SharedState();
     SharedState& shared = Shared();
     shared.BlankPic = OneColour(0x000001);

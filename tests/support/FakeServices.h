@@ -22,6 +22,7 @@
 #include "service/posix/PosixFiles.h"
 #include "support/FakeMail.h"
 #include "support/FakeSound.h"
+#include "support/FakeSoundReader.h"
 #include "support/FakeWma.h"
 #include "support/TestFolder.h"
 
@@ -150,6 +151,7 @@ public:
     FakeWmaEncoder wma;
     FakeMail mail;
     FakePrivateFolders privateFolders;
+    FakeSoundReader soundReader;
 };
 
 } // namespace sprout

@@ -132,6 +132,17 @@ TEST_F(ChooseFileToOpenTest, OffersTheKindsOfFilesInAnyLetterCase)
     EXPECT_FALSE(QDir::match(QStringLiteral("*.[bB][mM][pP]"), QStringLiteral("Drum.wav")));
 }
 
+TEST_F(ChooseFileToOpenTest, SelectsTheFilterThatIsAskedFor)
+{
+    FileQuestion question = Question();
+    question.Filter = "Wave files|*.wav|All files|*.*|Other sounds|*.mp3;*.ogg";
+    question.FilterIndex = 3;
+    Ask(question, [](QFileDialog& dialog) {
+        EXPECT_TRUE(dialog.selectedNameFilter().startsWith(QStringLiteral("Other sounds")));
+        dialog.reject();
+    });
+}
+
 TEST_F(ChooseFileToOpenTest, IsAnsweredByAStandInAsLongAsItLives)
 {
     const FileChooserStandIn outer([](const FileQuestion& question) {

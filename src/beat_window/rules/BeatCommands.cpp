@@ -29,11 +29,11 @@ std::string LowerBeatName(const std::string& waveName)
     return LowerCase(waveName.substr(0, waveName.size() - kWavLength));
 }
 
-std::string BeatWaveTitle(const fs::path& waveFile)
+std::string BeatWaveTitle(const fs::path& soundFile)
 {
-    const std::string title = PathText(waveFile.filename());
+    const std::string title = PathText(soundFile.filename());
     const bool isWav = title.size() > kWavLength && LowerCase(title).ends_with(".wav");
-    return isWav ? title : PathText(waveFile.stem()) + ".wav";
+    return isWav ? title : PathText(soundFile.stem()) + ".wav";
 }
 
 std::vector<std::byte> BytesOfFile(const fs::path& path)
@@ -96,9 +96,9 @@ void RenameBeatFile(const fs::path& from, const fs::path& to)
 
 } // namespace
 
-NewBeatName NameNewBeat(const fs::path& waveFile)
+NewBeatName NameNewBeat(const fs::path& soundFile)
 {
-    const std::string title = BeatWaveTitle(waveFile);
+    const std::string title = BeatWaveTitle(soundFile);
     std::string candidate = title;
     for (int n = 1; FileExists(Shared().UserBeats / candidate); ++n)
         candidate = "New" + std::to_string(n) + title;

@@ -16,9 +16,9 @@ struct NewBeatName {
     std::string Name;      ///< in lower case
 };
 
-/// A free name in `UserBeats` for a chosen wave file: its own, else the first free one of New1..., New2... A chosen
+/// A free name in `UserBeats` for a chosen sound file: its own, else the first free one of New1..., New2... A chosen
 /// file that is called otherwise than .wav gets that ending, without which no beat is found.
-[[nodiscard]] NewBeatName NameNewBeat(const std::filesystem::path& waveFile);
+[[nodiscard]] NewBeatName NameNewBeat(const std::filesystem::path& soundFile);
 
 /// The picture chosen for a new beat; the default tune picture where there is no such file. Throws where it cannot be
 /// read.

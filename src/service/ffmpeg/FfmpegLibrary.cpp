@@ -43,6 +43,7 @@ bool FindUtil(FfmpegLibrary& calls)
     find("av_channel_layout_default", calls.ChannelLayoutDefault);
     find("av_channel_layout_copy", calls.ChannelLayoutCopy);
     find("av_channel_layout_uninit", calls.ChannelLayoutUninit);
+    find("av_opt_set", calls.OptSet);
     return find.FoundAll();
 }
 
@@ -50,6 +51,7 @@ bool FindCodec(FfmpegLibrary& calls)
 {
     Library find("libavcodec", LIBAVCODEC_VERSION_MAJOR);
     find("avcodec_find_encoder", calls.FindEncoder)("avcodec_find_decoder", calls.FindDecoder);
+    find("av_codec_iterate", calls.CodecIterate)("av_codec_is_decoder", calls.CodecIsDecoder);
     find("avcodec_get_name", calls.CodecGetName)("avcodec_alloc_context3", calls.CodecAllocContext);
     find("avcodec_free_context", calls.CodecFreeContext)("avcodec_open2", calls.CodecOpen);
     find("avcodec_parameters_from_context", calls.ParametersFromContext);

@@ -10,6 +10,7 @@ extern "C" {
 #include <libavutil/frame.h>
 #include <libavutil/log.h>
 #include <libavutil/mem.h>
+#include <libavutil/opt.h>
 #include <libswresample/swresample.h>
 }
 
@@ -33,10 +34,13 @@ struct FfmpegLibrary {
     decltype(&av_channel_layout_default) ChannelLayoutDefault = nullptr;
     decltype(&av_channel_layout_copy) ChannelLayoutCopy = nullptr;
     decltype(&av_channel_layout_uninit) ChannelLayoutUninit = nullptr;
+    decltype(&av_opt_set) OptSet = nullptr;
 
     // libavcodec
     decltype(&avcodec_find_encoder) FindEncoder = nullptr;
     decltype(&avcodec_find_decoder) FindDecoder = nullptr;
+    decltype(&av_codec_iterate) CodecIterate = nullptr;
+    decltype(&av_codec_is_decoder) CodecIsDecoder = nullptr;
     decltype(&avcodec_get_name) CodecGetName = nullptr;
     decltype(&avcodec_alloc_context3) CodecAllocContext = nullptr;
     decltype(&avcodec_free_context) CodecFreeContext = nullptr;

@@ -92,7 +92,7 @@ bool IsCut(const QByteArray& bytes, const QByteArray& kind, QSize size)
 
 bool IsKnownKind(const QByteArray& kind)
 {
-    return kind == "bmp" || kind == "jpeg" || kind == "gif";
+    return kind == "bmp" || kind == "jpeg" || kind == "gif" || kind == "png";
 }
 
 QImage ReadImage(QByteArray bytes, const std::filesystem::path& path)

@@ -23,9 +23,10 @@ def choose_file(program, path):
 
 
 def save_as_sound(program, kind, path):
+    """Saves under a path, whose extension the program adds."""
     program.click("SaveBtn")
     program.click(BUTTONS[kind], form="SongSelFrm")
-    choose_file(program, path)
+    choose_file(program, os.path.splitext(path)[0])
     program.wait_for("NoteLbl1", SAVED[kind], form="Msg1Btn2NoteFrm", seconds=60)
     expect(program.text_of("NoteLbl2") == os.path.basename(path), "the message names another file")
     program.click("OkBtn", form="Msg1Btn2NoteFrm")
@@ -114,7 +115,7 @@ def TakeSongHome(desk):
     save_as_sound(program, "wav", wave)
     expect(read_wave(wave) == rendered, "the WAV file is another sound than the rendered song")
     wma = os.path.join(desk.folder, "Mine.wma")
-    save_as_sound(program, "wma", os.path.join(desk.folder, "Mine"))
+    save_as_sound(program, "wma", wma)
     expect_zumi_as_wma(wma, rendered)
     left = sorted(name for name in os.listdir(desk.folder) if name.startswith(".Tqk"))
     expect(not left, f"files were left beside the sounds: {left}")
@@ -144,9 +145,13 @@ def MailByThunderbirdOrNobody(desk):
     expect("attachment='file:///" in words[1] and "Zumi.wma'" in words[1], f"nothing is attached: {words}")
     expect("subject=Song%20i%20composed%20myself%20-%20Zumi," in words[1], f"another subject: {words}")
 
+    close(program)
+
     write_program(os.path.join(mail.folder, "xdg-mime"), "echo browser.desktop\n")
     mail.add_program("browser", "browser.desktop", "Network;WebBrowser;")
     os.remove(mail.noted)
+    program = desk.start(**mail.environment)
+    program.wait_for("SngTitleLbl", ZUMI)
     program.click("EmailBtn")
     program.wait_for("NoteLbl1", "Failed to send email. Song is saved to file:", form="Msg1Btn2NoteFrm")
     told = program.text_of("NoteLbl2")

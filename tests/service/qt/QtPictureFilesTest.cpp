@@ -105,9 +105,20 @@ TEST_F(Pictures, ReadGif)
     EXPECT_EQ(picture.Pixel(1, 0), 0x00FF00U);
 }
 
+TEST_F(Pictures, ReadPngAndLayWhatIsSeenThroughOnWhite)
+{
+    QImage image = Drawn().convertToFormat(QImage::Format_ARGB32);
+    image.setPixel(0, 0, qRgba(200, 100, 0, 0));
+    const Picture picture = files.LoadPicture(Write("a.png", "PNG", image));
+    EXPECT_EQ(picture.Width(), 40);
+    EXPECT_EQ(picture.Height(), 30);
+    EXPECT_EQ(picture.Pixel(10, 5), 100U << 16 | 40U << 8 | 60U);
+    EXPECT_EQ(picture.Pixel(0, 0), 0xFFFFFFU);
+}
+
 TEST_F(Pictures, RefuseOtherKindsFoldersAndMissingFiles)
 {
-    EXPECT_THROW(static_cast<void>(files.LoadPicture(Write("a.png", "PNG"))), RunTimeError);
+    EXPECT_THROW(static_cast<void>(files.LoadPicture(Write("a.ppm", "PPM"))), RunTimeError);
     EXPECT_THROW(static_cast<void>(files.LoadPicture(folder.Path())), RunTimeError);
     EXPECT_THROW(static_cast<void>(files.LoadPicture(In("missing.bmp"))), RunTimeError);
     ExpectNoPicture("", 0);
@@ -123,6 +134,10 @@ TEST_F(Pictures, RefuseAFileThatIsCutAnywhere)
     const std::string jpg = ReadBytes(Write("a.jpg", "JPG"));
     for (std::size_t size = 0; size < jpg.size(); ++size)
         ExpectNoPicture(jpg.substr(0, size), size);
+    const std::string png = ReadBytes(Write("a.png", "PNG"));
+    constexpr std::size_t endMark = 12; // behind the last line
+    for (std::size_t size = 0; size < png.size() - endMark; ++size)
+        ExpectNoPicture(png.substr(0, size), size);
     const std::string gif = ReadBytes(WriteGif());
     for (std::size_t size = 0; size < 31; ++size)
         ExpectNoPicture(gif.substr(0, size), size);

@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/ffmpeg/SoundChild.h"
+
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <optional>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "service/ffmpeg/SoundDecoder.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr mode_t kOwnerOnly = 0600;
+constexpr int kMostTries = 100; // other programs that make files of the same names at the same time
+constexpr int kPollMs = 20;
+
+/// An open file descriptor, or none below 0.
+class Descriptor {
+public:
+    explicit Descriptor(int opened) : number(opened) {}
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
+    Descriptor& operator=(Descriptor&&) = delete;
+    ~Descriptor()
+    {
+        if (number >= 0)
+            ::close(number);
+    }
+
+    [[nodiscard]] int Number() const { return number; }
+
+private:
+    int number;
+};
+
+[[noreturn]] void FailToWrite(int error)
+{
+    throw RunTimeError("The sound could not be converted: " + std::generic_category().message(error) + ".");
+}
+
+/// A pipe or a device would be waited for.
+bool IsPlainFile(const Descriptor& file)
+{
+    struct stat facts {};
+    return file.Number() >= 0 && ::fstat(file.Number(), &facts) == 0 && S_ISREG(facts.st_mode);
+}
+
+/// A new temporary file. It is locked as long as it is there, so that no other running program takes it for a stale
+/// one.
+class TemporaryWave : public ConvertedWave {
+public:
+    TemporaryWave() : file(Create()) {}
+    TemporaryWave(const TemporaryWave&) = delete;
+    TemporaryWave& operator=(const TemporaryWave&) = delete;
+    ~TemporaryWave() override { ::unlink(path.c_str()); }
+
+    [[nodiscard]] const fs::path& Path() const override { return path; }
+    [[nodiscard]] int Number() const { return file.Number(); }
+
+private:
+    int Create();
+
+    fs::path path;
+    Descriptor file;
+};
+
+int TemporaryWave::Create()
+{
+    for (int n = 1; n <= kMostTries; ++n) {
+        path = NewTempFileName("wav");
+        const int opened = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
+        if (opened < 0 && errno != EEXIST)
+            FailToWrite(errno);
+        if (opened < 0)
+            continue;
+        struct stat facts {};
+        const bool isHeld = ::flock(opened, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+        if (!isHeld && ::fstat(opened, &facts) == 0 && facts.st_nlink > 0)
+            return opened;
+        ::close(opened); // another program took it for a stale one in the moment before the lock
+    }
+    FailToWrite(EEXIST);
+}
+
+/// What the child gets: both files, none of the program's own, and every signal as it comes.
+class SpawnOrders {
+public:
+    SpawnOrders(int from, int to)
+    {
+        ::posix_spawn_file_actions_init(&files);
+        ::posix_spawn_file_actions_adddup2(&files, from, STDIN_FILENO);
+        ::posix_spawn_file_actions_adddup2(&files, to, STDOUT_FILENO);
+        ::posix_spawn_file_actions_addclosefrom_np(&files, STDERR_FILENO + 1);
+        ::posix_spawnattr_init(&attributes);
+        sigset_t signals;
+        ::sigemptyset(&signals);
+        ::posix_spawnattr_setsigmask(&attributes, &signals);
+        ::sigfillset(&signals);
+        ::posix_spawnattr_setsigdefault(&attributes, &signals);
+        ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+    }
+    SpawnOrders(const SpawnOrders&) = delete;
+    SpawnOrders& operator=(const SpawnOrders&) = delete;
+    ~SpawnOrders()
+    {
+        ::posix_spawn_file_actions_destroy(&files);
+        ::posix_spawnattr_destroy(&attributes);
+    }
+
+    posix_spawn_file_actions_t files{};
+    posix_spawnattr_t attributes{};
+};
+
+pid_t Spawn(const fs::path& program, int from, int to, std::int64_t mostFrames, TooLong tooLong)
+{
+    const SpawnOrders orders(from, to);
+    std::string name = program.native();
+    std::string most = std::to_string(mostFrames);
+    std::string manner = tooLong == TooLong::Cut ? "cut" : "refuse";
+    const std::array<char*, 4> words = {name.data(), most.data(), manner.data(), nullptr};
+    pid_t child = -1;
+    const int error = ::posix_spawn(&child, name.c_str(), &orders.files, &orders.attributes, words.data(), environ);
+    return error == 0 ? child : -1;
+}
+
+/// A running child, which ends with the object at the latest.
+class Child {
+public:
+    explicit Child(pid_t spawned) : pid(spawned), end(static_cast<int>(::syscall(SYS_pidfd_open, spawned, 0))) {}
+    Child(const Child&) = delete;
+    Child& operator=(const Child&) = delete;
+    ~Child()
+    {
+        if (isRunning) {
+            ::kill(pid, SIGKILL);
+            Reap(0);
+        }
+    }
+
+    /// Waits a moment for the end. What the child ended with: nothing while it runs, below 0 if it was ended.
+    std::optional<int> WaitAMoment()
+    {
+        pollfd watched = {end.Number(), POLLIN, 0}; // without a descriptor it is a pause
+        ::poll(&watched, 1, kPollMs);
+        return Reap(WNOHANG);
+    }
+
+private:
+    std::optional<int> Reap(int options)
+    {
+        int status = 0;
+        pid_t reaped = -1;
+        do
+            reaped = ::waitpid(pid, &status, options);
+        while (reaped < 0 && errno == EINTR);
+        if (reaped == 0)
+            return std::nullopt;
+        isRunning = false;
+        return reaped == pid && WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    pid_t pid;
+    Descriptor end;
+    bool isRunning = true;
+};
+
+void TellProgress(const TemporaryWave& wave, std::uint64_t mostBytes, const SoundReader::Progress& progress)
+{
+    struct stat facts {};
+    if (::fstat(wave.Number(), &facts) == 0)
+        progress(static_cast<std::size_t>(std::min(static_cast<std::uint64_t>(facts.st_size), mostBytes)), mostBytes);
+}
+
+Converted Result(int status, std::unique_ptr<TemporaryWave> wave)
+{
+    switch (static_cast<DecodeStatus>(status)) {
+    case DecodeStatus::Done:
+        return {Conversion::Done, std::move(wave)};
+    case DecodeStatus::TooLong:
+        return {Conversion::TooLong, nullptr};
+    case DecodeStatus::NotWritten:
+        throw RunTimeError("The sound could not be converted: the disk may be full.");
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+SoundChild::SoundChild(fs::path programFile, std::chrono::milliseconds longestWait)
+    : program(std::move(programFile)), longest(longestWait)
+{
+}
+
+Converted SoundChild::Convert(const fs::path& sound, std::int32_t mostSeconds, TooLong tooLong,
+                              const Progress& progress)
+{
+    const Descriptor from(::open(sound.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!IsPlainFile(from))
+        return {};
+    const std::int64_t mostFrames = std::int64_t{mostSeconds} * kDecodedRate;
+    auto wave = std::make_unique<TemporaryWave>();
+    const auto last = std::chrono::steady_clock::now() + longest;
+    const pid_t pid = Spawn(program, from.Number(), wave->Number(), mostFrames, tooLong);
+    if (pid < 0)
+        return {};
+    Child child(pid);
+    std::optional<int> status = child.WaitAMoment();
+    while (!status && std::chrono::steady_clock::now() < last) {
+        TellProgress(*wave, MostDecodedBytes(mostFrames), progress);
+        status = child.WaitAMoment();
+    }
+    return status ? Result(*status, std::move(wave)) : Converted();
+}
+
+} // namespace sprout

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <chrono>
+
+#include "service/SoundReader.h"
+
+namespace sprout {
+
+/// Reads sounds in a child process with limits of its own, which runs `sprout-read-sound`: whatever a damaged file does
+/// there, the program goes on.
+class SoundChild : public SoundReader {
+public:
+    /// program: the path of `sprout-read-sound`. longest: after so long the child is ended.
+    explicit SoundChild(std::filesystem::path program, std::chrono::milliseconds longest = std::chrono::seconds(20));
+
+    [[nodiscard]] Converted Convert(const std::filesystem::path& sound, std::int32_t mostSeconds, TooLong tooLong,
+                                    const Progress& progress) override;
+
+private:
+    std::filesystem::path program;
+    std::chrono::milliseconds longest;
+};
+
+} // namespace sprout
