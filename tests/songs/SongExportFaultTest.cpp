@@ -45,8 +45,8 @@ protected:
 
     void ExpectNextExportToTidyUp() const
     {
-        EXPECT_EQ(Write(), ExportEnd::Written);
-        EXPECT_TRUE(ReadBytes(Path()) == newBytes);
+        EXPECT_EQ(GetParam()(RampWave(100), Path()).End, ExportEnd::Written);
+        EXPECT_FALSE(ReadBytes(Path()) == newBytes);
         EXPECT_EQ(std::distance(fs::directory_iterator(Path().parent_path()), fs::directory_iterator()), 1);
     }
 

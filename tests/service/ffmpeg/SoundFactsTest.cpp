@@ -5,9 +5,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <random>
 
 #include "service/ffmpeg/WmaMaker.h"
+#include "sound/WaveBytes.h"
+#include "sound/Waves.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -71,6 +74,11 @@ TEST_F(SoundFactsOfAFile, AreNotReadFromOtherFiles)
     EXPECT_FALSE(IsRead("#EXTM3U\n#EXTINF:1,\nhttp://localhost/song.wma\n"));
     EXPECT_FALSE(IsRead("ffconcat version 1.0\nfile /etc/hostname\n"));
     EXPECT_FALSE(IsRead(std::string(100000, '\0')));
+    auto waveHead = WaveHead(LevelWave(1000, 5));
+    SetWaveSizes(waveHead, 4000);
+    std::string waveFile(4044, '\5');
+    std::memcpy(waveFile.data(), waveHead.data(), waveHead.size());
+    EXPECT_FALSE(IsRead(waveFile));
     EXPECT_THROW(static_cast<void>(ReadSoundFacts(folder.Path())), RunTimeError);
     EXPECT_THROW(static_cast<void>(ReadSoundFacts(folder.Path() / "none.wma")), RunTimeError);
     ASSERT_EQ(::mkfifo((folder.Path() / "pipe.wma").c_str(), 0600), 0);
