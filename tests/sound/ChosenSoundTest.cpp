@@ -105,8 +105,9 @@ TEST_F(ChosenSoundTest, ConvertsStreamsWhoseSizeIsNotTold)
 
 TEST_F(ChosenSoundTest, LeavesToTheReaderOfWavesWhatItHasWordsFor)
 {
-    ExpectAsItIs(Wave(36, "tada"));
-    WriteBytes(In("short.wav"), ReadBytes(Wave()).substr(0, 44));
+    WriteBytes(In("tada.wav"), ReadBytes(Wave(36, "tada")).replace(4, 4, 4, '\xFF'));
+    ExpectAsItIs(In("tada.wav"));
+    WriteBytes(In("short.wav"), ReadBytes(Wave(20, "\3")).substr(0, 44));
     ExpectAsItIs(In("short.wav"));
     WriteBytes(In("cut.wav"), ReadBytes(Wave()).replace(36, 9, "xxdata123"));
     WriteBytes(In("cut.wav"), ReadBytes(In("cut.wav")).substr(0, 45));

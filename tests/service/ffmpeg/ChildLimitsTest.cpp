@@ -72,6 +72,7 @@ TEST(ChildLimits, EndTheChildWithItsParent)
     const pid_t parent = ::fork();
     if (parent == 0) {
         if (::fork() == 0) {
+            ::alarm(60); // where it is not ended
             const bool isLimited = LimitChild(1000) && ::write(pipe[1], "x", 1) == 1;
             while (isLimited)
                 ::pause();

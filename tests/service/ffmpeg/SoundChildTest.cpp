@@ -246,6 +246,13 @@ TEST_F(SoundChildTest, RoundsTheLengthToTheNearestFrame)
     }
 }
 
+TEST_F(SoundChildTest, KeepsTheSoundToItsLastFrame)
+{
+    const Converted converted = Convert(MakeFrom(ToneBehind(0, 48000), "a.wav", "-c:a pcm_s16le"));
+    ASSERT_EQ(converted.Outcome, Conversion::Done);
+    EXPECT_GT(FitTone(Hear(converted.Wave->Path()).left, 44000, 44100).sinad, 25);
+}
+
 TEST_F(SoundChildTest, ReadsStreamsWhoseSizeIsNotTold)
 {
     std::string bytes = ReadBytes(MakeFrom(ToneBehind(0, 48000), "a.wav", "-bitexact -c:a pcm_s16le"));
@@ -256,6 +263,8 @@ TEST_F(SoundChildTest, ReadsStreamsWhoseSizeIsNotTold)
         ASSERT_EQ(converted.Outcome, Conversion::Done);
         EXPECT_EQ(Hear(converted.Wave->Path()).left.size(), 44100U);
     }
+    WriteBytes(In("stream.wav"), bytes.substr(0, 44));
+    EXPECT_EQ(Convert(In("stream.wav")).Outcome, Conversion::Unreadable) << "without a frame";
 }
 
 TEST_F(SoundChildTest, ReadsTheSoundOfAFilm)
@@ -359,8 +368,9 @@ TEST_F(SoundChildTest, FindsNoSoundInNoiseOrText)
 TEST_F(SoundChildTest, WaitsForNoPipeFolderOrDevice)
 {
     ASSERT_EQ(::mkfifo(In("pipe").c_str(), 0600), 0);
+    const fs::path content = Script("exit 0"); // whatever is in it
     for (const fs::path& path : {In("pipe"), services.folder.Path(), fs::path("/dev/zero"), In("missing")})
-        EXPECT_EQ(Convert(path).Outcome, Conversion::Unreadable) << path;
+        EXPECT_EQ(ConvertBy(content, path).Outcome, Conversion::Unreadable) << path;
     ExpectNothingLeft();
 }
 
