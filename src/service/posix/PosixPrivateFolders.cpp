@@ -45,9 +45,7 @@ std::vector<std::string> NamesIn(int folder, std::string_view prefix, const std:
     if (!listing)
         return names;
     again.Release(); // the listing closes it
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): the listing is this function's own
-    for (const dirent* entry = ::readdir(listing.get()); entry && !stop.stop_requested();
-         entry = ::readdir(listing.get())) { // NOLINT(concurrency-mt-unsafe)
+    while (const dirent* const entry = stop.stop_requested() ? nullptr : ::readdir(listing.get())) {
         const std::string_view name = &entry->d_name[0];
         if (name.starts_with(prefix) && name != "." && name != "..")
             names.emplace_back(name);

@@ -77,6 +77,7 @@ int WaitForEnd(pid_t id)
 std::optional<ChildProcess> ChildProcess::Start(std::vector<std::string> words, int output)
 {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
