@@ -12,6 +12,7 @@ class PictureFiles;
 class PlayDisplay;
 class PrivateFolders;
 class Screen;
+class SoundCapture;
 class SoundOutput;
 class SoundReader;
 class Stretch;
@@ -31,6 +32,7 @@ struct Services {
     PlayDisplay* playDisplay = nullptr;
     WmaEncoder* wma = nullptr;
     SoundReader* soundReader = nullptr;
+    SoundCapture* capture = nullptr;
     Mail* mail = nullptr;
     PrivateFolders* privateFolders = nullptr;
 };

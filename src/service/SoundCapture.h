@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace sprout {
+
+/// How a capture was opened.
+enum class CaptureOpening {
+    Ready,        ///< the level can be read; nothing is kept yet
+    NoMicrophone, ///< there is no source but what an output plays
+    Failed
+};
+
+enum class CaptureState : std::int32_t {
+    Stopped = 1,   ///< before the start, after the stop, and where the capture ended by itself
+    Recording = 2, ///< frames arrive
+    Paused = 3     ///< the source is suspended, or none came for half a second
+};
+
+/// Why a capture ended by itself.
+enum class CaptureEnd { None, DiskFull, MicrophoneGone, TooLong };
+
+struct CaptureStatus {
+    CaptureState State = CaptureState::Stopped;
+    std::int64_t Pieces = 0;     ///< of 20 ms that came since the capture was opened
+    std::int64_t LostPieces = 0; ///< of 20 ms that the source left out; silence stands in their place
+    std::int64_t Blocks = 0;     ///< full blocks of 0.2 s that were kept
+    double SilentSeconds = 0;    ///< since the last sample that is not exactly zero, or the last data
+    CaptureEnd End = CaptureEnd::None;
+};
+
+/// The greatest samples of the last 0.2 s, 0 to 32767, and whether three in a row stood at full scale since the capture
+/// was opened.
+struct CapturePeaks {
+    std::int32_t Left = 0;
+    std::int32_t Right = 0;
+    bool LeftOverloaded = false;
+    bool RightOverloaded = false;
+};
+
+/// A microphone or another source that can be recorded.
+struct SoundSource {
+    std::string Name;        ///< for people, UTF-8
+    std::int32_t Volume = 0; ///< 0 to 65535, which is 100 %; 0 where it is muted
+};
+
+struct SoundSources {
+    std::vector<SoundSource> Sources; ///< none of which is an output's own sound
+    std::int32_t Selected = -1;       ///< index of the one that is captured, or would be; -1 where there is none
+};
+
+/// Captures 44,100 Hz, 16 bits, stereo from one of the machine's sources.
+///
+/// A thread of the capture's own takes the frames and writes them; it never waits for the interface thread. All calls
+/// come from the interface thread, and none waits longer than a second. Nothing throws but std::bad_alloc.
+class SoundCapture {
+public:
+    SoundCapture() = default;
+    SoundCapture(const SoundCapture&) = delete;
+    SoundCapture& operator=(const SoundCapture&) = delete;
+    virtual ~SoundCapture() = default;
+
+    /// Opens the source; what was open before is released. From here on the peaks can be read.
+    [[nodiscard]] virtual CaptureOpening Open() = 0;
+    /// Begins to keep the samples of each channel in a file of its own: raw, 16 bits, low byte first. Both files are
+    /// made, exclusively, for their user alone, and locked as long as they are written. False where they cannot be, or
+    /// less than 64 MB of disk are free.
+    [[nodiscard]] virtual bool Start(const std::filesystem::path& left, const std::filesystem::path& right) = 0;
+    /// Ends the keeping and closes both files, whose every frame is then there; they are the caller's.
+    virtual void Stop() = 0;
+    /// Lets the source go. Files of a capture that was not stopped are deleted.
+    virtual void Release() = 0;
+
+    [[nodiscard]] virtual CaptureStatus Status() = 0;
+    [[nodiscard]] virtual CapturePeaks Peaks() = 0;
+
+    /// The sources; nothing where they cannot be told.
+    [[nodiscard]] virtual std::optional<SoundSources> ListSources() = 0;
+    /// A number that changes whenever a source came, went, or got another volume.
+    [[nodiscard]] virtual std::uint64_t SourceChanges() = 0;
+    /// Captures from another source, by its index in the last list, and goes on in the same files. The choice stands
+    /// for the run of the program; the desktop's own is left as it is.
+    virtual void SelectSource(std::int32_t index) = 0;
+    /// The source's own volume; above 0 it is unmuted.
+    virtual void SetVolume(std::int32_t index, std::int32_t volume) = 0;
+};
+
+} // namespace sprout
