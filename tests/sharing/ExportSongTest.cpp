@@ -57,6 +57,20 @@ protected:
         Shared().Song.SongMixValid = true;
     }
 
+    /// A song of one cell that sounds, not mixed yet.
+    static void GiveOnePaintedStep()
+    {
+        NewSong();
+        SongState& song = Shared().Song;
+        song.TrackCount = 1;
+        song.Tracks.assign(2, Track());
+        ResetTrack(1);
+        At(song.Tracks, 1).TrackTune.Steps[1].OnPos = 1;
+        At(At(song.Tracks, 1).Painted, 1) = 1;
+        Shared().TestTone = MakeTestTone();
+        song.SongMixValid = false;
+    }
+
     /// Saves under the files that the dialog is answered with, one after the other; none cancels it. Messages and
     /// questions are answered with `buttons`, else with OK. Returns whether the song window is to hide.
     bool Save(SoundFileKind kind, std::vector<fs::path> chosen, std::vector<std::string> buttons = {})
@@ -293,16 +307,28 @@ TEST_F(SaveSongAsSoundTest, StoppedWorkLeavesTheOldFileAndSaysNothing)
     EXPECT_TRUE(Shared().Song.SongMixValid) << "the mix was done";
 }
 
+TEST_F(SaveSongAsSoundTest, ASongThatCannotSoundGivesNoFile)
+{
+    for (const bool hasTempo : {false, true}) {
+        SCOPED_TRACE(hasTempo ? "painted, and all steps are off" : "a tempo of 0");
+        GiveOnePaintedStep();
+        if (hasTempo)
+            At(Shared().Song.Tracks, 1).TrackTune.Steps[1].OnPos = 0;
+        else
+            Shared().Song.Tempo = 0;
+        EXPECT_TRUE(SaveWav(music / "Mine.wav"));
+        EXPECT_THAT(told, ElementsAre(std::string(kWavFailed) + "|"));
+        EXPECT_EQ(services.messages.shown.back().text, "Silent or Zero size wave found");
+        EXPECT_TRUE(Save(SoundFileKind::Wma, {music / "Mine.wma"}));
+        EXPECT_THAT(told, ElementsAre(std::string(kWmaFailed) + "|"));
+        EXPECT_THAT(FilesOfMusic(), IsEmpty());
+    }
+}
+
 TEST_F(SaveSongAsSoundTest, AMixThatIsStoppedIsNoMix)
 {
     SongState& song = Shared().Song;
-    song.TrackCount = 1;
-    song.Tracks.assign(2, Track());
-    ResetTrack(1);
-    At(song.Tracks, 1).TrackTune.Steps[1].OnPos = 1;
-    At(At(song.Tracks, 1).Painted, 1) = 1;
-    Shared().TestTone = MakeTestTone();
-    song.SongMixValid = false;
+    GiveOnePaintedStep();
     services.screen.progressesBeforeStop = 0;
     EXPECT_FALSE(SaveWav(music / "Mine.wav"));
     EXPECT_FALSE(song.SongMixValid);

@@ -67,6 +67,11 @@ def signal_to_noise(wanted, heard):
     return 10 * math.log10(signal / noise)
 
 
+def loaded_libraries(program, name):
+    with open(f"/proc/{program.process.pid}/maps", encoding="utf-8") as maps:
+        return [line for line in maps if f"/{name}" in line]
+
+
 def write_program(path, text):
     with open(path, "w", encoding="utf-8") as file:
         file.write("#!/bin/sh\n" + text)
@@ -113,9 +118,11 @@ def TakeSongHome(desk):
 
     wave = os.path.join(desk.folder, "Mine.wav")
     save_as_sound(program, "wav", wave)
+    expect(not loaded_libraries(program, "libav"), "a library of the encoder is there before the first WMA file")
     expect(read_wave(wave) == rendered, "the WAV file is another sound than the rendered song")
     wma = os.path.join(desk.folder, "Mine.wma")
     save_as_sound(program, "wma", wma)
+    expect(loaded_libraries(program, "libavcodec"), "the encoder's library is not seen where it must be")
     expect_zumi_as_wma(wma, rendered)
     left = sorted(name for name in os.listdir(desk.folder) if name.startswith(".Tqk"))
     expect(not left, f"files were left beside the sounds: {left}")
