@@ -35,12 +35,22 @@ TEST(ParallelFor, DoesNothingForNoPieces)
 
 TEST(ParallelFor, LeavesTheRestWhereTheProgressThrows)
 {
+    constexpr std::size_t pieces = 10'000'000;
     for (const std::size_t threads : {1U, 2U}) {
         std::atomic<std::size_t> done = 0;
-        const auto work = [&done](std::size_t) { ++done; };
-        const auto stop = [](std::size_t, std::size_t) { throw WorkStopped(); };
-        EXPECT_THROW(ParallelFor(100000, work, stop, threads), WorkStopped);
-        EXPECT_LT(done, 100000U);
+        std::atomic<bool> stopped = false;
+        const auto caller = std::this_thread::get_id();
+        const auto work = [&](std::size_t) {
+            ++done;
+            while (!stopped && std::this_thread::get_id() != caller)
+                std::this_thread::yield();
+        };
+        const auto stop = [&stopped](std::size_t, std::size_t) {
+            stopped = true;
+            throw WorkStopped();
+        };
+        EXPECT_THROW(ParallelFor(pieces, work, stop, threads), WorkStopped);
+        EXPECT_LT(done, pieces);
         EXPECT_GE(done, 1U);
     }
 }

@@ -8,6 +8,7 @@ from processes import expect, wait_for
 from sound import read_wave
 from scenarios import scenario
 from scenarios.steps import close
+from scenarios.tunes import click_step, end_without_saving, ICON_Y, LAMP_Y
 
 ZUMI = "Zumi"
 SAVED = {"wav": "Good! Your song is saved as audio (.wav) file", "wma": "Good! Your song is saved as audio (.wma) file"}
@@ -19,7 +20,11 @@ def choose_file(program, path):
     program.wait_for_window("QFileDialog")
     program.type_into("fileNameEdit", path)
     program.desk.keyboard.press("Return")
-    program.wait_until_gone("QFileDialog")
+
+    def is_answered():
+        box = program.find("fileNameEdit")
+        return not box or box.text != path  # another question may follow at once
+    wait_for(f"the end of the question for {path}", is_answered)
 
 
 def save_as_sound(program, kind, path):
@@ -179,3 +184,43 @@ def HideTheMail(desk):
     program.wait_for("HelpBtn")
     expect(not program.find("EmailBtn"), "the button is there")
     close(program)
+
+
+@scenario()
+def MakeBeatsOfOtherSounds(desk):
+    """Recordings of telephones and other players' files become instruments of 44,100 Hz and at most five seconds."""
+    picture = os.path.join(desk.folder, "face.png")
+    subprocess.run(["ffmpeg", "-v", "error", "-f", "lavfi", "-i", "color=red:32x32", "-frames:v", "1", picture], check=True)
+    program = desk.start()
+    program.wait_for("SngTitleLbl", ZUMI)
+    program.click("TrackAddBtn")
+    program.wait_for_window("TuneFrm2")
+    program.click("NewTuneBtn")
+    click_step(desk, program, 1, LAMP_Y)
+    click_step(desk, program, 1, ICON_Y)
+    program.wait_for_window("BeatWindow")
+    for number, (name, length) in enumerate({"voice.m4a": 2, "hum.ogg": 1, "long.mp3": 60}.items()):
+        sound = os.path.join(desk.folder, name)
+        subprocess.run(["ffmpeg", "-v", "error", "-f", "lavfi", "-i", f"sine=440:sample_rate=48000:duration={length}", sound],
+                       check=True)
+        program.click("AddBtn", form="BeatWindow")
+        if number == 0:
+            program.click("OkBtn", form="Msg1BtnFrm")
+        choose_file(program, sound)
+        if length > 3:
+            program.wait_for("NoteLbl2", "This will be trimmed to 3 seconds.", form="Msg1Btn2NoteFrm")
+            program.click("OkBtn", form="Msg1Btn2NoteFrm")
+        if number == 0:
+            program.click("OkBtn", form="Msg1BtnFrm")
+        choose_file(program, picture)
+        program.wait_for("NmLbl", os.path.splitext(name)[0], form="BeatWindow")
+        told = desk.info(os.path.join(desk.user_root, "Beats", os.path.splitext(name)[0] + ".wav"))["wave"]
+        expect(told["rate"] == 44100 and told["bits"] == 16, f"{name} became {told}")
+        expect(abs(told["length"] - min(length, 5) * 44100) < 3000, f"{name} became {told}")
+    left = [name for name in os.listdir(desk.temp) if name.startswith("Tqk")]
+    expect(not left, f"temporary files were left: {left}")
+    program.click("CancelBtn", form="BeatWindow")
+    program.wait_until_gone("BeatWindow")
+    program.click("CancelBtn", form="TuneFrm2")
+    program.wait_until_gone("TuneFrm2")
+    end_without_saving(program)
