@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/MainFrm.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QIcon>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QShortcut>
+#include <QTimer>
 
 #include <exception>
 #include <string>
@@ -78,6 +83,18 @@ void ShowForLater(const char* button)
     ShowLaterCommand(button);
 }
 
+std::optional<WaveData> RecordLater()
+{
+    ShowLaterCommand("TrackAddRecBtn");
+    return std::nullopt;
+}
+
+bool EditLater(std::int32_t /*track*/)
+{
+    ShowLaterCommand("TrackAudioBtn");
+    return false;
+}
+
 } // namespace
 
 /// A button of the window, in the order of the table; the canvas adds its own behind them.
@@ -126,6 +143,7 @@ MainFrm::MainFrm(TransportCommands& transport)
     SetSpokenRole(*this, QAccessible::Window);
     setWindowIcon(QIcon(Artwork(QStringLiteral("pictures/Sprout"), QSize(kWindowIconSide, kWindowIconSide), 1)));
     setMinimumSize(kLeastWindowWidth, kLeastWindowHeight);
+    setAcceptDrops(true);
     MakeButtons();
     MakeTitleBand();
     MakeControlBar();
@@ -197,10 +215,11 @@ void MainFrm::MakeCanvas()
     calls.TrackDeleteBtn = [this] { trackCommands->TrackDeleteBtn(); };
     calls.TrackTuneBtn = [this] { trackCommands->TrackTuneBtn(); };
     calls.TrackAddBtn = [this] { trackCommands->TrackAddBtn(); };
-    calls.TrackAudioBtn = [] { ShowForLater("TrackAudioBtn"); };
-    calls.TrackAddRecBtn = [] { ShowForLater("TrackAddRecBtn"); };
+    calls.TrackAudioBtn = [this] { audioTrackCommands->TrackAudioBtn(); };
+    calls.TrackAddRecBtn = [this] { audioTrackCommands->TrackAddRecBtn(); };
     canvas = new TrackCanvas(this, buttons, std::move(calls));
     trackCommands = new TrackCommands(*canvas, this);
+    audioTrackCommands = std::make_unique<AudioTrackCommands>(*canvas, AudioWindows{RecordLater, EditLater});
     transport.SetWindow(*canvas, statusBar->SoundStatusLbl());
 }
 
@@ -281,6 +300,19 @@ void MainFrm::WritePlaceToSettings() const
     if (isMinimized() || isMaximized())
         return;
     PutSettings(kPlaceSection, {{"Position", PairOfTwips(x(), y())}, {"Size", PairOfTwips(width(), height())}});
+}
+
+void MainFrm::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->mimeData()->hasUrls() && !QApplication::activeModalWidget())
+        event->acceptProposedAction();
+}
+
+void MainFrm::dropEvent(QDropEvent* event)
+{
+    event->acceptProposedAction();
+    // Where it was dragged from waits for the end of this event, which a message would hold up.
+    QTimer::singleShot(0, this, [this, places = event->mimeData()->urls()] { audioTrackCommands->AddDropped(places); });
 }
 
 void MainFrm::ChooseTool(Tool tool)

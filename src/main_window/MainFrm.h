@@ -4,7 +4,9 @@
 #include <QWidget>
 
 #include <array>
+#include <memory>
 
+#include "main_window/AudioTrackCommands.h"
 #include "main_window/SongCommands.h"
 #include "main_window/rules/EdgeDrag.h"
 #include "main_window/rules/Stroke.h"
@@ -55,6 +57,8 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     struct Row;
@@ -88,6 +92,7 @@ private:
     ControlBar* controlBar = nullptr;
     TrackCanvas* canvas = nullptr;
     TrackCommands* trackCommands = nullptr;
+    std::unique_ptr<AudioTrackCommands> audioTrackCommands;
     StatusBar* statusBar = nullptr;
     std::array<QWidget*, 2> corners{};
     std::array<EdgeGrip*, kWindowGrips.size()> grips{};

@@ -192,9 +192,14 @@ WaveData EmptyWave()
 
 WaveData LoadWaveFile(const fs::path& path, ReadSamples samples)
 {
+    return TryLoadWaveFile(path, samples).value_or(EmptyWave());
+}
+
+std::optional<WaveData> TryLoadWaveFile(const fs::path& path, ReadSamples samples)
+{
     const fs::path file = FindFile(path);
     if (file.empty())
-        return EmptyWave();
+        return std::nullopt;
     try {
         return ReadWave(file, PathText(path), samples);
     } catch (const Refusal& refusal) {
@@ -204,7 +209,7 @@ WaveData LoadWaveFile(const fs::path& path, ReadSamples samples)
     } catch (const std::bad_alloc&) {
         Tell("Wave file load error", kNoMemory);
     }
-    return EmptyWave();
+    return std::nullopt;
 }
 
 bool MayWriteWave(const WaveData& wave, const fs::path& path)

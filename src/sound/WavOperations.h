@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -25,6 +26,10 @@ enum class ReadSamples { Yes, HeaderOnly };
 /// every failure the user is told in a message, save of a blank path and a missing file; the result is `EmptyWave`.
 /// With `ReadSamples::HeaderOnly` format and length are set, and no samples.
 [[nodiscard]] WaveData LoadWaveFile(const std::filesystem::path& path, ReadSamples samples = ReadSamples::Yes);
+
+/// The same; nothing where a failure was told, or there is no such file.
+[[nodiscard]] std::optional<WaveData> TryLoadWaveFile(const std::filesystem::path& path,
+                                                      ReadSamples samples = ReadSamples::Yes);
 
 /// False where a wave can be no file, which is told: no name, no sound, or an unknown format.
 [[nodiscard]] bool MayWriteWave(const WaveData& wave, const std::filesystem::path& path);

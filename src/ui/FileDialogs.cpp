@@ -139,7 +139,7 @@ std::optional<fs::path> ChooseFileToSave(const FileQuestion& question)
 {
     FileQuestion asked = question;
     for (;;) {
-        const std::optional<fs::path> answer = AskWhereToSave(asked);
+        std::optional<fs::path> answer = AskWhereToSave(asked);
         std::error_code error;
         if (!answer || !answer->has_parent_path() || fs::is_directory(answer->parent_path(), error))
             return answer;

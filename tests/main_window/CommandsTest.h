@@ -8,11 +8,13 @@
 #include <QTimer>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "core/SongModel.h"
+#include "main_window/AudioTrackCommands.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/TrackCommands.h"
 #include "main_window/TransportCommands.h"
@@ -155,10 +157,14 @@ protected:
     TransportCommands transport{nullptr};
     TrackCanvas* canvas = nullptr;
     std::unique_ptr<TrackCommands> tracks;
+    std::unique_ptr<AudioTrackCommands> audioTracks;
 
     // What the user does in the tune window.
     std::function<bool(Tune&, bool&)> tuneWindow = [](Tune&, bool&) { return false; };
     int tuneWindowsOpened = 0;
+    // And in the windows of the child's own sound.
+    std::function<std::optional<WaveData>()> recordingWindow = [] { return std::nullopt; };
+    std::function<bool(std::int32_t)> audioEditor = [](std::int32_t) { return false; };
 
 private:
     void MakeCanvas()
@@ -172,11 +178,16 @@ private:
         calls.TrackDeleteBtn = [this] { tracks->TrackDeleteBtn(); };
         calls.TrackTuneBtn = [this] { tracks->TrackTuneBtn(); };
         calls.TrackAddBtn = [this] { tracks->TrackAddBtn(); };
+        calls.TrackAddRecBtn = [this] { audioTracks->TrackAddRecBtn(); };
+        calls.TrackAudioBtn = [this] { audioTracks->TrackAudioBtn(); };
         canvas = new TrackCanvas(&window, buttons, std::move(calls));
         tracks = std::make_unique<TrackCommands>(*canvas, nullptr, [this](Tune& tune, bool& newFlag) {
             ++tuneWindowsOpened;
             return tuneWindow(tune, newFlag);
         });
+        audioTracks = std::make_unique<AudioTrackCommands>(
+            *canvas, AudioWindows{[this] { return recordingWindow(); },
+                                  [this](std::int32_t track) { return audioEditor(track); }});
         window.resize(800, 500);
         canvas->resize(800, 500);
         window.show();

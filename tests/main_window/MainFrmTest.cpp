@@ -2,13 +2,19 @@
 #include "main_window/MainFrm.h"
 
 #include <QAccessible>
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QSignalSpy>
+#include <QUrl>
 
 #include <array>
 #include <set>
 
 #include "main_window/MainWindowTest.h"
 #include "sound/PlayTest.h"
+#include "sound/WavOperations.h"
+#include "ui/ModalSteps.h"
 
 namespace sprout {
 namespace {
@@ -512,7 +518,7 @@ TEST_F(MainFrmTest, TellsInRedThatThereIsNoSoundDeviceAndInBarkWhatThePlayerDoes
 
 TEST_F(MainFrmTest, TellsThatAButtonIsForLater)
 {
-    for (const char* name : {"DemoBtn", "TrackAddRecBtn"}) {
+    for (const char* name : {"DemoBtn"}) {
         ShowHint(QStringLiteral("Before"));
         ShownMessage message;
         NoteNextMessage(message);
@@ -520,6 +526,41 @@ TEST_F(MainFrmTest, TellsThatAButtonIsForLater)
         EXPECT_FALSE(message.line1.isEmpty()) << name;
         EXPECT_EQ(TextOf("StatusLbl"), "") << name;
     }
+}
+
+TEST_F(MainFrmTest, AsksWhereAnAudioTrackComesFrom)
+{
+    WithNextForm([](BandedForm& form) {
+        EXPECT_EQ(form.objectName(), QStringLiteral("Msg3BtnFrm"));
+        Click(form, "CancelBtn");
+    });
+    ClickButton("TrackAddRecBtn");
+    EXPECT_FALSE(Song().SongChanged);
+}
+
+TEST_F(MainFrmTest, TakesADroppedSound)
+{
+    const std::filesystem::path file = Shared().TempFolder / "Voice.wav";
+    SaveWaveFile(CountingWave(100), file);
+    const std::int32_t before = Song().TrackCount;
+    QMimeData dragged;
+    dragged.setUrls({QUrl::fromLocalFile(QString::fromStdString(file.native()))});
+    QDragEnterEvent enter(QPoint(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop(QPointF(300, 300), Qt::CopyAction, &dragged, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &drop);
+    EXPECT_EQ(Song().TrackCount, before) << "not within the event";
+    QApplication::processEvents();
+    ASSERT_EQ(Song().TrackCount, before + 1);
+    EXPECT_EQ(At(Song().Tracks, before + 1).TrackAudio.Length, 100);
+
+    QMimeData text;
+    text.setText(QStringLiteral("no file"));
+    QDragEnterEvent other(QPoint(300, 300), Qt::CopyAction, &text, Qt::LeftButton, Qt::NoModifier);
+    other.ignore();
+    QApplication::sendEvent(window.get(), &other);
+    EXPECT_FALSE(other.isAccepted());
 }
 
 TEST_F(MainFrmTest, MailsTheSong)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/rules/TrackList.h"
 
+#include <utility>
+
 #include "core/Shared.h"
 #include "core/SongModel.h"
 
@@ -49,6 +51,18 @@ void EndAddMusicTrack()
     if (At(song.Tracks, song.TrackCount).TrackTune.Name.empty())
         ResizeTracks(song, song.TrackCount - 1);
     At(song.Tracks, song.TrackCount).TrackRenderValid = false;
+    MarkSongChanged(song);
+}
+
+void AddAudioTrack(WaveData wave)
+{
+    SongState& song = Shared().Song;
+    ResizeTracks(song, song.TrackCount + 1);
+    ResetTrack(song.TrackCount);
+    Track& track = At(song.Tracks, song.TrackCount);
+    track.TrackType = static_cast<std::int32_t>(TrackKind::Audio);
+    track.TrackAudio = std::move(wave);
+    track.TrackRenderValid = false;
     MarkSongChanged(song);
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/Song.h"
+#include "core/WaveData.h"
 
 namespace sprout {
 
@@ -15,6 +16,9 @@ std::int32_t AddMusicTrack();
 
 /// Ends adding it: a track whose tune was given no name is taken away again. The song counts as changed either way.
 void EndAddMusicTrack();
+
+/// Adds an audio track of a wave, which nothing is painted on, behind the others.
+void AddAudioTrack(WaveData wave);
 
 /// Takes a track away; those behind it move up by one. The only track is emptied instead, which changes neither mix nor
 /// song mark. trackNumber: 1..`TrackCount`.

@@ -1,0 +1,189 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/AudioTrackCommands.h"
+
+#include <QFile>
+
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "core/Errors.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "main_window/rules/TrackList.h"
+#include "sound/ChosenSound.h"
+#include "sound/PlayMod.h"
+#include "sound/WavOperations.h"
+#include "ui/Dialogs.h"
+#include "ui/FileDialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
+#include "ui/MessageForms.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+enum class AudioType { Cancelled = 0, Recording = 1, File = 2 };
+
+AudioType AskAudioType()
+{
+    Msg3BtnFrm question(WindowInFront(), "Choose Audio Type to add:");
+    question.SetCaption(" Add Audio Track");
+    return static_cast<AudioType>(question.ShowModal());
+}
+
+std::optional<fs::path> AskForSoundFile()
+{
+    const std::string filter = "Wave File(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter);
+    return ChooseFileToOpen({"Please select a wav file to open", "", "", "wav", filter, 3});
+}
+
+bool IsTooLong(const WaveData& wave)
+{
+    return static_cast<double>(wave.Length) / wave.Rate > kLongestAudioSeconds;
+}
+
+void TellTooLong()
+{
+    ShowMessage("This file is too long.", "Use less then 2 minutes audio.", "Load wav file failed.");
+}
+
+/// The wave of a file, or of its head alone, if it can become a track; else the reason was told.
+std::optional<WaveData> ReadTrackWave(const fs::path& file, ReadSamples samples)
+{
+    std::optional<WaveData> wave = TryLoadWaveFile(file, samples);
+    if (!wave)
+        return std::nullopt;
+    // Heads lie, and a file may change between the two readings.
+    if (wave->Length < 1) {
+        ShowMessage("No wave Data found in file");
+        return std::nullopt;
+    }
+    if (IsTooLong(*wave)) {
+        TellTooLong();
+        return std::nullopt;
+    }
+    return wave;
+}
+
+std::optional<WaveData> LoadTrackWave(const fs::path& file)
+{
+    const ChosenSound sound = OpenChosenSound(file, kLongestAudioSeconds, TooLong::Refuse);
+    if (sound.IsTooLong) {
+        TellTooLong();
+        return std::nullopt;
+    }
+    if (!ReadTrackWave(sound.WaveFile, ReadSamples::HeaderOnly))
+        return std::nullopt;
+    return ReadTrackWave(sound.WaveFile, ReadSamples::Yes);
+}
+
+/// The file of this machine that was dropped; else the reason was told.
+std::optional<fs::path> DroppedFile(const QList<QUrl>& places)
+{
+    std::error_code error;
+    if (places.size() != 1) {
+        ShowMessage("Please drop one sound at a time.");
+        return std::nullopt;
+    }
+    if (!places.front().isLocalFile()) {
+        ShowMessage("This sound is not on this computer.", "Save it here first and drop it then.");
+        return std::nullopt;
+    }
+    fs::path file(QFile::encodeName(places.front().toLocalFile()).toStdString());
+    if (!fs::is_regular_file(file, error)) {
+        ShowMessage("This is no sound file.", PathText(file.filename()));
+        return std::nullopt;
+    }
+    return file;
+}
+
+} // namespace
+
+AudioTrackCommands::AudioTrackCommands(TrackCanvas& trackCanvas, AudioWindows audioWindows)
+    : canvas(trackCanvas), windows(std::move(audioWindows))
+{
+}
+
+void AudioTrackCommands::TrackAddRecBtn()
+{
+    ShowHint({});
+    // A tune that sounds because the pointer rests on it must not be heard in a recording.
+    canvas.HideTrackButtons();
+    Guarded([this] {
+        switch (AskAudioType()) {
+        case AudioType::Recording:
+            AddRecording();
+            break;
+        case AudioType::File:
+            AddChosenFile();
+            break;
+        default:
+            break;
+        }
+    });
+}
+
+void AudioTrackCommands::AddRecording()
+{
+    Player().StopPlay();
+    std::optional<WaveData> wave = windows.Record();
+    if (!wave)
+        return;
+    if (wave->Length < 1)
+        return ShowMessage("Nothing was recorded.");
+    AddTrack(std::move(*wave));
+}
+
+void AudioTrackCommands::AddChosenFile()
+{
+    Player().StopPlay();
+    if (const std::optional<fs::path> file = AskForSoundFile())
+        AddFile(*file);
+}
+
+void AudioTrackCommands::AddFile(const fs::path& file)
+{
+    try {
+        if (std::optional<WaveData> wave = LoadTrackWave(file))
+            AddTrack(std::move(*wave));
+    } catch (const WorkStopped&) {
+        return; // the song is as it was
+    }
+}
+
+void AudioTrackCommands::AddTrack(WaveData wave)
+{
+    AddAudioTrack(std::move(wave));
+    canvas.DrawTracksAll();
+}
+
+void AudioTrackCommands::TrackAudioBtn()
+{
+    ShowHint({});
+    Guarded([this] {
+        const std::int32_t track = canvas.HoverTrack();
+        canvas.HideTrackButtons();
+        if (track < 1 || track > Shared().Song.TrackCount)
+            return;
+        Player().StopPlay();
+        if (windows.Edit(track))
+            canvas.DrawTrackOne(track);
+    });
+}
+
+void AudioTrackCommands::AddDropped(const QList<QUrl>& places)
+{
+    Guarded([&] {
+        const std::optional<fs::path> file = DroppedFile(places);
+        if (!file)
+            return;
+        Player().StopPlay();
+        AddFile(*file);
+    });
+}
+
+} // namespace sprout
