@@ -4,6 +4,7 @@ import array
 
 DATA = b"\r\nData="
 PICTURE = 1024
+TEMPO_PLACE = 4
 MUSIC, AUDIO = 0, 1
 PAINTED, ERASED = 1, 2
 
@@ -89,6 +90,11 @@ class SongFile:
         for place in self.tracks:
             kept = self.elements[place + first - 1:place + last]
             self.elements[place:place + self.cells] = kept + array.array("i", [0] * (self.cells - len(kept)))
+
+    def lengthen(self, tempo):
+        """Slows the song down and paints the last cell of its first track."""
+        self.elements[TEMPO_PLACE] = tempo
+        self.elements[self.tracks[0] + self.cells - 1] = PAINTED
 
     def write(self, path):
         with open(path, "wb") as file:

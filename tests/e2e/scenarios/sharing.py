@@ -5,12 +5,14 @@ import stat
 import subprocess
 
 from processes import expect, wait_for
+from songs import SongFile
 from sound import read_wave
 from scenarios import scenario
-from scenarios.steps import close
+from scenarios.steps import close, open_song
 from scenarios.tunes import click_step, end_without_saving, ICON_Y, LAMP_Y
 
 ZUMI = "Zumi"
+SLOWEST_TEMPO = 80
 SAVED = {"wav": "Good! Your song is saved as audio (.wav) file", "wma": "Good! Your song is saved as audio (.wma) file"}
 BUTTONS = {"wav": "SavWavBtn", "wma": "SavWmaBtn"}
 
@@ -142,6 +144,34 @@ def TakeSongHome(desk):
     expect_zumi_as_wma(attached, rendered)
     close(program)
     expect(os.path.exists(attached), "the mailed file went with the program")
+
+
+@scenario()
+def StopALongExport(desk):
+    """Work that lasts shows how far it is; its Stop leaves the file of before, and the window goes on."""
+    song = SongFile(os.path.join(desk.program_folder, "Sprout", "Songs", ZUMI + ".TqSng"))
+    song.lengthen(SLOWEST_TEMPO)
+    os.makedirs(desk.songs)
+    song.write(desk.song("Snail"))
+    wma = os.path.join(desk.folder, "Mine.wma")
+    with open(wma, "w", encoding="utf-8") as file:
+        file.write("old")
+    program = desk.start()
+    open_song(program, "Snail")
+    program.click("SaveBtn")
+    program.click("SavWmaBtn", form="SongSelFrm")
+    choose_file(program, wma)
+    program.click("YesBtn", form="MsgYesNoFrm")
+    program.click("StopBtn", form="WorkFrm")
+    program.wait_until_gone("WorkFrm")
+    expect(program.find("SavWmaBtn", form="SongSelFrm"), "the song window is gone")
+    with open(wma, encoding="utf-8") as file:
+        expect(file.read() == "old", "the file of before was changed")
+    left = [name for name in os.listdir(desk.folder) if name.startswith(".Tqk")]
+    expect(not left, f"files were left beside it: {left}")
+    program.click("CancelBtn", form="SongSelFrm")
+    program.wait_until_gone("SongSelFrm")
+    close(program)
 
 
 @scenario()
