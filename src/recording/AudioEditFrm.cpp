@@ -154,7 +154,8 @@ void AudioEditFrm::MakeScroll()
     HScroll->setPageStep(kScrollPage);
     HScroll->setFocusPolicy(Qt::TabFocus);
     HScroll->setTracking(false); // a drag of the thumb counts once, when it is let go
-    HScroll->setStyleSheet(QStringLiteral("QScrollBar:focus { border: 2px solid #1F6FA8; }"));
+    HScroll->setStyleSheet(QStringLiteral("QScrollBar:focus { border: 2px solid #1F6FA8; border-radius: 9px; }"
+                                          "QScrollBar::handle:focus { border-radius: 6px; }"));
     Watcher().Watch(*HScroll, kHScrollHint);
     connect(HScroll, &QScrollBar::valueChanged, this, [this] { Guarded([this] { Scroll(); }); });
 }

@@ -2,6 +2,7 @@
 #include "recording/rules/WaveEdits.h"
 
 #include <algorithm>
+#include <bit>
 #include <span>
 
 namespace sprout {
@@ -11,21 +12,20 @@ namespace {
 constexpr float kLouder = 1.25F;
 constexpr float kSofter = 0.8F;
 
-/// Adding and taking away 1.5 x 2^23 rounds a float below 2^22 to the nearest whole number, halves to the even one,
-/// with two plain additions, which the compiler can do for several samples at once.
+/// Added to a float below 2^22, 1.5 x 2^23 rounds it to the nearest whole number, halves to the even one, and leaves
+/// that number in the low bits: one plain addition, which the compiler can do for several samples at once.
 constexpr float kRounder = 12582912.0F;
 
-struct Limits {
+struct SampleLimits {
     float low;
     float high;
 };
 
-void Scale(std::span<std::int16_t> samples, float factor, Limits limits)
+void Scale(std::span<std::int16_t> samples, float factor, SampleLimits limits)
 {
     for (std::int16_t& sample : samples) {
-        const float rounded = (factor * static_cast<float>(sample) + kRounder) - kRounder;
-        const float held = std::min(std::max(rounded, limits.low), limits.high);
-        sample = static_cast<std::int16_t>(static_cast<std::int32_t>(held));
+        const float held = std::min(std::max(factor * static_cast<float>(sample), limits.low), limits.high);
+        sample = static_cast<std::int16_t>(std::bit_cast<std::int32_t>(held + kRounder));
     }
 }
 
@@ -46,7 +46,7 @@ Channel Without(const Channel& channel, std::int32_t first, std::int32_t last)
 void ChangeVolume(VolumeChange change, std::int32_t first, std::int32_t last, WaveData& wave)
 {
     const float factor = change == VolumeChange::Up ? kLouder : kSofter;
-    const Limits limits = wave.Bits == 8 ? Limits{-128, 127} : Limits{-32768, 32767};
+    const SampleLimits limits = wave.Bits == 8 ? SampleLimits{-128, 127} : SampleLimits{-32768, 32767};
     const auto begin = static_cast<std::size_t>(first);
     const auto count = static_cast<std::size_t>(last - first) + 1;
     // Both channels first: where the memory for one is missing, no sample has changed.

@@ -60,7 +60,7 @@ void BringIntoView(std::int32_t sample, std::int32_t length, WaveView& view)
         view.First = std::max(sample - view.Span / 2, 1);
 }
 
-std::string SecondsText(std::int32_t frames, std::int32_t rate)
+std::string TenthsText(std::int32_t frames, std::int32_t rate)
 {
     const std::int32_t tenths = rate > 0 ? RoundHalfEven(10.0 * frames / rate) : 0;
     return std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
@@ -128,10 +128,10 @@ std::string SpokenSelection(const WaveView& view, std::int32_t rate)
 {
     if (view.SelectionStart < 1)
         return "Nothing is selected";
-    const std::string from = SecondsText(view.SelectionStart - 1, rate);
+    const std::string from = TenthsText(view.SelectionStart - 1, rate);
     if (view.SelectionStart == view.SelectionEnd)
         return from + " seconds";
-    return from + " to " + SecondsText(view.SelectionEnd, rate) + " seconds";
+    return from + " to " + TenthsText(view.SelectionEnd, rate) + " seconds";
 }
 
 } // namespace sprout
