@@ -13,6 +13,7 @@
 
 #include "BenchFacts.h"
 #include "BenchSounds.h"
+#include "Editor.h"
 #include "Export.h"
 #include "Yardsticks.h"
 #include "core/Shared.h"
@@ -257,6 +258,12 @@ int RunBenchmarks(int argc, char** argv)
     add("save", Save);
     add("wav-export", WavExport);
     add("wma-export", WmaExport);
+    add("louder", Louder);
+    add("louder-at-first", LouderAtFirst);
+    add("cut-front", CutFront);
+    add("copy-bytes", CopyBytes);
+    add("copy-anew", CopyBytesAnew);
+    add("copy-tail", CopyTail);
     benchmark::RegisterBenchmark("list-tunes", ListTunes)
         ->Iterations(5000)
         ->UseRealTime()

@@ -8,6 +8,7 @@
 
 #include "core/Shared.h"
 #include "main_window/rules/Transport.h"
+#include "recording/AudioEditFrm.h"
 #include "sound/PlayMod.h"
 #include "sound/TrackRender.h"
 #include "sound/TuneRender.h"
@@ -214,11 +215,13 @@ void TransportCommands::PlayPosTimerTick()
             playPosTimer.stop();
             PlayShared().PlayingTrack = 0;
             PlayIndicatorOff();
+            UpdatePlayPointer();
             break;
         case PlayState::Playing:
         case PlayState::PlayingLoop:
             Player().UpdatePlayPosition();
             MovePlayIndicator();
+            UpdatePlayPointer();
             break;
         case PlayState::Paused:
             break;

@@ -13,6 +13,7 @@
 #include <string_view>
 
 #include "BeatWindowSheets.h"
+#include "EditorSheets.h"
 #include "MainWindowSheets.h"
 #include "SongWindowSheets.h"
 #include "StepEditorSheets.h"
@@ -57,6 +58,11 @@ const std::vector<SheetButton>& SheetButtons()
         {{"HelpBtn", "", ""}, tool},
         {{"AboutBtn", "", ""}, tool},
         {{"DemoBtn", "", ""}, tool},
+        {{"VolumeUpBtn", "", ""}, tool},
+        {{"VolumeDnBtn", "", ""}, tool},
+        {{"DeleteBtn", "", ""}, tool},
+        {{"ZoomInBtn", "", ""}, tool},
+        {{"ZoomOutBtn", "", ""}, tool},
         {{"TrackAddBtn", "", ""}, addTool},
         {{"TrackAddRecBtn", "", ""}, addTool},
         {{"BrushBtn", "", ""}, {40, 40}},
@@ -324,6 +330,7 @@ void DrawAllSheets(const QString& folder)
     sprout::DrawTuneWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
+    sprout::DrawEditorSheets(folder);
 }
 
 } // namespace
