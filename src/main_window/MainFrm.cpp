@@ -30,9 +30,11 @@
 #include "main_window/TrackPictures.h"
 #include "main_window/TransportCommands.h"
 #include "main_window/rules/WindowPlace.h"
+#include "recording/AudioEditFrm.h"
 #include "sharing/EmailSong.h"
 #include "sound/PlayMod.h"
 #include "ui/Artwork.h"
+#include "ui/Dialogs.h"
 #include "ui/HelpFrm.h"
 #include "ui/LaterCommands.h"
 #include "ui/Palette.h"
@@ -89,10 +91,13 @@ std::optional<WaveData> RecordLater()
     return std::nullopt;
 }
 
-bool EditLater(std::int32_t /*track*/)
+bool EditTrack(std::int32_t track)
 {
-    ShowLaterCommand("TrackAudioBtn");
-    return false;
+    AudioEditFrm editor(WindowInFront());
+    editor.UpdateFormWithCurrentTrack(track);
+    editor.ShowModal();
+    Player().UpdatePlayPosition();
+    return editor.TrackWasChanged();
 }
 
 } // namespace
@@ -219,7 +224,7 @@ void MainFrm::MakeCanvas()
     calls.TrackAddRecBtn = [this] { audioTrackCommands->TrackAddRecBtn(); };
     canvas = new TrackCanvas(this, buttons, std::move(calls));
     trackCommands = new TrackCommands(*canvas, this);
-    audioTrackCommands = std::make_unique<AudioTrackCommands>(*canvas, AudioWindows{RecordLater, EditLater});
+    audioTrackCommands = std::make_unique<AudioTrackCommands>(*canvas, AudioWindows{RecordLater, EditTrack});
     transport.SetWindow(*canvas, statusBar->SoundStatusLbl());
 }
 

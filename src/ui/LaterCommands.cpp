@@ -20,7 +20,6 @@ constexpr std::array kLaterCommands{
     LaterCommand{"DemoBtn", "There is no demo to watch yet.", "Click the Help button to read how to make a song."},
     LaterCommand{"TrackAddRecBtn", "This program cannot record your voice yet.",
                  "Add a music track and choose a tune for it."},
-    LaterCommand{"TrackAudioBtn", "This program cannot edit a recording yet.", "You can paint it and play it."},
 };
 
 } // namespace

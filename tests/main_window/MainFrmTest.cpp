@@ -538,6 +538,22 @@ TEST_F(MainFrmTest, AsksWhereAnAudioTrackComesFrom)
     EXPECT_FALSE(Song().SongChanged);
 }
 
+TEST_F(MainFrmTest, EditsTheSoundOfAnAudioTrack)
+{
+    Track& track = At(Song().Tracks, 1);
+    track.TrackType = static_cast<std::int32_t>(TrackKind::Audio);
+    track.TrackAudio = CountingWave(1000);
+    window->DrawTracksAll();
+    QTest::mouseMove(&Control("TrackTitlePic"), QPoint(1, 1));
+    QTest::mouseMove(&Control("TrackTitlePic"), QPoint(30, 40));
+    WithNextForm([](BandedForm& form) {
+        EXPECT_EQ(form.objectName(), QStringLiteral("AudioEditFrm"));
+        Click(form, "CancelBtn");
+    });
+    ClickButton("TrackAudioBtn");
+    EXPECT_FALSE(Song().SongChanged);
+}
+
 TEST_F(MainFrmTest, TakesADroppedSound)
 {
     const std::filesystem::path file = Shared().TempFolder / "Voice.wav";

@@ -23,7 +23,6 @@ TEST(ShowLaterCommand, TellsWhatEachButtonCannotDoYet)
 {
     EXPECT_EQ(FirstNoteOf("DemoBtn"), QStringLiteral("There is no demo to watch yet."));
     EXPECT_EQ(FirstNoteOf("TrackAddRecBtn"), QStringLiteral("This program cannot record your voice yet."));
-    EXPECT_EQ(FirstNoteOf("TrackAudioBtn"), QStringLiteral("This program cannot edit a recording yet."));
 }
 
 TEST(ShowLaterCommand, KeepsSilentForOtherButtons)
