@@ -87,6 +87,7 @@ WavePic::WavePic(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
     SetSpokenRole(*this, QAccessible::Graphic);
+    window()->installEventFilter(this);
     HideBand();
     MovePlayMarker(kMarkerOutOfSight);
 }
@@ -217,12 +218,18 @@ void WavePic::LetGo()
         Q_EMIT Released(mouseX);
 }
 
-bool WavePic::event(QEvent* event)
+bool WavePic::eventFilter(QObject* watched, QEvent* event)
 {
     // A key can open a message while the mouse is down, and the picture would not see it go up.
-    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide)
+    if (event->type() == QEvent::WindowBlocked)
         LetGo();
-    return QWidget::event(event);
+    return QWidget::eventFilter(watched, event);
+}
+
+void WavePic::hideEvent(QHideEvent* event)
+{
+    LetGo();
+    QWidget::hideEvent(event);
 }
 
 void WavePic::keyPressEvent(QKeyEvent* event)
