@@ -165,7 +165,8 @@ void WavePic::PaintPass(QPainter& painter, const std::vector<WavePoint>& points,
     }
     painter.save();
     // A wide line lies around its points; the pixels that a point stands for lie to its right and below it.
-    painter.translate(lineWidth / 2, lineWidth / 2);
+    const int shift = lineWidth / 2;
+    painter.translate(QPoint(shift, shift));
     painter.setPen(QPen(ColourOf(colour), lineWidth));
     painter.drawLines(lines.data(), static_cast<int>(lines.size()));
     painter.restore();
