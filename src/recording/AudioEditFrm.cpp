@@ -128,8 +128,6 @@ AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent)
     OpenEditor() = this;
 }
 
-AudioEditFrm::~AudioEditFrm() = default;
-
 void AudioEditFrm::MakePicture()
 {
     wavePic = new WavePic(this);
@@ -281,7 +279,6 @@ bool AudioEditFrm::HasSelection()
 
 void AudioEditFrm::PressPicture(double x)
 {
-    mouseDown = true;
     const std::int32_t pictureWidth = wavePic->ScaleSize().Width;
     drag = PressWave(x, pictureWidth, editWave.Length, view);
     wavePic->ShowBand(PressedBand(x, pictureWidth));
@@ -289,19 +286,15 @@ void AudioEditFrm::PressPicture(double x)
 
 void AudioEditFrm::DragPicture(double x)
 {
-    if (mouseDown)
-        wavePic->ShowBand(DraggedBand(drag, x, wavePic->ScaleSize().Width));
+    wavePic->ShowBand(DraggedBand(drag, x, wavePic->ScaleSize().Width));
 }
 
 void AudioEditFrm::ReleasePicture(double x)
 {
-    if (!mouseDown)
-        return;
     const std::int32_t pressed = view.SelectionStart;
     ReleaseWave(x, wavePic->ScaleSize().Width, editWave.Length, view);
     cursor = {view.SelectionStart == pressed ? view.SelectionEnd : view.SelectionStart, pressed};
     wavePic->HideBand();
-    mouseDown = false;
     DrawWaveform();
 }
 

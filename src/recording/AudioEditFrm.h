@@ -23,7 +23,6 @@ class AudioEditFrm : public BandedForm {
 
 public:
     explicit AudioEditFrm(QWidget* parent);
-    ~AudioEditFrm() override;
 
     /// Loads the sound of a track, the empty wave where it has none, and shows the whole of it. No sample is copied.
     void UpdateFormWithCurrentTrack(std::int32_t track);
@@ -85,7 +84,6 @@ private:
     WaveView view;
     WaveDrag drag;
     WaveCursor cursor;
-    bool mouseDown = false;
     bool changed = false;
     bool scrollGuard = false; ///< the program moves `HScroll`
 };

@@ -87,6 +87,7 @@ WavePic::WavePic(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::IBeamCursor);
     SetSpokenRole(*this, QAccessible::Graphic);
+    window()->installEventFilter(this);
     HideBand();
     MovePlayMarker(kMarkerOutOfSight);
 }
@@ -164,7 +165,8 @@ void WavePic::PaintPass(QPainter& painter, const std::vector<WavePoint>& points,
     }
     painter.save();
     // A wide line lies around its points; the pixels that a point stands for lie to its right and below it.
-    painter.translate(lineWidth / 2, lineWidth / 2);
+    const int shift = lineWidth / 2;
+    painter.translate(QPoint(shift, shift));
     painter.setPen(QPen(ColourOf(colour), lineWidth));
     painter.drawLines(lines.data(), static_cast<int>(lines.size()));
     painter.restore();
@@ -217,12 +219,18 @@ void WavePic::LetGo()
         Q_EMIT Released(mouseX);
 }
 
-bool WavePic::event(QEvent* event)
+bool WavePic::eventFilter(QObject* watched, QEvent* event)
 {
     // A key can open a message while the mouse is down, and the picture would not see it go up.
-    if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Hide)
+    if (event->type() == QEvent::WindowBlocked)
         LetGo();
-    return QWidget::event(event);
+    return QWidget::eventFilter(watched, event);
+}
+
+void WavePic::hideEvent(QHideEvent* event)
+{
+    LetGo();
+    QWidget::hideEvent(event);
 }
 
 void WavePic::keyPressEvent(QKeyEvent* event)

@@ -27,8 +27,9 @@ private:
     QColor colour;
 };
 
-/// The picture of a wave: it draws what it is told, in the colours of the settings, and reports mouse and keys. Over it
-/// lie a thin selection band (`SelectBandShp`) and a thin play marker (`PlayPosShp`).
+/// The picture of a wave, made in the window that it stays in: it draws what it is told, in the colours of the
+/// settings, and reports mouse and keys. Over it lie a thin selection band (`SelectBandShp`) and a thin play marker
+/// (`PlayPosShp`).
 class WavePic : public QWidget {
     Q_OBJECT
 
@@ -52,6 +53,8 @@ public:
     /// The drawing in device pixels, as it is shown on a screen of a ratio.
     [[nodiscard]] QImage Draw(double ratio) const;
 
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 Q_SIGNALS:
     // The left mouse button, x in logical pixels. A button that the picture loses while it is held counts as up.
     void Pressed(double x);
@@ -66,7 +69,7 @@ Q_SIGNALS:
     void Resized();
 
 protected:
-    bool event(QEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

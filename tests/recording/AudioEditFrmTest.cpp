@@ -189,6 +189,18 @@ TEST_F(AudioEditFrmTest, ShowsABandWhileTheMouseIsDown)
     EXPECT_FALSE(band.isVisible());
 }
 
+TEST_F(AudioEditFrmTest, EndsADragWhereAKeyBringsAMessage)
+{
+    FormAnswers answers(statusLbl, {"OkBtn"});
+    QTest::mousePress(&Pic(), Qt::LeftButton, {}, {100, 30});
+    QTest::mouseMove(&Pic(), {200, 30});
+    statusLbl.clear();
+    QTest::keyClick(&Pic(), Qt::Key_Delete);
+    EXPECT_THAT(answers.seen, ElementsAre(kNoSelection));
+    EXPECT_FALSE(Part("SelectBandShp").isVisible());
+    EXPECT_EQ(Boxed(), "100-200");
+}
+
 TEST_F(AudioEditFrmTest, AsksForASelectionBeforeItEdits)
 {
     FormAnswers answers(statusLbl, {"OkBtn", "OkBtn", "OkBtn"});

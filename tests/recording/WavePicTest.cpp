@@ -217,10 +217,17 @@ TEST_F(WavePicTest, CountsAButtonThatAMessageTakesAwayAsUp)
     QTest::mousePress(&pic, Qt::LeftButton, {}, {20, 20});
     QTest::mouseMove(&pic, {40, 20});
     QEvent blocked(QEvent::WindowBlocked);
-    QApplication::sendEvent(&pic, &blocked);
+    QApplication::sendEvent(&window, &blocked);
     EXPECT_THAT(noted, ElementsAre("press 20", "move 40", "release 40"));
     QTest::mouseRelease(&pic, Qt::LeftButton, {}, {50, 20});
     EXPECT_THAT(noted, testing::SizeIs(3));
+}
+
+TEST_F(WavePicTest, CountsAButtonAsUpWhereThePictureIsHidden)
+{
+    QTest::mousePress(&pic, Qt::LeftButton, {}, {20, 20});
+    window.hide();
+    EXPECT_THAT(noted, ElementsAre("press 20", "release 20"));
 }
 
 TEST_F(WavePicTest, ReportsTheKeysOfTheCursor)

@@ -16,7 +16,7 @@ constexpr double kUnitsOf16Bits = 65536;
 constexpr double kUnitsOf8Bits = 256;
 constexpr double kZoomFactor = 1.2;
 
-/// The rounded value, held to a range.
+/// The rounded value, held to a range; `high` where that is below `low`.
 std::int32_t RoundedWithin(double value, std::int32_t low, std::int32_t high)
 {
     return RoundHalfEven(std::min(std::max(value, static_cast<double>(low)), static_cast<double>(high)));
@@ -66,7 +66,7 @@ std::int32_t WaveStep(const WaveView& view)
 
 std::int32_t SampleOfPixel(const WaveView& view, double x, std::int32_t length)
 {
-    return length < 1 ? 0 : RoundedWithin(x / view.XScale + view.First, 1, length);
+    return RoundedWithin(x / view.XScale + view.First, 1, length);
 }
 
 void ZoomWave(WaveZoom which, std::int32_t length, std::int32_t width, std::int32_t scroll, WaveView& view)

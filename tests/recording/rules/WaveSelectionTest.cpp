@@ -197,6 +197,7 @@ TEST(SpokenSelection, TellsSecondsFromTheWavesBeginning)
     EXPECT_EQ(Spoken(52921, 149940), "1.2 to 3.4 seconds");
     EXPECT_EQ(Spoken(1, 441000), "0.0 to 10.0 seconds");
     EXPECT_EQ(Spoken(1, 11025, 11025), "0.0 to 1.0 seconds");
+    EXPECT_EQ(Spoken(1, 10, 10), "0.0 to 1.0 seconds");
     EXPECT_EQ(Spoken(44101, 44101), "1.0 seconds");
     EXPECT_EQ(Spoken(0, 0), "Nothing is selected");
     EXPECT_EQ(Spoken(5, 10, 0), "0.0 to 0.0 seconds");
