@@ -20,18 +20,11 @@ namespace {
 
 constexpr QPoint kTimeSlideAt{-5, 2};
 constexpr QPoint kUnpaintedTextAt{10, 6}; ///< below the row's top
-constexpr int kByteBits = 8;
 
 bool AnyCellIsPainted(const Track& track)
 {
     return !track.Painted.empty() &&
            std::find(track.Painted.begin() + 1, track.Painted.end(), kPaintedCell) != track.Painted.end();
-}
-
-/// colour: 0x00BBGGRR.
-QColor ColourOf(std::int32_t colour)
-{
-    return {colour & 0xFF, colour >> kByteBits & 0xFF, colour >> 2 * kByteBits & 0xFF};
 }
 
 /// Moves a marker and shows it, or hides it where it has no place.

@@ -3,6 +3,12 @@
 
 namespace sprout {
 
+QColor ColourOf(std::int32_t colour)
+{
+    constexpr int byteBits = 8;
+    return {colour & 0xFF, colour >> byteBits & 0xFF, colour >> 2 * byteBits & 0xFF};
+}
+
 QPalette ProgramPalette()
 {
     QPalette palette;

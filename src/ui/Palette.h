@@ -4,6 +4,8 @@
 #include <QColor>
 #include <QPalette>
 
+#include <cstdint>
+
 namespace sprout {
 
 // The colours of the program's own look. Text on them: bark on paper, sand and sun; paper or white on the others.
@@ -18,6 +20,9 @@ inline constexpr QColor kSun{0xFF, 0xC8, 0x3D};
 inline constexpr QColor kCoral{0xC2, 0x3B, 0x27};
 inline constexpr QColor kBerry{0xA8, 0x43, 0x9A};
 inline constexpr QColor kStone{0x6B, 0x65, 0x5C};
+
+/// A colour of the song and of the settings, 0x00BBGGRR.
+[[nodiscard]] QColor ColourOf(std::int32_t colour);
 
 /// The colours above in their roles for Qt's own widgets.
 [[nodiscard]] QPalette ProgramPalette();
