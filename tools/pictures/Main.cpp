@@ -14,6 +14,7 @@
 
 #include "BeatWindowSheets.h"
 #include "MainWindowSheets.h"
+#include "RecordingSheets.h"
 #include "SongWindowSheets.h"
 #include "StepEditorSheets.h"
 #include "TuneWindowSheets.h"
@@ -324,6 +325,7 @@ void DrawAllSheets(const QString& folder)
     sprout::DrawTuneWindowSheets(folder);
     sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
+    sprout::DrawRecordingSheets(folder);
 }
 
 } // namespace
