@@ -100,6 +100,7 @@ void Recd_Frm::MakeButtons()
     RecFinishBtn = &AddWordButton({"RecFinishBtn", "Finish", "This will stop and bring the recording to track",
                                    Plate::Word, kDeepLeaf, "WordFinish"},
                                   [this] { ClickFinish(); });
+    RecFinishBtn->setFocus();
     Cancel_Btn = &AddWordButton(
         {"Cancel_Btn", "Cancel", "This will stop and cancel the recording", Plate::Word, kStone, "WordCancel"},
         [this] { ClickCancel(); });

@@ -36,9 +36,13 @@ struct HelpPage {
 };
 
 constexpr std::array kHelpPages{
-    HelpPage{"welcome", "Welcome", "pictures/Sprout"},    HelpPage{"painting", "Painting", "buttons/BrushBtn"},
-    HelpPage{"playing", "Playing", "buttons/PlayAllBtn"}, HelpPage{"tracks", "Tracks and tunes", "buttons/TrackAddBtn"},
-    HelpPage{"songs", "Your songs", "buttons/SaveBtn"},   HelpPage{"keys", "Keys", "pictures/HelpKeys"},
+    HelpPage{"welcome", "Welcome", "pictures/Sprout"},
+    HelpPage{"painting", "Painting", "buttons/BrushBtn"},
+    HelpPage{"playing", "Playing", "buttons/PlayAllBtn"},
+    HelpPage{"tracks", "Tracks and tunes", "buttons/TrackAddBtn"},
+    HelpPage{"recording", "Recording", "buttons/TrackAddRecBtn"},
+    HelpPage{"songs", "Your songs", "buttons/SaveBtn"},
+    HelpPage{"keys", "Keys", "pictures/HelpKeys"},
 };
 
 QUrl PageUrl(const HelpPage& page)

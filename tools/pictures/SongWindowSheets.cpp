@@ -30,7 +30,7 @@ constexpr std::array kSongNames{"Zumi",
                                 "Drum train",
                                 "The very long song that Grandmother and I made together on a rainy Sunday in autumn"};
 constexpr int kManySongs = 200;
-constexpr int kHelpPagesDrawn = 6;
+constexpr int kHelpPagesDrawn = 7;
 
 void SavePicture(QWidget& window, const QString& folder, const QString& name)
 {
