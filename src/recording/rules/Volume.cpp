@@ -12,6 +12,8 @@ namespace {
 
 constexpr std::int32_t kFullVolume = 65535;
 constexpr std::int32_t kFullPercent = 100;
+constexpr std::size_t kMostLines = 50;
+constexpr std::size_t kMostNameBytes = 3200; ///< with one byte behind each name
 
 } // namespace
 
@@ -31,10 +33,14 @@ SourceLines LinesOfSources(const std::optional<SoundSources>& sources)
     if (!sources || sources->Selected < 0 || sources->Selected >= count)
         return {};
     SourceLines shown;
-    for (std::int32_t index = 0; index < count; ++index) {
+    std::size_t nameBytes = 0;
+    for (std::int32_t index = 0; index < count && shown.Lines.size() < kMostLines; ++index) {
         const SoundSource& source = sources->Sources[static_cast<std::size_t>(index)];
         if (Trim(source.Name).empty())
             continue;
+        nameBytes += source.Name.size() + 1;
+        if (nameBytes > kMostNameBytes)
+            break;
         if (index == sources->Selected)
             shown.Selected = static_cast<std::int32_t>(shown.Lines.size());
         shown.Lines.push_back({std::string(Trim(source.Name)), index});

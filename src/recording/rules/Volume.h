@@ -31,7 +31,8 @@ struct SourceLines {
     std::int32_t Volume = 0;       ///< of the selected source
 };
 
-/// The sources that have a name. No lines where there is no list, no selected source or no name.
+/// The sources that have a name, at most 50 and as many as have their whole names in 3200 bytes. No lines where there
+/// is no list, no selected source or no name.
 [[nodiscard]] SourceLines LinesOfSources(const std::optional<SoundSources>& sources);
 
 } // namespace sprout

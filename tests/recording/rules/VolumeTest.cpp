@@ -51,6 +51,22 @@ TEST(LinesOfSources, SelectNoLineWhereTheSelectedSourceHasNoName)
     EXPECT_EQ(lines.Volume, 77);
 }
 
+TEST(LinesOfSources, AreFiftyAtMost)
+{
+    SoundSources sources{std::vector<SoundSource>(60, {"Microphone", 5}), 55};
+    EXPECT_EQ(LinesOfSources(sources).Lines.size(), 50U);
+    EXPECT_EQ(LinesOfSources(sources).Selected, -1);
+    EXPECT_EQ(LinesOfSources(sources).SourceIndex, 55);
+    sources.Selected = 49;
+    EXPECT_EQ(LinesOfSources(sources).Selected, 49);
+}
+
+TEST(LinesOfSources, HaveTheirWholeNamesIn3200Bytes)
+{
+    const SoundSource longName{std::string(319, 'n'), 5};
+    EXPECT_EQ(LinesOfSources(SoundSources{std::vector<SoundSource>(20, longName), 0}).Lines.size(), 10U);
+}
+
 TEST(LinesOfSources, AreNoneWhereTheSourcesCannotBeTold)
 {
     EXPECT_TRUE(LinesOfSources(std::nullopt).Lines.empty());
