@@ -1,26 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TempoBar.h"
 
-#include <QAbstractSlider>
-#include <QMouseEvent>
 #include <QPainter>
-#include <QWheelEvent>
 
 #include <algorithm>
-#include <cmath>
-#include <functional>
-#include <utility>
 
-#include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "main_window/rules/TempoSlider.h"
-#include "ui/Artwork.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/SliderPointer.h"
 
 namespace sprout {
 
@@ -38,7 +31,6 @@ constexpr int kStemEnd = 4;                // sticks out behind the outer knots
 constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
 constexpr std::int32_t kUsualPercent = 100;
-constexpr std::int32_t kPercentsAPage = 10;
 
 constexpr int kShortestSlot = 60;
 constexpr double kKnot = 7; // half its height
@@ -76,138 +68,13 @@ protected:
 private:
     [[nodiscard]] double MiddleOf(std::int32_t percent) const
     {
-        const TempoSlider slider{0, static_cast<double>(width()), kTempoPointerSize.width()};
+        const Slider slider{0, static_cast<double>(width()), static_cast<double>(kTempoPointerSize.width()),
+                            kLowestPercent, kHighestPercent};
         return slider.LeftOf(percent) + kTempoPointerSize.width() / 2.0;
     }
 };
 
 } // namespace
-
-/// The pointer, which stands for the whole slider: it is dragged, takes the keys and tells its value to screen readers.
-class TempoPointer : public QAbstractSlider {
-public:
-    using Told = std::function<void(std::int32_t percent)>;
-
-    /// onSlide: told each value of a drag; onChoose: told the value that a drag, a key or a screen reader left.
-    TempoPointer(QWidget* parent, Told onSlide, Told onChoose)
-        : QAbstractSlider(parent), slide(std::move(onSlide)), choose(std::move(onChoose))
-    {
-        resize(kTempoPointerSize);
-        setOrientation(Qt::Horizontal);
-        setRange(kLowestPercent, kHighestPercent);
-        setPageStep(kPercentsAPage);
-        setFocusPolicy(Qt::StrongFocus);
-        setCursor(Qt::SizeHorCursor);
-        connect(this, &QAbstractSlider::valueChanged, this, &TempoPointer::TakeValue);
-    }
-
-    void ShowPercent(std::int32_t percent)
-    {
-        shown = percent;
-        setValue(percent);
-        PutAt(slider.LeftOf(percent));
-    }
-
-    void SetSlotWidth(int widthPx)
-    {
-        slider.slotWidth = widthPx;
-        PutAt(slider.LeftOf(value()));
-    }
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        if (event->button() != Qt::LeftButton)
-            return;
-        TempoDragging = true;
-        TempoDownX = RoundHalfEven(event->position().x());
-    }
-
-    void mouseMoveEvent(QMouseEvent* event) override
-    {
-        if (!TempoDragging)
-            return;
-        PutAt(slider.Dragged(left, event->position().x(), TempoDownX));
-        const std::int32_t percent = slider.PercentAt(left);
-        setValue(percent);
-        // Also where the value stays: a song's tempo beyond the slider has its own duration, which the drag ends.
-        slide(percent);
-    }
-
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        if (event->button() == Qt::LeftButton)
-            EndDrag();
-    }
-
-    /// A wheel turned in passing changes nothing.
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-
-    void focusInEvent(QFocusEvent* event) override
-    {
-        if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
-            ShowHint(property(kHintProperty).toString());
-        QAbstractSlider::focusInEvent(event);
-    }
-
-    /// A window that opens during a drag gets the release in place of the pointer.
-    void focusOutEvent(QFocusEvent* event) override
-    {
-        EndDrag();
-        QAbstractSlider::focusOutEvent(event);
-    }
-
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        const QPoint inside((width() - kPointerPicture.width()) / 2, (height() - kPointerPicture.height()) / 2);
-        painter.drawPixmap(inside,
-                           Artwork(QStringLiteral("pictures/TempoPrtImg"), kPointerPicture, devicePixelRatioF()));
-        if (hasFocus())
-            PaintFocus(painter);
-    }
-
-private:
-    void PaintFocus(QPainter& painter) const
-    {
-        painter.setRenderHint(QPainter::Antialiasing);
-        const QRectF edge = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-        // Light beside dark, so that one of them stands out on every ground.
-        for (const QPen& pen : {QPen(Qt::white, 3), QPen(kLink, 2)}) {
-            painter.setPen(pen);
-            painter.drawRoundedRect(edge, 8, 8);
-        }
-    }
-
-    /// What a key or a screen reader sets; a drag tells of itself.
-    void TakeValue(int percent)
-    {
-        if (!TempoDragging && percent != shown)
-            choose(percent);
-    }
-
-    void EndDrag()
-    {
-        if (!TempoDragging)
-            return;
-        TempoDragging = false;
-        choose(slider.PercentAt(left));
-    }
-
-    void PutAt(double newLeft)
-    {
-        left = newLeft;
-        move(static_cast<int>(std::lround(left)), y());
-    }
-
-    TempoSlider slider{0, kTempoSlotSize.width(), kTempoPointerSize.width()};
-    Told slide;
-    Told choose;
-    bool TempoDragging = false;
-    std::int32_t TempoDownX = 0;
-    double left = 0; // unrounded
-    std::int32_t shown = 0;
-};
 
 TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
     : QWidget(parent),
@@ -217,8 +84,9 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
       SngDurLbl(new QLabel(this))
 {
     TempoSliderImg->move(0, (kTempoBarHeight - TempoSliderImg->height()) / 2);
-    TempoPrtImg = new TempoPointer(
-        this, [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
+    TempoPrtImg = new SliderPointer(
+        this, {"pictures/TempoPrtImg", kTempoPointerSize, kPointerPicture, kLowestPercent, kHighestPercent},
+        [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
         [this](std::int32_t percent) { TakePercent(percent); });
     TempoPrtImg->setAccessibleName(QStringLiteral("Tempo"));
     SngDurLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -287,7 +155,7 @@ void TempoBar::PlaceLabelsStacked(int widthPx, int secondsWidth)
 void TempoBar::SetSlotWidth(int widthPx)
 {
     TempoSliderImg->resize(widthPx, kTempoSlotSize.height());
-    TempoPrtImg->SetSlotWidth(widthPx);
+    TempoPrtImg->SetSlot(0, widthPx);
 }
 
 void TempoBar::UpdateTempoSliderValue()

@@ -9,7 +9,7 @@
 namespace sprout {
 
 class HintWatcher;
-class TempoPointer;
+class SliderPointer;
 
 /// The tempo of the shared song: slot (`TempoSliderImg`) and pointer (`TempoPrtImg`), the percentage (`TempoLbl`) and
 /// the song's duration (`SngDurLbl`).
@@ -40,7 +40,7 @@ private:
     void TakePercent(std::int32_t percent);
 
     QWidget* TempoSliderImg;
-    TempoPointer* TempoPrtImg;
+    SliderPointer* TempoPrtImg;
     QLabel* TempoLbl;
     QLabel* SngDurLbl;
 };

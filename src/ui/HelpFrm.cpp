@@ -40,8 +40,10 @@ constexpr std::array kHelpPages{
     HelpPage{"painting", "Painting", "buttons/BrushBtn"},
     HelpPage{"playing", "Playing", "buttons/PlayAllBtn"},
     HelpPage{"tracks", "Tracks and tunes", "buttons/TrackAddBtn"},
+    HelpPage{"recording", "Recording", "buttons/TrackAddRecBtn"},
     HelpPage{"editor", "Changing a sound", "buttons/TrackAudioBtn"},
     HelpPage{"songs", "Your songs", "buttons/SaveBtn"},
+    HelpPage{"sharing", "Taking songs home", "buttons/EmailBtn"},
     HelpPage{"keys", "Keys", "pictures/HelpKeys"},
 };
 

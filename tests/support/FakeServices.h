@@ -20,6 +20,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "support/FakeCapture.h"
 #include "support/FakeMail.h"
 #include "support/FakeSound.h"
 #include "support/FakeSoundReader.h"
@@ -93,9 +94,16 @@ class FakeDesktop : public Desktop {
 public:
     [[nodiscard]] std::filesystem::path DocumentsFolder() const override { return documents; }
     void OpenWithShell(std::string_view target) override { opened.emplace_back(target); }
+    [[nodiscard]] std::vector<std::string> OpenSoundControl(SoundControl control) override
+    {
+        soundControls.push_back(control);
+        return missingControls;
+    }
 
     std::filesystem::path documents;
     std::vector<std::string> opened;
+    std::vector<SoundControl> soundControls;
+    std::vector<std::string> missingControls; ///< names of programs that are looked for and not there
 };
 
 /// Reads each picture file as one of a single colour, the number of bytes in the file; a file that begins with "bad" is
@@ -152,6 +160,7 @@ public:
     FakeMail mail;
     FakePrivateFolders privateFolders;
     FakeSoundReader soundReader;
+    FakeCapture capture;
 };
 
 } // namespace sprout

@@ -47,6 +47,14 @@ TEST(ShowMessage, UsesTheFormOfTwoNotesAndPutsABlankBeforeTheTitle)
     EXPECT_EQ(seen.caption, QStringLiteral(" Good!"));
 }
 
+TEST(AskYesNo, HasTheFocusOnTheAnswerThatLosesNothing)
+{
+    for (const auto& [first, answer] : {std::pair(FirstAnswer::Yes, 1), std::pair(FirstAnswer::No, 0)}) {
+        WithNextForm([](BandedForm& form) { QTest::keyClick(form.focusWidget(), Qt::Key_Return); });
+        EXPECT_EQ(AskYesNo("Throw it away?", "", "", first), answer);
+    }
+}
+
 TEST(AskYesNo, Is1ForYesAnd0ForNoCloseBoxAndEscape)
 {
     Seen seen;

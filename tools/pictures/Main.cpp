@@ -15,6 +15,7 @@
 #include "BeatWindowSheets.h"
 #include "EditorSheets.h"
 #include "MainWindowSheets.h"
+#include "RecordingSheets.h"
 #include "SongWindowSheets.h"
 #include "StepEditorSheets.h"
 #include "TuneWindowSheets.h"
@@ -331,6 +332,7 @@ void DrawAllSheets(const QString& folder)
     sprout::DrawStepEditorSheets(folder);
     sprout::DrawBeatWindowSheets(folder);
     sprout::DrawEditorSheets(folder);
+    sprout::DrawRecordingSheets(folder);
 }
 
 } // namespace

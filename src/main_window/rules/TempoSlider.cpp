@@ -1,19 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/rules/TempoSlider.h"
 
-#include <algorithm>
-
 #include "core/Errors.h"
-#include "core/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 
 namespace sprout {
 
 namespace {
-
-constexpr std::int32_t kSlowest = 50;
-constexpr std::int32_t kFastest = 200;
 
 std::int32_t SecondsOrZero(std::int32_t tempo)
 {
@@ -25,22 +19,6 @@ std::int32_t SecondsOrZero(std::int32_t tempo)
 }
 
 } // namespace
-
-double TempoSlider::LeftOf(std::int32_t percent) const
-{
-    return (slotWidth - pointerWidth) * (percent - kSlowest) / (kFastest - kSlowest) + slotLeft;
-}
-
-std::int32_t TempoSlider::PercentAt(double left) const
-{
-    const double percent = (left - slotLeft) * (kFastest - kSlowest) / (slotWidth - pointerWidth) + kSlowest;
-    return std::clamp(RoundHalfEven(percent), kSlowest, kFastest);
-}
-
-double TempoSlider::Dragged(double left, double x, std::int32_t downX) const
-{
-    return std::clamp(left + x - downX, slotLeft, slotLeft + slotWidth - pointerWidth);
-}
 
 std::string TempoLabel(std::int32_t percent)
 {

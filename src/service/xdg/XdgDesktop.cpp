@@ -10,6 +10,8 @@
 #include <cerrno>
 #include <system_error>
 
+#include "core/Text.h"
+#include "service/xdg/ChildProcess.h"
 #include "service/xdg/Environment.h"
 
 namespace sprout {
@@ -31,6 +33,36 @@ std::string QuotedValue(std::string_view line)
         value.push_back(line[i]);
     }
     return value;
+}
+
+/// A program that shows the desktop's volumes.
+struct ControlProgram {
+    std::string_view desktop; ///< as XDG_CURRENT_DESKTOP names it; empty: runs on any
+    const char* program;
+    const char* argument; ///< empty: it takes the number of the tab that is shown first
+};
+
+constexpr std::array kControlPrograms{
+    ControlProgram{"", "pavucontrol", ""},
+    ControlProgram{"", "pavucontrol-qt", ""},
+    ControlProgram{"GNOME", "gnome-control-center", "sound"},
+    ControlProgram{"Unity", "gnome-control-center", "sound"},
+    ControlProgram{"KDE", "systemsettings", "kcm_pulseaudio"},
+    ControlProgram{"KDE", "systemsettings5", "kcm_pulseaudio"},
+    ControlProgram{"X-Cinnamon", "cinnamon-settings", "sound"},
+};
+
+/// Of output devices and of input devices.
+const char* TabOf(SoundControl control)
+{
+    return control == SoundControl::Play ? "3" : "4";
+}
+
+std::vector<std::string> WordsOf(const ControlProgram& program, SoundControl control)
+{
+    if (*program.argument != '\0')
+        return {program.program, program.argument};
+    return {program.program, "--tab", TabOf(control)};
 }
 
 } // namespace
@@ -89,6 +121,20 @@ void XdgDesktop::OpenWithShell(std::string_view target)
     if (::posix_spawn(&child, shell.c_str(), nullptr, nullptr, words.data(), environ) == 0)
         while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
+}
+
+std::vector<std::string> XdgDesktop::OpenSoundControl(SoundControl control)
+{
+    const std::vector<std::string> desktops = Split(FromEnvironment("XDG_CURRENT_DESKTOP").native(), ':');
+    std::vector<std::string> lookedFor;
+    for (const ControlProgram& program : kControlPrograms) {
+        if (!program.desktop.empty() && std::find(desktops.begin(), desktops.end(), program.desktop) == desktops.end())
+            continue;
+        if (ChildProcess::Start(WordsOf(program, control)))
+            return {};
+        lookedFor.emplace_back(program.program);
+    }
+    return lookedFor;
 }
 
 } // namespace sprout

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "service/Desktop.h"
 
@@ -14,6 +15,8 @@ public:
     /// The folder named XDG_DOCUMENTS_DIR in the user's user-dirs.dirs, else Documents in the home folder.
     [[nodiscard]] std::filesystem::path DocumentsFolder() const override;
     void OpenWithShell(std::string_view target) override;
+    /// Looks on the PATH for pavucontrol, then for the sound settings of the desktop that XDG_CURRENT_DESKTOP names.
+    [[nodiscard]] std::vector<std::string> OpenSoundControl(SoundControl control) override;
 };
 
 /// The documents folder that the lines of a user-dirs.dirs name; empty where they name none or the home folder itself,

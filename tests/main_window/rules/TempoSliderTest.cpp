@@ -9,31 +9,6 @@
 namespace sprout {
 namespace {
 
-constexpr TempoSlider kSlider{20, 170, 20};
-
-TEST(TempoSlider, PutsThePointerByThePercentage)
-{
-    EXPECT_DOUBLE_EQ(kSlider.LeftOf(50), 20);
-    EXPECT_DOUBLE_EQ(kSlider.LeftOf(100), 70);
-    EXPECT_DOUBLE_EQ(kSlider.LeftOf(200), 170);
-}
-
-TEST(TempoSlider, ReadsThePercentageBackFromEveryPlace)
-{
-    const TempoSlider narrow{7, 93, 11};
-    for (std::int32_t percent = 50; percent <= 200; ++percent)
-        EXPECT_EQ(narrow.PercentAt(narrow.LeftOf(percent)), percent);
-}
-
-TEST(TempoSlider, KeepsPercentageAndPointerInTheSlot)
-{
-    EXPECT_EQ(kSlider.PercentAt(-500), 50);
-    EXPECT_EQ(kSlider.PercentAt(500), 200);
-    EXPECT_DOUBLE_EQ(kSlider.Dragged(70, -400, 5), 20);
-    EXPECT_DOUBLE_EQ(kSlider.Dragged(70, 400, 5), 170);
-    EXPECT_DOUBLE_EQ(kSlider.Dragged(70, 15, 5), 80);
-}
-
 TEST(TempoLabels, TellPercentAndTheWholeGridsSeconds)
 {
     EXPECT_EQ(TempoLabel(100), "100%");

@@ -65,20 +65,26 @@ TEST_F(XdgHome, HasNoDocumentsWhereNoneCanBeMade)
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), fs::path());
 }
 
-/// The first line that a stub of xdg-open writes into a pipe, waited for without sleeping.
-class OpenWithShell : public XdgHome {
+/// What stubs of the desktop's programs write into a pipe, waited for without sleeping.
+class DesktopPrograms : public XdgHome {
 protected:
-    OpenWithShell()
+    DesktopPrograms()
     {
         ::mkfifo(Pipe().c_str(), 0600);
         reader = ::open(Pipe().c_str(), O_RDWR | O_CLOEXEC);
-        WriteBytes(folder.Path() / "xdg-open", "#!/bin/sh\nprintf '%s' \"$1\" > '" + Pipe().native() + "'\n");
-        fs::permissions(folder.Path() / "xdg-open", fs::perms(0700));
+        MakeStub("xdg-open");
         Set("PATH", folder.Path().native() + ":/usr/bin:/bin");
     }
-    ~OpenWithShell() override { ::close(reader); }
+    ~DesktopPrograms() override { ::close(reader); }
 
     [[nodiscard]] fs::path Pipe() const { return folder.Path() / "pipe"; }
+
+    /// Makes a program that writes its arguments into the pipe.
+    void MakeStub(const std::string& name) const
+    {
+        WriteBytes(folder.Path() / name, "#!/bin/sh\nprintf '%s' \"$*\" > '" + Pipe().native() + "'\n");
+        fs::permissions(folder.Path() / name, fs::perms(0700));
+    }
 
     [[nodiscard]] std::string Opened(int waitMilliseconds) const
     {
@@ -93,6 +99,8 @@ protected:
     int reader = -1;
 };
 
+using OpenWithShell = DesktopPrograms;
+
 TEST_F(OpenWithShell, HandsTheTargetOverAsItIs)
 {
     const std::string target = "/a b/$(touch x)'\";&.html";
@@ -106,6 +114,49 @@ TEST_F(OpenWithShell, HandsOverNothingThatWouldBeAnOption)
     XdgDesktop().OpenWithShell("--manual");
     XdgDesktop().OpenWithShell("https://tonquill.example/");
     EXPECT_EQ(Opened(10000), "https://tonquill.example/");
+}
+
+/// Only the stubs can be found.
+class OpenSoundControl : public DesktopPrograms {
+protected:
+    OpenSoundControl()
+    {
+        Set("PATH", folder.Path());
+        Set("XDG_CURRENT_DESKTOP", "");
+    }
+
+    using Names = std::vector<std::string>;
+};
+
+TEST_F(OpenSoundControl, ShowsTheTabOfTheSideThatIsAskedFor)
+{
+    MakeStub("pavucontrol");
+    MakeStub("pavucontrol-qt");
+    EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Play), Names());
+    EXPECT_EQ(Opened(10000), "--tab 3");
+    EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Record), Names());
+    EXPECT_EQ(Opened(10000), "--tab 4");
+}
+
+TEST_F(OpenSoundControl, OpensTheSoundSettingsOfTheDesktopThatRuns)
+{
+    MakeStub("gnome-control-center");
+    MakeStub("systemsettings");
+    Set("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+    EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Record), Names());
+    EXPECT_EQ(Opened(10000), "sound");
+    Set("XDG_CURRENT_DESKTOP", "KDE");
+    EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Record), Names());
+    EXPECT_EQ(Opened(10000), "kcm_pulseaudio");
+}
+
+TEST_F(OpenSoundControl, NamesWhatWasLookedForWhereNothingIsThere)
+{
+    MakeStub("systemsettings"); // of another desktop
+    EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Play), (Names{"pavucontrol", "pavucontrol-qt"}));
+    Set("XDG_CURRENT_DESKTOP", "GNOME");
+    EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Play),
+              (Names{"pavucontrol", "pavucontrol-qt", "gnome-control-center"}));
 }
 
 } // namespace

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recording/Recd_Mod.h"
+
+#include <algorithm>
+#include <bit>
+#include <memory>
+#include <optional>
+#include <span>
+#include <system_error>
+#include <utility>
+
+#include "core/ByteCursor.h"
+#include "core/Paths.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// The files' samples are read to their place as they are.
+static_assert(std::endian::native == std::endian::little);
+
+constexpr std::uint64_t kSampleBytes = sizeof(std::int16_t);
+/// As many as a capture keeps at most; what somebody wrote behind them is no sound.
+constexpr std::uint64_t kMostSamples = (std::uint64_t{1} << 29) - 11;
+
+/// A raw file of one channel; nothing where it is missing or holds no sample.
+class RawFile {
+public:
+    static std::optional<RawFile> Open(const fs::path& path)
+    {
+        std::error_code error;
+        if (!fs::is_regular_file(path, error))
+            return std::nullopt;
+        RawFile file(std::make_unique<FileSource>(path));
+        return file.Samples() == 0 ? std::nullopt : std::optional<RawFile>(std::move(file));
+    }
+
+    /// As many as the file held when it was opened.
+    [[nodiscard]] std::uint64_t Samples() const { return std::min(source->Size() / kSampleBytes, kMostSamples); }
+
+    /// Elements 0 to `upperBound`, the first of which are the file's samples; behind its end there is silence.
+    [[nodiscard]] Channel Read(std::int32_t upperBound) const
+    {
+        Channel channel = Channel::Unfilled(upperBound);
+        const std::span<std::int16_t> elements = channel.Change();
+        const auto there = std::min(elements.size(), static_cast<std::size_t>(Samples()));
+        source->Read(0, std::as_writable_bytes(elements.first(there)));
+        std::fill(elements.begin() + static_cast<std::ptrdiff_t>(there), elements.end(), std::int16_t{0});
+        return channel;
+    }
+
+private:
+    explicit RawFile(std::unique_ptr<FileSource> file) : source(std::move(file)) {}
+
+    std::unique_ptr<FileSource> source;
+};
+
+/// Clears element 0, which holds nothing in a wave.
+Channel AsWaveChannel(Channel channel)
+{
+    channel.Change().front() = 0;
+    return channel;
+}
+
+} // namespace
+
+RecdState& Recd()
+{
+    static RecdState state;
+    return state;
+}
+
+void LoadRecordedFiles(const fs::path& left, const fs::path& right)
+{
+    if (const std::optional<RawFile> leftFile = RawFile::Open(left)) {
+        const auto length = static_cast<std::int32_t>(leftFile->Samples() - 1);
+        Channel leftSamples = leftFile->Read(length);
+        const std::optional<RawFile> rightFile = RawFile::Open(right);
+        Channel rightSamples = rightFile ? rightFile->Read(length) : leftSamples;
+        Recd().RecdWavL = std::move(leftSamples);
+        Recd().RecdWavR = std::move(rightSamples);
+        Recd().RecdLength = length;
+    }
+    DeleteFile(left);
+    DeleteFile(right);
+}
+
+WaveData TakeRecordedWave()
+{
+    RecdState& recd = Recd();
+    WaveData wave{recd.RecdBits, recd.RecdChannels, recd.RecdRate, {}, {}, 0};
+    const std::int32_t length = std::exchange(recd.RecdLength, 0);
+    Channel left = std::exchange(recd.RecdWavL, Channel());
+    Channel right = std::exchange(recd.RecdWavR, Channel());
+    if (length < 1)
+        return wave;
+    // One block for both stays one.
+    const bool isOneBlock = left.SharesBlockWith(right);
+    if (isOneBlock)
+        right = Channel();
+    wave.WavL = AsWaveChannel(std::move(left));
+    wave.WavR = isOneBlock ? wave.WavL : AsWaveChannel(std::move(right));
+    wave.Length = length;
+    return wave;
+}
+
+} // namespace sprout

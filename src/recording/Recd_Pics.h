@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+
+#include <cstdint>
+
+#include "recording/rules/CaptureView.h"
+#include "recording/rules/Meter.h"
+
+namespace sprout {
+
+/// A level meter: a bar that rises from its lower edge, a line at the loudest of the last second, and a warning sign
+/// where the sound was too loud. All of it can be read without colour.
+class LevelMeterPic : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    /// Measures the meter by the widget's height, for peaks up to `peakMaximum`.
+    void MeasureMeter(std::int32_t peakMaximum);
+    void Clear() { ShowLevel({}, kIdleBarColour); }
+    /// barColour: 0x00BBGGRR.
+    void ShowLevel(const MeterView& view, std::int32_t barColour);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    Meter meter;
+    MeterView shown;
+    std::int32_t colour = kIdleBarColour;
+};
+
+/// How much is recorded, on a scale of the recording limit.
+class RecordingProgressPic : public QWidget {
+public:
+    using QWidget::QWidget;
+
+    void ShowSeconds(float seconds);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    float elapsed = 0;
+};
+
+} // namespace sprout

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "recording/rules/Meter.h"
+#include "service/SoundCapture.h"
+
+namespace sprout {
+
+/// Seconds of a block that a capture counts.
+inline constexpr float kBlockSeconds = 0.2F;
+
+/// Colours of a meter's bar, 0x00BBGGRR.
+inline constexpr std::int32_t kRecordingBarColour = 0x0000FF;
+inline constexpr std::int32_t kIdleBarColour = 0xFF0000;
+
+/// One of the two level meters.
+struct MeterView {
+    std::int32_t Peak = 0;    ///< 0 to 32767
+    std::int32_t Loudest = 0; ///< of the last second
+    bool Overloaded = false;  ///< three samples in a row stood at full scale, until the capture ends
+    friend bool operator==(const MeterView&, const MeterView&) = default;
+};
+
+/// What the recording window shows of a capture, and what it remembers between two looks at it.
+class CaptureView {
+public:
+    /// The keeping has begun. The status stays blank until the first frame is kept.
+    void Start();
+    /// Takes what the capture tells now. False where nothing new has come, and so nothing is to be drawn.
+    bool Update(const CaptureStatus& status, const CapturePeaks& peaks);
+    /// The keeping was ended by the user.
+    void Stop();
+
+    [[nodiscard]] const std::string& Duration() const { return duration; }
+    [[nodiscard]] const std::string& Status() const { return status; }
+    [[nodiscard]] std::int32_t BarColour() const { return barColour; }
+    [[nodiscard]] const MeterView& Left() const { return left; }
+    [[nodiscard]] const MeterView& Right() const { return right; }
+    /// Seconds that were recorded.
+    [[nodiscard]] float Elapsed() const { return elapsed; }
+    /// True from `Start` until the keeping ends, by the user or by itself.
+    [[nodiscard]] bool IsKeeping() const { return isKeeping; }
+
+private:
+    void UpdateText(const CaptureStatus& now, bool isNewState);
+    void UpdateMeters(const CapturePeaks& peaks, std::int64_t pieces);
+    void End();
+
+    std::optional<CaptureState> lastState;
+    std::int64_t lastPieces = 0;
+    bool lastSilent = false;
+    std::string duration;
+    std::string stateText; ///< the status without what is added to it
+    std::string status;
+    std::int32_t barColour = kIdleBarColour;
+    MeterView left;
+    MeterView right;
+    LoudestOfSecond loudestLeft;
+    LoudestOfSecond loudestRight;
+    float elapsed = 0;
+    bool isKeeping = false;
+    bool hasEnded = false;
+};
+
+} // namespace sprout

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractSlider>
+
+#include <cstdint>
+#include <functional>
+
+#include "ui/rules/Slider.h"
+
+namespace sprout {
+
+/// The look and the range of a slider's pointer.
+struct PointerLook {
+    const char* artwork = ""; ///< path below art/
+    QSize size;               ///< of the pointer with the frame of its focus
+    QSize picture;            ///< inside that frame
+    std::int32_t lowest = 0;  ///< percent
+    std::int32_t highest = 100;
+};
+
+/// A pointer, which stands for its whole slider: it is dragged, takes the keys and tells its value to screen readers.
+class SliderPointer : public QAbstractSlider {
+    Q_OBJECT
+
+public:
+    using Told = std::function<void(std::int32_t percent)>;
+
+    /// onSlide: told each value of a drag; onChoose: told the value that a drag, a key or a screen reader left.
+    SliderPointer(QWidget* parent, const PointerLook& look, Told onSlide, Told onChoose);
+
+    void ShowPercent(std::int32_t percent);
+
+    /// The slot in which the pointer moves, in the parent's coordinates.
+    void SetSlot(int left, int widthPx);
+
+    [[nodiscard]] bool IsDragged() const { return isDragged; }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaintFocus(QPainter& painter) const;
+    void TakeValue(int percent);
+    void EndDrag();
+    void PutAt(double newLeft);
+
+    PointerLook look;
+    Slider slider;
+    Told slide;
+    Told choose;
+    bool isDragged = false;
+    std::int32_t downX = 0;
+    double left = 0; // unrounded
+    std::int32_t shown = 0;
+};
+
+} // namespace sprout
