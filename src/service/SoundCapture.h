@@ -17,9 +17,9 @@ enum class CaptureOpening {
 };
 
 enum class CaptureState : std::int32_t {
-    Stopped = 1,   ///< before the start, after the stop, and where the capture ended by itself
-    Recording = 2, ///< frames arrive
-    Paused = 3     ///< the source is suspended, or none came for half a second
+    Stopped = 1,   ///< before the first kept frame, after the stop, and where the capture ended by itself
+    Recording = 2, ///< frames arrive and are kept
+    Paused = 3     ///< the source is suspended, or no frame came for half a second
 };
 
 /// Why a capture ended by itself.
@@ -57,7 +57,8 @@ struct SoundSources {
 /// Captures 44,100 Hz, 16 bits, stereo from one of the machine's sources.
 ///
 /// A thread of the capture's own takes the frames and writes them; it never waits for the interface thread. All calls
-/// come from the interface thread, and none waits longer than a second. Nothing throws but std::bad_alloc.
+/// come from the interface thread, and none waits longer than a second for the source. Nothing throws but
+/// std::bad_alloc.
 class SoundCapture {
 public:
     SoundCapture() = default;
@@ -68,10 +69,11 @@ public:
     /// Opens the source; what was open before is released. From here on the peaks can be read.
     [[nodiscard]] virtual CaptureOpening Open() = 0;
     /// Begins to keep the samples of each channel in a file of its own: raw, 16 bits, low byte first. Both files are
-    /// made, exclusively, for their user alone, and locked as long as they are written. False where they cannot be, or
-    /// less than 64 MB of disk are free.
+    /// made, exclusively, for their user alone, and locked. False where they cannot be, where less than 64 MB of disk
+    /// are free, or where the source is gone.
     [[nodiscard]] virtual bool Start(const std::filesystem::path& left, const std::filesystem::path& right) = 0;
-    /// Ends the keeping and closes both files, whose every frame is then there; they are the caller's.
+    /// Ends the keeping; every frame is then in the files. They are the caller's, and stay locked until the next start
+    /// or the release, so that no other program takes them for left ones before they are read.
     virtual void Stop() = 0;
     /// Lets the source go. Files of a capture that was not stopped are deleted.
     virtual void Release() = 0;
@@ -88,6 +90,10 @@ public:
     virtual void SelectSource(std::int32_t index) = 0;
     /// The source's own volume; above 0 it is unmuted.
     virtual void SetVolume(std::int32_t index, std::int32_t volume) = 0;
+
+    /// Deletes the capture files in `folder` that earlier runs left. May go on behind the call. What cannot be deleted
+    /// stays, without a word.
+    virtual void DeleteLeftFiles(const std::filesystem::path& folder) = 0;
 };
 
 } // namespace sprout

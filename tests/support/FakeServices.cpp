@@ -78,6 +78,7 @@ FakeServices::FakeServices()
     TheServices().mail = &mail;
     TheServices().privateFolders = &privateFolders;
     TheServices().soundReader = &soundReader;
+    TheServices().capture = &capture;
     Shared() = SharedState();
     SharedState& shared = Shared();
     shared.BlankPic = OneColour(0x000001);

@@ -20,6 +20,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "support/FakeCapture.h"
 #include "support/FakeMail.h"
 #include "support/FakeSound.h"
 #include "support/FakeSoundReader.h"
@@ -152,6 +153,7 @@ public:
     FakeMail mail;
     FakePrivateFolders privateFolders;
     FakeSoundReader soundReader;
+    FakeCapture capture;
 };
 
 } // namespace sprout
