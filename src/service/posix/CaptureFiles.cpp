@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
+constexpr mode_t kCaptureFileMode = 0600;
 constexpr int kTries = 3;
 constexpr std::int64_t kFramesBetweenLooks = 8820; // at the disk
 
@@ -53,7 +53,7 @@ CaptureFiles::OneFile CaptureFiles::MakeFile(const fs::path& path)
 {
     for (int tries = 0; tries < kTries; ++tries) {
         Descriptor file(Uninterrupted(
-            [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly); }));
+            [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kCaptureFileMode); }));
         if (file.Number() < 0)
             break;
         if (TakeLock(file.Number()) != Lock::Held && Names(path, file.Number()))

@@ -2,7 +2,6 @@
 #include "service/pulse/PulseCapture.h"
 
 #include <algorithm>
-#include <chrono>
 #include <optional>
 #include <utility>
 
@@ -15,17 +14,6 @@ namespace {
 /// PipeWire begins some streams with silence or with a hole: 50 ms.
 constexpr std::int64_t kUnsureFrames = 2205;
 
-PulseConnection::Time Deadline()
-{
-    return std::chrono::steady_clock::now() + kServerPatience;
-}
-
-void Forget(pa_operation* operation)
-{
-    if (operation)
-        Pulse().OperationUnref(operation);
-}
-
 } // namespace
 
 PulseCapture::~PulseCapture()
@@ -36,7 +24,7 @@ PulseCapture::~PulseCapture()
 ServerAnswer PulseCapture::AskServer()
 {
     Lock lock(connection.Mutex());
-    return Connect(lock, Deadline());
+    return Connect(lock, ServerDeadline());
 }
 
 ServerAnswer PulseCapture::Connect(Lock& lock, Time deadline)
@@ -67,7 +55,7 @@ void PulseCapture::FollowSources()
 CaptureOpening PulseCapture::Open(CaptureSink& captureSink)
 {
     Close();
-    const Time deadline = Deadline();
+    const Time deadline = ServerDeadline();
     const CaptureOpening opening = OpenOnce(captureSink, deadline);
     // Of a server that was started anew only the first failure tells that the connection to the old one is gone.
     return opening == CaptureOpening::Failed ? OpenOnce(captureSink, deadline) : opening;
@@ -113,7 +101,7 @@ SourceState PulseCapture::State()
 
 std::optional<SoundSources> PulseCapture::ListSources()
 {
-    const Time deadline = Deadline();
+    const Time deadline = ServerDeadline();
     Lock lock(connection.Mutex());
     listed.clear();
     if (Connect(lock, deadline) != ServerAnswer::Yes)
@@ -160,7 +148,7 @@ void PulseCapture::SelectSource(std::int32_t index)
         chosen = name;
         return;
     }
-    std::unique_ptr<PulseCaptureStream> other = OpenStream(name, lock, Deadline());
+    std::unique_ptr<PulseCaptureStream> other = OpenStream(name, lock, ServerDeadline());
     if (!other || !stream)
         return;
     chosen = name;

@@ -24,6 +24,12 @@ enum class ServerAnswer {
 /// No call waits longer for a server that does not answer: the window stands still meanwhile.
 inline constexpr std::chrono::milliseconds kServerPatience{800};
 
+/// Until when a call that begins now waits for the server.
+[[nodiscard]] inline std::chrono::steady_clock::time_point ServerDeadline()
+{
+    return std::chrono::steady_clock::now() + kServerPatience;
+}
+
 /// The connection to the sound server, PulseAudio or PipeWire, and the thread that reads what the server tells.
 ///
 /// libpulse's own thread waits without a limit and locks what no tool sees; so this is libpulse's plain loop in a

@@ -106,4 +106,10 @@ const PulseLibrary& Pulse()
     return library;
 }
 
+void Forget(pa_operation* question)
+{
+    if (question)
+        Pulse().OperationUnref(question);
+}
+
 } // namespace sprout

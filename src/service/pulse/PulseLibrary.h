@@ -67,4 +67,7 @@ struct PulseLibrary {
 /// The library, which is loaded once and stays. May be called from any thread.
 [[nodiscard]] const PulseLibrary& Pulse();
 
+/// Lets a question go on for whose answer nobody waits. May be null.
+void Forget(pa_operation* question);
+
 } // namespace sprout

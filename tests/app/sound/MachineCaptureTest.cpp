@@ -17,6 +17,7 @@
 #include <vector>
 
 #include "service/pulse/TestSoundServer.h"
+#include "support/CaptureRamp.h"
 #include "support/Comes.h"
 #include "support/TestFolder.h"
 
@@ -25,61 +26,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
-using Samples = std::vector<std::int16_t>;
-
-constexpr int kLap = 30000;
-
-/// The left sample of frame n, counted from 0, runs up and begins again; the right one is the number of the lap.
-/// Neither is ever 0, so that each frame is known by its samples.
-std::string RampBytes(int frames, int firstLap)
-{
-    Samples samples;
-    for (int n = 0; n < frames; ++n) {
-        samples.push_back(static_cast<std::int16_t>(1 + n % kLap));
-        samples.push_back(static_cast<std::int16_t>(firstLap + n / kLap));
-    }
-    return {reinterpret_cast<const char*>(samples.data()), samples.size() * sizeof(std::int16_t)};
-}
-
-Samples Read(const fs::path& path)
-{
-    const std::string bytes = ReadBytes(path);
-    Samples samples(bytes.size() / sizeof(std::int16_t));
-    std::copy_n(bytes.data(), samples.size() * sizeof(std::int16_t), reinterpret_cast<char*>(samples.data()));
-    return samples;
-}
-
-/// What stands in two files.
-struct Taken {
-    Samples left;
-    Samples right;
-
-    /// The number of each frame of a ramp that begins with the lap `firstLap`; -1: silence, -2: a foreign one.
-    [[nodiscard]] std::vector<int> Numbers(int firstLap = 1) const
-    {
-        std::vector<int> numbers;
-        for (std::size_t i = 0; i < std::min(left.size(), right.size()); ++i) {
-            const bool isSilent = left[i] == 0 && right[i] == 0;
-            const bool isOfRamp = left[i] >= 1 && left[i] <= kLap && right[i] >= firstLap;
-            numbers.push_back(isSilent ? -1 : isOfRamp ? (right[i] - firstLap) * kLap + left[i] - 1 : -2);
-        }
-        return numbers;
-    }
-};
-
-/// The frames without the silence ahead and behind.
-std::vector<int> Sounded(std::vector<int> numbers)
-{
-    const auto sounds = [](int number) { return number != -1; };
-    const auto last = std::find_if(numbers.rbegin(), numbers.rend(), sounds).base();
-    return {std::find_if(numbers.begin(), last, sounds), last};
-}
-
-/// Whether each frame follows the one before.
-bool IsGapless(const std::vector<int>& numbers)
-{
-    return std::adjacent_find(numbers.begin(), numbers.end(), [](int a, int b) { return b != a + 1; }) == numbers.end();
-}
 
 /// A microphone at a server of the test's own, and a capture.
 class MachineCaptureTest : public ::testing::Test {
@@ -93,10 +39,7 @@ protected:
     {
         const fs::path file = folder.Path() / ("ramp" + sink);
         WriteBytes(file, RampBytes(frames, firstLap));
-        return std::async(std::launch::async, [this, sink, file] {
-            return server.Told({"pacat", "-p", "--raw", "--format=s16le", "--rate=44100", "--channels=2",
-                                "--latency-msec=100", "-d", sink, file});
-        });
+        return std::async(std::launch::async, [this, sink, file] { return server.Play(sink, file); });
     }
 
     [[nodiscard]] bool Start() { return capture.Start(left, right); }
@@ -114,7 +57,7 @@ protected:
         const std::int64_t wanted = capture.Status().Blocks + more;
         return Comes([&] { return capture.Status().Blocks >= wanted; });
     }
-    [[nodiscard]] Taken Files() const { return {Read(left), Read(right)}; }
+    [[nodiscard]] CapturedRamp Files() const { return ReadCaptured(left, right); }
     [[nodiscard]] SoundSources Listed()
     {
         const std::optional<SoundSources> sources = capture.ListSources();
@@ -347,7 +290,7 @@ TEST_F(MachineCaptureTest, AnotherSourceGoesOnInTheSameFilesAndIsRemembered)
     EXPECT_TRUE(KeepsBlocks(3));
     EXPECT_EQ(State(), CaptureState::Recording);
     capture.Stop();
-    const Taken taken = Files();
+    const CapturedRamp taken = Files();
     const auto turn = std::find_if(taken.right.begin(), taken.right.end(), [](int lap) { return lap >= 1000; });
     const auto before = static_cast<std::ptrdiff_t>(turn - taken.right.begin());
     ASSERT_NE(turn, taken.right.end());
@@ -566,7 +509,7 @@ TEST_F(SdlMachineCaptureTest, WhatSdlGivesArrivesWithoutALostFrame)
         EXPECT_EQ(capture.Status().State, CaptureState::Recording);
         EXPECT_GT(capture.Peaks().Left, 0);
         capture.Stop();
-        const std::vector<int> numbers = Taken{Read(left), Read(right)}.Numbers();
+        const std::vector<int> numbers = ReadCaptured(left, right).Numbers();
         EXPECT_GE(numbers.size(), 44100U);
         EXPECT_TRUE(IsGapless(numbers));
         EXPECT_GE(numbers.front(), 0);

@@ -141,6 +141,12 @@ bool TestSoundServer::AddMicrophone(const std::string& name)
            PutBack(name);
 }
 
+std::string TestSoundServer::Play(const std::string& sink, const std::string& file) const
+{
+    return Told({"pacat", "-p", "--raw", "--format=s16le", "--rate=44100", "--channels=2", "--latency-msec=100", "-d",
+                 sink, file});
+}
+
 bool TestSoundServer::PullOut(const std::string& name)
 {
     return Does({"unload-module", microphones[name]});

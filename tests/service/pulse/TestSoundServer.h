@@ -51,6 +51,8 @@ public:
 
     /// Adds a microphone, which hears what is played on the sink NAME and is called NAME-mic. False if it fails.
     [[nodiscard]] bool AddMicrophone(const std::string& name);
+    /// Plays the samples of a file, in the program's own format, on a sink until they are heard. "" if that succeeds.
+    [[nodiscard]] std::string Play(const std::string& sink, const std::string& file) const;
     /// Takes a microphone away, or puts it back; its sink stays.
     [[nodiscard]] bool PullOut(const std::string& name);
     [[nodiscard]] bool PutBack(const std::string& name);
