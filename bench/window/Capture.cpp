@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_capture_bench [SECONDS]: records from a microphone at a sound server of its own. Frames that are lost in
-// SECONDS (120) while four busy loops run and the interface thread stands still for two seconds at a time; milliseconds
-// from an opening to the first kept frame, from a play to the meter (the play's own delay is in it), and for the end of
-// a take of three minutes beside `cat` of its files; foreign frames in 50 takes of which the microphone is pulled out.
+// sprout_capture_bench [SECONDS [LOOPS]]: records from a microphone at a sound server of its own. Frames that are lost
+// in SECONDS (120) while LOOPS (4) busy loops run and the interface thread stands still for two seconds at a time;
+// milliseconds from an opening to the first kept frame, from a play to the meter (the play's own delay is in it), and
+// for the end of a take of three minutes beside `cat` of its files; foreign frames in 50 takes of which the microphone
+// is pulled out.
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -33,7 +34,6 @@ constexpr int kOpenings = 40;
 constexpr int kPlays = 40;
 constexpr int kTakes = 7;
 constexpr int kPulls = 50;
-constexpr int kBusyLoops = 4;
 
 double MillisecondsSince(Clock::time_point begun)
 {
@@ -57,9 +57,9 @@ void Print(const char* name, std::vector<double> figures)
 /// Threads that work as hard as they can.
 class BusyLoops {
 public:
-    BusyLoops()
+    explicit BusyLoops(int count)
     {
-        for (int i = 0; i < kBusyLoops; ++i)
+        for (int i = 0; i < count; ++i)
             threads.emplace_back([this] {
                 while (!ends)
                     ++turns;
@@ -88,7 +88,7 @@ public:
              server.Does({"set-default-source", "mic1-mic"}));
     }
 
-    void MeasureLoss(int seconds);
+    void MeasureLoss(int seconds, int busyLoops);
     void MeasureOpenings();
     void MeasureMeter();
     void MeasureEnd();
@@ -121,12 +121,12 @@ private:
     MachineCapture capture;
 };
 
-void Bench::MeasureLoss(int seconds)
+void Bench::MeasureLoss(int seconds, int busyLoops)
 {
     Record();
     std::future<std::string> played = Play("mic1", seconds, 1);
     {
-        const BusyLoops loops;
+        const BusyLoops loops(busyLoops);
         const auto end = Clock::now() + std::chrono::seconds(seconds) + std::chrono::seconds(2);
         while (Clock::now() < end) {
             std::this_thread::sleep_for(std::chrono::seconds(2)); // the interface thread is busy with something else
@@ -242,10 +242,10 @@ void Bench::MeasurePulls()
                 untold);
 }
 
-int Run(int seconds)
+int Run(int seconds, int busyLoops)
 {
     Bench bench;
-    bench.MeasureLoss(seconds);
+    bench.MeasureLoss(seconds, busyLoops);
     std::printf("%-30s %8s %8s %8s %8s\n", "ms", "least", "median", "95 of 100", "most");
     bench.MeasureOpenings();
     bench.MeasureMeter();
@@ -259,5 +259,5 @@ int Run(int seconds)
 
 int main(int argc, char** argv)
 {
-    return sprout::Run(argc > 1 ? std::atoi(argv[1]) : 120);
+    return sprout::Run(argc > 1 ? std::atoi(argv[1]) : 120, argc > 2 ? std::atoi(argv[2]) : 4);
 }

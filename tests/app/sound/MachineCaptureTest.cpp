@@ -195,6 +195,8 @@ TEST_F(MachineCaptureTest, ASuspendedSourceIsAPause)
     ASSERT_TRUE(Start());
     ASSERT_TRUE(Records());
     ASSERT_TRUE(server.Does({"suspend-source", "mic1-mic", "1"}));
+    if (server.Told({"pactl", "list", "short", "sources"}).find("SUSPENDED") == std::string::npos)
+        GTEST_SKIP() << "This server suspends nothing that is recorded.";
     EXPECT_TRUE(IsIn(CaptureState::Paused));
     EXPECT_EQ(capture.Status().End, CaptureEnd::None);
     ASSERT_TRUE(server.Does({"suspend-source", "mic1-mic", "0"}));
