@@ -18,7 +18,7 @@ constexpr std::int64_t kBlockFrames = 8820; // 0.2 s
 
 MachineCapture::~MachineCapture()
 {
-    Release();
+    MachineCapture::Release();
 }
 
 CaptureSource* MachineCapture::ChooseSource()

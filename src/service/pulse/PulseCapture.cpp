@@ -18,7 +18,7 @@ constexpr std::int64_t kUnsureFrames = 2205;
 
 PulseCapture::~PulseCapture()
 {
-    Close();
+    PulseCapture::Close();
 }
 
 ServerAnswer PulseCapture::AskServer()

@@ -15,7 +15,7 @@ constexpr Uint16 kFramesGiven = 1024; // at a time, 23 ms
 
 SdlCapture::~SdlCapture()
 {
-    Close();
+    SdlCapture::Close();
 }
 
 CaptureOpening SdlCapture::Open(CaptureSink& captureSink)
