@@ -6,6 +6,7 @@
 #include <future>
 #include <memory>
 
+#include "app/sound/MachineCapture.h"
 #include "app/sound/MachineSound.h"
 #include "app/start/StartUp.h"
 #include "main_window/MainFrm.h"
@@ -50,6 +51,7 @@ public:
         TheServices().mail = &mail;
         TheServices().privateFolders = &privateFolders;
         TheServices().soundReader = &soundReader;
+        TheServices().capture = &capture;
     }
     ProgramServices(const ProgramServices&) = delete;
     ProgramServices& operator=(const ProgramServices&) = delete;
@@ -68,6 +70,7 @@ private:
     QtPictureFiles pictures;
     std::unique_ptr<Stretch> stretch = MakeStretch();
     MachineSound sound;
+    MachineCapture capture;
     FfmpegWmaEncoder wma;
     XdgMail mail;
     PosixPrivateFolders privateFolders;

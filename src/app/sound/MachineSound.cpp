@@ -26,12 +26,17 @@ bool IsOpenDevice(const SoundHandle& handle, const SoundFormat& format)
 
 } // namespace
 
+bool UserChoseSdl()
+{
+    const char* const driver = std::getenv("SDL_AUDIODRIVER"); // NOLINT(concurrency-mt-unsafe): nobody writes it
+    return driver && *driver != '\0';
+}
+
 MachineSound::MachineSound(std::chrono::milliseconds restRound) : server(restRound), device(restRound) {}
 
 ServerAnswer MachineSound::AskServer()
 {
-    const char* const driver = std::getenv("SDL_AUDIODRIVER"); // NOLINT(concurrency-mt-unsafe): nobody writes it
-    return driver && *driver != '\0' ? ServerAnswer::No : server.AskServer();
+    return UserChoseSdl() ? ServerAnswer::No : server.AskServer();
 }
 
 void MachineSound::CountAhead()

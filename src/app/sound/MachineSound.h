@@ -10,6 +10,9 @@
 
 namespace sprout {
 
+/// True where the variable SDL_AUDIODRIVER, with which a user chooses SDL's way to the device, is set.
+[[nodiscard]] bool UserChoseSdl();
+
 /// The machine's sound output: the sound server where there is one, SDL where there is none.
 ///
 /// A server is looked for with each question and each device that is opened, so that one that comes later is found. The

@@ -18,6 +18,7 @@
 #include "service/Machine.h"
 #include "service/PrivateFolders.h"
 #include "service/Services.h"
+#include "service/SoundCapture.h"
 #include "sound/WavOperations.h"
 
 namespace sprout {
@@ -143,6 +144,12 @@ void DeleteLeftMails()
     TheServices().privateFolders->DeleteLeftFolders(Shared().TempFolder);
 }
 
+/// What a child said stays on no machine where the program did not end as it should.
+void DeleteLeftRecordings()
+{
+    TheServices().capture->DeleteLeftFiles(Shared().TempFolder);
+}
+
 } // namespace
 
 std::int32_t SoundMemoryLimit(std::uint64_t totalBytes)
@@ -157,9 +164,10 @@ std::int32_t SoundMemoryLimit(std::uint64_t totalBytes)
 void RunStartUp()
 {
     // The new song comes before the user's folders are known, so its name is free in the current folder only.
-    constexpr Step steps[] = {FindTempFolder,      ProbeMachine,   SetInstallFolders, SetSoundFormat,  TestSupportFiles,
-                              MakeInstallFolders,  KeepTestTone,   NewSong,           KeepWaveColours, SetDemoImages,
-                              FindDocumentsFolder, SetUserFolders, FillUserFolders,   DeleteLeftMails};
+    constexpr Step steps[] = {FindTempFolder,   ProbeMachine,       SetInstallFolders,   SetSoundFormat,
+                              TestSupportFiles, MakeInstallFolders, KeepTestTone,        NewSong,
+                              KeepWaveColours,  SetDemoImages,      FindDocumentsFolder, SetUserFolders,
+                              FillUserFolders,  DeleteLeftMails,    DeleteLeftRecordings};
     for (const Step step : steps)
         GoOnAfter(step);
 }

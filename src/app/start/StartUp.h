@@ -10,7 +10,7 @@ namespace sprout {
 
 /// Finds the folders, writes the facts about the machine to the settings file, makes the test tone and the new song
 /// and, where the user's folders hold no file, fills them from the installed ones. Deletes the mailed songs that
-/// earlier runs left more than a day ago.
+/// earlier runs left more than a day ago, and the recordings that they left.
 ///
 /// A step that fails is given up and the next one runs. Missing support files, a missing documents folder and a failed
 /// copy are told in messages. Never throws.

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <utility>
 
 namespace sprout {
@@ -55,6 +57,16 @@ inline Lock TakeLock(int descriptor)
     if (Uninterrupted([&] { return ::flock(descriptor, LOCK_EX | LOCK_NB); }) == 0)
         return Lock::Taken;
     return errno == EWOULDBLOCK ? Lock::Held : Lock::Unknown;
+}
+
+/// True while `path` still names the open file. Who holds the lock alone may delete or move it, so that under the lock
+/// the answer stays true.
+inline bool Names(const std::filesystem::path& path, int descriptor)
+{
+    struct stat open {};
+    struct stat named {};
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
+           open.st_ino == named.st_ino;
 }
 
 } // namespace sprout

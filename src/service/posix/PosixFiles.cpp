@@ -63,16 +63,6 @@ private:
     bool moved = false;
 };
 
-/// True while `path` still names the open file. Who holds the lock alone may delete or move it, so that under the lock
-/// the answer stays true.
-bool Names(const fs::path& path, int descriptor)
-{
-    struct stat open {};
-    struct stat named {};
-    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
-           open.st_ino == named.st_ino;
-}
-
 void DeleteUnlessHeld(const fs::path& path)
 {
     const Descriptor file(

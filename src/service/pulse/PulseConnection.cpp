@@ -89,13 +89,18 @@ ServerAnswer PulseConnection::Connect(Lock& lock, Time deadline)
 std::int32_t PulseConnection::CountSinks(Lock& lock, Time deadline)
 {
     SinkCount sinks{*this};
-    pa_operation* const operation = Pulse().ContextGetSinkInfoList(context, CountSink, &sinks);
-    if (!operation)
-        return 0;
-    const bool isWhole = WaitFor(lock, deadline, [&] { return sinks.isWhole || !Stands(); }) && sinks.isWhole;
-    Pulse().OperationCancel(operation);
-    Pulse().OperationUnref(operation);
-    return isWhole ? sinks.count : 0;
+    pa_operation* const question = Pulse().ContextGetSinkInfoList(context, CountSink, &sinks);
+    return WaitForAnswer(lock, deadline, question, sinks.isWhole) ? sinks.count : 0;
+}
+
+bool PulseConnection::WaitForAnswer(Lock& lock, Time deadline, pa_operation* question, const bool& isWhole)
+{
+    if (!question)
+        return false;
+    const bool isAnswered = WaitFor(lock, deadline, [&] { return isWhole || !Stands(); });
+    Pulse().OperationCancel(question);
+    Pulse().OperationUnref(question);
+    return isAnswered && isWhole;
 }
 
 bool PulseConnection::StartLoop()

@@ -10,6 +10,7 @@
 struct pa_context;
 struct pa_mainloop;
 struct pa_mainloop_api;
+struct pa_operation;
 
 namespace sprout {
 
@@ -22,6 +23,12 @@ enum class ServerAnswer {
 
 /// No call waits longer for a server that does not answer: the window stands still meanwhile.
 inline constexpr std::chrono::milliseconds kServerPatience{800};
+
+/// Until when a call that begins now waits for the server.
+[[nodiscard]] inline std::chrono::steady_clock::time_point ServerDeadline()
+{
+    return std::chrono::steady_clock::now() + kServerPatience;
+}
 
 /// The connection to the sound server, PulseAudio or PipeWire, and the thread that reads what the server tells.
 ///
@@ -44,6 +51,8 @@ public:
     [[nodiscard]] ServerAnswer Connect(Lock& lock, Time deadline);
     /// Output devices of the server; 0 where it does not answer in time.
     [[nodiscard]] std::int32_t CountSinks(Lock& lock, Time deadline);
+    /// Whether there is a connection, as far as it is known.
+    [[nodiscard]] bool Stands() const;
     /// Of a connection that stands.
     [[nodiscard]] pa_context* Context() const { return context; }
     [[nodiscard]] pa_mainloop_api& Api() const;
@@ -54,10 +63,12 @@ public:
     {
         return changed.wait_until(lock, deadline, condition);
     }
+    /// Waits until the answer to `question`, which may be null, is whole, and lets it go: nothing of it comes later.
+    /// False if it did not come whole in time.
+    [[nodiscard]] bool WaitForAnswer(Lock& lock, Time deadline, pa_operation* question, const bool& isWhole);
     void Notify() { changed.notify_all(); }
 
 private:
-    [[nodiscard]] bool Stands() const;
     [[nodiscard]] bool StartLoop();
     void Disconnect();
     void RunLoop();

@@ -64,6 +64,25 @@ void FindStream(Finder& find, PulseLibrary& calls)
     find("pa_stream_get_timing_info", calls.StreamGetTimingInfo);
 }
 
+void FindSources(Finder& find, PulseLibrary& calls)
+{
+    find("pa_context_get_source_info_list", calls.ContextGetSourceInfoList);
+    find("pa_context_get_server_info", calls.ContextGetServerInfo);
+    find("pa_context_set_source_volume_by_index", calls.ContextSetSourceVolumeByIndex);
+    find("pa_context_set_source_mute_by_index", calls.ContextSetSourceMuteByIndex);
+    find("pa_context_set_subscribe_callback", calls.ContextSetSubscribeCallback);
+    find("pa_context_subscribe", calls.ContextSubscribe);
+}
+
+void FindRecording(Finder& find, PulseLibrary& calls)
+{
+    find("pa_stream_connect_record", calls.StreamConnectRecord);
+    find("pa_stream_set_read_callback", calls.StreamSetReadCallback);
+    find("pa_stream_peek", calls.StreamPeek)("pa_stream_drop", calls.StreamDrop);
+    find("pa_stream_is_suspended", calls.StreamIsSuspended);
+    find("pa_stream_get_device_name", calls.StreamGetDeviceName);
+}
+
 PulseLibrary LoadLibrary()
 {
     void* const library = dlopen(kLibraryFile, RTLD_LAZY | RTLD_LOCAL);
@@ -74,6 +93,8 @@ PulseLibrary LoadLibrary()
     FindLoop(find, calls);
     FindContext(find, calls);
     FindStream(find, calls);
+    FindSources(find, calls);
+    FindRecording(find, calls);
     return find.FoundAll() ? calls : PulseLibrary();
 }
 
@@ -83,6 +104,12 @@ const PulseLibrary& Pulse()
 {
     static const PulseLibrary library = LoadLibrary();
     return library;
+}
+
+void Forget(pa_operation* question)
+{
+    if (question)
+        Pulse().OperationUnref(question);
 }
 
 } // namespace sprout

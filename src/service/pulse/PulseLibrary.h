@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// libpulse's calls for playing. The library comes with the first question to it and not with the program: it brings
-/// twenty more, for which the first picture of the window need not wait.
+/// libpulse's calls for playing and recording. The library comes with the first question to it and not with the
+/// program: it brings twenty more, for which the first picture of the window need not wait.
 struct PulseLibrary {
     decltype(&pa_rtclock_now) RtClockNow = nullptr;
 
@@ -24,6 +24,12 @@ struct PulseLibrary {
     decltype(&pa_context_get_state) ContextGetState = nullptr;
     decltype(&pa_context_set_state_callback) ContextSetStateCallback = nullptr;
     decltype(&pa_context_get_sink_info_list) ContextGetSinkInfoList = nullptr;
+    decltype(&pa_context_get_source_info_list) ContextGetSourceInfoList = nullptr;
+    decltype(&pa_context_get_server_info) ContextGetServerInfo = nullptr;
+    decltype(&pa_context_set_source_volume_by_index) ContextSetSourceVolumeByIndex = nullptr;
+    decltype(&pa_context_set_source_mute_by_index) ContextSetSourceMuteByIndex = nullptr;
+    decltype(&pa_context_set_subscribe_callback) ContextSetSubscribeCallback = nullptr;
+    decltype(&pa_context_subscribe) ContextSubscribe = nullptr;
     decltype(&pa_context_rttime_new) ContextRtTimeNew = nullptr;
     decltype(&pa_context_rttime_restart) ContextRtTimeRestart = nullptr;
 
@@ -32,6 +38,7 @@ struct PulseLibrary {
 
     decltype(&pa_stream_new) StreamNew = nullptr;
     decltype(&pa_stream_connect_playback) StreamConnectPlayback = nullptr;
+    decltype(&pa_stream_connect_record) StreamConnectRecord = nullptr;
     decltype(&pa_stream_disconnect) StreamDisconnect = nullptr;
     decltype(&pa_stream_unref) StreamUnref = nullptr;
     decltype(&pa_stream_get_state) StreamGetState = nullptr;
@@ -47,11 +54,20 @@ struct PulseLibrary {
     decltype(&pa_stream_update_timing_info) StreamUpdateTimingInfo = nullptr;
     decltype(&pa_stream_get_timing_info) StreamGetTimingInfo = nullptr;
 
+    decltype(&pa_stream_set_read_callback) StreamSetReadCallback = nullptr;
+    decltype(&pa_stream_peek) StreamPeek = nullptr;
+    decltype(&pa_stream_drop) StreamDrop = nullptr;
+    decltype(&pa_stream_is_suspended) StreamIsSuspended = nullptr;
+    decltype(&pa_stream_get_device_name) StreamGetDeviceName = nullptr;
+
     /// Without the library no other call may be made.
     [[nodiscard]] bool IsThere() const { return RtClockNow != nullptr; }
 };
 
 /// The library, which is loaded once and stays. May be called from any thread.
 [[nodiscard]] const PulseLibrary& Pulse();
+
+/// Lets a question go on for whose answer nobody waits. May be null.
+void Forget(pa_operation* question);
 
 } // namespace sprout

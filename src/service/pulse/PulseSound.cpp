@@ -37,13 +37,6 @@ nanoseconds AgeOf(const timeval& time)
     return std::clamp<nanoseconds>(age, nanoseconds(0), std::chrono::seconds(1));
 }
 
-/// Gives up what libpulse tells of a command.
-void Forget(pa_operation* operation)
-{
-    if (operation)
-        Pulse().OperationUnref(operation);
-}
-
 } // namespace
 
 PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milliseconds round,

@@ -7,15 +7,6 @@
 
 namespace sprout {
 
-namespace {
-
-PulseConnection::Time Deadline()
-{
-    return std::chrono::steady_clock::now() + kServerPatience;
-}
-
-} // namespace
-
 PulseSoundOutput::PulseSoundOutput(std::chrono::milliseconds round, std::chrono::milliseconds tailBehindEnd)
     : restRound(round), tail(tailBehindEnd)
 {
@@ -24,12 +15,12 @@ PulseSoundOutput::PulseSoundOutput(std::chrono::milliseconds round, std::chrono:
 ServerAnswer PulseSoundOutput::AskServer()
 {
     PulseConnection::Lock lock(connection.Mutex());
-    return connection.Connect(lock, Deadline());
+    return connection.Connect(lock, ServerDeadline());
 }
 
 std::int32_t PulseSoundOutput::SoundDeviceCount()
 {
-    const auto deadline = Deadline();
+    const auto deadline = ServerDeadline();
     PulseConnection::Lock lock(connection.Mutex());
     return connection.Connect(lock, deadline) == ServerAnswer::Yes ? connection.CountSinks(lock, deadline) : 0;
 }
@@ -37,7 +28,7 @@ std::int32_t PulseSoundOutput::SoundDeviceCount()
 SoundHandle PulseSoundOutput::Service02(SoundHandle old, std::int32_t, const SoundFormat& format,
                                         std::int32_t bufferBytes)
 {
-    const auto deadline = Deadline();
+    const auto deadline = ServerDeadline();
     std::unique_ptr<PulseSound> sound(static_cast<PulseSound*>(old.release()));
     bool isAwake = sound && sound->IsAliveIn(format) && sound->Wake(deadline);
     // Twice: of a server that was started anew only the first failure tells that the connection to the old one is gone.

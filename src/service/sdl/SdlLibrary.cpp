@@ -3,6 +3,11 @@
 
 #include <dlfcn.h>
 
+#include <mutex>
+#include <string>
+
+#include "core/Shared.h"
+
 namespace sprout {
 
 namespace {
@@ -39,6 +44,22 @@ const SdlLibrary& Sdl()
 {
     static const SdlLibrary library = LoadLibrary();
     return library;
+}
+
+bool StartSdlAudio()
+{
+    static std::mutex mutex; // devices are counted in a thread of its own
+    const std::lock_guard lock(mutex);
+    if (!Sdl().IsThere())
+        return false;
+    // Ctrl-C goes on ending the program.
+    Sdl().SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    Sdl().SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, std::string(kProductName).c_str());
+    const bool starts = Sdl().InitSubSystem(SDL_INIT_AUDIO) == 0;
+    // Nobody fetches these: the state of the open device tells the same.
+    Sdl().EventState(SDL_AUDIODEVICEADDED, SDL_IGNORE);
+    Sdl().EventState(SDL_AUDIODEVICEREMOVED, SDL_IGNORE);
+    return starts;
 }
 
 } // namespace sprout

@@ -25,4 +25,8 @@ struct SdlLibrary {
 /// The library, which is loaded once and stays. May be called from any thread.
 [[nodiscard]] const SdlLibrary& Sdl();
 
+/// Starts SDL's audio once more; each start that succeeds wants a `QuitSubSystem` of its own. False where it does not
+/// start, or where there is no library.
+[[nodiscard]] bool StartSdlAudio();
+
 } // namespace sprout

@@ -3,10 +3,8 @@
 
 #include <algorithm>
 #include <memory>
-#include <string>
 #include <utility>
 
-#include "core/Shared.h"
 #include "service/sdl/SdlLibrary.h"
 #include "service/sdl/SdlSound.h"
 
@@ -59,15 +57,8 @@ SoundHandle SdlSoundOutput::Service02(SoundHandle old, std::int32_t, const Sound
 
 bool SdlSoundOutput::StartAudio()
 {
-    if (audioRuns || !Sdl().IsThere())
-        return audioRuns;
-    // Ctrl-C goes on ending the program.
-    Sdl().SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-    Sdl().SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, std::string(kProductName).c_str());
-    audioRuns = Sdl().InitSubSystem(SDL_INIT_AUDIO) == 0;
-    // Nobody fetches these: the state of the open device tells the same.
-    Sdl().EventState(SDL_AUDIODEVICEADDED, SDL_IGNORE);
-    Sdl().EventState(SDL_AUDIODEVICEREMOVED, SDL_IGNORE);
+    if (!audioRuns)
+        audioRuns = StartSdlAudio();
     return audioRuns;
 }
 

@@ -91,6 +91,7 @@ TEST_F(StartUp, CleansUpWhatEarlierRunsMailed)
 {
     RunStartUp();
     EXPECT_EQ(fake.privateFolders.cleaned, (std::vector<fs::path>{fake.machine.temp}));
+    EXPECT_EQ(fake.capture.cleaned, (std::vector<fs::path>{fake.machine.temp}));
 }
 
 TEST_F(StartUp, DropsTheSeparatorBehindTheDocumentsFolder)

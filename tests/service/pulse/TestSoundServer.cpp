@@ -119,13 +119,47 @@ void TestSoundServer::Thaw() const
 
 std::string TestSoundServer::Told(const std::vector<std::string>& question) const
 {
-    const std::string list = folder.Path() / "told";
+    const std::string list = folder.Path() / ("told" + std::to_string(++questions));
     const int out = open(list.c_str(), O_CREAT | O_TRUNC | O_WRONLY | O_CLOEXEC, 0600);
     const pid_t lister = sprout::Start(question, out);
     close(out);
     int status = 0;
     waitpid(lister, &status, 0);
     return status == 0 ? ReadBytes(list) : "no answer";
+}
+
+bool TestSoundServer::Does(std::vector<std::string> command) const
+{
+    command.insert(command.begin(), "pactl");
+    return Told(command) != "no answer";
+}
+
+bool TestSoundServer::AddMicrophone(const std::string& name)
+{
+    return Does({"load-module", "module-null-sink", "sink_name=" + name, "format=s16le", "rate=44100", "channels=2",
+                 "norewinds=1"}) &&
+           PutBack(name);
+}
+
+std::string TestSoundServer::Play(const std::string& sink, const std::string& file) const
+{
+    return Told({"pacat", "-p", "--raw", "--format=s16le", "--rate=44100", "--channels=2", "--latency-msec=100", "-d",
+                 sink, file});
+}
+
+bool TestSoundServer::PullOut(const std::string& name)
+{
+    return Does({"unload-module", microphones[name]});
+}
+
+bool TestSoundServer::PutBack(const std::string& name)
+{
+    std::string& number = microphones[name];
+    number = Told({"pactl", "load-module", "module-remap-source", "source_name=" + name + "-mic",
+                   "master=" + name + ".monitor", "source_properties=device.description=" + name + "-for-people"});
+    while (!number.empty() && number.back() == '\n')
+        number.pop_back();
+    return number != "no answer";
 }
 
 std::string TestSoundServer::Inputs() const

@@ -3,9 +3,11 @@
 
 #include <sys/types.h>
 
+#include <atomic>
 #include <condition_variable>
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <mutex>
 #include <string>
 #include <thread>
@@ -42,16 +44,28 @@ public:
     /// Whether something is there to be played that the device is not given.
     [[nodiscard]] bool HasStoppedInput() const;
 
+    /// Runs a program to its end; what it prints, or "no answer" if it fails. May be called from several threads.
+    [[nodiscard]] std::string Told(const std::vector<std::string>& question) const;
+    /// The same of pactl, of which nothing but success is expected.
+    [[nodiscard]] bool Does(std::vector<std::string> command) const;
+
+    /// Adds a microphone, which hears what is played on the sink NAME and is called NAME-mic. False if it fails.
+    [[nodiscard]] bool AddMicrophone(const std::string& name);
+    /// Plays the samples of a file, in the program's own format, on a sink until they are heard. "" if that succeeds.
+    [[nodiscard]] std::string Play(const std::string& sink, const std::string& file) const;
+    /// Takes a microphone away, or puts it back; its sink stays.
+    [[nodiscard]] bool PullOut(const std::string& name);
+    [[nodiscard]] bool PutBack(const std::string& name);
+
 private:
     [[nodiscard]] bool Listens() const;
-    /// What a program prints; "no answer" if it fails.
-    [[nodiscard]] std::string Told(const std::vector<std::string>& question) const;
-
     const SoundFormat format;
     const Rewinds deviceRewinds;
     TestFolder folder;
     const std::string socket = folder.Path() / "native";
     pid_t process = 0;
+    std::map<std::string, std::string> microphones; // the server's number of each
+    mutable std::atomic<int> questions = 0;
 };
 
 /// What a server's device plays from the making on.
