@@ -31,6 +31,8 @@
 #include "main_window/TransportCommands.h"
 #include "main_window/rules/WindowPlace.h"
 #include "recording/AudioEditFrm.h"
+#include "recording/Recd_Frm.h"
+#include "recording/Recd_Mod.h"
 #include "sharing/EmailSong.h"
 #include "sound/PlayMod.h"
 #include "ui/Artwork.h"
@@ -85,10 +87,14 @@ void ShowForLater(const char* button)
     ShowLaterCommand(button);
 }
 
-std::optional<WaveData> RecordLater()
+std::optional<WaveData> RecordSound()
 {
-    ShowLaterCommand("TrackAddRecBtn");
-    return std::nullopt;
+    Recd_Frm recorder(WindowInFront());
+    recorder.InitilizeForm();
+    if (!recorder.InitilizeDriver())
+        return std::nullopt;
+    recorder.CaptureStartRemote();
+    return recorder.Ok ? std::optional(TakeRecordedWave()) : std::nullopt;
 }
 
 bool EditTrack(std::int32_t track)
@@ -224,7 +230,7 @@ void MainFrm::MakeCanvas()
     calls.TrackAddRecBtn = [this] { audioTrackCommands->TrackAddRecBtn(); };
     canvas = new TrackCanvas(this, buttons, std::move(calls));
     trackCommands = new TrackCommands(*canvas, this);
-    audioTrackCommands = std::make_unique<AudioTrackCommands>(*canvas, AudioWindows{RecordLater, EditTrack});
+    audioTrackCommands = std::make_unique<AudioTrackCommands>(*canvas, AudioWindows{RecordSound, EditTrack});
     transport.SetWindow(*canvas, statusBar->SoundStatusLbl());
 }
 

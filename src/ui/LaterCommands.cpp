@@ -18,8 +18,6 @@ struct LaterCommand {
 
 constexpr std::array kLaterCommands{
     LaterCommand{"DemoBtn", "There is no demo to watch yet.", "Click the Help button to read how to make a song."},
-    LaterCommand{"TrackAddRecBtn", "This program cannot record your voice yet.",
-                 "Add a music track and choose a tune for it."},
 };
 
 } // namespace

@@ -79,10 +79,34 @@ class SoundServer:
                                 text=True, check=True)
         return not inputs.stdout.strip()
 
+    def plug_in_microphone(self, name="voice"):
+        """A microphone that hears what is played into it."""
+        return Microphone(self, name)
+
     def record(self):
         """Starts a recording and gives it once something arrives."""
         self.recordings += 1
         return Recording(self, os.path.join(self.folder, f"recording{self.recordings}.raw"))
+
+
+class Microphone:
+    """A source of the server's that hears what is played into a device of its own."""
+
+    def __init__(self, server, name):
+        self.server, self.sink = server, name + "-in"
+        self.load("module-null-sink", f"sink_name={self.sink}", f"rate={RATE}", "channels=2", "format=s16le",
+                  "norewinds=1")
+        self.load("module-remap-source", f"master={self.sink}.monitor", f"source_name={name}",
+                  f"source_properties=device.description={name}")
+
+    def load(self, *words):
+        subprocess.run(["pactl", "load-module", *words], env=self.server.environment, stdout=subprocess.DEVNULL,
+                       check=True)
+
+    def hear(self, frames):
+        """Plays frames, as bytes, into the microphone, and returns when they were heard."""
+        subprocess.run(["pacat", "--playback", "--raw", "--format=s16le", f"--rate={RATE}", "--channels=2",
+                        "-d", self.sink], env=self.server.environment, input=frames, stderr=self.server.log, check=True)
 
 
 class Recording:

@@ -66,7 +66,7 @@ TEST_F(HelpFrmTest, OpensAtItsFirstPage)
 TEST_F(HelpFrmTest, EveryPageOfTheListIsThere)
 {
     HelpFrm& help = Open();
-    ASSERT_EQ(Pages(help).count(), 7);
+    ASSERT_EQ(Pages(help).count(), 9);
     for (int row = 0; row < Pages(help).count(); ++row) {
         ClickPage(help, row);
         EXPECT_EQ(Shown(help), Pages(help).item(row)->text());

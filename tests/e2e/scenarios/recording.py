@@ -1,0 +1,92 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+import os
+import struct
+
+from processes import expect, wait_for
+from songs import SongFile
+from sound import RATE, find_frames
+from scenarios import scenario
+from scenarios.steps import cell_place, close, expect_recording_of, play, save_song, ROW_MIDDLE
+
+SECONDS = 1.5
+
+
+
+def ramp(seconds=SECONDS):
+    """Frames of which no two in a row are alike: the frame's number, from 1, over both channels."""
+    frames = bytearray()
+    for number in range(1, int(seconds * RATE) + 1):
+        frames += struct.pack("<hh", number % 181 - 90, (number // 181) % 20000 + 1)
+    return bytes(frames)
+
+
+def record(desk, program, microphone, frames):
+    program.click("TrackAddRecBtn")
+    program.click("StartRecordingBtn", form="Msg3BtnFrm")
+    program.wait_for("Rec_Stat_Lbl", "Now Recording", form="Recd_Frm")
+    microphone.hear(frames)
+    program.click("RecFinishBtn", form="Recd_Frm")
+    program.wait_until_gone("Recd_Frm")
+
+
+def track_frames(desk, song, track):
+    """The sound of an audio track that is painted over its whole length."""
+    return desk.render(song, "--track", track)
+
+
+@scenario()
+def RecordEditAndPlay(desk):
+    """A child's voice becomes a track, sample for sample; edited and painted it is heard as it is saved."""
+    microphone = desk.sound.plug_in_microphone()
+    program = desk.start()
+    program.click("NewBtn")
+    program.wait_for("SngTitleLbl", "Untitled")
+    wanted = ramp()
+    record(desk, program, microphone, wanted)
+    canvas = program.wait_for("TrackPic")
+    program.click("BrushBtn")
+    desk.mouse.drag([cell_place(canvas, 2, cell) for cell in range(1, 140)])
+    save_song(program, "Voice")
+    told = desk.info(desk.song("Voice"))["song"]["tracks"]
+    expect(len(told) == 2 and told[1]["audio"], f"there is no audio track: {told}")
+    expect(SongFile(desk.song("Voice")).painted(2)[:139] == list(range(1, 140)), "the track is painted otherwise")
+    heard = track_frames(desk, desk.song("Voice"), 2)
+    place = find_frames(heard, wanted)
+    expect(place >= 0, "what was played into the microphone is not on the track")
+
+    # Louder, everything: twice as loud as it was less a little.
+    strip = program.wait_for("TrackTitlePic")
+    desk.mouse.move(strip.at(40, 46 + ROW_MIDDLE))
+    program.click("TrackAudioBtn")
+    wave = program.wait_for("WavePic", form="AudioEditFrm")
+    desk.mouse.drag([wave.at(x, wave.height // 2) for x in range(1, wave.width, max(1, wave.width // 40))]
+                    + [wave.at(wave.width - 1, wave.height // 2)])
+    program.click("VolumeUpBtn", form="AudioEditFrm")
+    program.click("OkBtn", form="AudioEditFrm")
+    program.wait_until_gone("AudioEditFrm")
+    save_song(program)
+    louder = track_frames(desk, desk.song("Voice"), 2)
+    loudest = max(memoryview(louder).cast("h"))
+    expect(loudest == round(1.25 * max(memoryview(heard).cast("h"))), f"the loudest sample is {loudest} now")
+
+    recording = play(desk, program)
+    wait_for("the sound", recording.sounds)
+    expect_recording_of(desk, program, recording, desk.song("Voice"))
+    left = [name for name in os.listdir(desk.temp) if name.startswith("Tqk")]
+    expect(not left, f"a child's voice was left in the temporary folder: {left}")
+    close(program)
+
+
+@scenario()
+def RecordWithoutMicrophone(desk):
+    """Where no microphone is, the child is told, and the computer's own sound is never recorded."""
+    program = desk.start()
+    program.click("TrackAddRecBtn")
+    program.click("StartRecordingBtn", form="Msg3BtnFrm")
+    program.wait_for("NoteLbl1", "Failed to create DirectX Sound Capture Buffer.")
+    expect(program.text_of("NoteLbl2") == "Please plug in a microphone.", "what can be done is not told")
+    program.click("OkBtn", form="Msg1Btn2NoteFrm")
+    program.wait_until_gone("Msg1Btn2NoteFrm")
+    expect(not program.find("Rec_Stat_Lbl"), "the recording window opened")
+    program.click("CloseImgBtn")
+    expect(program.wait_for_end() == 0, "the program did not end well")
