@@ -294,6 +294,7 @@ TEST_F(RecdFrmTest, StaysOpenWhereTheRecordingCannotBeReadAndLeavesNoVoiceBehind
     public:
         void Stop() override
         {
+            isKeeping = false; // from here on the files are the window's
             std::filesystem::remove(files.first);
             std::filesystem::create_symlink("/proc/self/mem", files.first);
         }

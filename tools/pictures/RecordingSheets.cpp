@@ -38,7 +38,7 @@ public:
 };
 
 struct DrawnState {
-    const char* name;
+    const char* name = "";
     CaptureStatus status;
     CapturePeaks peaks;
     std::optional<SoundSources> sources;
