@@ -52,8 +52,9 @@ void DeleteIfLeft(const fs::path& path)
 CaptureFiles::OneFile CaptureFiles::MakeFile(const fs::path& path)
 {
     for (int tries = 0; tries < kTries; ++tries) {
-        Descriptor file(Uninterrupted(
-            [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kCaptureFileMode); }));
+        Descriptor file(Uninterrupted([&] {
+            return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kCaptureFileMode);
+        }));
         if (file.Number() < 0)
             break;
         if (TakeLock(file.Number()) != Lock::Held && Names(path, file.Number()))

@@ -140,11 +140,7 @@ void PulseCapture::SelectSource(std::int32_t index)
     if (!wanted)
         return;
     const std::string name = wanted->Name;
-    if (!stream || stream->State() == SourceState::Gone) {
-        chosen = name;
-        return;
-    }
-    if (stream->Source() == name) {
+    if (!stream || stream->State() == SourceState::Gone || stream->Source() == name) {
         chosen = name;
         return;
     }

@@ -10,10 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <chrono>
-#include <csignal>
 #include <string>
-#include <thread>
 
 #include "service/posix/CaptureWriter.h"
 #include "support/TestFolder.h"
@@ -266,24 +263,20 @@ TEST_F(CaptureWriterTest, ADiskThatTakesNoMoreEndsItWithWholeFrames)
     EXPECT_GT(fs::file_size(left), 0U);
 }
 
-TEST_F(CaptureWriterTest, ADiskWithLessThanTheLeastSpaceEndsIt)
+TEST_F(CaptureFilesTest, ADiskWithLessThanTheLeastSpaceEndsIt)
 {
     if (::mount("tmpfs", folder.Path().c_str(), "tmpfs", 0, "size=70m") != 0)
         GTEST_SKIP() << "No small disk can be made here.";
-    {
-        const auto files = Make();
-        EXPECT_TRUE(files);
-        if (files) {
-            CaptureWriter writer(*files);
-            for (int i = 0; i < 300 && writer.End() == CaptureEnd::None; ++i)
-                static_cast<void>(writer.Put(Ramp(10000)));
-            writer.Finish();
-            EXPECT_EQ(writer.End(), CaptureEnd::DiskFull);
-            EXPECT_GT(files->Frames(), 1000000);
-            EXPECT_LT(files->Frames(), 2500000);
-        }
-    }
-    ::umount(folder.Path().c_str());
+    const auto files = Make();
+    EXPECT_TRUE(files);
+    CaptureEnd end = CaptureEnd::None;
+    for (int i = 0; files && i < 300 && end == CaptureEnd::None; ++i)
+        end = files->Write(Ramp(10000));
+    ::umount2(folder.Path().c_str(), MNT_DETACH); // the files are still open
+    ASSERT_TRUE(files);
+    EXPECT_EQ(end, CaptureEnd::DiskFull);
+    EXPECT_GT(files->Frames(), 1000000);
+    EXPECT_LT(files->Frames(), 2500000);
 }
 
 } // namespace
