@@ -6,9 +6,10 @@ from processes import expect, wait_for
 from songs import SongFile
 from sound import RATE, find_frames
 from scenarios import scenario
-from scenarios.steps import cell_place, close, expect_recording_of, play, save_song, ROW_MIDDLE
+from scenarios.steps import cell_place, close, expect_recording_of, play, save_song, stop, ROW_HEIGHT, ROW_MIDDLE
 
 SECONDS = 1.5
+AUDIO_TRACK = 3  # behind the two of a new song
 
 
 
@@ -45,18 +46,18 @@ def RecordEditAndPlay(desk):
     record(desk, program, microphone, wanted)
     canvas = program.wait_for("TrackPic")
     program.click("BrushBtn")
-    desk.mouse.drag([cell_place(canvas, 2, cell) for cell in range(1, 140)])
+    desk.mouse.drag([cell_place(canvas, AUDIO_TRACK, cell) for cell in range(1, 140)])
     save_song(program, "Voice")
     told = desk.info(desk.song("Voice"))["song"]["tracks"]
-    expect(len(told) == 2 and told[1]["audio"], f"there is no audio track: {told}")
-    expect(SongFile(desk.song("Voice")).painted(2)[:139] == list(range(1, 140)), "the track is painted otherwise")
-    heard = track_frames(desk, desk.song("Voice"), 2)
+    expect(len(told) == AUDIO_TRACK and told[-1]["audio"], "there is no audio track")
+    expect(SongFile(desk.song("Voice")).painted(AUDIO_TRACK)[:139] == list(range(1, 140)), "the track is painted otherwise")
+    heard = track_frames(desk, desk.song("Voice"), AUDIO_TRACK)
     place = find_frames(heard, wanted)
     expect(place >= 0, "what was played into the microphone is not on the track")
 
-    # Louder, everything: twice as loud as it was less a little.
+    # Everything louder, by a quarter.
     strip = program.wait_for("TrackTitlePic")
-    desk.mouse.move(strip.at(40, 46 + ROW_MIDDLE))
+    desk.mouse.move(strip.at(40, (AUDIO_TRACK - 1) * ROW_HEIGHT + ROW_MIDDLE))
     program.click("TrackAudioBtn")
     wave = program.wait_for("WavePic", form="AudioEditFrm")
     desk.mouse.drag([wave.at(x, wave.height // 2) for x in range(1, wave.width, max(1, wave.width // 40))]
@@ -65,10 +66,11 @@ def RecordEditAndPlay(desk):
     program.click("OkBtn", form="AudioEditFrm")
     program.wait_until_gone("AudioEditFrm")
     save_song(program)
-    louder = track_frames(desk, desk.song("Voice"), 2)
+    louder = track_frames(desk, desk.song("Voice"), AUDIO_TRACK)
     loudest = max(memoryview(louder).cast("h"))
     expect(loudest == round(1.25 * max(memoryview(heard).cast("h"))), f"the loudest sample is {loudest} now")
 
+    stop(desk, program)  # the editor let its sound be heard
     recording = play(desk, program)
     wait_for("the sound", recording.sounds)
     expect_recording_of(desk, program, recording, desk.song("Voice"))
