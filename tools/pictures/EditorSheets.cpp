@@ -40,7 +40,7 @@ WaveData SungSound()
     return wave;
 }
 
-void SavePicture(QWidget& window, const QString& folder, const QString& name)
+void SaveEditorPicture(QWidget& window, const QString& folder, const QString& name)
 {
     window.show();
     QApplication::processEvents();
@@ -61,12 +61,12 @@ void DrawEditor(const QString& folder, QSize room, const QString& name)
     AudioEditFrm form(nullptr);
     form.FitTo(room);
     form.UpdateFormWithCurrentTrack(1);
-    SavePicture(form, folder, name);
+    SaveEditorPicture(form, folder, name);
     PressKeys(form, Qt::NoModifier, kKeysToStart);
-    SavePicture(form, folder, name + QStringLiteral("-place"));
+    SaveEditorPicture(form, folder, name + QStringLiteral("-place"));
     PressKeys(form, Qt::ShiftModifier, kKeysToEnd);
     form.findChild<QWidget*>(QStringLiteral("HScroll"))->setFocus();
-    SavePicture(form, folder, name + QStringLiteral("-part"));
+    SaveEditorPicture(form, folder, name + QStringLiteral("-part"));
 }
 
 } // namespace
