@@ -128,6 +128,12 @@ AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent)
     OpenEditor() = this;
 }
 
+AudioEditFrm::~AudioEditFrm()
+{
+    // A window that is still shown is hidden last, and its picture then tells that the focus is gone.
+    wavePic->disconnect(this);
+}
+
 void AudioEditFrm::MakePicture()
 {
     wavePic = new WavePic(this);

@@ -23,6 +23,9 @@ class AudioEditFrm : public BandedForm {
 
 public:
     explicit AudioEditFrm(QWidget* parent);
+    AudioEditFrm(const AudioEditFrm&) = delete;
+    AudioEditFrm& operator=(const AudioEditFrm&) = delete;
+    ~AudioEditFrm() override;
 
     /// Loads the sound of a track, the empty wave where it has none, and shows the whole of it. No sample is copied.
     void UpdateFormWithCurrentTrack(std::int32_t track);
