@@ -52,7 +52,8 @@ CaptureOpening SdlCapture::OpenDevice()
 void SdlCapture::Close()
 {
     if (device != 0)
-        Sdl().CloseAudioDevice(std::exchange(device, 0));
+        Sdl().CloseAudioDevice(device); // its thread, which looks at the number, has ended then
+    device = 0;
     if (std::exchange(audioRuns, false))
         Sdl().QuitSubSystem(SDL_INIT_AUDIO);
 }
