@@ -55,7 +55,7 @@ private:
     class File : public WmaFile {
     public:
         File(FakeWmaEncoder& fake, Replacement& file) : encoder(fake), target(file) {}
-        void SetTags(const WmaTags& tags) override { encoder.tags.push_back(tags); }
+        void SetTags(const WmaTags& given) override { encoder.tags.push_back(given); }
         [[nodiscard]] bool Write(std::span<const std::byte> samples) override
         {
             encoder.writes.push_back(samples.size());
