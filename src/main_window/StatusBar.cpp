@@ -23,7 +23,7 @@ constexpr int kTwoLinesFontPx = 12;
 constexpr int kTwoLinesApart = 15;
 constexpr int kFrameCorner = 9;
 constexpr const char* kDeviceFailed = "Device Failed:";
-constexpr QColor kToldRed{0xFF, 0x00, 0x00};
+constexpr QColor kFailureRed{0xFF, 0x00, 0x00};
 
 /// Where the first of two lines ends: behind the last word that fits.
 qsizetype FirstLineLength(const QString& text, const QFont& font, int width)
@@ -76,7 +76,7 @@ void SoundLabel::paintEvent(QPaintEvent* /*event*/)
     shownFont.setBold(failed);
     QPainter painter(this);
     painter.setFont(shownFont);
-    painter.setPen(failed ? kToldRed : palette().color(QPalette::WindowText));
+    painter.setPen(failed ? kFailureRed : palette().color(QPalette::WindowText));
     painter.drawText(rect(), static_cast<int>(alignment()),
                      painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }

@@ -137,7 +137,7 @@ void TunFramPic::PaintLamp(QPainter& painter, std::int32_t step) const
 {
     const int x = StepLeft(step, stepsLeft);
     painter.drawPixmap(x, kLampTop, Art(At(columns, step).on ? "StpOnPic" : "StpOffPic", kLampWidth, kLampHeight));
-    // The line of the font has room above its figures, which are to begin at the told place.
+    // The line of the font has room above its figures, which begin at the place itself.
     const int baseline = kNumberTop + kNumberInset + painter.fontMetrics().capHeight();
     painter.setPen(kBark);
     painter.drawText(x, baseline, QString::number(step));

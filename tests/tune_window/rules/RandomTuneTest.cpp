@@ -27,7 +27,7 @@ public:
     float operator()()
     {
         if (used == numbers.size()) {
-            ADD_FAILURE() << "more numbers are drawn than the rule asks for";
+            ADD_FAILURE() << "more numbers are drawn than are needed";
             return 0;
         }
         return static_cast<float>(numbers[used++]);
