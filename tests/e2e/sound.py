@@ -1,9 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """A real sound server with one device, and what is recorded of it."""
+import fcntl
 import os
 import signal
 import struct
 import subprocess
+import threading
+import time
 
 from processes import Failure, expect, wait_for
 
@@ -13,6 +16,7 @@ FRAME_BYTES = 4
 TAIL_FRAMES = RATE // 20
 # Frames that a recording is searched for to find where a sound begins in it.
 SEARCHED_FRAMES = 512
+SILENCE = "silence"
 
 
 def write_wave(path, data):
@@ -34,12 +38,36 @@ def read_wave(path):
     return data
 
 
+class Loudspeaker:
+    """Takes what a device writes into a pipe, at the pace of its rate.
+
+    Its clock stands still while the machine does. A device that goes by the time of day wants at once, after a pause of
+    the whole machine, what no player could hand over meanwhile, and the hole in the sound is not the player's.
+    """
+    FRAMES = RATE // 100
+
+    def __init__(self, path):
+        self.pipe = os.open(path, os.O_RDONLY)
+        # The smallest pipe there is: the device is never far ahead of what was taken.
+        fcntl.fcntl(self.pipe, fcntl.F_SETPIPE_SZ, 4096)
+        threading.Thread(target=self.take, daemon=True).start()
+
+    def take(self):
+        due = time.monotonic()
+        while taken := os.read(self.pipe, self.FRAMES * FRAME_BYTES):
+            now = time.monotonic()
+            due = max(due + len(taken) / FRAME_BYTES / RATE, now)
+            time.sleep(due - now)
+        os.close(self.pipe)
+
+
 class SoundServer:
     """A server of the test's own in a folder. Its environment is what its clients need."""
 
     def __init__(self, folder, processes):
         self.processes = processes
         self.socket = os.path.join(folder, "native")
+        self.pipe = os.path.join(folder, "device")
         self.folder = folder
         home = os.path.join(folder, "home")
         run = os.path.join(folder, "run")
@@ -57,10 +85,16 @@ class SoundServer:
 
     def start(self):
         environment = {name: value for name, value in self.environment.items() if name != "PULSE_SERVER"}
-        # Without norewinds the beginning of a sound is lost.
-        self.process = self.processes.start([STARTER, self.socket, "s16le", str(RATE), "2", "norewinds=1"],
+        self.process = self.processes.start([STARTER, self.socket, "s16le", str(RATE), "2", "file=" + self.pipe],
                                             env=environment, stderr=self.log)
         wait_for("the sound server", self.answers)
+        if os.path.exists(self.pipe):  # not with PipeWire
+            Loudspeaker(self.pipe)
+            # It stays the one that programs play to, also when a microphone brings a device of its own.
+            subprocess.run(["pactl", "set-default-sink", "out"], env=self.environment, check=True)
+            # A device of this kind takes nothing, and nothing can be recorded of it, unless something plays.
+            self.processes.start(["pacat", "--raw", "-d", "out", "--client-name=" + SILENCE, "/dev/zero"],
+                                 env=self.environment, stderr=self.log)
 
     def answers(self):
         if self.process.poll() is not None:
@@ -75,9 +109,9 @@ class SoundServer:
 
     def plays_nothing(self):
         """Whether no program has the device open, be it for silence."""
-        inputs = subprocess.run(["pactl", "list", "short", "sink-inputs"], env=self.environment, capture_output=True,
+        inputs = subprocess.run(["pactl", "list", "sink-inputs"], env=self.environment, capture_output=True,
                                 text=True, check=True)
-        return not inputs.stdout.strip()
+        return inputs.stdout.count("Sink Input #") == inputs.stdout.count(f'application.name = "{SILENCE}"')
 
     def plug_in_microphone(self, name="voice"):
         """A microphone that hears what is played into it."""

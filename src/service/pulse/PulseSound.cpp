@@ -22,6 +22,9 @@ constexpr milliseconds kQueued{500};
 constexpr milliseconds kGivenAtATime{10};
 /// The way of a change to the server, beside what the device was given already.
 constexpr milliseconds kWayOfAChange{10};
+/// For how long a sound is taken to go on as the server last told where its end is concerned: the device may have stood
+/// still since.
+constexpr milliseconds kTrustedAtEnd{50};
 constexpr int kRoundsBeforeRest = 3;
 
 PulseConnection::Time Now()
@@ -160,6 +163,8 @@ void PulseSound::EndTail()
 void PulseSound::OnRound()
 {
     Follow();
+    if (!stream)
+        return;
     silentRounds = std::exchange(used, false) || playing ? 0 : silentRounds + 1;
     if (silentRounds == kRoundsBeforeRest)
         return Close();
@@ -258,10 +263,17 @@ void PulseSound::Follow()
 {
     if (!playing || !heard)
         return;
-    const std::int64_t now = heard->place + Bytes(Now() - heard->time);
-    place = std::max(place, std::min({now, queue.Filled(), queue.End()}));
-    if (queue.EndsBy(place))
+    const nanoseconds age = Now() - heard->time;
+    const std::int64_t now = std::min({heard->place + Bytes(age), queue.Filled(), queue.End()});
+    place = std::max(place, now);
+    if (!queue.EndsBy(place))
+        return;
+    constexpr Answer kTold = &PulseSound::Follow;
+    if (queue.EndsBy(age <= kTrustedAtEnd ? now : heard->place))
         End();
+    else if (age > kTrustedAtEnd && std::ranges::find(questions, kTold, &Question::answer) == questions.end() &&
+             !AskWhere(kTold))
+        playing = false;
 }
 
 void PulseSound::Write(std::size_t bytes, std::int64_t seek)

@@ -93,6 +93,7 @@ private:
     [[nodiscard]] std::int64_t FirstPlaceNotGiven() const;
     void Stop();
     void End();
+    /// Brings the place up to now, and ends the sound once its end was heard.
     void Follow();
     [[nodiscard]] std::int64_t Bytes(std::chrono::nanoseconds time) const;
 

@@ -693,6 +693,24 @@ TEST_F(PulseServerTest, OneThatStandsStillWhileItPlaysHoldsNobodyUpAndGoesOn)
     EXPECT_TRUE(Ends(sound));
 }
 
+TEST_F(PulseServerTest, ASoundIsHeardToItsEndThoughTheDeviceStoodStill)
+{
+    ASSERT_TRUE(server.Start());
+    const Bytes brief = Samples(format, format.Rate * 3 / 10); // all of it is queued
+    TestRecording recording(server);
+    SoundHandle sound = Opened(output, format, brief);
+    ASSERT_TRUE(sound);
+    sound->Service04(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
+    server.Freeze();
+    const auto frozen = Clock::now();
+    EXPECT_TRUE(Comes([&] { return !sound->Service07().Playing || Clock::now() - frozen > milliseconds(600); }));
+    EXPECT_TRUE(sound->Service07().Playing);
+    server.Thaw();
+    EXPECT_TRUE(Ends(sound));
+    EXPECT_TRUE(recording.Holds(brief));
+}
+
 TEST_F(PulseServerTest, OutputsCanGoWhileTheServerStandsStill)
 {
     ASSERT_TRUE(server.Start());
