@@ -37,6 +37,8 @@ bool OpenTuneWindow(Tune& tune, bool& newFlag)
     ExpandTuneBeats(shared.Song, shared.CurrentTune);
     bool changed = CompleteTune(shared.CurrentTune);
     TuneFrm2& window = OpenedTuneFrm2();
+    window.OriginalTuneName = tune.Name;
+    window.ChosenTuneName = tune.Name;
     window.NewTuneMode = newFlag;
     if (shared.TuneTableCount < 1)
         LoadTuneFiles();

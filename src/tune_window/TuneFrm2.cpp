@@ -172,8 +172,10 @@ void TuneFrm2::Open()
     FitTo(screen()->availableGeometry().size());
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
+    showsEditorsTune = true;
     editor->UpdateThisTune(); // no tune of the table may take its place
     Guarded([this] { FindChosenTune(); });
+    ShowAllPic->BringIntoView(SelectedTune);
     ShowAllPic->setFocus();
     ShowModal();
     editor->HidePlayMarks();
@@ -193,6 +195,8 @@ void TuneFrm2::TakeTuneTable()
 void TuneFrm2::FindChosenTune()
 {
     SelectedTune = FindInTuneTable(ChosenTuneName);
+    if (SelectedTune == 0 && !ChosenTuneName.empty())
+        SelectedTune = kNothingChosen;
     RefreshShowAllPic();
 }
 
@@ -201,19 +205,20 @@ void TuneFrm2::RefreshShowAllPic()
     const bool isNewTune = NewTuneMode;
     NewTuneMode = false;
     if (isNewTune)
-        SelectedTune = -1;
+        SelectedTune = kNothingChosen;
     if (Shared().TuneTableCount < 1)
         return ShowNoTunes();
     if (SelectedTune == 0)
         ChooseFirstTune();
     ShowAllPic->SetSelected(SelectedTune);
     ShowAllPic->RefreshShowAllPic();
-    HasSelectedTune() ? ShowSelectedTune() : ShowNothingSelected();
+    ShowsEditorsTune() ? ShowEditorsTune() : ShowSelectedTune();
 }
 
 void TuneFrm2::ChooseFirstTune()
 {
     SelectedTune = 1;
+    showsEditorsTune = false;
     ChosenTune = At(Shared().TuneTable, SelectedTune);
     Shared().TuneInfoDefault.CreatedBy = ChosenTune.CreatedBy;
     Shared().TuneInfoDefault.Name = "Lumo";
@@ -237,9 +242,10 @@ void TuneFrm2::ShowSelectedTune()
     ShowTune(tune.Name, "By: " + tune.CreatedBy, tune.Picture);
 }
 
-void TuneFrm2::ShowNothingSelected()
+void TuneFrm2::ShowEditorsTune()
 {
-    ShowTune("New", "Me", {});
+    const Tune& tune = Shared().CurrentTune;
+    ShowTune(tune.Name, tune.CreatedBy, tune.Picture);
 }
 
 void TuneFrm2::ShowNames(const std::string& name, const std::string& author)
@@ -257,15 +263,17 @@ void TuneFrm2::ShowTune(const std::string& name, const std::string& author, cons
 
 void TuneFrm2::UpdateThisTune()
 {
-    const Tune& tune = Shared().CurrentTune;
-    ShowTune(tune.Name, tune.CreatedBy, tune.Picture);
+    ShowEditorsTune();
     editor->UpdateThisTune();
 }
 
 void TuneFrm2::ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at)
 {
+    if (index == SelectedTune && showsEditorsTune && button == Qt::LeftButton)
+        return TestPlayBtn();
     if (IsInTuneTable(index)) {
         SelectedTune = index;
+        showsEditorsTune = false;
         ChosenTune = At(Shared().TuneTable, index);
     }
     RefreshShowAllPic();

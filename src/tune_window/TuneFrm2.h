@@ -40,7 +40,8 @@ public:
     /// Sizes the window for a screen with this much room.
     void FitTo(QSize room);
 
-    /// Selects the tune of the name `ChosenTuneName`, or none, and draws the grid.
+    /// Selects the tune of the name `ChosenTuneName` and draws the grid. A name that no tune of the grid has selects
+    /// nothing; without a name the first tune is chosen and plays.
     void FindChosenTune();
 
     /// Draws the grid. Where nothing was chosen yet, the first tune is chosen and plays.
@@ -61,6 +62,7 @@ protected:
 
 private:
     using Command = void (TuneFrm2::*)();
+    static constexpr std::int32_t kNothingChosen = -1;
     static constexpr int kDeleteItem = 4; ///< in `MoveMnu`, behind the moves
     struct CommandRow;
 
@@ -76,10 +78,11 @@ private:
     void PlaySelectedTune();
     void ShowNoTunes();
     void ShowSelectedTune();
-    void ShowNothingSelected();
+    void ShowEditorsTune();
     void ShowNames(const std::string& name, const std::string& author);
     void ShowTune(const std::string& name, const std::string& author, const Picture& picture);
     [[nodiscard]] bool HasSelectedTune() const { return IsInTuneTable(SelectedTune); }
+    [[nodiscard]] bool ShowsEditorsTune() const { return showsEditorsTune || SelectedTune == kNothingChosen; }
 
     void OpenMoveMnu(QPoint at);
     void MoveTune(TuneMove move);
@@ -104,6 +107,8 @@ private:
 
     Tune ChosenTune;               ///< copy of the chosen entry of `TuneTable`, whole once it was played
     std::int32_t SelectedTune = 0; ///< into `TuneTable`; below 1 nothing is chosen
+    /// From the opening until a picture of the grid is chosen: what is shown and heard is the editor's tune.
+    bool showsEditorsTune = false;
 
     PictureGridPic* ShowAllPic = nullptr;
     TunePicture* TunePic = nullptr;

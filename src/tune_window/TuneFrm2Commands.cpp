@@ -69,7 +69,7 @@ void TuneFrm2::DeleteTune()
         DeleteTuneFiles(tune.Name);
         SaveTuneOrder();
         ReadTunesAgain();
-        SelectedTune = 0;
+        SelectedTune = kNothingChosen; // the editor keeps its tune
         RefreshShowAllPic();
     }
     ShowHint({});
@@ -84,6 +84,8 @@ void TuneFrm2::ReadTunesAgain()
 
 void TuneFrm2::TunePicClick()
 {
+    if (showsEditorsTune)
+        return TestPlayBtn();
     if (HasSelectedTune())
         return PlaySelectedTune();
     ShowHint(QStringLiteral("Click on a picture to select a tune"));
@@ -114,7 +116,7 @@ void TuneFrm2::RndTuneBtn()
     Player().StopPlay();
     editor->HidePlayMarks();
     const RandomSequence next = RandomSequence::FromClock();
-    SelectedTune = -1;
+    SelectedTune = kNothingChosen;
     RefreshShowAllPic();
     MakeRandomTune(Shared().CurrentTune, next);
     TuneChanged = true;

@@ -141,6 +141,12 @@ void PictureGridPic::SetTopRow(int row)
     update();
 }
 
+void PictureGridPic::BringIntoView(int index)
+{
+    if (index >= 1 && index <= Count())
+        vScroll1->setValue(TopRowShowing(Grid(), index));
+}
+
 void PictureGridPic::SetLines(const QStringList& newLines)
 {
     lines = newLines;
@@ -327,7 +333,7 @@ void PictureGridPic::StepTo(GridStep step)
     const int index = NeighbourInGrid(Grid(), HasChoice() ? selected : 0, step);
     if (index == 0)
         return;
-    vScroll1->setValue(TopRowShowing(Grid(), index));
+    BringIntoView(index);
     if (index != selected)
         Q_EMIT Pressed(index, Qt::LeftButton, MiddleOf(index));
 }
@@ -336,7 +342,7 @@ void PictureGridPic::PressSelected(Qt::MouseButton button)
 {
     if (!HasChoice())
         return;
-    vScroll1->setValue(TopRowShowing(Grid(), selected));
+    BringIntoView(selected);
     Q_EMIT Pressed(selected, button, MiddleOf(selected));
 }
 

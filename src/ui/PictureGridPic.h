@@ -76,6 +76,9 @@ public:
     void SetTopRow(int row);
     [[nodiscard]] int TopRow() const { return topRow; }
 
+    /// Scrolls as little as it takes to show the whole picture. index: 1 to the count; others do nothing.
+    void BringIntoView(int index);
+
     /// What stands in an empty grid.
     void SetLines(const QStringList& lines);
 

@@ -12,6 +12,22 @@ namespace {
 class OpenTuneWindowTest : public TuneWindowTest {
 protected:
     OpenTuneWindowTest() { tune = PlainTune("Snow", "Eve"); }
+
+    /// The place of a tune in the grid.
+    static std::int32_t IndexOf(const std::string& name)
+    {
+        for (std::int32_t i = 1; i <= Shared().TuneTableCount; ++i)
+            if (At(Shared().TuneTable, i).Name == name)
+                return i;
+        return 0;
+    }
+
+    static void ExpectShown(const QWidget& window, const char* name, const char* author, std::uint32_t pixel)
+    {
+        EXPECT_EQ(TextOf(window, "TuneNameLbl"), name);
+        EXPECT_EQ(TextOf(window, "CreatedByLbl"), author);
+        EXPECT_EQ(PartOf<TunePicture>(window, "TunePic").Picture().Pixel(0, 0), pixel);
+    }
 };
 
 TEST_F(OpenTuneWindowTest, WithOkTheTrackTakesTheTuneThenShownThoughNothingWasEdited)
@@ -30,11 +46,96 @@ TEST_F(OpenTuneWindowTest, WithOkTheTrackTakesTheTuneThenShownThoughNothingWasEd
 TEST_F(OpenTuneWindowTest, TheBeatsOfTheChosenTuneGoIntoTheSong)
 {
     MakeTuneFiles(1);
-    Open([](TuneFrm2& window) { Click(window, "OkBtn"); });
+    Open([](TuneFrm2& window) {
+        PressTune(window, 1);
+        Click(window, "OkBtn");
+    });
     ASSERT_EQ(Shared().Song.SongBeatCount, 1);
     EXPECT_EQ(Shared().Song.SongBeats[1].Name, "Drum");
     EXPECT_EQ(tune.Steps[1].BeatIndex, 1);
     EXPECT_TRUE(tune.Steps[1].StepBeat.Name.empty());
+}
+
+TEST_F(OpenTuneWindowTest, ItOpensOnTheTracksTuneAndPlaysNothing)
+{
+    MakeTuneFiles(300);
+    tune = PlainTune("TUNE 290", "Eve", 11);
+    tune.Picture = PlainPicture(1);
+    Open([this](TuneFrm2& window) {
+        EXPECT_EQ(window.OriginalTuneName, "TUNE 290");
+        EXPECT_EQ(GridOf(window).Selected(), IndexOf("Tune 290"));
+        EXPECT_TRUE(IsInGridView(GridOf(window).Grid(), GridOf(window).Selected()));
+        EXPECT_EQ(Played(), 0);
+        EXPECT_EQ(Shared().CurrentTune.CreatedBy, "Eve");
+        ExpectShown(window, "TUNE 290", "Eve", 1);
+    });
+    EXPECT_EQ(tune.CreatedBy, "Eve");
+}
+
+TEST_F(OpenTuneWindowTest, ATracksTuneThatTheGridDoesNotHaveSelectsNothing)
+{
+    MakeTuneFiles(2);
+    tune.Picture = PlainPicture(1);
+    Open([this](TuneFrm2& window) {
+        EXPECT_EQ(GridOf(window).Selected(), -1);
+        EXPECT_EQ(Played(), 0);
+        EXPECT_EQ(Shared().CurrentTune.Name, "Snow");
+        ExpectShown(window, "Snow", "Eve", 1);
+        EXPECT_TRUE(window.findChild<QWidget*>(QStringLiteral("Step2"))) << "the editor shows it";
+        EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("Step3")));
+        PressTune(window, 1);
+        EXPECT_EQ(Played(), kLeadInFrames + 4);
+        EXPECT_EQ(TextOf(window, "TuneNameLbl"), "Tune 01");
+    });
+}
+
+TEST_F(OpenTuneWindowTest, UntilAPictureIsChosenTheEditorsTuneIsHeardAndShown)
+{
+    MakeTuneFiles(2);
+    tune = PlainTune("Tune 02", "Eve");
+    tune.Picture = PlainPicture(1);
+    Open([this](TuneFrm2& window) {
+        for (const bool byFrame : {true, false}) {
+            ForgetPlay();
+            byFrame ? PressTune(window, 2) : Click(window, "TunePic");
+            EXPECT_EQ(Played(), Shared().CurrentTune.TuneWave.Length) << "without a lead-in";
+            EXPECT_EQ(Shared().CurrentTune.CreatedBy, "Eve");
+        }
+        GridOf(window).VScroll1().setValue(1);
+        window.RefreshShowAllPic();
+        ExpectShown(window, "Tune 02", "Eve", 1);
+        PressTune(window, 2, Qt::RightButton); // its menu is for the file
+        PartOf<QMenu>(window, "PopPosiMnu").close();
+        EXPECT_EQ(TextOf(window, "CreatedByLbl"), "By: Ann");
+        Click(window, "TunePic");
+        EXPECT_EQ(Played(), kLeadInFrames + 4);
+    });
+}
+
+TEST_F(OpenTuneWindowTest, ADeleteLeavesTheTracksTuneInTheEditor)
+{
+    MakeTuneFiles(2);
+    tune.Name = "Tune 02";
+    Open([this](TuneFrm2& window) {
+        AnswerNext("YesBtn");
+        MenuItem(window, 4).trigger();
+        EXPECT_EQ(GridOf(window).Count(), 1);
+        EXPECT_EQ(GridOf(window).Selected(), -1);
+        EXPECT_EQ(Shared().CurrentTune.CreatedBy, "Eve");
+        EXPECT_EQ(Played(), 0);
+        Click(window, "OkBtn");
+    });
+    EXPECT_EQ(tune.CreatedBy, "Eve");
+}
+
+TEST_F(OpenTuneWindowTest, ATrackWithoutATuneHearsTheFirstOne)
+{
+    MakeTuneFiles(2);
+    tune = Tune();
+    Open([](TuneFrm2& window) {
+        EXPECT_EQ(GridOf(window).Selected(), 1);
+        EXPECT_EQ(Played(), kLeadInFrames + 4);
+    });
 }
 
 TEST_F(OpenTuneWindowTest, CancelLeavesTheTracksTuneAsItWas)
@@ -81,6 +182,7 @@ TEST_F(OpenTuneWindowTest, TheTuneUnderEditHasItsOwnBeatsAndAName)
 TEST_F(OpenTuneWindowTest, WithTheFlagItShowsNoChoice)
 {
     MakeTuneFiles(2);
+    tune = Tune();
     newFlag = true;
     Open([](TuneFrm2& window) {
         EXPECT_EQ(GridOf(window).Selected(), -1);
@@ -155,6 +257,7 @@ TEST_F(OpenTuneWindowTest, WithoutAWindowThereIsNothingToShow)
 
 TEST_F(OpenTuneWindowTest, ANewTuneOfASecondOpeningMergesWithoutHarm)
 {
+    tune.Name.clear();
     MakeTuneFiles(1);
     Open([](TuneFrm2& window) { Click(window, "OkBtn"); });
     Open([](TuneFrm2& window) {

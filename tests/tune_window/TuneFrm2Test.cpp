@@ -208,7 +208,7 @@ TEST_F(TuneFrm2Test, AMoveLivesInMemoryAndTheNextStartShowsTheOldOrder)
     EXPECT_THAT(TableNames(), ElementsAre("Tune 01", "Tune 02", "Tune 03"));
 }
 
-TEST_F(TuneFrm2Test, ADeleteKeepsTheOrderAndChoosesTheFirstTune)
+TEST_F(TuneFrm2Test, ADeleteKeepsTheOrderAndTheTuneInTheEditor)
 {
     MakeTuneFiles(3);
     WriteBytes(File("Tune 01.bmp"), "picture");
@@ -218,10 +218,10 @@ TEST_F(TuneFrm2Test, ADeleteKeepsTheOrderAndChoosesTheFirstTune)
         ForgetPlay();
         AnswerNext("YesBtn");
         MenuItem(window, 4).trigger();
-        EXPECT_EQ(GridOf(window).Selected(), 1);
+        EXPECT_EQ(GridOf(window).Selected(), -1);
         EXPECT_EQ(GridOf(window).Count(), 2);
-        EXPECT_EQ(TextOf(window, "TuneNameLbl"), "Tune 02");
-        EXPECT_EQ(Played(), kLeadInFrames + 4);
+        EXPECT_EQ(TextOf(window, "TuneNameLbl"), "Tune 01") << "the first tune, which the opening chose";
+        EXPECT_EQ(Played(), 0);
         EXPECT_EQ(statusLbl.text(), QString());
     });
     EXPECT_THAT(noted, ElementsAre("  Confirm Delete Tune", "Are you sure to delete this Tune?", "Tune name: Tune 01"));
@@ -315,9 +315,9 @@ TEST_F(TuneFrm2Test, ANewTuneIsSilentAndStandsForNoPicture)
         EXPECT_EQ(GridOf(window).BlinkSelectImg().toolTip(), QString());
         EXPECT_EQ(TextOf(window, "TuneNameLbl"), "New");
         EXPECT_EQ(TextOf(window, "CreatedByLbl"), "Me");
-        EXPECT_TRUE(PartOf<TunePicture>(window, "TunePic").Picture().IsNothing());
         EXPECT_FALSE(window.NewTuneMode);
         const Tune& current = Shared().CurrentTune;
+        EXPECT_TRUE(SamePicture(PartOf<TunePicture>(window, "TunePic").Picture(), current.Picture));
         EXPECT_TRUE(SamePicture(current.Picture, Shared().NewTunePicture));
         EXPECT_EQ(current.StepCount, 16);
         EXPECT_FALSE(current.TuneWaveValid);
@@ -381,8 +381,9 @@ TEST_F(TuneFrm2Test, CancelStopsThePlayerAndForgetsTheChoice)
         EXPECT_EQ(PlayShared().PlayState, PlayState::Stopped);
         EXPECT_EQ(statusLbl.text(), QString());
     });
-    // The name that was noted is found at the next opening.
-    Open([](TuneFrm2& window) { EXPECT_EQ(GridOf(window).Selected(), 2); });
+    // Whatever was chosen, the next opening is on its track's tune.
+    tune.Name = "Tune 01";
+    Open([](TuneFrm2& window) { EXPECT_EQ(GridOf(window).Selected(), 1); });
 }
 
 TEST_F(TuneFrm2Test, ClosingTheWindowByItsFrameActsAsCancel)
