@@ -41,7 +41,7 @@ void TellOfBeat(std::string_view hint, std::string_view line1, std::string_view 
 
 std::string QuotedBeat(std::string_view name)
 {
-    return '"' + std::string(name) + '"';
+    return '"' + BeatNameForPeople(name) + '"';
 }
 
 void KeepBeatFolder(std::string_view setting, const fs::path& file)
@@ -133,7 +133,8 @@ void BeatWindow::AddBeat()
     table.RefindBeatName = name.Name;
     if (name.FirstName != name.Name) {
         HintBeatCommand("");
-        ShowMessage(QuotedBeat(name.FirstName) + " already exists", "New beat is added as " + name.Name);
+        ShowMessage(QuotedBeat(name.FirstName) + " already exists",
+                    "New beat is added as " + BeatNameForPeople(name.Name));
     }
     SaveBeatOrder(table);
     LoadBeatFiles();
@@ -170,7 +171,7 @@ void BeatWindow::DeleteBeat()
                           "This an original Beat from " + std::string(kProductFamily), "It can not be deleted.");
     const std::string name = SelectedEntry(table).Name;
     HintBeatCommand("Click Yes to delete, No to keep");
-    if (AskYesNo("Are you sure to delete this Beat?", "Beat name: " + name, " Confirm Delete Beat") != 1)
+    if (AskYesNo("Are you sure to delete this Beat?", "Beat name: " + BeatNameForPeople(name), " Confirm Delete Beat") != 1)
         return;
     HintBeatCommand("");
     if (table.SelectedBeat == table.BeatListCount)

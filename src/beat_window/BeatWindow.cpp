@@ -56,6 +56,7 @@ BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("BeatWindow"));
     SetCaption(" Choose a Beat");
+    ShowHintsInBand();
     MakeLabels();
     MakeGrid();
     MakeChoice();
@@ -84,6 +85,8 @@ void BeatWindow::MakeGrid()
     ShowAllPic->setAccessibleName(tr("Beats"));
     connect(ShowAllPic, &PictureGridPic::Pressed, this,
             [this](int index, Qt::MouseButton button, QPoint at) { Guarded([&] { PressGrid(index, button, at); }); });
+    connect(ShowAllPic, &PictureGridPic::DoubleClicked, this, [this] { Guarded([this] { ClickOk(); }); });
+    connect(ShowAllPic, &PictureGridPic::DeleteWanted, this, [this] { Guarded([this] { ClickDelete(); }); });
 }
 
 void BeatWindow::MakeChoice()
@@ -201,7 +204,7 @@ void BeatWindow::FillGrid()
     entries.reserve(table.BeatList.size());
     for (std::int32_t i = 1; i <= table.BeatListCount; ++i) {
         const Beat& beat = At(table.BeatList, i);
-        entries.push_back({beat.Picture, beat.Name, table.BeatProtected[static_cast<std::size_t>(i)]});
+        entries.push_back({beat.Picture, table.NamesForPeople[beat.Name], table.BeatProtected[static_cast<std::size_t>(i)]});
     }
     ShowAllPic->SetEntries(entries);
 }
@@ -234,7 +237,7 @@ void BeatWindow::ShowNoBeats()
 void BeatWindow::ShowChoice()
 {
     NoteLbl->setText(QtText(kBeatNote));
-    NmLbl->ShowName(QtText(SelectedEntry(table).Name));
+    NmLbl->ShowName(QtText(table.NamesForPeople[SelectedEntry(table).Name]));
     ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
     LoadSelectedSound(table);
     DurLbl->setText(QtText(DurationText(SelectedEntry(table).Sound)));

@@ -316,7 +316,7 @@ void Recd_Frm::ClickCancel()
 void Recd_Frm::reject()
 {
     const bool isAsked = view.Elapsed() >= kWorthAsking;
-    if (!isAsked || AskYesNo("Throw this recording away?", {}, {}, FirstAnswer::No) == 1)
+    if (!isAsked || AskYesNo("Throw this recording away?") == 1)
         ClickCancel();
 }
 

@@ -18,6 +18,7 @@
 #include "tune_window/StepFocus.h"
 #include "tune_window/TunFramPic.h"
 #include "tune_window/rules/StepPlays.h"
+#include "tunes/BeatFiles.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Dialogs.h"
@@ -198,15 +199,29 @@ void StepEditor::resizeEvent(QResizeEvent* /*event*/)
 
 void StepEditor::UpdateThisTune()
 {
+    namesForPeople.clear();
     SyncStepCombo();
     SetStepScroll();
     DrawTuneSteps();
 }
 
+const std::string& StepEditor::NameForPeople(const std::string& beat)
+{
+    const auto [found, isNew] = namesForPeople.try_emplace(beat);
+    if (isNew)
+        found->second = BeatNameForPeople(beat);
+    return found->second;
+}
+
 void StepEditor::SyncStepCombo()
 {
-    const int index = StepNosCmb->findData(Shared().CurrentTune.StepCount);
-    StepNosCmb->setCurrentIndex(index >= 0 ? index : StepNosCmb->findData(kOtherSteps));
+    // A number that is none of the list's own stands before them for as long as the tune has it.
+    if (StepNosCmb->count() > static_cast<int>(kStepNos.size()))
+        StepNosCmb->removeItem(0);
+    const std::int32_t count = Shared().CurrentTune.StepCount;
+    if (StepNosCmb->findData(count) < 0)
+        StepNosCmb->insertItem(0, tr("%1 Steps").arg(count), count);
+    StepNosCmb->setCurrentIndex(StepNosCmb->findData(count));
 }
 
 void StepEditor::SetStepScroll()
@@ -241,7 +256,7 @@ void StepEditor::SyncStepFocus()
     while (stepFocus.size() < wanted)
         stepFocus.push_back(MakeStepFocus(static_cast<std::int32_t>(stepFocus.size())));
     for (std::int32_t step = 1; step <= reached; ++step)
-        At(stepFocus, step)->ShowStep(At(tune.Steps, step), StepsLeft);
+        At(stepFocus, step)->ShowStep(At(tune.Steps, step), NameForPeople(At(tune.Steps, step).StepBeat.Name), StepsLeft);
 }
 
 StepFocus* StepEditor::MakeStepFocus(std::int32_t step)

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -74,6 +75,7 @@ private:
     void SetStepScroll();
     void DrawTuneSteps();
     void SyncStepFocus();
+    [[nodiscard]] const std::string& NameForPeople(const std::string& beat);
     [[nodiscard]] StepFocus* MakeStepFocus(std::int32_t step);
     void RunOnStep(std::int32_t step, const std::function<void()>& command);
     void PlaceChangeAll();
@@ -111,6 +113,8 @@ private:
     void PlayStep(std::int32_t step);
     void PlayBeat(std::int32_t step);
     void TickPlayPos();
+
+    std::map<std::string, std::string> namesForPeople; ///< of the beats met in the tune; the folder is asked once each
 
     TunFramPic* surface = nullptr;
     QWidget* DummyDuration = nullptr;

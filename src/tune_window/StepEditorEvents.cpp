@@ -111,7 +111,7 @@ void StepEditor::MoveOnSurface(QPoint place, Qt::MouseButtons held)
 void StepEditor::ShowPointer(const StepPointer& pointer)
 {
     ShowHint(QtText(pointer.hint));
-    surface->setToolTip(QtTip(pointer.toolTip));
+    surface->setToolTip(QtTip(pointer.beat.empty() ? std::string(pointer.toolTip) : NameForPeople(pointer.beat)));
     if (pointer.cursor == StepCursor::PianoCursorImg)
         surface->setCursor(pianoCursor);
     else

@@ -33,12 +33,12 @@ StepFocus::StepFocus(std::int32_t step, QWidget* surface) : QAbstractButton(surf
            "length, Enter chooses its instrument. P plays the step, B its instrument. The menu key has more."));
 }
 
-void StepFocus::ShowStep(const TuneStep& step, std::int32_t stepsLeft)
+void StepFocus::ShowStep(const TuneStep& step, std::string_view beat, std::int32_t stepsLeft)
 {
     setGeometry(StepLeft(number, stepsLeft) - kRingBeside, kRingTop, kStepHitWidth + 2 * kRingBeside,
                 kRingBottom - kRingTop);
     setChecked(step.OnPos == 1);
-    const QString words = QtText(StepInWords(step, number));
+    const QString words = QtText(StepInWords(step, number, beat));
     if (accessibleName() != words)
         setAccessibleName(words);
 }

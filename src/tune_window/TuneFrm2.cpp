@@ -28,7 +28,7 @@ namespace {
 constexpr float kLeadInSeconds = 0.75F;
 constexpr std::string_view kGridHint = "Click on a picture to choose a tune";
 constexpr std::string_view kFrameHint = "This is the chosen Tune. Click on it to play";
-constexpr std::string_view kDeleteHint = "This button will delete the selected tune";
+constexpr const char* kDeleteHint = "This button will delete the selected tune";
 
 void PutAt(QWidget& widget, const PlanBox& box)
 {
@@ -55,6 +55,7 @@ TuneFrm2::TuneFrm2(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("TuneFrm2"));
     SetCaption(" Choose a Tune");
+    ShowHintsInBand();
     MakeGrid();
     MakeChosenTune();
     MakeButtons();
@@ -74,6 +75,8 @@ void TuneFrm2::MakeGrid()
     connect(ShowAllPic, &PictureGridPic::Pressed, this, [this](int index, Qt::MouseButton button, QPoint at) {
         Guarded([=, this] { ChooseTune(index, button, at); });
     });
+    connect(ShowAllPic, &PictureGridPic::DoubleClicked, this, [this] { Guarded([this] { OkBtn(); }); });
+    connect(ShowAllPic, &PictureGridPic::DeleteWanted, this, [this] { Guarded([this] { DeleteTune(); }); });
 }
 
 void TuneFrm2::MakeChosenTune()
@@ -104,6 +107,8 @@ void TuneFrm2::MakeButtons()
                    &TuneFrm2::ChangePicBtn},
         CommandRow{{"SaveTuneBtn", "Save tune", "Save button, use it to keep this tune among your tunes"},
                    &TuneFrm2::SaveTuneBtn},
+        CommandRow{{"DeleteTuneBtn", "Delete tune", kDeleteHint, Plate::Tool, {}, "TrackDeleteBtn"},
+                   &TuneFrm2::DeleteTune},
         CommandRow{{"HelpBtn", "Help", "Help button, use it to see help"}, &TuneFrm2::HelpBtn},
         CommandRow{
             {"CancelBtn", "Cancel", "Cancel button, use it to leave the track's tune as it was", Plate::Word, kStone},
@@ -133,14 +138,14 @@ void TuneFrm2::MakeMoveMnu()
     }
     PopPosiMnu->insertSeparator(MoveMnu[kDeleteItem]);
     connect(PopPosiMnu, &QMenu::hovered, this,
-            [this](const QAction* item) { ShowHint(item == MoveMnu[kDeleteItem] ? QtText(kDeleteHint) : QString()); });
+            [this](const QAction* item) { ShowHint(item == MoveMnu[kDeleteItem] ? QString::fromLatin1(kDeleteHint) : QString()); });
 }
 
 void TuneFrm2::SetTabOrders()
 {
     QWidget* before = ShowAllPic;
     for (const char* name : {"TunePic", "TestPlayBtn", "RndTuneBtn", "NewTuneBtn", "ChangePicBtn", "SaveTuneBtn",
-                             "HelpBtn", "OkBtn", "CancelBtn"}) {
+                             "DeleteTuneBtn", "HelpBtn", "OkBtn", "CancelBtn"}) {
         auto* next = findChild<QWidget*>(QString::fromLatin1(name));
         setTabOrder(before, next);
         before = next;
@@ -160,7 +165,8 @@ void TuneFrm2::FitTo(QSize room)
     PutAt(*TuneNameLbl, plan.tuneNameLbl);
     PutAt(*CreatedByLbl, plan.createdByLbl);
     std::size_t tool = 0;
-    for (const char* name : {"TestPlayBtn", "RndTuneBtn", "NewTuneBtn", "ChangePicBtn", "SaveTuneBtn", "HelpBtn"})
+    for (const char* name : {"TestPlayBtn", "RndTuneBtn", "NewTuneBtn", "ChangePicBtn", "SaveTuneBtn", "DeleteTuneBtn",
+                             "HelpBtn"})
         PutAt(*findChild<QWidget*>(QString::fromLatin1(name)), plan.tools[tool++]);
     PutAt(*findChild<QWidget*>(QStringLiteral("OkBtn")), plan.okBtn);
     PutAt(*findChild<QWidget*>(QStringLiteral("CancelBtn")), plan.cancelBtn);

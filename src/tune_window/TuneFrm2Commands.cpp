@@ -109,6 +109,7 @@ void TuneFrm2::NewTuneBtn()
     RefreshShowAllPic();
     if (OkPressed && TuneChanged)
         MergeTuneBeats(Shared().Song, tune);
+    ShowHint(QStringLiteral("Click a lamp to switch a step on"));
 }
 
 void TuneFrm2::RndTuneBtn()

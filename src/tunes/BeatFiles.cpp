@@ -81,6 +81,21 @@ Beat EmptyBeat()
 
 } // namespace
 
+std::string WithoutFamily(std::string fileName)
+{
+    const bool isLetter =
+        !fileName.empty() && ((fileName[0] >= 'A' && fileName[0] <= 'Z') || (fileName[0] >= 'a' && fileName[0] <= 'z'));
+    if (isLetter && fileName.size() > 2 && fileName[1] == '_')
+        fileName.erase(0, 2);
+    return fileName;
+}
+
+std::string BeatNameForPeople(std::string_view name)
+{
+    const fs::path file = FindBeatWave(name);
+    return WithoutFamily(file.empty() ? std::string(name) : PathText(file.stem()));
+}
+
 Picture LoadPictureFile(const fs::path& path)
 {
     const fs::path file = FindFile(path);

@@ -27,6 +27,8 @@ constexpr int kLogoSide = 20;
 constexpr int kLogoLeft = 9;
 constexpr int kCloseBoxSide = 22;
 constexpr int kCloseBoxFromRight = 8;
+constexpr int kBeforeCloseBox = 4;
+constexpr int kBeforeHint = 16;
 constexpr int kVineSide = 44;
 constexpr int kBelowButtons = 12;
 constexpr int kButtonsApart = 12;
@@ -75,6 +77,22 @@ void BandedForm::SetCaption(std::string_view caption)
 void BandedForm::FitCaption()
 {
     captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
+    if (!hintLbl)
+        return;
+    const int left = captionLbl->x() + captionLbl->sizeHint().width() + kBeforeHint;
+    hintLbl->setGeometry(left, 0, std::max(captionLbl->geometry().right() + 1 - left, 0), captionLbl->height());
+}
+
+void BandedForm::ShowHintsInBand()
+{
+    hintLbl = new QLabel(this);
+    hintLbl->setObjectName(QStringLiteral("BandHintLbl"));
+    hintLbl->setFont(HintFont());
+    hintLbl->setTextFormat(Qt::PlainText);
+    hintLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    hintLbl->setStyleSheet(captionLbl->styleSheet());
+    hintLbl->setAttribute(Qt::WA_TransparentForMouseEvents);
+    AddHintStrip(*hintLbl);
 }
 
 int BandedForm::ShowModal()
@@ -193,7 +211,7 @@ void BandedForm::resizeEvent(QResizeEvent* event)
         setMask(QRegion(Outline(rect()).toFillPolygon().toPolygon()));
     closeBox->move(width() - kCloseBoxSide - kCloseBoxFromRight, 1);
     const int captionLeft = kLogoLeft + kLogoSide + 2;
-    captionLbl->setGeometry(captionLeft, 0, closeBox->x() - captionLeft - 4, kBandHeight - 2);
+    captionLbl->setGeometry(captionLeft, 0, closeBox->x() - captionLeft - kBeforeCloseBox, kBandHeight - 2);
     FitCaption();
 }
 

@@ -66,10 +66,14 @@ protected:
 
     [[nodiscard]] HintWatcher& Watcher() { return watcher; }
 
+    /// Shows hints in the band while the form hides the status line.
+    void ShowHintsInBand();
+
 private:
     void Centre();
     void PaintBand(QPainter& painter) const;
     void PaintVine(QPainter& painter) const;
+    /// Gives the caption its room in the band, and the hint what that leaves.
     void FitCaption();
     void FocusNeighbour(int step);
 
@@ -77,6 +81,7 @@ private:
     HintWatcher watcher;
     QString captionText;
     QLabel* captionLbl;
+    QLabel* hintLbl = nullptr;
     ImageButton* closeBox;
     std::vector<ImageButton*> wordButtons;
     WindowMover mover;

@@ -40,12 +40,10 @@ void ShowMessage(std::string_view line1, std::string_view line2, std::string_vie
     }
 }
 
-int AskYesNo(std::string_view line1, std::string_view line2, std::string_view title, FirstAnswer first)
+int AskYesNo(std::string_view line1, std::string_view line2, std::string_view title)
 {
     MsgYesNoFrm form(WindowInFront(), line1, line2);
     form.SetCaption(Caption(title));
-    if (first == FirstAnswer::No)
-        form.findChild<QWidget*>(QStringLiteral("NoBtn"))->setFocus();
     return form.ShowModal();
 }
 

@@ -8,8 +8,6 @@ class QWidget;
 
 namespace sprout {
 
-enum class FirstAnswer { Yes, No };
-
 /// The window that a question belongs to: the modal one that waits, else the active one. Never the help, whose closing
 /// would take the question along; null where there is no other.
 [[nodiscard]] QWidget* WindowInFront();
@@ -20,9 +18,8 @@ enum class FirstAnswer { Yes, No };
 /// A message with OK, of one line if `line2` is blank.
 void ShowMessage(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
 
-/// A question; 1 for yes, else 0. first: the answer that has the focus at first, No where Yes would lose something.
-[[nodiscard]] int AskYesNo(std::string_view line1, std::string_view line2 = {}, std::string_view title = {},
-                           FirstAnswer first = FirstAnswer::Yes);
+/// Asks whether something may be deleted or overwritten; 1 for yes, else 0. No has the focus at first.
+[[nodiscard]] int AskYesNo(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
 
 /// Asks for a text that starts as `defaultText`; empty if it is cancelled.
 [[nodiscard]] std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2 = {},

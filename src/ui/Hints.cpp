@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <vector>
 
 #include "ui/QtText.h"
 
@@ -69,6 +70,19 @@ QPointer<QLabel>& StatusLbl()
     return label;
 }
 
+std::vector<QPointer<QLabel>>& HintStrips()
+{
+    static std::vector<QPointer<QLabel>> strips;
+    return strips;
+}
+
+bool HidesStatusLine(const QWidget& window)
+{
+    const QLabel* const status = StatusLbl();
+    return status && status->isVisible() && window.isVisible() && status->window() != &window &&
+           window.frameGeometry().intersects(QRect(status->mapToGlobal(QPoint()), status->size()));
+}
+
 /// Where the pointer was when the hint was shown.
 std::optional<QPoint>& HintPoint()
 {
@@ -95,7 +109,29 @@ void ShowHint(const QString& text)
 {
     if (StatusLbl())
         StatusLbl()->setText(text);
+    std::erase_if(HintStrips(), [](const QPointer<QLabel>& strip) { return strip.isNull(); });
+    for (const QPointer<QLabel>& strip : HintStrips())
+        strip->setText(HidesStatusLine(*strip->window())
+                           ? strip->fontMetrics().elidedText(text, Qt::ElideRight, strip->width())
+                           : QString());
     HintPoint() = QCursor::pos();
+}
+
+void AddHintStrip(QLabel& strip)
+{
+    HintStrips().emplace_back(&strip);
+}
+
+void ShowHintOfFocus(const QWidget& widget, const QFocusEvent& event)
+{
+    if (event.reason() != Qt::TabFocusReason && event.reason() != Qt::BacktabFocusReason)
+        return;
+    // A dialog that opens tells its first control that it was tabbed to before it has the focus; the hint that stands
+    // belongs to the dialog's question.
+    if (event.lostFocus())
+        ShowHint({});
+    else if (widget.hasFocus())
+        ShowHint(widget.property(kHintProperty).toString());
 }
 
 bool MouseMovedSinceHint()
@@ -119,6 +155,8 @@ bool HintWatcher::eventFilter(QObject* watched, QEvent* event)
         if (!IsMeantForAnother(widget, *static_cast<QMouseEvent*>(event)))
             ShowHint(widget.property(kHintProperty).toString());
     }
+    if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
+        ShowHintOfFocus(*static_cast<QWidget*>(watched), *static_cast<QFocusEvent*>(event));
     return QObject::eventFilter(watched, event);
 }
 

@@ -66,6 +66,8 @@ ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal,
         glyph = QStringLiteral("buttons/") + QString::fromLatin1(row.glyph);
     else if (plate != Plate::Word)
         glyph = QStringLiteral("buttons/") + objectName();
+    if (plate != Plate::Word)
+        setToolTip(text());
     setFont(ButtonFont());
     setMouseTracking(true);
     // The pointer leaves the focus where it is, so that a text box keeps the caret while a button is clicked.
@@ -199,6 +201,7 @@ void ImageButton::mouseMoveEvent(QMouseEvent* event)
 {
     scheme.ButtonHover(*this);
     QAbstractButton::mouseMoveEvent(event);
+    event->accept(); // what lies below has a hint of its own
 }
 
 void ImageButton::mousePressEvent(QMouseEvent* event)
@@ -223,12 +226,14 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 
 void ImageButton::focusInEvent(QFocusEvent* event)
 {
-    // A dialog that opens tells its first control that it was tabbed to before it has the focus; the hint that stands
-    // belongs to the dialog's question.
-    const bool isTab = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason;
-    if (isTab && hasFocus())
-        ShowHint(hint);
+    ShowHintOfFocus(*this, *event);
     QAbstractButton::focusInEvent(event);
+}
+
+void ImageButton::focusOutEvent(QFocusEvent* event)
+{
+    ShowHintOfFocus(*this, *event);
+    QAbstractButton::focusOutEvent(event);
 }
 
 } // namespace sprout

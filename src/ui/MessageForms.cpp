@@ -113,8 +113,8 @@ MsgYesNoFrm::MsgYesNoFrm(QWidget* parent, std::string_view note1, std::string_vi
     setObjectName(QStringLiteral("MsgYesNoFrm"));
     AddNote("NoteLbl1", note1);
     AddNote("NoteLbl2", note2);
-    AddAnswer(GoOn("YesBtn", "Yes"), 1).setFocus();
-    AddAnswer(GoBack("NoBtn", "No"), 0);
+    AddAnswer(GoOn("YesBtn", "Yes"), 1);
+    AddAnswer(GoBack("NoBtn", "No"), 0).setFocus();
     SizeToNotes();
 }
 

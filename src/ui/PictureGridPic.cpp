@@ -272,6 +272,16 @@ void PictureGridPic::mousePressEvent(QMouseEvent* event)
     Q_EMIT Pressed(HitTestGrid(Grid(), at.x(), at.y()), event->button(), event->globalPosition().toPoint());
 }
 
+/// Between the two presses the selection frame comes to lie over the picture.
+void PictureGridPic::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    const QPoint at = event->position().toPoint();
+    if (event->button() == Qt::LeftButton && HasChoice() && HitTestGrid(Grid(), at.x(), at.y()) == selected)
+        Q_EMIT DoubleClicked();
+    else
+        mousePressEvent(event);
+}
+
 void PictureGridPic::mouseMoveEvent(QMouseEvent* event)
 {
     const QPoint at = event->position().toPoint();
@@ -291,6 +301,12 @@ bool PictureGridPic::eventFilter(QObject* watched, QEvent* event)
         setFocus(Qt::MouseFocusReason);
         Q_EMIT Pressed(HitTestGrid(Grid(), middle.x(), middle.y()), press.button(), press.globalPosition().toPoint());
         return true;
+    }
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        const bool isLeft = static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+        if (isLeft)
+            Q_EMIT DoubleClicked();
+        return isLeft;
     }
     return false;
 }
@@ -314,6 +330,11 @@ void PictureGridPic::keyPressEvent(QKeyEvent* event)
     for (const auto& [key, step] : steps)
         if (event->key() == key)
             return StepTo(step);
+    if (event->key() == Qt::Key_Delete) {
+        if (HasChoice() && !event->isAutoRepeat())
+            Q_EMIT DeleteWanted();
+        return;
+    }
     const bool asksForMenu =
         event->key() == Qt::Key_Menu || (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier));
     if (event->key() != Qt::Key_Space && !asksForMenu)

@@ -101,6 +101,10 @@ Q_SIGNALS:
     /// A mouse button went down on a picture, or on none: index 0. Arrow keys and the blank press the left button, the
     /// menu key the right one. at: on the screen, where a menu is to open.
     void Pressed(int index, Qt::MouseButton button, QPoint at);
+    /// The left button went down twice on a picture.
+    void DoubleClicked();
+    /// The Delete key, while a picture is chosen.
+    void DeleteWanted();
     /// The pointer moved over a picture, or over none: index 0.
     void Hovered(int index);
     /// The user scrolled.
@@ -110,6 +114,7 @@ protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;

@@ -96,8 +96,8 @@ TEST_F(AddBeatTest, AddsAPairAndSelectsIt)
                             std::string("Now select a picture (32x32) file to use for this new beat.|") + kAddHint));
     EXPECT_EQ(FilesOfUserBeats(), "Bell.bmp Bell.wav original.bmp original.wav ");
     EXPECT_EQ(ReadBytes(Shared().UserBeats / "Bell.wav"), ReadBytes(Chosen("Bell.wav")));
-    EXPECT_EQ(ListedNames(), "original bell ");
-    EXPECT_EQ(TextOf("NmLbl"), "bell");
+    EXPECT_EQ(ListedNames(), "original Bell ");
+    EXPECT_EQ(TextOf("NmLbl"), "Bell");
     EXPECT_THAT(services.messages.shown, IsEmpty());
     EXPECT_THAT(IndexText(), testing::HasSubstr("original=1\r\n")) << "the order was written";
 }
@@ -166,10 +166,10 @@ TEST_F(AddBeatTest, TellsTheNewNameWhereTheOldOneIsTaken)
     BeatWindow::AddHelpShown = true;
     Open();
     Add(Chosen("Bell.wav"), Chosen("Picture.bmp"));
-    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as new1bell|"));
-    EXPECT_EQ(TextOf("NmLbl"), "new1bell");
+    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as New1Bell|"));
+    EXPECT_EQ(TextOf("NmLbl"), "New1Bell");
     Add(Chosen("Bell.wav"), Chosen("Picture.bmp"));
-    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as new2bell|"));
+    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as New2Bell|"));
     EXPECT_EQ(FilesOfUserBeats(), "New1Bell.bmp New1Bell.wav New2Bell.bmp New2Bell.wav bell.bmp bell.wav original.bmp "
                                   "original.wav ");
 }
@@ -223,7 +223,7 @@ TEST_F(AddBeatTest, MakesABeatOfASoundOfAnotherKind)
                 ElementsAre(FakeSoundReader::Call{Chosen("Bell.mp3"), kLongestBeatSeconds, TooLong::Cut}));
     EXPECT_EQ(FilesOfUserBeats(), "Bell.bmp Bell.wav original.bmp original.wav ");
     EXPECT_EQ(ReadBytes(Shared().UserBeats / "Bell.wav"), services.soundReader.wave);
-    EXPECT_EQ(TextOf("NmLbl"), "bell");
+    EXPECT_EQ(TextOf("NmLbl"), "Bell");
     EXPECT_TRUE(fs::is_empty(Shared().TempFolder));
     EXPECT_EQ(GetSetting("General", "WavFileSelPath", ""), services.folder.Path().native() + "/");
 }
@@ -236,7 +236,7 @@ TEST_F(AddBeatTest, GivesASoundOfAnotherKindAFreeName)
     BeatWindow::AddHelpShown = true;
     Open();
     Add(Chosen("Bell.ogg"), Chosen("Picture.bmp"));
-    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as new1bell|"));
+    EXPECT_THAT(told, ElementsAre("\"bell\" already exists|New beat is added as New1Bell|"));
     EXPECT_EQ(FilesOfUserBeats(), "New1Bell.bmp New1Bell.wav bell.bmp bell.wav original.bmp original.wav ");
 }
 
@@ -376,8 +376,8 @@ TEST_F(RenameBeatTest, RenamesThePairKeepsItsPlaceAndSelectsIt)
     Rename(QStringLiteral("Zimbel"));
     EXPECT_THAT(told, ElementsAre("Enter the new name||Enter a new name for this beat"));
     EXPECT_EQ(FilesOfUserBeats(), "Zimbel.bmp Zimbel.wav b.bmp b.wav original.bmp original.wav ");
-    EXPECT_EQ(ListedNames(), "zimbel b original ");
-    EXPECT_EQ(TextOf("NmLbl"), "zimbel");
+    EXPECT_EQ(ListedNames(), "Zimbel b original ");
+    EXPECT_EQ(TextOf("NmLbl"), "Zimbel");
 }
 
 TEST_F(RenameBeatTest, PutsUnderlinesForForbiddenCharactersButNotForTheBar)
@@ -394,12 +394,12 @@ TEST_F(RenameBeatTest, TakesNamesOfOtherAlphabets)
     MakeBeat("a", 10);
     Open("a");
     Rename(QString::fromUtf8("Тамбурин 太鼓"));
-    EXPECT_EQ(TextOf("NmLbl"), "тамбурин 太鼓");
+    EXPECT_EQ(TextOf("NmLbl"), "Тамбурин 太鼓");
     Click(*window, "OkBtn");
     EXPECT_EQ(window->ChosenBeatName, "тамбурин 太鼓");
     EXPECT_TRUE(FileExists(NamedFile(Shared().UserBeats, window->ChosenBeatName, ".wav")));
     Open(window->ChosenBeatName);
-    EXPECT_EQ(TextOf("NmLbl"), "тамбурин 太鼓");
+    EXPECT_EQ(TextOf("NmLbl"), "Тамбурин 太鼓");
 }
 
 TEST_F(RenameBeatTest, EndsForAnEmptyAnswerAndForTheOldName)

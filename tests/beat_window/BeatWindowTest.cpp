@@ -31,6 +31,41 @@ TEST_F(BeatWindowTest, ShowsTheSelectedBeatAndPlaysNothingUntilItIsClicked)
     EXPECT_EQ(services.screen.hourglassesShown, 1);
 }
 
+TEST_F(BeatWindowTest, ShowsNamesAsTheirFilesAreWrittenAndWithoutTheirFamily)
+{
+    MakeBeat("B_Acoustic Bass Low", 10);
+    MakeBeat("my DOG", 10);
+    Open("b_acoustic bass low");
+    EXPECT_EQ(TextOf("NmLbl"), "Acoustic Bass Low");
+    EXPECT_EQ(Control<ChoosenPicture>("ChoosenPic").accessibleName(), QStringLiteral("Acoustic Bass Low"));
+    EXPECT_EQ(Grid().BlinkSelectImg().toolTip(), QStringLiteral("Acoustic Bass Low"));
+    EXPECT_EQ(ListedNames(), "Acoustic Bass Low my DOG ");
+    window->reject();
+}
+
+TEST_F(BeatWindowTest, ADoubleClickOnABeatIsOk)
+{
+    MakeBeat("bell", 10);
+    MakeBeat("drum", 10);
+    Open();
+    ClickBeat(2);
+    QTest::mouseDClick(Grid().childAt(PlaceOf(2)), Qt::LeftButton);
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_TRUE(window->OkPressed);
+    EXPECT_EQ(window->ChosenBeatName, "drum");
+}
+
+TEST_F(BeatWindowTest, TheDeleteKeyAsksAsTheButtonDoes)
+{
+    ProtectNothing();
+    MakeBeat("bell", 10);
+    Open();
+    WithNextForm([](BandedForm& form) { Click(form, "YesBtn"); });
+    QTest::keyClick(&Grid(), Qt::Key_Delete);
+    EXPECT_EQ(ListedNames(), "");
+    EXPECT_EQ(FilesOfUserBeats(), "");
+}
+
 TEST_F(BeatWindowTest, SelectsTheFirstBeatForAnEmptyName)
 {
     MakeBeat("bell", 10);
@@ -45,7 +80,9 @@ TEST_F(BeatWindowTest, ListsDrumWavWithDrumBmpAsDrum)
     SaveWaveFile(QuietWave(10), Shared().UserBeats / "Drum.WAV");
     WriteBytes(Shared().UserBeats / "drum.bmp", "p");
     Open();
-    EXPECT_EQ(ListedNames(), "drum ");
+    EXPECT_EQ(ListedNames(), "Drum ");
+    Click(*window, "OkBtn");
+    EXPECT_EQ(window->ChosenBeatName, "drum");
 }
 
 TEST_F(BeatWindowTest, PlaysABeatWhenItsPictureIsClicked)

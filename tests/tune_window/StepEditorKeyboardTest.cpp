@@ -196,7 +196,7 @@ TEST_F(StepEditorKeyboardTest, TheMenuKeyOpensTheMenuOfTheStep)
 
 TEST_F(StepEditorKeyboardTest, AScreenReaderHearsEachStep)
 {
-    tune.Steps[1].StepBeat.Name = "p_piano high";
+    tune.Steps[1].StepBeat.Name = "P_Piano High";
     tune.Steps[1].PitchShift = 4;
     editor.UpdateThisTune();
     QAccessibleInterface* const first = QAccessible::queryAccessibleInterface(&StepButton(1));

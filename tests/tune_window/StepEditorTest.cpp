@@ -245,6 +245,16 @@ TEST_F(PointerTest, ShowsANameThatLooksLikeRichTextAsItIsWritten)
     EXPECT_EQ(Surface().toolTip(), QStringLiteral("<p>&lt;b&gt;Drum&lt;/b&gt;</p>"));
 }
 
+TEST_F(PointerTest, NamesABeatAsItsFileIsWrittenAndWithoutItsFamily)
+{
+    WriteBytes(Shared().UserBeats / "P_Piano High.wav", "");
+    tune.Steps[1].StepBeat.Name = "p_piano high";
+    editor.UpdateThisTune();
+    MoveTo(In(1, 100, 12));
+    EXPECT_EQ(Surface().toolTip(), QStringLiteral("Piano High"));
+    EXPECT_EQ(StepButton(1).accessibleName(), QStringLiteral("Step 1, on, Piano High, pitch 0"));
+}
+
 TEST_F(PointerTest, LosesItsToolTipWithTheNextDrawing)
 {
     MoveTo(In(1, 100));
@@ -419,10 +429,28 @@ TEST_F(StepPopMnuTest, TellsWhyAMoveIsRefused)
 TEST_F(StepNosCmbTest, ShowsTheNumberOfSteps)
 {
     for (const auto& [steps, caption] :
-         {std::pair{8, "8 Steps"}, {16, "16 Steps"}, {32, "32 Steps"}, {64, "64 Steps"}, {12, "Other...!"}}) {
+         {std::pair{8, "8 Steps"}, {16, "16 Steps"}, {32, "32 Steps"}, {64, "64 Steps"}}) {
         ShowTuneOf(steps);
         EXPECT_EQ(StepNos().currentText(), QString::fromLatin1(caption));
+        EXPECT_EQ(StepNos().count(), 5);
     }
+}
+
+TEST_F(StepNosCmbTest, ShowsANumberThatIsNotInItsListBeforeTheOthers)
+{
+    for (const int steps : {24, 12, 16, 2}) {
+        ShowTuneOf(steps);
+        EXPECT_EQ(StepNos().currentText(), QStringLiteral("%1 Steps").arg(steps));
+    }
+    EXPECT_EQ(StepNos().currentIndex(), 0);
+    EXPECT_EQ(StepNos().count(), 6);
+    EXPECT_EQ(StepNos().itemText(1), QStringLiteral("8 Steps"));
+}
+
+/// The place of a number of steps in the list; -1 is "Other...!".
+int PlaceOfSteps(const QComboBox& box, int steps)
+{
+    return box.findText(steps < 0 ? QStringLiteral("Other...!") : QStringLiteral("%1 Steps").arg(steps));
 }
 
 /// Picks a number of steps with the keys of the box, as its list does.
@@ -435,7 +463,7 @@ void PickSteps(QComboBox& box, int index)
 TEST_F(StepNosCmbTest, RepeatsThePatternOfACycleThatGrowsAndPlays)
 {
     ShowTuneOf(3);
-    PickSteps(StepNos(), 0);
+    PickSteps(StepNos(), PlaceOfSteps(StepNos(), 8));
     ASSERT_EQ(tune.StepCount, 8);
     std::string beats;
     for (std::int32_t i = 1; i <= 8; ++i)
@@ -449,7 +477,7 @@ TEST_F(StepNosCmbTest, RepeatsThePatternOfACycleThatGrowsAndPlays)
 TEST_F(StepNosCmbTest, SetsTheScrollToTheNewNumberAlsoWhereThePlayDoesNotBegin)
 {
     editorDisplay.editor = nullptr;
-    PickSteps(StepNos(), 3);
+    PickSteps(StepNos(), PlaceOfSteps(StepNos(), 64));
     EXPECT_EQ(Scroll().maximum(), 64 * 35 - 592);
     EXPECT_EQ(Surface().DurationBars().size(), 65U);
 }
@@ -472,7 +500,7 @@ TEST_F(StepNosCmbTest, AsksForAnyNumberUntilItIsOne)
         });
         Click(first, "OkBtn");
     });
-    PickSteps(StepNos(), 4);
+    PickSteps(StepNos(), PlaceOfSteps(StepNos(), -1));
     EXPECT_EQ(tune.StepCount, 5);
     ASSERT_GE(asked.size(), 3U);
     EXPECT_EQ(asked.front(), "4");
@@ -484,7 +512,7 @@ TEST_F(StepNosCmbTest, ReturnsToTheNumberOfStepsWithoutAnAnswer)
 {
     ShowTuneOf(16);
     WithNextForm([](BandedForm& form) { Click(form, "CancelBtn"); });
-    PickSteps(StepNos(), 4);
+    PickSteps(StepNos(), PlaceOfSteps(StepNos(), -1));
     EXPECT_EQ(tune.StepCount, 16);
     EXPECT_EQ(StepNos().currentText(), QStringLiteral("16 Steps"));
     EXPECT_EQ(edits, 0);
@@ -545,6 +573,14 @@ TEST_F(ChangeAllBtnTest, StandsBehindTheLastStepWhileAnyStepIsOn)
     editor.UpdateThisTune();
     for (const char* const name : names)
         EXPECT_TRUE(Find<QWidget>(name).isHidden()) << name;
+}
+
+TEST_F(ChangeAllBtnTest, ShowsItsHintThoughItLiesOnTheSurface)
+{
+    MoveTo(In(1, 30));
+    QTest::mouseMove(&Find<QWidget>("ChangeAllBtn"), QPoint(20, 20));
+    QTest::mouseMove(&Find<QWidget>("ChangeAllBtn"), QPoint(22, 20));
+    EXPECT_EQ(Hint(), "Change All button, use it to choose one instrument for all steps");
 }
 
 TEST_F(ChangeAllBtnTest, AsksForStepsFirst)

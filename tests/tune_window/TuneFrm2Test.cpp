@@ -247,6 +247,44 @@ TEST_F(TuneFrm2Test, ATuneIsKeptOnAnyAnswerButYes)
     EXPECT_EQ(statusLbl.text(), QString());
 }
 
+TEST_F(TuneFrm2Test, ButtonAndKeyDeleteTheChosenTuneAsTheMenuDoes)
+{
+    for (const bool byKey : {false, true}) {
+        MakeTuneFiles(2);
+        Shared().TuneTableCount = 0;
+        Open([&](TuneFrm2& window) {
+            PressTune(window, 2);
+            AnswerNext("NoBtn");
+            byKey ? QTest::keyClick(&GridOf(window), Qt::Key_Delete) : Click(window, "DeleteTuneBtn");
+            EXPECT_EQ(noted.back(), "Tune name: Tune 02");
+            EXPECT_TRUE(fs::exists(File("Tune 02.TqTun")));
+            AnswerNext("YesBtn");
+            byKey ? QTest::keyClick(&GridOf(window), Qt::Key_Delete) : Click(window, "DeleteTuneBtn");
+            EXPECT_FALSE(fs::exists(File("Tune 02.TqTun")));
+        });
+    }
+}
+
+TEST_F(TuneFrm2Test, ADoubleClickOnATuneIsOk)
+{
+    MakeTuneFiles(2);
+    Open([](TuneFrm2& window) {
+        const GridPlace place = PlaceInGrid(GridOf(window).Grid(), 2);
+        PressTune(window, 2);
+        QTest::mouseDClick(GridOf(window).childAt(place.x + 16, place.y + 16), Qt::LeftButton);
+        EXPECT_FALSE(window.isVisible());
+    });
+    EXPECT_EQ(tune.Name, "Tune 02");
+}
+
+TEST_F(TuneFrm2Test, ANewTuneTellsHowItBegins)
+{
+    Open([this](TuneFrm2& window) {
+        Click(window, "NewTuneBtn");
+        EXPECT_EQ(statusLbl.text(), QStringLiteral("Click a lamp to switch a step on"));
+    });
+}
+
 TEST_F(TuneFrm2Test, AnOriginalCannotBeDeleted)
 {
     MakeTuneFile(PlainTune("Lumo", "tonquill"));

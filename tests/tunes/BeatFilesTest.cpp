@@ -81,6 +81,19 @@ TEST_F(BeatFilesTest, LoadsNameStampSoundAndPicture)
     EXPECT_TRUE(beat.Loaded);
 }
 
+TEST_F(BeatFilesTest, NamesBeatsForPeopleAsTheirFilesAreWrittenAndWithoutTheirFamily)
+{
+    WriteBytes(Shared().UserBeats / "B_Acoustic Bass Low.wav", "");
+    WriteBytes(Shared().UserBeats / "my DOG.wav", "");
+    EXPECT_EQ(BeatNameForPeople("b_acoustic bass low"), "Acoustic Bass Low");
+    EXPECT_EQ(BeatNameForPeople("my dog"), "my DOG");
+    EXPECT_EQ(BeatNameForPeople("P_of a song"), "of a song") << "without a file the name itself is all there is";
+    EXPECT_EQ(BeatNameForPeople("b_"), "b_");
+    EXPECT_EQ(BeatNameForPeople("ab_c"), "ab_c");
+    EXPECT_EQ(BeatNameForPeople("__c"), "__c");
+    EXPECT_EQ(BeatNameForPeople(""), "");
+}
+
 TEST_F(BeatFilesTest, EmptiesABeatWithoutWave)
 {
     Beat beat = OldBeat();

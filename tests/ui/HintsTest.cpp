@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QTest>
 
 #include <memory>
@@ -38,6 +39,54 @@ TEST(ShowHint, NeedsNoStatusLine)
     EXPECT_EQ(label->text(), QStringLiteral("Save"));
     label.reset();
     ShowHint(QStringLiteral("Open"));
+}
+
+TEST(AddHintStrip, ShowsHintsWhileItsWindowHidesTheStatusLine)
+{
+    QWidget mainWindow;
+    mainWindow.setGeometry(0, 0, 300, 200);
+    QLabel statusLbl(&mainWindow);
+    statusLbl.setGeometry(0, 180, 300, 20);
+    SetStatusLbl(&statusLbl);
+    mainWindow.show();
+    QWidget window;
+    window.setGeometry(0, 0, 300, 150);
+    auto strip = std::make_unique<QLabel>(&window);
+    strip->resize(60, 20);
+    AddHintStrip(*strip);
+    window.show();
+    ShowHint(QStringLiteral("Save"));
+    EXPECT_EQ(strip->text(), QString()) << "the status line is seen";
+    window.resize(300, 190);
+    ShowHint(QStringLiteral("Save"));
+    EXPECT_EQ(strip->text(), QStringLiteral("Save"));
+    ShowHint(QStringLiteral("Save button, use it to save the song you made"));
+    EXPECT_TRUE(strip->text().endsWith(QChar(0x2026)));
+    ShowHint({});
+    EXPECT_EQ(strip->text(), QString());
+    strip.reset();
+    ShowHint(QStringLiteral("Open"));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Open"));
+    SetStatusLbl(nullptr);
+}
+
+TEST(HintWatcher, FollowsTheTabKey)
+{
+    QLabel statusLbl;
+    SetStatusLbl(&statusLbl);
+    QWidget window;
+    QLineEdit first(&window);
+    QLineEdit second(&window);
+    HintWatcher watcher(&window);
+    watcher.Watch(second, "You can type your name here");
+    window.show();
+    QApplication::setActiveWindow(&window);
+    first.setFocus();
+    QTest::keyClick(&first, Qt::Key_Tab);
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("You can type your name here"));
+    QTest::keyClick(&second, Qt::Key_Tab);
+    EXPECT_EQ(statusLbl.text(), QString());
+    SetStatusLbl(nullptr);
 }
 
 TEST(HintWatcher, ShowsAndClearsHintsAsTheMouseMoves)

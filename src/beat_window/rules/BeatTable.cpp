@@ -94,10 +94,12 @@ void LoadBeatFiles(BeatTable& table, std::string_view wanted)
     table.SelectedBeat = NewBeatSelection(table, folder.Pairs, wanted);
     table.BeatListCount = static_cast<std::int32_t>(folder.Pairs.size());
     table.BeatList.assign(1, Beat());
+    table.NamesForPeople.clear();
     table.BeatProtected.assign(1, false);
     const auto originals = index.ReadProtectedList();
     for (BeatPair& pair : folder.Pairs) {
         table.BeatProtected.push_back(originals.contains(NameKey(pair.Name)));
+        table.NamesForPeople[pair.Name] = WithoutFamily(PathText(pair.Wave.stem()));
         Beat& beat = table.BeatList.emplace_back();
         beat.Name = std::move(pair.Name);
         beat.Picture = SmallPicture(LoadPictureFile(pair.Picture));

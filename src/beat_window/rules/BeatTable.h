@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,6 +28,7 @@ inline constexpr std::int32_t kRefindBeat = -1;
 /// The beats of `UserBeats` as the beat window shows them.
 struct BeatTable {
     std::vector<Beat> BeatList = std::vector<Beat>(1); ///< from 1; names in lower case, sounds on demand
+    std::map<std::string, std::string> NamesForPeople; ///< by the names of the list
     std::vector<bool> BeatProtected = std::vector<bool>(1);
     std::int32_t BeatListCount = 0;
     std::int32_t SelectedBeat = 0; ///< 0 = none, or `kRefindBeat`

@@ -19,22 +19,6 @@ std::string_view StripHint(StripPlace place)
     return place == StripPlace::Volume ? kVolumeHint : kDurationHint;
 }
 
-/// The name of a beat as a person says it: without the letter of its family, its words with capitals, which the names
-/// in the beat window have lost.
-std::string SpokenBeat(std::string_view name)
-{
-    if (name.size() > 2 && name[1] == '_')
-        name.remove_prefix(2);
-    std::string spoken(name);
-    bool begins = true;
-    for (char& letter : spoken) {
-        if (begins && letter >= 'a' && letter <= 'z')
-            letter = static_cast<char>(letter - 'a' + 'A');
-        begins = letter == ' ';
-    }
-    return spoken;
-}
-
 } // namespace
 
 StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int32_t x, std::int32_t y)
@@ -44,25 +28,24 @@ StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int3
     if (number == 0 || zone == StepZone::None)
         return {};
     if (zone == StepZone::Lamp)
-        return {StepCursor::Normal, kLampHint, {}};
+        return {StepCursor::Normal, kLampHint, {}, {}};
     const TuneStep& step = At(tune.Steps, number);
     if (step.OnPos != 1)
         return {};
     if (zone == StepZone::Icon)
-        return {StepCursor::Normal, kIconHint,
-                step.StepBeat.Name.empty() ? std::string(kNoBeatToolTip) : step.StepBeat.Name};
+        return {StepCursor::Normal, kIconHint, step.StepBeat.Name.empty() ? kNoBeatToolTip : "", step.StepBeat.Name};
     if (zone == StepZone::Strip)
-        return {StepCursor::PianoCursorImg, StripHint(StripPlaceAt(number, stepsLeft, x)), {}};
-    return {StepCursor::PianoCursorImg, kKeyHint, {}};
+        return {StepCursor::PianoCursorImg, StripHint(StripPlaceAt(number, stepsLeft, x)), {}, {}};
+    return {StepCursor::PianoCursorImg, kKeyHint, {}, {}};
 }
 
-std::string StepInWords(const TuneStep& step, std::int32_t number)
+std::string StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat)
 {
     const std::string words = "Step " + std::to_string(number);
     if (step.OnPos != 1)
         return words + ", off";
-    const std::string beat = step.StepBeat.Name.empty() ? "no instrument" : SpokenBeat(step.StepBeat.Name);
-    return words + ", on, " + beat + ", pitch " + std::to_string(step.PitchShift);
+    const std::string instrument(beat.empty() ? "no instrument" : beat);
+    return words + ", on, " + instrument + ", pitch " + std::to_string(step.PitchShift);
 }
 
 } // namespace sprout

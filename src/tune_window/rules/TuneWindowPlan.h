@@ -40,7 +40,7 @@ struct TuneWindowPlan {
     PlanBox tunePic;
     PlanBox tuneNameLbl;
     PlanBox createdByLbl;
-    std::array<PlanBox, 6> tools; ///< round buttons
+    std::array<PlanBox, 7> tools; ///< round buttons
     PlanBox okBtn;
     PlanBox cancelBtn;
     PlanBox editor;

@@ -56,7 +56,7 @@ TEST(PlanTuneWindow, PutsTheButtonsBetweenGridAndEditorOnASmallScreen)
     EXPECT_EQ(plan.gridRows, 3);
     EXPECT_EQ(plan.grid, (PlanBox{12, 32, 755, 132}));
     EXPECT_EQ(plan.tools[0].y, 170);
-    EXPECT_EQ(plan.editor.y, 232);
+    EXPECT_EQ(plan.editor.y, 224);
 }
 
 TEST(PlanTuneWindow, PutsTheButtonsBesideTheGridOnALargeScreen)
