@@ -171,7 +171,8 @@ void BeatWindow::DeleteBeat()
                           "This an original Beat from " + std::string(kProductFamily), "It can not be deleted.");
     const std::string name = SelectedEntry(table).Name;
     HintBeatCommand("Click Yes to delete, No to keep");
-    if (AskYesNo("Are you sure to delete this Beat?", "Beat name: " + BeatNameForPeople(name), " Confirm Delete Beat") != 1)
+    if (AskYesNo("Are you sure to delete this Beat?", "Beat name: " + BeatNameForPeople(name),
+                 " Confirm Delete Beat") != 1)
         return;
     HintBeatCommand("");
     if (table.SelectedBeat == table.BeatListCount)

@@ -204,7 +204,8 @@ void BeatWindow::FillGrid()
     entries.reserve(table.BeatList.size());
     for (std::int32_t i = 1; i <= table.BeatListCount; ++i) {
         const Beat& beat = At(table.BeatList, i);
-        entries.push_back({beat.Picture, table.NamesForPeople[beat.Name], table.BeatProtected[static_cast<std::size_t>(i)]});
+        entries.push_back(
+            {beat.Picture, table.NamesForPeople[beat.Name], table.BeatProtected[static_cast<std::size_t>(i)]});
     }
     ShowAllPic->SetEntries(entries);
 }

@@ -256,7 +256,8 @@ void StepEditor::SyncStepFocus()
     while (stepFocus.size() < wanted)
         stepFocus.push_back(MakeStepFocus(static_cast<std::int32_t>(stepFocus.size())));
     for (std::int32_t step = 1; step <= reached; ++step)
-        At(stepFocus, step)->ShowStep(At(tune.Steps, step), NameForPeople(At(tune.Steps, step).StepBeat.Name), StepsLeft);
+        At(stepFocus, step)
+            ->ShowStep(At(tune.Steps, step), NameForPeople(At(tune.Steps, step).StepBeat.Name), StepsLeft);
 }
 
 StepFocus* StepEditor::MakeStepFocus(std::int32_t step)

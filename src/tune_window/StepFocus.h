@@ -18,7 +18,8 @@ class StepFocus : public QAbstractButton {
 public:
     StepFocus(std::int32_t step, QWidget* surface);
 
-    /// Takes the step's name and state, and its place. beat: its beat's name for people. stepsLeft: left edge of step 1.
+    /// Takes the step's name and state, and its place. beat: its beat's name for people. stepsLeft: left edge of
+    /// step 1.
     void ShowStep(const TuneStep& step, std::string_view beat, std::int32_t stepsLeft);
 
 Q_SIGNALS:

@@ -137,8 +137,9 @@ void TuneFrm2::MakeMoveMnu()
         });
     }
     PopPosiMnu->insertSeparator(MoveMnu[kDeleteItem]);
-    connect(PopPosiMnu, &QMenu::hovered, this,
-            [this](const QAction* item) { ShowHint(item == MoveMnu[kDeleteItem] ? QString::fromLatin1(kDeleteHint) : QString()); });
+    connect(PopPosiMnu, &QMenu::hovered, this, [this](const QAction* item) {
+        ShowHint(item == MoveMnu[kDeleteItem] ? QString::fromLatin1(kDeleteHint) : QString());
+    });
 }
 
 void TuneFrm2::SetTabOrders()
@@ -165,8 +166,8 @@ void TuneFrm2::FitTo(QSize room)
     PutAt(*TuneNameLbl, plan.tuneNameLbl);
     PutAt(*CreatedByLbl, plan.createdByLbl);
     std::size_t tool = 0;
-    for (const char* name : {"TestPlayBtn", "RndTuneBtn", "NewTuneBtn", "ChangePicBtn", "SaveTuneBtn", "DeleteTuneBtn",
-                             "HelpBtn"})
+    for (const char* name :
+         {"TestPlayBtn", "RndTuneBtn", "NewTuneBtn", "ChangePicBtn", "SaveTuneBtn", "DeleteTuneBtn", "HelpBtn"})
         PutAt(*findChild<QWidget*>(QString::fromLatin1(name)), plan.tools[tool++]);
     PutAt(*findChild<QWidget*>(QStringLiteral("OkBtn")), plan.okBtn);
     PutAt(*findChild<QWidget*>(QStringLiteral("CancelBtn")), plan.cancelBtn);

@@ -22,8 +22,8 @@ inline constexpr std::int32_t kLongestBeatSeconds = 5;
 /// The base name of a beat's file without the letter of its family: "Acoustic Bass Low" of "B_Acoustic Bass Low".
 [[nodiscard]] std::string WithoutFamily(std::string fileName);
 
-/// A beat's name as people read it: written as its file in `UserBeats` is, where there is one, and without the letter of
-/// its family. "b_acoustic bass low" is "Acoustic Bass Low".
+/// A beat's name as people read it: written as its file in `UserBeats` is, where there is one, and without the letter
+/// of its family. "b_acoustic bass low" is "Acoustic Bass Low".
 [[nodiscard]] std::string BeatNameForPeople(std::string_view name);
 
 /// Fills a beat from its pair of files in `UserBeats`, cut to 5 seconds. Without a .wav the beat comes out empty; a

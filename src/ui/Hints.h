@@ -43,8 +43,8 @@ void ShowHintOfFocus(const QWidget& widget, const QFocusEvent& event);
 /// The property that holds a widget's hint; a widget without it has the hint of what it lies on.
 inline constexpr const char* kHintProperty = "hint";
 
-/// Shows a hint for every move of the mouse over widgets that are no image buttons, and for the focus that comes to them
-/// by the keyboard.
+/// Shows a hint for every move of the mouse over widgets that are no image buttons, and for the focus that comes to
+/// them by the keyboard.
 class HintWatcher : public QObject {
     Q_OBJECT
 

@@ -36,7 +36,8 @@ TEST_F(StepPointerTest, TellsOfTheLampOfEveryStep)
 TEST_F(StepPointerTest, TellsOfTheKeysOfAnOnStep)
 {
     for (const std::int32_t y : {150, 220})
-        EXPECT_EQ(Over(1, y), (StepPointer{StepCursor::PianoCursorImg, "Click on a piano key to change pitch", "", ""}));
+        EXPECT_EQ(Over(1, y),
+                  (StepPointer{StepCursor::PianoCursorImg, "Click on a piano key to change pitch", "", ""}));
     EXPECT_EQ(Over(2, 150), nothing);
     EXPECT_EQ(Over(1, 213), nothing);
 }
@@ -53,8 +54,8 @@ TEST_F(StepPointerTest, TellsOfThePlacesOfTheStrip)
 {
     EXPECT_EQ(Over(1, 295, 2),
               (StepPointer{StepCursor::PianoCursorImg, "Volume Slider, Click on the slider to change Volume", "", ""}));
-    EXPECT_EQ(Over(1, 295, 29),
-              (StepPointer{StepCursor::PianoCursorImg, "Duration slider, Click on the slider to change Duration", "", ""}));
+    EXPECT_EQ(Over(1, 295, 29), (StepPointer{StepCursor::PianoCursorImg,
+                                             "Duration slider, Click on the slider to change Duration", "", ""}));
     EXPECT_EQ(Over(1, 295), (StepPointer{StepCursor::PianoCursorImg, "", "", ""}));
     EXPECT_EQ(Over(2, 295, 2), nothing);
 }
