@@ -10,7 +10,7 @@ namespace sprout {
 
 namespace {
 
-constexpr int kChoosenSide = 2 * kPictureSide; // whole pixels for every pixel of the picture
+constexpr int kChoosenSide = 2 * kPictureSide;
 constexpr int kChoosenFrame = 4;
 constexpr qreal kChoosenCorner = 8;
 
@@ -42,8 +42,7 @@ void ChoosenPicture::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(QPen(kStone, 2));
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), kChoosenCorner, kChoosenCorner);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform,
-                          image.width() != kPictureSide || image.height() != kPictureSide);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     if (!image.isNull())
         painter.drawImage(QRect(kChoosenFrame, kChoosenFrame, kChoosenSide, kChoosenSide), image);
 }

@@ -169,10 +169,10 @@ void TunFramPic::PaintFrame(QPainter& painter, std::int32_t step) const
 
 void TunFramPic::PaintKeys(QPainter& painter, std::int32_t step) const
 {
-    const QPixmap octave = Art("KeysPic", kOctaveWidth, kOctaveHeight);
+    // The key of the beat's own pitch, the lowest one of the upper octave, stands out.
     const int x = StepLeft(step, stepsLeft);
-    painter.drawPixmap(x, kUpperOctaveTop, octave);
-    painter.drawPixmap(x, kLowerOctaveTop, octave);
+    painter.drawPixmap(x, kUpperOctaveTop, Art("KeysPicOwnPitch", kOctaveWidth, kOctaveHeight));
+    painter.drawPixmap(x, kLowerOctaveTop, Art("KeysPic", kOctaveWidth, kOctaveHeight));
 }
 
 void TunFramPic::PaintBars(QPainter& painter, const QRect& area) const

@@ -43,6 +43,7 @@ void TunePicture::paintEvent(QPaintEvent* /*event*/)
         return;
     const int times = std::max(1, (std::min(width(), height()) - 2 * kRim) / kPictureSide);
     const int side = times * kPictureSide;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(QRect((width() - side) / 2, (height() - side) / 2 + (isDown() ? 1 : 0), side, side), image);
 }
 

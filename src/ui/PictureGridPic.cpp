@@ -179,6 +179,7 @@ void PictureGridPic::SetScrollRange()
     vScroll1->setPageStep(std::max(height() / kGridCell, 1));
     vScroll1->setValue(topRow);
     vScroll1->setEnabled(range.enabled);
+    vScroll1->setVisible(range.enabled);
 }
 
 void PictureGridPic::PlaceFrame()

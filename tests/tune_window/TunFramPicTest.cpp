@@ -21,9 +21,10 @@ protected:
 
 TEST(KeysPic, ShowsEveryKeyWhereItIsHit)
 {
-    for (const int scale : {1, 2}) {
+    for (const auto& [name, scale] : {std::pair{"KeysPic", 1}, {"KeysPic", 2}, {"KeysPicOwnPitch", 1}}) {
         const QImage octave =
-            Artwork(QStringLiteral("pictures/KeysPic"), QSize(kOctaveWidth, kOctaveHeight), scale).toImage();
+            Artwork(QStringLiteral("pictures/") + QString::fromLatin1(name), QSize(kOctaveWidth, kOctaveHeight), scale)
+                .toImage();
         ASSERT_EQ(octave.size(), QSize(kOctaveWidth, kOctaveHeight) * scale);
         for (int y = 0; y < octave.height(); ++y)
             for (int x = 0; x < octave.width(); ++x) {
@@ -53,6 +54,15 @@ TEST_F(TunFramPicTest, DrawsLampsForAllStepsAndKeysForOnSteps)
             for (const int top : {141, 213})
                 EXPECT_EQ(drawn.pixelColor(x + place.x(), top + place.y()) == octave.pixelColor(place), isOn) << step;
     }
+}
+
+TEST_F(TunFramPicTest, TintsTheKeyOfTheBeatsOwnPitchAlone)
+{
+    const QImage drawn = Drawn();
+    const int x = StepLeft(1, 8) + 24;
+    EXPECT_EQ(drawn.pixelColor(x, kUpperOctaveTop + 66), QColor(0xFF, 0xE0, 0x8A));
+    EXPECT_EQ(drawn.pixelColor(x, kUpperOctaveTop + 56), QColor(Qt::white));
+    EXPECT_EQ(drawn.pixelColor(x, kLowerOctaveTop + 66), QColor(Qt::white));
 }
 
 TEST_F(TunFramPicTest, PrintsTheNumberOfEveryStepBelowItsLamp)

@@ -144,7 +144,7 @@ TEST_F(TuneFrm2Test, EighteenTunesNeedNoScrollBarWhereTheyAllFit)
     MakeTuneFiles(18);
     Open([](TuneFrm2& window) {
         window.FitTo({640, 480});
-        EXPECT_FALSE(GridOf(window).VScroll1().isEnabled());
+        EXPECT_TRUE(GridOf(window).VScroll1().isHidden());
         EXPECT_EQ(GridOf(window).VScroll1().maximum(), 1);
     });
 }

@@ -41,6 +41,17 @@ TEST_F(TunePictureTest, DrawsAPictureAtAWholeMultipleOfItsSize)
     EXPECT_EQ(PixelAt(71, 38), QColor(Qt::white));
 }
 
+TEST_F(TunePictureTest, SmoothsWhatItEnlarges)
+{
+    std::vector<std::uint32_t> pixels;
+    for (int i = 0; i < kPictureSide * kPictureSide; ++i)
+        pixels.push_back(i % kPictureSide < 16 ? kRed : kGreen);
+    tunePic.SetPicture({kPictureSide, kPictureSide, std::move(pixels)});
+    const QColor between = PixelAt(38, 38);
+    EXPECT_GT(between.red(), 20);
+    EXPECT_GT(between.green(), 20);
+}
+
 TEST_F(TunePictureTest, ShowsOfALargerPictureWhatATuneFileKeeps)
 {
     tunePic.SetPicture(WidePicture(100));
