@@ -24,6 +24,9 @@ if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
     endforeach()
     set_tests_properties(Desk.PlayWholeSong PROPERTIES TIMEOUT 240)
 
-    add_test(NAME ExportFaults COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/export-faults ${CMAKE_BINARY_DIR})
-    set_tests_properties(ExportFaults PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120 SKIP_RETURN_CODE 77)
+    foreach(faults IN ITEMS export recording)
+        add_test(NAME Faults.${faults}
+                 COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/${faults}-faults ${CMAKE_BINARY_DIR})
+        set_tests_properties(Faults.${faults} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120 SKIP_RETURN_CODE 77)
+    endforeach()
 endif()
