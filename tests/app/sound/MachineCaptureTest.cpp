@@ -376,6 +376,22 @@ TEST_F(MachineCaptureTest, AStoppedCaptureIsTheCallersAndAnotherCanStart)
     EXPECT_FALSE(fs::exists(other));
 }
 
+TEST_F(MachineCaptureTest, AStoppedCaptureIsLockedUntilTheRelease)
+{
+    Plug("mic1");
+    ASSERT_EQ(capture.Open(), CaptureOpening::Ready);
+    ASSERT_TRUE(Start());
+    capture.Stop();
+    DeleteLeftCaptureFiles(folder.Path());
+    EXPECT_TRUE(fs::exists(left));
+    EXPECT_TRUE(fs::exists(right));
+    capture.Release();
+    EXPECT_TRUE(Comes([this] { // the files are closed behind the call
+        DeleteLeftCaptureFiles(folder.Path());
+        return !fs::exists(left) && !fs::exists(right);
+    }));
+}
+
 TEST_F(MachineCaptureTest, AStopBeforeTheFirstFrameLeavesFilesOfOneLength)
 {
     Plug("mic1");
