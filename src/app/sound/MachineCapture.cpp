@@ -102,8 +102,8 @@ void MachineCapture::CloseFiles()
 try {
     if (files)
         closer = std::jthread([closed = std::move(files)]() mutable { closed.reset(); });
-} catch (const std::system_error&) {
-    files.reset(); // no thread can be started
+} catch (const std::exception&) {
+    return; // no thread can be started, and what it would have closed is closed
 }
 
 SourceState MachineCapture::LookAtSource()
