@@ -24,7 +24,7 @@ class Disk:
 
 
 def enter_own_mounts():
-    """Runs this script again where it may mount; what it mounts is gone with it. Ends it as skipped where nobody may."""
+    """Runs this script again where it may mount; what it mounts goes with it. Ends it as skipped where nobody may."""
     if os.environ.get(INSIDE) == "1":
         return
     into = ["unshare", *([] if os.geteuid() == 0 else ["--map-root-user"]), "--mount"]

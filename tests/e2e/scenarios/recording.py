@@ -79,7 +79,8 @@ def RecordEditAndPlay(desk):
     paint_voice(desk, program)
     save_song(program, "Voice")
     heard = expect_voice(desk, desk.song("Voice"), wanted)
-    expect(SongFile(desk.song("Voice")).painted(AUDIO_TRACK)[:139] == list(range(1, 140)), "the track is painted otherwise")
+    painted = SongFile(desk.song("Voice")).painted(AUDIO_TRACK)
+    expect(painted[:139] == list(range(1, 140)), "the track is painted otherwise")
 
     # Everything louder, by a quarter.
     strip = program.wait_for("TrackTitlePic")
@@ -121,7 +122,7 @@ def RecordWithoutMicrophone(desk):
 
 @scenario()
 def TwoProgramsRecord(desk):
-    """Two children record at once, each with a program of its own: each gets the whole sound and no file of the other's."""
+    """Two children record at once, each with a program: each gets the whole sound and no file of the other's."""
     microphone = desk.sound.plug_in_microphone()
     programs = {name: desk.start(name=name) for name in ("Anna", "Ben")}
     for program in programs.values():
