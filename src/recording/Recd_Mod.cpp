@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "core/ByteCursor.h"
+#include "core/Parallel.h"
 #include "core/Paths.h"
 
 namespace sprout {
@@ -75,12 +76,19 @@ RecdState& Recd()
 void LoadRecordedFiles(const fs::path& left, const fs::path& right)
 {
     if (const std::optional<RawFile> leftFile = RawFile::Open(left)) {
-        const auto length = static_cast<std::int32_t>(leftFile->Samples() - 1);
-        Channel leftSamples = leftFile->Read(length);
         const std::optional<RawFile> rightFile = RawFile::Open(right);
-        Channel rightSamples = rightFile ? rightFile->Read(length) : leftSamples;
+        const auto length = static_cast<std::int32_t>(leftFile->Samples() - 1);
+        Channel leftSamples;
+        Channel rightSamples;
+        // Both at once: a child waits for long recordings.
+        ParallelFor(2, [&](std::size_t channel) {
+            if (channel == 0)
+                leftSamples = leftFile->Read(length);
+            else if (rightFile)
+                rightSamples = rightFile->Read(length);
+        });
+        Recd().RecdWavR = rightFile ? std::move(rightSamples) : leftSamples;
         Recd().RecdWavL = std::move(leftSamples);
-        Recd().RecdWavR = std::move(rightSamples);
         Recd().RecdLength = length;
     }
     DeleteFile(left);

@@ -25,7 +25,7 @@ constexpr QSize kWidestHelp{760, 600};
 constexpr QSize kLeastHelp{600, 400};
 constexpr int kScreenEdge = 20;
 constexpr int kHelpMargin = 14;
-constexpr int kPagesWidth = 208;
+constexpr int kPagesWidth = 224; ///< room for every title beside a scroll bar
 constexpr int kPageIconSide = 32;
 constexpr int kButtonRowHeight = 44;
 

@@ -16,13 +16,17 @@ if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
             PlayWholeSong PlayShortSong PaintAndPlay TakeStrokeBack ChangeTempo SoundServerDies StopAndPlayFromCell
             HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart NoDisplay NoSoundServer SmallScreen MoveAndResize
             MaximizeAndMinimize MakeSongOfTunes TakeSongHome MailByThunderbirdOrNobody HideTheMail
-            MakeBeatsOfOtherSounds StopALongExport RecordEditAndPlay RecordWithoutMicrophone)
+            MakeBeatsOfOtherSounds StopALongExport RecordEditAndPlay RecordWithoutMicrophone TwoProgramsRecord
+            KillWhileRecording)
         add_test(NAME Desk.${scenario}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})
         set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
     endforeach()
     set_tests_properties(Desk.PlayWholeSong PROPERTIES TIMEOUT 240)
 
-    add_test(NAME ExportFaults COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/export-faults ${CMAKE_BINARY_DIR})
-    set_tests_properties(ExportFaults PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120 SKIP_RETURN_CODE 77)
+    foreach(faults IN ITEMS export recording)
+        add_test(NAME Faults.${faults}
+                 COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/${faults}-faults ${CMAKE_BINARY_DIR})
+        set_tests_properties(Faults.${faults} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120 SKIP_RETURN_CODE 77)
+    endforeach()
 endif()

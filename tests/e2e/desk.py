@@ -138,13 +138,13 @@ class Program:
 
     def __init__(self, desk, environment, name="program"):
         self.desk = desk
-        self.socket = os.path.join(desk.folder, "widgets")
+        self.socket = os.path.join(desk.folder, name + ".widgets")
         if os.path.exists(self.socket):
             os.remove(self.socket)
         self.errors = os.path.join(desk.folder, name + ".errors")
         with open(self.errors, "w", encoding="utf-8") as errors:
-            self.process = desk.processes.start([desk.executable], env=environment, cwd=desk.folder, stdout=errors,
-                                                stderr=errors)
+            self.process = desk.processes.start([desk.executable], env={**environment, "SPROUT_WIDGETS": self.socket},
+                                                cwd=desk.folder, stdout=errors, stderr=errors)
 
     def report(self, seconds=60):
         """All that the program shows, asked of it by the plug-in; it answers when it waits for its user."""
@@ -198,6 +198,12 @@ class Program:
     def wait_until_gone(self, kind, seconds=20):
         wait_for(f"the end of the window {kind}",
                  lambda: not any(widget.kind == kind for widget in self.widgets()), seconds)
+
+    def to_front(self, kind):
+        """Brings one of its windows to the front of all programs'."""
+        screen, number = self.desk.screen, self.wait_for_window(kind).told["id"]
+        screen.ask("wmctrl", "-i", "-a", hex(number))
+        wait_for(f"the window {kind} in front", lambda: self.desk.window_in_front() == number)
 
     def texts(self):
         """All that stands written in the program's windows."""
@@ -273,7 +279,7 @@ class Desk:
                        "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "TMPDIR": self.temp, "LANG": "C.UTF-8",
                        "QT_PLUGIN_PATH": os.path.join(self.build, "e2e"),
                        "QT_QPA_GENERIC_PLUGINS": "sproutwidgets",
-                       "SPROUT_WIDGETS": os.path.join(self.folder, "widgets"), "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
+                       "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
         for name in ("WAYLAND_DISPLAY", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME"):
             environment.pop(name, None)
         for name, value in changes.items():
@@ -283,9 +289,10 @@ class Desk:
                 environment[name] = value
         return environment
 
-    def start(self, seconds=30, **changes):
-        """Starts the program and gives it once its window waits for its user."""
-        program = Program(self, self.environment(**changes))
+    def start(self, seconds=30, name="program", **changes):
+        """Starts the program and gives it once its window waits for its user. name: tells programs that run at once
+        apart."""
+        program = Program(self, self.environment(**changes), name)
         program.wait_for_window("MainFrm", seconds)
         return program
 
@@ -323,3 +330,8 @@ class Desk:
     def windows(self):
         """The numbers of all windows that the window manager knows."""
         return [int(number, 16) for number in re.findall(r"0x[0-9a-f]+", self.screen.property("_NET_CLIENT_LIST"))]
+
+    def window_in_front(self):
+        """The number of the window that has the keyboard."""
+        told = re.search(r"0x[0-9a-f]+", self.screen.property("_NET_ACTIVE_WINDOW"))
+        return int(told.group(), 16) if told else None

@@ -258,6 +258,23 @@ TEST_F(AudioTrackCommandsTest, EditsTheTrackUnderThePointer)
     EXPECT_THAT(edited, ElementsAre(2));
 }
 
+TEST_F(AudioTrackCommandsTest, DrawsTheRowAnewWhereTheSoundWasChanged)
+{
+    MakeAudio(2, 5000);
+    const QPoint place = CellPlace(2, 3);
+    const auto shown = [&] { return Part("TrackPic").grab().toImage().pixelColor(place + QPoint(1, 0)); };
+    const QColor unpainted = shown();
+    for (const bool wasChanged : {false, true}) {
+        audioEditor = [&](std::int32_t) {
+            Paint(2, 1, 10); // so that the row looks otherwise once it is drawn
+            return wasChanged;
+        };
+        Hover(2, 30);
+        audioTracks->TrackAudioBtn();
+        EXPECT_EQ(shown() != unpainted, wasChanged);
+    }
+}
+
 TEST_F(AudioTrackCommandsTest, EditsNothingWithoutATrack)
 {
     audioEditor = [](std::int32_t) -> bool { throw RunTimeError("opened"); };

@@ -127,6 +127,45 @@ TEST_F(RecdModTest, KeepsArraysAndFilesWhereTheRightFileCannotBeRead)
     EXPECT_TRUE(fs::exists(left));
 }
 
+/// Gives a file another size when memory for a long sound is asked for: when its length is known, before it is read.
+class ResizingMachine : public FakeMachine {
+public:
+    ResizingMachine(const fs::path& resized, std::uintmax_t newSize) : file(resized), size(newSize) {}
+    void PreferLargePages(void* /*memory*/, std::size_t /*bytes*/) const override { fs::resize_file(file, size); }
+
+private:
+    const fs::path file;
+    const std::uintmax_t size;
+};
+
+TEST_F(RecdModTest, KeepsArraysAndFilesWhereAFileShrinksWhileItIsRead)
+{
+    Recd().RecdWavL = Channel(3);
+    for (const fs::path& file : {left, right}) {
+        WriteBytes(left, std::string(5'000'000, 'a'));
+        WriteBytes(right, std::string(5'000'000, 'b'));
+        ResizingMachine machine(file, 1000);
+        TheServices().machine = &machine;
+        EXPECT_THROW(Load(), RunTimeError);
+        EXPECT_EQ(Recd().RecdWavL.UpperBound(), 3);
+        EXPECT_EQ(Recd().RecdWavR.UpperBound(), 0);
+        EXPECT_EQ(Recd().RecdLength, 0);
+        EXPECT_TRUE(fs::exists(left));
+        EXPECT_TRUE(fs::exists(right));
+    }
+}
+
+TEST_F(RecdModTest, ReadsNoMoreOfAFileThatGrowsWhileItIsRead)
+{
+    WriteBytes(left, std::string(5'000'000, 'a'));
+    ResizingMachine machine(left, 9'000'000);
+    TheServices().machine = &machine;
+    Load();
+    EXPECT_EQ(Recd().RecdLength, 2'499'999);
+    EXPECT_EQ(Recd().RecdWavL.UpperBound(), 2'499'999);
+    EXPECT_EQ(Recd().RecdWavL[2'499'999], 0x6161);
+}
+
 TEST_F(RecdModTest, AllocatesNoMoreThanTheSamples)
 {
     WriteBytes(left, std::string(200'000, 'a'));

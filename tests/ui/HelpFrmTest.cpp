@@ -75,6 +75,13 @@ TEST_F(HelpFrmTest, EveryPageOfTheListIsThere)
     }
 }
 
+TEST_F(HelpFrmTest, EveryTitleHasRoomBesideAScrollBar)
+{
+    const QListWidget& pages = Pages(Open());
+    const int room = pages.contentsRect().width() - pages.verticalScrollBar()->sizeHint().width();
+    EXPECT_LE(pages.sizeHintForColumn(0), room);
+}
+
 TEST_F(HelpFrmTest, EveryLinkAndEveryPictureOfItsPagesIsThere)
 {
     HelpFrm& help = Open();

@@ -30,7 +30,6 @@ constexpr std::array kSongNames{"Zumi",
                                 "Drum train",
                                 "The very long song that Grandmother and I made together on a rainy Sunday in autumn"};
 constexpr int kManySongs = 200;
-constexpr int kHelpPagesDrawn = 7;
 
 void SavePicture(QWidget& window, const QString& folder, const QString& name)
 {
@@ -73,7 +72,7 @@ void DrawHelp(const QString& folder)
     HelpFrm help;
     auto* book = help.findChild<QTextBrowser*>(QStringLiteral("BookTxt"));
     auto* pages = help.findChild<QListWidget*>(QStringLiteral("PagesLst"));
-    for (int page = 0; page < kHelpPagesDrawn; ++page) {
+    for (int page = 0; page < pages->count(); ++page) {
         pages->setCurrentRow(page);
         SavePicture(help, folder, QStringLiteral("help%1").arg(page + 1));
         book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);

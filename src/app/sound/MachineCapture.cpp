@@ -92,9 +92,18 @@ void MachineCapture::LetFilesGo()
     writer.reset();
     if (files && !isStopped)
         files->Delete();
-    files.reset();
+    CloseFiles();
     isStopped = true;
     isGone = false;
+}
+
+/// The disk takes the space of deleted files back when they are closed, and a child waits for that after a long take.
+void MachineCapture::CloseFiles()
+try {
+    if (files)
+        closer = std::jthread([closed = std::move(files)]() mutable { closed.reset(); });
+} catch (const std::exception&) {
+    return; // no thread can be started, and what it would have closed is closed
 }
 
 SourceState MachineCapture::LookAtSource()

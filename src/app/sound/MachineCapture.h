@@ -43,6 +43,7 @@ private:
     /// Notes where the source went while it was captured.
     SourceState LookAtSource();
     void LetFilesGo();
+    void CloseFiles();
 
     const CaptureLimits limits;
     CaptureIntake intake;
@@ -56,6 +57,7 @@ private:
     bool isStopped = true;
     bool isGone = false; // the source, while it was captured
     std::jthread cleaner;
+    std::jthread closer;
 };
 
 } // namespace sprout

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <chrono>
-#include <cstddef>
 #include <cstdint>
 #include <string>
 
 #include "service/CaptureSource.h"
+#include "service/pulse/PulseCaptureFeed.h"
 #include "service/pulse/PulseConnection.h"
 
 struct pa_stream;
@@ -27,28 +26,19 @@ public:
     /// Opens the source of that name. Waits until `deadline` at most. framesToSkip: are thrown away at the beginning.
     [[nodiscard]] bool Open(const std::string& name, std::int64_t framesToSkip, PulseConnection::Lock& lock,
                             PulseConnection::Time deadline);
-    /// From now on what comes goes to `captureSink`. follows: the stream behind which this one follows; what lies
-    /// between both is a hole. Null where there is none.
-    void GiveTo(CaptureSink& captureSink, const PulseCaptureStream* follows);
+    /// From now on what comes goes to `captureSink`, see `PulseCaptureFeed`.
+    void GiveTo(CaptureSink& captureSink, const PulseCaptureStream* follows)
+    {
+        feed.GiveTo(captureSink, follows ? &follows->feed : nullptr);
+    }
     [[nodiscard]] SourceState State() const;
     [[nodiscard]] const std::string& Source() const { return source; }
 
 private:
-    using Clock = std::chrono::steady_clock;
-
-    void OnRead();
-    void Take(const void* data, std::size_t bytes);
-    /// Takes what is still to be skipped away from the front of so many frames; returns how many go.
-    [[nodiscard]] std::int64_t Skip(std::int64_t frames);
-    void TellGap(std::int64_t frames);
-
     PulseConnection& connection;
     pa_stream* stream = nullptr;
     std::string source;
-    CaptureSink* sink = nullptr;
-    std::int64_t skipped = 0; // frames still to be thrown away
-    bool hasGap = false;      // in front of the next frame, since `lastTaken`
-    Clock::time_point lastTaken;
+    PulseCaptureFeed feed;
 };
 
 } // namespace sprout

@@ -250,6 +250,25 @@ TEST_F(MachineCaptureTest, AMutedSourceIsSilentAndAVolumeAboveZeroUnmutesIt)
     EXPECT_LT(capture.Status().SilentSeconds, 1);
 }
 
+TEST_F(MachineCaptureTest, OnlyAVolumeAboveZeroUnmutesASource)
+{
+    Plug("mic1");
+    const auto isMuted = [this] {
+        return server.Told({"env", "LC_ALL=C", "pactl", "get-source-mute", "mic1-mic"}).find("yes") !=
+               std::string::npos;
+    };
+    ASSERT_TRUE(server.Does({"set-source-mute", "mic1-mic", "1"}));
+    capture.SetVolume(IndexOf("mic1-for-people"), 0);
+    EXPECT_EQ(Volume("mic1-for-people"), 0);
+    EXPECT_TRUE(isMuted());
+    capture.SetVolume(IndexOf("mic1-for-people"), 656); // one percent
+    EXPECT_EQ(Volume("mic1-for-people"), 656);
+    EXPECT_FALSE(isMuted());
+    capture.SetVolume(IndexOf("mic1-for-people"), 0);
+    EXPECT_EQ(Volume("mic1-for-people"), 0);
+    EXPECT_FALSE(isMuted()) << "silent by its volume, and not muted by this program";
+}
+
 TEST_F(MachineCaptureTest, AVolumeChangedFromOutsideIsSeen)
 {
     Plug("mic1");
@@ -355,6 +374,22 @@ TEST_F(MachineCaptureTest, AStoppedCaptureIsTheCallersAndAnotherCanStart)
     EXPECT_TRUE(fs::exists(left));
     EXPECT_TRUE(fs::exists(right));
     EXPECT_FALSE(fs::exists(other));
+}
+
+TEST_F(MachineCaptureTest, AStoppedCaptureIsLockedUntilTheRelease)
+{
+    Plug("mic1");
+    ASSERT_EQ(capture.Open(), CaptureOpening::Ready);
+    ASSERT_TRUE(Start());
+    capture.Stop();
+    DeleteLeftCaptureFiles(folder.Path());
+    EXPECT_TRUE(fs::exists(left));
+    EXPECT_TRUE(fs::exists(right));
+    capture.Release();
+    EXPECT_TRUE(Comes([this] { // the files are closed behind the call
+        DeleteLeftCaptureFiles(folder.Path());
+        return !fs::exists(left) && !fs::exists(right);
+    }));
 }
 
 TEST_F(MachineCaptureTest, AStopBeforeTheFirstFrameLeavesFilesOfOneLength)

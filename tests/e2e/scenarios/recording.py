@@ -12,7 +12,6 @@ SECONDS = 1.5
 AUDIO_TRACK = 3  # behind the two of a new song
 
 
-
 def ramp(seconds=SECONDS):
     """Frames of which no two in a row are alike: the frame's number, from 1, over both channels."""
     frames = bytearray()
@@ -21,13 +20,45 @@ def ramp(seconds=SECONDS):
     return bytes(frames)
 
 
-def record(desk, program, microphone, frames):
+def start_recording(program):
     program.click("TrackAddRecBtn")
     program.click("StartRecordingBtn", form="Msg3BtnFrm")
     program.wait_for("Rec_Stat_Lbl", "Now Recording", form="Recd_Frm")
-    microphone.hear(frames)
+
+
+def finish_recording(program):
     program.click("RecFinishBtn", form="Recd_Frm")
     program.wait_until_gone("Recd_Frm")
+
+
+def new_song(program):
+    program.click("NewBtn")
+    program.wait_for("SngTitleLbl", "Untitled")
+
+
+def paint_voice(desk, program):
+    """Paints the audio track, over the whole length of what was recorded."""
+    canvas = program.wait_for("TrackPic")
+    program.click("BrushBtn")
+    desk.mouse.drag([cell_place(canvas, AUDIO_TRACK, cell) for cell in range(1, 140)])
+
+
+def capture_files(desk):
+    return sorted(name for name in os.listdir(desk.temp) if name.startswith("Tqk"))
+
+
+def expect_no_voice_left(desk):
+    left = capture_files(desk)
+    expect(not left, f"a child's voice was left in the temporary folder: {left}")
+
+
+def expect_voice(desk, song, wanted):
+    """The frames that were played into the microphone are on the painted track. Gives all that sounds there."""
+    told = desk.info(song)["song"]["tracks"]
+    expect(len(told) == AUDIO_TRACK and told[-1]["audio"], "there is no audio track")
+    heard = track_frames(desk, song, AUDIO_TRACK)
+    expect(find_frames(heard, wanted) >= 0, "what was played into the microphone is not on the track")
+    return heard
 
 
 def track_frames(desk, song, track):
@@ -40,20 +71,16 @@ def RecordEditAndPlay(desk):
     """A child's voice becomes a track, sample for sample; edited and painted it is heard as it is saved."""
     microphone = desk.sound.plug_in_microphone()
     program = desk.start()
-    program.click("NewBtn")
-    program.wait_for("SngTitleLbl", "Untitled")
+    new_song(program)
     wanted = ramp()
-    record(desk, program, microphone, wanted)
-    canvas = program.wait_for("TrackPic")
-    program.click("BrushBtn")
-    desk.mouse.drag([cell_place(canvas, AUDIO_TRACK, cell) for cell in range(1, 140)])
+    start_recording(program)
+    microphone.hear(wanted)
+    finish_recording(program)
+    paint_voice(desk, program)
     save_song(program, "Voice")
-    told = desk.info(desk.song("Voice"))["song"]["tracks"]
-    expect(len(told) == AUDIO_TRACK and told[-1]["audio"], "there is no audio track")
-    expect(SongFile(desk.song("Voice")).painted(AUDIO_TRACK)[:139] == list(range(1, 140)), "the track is painted otherwise")
-    heard = track_frames(desk, desk.song("Voice"), AUDIO_TRACK)
-    place = find_frames(heard, wanted)
-    expect(place >= 0, "what was played into the microphone is not on the track")
+    heard = expect_voice(desk, desk.song("Voice"), wanted)
+    painted = SongFile(desk.song("Voice")).painted(AUDIO_TRACK)
+    expect(painted[:139] == list(range(1, 140)), "the track is painted otherwise")
 
     # Everything louder, by a quarter.
     strip = program.wait_for("TrackTitlePic")
@@ -74,8 +101,7 @@ def RecordEditAndPlay(desk):
     recording = play(desk, program)
     wait_for("the sound", recording.sounds)
     expect_recording_of(desk, program, recording, desk.song("Voice"))
-    left = [name for name in os.listdir(desk.temp) if name.startswith("Tqk")]
-    expect(not left, f"a child's voice was left in the temporary folder: {left}")
+    expect_no_voice_left(desk)
     close(program)
 
 
@@ -92,3 +118,40 @@ def RecordWithoutMicrophone(desk):
     expect(not program.find("Rec_Stat_Lbl"), "the recording window opened")
     program.click("CloseImgBtn")
     expect(program.wait_for_end() == 0, "the program did not end well")
+
+
+@scenario()
+def TwoProgramsRecord(desk):
+    """Two children record at once, each with a program: each gets the whole sound and no file of the other's."""
+    microphone = desk.sound.plug_in_microphone()
+    programs = {name: desk.start(name=name) for name in ("Anna", "Ben")}
+    for program in programs.values():
+        program.to_front("MainFrm")
+        new_song(program)
+        start_recording(program)
+    expect(len(capture_files(desk)) == 4, f"two programs do not write two files each: {capture_files(desk)}")
+    wanted = ramp()
+    microphone.hear(wanted)
+    for name, program in programs.items():
+        program.to_front("Recd_Frm")
+        finish_recording(program)
+        program.to_front("MainFrm")  # with the form the other program's window came to the front
+        paint_voice(desk, program)
+        save_song(program, name)
+        expect_voice(desk, desk.song(name), wanted)
+        close(program)
+    expect_no_voice_left(desk)
+
+
+@scenario()
+def KillWhileRecording(desk):
+    """A program that is killed while it records leaves its files to the next start, which deletes them."""
+    desk.sound.plug_in_microphone()
+    program = desk.start()
+    start_recording(program)
+    expect(len(capture_files(desk)) == 2, "nothing is recorded")
+    program.process.kill()
+    program.process.wait()
+    expect(len(capture_files(desk)) == 2, "the files went with the program")
+    program = desk.start()
+    wait_for("the end of the left files", lambda: not capture_files(desk))

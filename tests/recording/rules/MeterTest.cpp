@@ -17,8 +17,8 @@ TEST(Meter, IsEmptyAtSilenceAndFullAtTheGreatestPeak)
     const Meter meter{128, 32767};
     EXPECT_EQ(meter.BarTop(0), 128);
     EXPECT_EQ(meter.BarTop(32767), 0);
-    EXPECT_EQ(meter.BarTop(32768), 0);
-    EXPECT_EQ(meter.BarTop(-1), 128);
+    EXPECT_EQ(meter.BarTop(40000), 0);
+    EXPECT_EQ(meter.BarTop(-2000), 128);
     EXPECT_EQ((Meter{128, 127}).BarTop(127), 0);
 }
 

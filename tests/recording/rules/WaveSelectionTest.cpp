@@ -76,6 +76,17 @@ TEST(ReleaseWave, SelectsTheSameToTheLeftAsToTheRight)
     EXPECT_THAT(Dragged(40, 10), ElementsAre(121, 181));
 }
 
+TEST(ReleaseWave, SelectsTwoNeighboursToTheLeftAsToTheRight)
+{
+    WaveView view; // a pixel a sample
+    for (const double x : {49, 51}) {
+        PressWave(50, kWidth, 100, view);
+        ReleaseWave(x, kWidth, 100, view);
+        EXPECT_EQ(view.SelectionStart, x < 50 ? 50 : 51);
+        EXPECT_EQ(view.SelectionEnd, x < 50 ? 51 : 52);
+    }
+}
+
 TEST(ReleaseWave, LeavesOneSampleOfAClick)
 {
     EXPECT_THAT(Dragged(10, 10), ElementsAre(121, 121));

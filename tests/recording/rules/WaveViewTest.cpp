@@ -132,6 +132,11 @@ TEST(PlaceWaveView, DropsASelectionBeyondTheWave)
     Place(100, view);
     EXPECT_EQ(view.SelectionStart, 0);
     EXPECT_EQ(view.SelectionEnd, 0);
+    view.SelectionStart = 101;
+    view.SelectionEnd = 50;
+    Place(100, view);
+    EXPECT_EQ(view.SelectionStart, 0);
+    EXPECT_EQ(view.SelectionEnd, 0);
 }
 
 TEST(PlaceWaveView, KeepsThePlacesOfTheLongestWave)
