@@ -199,6 +199,10 @@ public:
     [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const fs::path&) override { return nullptr; }
     [[nodiscard]] bool MayBeReplaced(const fs::path&) const override { return true; }
     void DeleteStaleFile(const fs::path&) override {}
+    [[nodiscard]] bool WriteNewFile(const fs::path&, std::span<const std::span<const std::byte>>) override
+    {
+        return false;
+    }
 
     std::vector<Flush> flushes;
 };
