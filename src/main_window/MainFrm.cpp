@@ -442,7 +442,7 @@ void MainFrm::closeEvent(QCloseEvent* event)
     // The question of a minimized window would not be seen.
     if (isMinimized() && Shared().Song.SongChanged)
         setWindowState(windowState() & ~Qt::WindowMinimized);
-    if (!songCommands.ConfirmClose()) {
+    if (!songCommands.ConfirmSongSave()) {
         event->ignore();
         return;
     }

@@ -474,6 +474,7 @@ TEST_F(MainFrmTest, StaysWhereTheSongCannotBeSaved)
 {
     Song().SongChanged = true;
     std::filesystem::remove_all(Shared().UserSongs);
+    WriteBytes(Shared().UserSongs.parent_path(), "no folder, and none can be made here");
     ShownMessage message;
     WithNextForm([&message](BandedForm& form) {
         NoteNextMessage(message);
