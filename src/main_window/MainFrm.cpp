@@ -446,12 +446,17 @@ void MainFrm::closeEvent(QCloseEvent* event)
         event->ignore();
         return;
     }
+    Unload();
+    event->accept();
+    Q_EMIT Unloaded();
+}
+
+void MainFrm::Unload()
+{
     ShowHint({});
     emailSong->StopWaiting();
     WritePlaceToSettings();
     ShutSound();
-    event->accept();
-    Q_EMIT Unloaded();
 }
 
 } // namespace sprout
