@@ -37,8 +37,8 @@ struct TrackCanvasCalls {
 ///
 /// The wheel scrolls by rows, with Shift sideways. With the focus on `TrackPic` the arrow keys, Page Up and Page Down,
 /// Home and End scroll and the space bar plays and stops. With Ctrl the arrow keys move the cell cursor, with Ctrl and
-/// Shift they draw a stroke until one of the two is let go; Enter is a press of the mouse on that cell. `TrackTitlePic`
-/// tells of its own keys.
+/// Shift they draw a stroke until one of the two is let go; with Shift, Page Up and Page Down move the cursor by a
+/// group of cells. Enter is a press of the mouse on that cell. `TrackTitlePic` tells of its own keys.
 class TrackCanvas : public QWidget {
     Q_OBJECT
 
@@ -92,6 +92,8 @@ private:
     void ShowPointerImage(PointerImage image);
 
     bool StepKeyCell(const QKeyEvent& event);
+    bool LeapKeyCell(int key);
+    void MoveKeyCell(std::int32_t cells);
     void ShowKeyCell();
     void PressKeyCell();
     void TellKeyCell();

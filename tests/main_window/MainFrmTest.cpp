@@ -730,8 +730,15 @@ TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTracksAndToItsOwnButtonsLast)
     } while (window->focusWidget() != &Control("PlayAllBtn") && reached.size() < 60);
     EXPECT_EQ(reached.join(QLatin1Char(' ')).toStdString(),
               "PlayAllBtn PlayStopBtn BrushBtn EraserBtn PlayToolBtn NewBtn OpenBtn SaveBtn SongTitleChgBtn EmailBtn "
-              "HelpBtn AboutBtn DemoBtn TempoPrtImg Label5 Label1 TrackTitlePic TrackAddBtn TrackAddRecBtn TrackPic "
-              "CloseImgBtn MaximizeImgBtn MinimizeImgBtn");
+              "HelpBtn AboutBtn DemoBtn TempoPrtImg Label5 Label1 TrackTitlePic TrackAddBtn TrackAddRecBtn "
+              "CloseImgBtn MaximizeImgBtn MinimizeImgBtn TrackPic");
+}
+
+TEST_F(MainFrmTest, TheFirstTabStandsOnPlayAll)
+{
+    ASSERT_EQ(window->focusWidget(), &Control("TrackPic"));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), &Control("PlayAllBtn"));
 }
 
 TEST_F(MainFrmTest, LivesWithASongOfNoTracks)
