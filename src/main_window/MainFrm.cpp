@@ -365,7 +365,7 @@ void MainFrm::UpdateSongTitle()
 
 void MainFrm::ShowNewSong()
 {
-    DrawTracksAll();
+    canvas->ShowFromStart();
     UpdateTempoSliderValue();
     UpdateSongTitle();
 }

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "main_window/rules/PlayIndicator.h"
@@ -64,6 +65,15 @@ public:
     [[nodiscard]] std::int32_t BrushedTrack() const;
 
     [[nodiscard]] TrackView View() const;
+    /// Another song is shown: from its first track and cell on.
+    void ShowFromStart();
+    /// Draws everything with the last row and the buttons below it in view.
+    void ShowAddedTrack();
+
+    /// A play begins whose marker is kept in view, until the user draws a stroke or scrolls sideways.
+    void BeginFollowing();
+    /// Brings a marker's cell into view where the play is followed; not while a mouse button is held.
+    void FollowMarker(std::int32_t cell);
     /// Places or hides the two markers of `PlayPosImg`.
     void ShowPlayIndicator(const PlayIndicator& indicator);
 
@@ -79,6 +89,7 @@ private:
     void MakeScrollBars();
     void PlaceParts();
     void FitScrollBars();
+    void ScrollToCell(std::int32_t cell);
     void ShowRow(std::int32_t track);
     void ShowCell(std::int32_t cell);
 
@@ -110,7 +121,12 @@ private:
     TrackPic* trackPic = nullptr;
     QScrollBar* vScroll = nullptr;
     QScrollBar* hScroll = nullptr;
-    QPoint wheelRest; ///< turned since the last whole notch, in eighths of a degree
+    std::optional<FollowedEdges> followed; ///< beyond which a play is followed; none: it is not
+    QPoint wheelRest;                      ///< turned since the last whole notch, in eighths of a degree
 };
+
+/// Stops the player and hides its markers at once: the window that a command opens may play a sound of its own, behind
+/// which they would stand.
+void StopPlay(TrackCanvas& canvas);
 
 } // namespace sprout

@@ -106,6 +106,7 @@ void TrackCanvas::Press(QPoint at)
     case PressAction::PlayTrackFrom:
         return Ask(calls.PlayTrackFrom, hit.track, hit.cell);
     case PressAction::BeginStroke:
+        followed.reset();
         if (stroke.Begin(Shared().Song, tool, hit, at.x(), at.y()))
             DrawStroke();
         Ask(calls.EnableTrackTitlePlayTimer);

@@ -720,7 +720,7 @@ TEST_F(MainFrmTest, ReachesEveryVisibleButtonOfItsBarByTab)
         EXPECT_TRUE(reached.count(QString::fromLatin1(name))) << name;
 }
 
-TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTracksAndToItsOwnButtonsLast)
+TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTitlesToItsOwnButtonsAndToTheTracks)
 {
     QStringList reached;
     Control("PlayAllBtn").setFocus();

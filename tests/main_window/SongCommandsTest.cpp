@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "main_window/MainWindowTest.h"
@@ -274,6 +275,29 @@ TEST_F(SongCommandsTest, OpenLoadsTheChosenSong)
     EXPECT_EQ(TextOf("SngTitleLbl"), "Rain");
     EXPECT_EQ(TextOf("TempoLbl"), "125%");
     EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Rain]");
+}
+
+TEST_F(SongCommandsTest, NewAndOpenShowTheSongFromItsFirstTrackAndCell)
+{
+    PutSong("Rain", kQuickTempo);
+    Song().TrackCount = 20;
+    Song().Tracks.resize(21);
+    auto& rows = *window->findChild<QScrollBar*>(QStringLiteral("TrackVScroll"));
+    auto& cells = *window->findChild<QScrollBar*>(QStringLiteral("TrackHScroll"));
+    const auto scroll = [&] {
+        window->DrawTracksAll();
+        rows.setValue(2);
+        cells.setValue(100);
+        ASSERT_EQ(cells.value(), 100);
+    };
+    scroll();
+    ChooseNextSong("Rain");
+    ClickButton("OpenBtn");
+    EXPECT_EQ(rows.value(), 1);
+    EXPECT_EQ(cells.value(), 1);
+    scroll();
+    ClickButton("NewBtn");
+    EXPECT_EQ(cells.value(), 1);
 }
 
 TEST_F(SongCommandsTest, OpenDoesNothingAfterCancel)
