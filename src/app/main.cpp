@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
+#include <QSocketNotifier>
 
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <future>
 #include <memory>
 
@@ -16,6 +18,7 @@
 #include "service/ffmpeg/FfmpegWmaEncoder.h"
 #include "service/ffmpeg/SoundChild.h"
 #include "service/fontconfig/FontList.h"
+#include "service/posix/EndSignals.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/posix/PosixPrivateFolders.h"
@@ -23,6 +26,7 @@
 #include "service/stretch/StretchService.h"
 #include "service/xdg/XdgDesktop.h"
 #include "service/xdg/XdgMail.h"
+#include "songs/SongKeeper.h"
 #include "sound/PlayMod.h"
 #include "ui/Look.h"
 #include "ui/ProgramPictures.h"
@@ -77,6 +81,47 @@ private:
     SoundChild soundReader{machine.ExecutablePath().parent_path() / "sprout-read-sound"};
 };
 
+/// Keeps the song where the system ends the program, by a signal or with the session, and ends the event loops.
+class SystemEnd {
+public:
+    explicit SystemEnd(QApplication& application)
+    {
+        if (signals.Number() >= 0) {
+            notifier = std::make_unique<QSocketNotifier>(signals.Number(), QSocketNotifier::Read);
+            QObject::connect(notifier.get(), &QSocketNotifier::activated, &context, [this] { End(); });
+        }
+        // The session manager waits for the answer. It may go on with the session, and the program with it.
+        QObject::connect(
+            &application, &QGuiApplication::commitDataRequest, &context, [this] { KeepSong(); }, Qt::DirectConnection);
+    }
+
+    [[nodiscard]] bool HasCome() const { return hasCome; }
+
+private:
+    void End()
+    {
+        notifier->setEnabled(false);
+        hasCome = true;
+        KeepSong();
+        QCoreApplication::exit(EXIT_SUCCESS);
+    }
+
+    void KeepSong()
+    {
+        try {
+            keeper.KeepUnsavedSong();
+        } catch (const std::exception&) {
+            return; // nobody is there any more who could be told
+        }
+    }
+
+    QObject context; ///< ends the connections
+    EndSignals signals;
+    SongKeeper keeper;
+    std::unique_ptr<QSocketNotifier> notifier;
+    bool hasCome = false;
+};
+
 int RunProgram(QApplication& application)
 {
     ProgramServices services;
@@ -90,9 +135,14 @@ int RunProgram(QApplication& application)
     services.screen.SetTuneNotFilledTimer([&window] { window.EnableTuneNotFilledTimer(); });
     QObject::connect(
         &window, &MainFrm::Unloaded, qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+    const SystemEnd systemEnd(application);
     OpenMainWindow(window);
-    // A window that the desktop closed while it appeared left no loop to end.
-    return window.isVisible() ? QApplication::exec() : EXIT_SUCCESS;
+    // An end that came while the window appeared found no loop to end.
+    const bool runs = window.isVisible() && !systemEnd.HasCome();
+    const int status = runs ? QApplication::exec() : EXIT_SUCCESS;
+    if (systemEnd.HasCome())
+        window.Unload();
+    return status;
 }
 
 } // namespace

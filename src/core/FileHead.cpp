@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/Numbers.h"
+#include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Text.h"
 #include "service/Services.h"
@@ -66,6 +67,16 @@ std::string ReadHead(ByteSource& source, std::string_view key)
     return head;
 }
 
+/// A whole file; the pieces are those of its parts.
+std::vector<std::span<const std::byte>> PiecesOfFile(std::string_view head, const LongsWriter& data)
+{
+    const std::string_view tail = FileTail();
+    std::vector<std::span<const std::byte>> pieces = data.Pieces();
+    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
+    pieces.push_back(std::as_bytes(std::span(tail)));
+    return pieces;
+}
+
 } // namespace
 
 std::string FileHead(std::string_view marker, std::string_view description)
@@ -92,11 +103,14 @@ std::string_view FileTail()
 
 void ReplaceDataFile(const std::filesystem::path& path, std::string_view head, const LongsWriter& data, Flush flush)
 {
-    const std::string_view tail = FileTail();
-    std::vector<std::span<const std::byte>> pieces = data.Pieces();
-    pieces.insert(pieces.begin(), std::as_bytes(std::span(head)));
-    pieces.push_back(std::as_bytes(std::span(tail)));
-    TheServices().files->ReplaceFile(path, pieces, flush);
+    PrepareToReplace(path);
+    TheServices().files->ReplaceFile(path, PiecesOfFile(head, data), flush);
+}
+
+bool WriteNewDataFile(const std::filesystem::path& path, std::string_view head, const LongsWriter& data)
+{
+    PrepareToReplace(path);
+    return TheServices().files->WriteNewFile(path, PiecesOfFile(head, data));
 }
 
 std::string HeadValue(ByteSource& source, std::string_view key, std::string_view fallback)

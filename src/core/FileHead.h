@@ -20,8 +20,12 @@ namespace sprout {
 /// What stands behind the array: four zero bytes and the end mark.
 [[nodiscard]] std::string_view FileTail();
 
-/// Replaces a file by a head, an array and `FileTail`. Throws like `Files::ReplaceFile`.
+/// Replaces a file by a head, an array and `FileTail`. Throws like `PrepareToReplace` and `Files::ReplaceFile`.
 void ReplaceDataFile(const std::filesystem::path& path, std::string_view head, const LongsWriter& data, Flush flush);
+
+/// Makes such a file, on the disk when it returns; false where something has that name already, which stays. Throws
+/// likewise.
+[[nodiscard]] bool WriteNewDataFile(const std::filesystem::path& path, std::string_view head, const LongsWriter& data);
 
 /// The value of a line CR LF key=value of the head, which is searched in the first 1000 bytes without regard to case;
 /// `fallback` where the line or its end is missing.

@@ -199,7 +199,9 @@ void IniFile::Write(const std::filesystem::path& path) const
     const std::string bytes = Bytes();
     const std::span<const std::byte> piece = std::as_bytes(std::span(bytes));
     const std::filesystem::path file = FindFile(path);
-    TheServices().files->ReplaceFile(file.empty() ? path : file, {&piece, 1}, Flush::Yes);
+    const std::filesystem::path& target = file.empty() ? path : file;
+    PrepareToReplace(target);
+    TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::Yes);
 }
 
 std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/Busy.h"
+#include "core/Errors.h"
 #include "core/FolderFiles.h"
 #include "core/Shared.h"
 #include "core/Text.h"
@@ -62,6 +63,18 @@ void CopyTree(const fs::path& source, const fs::path& target)
             CopyOneFile(entry.path(), copy);
         }
     }
+}
+
+/// Only what belongs to the user's own tree: a folder that was mistyped is none that has gone.
+void MakeUserFolderAgain(const fs::path& folder)
+{
+    const SharedState& shared = Shared();
+    std::error_code error;
+    for (const fs::path& own : {shared.UserBeats, shared.UserTunes, shared.UserStars, shared.UserSongs})
+        if (!own.empty() && AsFolder(folder) == own)
+            fs::create_directories(folder, error);
+    if (error)
+        throw RunTimeError("The folder " + PathText(folder) + " could not be made again: " + error.message() + ".");
 }
 
 } // namespace
@@ -168,6 +181,13 @@ bool HoldsFile(const fs::path& folder)
     return std::any_of(entries.begin(), entries.end(), [](const fs::directory_entry& entry) {
         return entry.path().filename().native().front() != '.' && IsPlainFile(entry.path());
     });
+}
+
+void PrepareToReplace(const fs::path& file)
+{
+    MakeUserFolderAgain(file.parent_path());
+    if (!TheServices().files->MayBeReplaced(file))
+        throw RunTimeError("The file " + PathText(file) + " may not be changed.");
 }
 
 void FindTempFolder()

@@ -49,6 +49,10 @@ bool CopyFolder(const std::filesystem::path& source, const std::filesystem::path
 /// True when `folder` holds at least one plain file that is not hidden; sub-folders do not count.
 [[nodiscard]] bool HoldsFile(const std::filesystem::path& folder);
 
+/// Makes ready to replace or make a file: a folder of the user's that has gone is made again. Throws `RunTimeError`
+/// with a plain sentence where the file may not be changed by its user, or where that folder cannot be made.
+void PrepareToReplace(const std::filesystem::path& file);
+
 /// Sets `ProgramFolder`, `SettingsFile` and `TempFolder`.
 void FindTempFolder();
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "core/FileMark.h"
 #include "core/Picture.h"
 #include "core/WaveData.h"
 
@@ -80,6 +81,7 @@ struct SongState {
     bool SongMixValid = false;
     std::int32_t SongFirstPos = 0; ///< first painted cell of the whole song, set by the mix
     bool SongChanged = false;
+    FileMark OwnFile; ///< that it was read from without a message, or was last saved to
 };
 
 /// The value at `index` of a 1-based record array, by 32-bit index.

@@ -33,6 +33,7 @@ void NewSong()
     SongState& song = Shared().Song;
     song.SongTitle = FreeSongName();
     song.SongCreatedBy = "Your name here";
+    song.OwnFile = FileMark();
     song.SongMixValid = false;
     song.SongCells = kSongCells;
     song.TrackCount = kNewSongTracks;

@@ -6,9 +6,21 @@
 
 namespace sprout {
 
+namespace {
+
+std::size_t messages = 0;
+
+}
+
 void Tell(std::string_view title, std::string_view text)
 {
+    ++messages;
     TheServices().messages->MessageBox(title, text);
+}
+
+std::size_t MessagesTold()
+{
+    return messages;
 }
 
 } // namespace sprout

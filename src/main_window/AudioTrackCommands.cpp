@@ -12,7 +12,6 @@
 #include "core/Shared.h"
 #include "main_window/rules/TrackList.h"
 #include "sound/ChosenSound.h"
-#include "sound/PlayMod.h"
 #include "sound/WavOperations.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
@@ -129,7 +128,7 @@ void AudioTrackCommands::TrackAddRecBtn()
 
 void AudioTrackCommands::AddRecording()
 {
-    Player().StopPlay();
+    StopPlay(canvas);
     std::optional<WaveData> wave = windows.Record();
     if (!wave)
         return;
@@ -140,7 +139,7 @@ void AudioTrackCommands::AddRecording()
 
 void AudioTrackCommands::AddChosenFile()
 {
-    Player().StopPlay();
+    StopPlay(canvas);
     if (const std::optional<fs::path> file = AskForSoundFile())
         AddFile(*file);
 }
@@ -158,7 +157,7 @@ void AudioTrackCommands::AddFile(const fs::path& file)
 void AudioTrackCommands::AddTrack(WaveData wave)
 {
     AddAudioTrack(std::move(wave));
-    canvas.DrawTracksAll();
+    canvas.ShowAddedTrack();
 }
 
 void AudioTrackCommands::TrackAudioBtn()
@@ -169,7 +168,7 @@ void AudioTrackCommands::TrackAudioBtn()
         canvas.HideTrackButtons();
         if (track < 1 || track > Shared().Song.TrackCount)
             return;
-        Player().StopPlay();
+        StopPlay(canvas);
         if (windows.Edit(track))
             canvas.DrawTrackOne(track);
     });
@@ -181,7 +180,7 @@ void AudioTrackCommands::AddDropped(const QList<QUrl>& places)
         const std::optional<fs::path> file = DroppedFile(places);
         if (!file)
             return;
-        Player().StopPlay();
+        StopPlay(canvas);
         AddFile(*file);
     });
 }

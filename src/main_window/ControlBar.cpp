@@ -141,8 +141,7 @@ void ControlBar::PlaceSongInOneLine(const QRect& room)
                                       room.width());
     const int smallTop = room.y() + BaselineBelow(*titleText, *authorText);
     titleCaption->setVisible(line.hasCaption);
-    authorCaption->setVisible(line.hasAuthor);
-    authorText->setVisible(line.hasAuthor);
+    authorCaption->setVisible(line.hasAuthorCaption);
     titleCaption->setGeometry(room.x(), smallTop, line.titleLeft, room.height());
     titleText->setGeometry(room.x() + line.titleLeft, room.y(), line.titleWidth, room.height());
     authorCaption->setGeometry(room.x() + line.authorCaptionLeft, smallTop, line.authorLeft - line.authorCaptionLeft,

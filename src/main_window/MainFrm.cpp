@@ -269,10 +269,11 @@ void MainFrm::MakeShortcuts()
 void MainFrm::SetTabOrder()
 {
     // The buttons were made in the order of the table. What belongs to the song comes as it lies in the window, from
-    // the bar's tools to the tracks; the window's own buttons are the last.
+    // the bar's tools to the tracks' titles; the window's own buttons follow. The tracks themselves, which have the
+    // focus at first, are the last: the first step of the tabulator leads to the first button.
     const char* before = "DemoBtn";
-    for (const char* name :
-         {"TempoPrtImg", "Label5", "Label1", "TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn", "TrackPic"}) {
+    for (const char* name : {"TempoPrtImg", "Label5", "Label1", "TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn",
+                             "CloseImgBtn", "MaximizeImgBtn", "MinimizeImgBtn", "RestoreImgBtn", "TrackPic"}) {
         setTabOrder(findChild<QWidget*>(QString::fromLatin1(before)), findChild<QWidget*>(QString::fromLatin1(name)));
         before = name;
     }
@@ -364,7 +365,7 @@ void MainFrm::UpdateSongTitle()
 
 void MainFrm::ShowNewSong()
 {
-    DrawTracksAll();
+    canvas->ShowFromStart();
     UpdateTempoSliderValue();
     UpdateSongTitle();
 }
@@ -442,16 +443,21 @@ void MainFrm::closeEvent(QCloseEvent* event)
     // The question of a minimized window would not be seen.
     if (isMinimized() && Shared().Song.SongChanged)
         setWindowState(windowState() & ~Qt::WindowMinimized);
-    if (!songCommands.ConfirmClose()) {
+    if (!songCommands.ConfirmSongSave()) {
         event->ignore();
         return;
     }
+    Unload();
+    event->accept();
+    Q_EMIT Unloaded();
+}
+
+void MainFrm::Unload()
+{
     ShowHint({});
     emailSong->StopWaiting();
     WritePlaceToSettings();
     ShutSound();
-    event->accept();
-    Q_EMIT Unloaded();
 }
 
 } // namespace sprout

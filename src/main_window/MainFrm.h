@@ -42,6 +42,10 @@ public:
     /// count: sound devices that were found.
     void ShowSoundDevices(int count);
 
+    /// Stores the window's place and lets the player go, as a close does, but asks nothing: for a program that the
+    /// system ends.
+    void Unload();
+
     /// The working sign, `ProcessPic`.
     [[nodiscard]] ProcessPic& WorkingSign() { return *processPic; }
     void EnableTuneNotFilledTimer();

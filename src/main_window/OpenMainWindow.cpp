@@ -2,16 +2,23 @@
 #include "main_window/OpenMainWindow.h"
 
 #include <QCoreApplication>
+#include <QTimer>
 
 #include <exception>
+#include <string>
 
 #include "app/start/SampleSong.h"
 #include "app/start/StartUp.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
 #include "main_window/MainFrm.h"
 #include "service/Services.h"
 #include "service/SoundOutput.h"
+#include "songs/SongKeeper.h"
 #include "sound/PlayMod.h"
 #include "tune_window/OpenTuneWindow.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
 #include "ui/Hints.h"
 
 namespace sprout {
@@ -41,6 +48,19 @@ void StartSound(MainFrm& window)
     window.ShowSoundDevices(TheServices().sound->SoundDeviceCount());
 }
 
+/// Tells of the songs that the last run could only keep: which, and where.
+void TellKeptSongs()
+{
+    Guarded([] {
+        std::string names;
+        for (const std::string& name : TakeKeptSongs())
+            names += (names.empty() ? "\"" : ", \"") + name + "\"";
+        if (!names.empty())
+            ShowMessage("What was not saved last time is kept as the song " + names,
+                        "in the folder " + PathText(Shared().UserSongs));
+    });
+}
+
 } // namespace
 
 // The desktop takes about as long to put the window on the screen as all that follows here: nothing waits for it, and
@@ -55,6 +75,8 @@ void OpenMainWindow(MainFrm& window)
     ReadOptionFlags();
     if (OpenSampleSong())
         ShowSong(window);
+    // A message waits for its answer: the start must be over by then.
+    QTimer::singleShot(0, &window, TellKeptSongs);
 }
 
 } // namespace sprout

@@ -12,6 +12,7 @@
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "song_window/SongSelFrm.h"
+#include "song_window/rules/SongFiles.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/PlayMod.h"
 #include "ui/Dialogs.h"
@@ -27,27 +28,21 @@ namespace {
 
 enum class SaveAnswer { Cancel = 0, No = 1, Yes = 2 };
 
-/// The file of a song, one whose name differs in case if there is no other.
-fs::path PathOfSong(std::string_view title)
-{
-    const fs::path path = NamedFile(Shared().UserSongs, title, ".TqSng");
-    const fs::path found = FindFile(path);
-    return found.empty() ? path : found;
-}
-
 void ClearHint()
 {
     ShowHint({});
 }
 
-/// Runs a command; what goes wrong in it is told behind `firstLine`.
+/// Runs a command; what goes wrong in it is told behind `firstLine`. False where something did.
 template <typename Command>
-void RunCommand(std::string_view firstLine, Command command)
+bool RunCommand(std::string_view firstLine, Command command)
 {
     try {
         command();
+        return true;
     } catch (const std::exception& error) {
         ShowMessage(std::string(firstLine) + "\r\n" + ErrorText(error));
+        return false;
     }
 }
 
@@ -91,7 +86,7 @@ SongCommands::SongCommands(QWidget& owner, SongCommandCalls windowCalls) : windo
 {
 }
 
-bool SongCommands::ConfirmSongSave()
+bool SongCommands::ConfirmSongSave(std::string_view errorLine)
 {
     SongState& song = Shared().Song;
     if (!song.SongChanged) {
@@ -105,22 +100,28 @@ bool SongCommands::ConfirmSongSave()
     ClearHint();
     if (answer != SaveAnswer::Yes)
         return answer == SaveAnswer::No;
-    OpenSaveClass().Save_Song(PathOfSong(song.SongTitle));
+    bool saved = false;
+    RunCommand(errorLine, [&] { saved = SaveUnderTitle(); });
+    return saved;
+}
+
+bool SongCommands::SaveUnderTitle()
+{
+    SongState& song = Shared().Song;
+    const fs::path place = PlaceOfSong(song.SongTitle);
+    // Another song's file, or a title that no file can have: the user chooses.
+    if (place.empty() || !MayReplaceUnasked(place))
+        return SaveUnderChosenName();
+    OpenSaveClass().Save_Song(place);
     song.SongChanged = false;
     return true;
 }
 
-bool SongCommands::ConfirmClose()
-{
-    bool goesOn = false;
-    RunCommand("Error Saving file", [&] { goesOn = ConfirmSongSave(); });
-    return goesOn;
-}
-
 void SongCommands::NewBtn()
 {
-    RunCommand("Error making new file", [this] {
-        if (!ConfirmSongSave())
+    constexpr std::string_view errorLine = "Error making new file";
+    RunCommand(errorLine, [&] {
+        if (!ConfirmSongSave(errorLine))
             return;
         ClearHint();
         Player().StopPlay();
@@ -133,8 +134,9 @@ void SongCommands::NewBtn()
 void SongCommands::OpenBtn()
 {
     const OpeningMark mark(calls.Opening);
-    RunCommand("Error Opening file", [this] {
-        if (!ConfirmSongSave())
+    constexpr std::string_view errorLine = "Error Opening file";
+    RunCommand(errorLine, [&] {
+        if (!ConfirmSongSave(errorLine))
             return;
         ClearHint();
         Player().StopPlay();
@@ -149,7 +151,7 @@ void SongCommands::OpenChosenSong()
     chooser.ShowModal();
     if (!chooser.Ok)
         return;
-    const fs::path file = PathOfSong(chooser.ChosenName);
+    const fs::path file = PlaceOfSong(chooser.ChosenName);
     if (!FileExists(file)) {
         ShowMessage("This song is not there any more.", chooser.ChosenName);
         return;
@@ -163,24 +165,26 @@ void SongCommands::OpenChosenSong()
 void SongCommands::SaveBtn()
 {
     ClearHint();
-    RunCommand("Error Saving file", [this] { SaveUnderChosenName(); });
+    RunCommand(kErrorSaving, [this] { static_cast<void>(SaveUnderChosenName()); });
 }
 
-void SongCommands::SaveUnderChosenName()
+bool SongCommands::SaveUnderChosenName()
 {
     SongState& song = Shared().Song;
+    RequireTracks(song);
     SongSelFrm chooser(&window);
     chooser.InitilizeThisWindow(SongSelMode::Save);
     chooser.SetSongName(song.SongTitle);
     chooser.ShowModal();
     if (!chooser.Ok)
-        return;
+        return false;
     TitleUntilSaved title(chooser.ChosenName);
-    OpenSaveClass().Save_Song(PathOfSong(song.SongTitle));
+    OpenSaveClass().Save_Song(PlaceOfSong(song.SongTitle));
     title.Keep();
     song.SongChanged = false;
     calls.UpdateSongTitle();
     ShowMessage("Your song \"" + song.SongTitle + "\" is saved.", "", "Good!");
+    return true;
 }
 
 void SongCommands::SongTitleChgBtn()

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <string_view>
 
 namespace sprout {
 
@@ -20,12 +21,10 @@ public:
     /// window: the parent of the questions.
     SongCommands(QWidget& window, SongCommandCalls calls);
 
-    /// Asks about unsaved changes and saves the song if that is wanted. Returns false where what is under way must not
-    /// go on: the question was cancelled. Throws `RunTimeError` where the song cannot be saved.
-    [[nodiscard]] bool ConfirmSongSave();
-
-    /// The same for a window that wants to close. A song that cannot be saved is told, and gives false.
-    [[nodiscard]] bool ConfirmClose();
+    /// Asks about unsaved changes and saves the song if that is wanted; under a name that the user chooses, where its
+    /// title would take another file's place. Returns false where what is under way must not go on: a question was
+    /// cancelled, or the song was not saved. What went wrong is told behind `errorLine`.
+    [[nodiscard]] bool ConfirmSongSave(std::string_view errorLine = kErrorSaving);
 
     void NewBtn();
     void OpenBtn();
@@ -34,7 +33,11 @@ public:
 
 private:
     void OpenChosenSong();
-    void SaveUnderChosenName();
+    /// Both return whether the song was saved; they throw where it cannot be.
+    [[nodiscard]] bool SaveUnderTitle();
+    [[nodiscard]] bool SaveUnderChosenName();
+
+    static constexpr std::string_view kErrorSaving = "Error Saving file";
 
     QWidget& window;
     SongCommandCalls calls;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TempoBar.h"
 
+#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 #include "core/Shared.h"
 #include "core/SongModel.h"
@@ -45,9 +48,18 @@ int WidestWidth(const char* text)
 /// The slot: a stem with a knot under the pointer's middle at each half of the reference tempo.
 class TempoSlot : public QWidget {
 public:
-    explicit TempoSlot(QWidget* parent) : QWidget(parent) { resize(kTempoSlotSize); }
+    TempoSlot(QWidget* parent, std::function<void(double x)> onPress) : QWidget(parent), press(std::move(onPress))
+    {
+        resize(kTempoSlotSize);
+    }
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override
+    {
+        if (event->button() == Qt::LeftButton)
+            press(x() + event->position().x());
+    }
+
     void paintEvent(QPaintEvent* /*event*/) override
     {
         QPainter painter(this);
@@ -72,13 +84,15 @@ private:
                             kLowestPercent, kHighestPercent};
         return slider.LeftOf(percent) + kTempoPointerSize.width() / 2.0;
     }
+
+    std::function<void(double x)> press;
 };
 
 } // namespace
 
 TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
     : QWidget(parent),
-      TempoSliderImg(new TempoSlot(this)),
+      TempoSliderImg(new TempoSlot(this, [this](double x) { TempoPrtImg->ChooseAt(x); })),
       TempoPrtImg(nullptr),
       TempoLbl(new QLabel(this)),
       SngDurLbl(new QLabel(this))

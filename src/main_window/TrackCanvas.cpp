@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TrackCanvas.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
@@ -12,6 +13,7 @@
 #include "main_window/TrackPic.h"
 #include "main_window/TrackTitlePic.h"
 #include "main_window/rules/CellValues.h"
+#include "sound/PlayMod.h"
 #include "ui/Palette.h"
 
 namespace sprout {
@@ -62,6 +64,8 @@ void TrackCanvas::MakeScrollBars()
         bar->setAccessibleName(spokenName);
         connect(bar, &QScrollBar::valueChanged, this, [this, first](int value) {
             view.*first = value;
+            if (first == &TrackView::FirstCell)
+                followed.reset();
             DrawTracksAll();
         });
         return bar;
@@ -120,6 +124,41 @@ void TrackCanvas::FitScrollBars()
         FitScrollBar(*hScroll, CellScrollRange(view, song.SongCells), view.FirstCell, cellsInView - kCellsOfAGroup);
 }
 
+void TrackCanvas::ShowFromStart()
+{
+    view.FirstTrack = 1;
+    view.FirstCell = 1;
+    DrawTracksAll();
+}
+
+void TrackCanvas::ShowAddedTrack()
+{
+    view.FirstTrack = FirstTrackForAdded(view, Shared().Song.TrackCount);
+    DrawTracksAll();
+}
+
+void TrackCanvas::BeginFollowing()
+{
+    followed = FollowedEdges::Both;
+}
+
+void TrackCanvas::FollowMarker(std::int32_t cell)
+{
+    if (!followed || QGuiApplication::mouseButtons() != Qt::NoButton)
+        return;
+    ScrollToCell(FollowingFirstCell(view, cell, *followed, hScroll->maximum()));
+    followed = FollowedEdges::Right;
+}
+
+/// A scroll that is not the user's.
+void TrackCanvas::ScrollToCell(std::int32_t cell)
+{
+    if (cell == view.FirstCell)
+        return;
+    view.FirstCell = cell;
+    DrawTracksAll();
+}
+
 void TrackCanvas::DrawTrackOne(std::int32_t track)
 {
     const SongState& song = Shared().Song;
@@ -172,6 +211,12 @@ TrackView TrackCanvas::View() const
 void TrackCanvas::ShowPlayIndicator(const PlayIndicator& indicator)
 {
     trackPic->ShowPlayIndicator(indicator);
+}
+
+void StopPlay(TrackCanvas& canvas)
+{
+    Player().StopPlay();
+    canvas.ShowPlayIndicator({});
 }
 
 } // namespace sprout

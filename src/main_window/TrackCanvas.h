@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string_view>
 
 #include "main_window/rules/PlayIndicator.h"
@@ -37,8 +38,8 @@ struct TrackCanvasCalls {
 ///
 /// The wheel scrolls by rows, with Shift sideways. With the focus on `TrackPic` the arrow keys, Page Up and Page Down,
 /// Home and End scroll and the space bar plays and stops. With Ctrl the arrow keys move the cell cursor, with Ctrl and
-/// Shift they draw a stroke until one of the two is let go; Enter is a press of the mouse on that cell. `TrackTitlePic`
-/// tells of its own keys.
+/// Shift they draw a stroke until one of the two is let go; with Shift, Page Up and Page Down move the cursor by a
+/// group of cells. Enter is a press of the mouse on that cell. `TrackTitlePic` tells of its own keys.
 class TrackCanvas : public QWidget {
     Q_OBJECT
 
@@ -64,6 +65,15 @@ public:
     [[nodiscard]] std::int32_t BrushedTrack() const;
 
     [[nodiscard]] TrackView View() const;
+    /// Another song is shown: from its first track and cell on.
+    void ShowFromStart();
+    /// Draws everything with the last row and the buttons below it in view.
+    void ShowAddedTrack();
+
+    /// A play begins whose marker is kept in view, until the user draws a stroke or scrolls sideways.
+    void BeginFollowing();
+    /// Brings a marker's cell into view where the play is followed; not while a mouse button is held.
+    void FollowMarker(std::int32_t cell);
     /// Places or hides the two markers of `PlayPosImg`.
     void ShowPlayIndicator(const PlayIndicator& indicator);
 
@@ -79,6 +89,7 @@ private:
     void MakeScrollBars();
     void PlaceParts();
     void FitScrollBars();
+    void ScrollToCell(std::int32_t cell);
     void ShowRow(std::int32_t track);
     void ShowCell(std::int32_t cell);
 
@@ -92,6 +103,8 @@ private:
     void ShowPointerImage(PointerImage image);
 
     bool StepKeyCell(const QKeyEvent& event);
+    bool LeapKeyCell(int key);
+    void MoveKeyCell(std::int32_t cells);
     void ShowKeyCell();
     void PressKeyCell();
     void TellKeyCell();
@@ -108,7 +121,12 @@ private:
     TrackPic* trackPic = nullptr;
     QScrollBar* vScroll = nullptr;
     QScrollBar* hScroll = nullptr;
-    QPoint wheelRest; ///< turned since the last whole notch, in eighths of a degree
+    std::optional<FollowedEdges> followed; ///< beyond which a play is followed; none: it is not
+    QPoint wheelRest;                      ///< turned since the last whole notch, in eighths of a degree
 };
+
+/// Stops the player and hides its markers at once: the window that a command opens may play a sound of its own, behind
+/// which they would stand.
+void StopPlay(TrackCanvas& canvas);
 
 } // namespace sprout

@@ -106,6 +106,7 @@ void TrackCanvas::Press(QPoint at)
     case PressAction::PlayTrackFrom:
         return Ask(calls.PlayTrackFrom, hit.track, hit.cell);
     case PressAction::BeginStroke:
+        followed.reset();
         if (stroke.Begin(Shared().Song, tool, hit, at.x(), at.y()))
             DrawStroke();
         Ask(calls.EnableTrackTitlePlayTimer);
@@ -188,7 +189,6 @@ bool TrackCanvas::StepKeyCell(const QKeyEvent& event)
     const ArrowKey* arrow = RowOfKey(kArrowKeys, event.key());
     if (!arrow)
         return false;
-    const SongState& song = Shared().Song;
     const bool draws = event.modifiers() & Qt::ShiftModifier && tool != Tool::PlayTool && keyTrack > 0;
     if (draws && !stroke.Dragging()) {
         ShowKeyCell();
@@ -196,11 +196,25 @@ bool TrackCanvas::StepKeyCell(const QKeyEvent& event)
     }
     if (!stroke.Dragging())
         keyTrack += arrow->tracks;
+    MoveKeyCell(arrow->cells);
+    return true;
+}
+
+bool TrackCanvas::LeapKeyCell(int key)
+{
+    if (key != Qt::Key_PageUp && key != Qt::Key_PageDown)
+        return false;
+    MoveKeyCell(key == Qt::Key_PageDown ? kCellsOfAGroup : -kCellsOfAGroup);
+    return true;
+}
+
+void TrackCanvas::MoveKeyCell(std::int32_t cells)
+{
+    const SongState& song = Shared().Song;
     keyTrack = std::clamp(keyTrack, 0, song.TrackCount);
-    keyCell = std::clamp(keyCell + arrow->cells, 1, std::max(song.SongCells, 1)); // a file may hold a song of no cells
+    keyCell = std::clamp(keyCell + cells, 1, std::max(song.SongCells, 1)); // a file may hold a song of no cells
     ShowKeyCell();
     TellKeyCell();
-    return true;
 }
 
 void TrackCanvas::ShowKeyCell()
@@ -255,6 +269,8 @@ void TrackCanvas::keyPressEvent(QKeyEvent* event)
         return presses ? PressKeyCell() : Ask(calls.PlayOrStop);
     }
     if (event->modifiers() & Qt::ControlModifier && StepKeyCell(*event))
+        return;
+    if (event->modifiers() & Qt::ShiftModifier && LeapKeyCell(event->key()))
         return;
     const ScrollKey* row = RowOfKey(kScrollKeys, event->key());
     if (!row)

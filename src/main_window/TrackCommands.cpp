@@ -8,7 +8,6 @@
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "main_window/rules/TrackList.h"
-#include "sound/PlayMod.h"
 #include "sound/TuneRender.h"
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
@@ -45,10 +44,10 @@ void TrackCommands::TrackAddBtn()
 {
     ShowHint({});
     Guarded([this] {
-        Player().StopPlay();
+        StopPlay(canvas);
         const std::int32_t track = AddMusicTrack();
         // The new row blinks behind the tune window: the buttons below the rows make room for it now.
-        canvas.DrawTracksAll();
+        canvas.ShowAddedTrack();
         // Whatever becomes of the window, a track without a tune does not stay.
         Guarded([this, track] { ChooseTuneOf(track); });
         EndAddMusicTrack();
@@ -66,7 +65,7 @@ void TrackCommands::TrackDeleteBtn()
         if (Shared().Song.TrackCount > 1) {
             if (!MayDelete(track))
                 return;
-            Player().StopPlay();
+            StopPlay(canvas);
         }
         DeleteTrack(track);
         canvas.DrawTracksAll();
@@ -81,7 +80,7 @@ void TrackCommands::TrackTuneBtn()
         canvas.HideTrackButtons();
         if (!IsTrackNumber(track))
             return;
-        Player().StopPlay();
+        StopPlay(canvas);
         const bool changed = ChooseTuneOf(track);
         Tune& tune = At(Shared().Song.Tracks, track).TrackTune;
         if (changed)

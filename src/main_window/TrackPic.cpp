@@ -3,6 +3,7 @@
 
 #include <QFontMetrics>
 #include <QMouseEvent>
+#include <QPainter>
 
 #include <algorithm>
 #include <array>
@@ -37,9 +38,35 @@ void PlaceMarker(TrackMarker& marker, const std::optional<QPoint>& at)
 
 } // namespace
 
+/// The outline of the cell cursor: light beside dark, so that one of them stands out on every ground.
+class CellOutline : public QWidget {
+public:
+    explicit CellOutline(QWidget* parent) : QWidget(parent)
+    {
+        setObjectName(QStringLiteral("CellOutline"));
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        resize(kCellCursorWidth + 2 * kOutlineWidth, kCellCursorHeight + 2 * kOutlineWidth);
+        hide();
+    }
+
+    void PlaceAround(QPoint cursor) { move(cursor - QPoint(kOutlineWidth, kOutlineWidth)); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override
+    {
+        QPainter painter(this);
+        painter.fillRect(rect(), kLink);
+        painter.fillRect(rect().adjusted(2, 2, -2, -2), Qt::white);
+    }
+
+private:
+    static constexpr int kOutlineWidth = 3; ///< on each side of the cursor
+};
+
 TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     : TrackSurface("TrackPic", kPaper, parent),
       view(shownView),
+      cellOutline(new CellOutline(this)),
       cellCursor(new TrackMarker("CellCursor", this)),
       songMarker(new TrackMarker("PlayPosImg0", this)),
       trackMarker(new TrackMarker("PlayPosImg1", this))
@@ -50,7 +77,9 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     setAccessibleName(tr("Tracks"));
     setAccessibleDescription(tr(
         "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
-        "an arrow key choose a cell, Enter uses the tool on it, Control, Shift and an arrow key draw."));
+        "an arrow key choose a cell, Shift and Page Up or Page Down one that is eight cells away, Enter uses the tool "
+        "on "
+        "it, Control, Shift and an arrow key draw."));
 }
 
 void TrackPic::Clear()
@@ -154,6 +183,13 @@ void TrackPic::ShowCellCursor(const std::optional<CellCursor>& cursor)
     if (cursor)
         cellCursor->SetColour(ColourOf(cursor->colour));
     PlaceMarker(*cellCursor, cursor ? std::optional(QPoint(cursor->x, cursor->y)) : std::nullopt);
+    ShowCellOutline();
+}
+
+void TrackPic::ShowCellOutline()
+{
+    cellOutline->PlaceAround(cellCursor->pos());
+    cellOutline->setVisible(hasFocus() && !cellCursor->isHidden());
 }
 
 void TrackPic::ShowPlayIndicator(const PlayIndicator& indicator)
@@ -191,11 +227,18 @@ void TrackPic::leaveEvent(QEvent* event)
     TrackSurface::leaveEvent(event);
 }
 
+void TrackPic::focusInEvent(QFocusEvent* event)
+{
+    TrackSurface::focusInEvent(event);
+    ShowCellOutline();
+}
+
 void TrackPic::focusOutEvent(QFocusEvent* event)
 {
     // A stroke that keys draw would not see them released.
     Q_EMIT Released();
     TrackSurface::focusOutEvent(event);
+    ShowCellOutline();
 }
 
 void TrackPic::PaintOver(QPainter& painter)

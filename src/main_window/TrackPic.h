@@ -14,11 +14,12 @@
 
 namespace sprout {
 
+class CellOutline;
 class TrackMarker;
 
-/// The painting surface: the time band and the painted runs of the tracks, and on them the cell cursor (`CellCursor`)
-/// and the two markers of the play position (`PlayPosImg0`, `PlayPosImg1`). It draws and tells of the mouse; what a
-/// press means is decided elsewhere.
+/// The painting surface: the time band and the painted runs of the tracks, and on them the cell cursor (`CellCursor`),
+/// which has an outline (`CellOutline`) while the surface has the focus, and the two markers of the play position
+/// (`PlayPosImg0`, `PlayPosImg1`). It draws and tells of the mouse; what a press means is decided elsewhere.
 class TrackPic : public TrackSurface {
     Q_OBJECT
 
@@ -51,6 +52,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void PaintOver(QPainter& painter) override;
 
@@ -71,6 +73,7 @@ private:
         friend bool operator==(const TopLook&, const TopLook&) = default;
     };
 
+    void ShowCellOutline();
     void Clear();
     /// Draws a meadow on the lower edge of the emptied surface, if the rows leave room for it.
     void PaintMeadow(std::int32_t trackCount);
@@ -84,6 +87,7 @@ private:
     const TrackView& view;
     std::vector<std::optional<RowLook>> drawnRows; ///< by row, from the top
     std::optional<TopLook> drawnTop;
+    CellOutline* cellOutline; ///< below the cell cursor, while the surface has the focus
     TrackMarker* cellCursor;
     TrackMarker* songMarker;  ///< element 0 of `PlayPosImg`
     TrackMarker* trackMarker; ///< element 1

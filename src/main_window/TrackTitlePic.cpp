@@ -29,7 +29,7 @@ constexpr QRect kLabel1Place{96, 0, 44, 19};
 
 constexpr QSize kPictureButtonSize{34, 34};
 constexpr int kPictureButtonLeft = kTrackPictureLeft - 1;
-constexpr QSize kAddButtonSize{48, 48};
+constexpr QSize kAddButtonSize{kAddButtonSide, kAddButtonSide};
 constexpr int kAddButtonLeft = (kTitleStripWidth - kAddButtonsApart - kAddButtonSize.width()) / 2;
 constexpr int kRingAround = 3;
 constexpr int kTopLblGap = 2;

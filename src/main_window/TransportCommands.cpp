@@ -5,7 +5,10 @@
 
 #include <chrono>
 #include <optional>
+#include <utility>
 
+#include "core/Numbers.h"
+#include "core/Settings.h"
 #include "core/Shared.h"
 #include "main_window/rules/Transport.h"
 #include "recording/AudioEditFrm.h"
@@ -49,10 +52,9 @@ void RenderTrackOfNumber(std::int32_t number)
         RenderTuneTrack(number);
 }
 
-void PlayFromCell(const WaveData& wave, std::int32_t origin, std::int32_t track, std::int32_t cell)
+bool IsFollowPlaySet()
 {
-    if (const std::optional<PlayFrom> part = CutFromCell(wave, origin, cell, Shared().Song.Tempo))
-        PlayWaveTrack(part->Wave, track, part->StartCell, Loop::No);
+    return NumberPrefix(GetSetting("MainWindow", "FollowPlay", "1")) == 1;
 }
 
 std::int32_t TuneInterval(const Tune& tune)
@@ -116,13 +118,13 @@ void TransportCommands::SetWindow(TrackCanvas& trackCanvas, QLabel& statusLbl)
 void TransportCommands::PlayAllBtn()
 {
     ShowHint({});
-    Guarded([] {
+    Guarded([this] {
         const SongState& song = Shared().Song;
         if (!Passes(CheckSong(song)))
             return;
         MixSong();
         if (song.SongMixValid)
-            PlayWaveTrack(song.SongMix, kWholeSong, song.SongFirstPos, Loop::No);
+            Play(song.SongMix, kWholeSong, song.SongFirstPos);
     });
 }
 
@@ -143,19 +145,19 @@ void TransportCommands::PlayOrStop()
 void TransportCommands::TrackPlayBtn()
 {
     ShowHint({});
-    Guarded([number = canvas->HoverTrack()] {
+    Guarded([this, number = canvas->HoverTrack()] {
         const Track* const track = TrackOfNumber(number);
         if (!track || !Passes(CheckTrack(*track, Shared().Song.SongCells)))
             return;
         RenderTrackOfNumber(number);
         if (track->TrackRenderValid)
-            PlayWaveTrack(track->TrackRender, number, track->FirstPainted, Loop::No);
+            Play(track->TrackRender, number, track->FirstPainted);
     });
 }
 
 void TransportCommands::PlaySongFrom(std::int32_t cell)
 {
-    Guarded([cell] {
+    Guarded([this, cell] {
         const SongState& song = Shared().Song;
         if (cell < 1 || cell > song.SongCells || !Passes(CheckSongFromCell(song)))
             return;
@@ -167,7 +169,7 @@ void TransportCommands::PlaySongFrom(std::int32_t cell)
 
 void TransportCommands::PlayTrackFrom(std::int32_t number, std::int32_t cell)
 {
-    Guarded([number, cell] {
+    Guarded([this, number, cell] {
         const SongState& song = Shared().Song;
         const Track* const track = TrackOfNumber(number);
         if (!track || cell < 1 || cell > song.SongCells || !Passes(CheckTrackFromCell(*track, song.SongCells, cell)))
@@ -176,6 +178,35 @@ void TransportCommands::PlayTrackFrom(std::int32_t number, std::int32_t cell)
         if (track->TrackRenderValid)
             PlayFromCell(track->TrackRender, track->FirstPainted, number, cell);
     });
+}
+
+void TransportCommands::Play(const WaveData& wave, std::int32_t track, std::int32_t startCell)
+{
+    PlayWaveTrack(wave, track, startCell, Loop::No);
+    if (PlayShared().PlayState == PlayState::Stopped) {
+        if (wave.Length > 0)
+            TellNoSound();
+        return;
+    }
+    if (canvas && IsFollowPlaySet()) {
+        canvas->BeginFollowing();
+        canvas->FollowMarker(startCell);
+    }
+}
+
+void TransportCommands::PlayFromCell(const WaveData& wave, std::int32_t origin, std::int32_t track, std::int32_t cell)
+{
+    if (const std::optional<PlayFrom> part = CutFromCell(wave, origin, cell, Shared().Song.Tempo))
+        Play(part->Wave, track, part->StartCell);
+}
+
+/// Once: the status line goes on to say that there is no sound.
+void TransportCommands::TellNoSound()
+{
+    if (std::exchange(noSoundTold, true))
+        return;
+    ShowMessage("I cannot find a loudspeaker to play your music on.",
+                "Plug in headphones or a loudspeaker and press play again. Or ask a grown-up.");
 }
 
 void TransportCommands::EnableTrackTitlePlayTimer()
@@ -233,8 +264,11 @@ void TransportCommands::MovePlayIndicator()
 {
     const PlayModState& play = PlayShared();
     // A sound that has just ended has no place any more: its marker waits where it stands for the next tick.
-    if (canvas && play.PlayKind == PlayKind::SongOrTrack && play.PlayState != PlayState::Stopped)
-        canvas->ShowPlayIndicator(sprout::MovePlayIndicator(play, canvas->View()));
+    if (!canvas || play.PlayKind != PlayKind::SongOrTrack || play.PlayState == PlayState::Stopped)
+        return;
+    if (const std::optional<std::int32_t> cell = MarkerCell(play))
+        canvas->FollowMarker(*cell);
+    canvas->ShowPlayIndicator(sprout::MovePlayIndicator(play, canvas->View()));
 }
 
 void TransportCommands::PlayIndicatorOff()

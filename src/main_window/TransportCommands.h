@@ -40,6 +40,11 @@ public:
     void UpdateThisTune() override;
 
 private:
+    /// Plays a wave of the song or of a track that starts at a cell.
+    void Play(const WaveData& wave, std::int32_t track, std::int32_t startCell);
+    void PlayFromCell(const WaveData& wave, std::int32_t origin, std::int32_t track, std::int32_t cell);
+    void TellNoSound();
+
     void PlayPosTimerTick();
     void MovePlayIndicator();
     void PlayIndicatorOff();
@@ -52,6 +57,7 @@ private:
     QPointer<QLabel> soundStatusLbl;
     QTimer playPosTimer;
     QTimer trackTitlePlayTimer;
+    bool noSoundTold = false;
     bool titlePlayBusy = false; ///< a message or a long render inside a tick lets others come
 };
 

@@ -67,6 +67,12 @@ public:
 
     /// Deletes a temporary file, unless a running program still holds it. Follows no link.
     virtual void DeleteStaleFile(const std::filesystem::path& path) = 0;
+
+    /// Makes a file of the concatenated `pieces` that appears whole, and is on the disk when this returns. False where
+    /// something has that name, a link without its file too; it stays as it is, also where another program makes it at
+    /// the same moment. Throws like `ReplaceFile`.
+    [[nodiscard]] virtual bool WriteNewFile(const std::filesystem::path& path,
+                                            std::span<const std::span<const std::byte>> pieces) = 0;
 };
 
 } // namespace sprout

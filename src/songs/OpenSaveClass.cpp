@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "songs/OpenSaveClass.h"
 
+#include <cstddef>
 #include <exception>
 #include <optional>
 #include <string>
@@ -52,24 +53,35 @@ SongState ReadSong(ByteSource& source, SongLoader loadVersion)
     return {};
 }
 
+/// Leaves a song without tracks, which has no file of its own: whatever is saved in its place would be another song.
+void FailLoading(SongState& song)
+{
+    song.TrackCount = 0;
+    song.OwnFile = FileMark();
+}
+
 } // namespace
 
 void OpenSaveClass::Load_Song(const fs::path& path)
 {
     SongState& shared = Shared().Song;
+    const std::size_t toldBefore = MessagesTold();
     try {
-        const fs::path file = FindFile(path);
-        FileSource source(file.empty() ? path : file);
+        const fs::path found = FindFile(path);
+        const fs::path& file = found.empty() ? path : found;
+        const FileMark mark = MarkOf(file); // before the reading: what is changed meanwhile was not read
+        FileSource source(file);
         const SongLoader loadVersion = LoaderOf(source);
         SongState song = loadVersion ? ReadSong(source, loadVersion) : SongState();
         if (song.TrackCount != 0) {
+            song.OwnFile = MessagesTold() == toldBefore ? mark : FileMark();
             shared = std::move(song);
             return;
         }
-        shared.TrackCount = 0;
+        FailLoading(shared);
         Tell("", "Failed Loading");
     } catch (const std::exception& error) {
-        shared.TrackCount = 0;
+        FailLoading(shared);
         Tell("Error Opening File", ErrorText(error));
     }
 }
@@ -77,9 +89,23 @@ void OpenSaveClass::Load_Song(const fs::path& path)
 void OpenSaveClass::Save_Song(const fs::path& path)
 {
     SongState& song = Shared().Song;
+    RequireTracks(song);
     Compact_Song_Beats(song);
     const LongsWriter data = Write_Song_Data(song);
     ReplaceDataFile(path, FileHead("TqSng", " Sprout Song File"), data, saveFlush);
+    song.OwnFile = MarkOf(path);
+}
+
+void RequireTracks(const SongState& song)
+{
+    if (song.TrackCount < 1)
+        throw RunTimeError("This song has no tracks, so it is not saved.");
+}
+
+bool MayReplaceUnasked(const fs::path& place)
+{
+    const FileMark& own = Shared().Song.OwnFile;
+    return !FileExists(place) || (own.Path == place && own == MarkOf(place));
 }
 
 } // namespace sprout

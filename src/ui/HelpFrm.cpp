@@ -12,6 +12,7 @@
 #include <array>
 
 #include "ui/Artwork.h"
+#include "ui/Dialogs.h"
 #include "ui/HelpBook.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
@@ -68,6 +69,14 @@ QPointer<HelpFrm>& OpenHelp()
     return help;
 }
 
+/// The window that stays when all forms before it have closed.
+QWidget* BaseOf(QWidget* window)
+{
+    while (window && window->isModal())
+        window = window->parentWidget() ? window->parentWidget()->window() : nullptr;
+    return window;
+}
+
 } // namespace
 
 void ShowHelp()
@@ -82,7 +91,8 @@ void ShowHelp()
     help->activateWindow();
 }
 
-HelpFrm::HelpFrm() : BandedForm(nullptr), PagesLst(new QListWidget(this)), BookTxt(new HelpBook(this))
+HelpFrm::HelpFrm()
+    : BandedForm(nullptr), opener(BaseOf(WindowInFront())), PagesLst(new QListWidget(this)), BookTxt(new HelpBook(this))
 {
     setObjectName(QStringLiteral("HelpFrm"));
     setAttribute(Qt::WA_DeleteOnClose);
@@ -95,6 +105,9 @@ HelpFrm::HelpFrm() : BandedForm(nullptr), PagesLst(new QListWidget(this)), BookT
     ShowPage(0);
     BookTxt->setFocus();
     qApp->installEventFilter(this);
+    // The desktop learns of it when the window is shown.
+    winId();
+    StandBelowItsWindow();
 }
 
 void HelpFrm::MakePages()
@@ -159,7 +172,7 @@ void HelpFrm::MarkPage(const QUrl& source)
 bool HelpFrm::event(QEvent* event)
 {
     if (event->type() == QEvent::WindowBlocked || event->type() == QEvent::Show)
-        StandBelowModalWindow();
+        StandBelowItsWindow();
     return BandedForm::event(event);
 }
 
@@ -167,20 +180,21 @@ bool HelpFrm::eventFilter(QObject* watched, QEvent* event)
 {
     const bool comesOrGoes = event->type() == QEvent::Show || event->type() == QEvent::Hide;
     if (comesOrGoes && watched != this && watched->isWidgetType() && static_cast<QWidget*>(watched)->isModal())
-        QMetaObject::invokeMethod(this, &HelpFrm::StandBelowModalWindow, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &HelpFrm::StandBelowItsWindow, Qt::QueuedConnection);
     return BandedForm::eventFilter(watched, event);
 }
 
-/// A modal window blocks all windows but those that stand below it. The help goes there, as long as the modal window
-/// waits, so that it can be read and closed.
-void HelpFrm::StandBelowModalWindow()
+/// What stands below a window is kept in front of it. A modal window blocks all others: the help goes below it, as long
+/// as it waits, so that it can be read and closed; then back below the window that it was called from.
+void HelpFrm::StandBelowItsWindow()
 {
-    const QWidget* modal = QApplication::activeModalWidget();
-    QWindow* modalWindow = modal ? modal->windowHandle() : nullptr;
+    QWidget* const modal = QApplication::activeModalWidget();
     if (!windowHandle() || (modal && isAncestorOf(modal)))
         return;
-    if (windowHandle()->transientParent() != modalWindow)
-        windowHandle()->setTransientParent(modalWindow);
+    const QWidget* const above = modal ? modal : opener.data();
+    QWindow* const aboveWindow = above ? above->windowHandle() : nullptr;
+    if (windowHandle()->transientParent() != aboveWindow)
+        windowHandle()->setTransientParent(aboveWindow);
 }
 
 void HelpFrm::keyPressEvent(QKeyEvent* event)

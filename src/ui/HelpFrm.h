@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QListWidget>
+#include <QPointer>
 #include <QUrl>
 
 #include "ui/BandedForm.h"
@@ -14,8 +15,8 @@ class HelpBook;
 /// brings that window to the front.
 void ShowHelp();
 
-/// The window of the help book: a list of its pages, the page that is read, and the way back. It is not modal and can
-/// be used while a modal window waits.
+/// The window of the help book, in front of the window that it was called from: a list of its pages, the page that is
+/// read, and the way back. It is not modal and can be used while a modal window waits.
 class HelpFrm : public BandedForm {
     Q_OBJECT
 
@@ -35,8 +36,9 @@ private:
     void PlaceControls();
     void ShowPage(int row);
     void MarkPage(const QUrl& source);
-    void StandBelowModalWindow();
+    void StandBelowItsWindow();
 
+    QPointer<QWidget> opener; ///< not modal: the window that it was called from, or whose forms
     QListWidget* PagesLst;
     HelpBook* BookTxt;
     ImageButton* BackBtn = nullptr;

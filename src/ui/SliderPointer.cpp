@@ -51,6 +51,11 @@ void SliderPointer::SetSlot(int slotLeft, int widthPx)
     PutAt(slider.LeftOf(value()));
 }
 
+void SliderPointer::ChooseAt(double x)
+{
+    choose(slider.PercentAt(slider.Dragged(x - look.size.width() / 2.0, 0, 0)));
+}
+
 void SliderPointer::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)

@@ -34,6 +34,9 @@ public:
     /// The slot in which the pointer moves, in the parent's coordinates.
     void SetSlot(int left, int widthPx);
 
+    /// Chooses the percentage that brings the pointer's middle next to `x` of the parent.
+    void ChooseAt(double x);
+
     [[nodiscard]] bool IsDragged() const { return isDragged; }
 
 protected:

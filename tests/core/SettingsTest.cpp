@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "support/FakeServices.h"
+#include "support/UnchangeableFolder.h"
 
 namespace sprout {
 namespace {
@@ -65,6 +66,16 @@ TEST_F(Settings, KeepsTheSectionWhereABlankKeyIsWritten)
 {
     PutSetting("s", "k", "1");
     PutSetting("s", "", "2");
+    EXPECT_EQ(GetSetting("s", "k", ""), "1");
+}
+
+TEST_F(Settings, AFileThatItsUserMayNotWriteIsNotReplaced)
+{
+    Write("[s]\r\nk=1\r\n");
+    std::filesystem::permissions(Shared().SettingsFile, std::filesystem::perms::owner_read);
+    std::filesystem::create_directory(fake.folder.Path() / "other");
+    const UnchangeableFolder rightsLaidDown(fake.folder.Path() / "other");
+    PutSetting("s", "k", "2");
     EXPECT_EQ(GetSetting("s", "k", ""), "1");
 }
 

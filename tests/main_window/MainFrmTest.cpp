@@ -271,12 +271,28 @@ TEST_F(MainFrmTest, KeepsTheControlBarInOneLineDownToAThousandPixels)
     window->UpdateSongTitle();
     EXPECT_EQ(Control("PlayAllBtn").y(), Control("DemoBtn").y());
     EXPECT_EQ(TextOf("SngTitleLbl"), "Zumi");
-    EXPECT_FALSE(Control("SngCreateLbl").isVisible());
-    for (const QSize size : {QSize(1280, 640), QSize(800, 640)}) {
-        window->resize(size);
-        EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
-        EXPECT_TRUE(Control("SngCreateLbl").isVisible());
+    EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
+}
+
+TEST_F(MainFrmTest, ShowsTheAuthorAtEveryWidthAndADoubleClickOnItChangesIt)
+{
+    Song().SongTitle = "A song of a rather long title";
+    Song().SongCreatedBy = "Lina from the house by the lake";
+    for (int width = window->minimumWidth(); width <= 1300; width += 7) {
+        window->resize(width, 640);
+        window->UpdateSongTitle();
+        ASSERT_TRUE(Control("SngCreateLbl").isVisible()) << width;
+        ASSERT_GE(Control("SngCreateLbl").width(), 40) << width;
+        ASSERT_NE(TextOf("SngCreateLbl").substr(0, 1), "\xE2") << width; // not the dots alone
     }
+    window->resize(1000, 640);
+    QString asked;
+    WithNextForm([&asked](BandedForm& form) {
+        asked = form.objectName();
+        Click(form, "CancelBtn");
+    });
+    QTest::mouseDClick(&Control("SngCreateLbl"), Qt::LeftButton);
+    EXPECT_EQ(asked, QStringLiteral("SongTitleFrm"));
 }
 
 TEST_F(MainFrmTest, MaximizesAndRestoresAndShowsTheButtonThatMakesSense)
@@ -474,6 +490,7 @@ TEST_F(MainFrmTest, StaysWhereTheSongCannotBeSaved)
 {
     Song().SongChanged = true;
     std::filesystem::remove_all(Shared().UserSongs);
+    WriteBytes(Shared().UserSongs.parent_path(), "no folder, and none can be made here");
     ShownMessage message;
     WithNextForm([&message](BandedForm& form) {
         NoteNextMessage(message);
@@ -751,7 +768,7 @@ TEST_F(MainFrmTest, ReachesEveryVisibleButtonOfItsBarByTab)
         EXPECT_TRUE(reached.count(QString::fromLatin1(name))) << name;
 }
 
-TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTracksAndToItsOwnButtonsLast)
+TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTitlesToItsOwnButtonsAndToTheTracks)
 {
     QStringList reached;
     Control("PlayAllBtn").setFocus();
@@ -761,8 +778,15 @@ TEST_F(MainFrmTest, GoesByTabFromTheToolsToTheTracksAndToItsOwnButtonsLast)
     } while (window->focusWidget() != &Control("PlayAllBtn") && reached.size() < 60);
     EXPECT_EQ(reached.join(QLatin1Char(' ')).toStdString(),
               "PlayAllBtn PlayStopBtn BrushBtn EraserBtn PlayToolBtn NewBtn OpenBtn SaveBtn SongTitleChgBtn EmailBtn "
-              "HelpBtn AboutBtn DemoBtn TempoPrtImg Label5 Label1 TrackTitlePic TrackAddBtn TrackAddRecBtn TrackPic "
-              "CloseImgBtn MaximizeImgBtn MinimizeImgBtn");
+              "HelpBtn AboutBtn DemoBtn TempoPrtImg Label5 Label1 TrackTitlePic TrackAddBtn TrackAddRecBtn "
+              "CloseImgBtn MaximizeImgBtn MinimizeImgBtn TrackPic");
+}
+
+TEST_F(MainFrmTest, TheFirstTabStandsOnPlayAll)
+{
+    ASSERT_EQ(window->focusWidget(), &Control("TrackPic"));
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), &Control("PlayAllBtn"));
 }
 
 TEST_F(MainFrmTest, LivesWithASongOfNoTracks)

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/OpenMainWindow.h"
 
+#include "core/Paths.h"
 #include "main_window/MainWindowTest.h"
+#include "songs/SongKeeper.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
@@ -59,6 +61,25 @@ TEST_F(OpenMainWindowTest, ShowsTheSampleSongOnTheFirstStarts)
     EXPECT_EQ(TextOf("SngTitleLbl"), "Zumi");
     EXPECT_EQ(TextOf("TempoLbl"), "125%");
     EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Zumi]");
+}
+
+TEST_F(OpenMainWindowTest, TellsOnceWhichSongsWereKeptAndWhere)
+{
+    Song().SongChanged = true;
+    SongKeeper().KeepUnsavedSong();
+    SongKeeper().KeepUnsavedSong();
+    ShownMessage message;
+    OpenMainWindow(*window);
+    NoteNextMessage(message);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(message.line1, QStringLiteral("What was not saved last time is kept as the song \"Untitled kept\", "
+                                            "\"Untitled kept 2\""));
+    EXPECT_EQ(message.line2, QtText("in the folder " + PathText(Shared().UserSongs)));
+    message = {};
+    OpenMainWindow(*window);
+    NoteNextMessage(message);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(message.line1, QString());
 }
 
 } // namespace

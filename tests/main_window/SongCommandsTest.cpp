@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTimer>
 
 #include "main_window/MainWindowTest.h"
@@ -145,6 +146,106 @@ TEST_F(SongCommandsTest, NewSavesUnderTheTitleAfterYesWithoutAskingForAName)
     EXPECT_EQ(Song().Tempo, kQuickTempo);
 }
 
+TEST_F(SongCommandsTest, NewSavesOverTheSongsOwnFileAfterYesWithoutAQuestion)
+{
+    PutSong("Rain", kQuickTempo);
+    ChooseNextSong("Rain");
+    ClickButton("OpenBtn");
+    Song().Tempo = kQuickTempo + 1;
+    Song().SongChanged = true;
+    WithNextForm([](BandedForm& form) { Click(form, "YesBtn"); });
+    ClickButton("NewBtn");
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+    OpenSaveClass().Load_Song(SongPath("Rain"));
+    EXPECT_EQ(Song().Tempo, kQuickTempo + 1);
+}
+
+TEST_F(SongCommandsTest, YesOpensTheSaveWindowWhereTheSongWouldTakeTheFileOfAnother)
+{
+    PutSong("Untitled", kQuickTempo); // yesterday's
+    Song().SongChanged = true;
+    QString second;
+    WithNextForm([&second](BandedForm& question) {
+        WithNextForm([&second](BandedForm& chooser) {
+            second = chooser.objectName();
+            EXPECT_EQ(chooser.findChild<QLineEdit*>(QStringLiteral("SongNameTxt"))->text(), QStringLiteral("Untitled"));
+            Click(chooser, "CancelBtn");
+        });
+        Click(question, "YesBtn");
+    });
+    ClickButton("NewBtn");
+    EXPECT_EQ(second, QStringLiteral("SongSelFrm"));
+    EXPECT_TRUE(Song().SongChanged);
+    EXPECT_EQ(Song().SongTitle, "Untitled");
+    OpenSaveClass().Load_Song(SongPath("Untitled"));
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+}
+
+TEST_F(SongCommandsTest, ASongSavedInThatWindowLetsTheCommandGoOn)
+{
+    PutSong("Untitled", kQuickTempo);
+    Song().SongChanged = true;
+    ShownMessage message;
+    WithNextForm([&message](BandedForm& question) {
+        SaveNextAs("Rain", message);
+        Click(question, "YesBtn");
+    });
+    ClickButton("NewBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Your song \"Rain\" is saved."));
+    EXPECT_TRUE(std::filesystem::exists(SongPath("Rain")));
+    EXPECT_EQ(Song().SongTitle, "Untitled 1");
+    EXPECT_FALSE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, YesAsksForANameWhereTheTitleCanBeNone)
+{
+    Song().SongChanged = true;
+    Song().SongTitle = "Rain/Sun";
+    QString second;
+    WithNextForm([&second](BandedForm& question) {
+        WithNextForm([&second](BandedForm& chooser) {
+            second = chooser.objectName();
+            Click(chooser, "CancelBtn");
+        });
+        Click(question, "YesBtn");
+    });
+    ClickButton("NewBtn");
+    EXPECT_EQ(second, QStringLiteral("SongSelFrm"));
+    EXPECT_TRUE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, ASongWithoutTracksIsNotSaved)
+{
+    PutSong("Rain", kQuickTempo);
+    Song().SongTitle = "Rain";
+    Song().TrackCount = 0;
+    Song().SongChanged = true;
+    ShownMessage message;
+    NoteNextMessage(message);
+    ClickButton("SaveBtn");
+    EXPECT_EQ(message.line1, QStringLiteral("Error Saving file\r\nThis song has no tracks, so it is not saved."));
+    OpenSaveClass().Load_Song(SongPath("Rain"));
+    EXPECT_EQ(Song().Tempo, kQuickTempo);
+}
+
+TEST_F(SongCommandsTest, EnterDoesNotReplaceASongThatCouldNotBeRead)
+{
+    WriteBytes(SongPath("Broken"), "This is no song.");
+    ChooseNextSong("Broken");
+    ClickButton("OpenBtn");
+    Song().TrackCount = 1;
+    Song().Tracks.resize(2);
+    WithNextForm([](BandedForm& chooser) {
+        WithNextForm([](BandedForm& question) {
+            WithNextForm([](BandedForm& again) { Click(again, "CancelBtn"); });
+            QTest::keyClick(question.focusWidget(), Qt::Key_Return);
+        });
+        QTest::keyClick(chooser.findChild<QLineEdit*>(QStringLiteral("SongNameTxt")), Qt::Key_Return);
+    });
+    ClickButton("SaveBtn");
+    EXPECT_EQ(ReadBytes(SongPath("Broken")), "This is no song.");
+}
+
 TEST_F(SongCommandsTest, NewKeepsASongThatCannotBeSaved)
 {
     Song().SongChanged = true;
@@ -174,6 +275,29 @@ TEST_F(SongCommandsTest, OpenLoadsTheChosenSong)
     EXPECT_EQ(TextOf("SngTitleLbl"), "Rain");
     EXPECT_EQ(TextOf("TempoLbl"), "125%");
     EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Rain]");
+}
+
+TEST_F(SongCommandsTest, NewAndOpenShowTheSongFromItsFirstTrackAndCell)
+{
+    PutSong("Rain", kQuickTempo);
+    Song().TrackCount = 20;
+    Song().Tracks.resize(21);
+    auto& rows = *window->findChild<QScrollBar*>(QStringLiteral("TrackVScroll"));
+    auto& cells = *window->findChild<QScrollBar*>(QStringLiteral("TrackHScroll"));
+    const auto scroll = [&] {
+        window->DrawTracksAll();
+        rows.setValue(2);
+        cells.setValue(100);
+        ASSERT_EQ(cells.value(), 100);
+    };
+    scroll();
+    ChooseNextSong("Rain");
+    ClickButton("OpenBtn");
+    EXPECT_EQ(rows.value(), 1);
+    EXPECT_EQ(cells.value(), 1);
+    scroll();
+    ClickButton("NewBtn");
+    EXPECT_EQ(cells.value(), 1);
 }
 
 TEST_F(SongCommandsTest, OpenDoesNothingAfterCancel)
@@ -306,6 +430,7 @@ TEST_F(SongCommandsTest, SaveReplacesAFileWhoseNameDiffersInCaseOnly)
 {
     PutSong("Rain", kQuickTempo);
     Song().SongTitle = "RAIN";
+    Song().OwnFile = MarkOf(SongPath("Rain"));
     ShownMessage message;
     SaveNextAs("RAIN", message);
     ClickButton("SaveBtn");

@@ -190,6 +190,23 @@ TEST_F(TempoBarTest, MovesOnlyWhileTheLeftButtonHoldsThePointer)
     EXPECT_TRUE(AllIsFresh());
 }
 
+TEST_F(TempoBarTest, AClickOnTheSlotMovesThePointerThere)
+{
+    QWidget& slot = Control("TempoSliderImg");
+    const auto click = [&slot](int x) { QTest::mouseClick(&slot, Qt::LeftButton, {}, QPoint(x, 2)); };
+    click(17 + 75); // the pointer is 34 wide, and one percent one pixel
+    EXPECT_EQ(song.Tempo, 400);
+    EXPECT_EQ(Text("TempoLbl"), QStringLiteral("125%"));
+    EXPECT_EQ(pointer().x(), 75);
+    EXPECT_TRUE(AllIsStale());
+    click(0);
+    EXPECT_EQ(song.Tempo, 160);
+    click(slot.width() - 1);
+    EXPECT_EQ(song.Tempo, 640);
+    QTest::mouseClick(&slot, Qt::RightButton, {}, QPoint(20, 2));
+    EXPECT_EQ(song.Tempo, 640);
+}
+
 TEST_F(TempoBarTest, AnswersTheKeys)
 {
     struct KeyRow {

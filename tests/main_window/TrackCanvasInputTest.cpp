@@ -302,6 +302,36 @@ TEST_F(TrackCanvasInputTest, KeysMoveTheCellCursorAndPaint)
     EXPECT_THAT(asked, ElementsAre("PlaySongFrom 5"));
 }
 
+TEST_F(TrackCanvasInputTest, ShiftAndPageMoveTheCellCursorByEightCells)
+{
+    Key(Qt::Key_PageDown, Qt::ShiftModifier);
+    EXPECT_EQ(cellText, "9");
+    Key(Qt::Key_PageDown, Qt::ShiftModifier);
+    EXPECT_EQ(cellText, "17");
+    EXPECT_EQ(Part("CellCursor").pos(), QPoint(CellX(17), RowY(1) + 7));
+    Key(Qt::Key_PageUp, Qt::ShiftModifier);
+    Key(Qt::Key_PageUp, Qt::ShiftModifier);
+    Key(Qt::Key_PageUp, Qt::ShiftModifier);
+    EXPECT_EQ(cellText, "1");
+    EXPECT_EQ(canvas->View().FirstTrack, 1);
+}
+
+TEST_F(TrackCanvasInputTest, TheCellCursorHasAnOutlineWhileTheTracksHaveTheFocus)
+{
+    Pic().setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(IsShown("CellOutline"));
+    Key(Qt::Key_Right, Qt::ControlModifier);
+    ASSERT_TRUE(IsShown("CellOutline"));
+    EXPECT_EQ(Part("CellOutline").geometry(), Part("CellCursor").geometry().adjusted(-3, -3, 3, 3));
+    Pic().clearFocus();
+    EXPECT_FALSE(IsShown("CellOutline"));
+    EXPECT_TRUE(IsShown("CellCursor"));
+    Pic().setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(IsShown("CellOutline"));
+    canvas->DrawTracksAll();
+    EXPECT_FALSE(IsShown("CellOutline"));
+}
+
 TEST_F(TrackCanvasInputTest, TheKeysCellIsScrolledIntoView)
 {
     SetTracks(20);

@@ -58,6 +58,48 @@ TEST_F(TrackCommandsTest, ACancelledAddTakesTheTrackAwayAndMarksTheSong)
     EXPECT_EQ(Part("TrackAddBtn").y(), 3 * 46 + 30);
 }
 
+TEST_F(TrackCommandsTest, TheAddedTrackAndTheButtonsBelowItComeIntoView)
+{
+    const auto isInView = [this](std::int32_t count) {
+        return canvas->View().FirstTrack <= count &&
+               Part("TrackAddBtn").geometry().bottom() < Part("TrackTitlePic").height();
+    };
+    tuneWindow = [&](Tune& tune, bool&) {
+        EXPECT_TRUE(isInView(song.TrackCount));
+        GiveTune(tune);
+        return true;
+    };
+    for (int i = 0; i < 12; ++i) {
+        tracks->TrackAddBtn();
+        EXPECT_TRUE(isInView(song.TrackCount)) << song.TrackCount;
+    }
+    EXPECT_GT(canvas->View().FirstTrack, 1);
+}
+
+TEST_F(TrackCommandsTest, NoMarkerStandsBehindTheTuneWindow)
+{
+    Paint(1, 5, 40);
+    bool shown = true;
+    tuneWindow = [&](Tune&, bool&) {
+        shown = MarkerShown("PlayPosImg0");
+        PlaySomething(); // as the tune window does
+        Tick("PlayPosTimer");
+        shown = shown || MarkerShown("PlayPosImg0");
+        return false;
+    };
+    for (const auto& open : {std::function<void()>([this] { tracks->TrackAddBtn(); }), std::function<void()>([this] {
+                                 HoverPicture(1);
+                                 tracks->TrackTuneBtn();
+                             })}) {
+        song.SongMixValid = false;
+        transport.PlayAllBtn();
+        Tick("PlayPosTimer");
+        ASSERT_TRUE(MarkerShown("PlayPosImg0"));
+        open();
+        EXPECT_FALSE(shown);
+    }
+}
+
 TEST_F(TrackCommandsTest, ATuneWindowThatFailsLeavesNoTrackBehind)
 {
     tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError("No window."); };

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TransportCommands.h"
 
+#include <QScrollBar>
+
+#include "core/Settings.h"
 #include "main_window/CommandsTest.h"
 
 namespace sprout {
@@ -68,6 +71,7 @@ TEST_F(TransportTest, DoesNothingWithoutASoundDriver)
 {
     SetSoundDriver(false);
     Paint(1, 1, 4);
+    const NextForm form;
     transport.PlayAllBtn();
     EXPECT_TRUE(sound.calls.empty());
     EXPECT_EQ(Status(), "Ready");
@@ -78,12 +82,32 @@ TEST_F(TransportTest, ShowsNoIndicatorWhereNoDeviceOpens)
 {
     sound.opens = false;
     Paint(1, 1, 4);
+    const NextForm form;
     transport.PlayAllBtn();
     EXPECT_EQ(play.PlayingTrack, 0);
     EXPECT_EQ(Status(), "Ready");
     EXPECT_FALSE(Timer("PlayPosTimer").isActive());
     EXPECT_FALSE(MarkerShown("PlayPosImg0"));
     EXPECT_TRUE(services.messages.shown.empty());
+}
+
+TEST_F(TransportTest, TheFirstPlayWithoutASoundDeviceSaysWhatCanBeDone)
+{
+    sound.opens = false;
+    Paint(1, 1, 4);
+    const NextForm first;
+    transport.PlayAllBtn();
+    EXPECT_THAT(first.lines, ElementsAre("I cannot find a loudspeaker to play your music on.",
+                                         "Plug in headphones or a loudspeaker and press play again. Or ask a "
+                                         "grown-up."));
+    transport.PlayAllBtn(); // once: a second message would wait here for ever
+    HoverPlayButton(1);
+    transport.TrackPlayBtn();
+    EXPECT_FALSE(MarkerShown("PlayPosImg0"));
+    EXPECT_FALSE(MarkerShown("PlayPosImg1"));
+    sound.opens = true;
+    transport.PlayAllBtn();
+    EXPECT_EQ(play.PlayState, PlayState::Playing);
 }
 
 TEST_F(TransportTest, TheSpaceBarPlaysAndStops)
@@ -321,6 +345,83 @@ TEST_F(TransportTest, MovesTheMarkOfATrackByTheTempoOfItsStart)
     EXPECT_FALSE(MarkerShown("PlayPosImg0"));
     EXPECT_TRUE(MarkerShown("PlayPosImg1"));
     EXPECT_EQ(Part("PlayPosImg1").pos(), QPoint(CellLeft(canvas->View(), 9), RowTop(canvas->View(), 2) + 7));
+}
+
+TEST_F(TransportTest, TheViewGoesAlongWithTheMarkThatLeavesItAtTheRight)
+{
+    Paint(1, 5, 600);
+    transport.PlayAllBtn();
+    const std::int32_t lastInView = LastVisibleCell(canvas->View());
+    sound.place.Cursor = 8269 * (lastInView - 5 - 1);
+    Tick("PlayPosTimer");
+    EXPECT_EQ(canvas->View().FirstCell, 1);
+    sound.place.Cursor = 8269 * (lastInView + 3 - 5);
+    Tick("PlayPosTimer");
+    EXPECT_EQ(canvas->View().FirstCell, lastInView + 2);
+    EXPECT_EQ(Part("PlayPosImg0").x(), CellLeft(canvas->View(), lastInView + 3));
+    EXPECT_EQ(canvas->findChild<QScrollBar*>(QStringLiteral("TrackHScroll"))->value(), lastInView + 2);
+}
+
+TEST_F(TransportTest, TheViewGoesToThePlaysStartOnEitherSide)
+{
+    Paint(1, 500, 600);
+    transport.PlayAllBtn();
+    EXPECT_EQ(canvas->View().FirstCell, 499);
+    Paint(2, 5, 6);
+    HoverPlayButton(2);
+    transport.TrackPlayBtn();
+    EXPECT_EQ(canvas->View().FirstCell, 4);
+}
+
+TEST_F(TransportTest, AScrollSidewaysOrAStrokeEndsTheFollowingOfAPlay)
+{
+    Paint(1, 5, 600);
+    auto& bar = *canvas->findChild<QScrollBar*>(QStringLiteral("TrackHScroll"));
+    const std::function<void()> ends[] = {
+        [&bar] { bar.setValue(9); },
+        [this] {
+            QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 20));
+            QTest::mouseRelease(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 20));
+        },
+    };
+    for (const auto& end : ends) {
+        canvas->ShowFromStart();
+        transport.PlayAllBtn();
+        end();
+        const std::int32_t first = canvas->View().FirstCell;
+        sound.place.Cursor = 8269 * 400;
+        Tick("PlayPosTimer");
+        EXPECT_EQ(canvas->View().FirstCell, first);
+        sound.place.Cursor = 0;
+        transport.PlayStopBtn();
+    }
+    canvas->ShowFromStart();
+    transport.PlayAllBtn(); // for that play only
+    sound.place.Cursor = 8269 * 400;
+    Tick("PlayPosTimer");
+    EXPECT_EQ(canvas->View().FirstCell, 404);
+}
+
+TEST_F(TransportTest, TheViewStaysWhileAMouseButtonIsHeldAndFollowsThen)
+{
+    Paint(1, 5, 600);
+    transport.PlayAllBtn();
+    sound.place.Cursor = 8269 * 400;
+    QTest::mousePress(&statusLbl, Qt::LeftButton);
+    Tick("PlayPosTimer");
+    EXPECT_EQ(canvas->View().FirstCell, 1);
+    QTest::mouseRelease(&statusLbl, Qt::LeftButton);
+    Tick("PlayPosTimer");
+    EXPECT_EQ(canvas->View().FirstCell, 404);
+}
+
+TEST_F(TransportTest, ASettingSwitchesTheFollowingOff)
+{
+    PutSetting("MainWindow", "FollowPlay", "0");
+    Paint(1, 500, 600);
+    transport.PlayAllBtn();
+    Tick("PlayPosTimer");
+    EXPECT_EQ(canvas->View().FirstCell, 1);
 }
 
 TEST_F(TransportTest, FindsTheEndOfASoundByItself)

@@ -338,14 +338,40 @@ TEST_F(SongSelFrmTest, ABlankNameIsAskedForAgain)
     EXPECT_FALSE(form.Ok);
 }
 
-TEST_F(SongSelFrmTest, SavingUnderTheOwnTitleInAnotherCaseAsksNothing)
+TEST_F(SongSelFrmTest, SavingOverTheOwnFileInAnotherCaseAsksNothing)
 {
     Put({"Zumi"});
+    Shared().Song.OwnFile = MarkOf(songFolder / "Zumi.TqSng");
     Open(SongSelMode::Save);
     NameBox().setText(QStringLiteral("ZUMI"));
     Click(form, "OkBtn");
     EXPECT_TRUE(form.Ok);
     EXPECT_EQ(form.ChosenName, "ZUMI");
+}
+
+TEST_F(SongSelFrmTest, SavingOverAFileThatTheSongIsNotFromAsksUnderItsTitleTooAndEnterSaysNo)
+{
+    Put({"Zumi"});
+    Open(SongSelMode::Save);
+    QString asked;
+    WithNextForm([&asked](BandedForm& question) {
+        asked = question.findChild<QLabel*>(QStringLiteral("NoteLbl1"))->text();
+        QTest::keyClick(question.focusWidget(), Qt::Key_Return);
+    });
+    QTest::keyClick(&NameBox(), Qt::Key_Return);
+    EXPECT_EQ(asked, QStringLiteral("A song with this name already exists: Zumi"));
+    EXPECT_TRUE(form.isVisible());
+    EXPECT_FALSE(form.Ok);
+}
+
+TEST_F(SongSelFrmTest, EnterKeepsASongThatIsAskedAbout)
+{
+    Put({"Rain"});
+    Open(SongSelMode::Open);
+    ClickRow(0);
+    WithNextForm([](BandedForm& question) { QTest::keyClick(question.focusWidget(), Qt::Key_Return); });
+    Click(form, "DeleteBtn");
+    EXPECT_TRUE(HasSong("Rain"));
 }
 
 TEST_F(SongSelFrmTest, SavingOverAnotherSongAsksFirst)

@@ -6,6 +6,8 @@
 #include "core/Errors.h"
 #include "core/SongModel.h"
 #include "songs/SongFiles.h"
+#include "sound/WavOperations.h"
+#include "support/UnchangeableFolder.h"
 
 namespace sprout {
 namespace {
@@ -189,6 +191,101 @@ TEST_F(OpenSaveClassTest, TooMuchSoundForOneFileLeavesTheOldOne)
     EXPECT_EQ(ReadBytes(Path()), before);
 }
 
+TEST_F(OpenSaveClassTest, ASongKnowsTheFileThatItWasReadFrom)
+{
+    EXPECT_FALSE(MayReplaceUnasked(Path()) && fs::exists(Path()));
+    LoadArray(SmallArray());
+    EXPECT_TRUE(MayReplaceUnasked(Path()));
+    EXPECT_EQ(Shared().Song.OwnFile, MarkOf(Path()));
+    WriteBytes(Shared().UserSongs / "Other.TqSng", "x");
+    EXPECT_FALSE(MayReplaceUnasked(Shared().UserSongs / "Other.TqSng"));
+    EXPECT_TRUE(MayReplaceUnasked(Shared().UserSongs / "Free.TqSng"));
+}
+
+TEST_F(OpenSaveClassTest, AFileThatAnotherProgramChangedIsTheSongsNoMore)
+{
+    LoadArray(SmallArray());
+    WriteBytes(Path(), ReadBytes(Path()) + "more");
+    EXPECT_FALSE(MayReplaceUnasked(Path()));
+}
+
+TEST_F(OpenSaveClassTest, ASongThatFailedToLoadHasNoFileOfItsOwn)
+{
+    LoadArray(SmallArray());
+    LoadBytes("This is no song.");
+    EXPECT_FALSE(MayReplaceUnasked(Path()));
+    LoadArray(SmallArray());
+    LoadBytes("TqSng\r\nFile Version=2\r\n" + std::string(100, ' '));
+    EXPECT_FALSE(MayReplaceUnasked(Path()));
+    LoadArray(SmallArray());
+    OpenSaveClass().Load_Song(Shared().UserSongs / "missing.TqSng");
+    EXPECT_FALSE(MayReplaceUnasked(Path()));
+}
+
+TEST_F(OpenSaveClassTest, ASongThatWasReadWithAMessageHasNoFileOfItsOwn)
+{
+    Shared().SongBeatsInside = false;
+    SaveWaveFile(WaveOf({1}), Shared().UserBeats / "Drum.wav");
+    WriteBytes(Shared().UserBeats / "Drum.bmp", "bad picture");
+    Shared().Song.SongBeats.push_back({"Drum", "", WaveOf({1}), PlainPicture(1), true});
+    Shared().Song.SongBeatCount = 1;
+    Shared().Song.Tracks[1].TrackTune.Name = "Tune";
+    Shared().Song.Tracks[1].TrackTune.Steps[1].BeatIndex = 1;
+    OpenSaveClass().Save_Song(Path());
+    OpenSaveClass().Load_Song(Path());
+    ASSERT_EQ(Shared().Song.TrackCount, 2);
+    ASSERT_EQ(Told().size(), 1U);
+    EXPECT_FALSE(MayReplaceUnasked(Path()));
+}
+
+TEST_F(OpenSaveClassTest, ASavedSongHasTheFileAndANewOneHasNone)
+{
+    SaveBytes();
+    EXPECT_TRUE(MayReplaceUnasked(Path()));
+    NewSong();
+    EXPECT_FALSE(MayReplaceUnasked(Path()));
+}
+
+TEST_F(OpenSaveClassTest, ASongWithoutTracksIsNotSaved)
+{
+    SaveBytes();
+    const std::string before = ReadBytes(Path());
+    Shared().Song.TrackCount = 0;
+    try {
+        OpenSaveClass().Save_Song(Path());
+        ADD_FAILURE() << "it was saved";
+    } catch (const RunTimeError& error) {
+        EXPECT_STREQ(error.what(), "This song has no tracks, so it is not saved.");
+    }
+    EXPECT_EQ(ReadBytes(Path()), before);
+}
+
+TEST_F(OpenSaveClassTest, AWriteProtectedSongIsNotReplaced)
+{
+    SaveBytes();
+    const std::string before = ReadBytes(Path());
+    fs::permissions(Path(), fs::perms::owner_read);
+    fs::create_directory(services.folder.Path() / "other");
+    {
+        const UnchangeableFolder rightsLaidDown(services.folder.Path() / "other");
+        Shared().Song.Tempo = 400;
+        try {
+            OpenSaveClass().Save_Song(Path());
+            ADD_FAILURE() << "it was replaced";
+        } catch (const RunTimeError& error) {
+            EXPECT_EQ(error.what(), "The file " + Path().native() + " may not be changed.");
+        }
+        EXPECT_EQ(ReadBytes(Path()), before);
+    }
+}
+
+TEST_F(OpenSaveClassTest, AFolderThatHasGoneIsMadeAgain)
+{
+    fs::remove_all(Shared().UserRoot);
+    OpenSaveClass().Save_Song(Path());
+    EXPECT_TRUE(fs::exists(Path()));
+}
+
 /// Notes how it was asked to write, and writes nothing.
 class NotedFiles : public Files {
 public:
@@ -199,6 +296,10 @@ public:
     [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const fs::path&) override { return nullptr; }
     [[nodiscard]] bool MayBeReplaced(const fs::path&) const override { return true; }
     void DeleteStaleFile(const fs::path&) override {}
+    [[nodiscard]] bool WriteNewFile(const fs::path&, std::span<const std::span<const std::byte>>) override
+    {
+        return false;
+    }
 
     std::vector<Flush> flushes;
 };

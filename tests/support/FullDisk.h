@@ -20,6 +20,11 @@ public:
     }
     [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& /*target*/) const override { return true; }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
+    [[nodiscard]] bool WriteNewFile(const std::filesystem::path& /*path*/,
+                                    std::span<const std::span<const std::byte>> /*pieces*/) override
+    {
+        throw RunTimeError("No space left on device.");
+    }
 };
 
 } // namespace sprout

@@ -220,6 +220,29 @@ TEST_F(HelpFrmTest, CanBeUsedWhileModalFormsWaitThatCameLater)
     EXPECT_EQ(OpenedHelp(), &help);
 }
 
+TEST_F(HelpFrmTest, StaysInFrontOfTheWindowThatItWasCalledFrom)
+{
+    QWidget window;
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const HelpFrm& help = Open();
+    EXPECT_EQ(help.windowHandle()->transientParent(), window.windowHandle());
+    const QWindow* duringTheQuestion = nullptr;
+    QWindow* questionWindow = nullptr;
+    WithNextForm([&](BandedForm& question) {
+        QApplication::processEvents();
+        questionWindow = question.windowHandle();
+        duringTheQuestion = help.windowHandle()->transientParent();
+        Click(question, "YesBtn");
+    });
+    QApplication::setActiveWindow(&window);
+    EXPECT_EQ(AskYesNo("Below?"), 1);
+    QApplication::processEvents();
+    EXPECT_EQ(duringTheQuestion, questionWindow);
+    EXPECT_EQ(help.windowHandle()->transientParent(), window.windowHandle());
+    delete OpenedHelp();
+}
+
 TEST_F(HelpFrmTest, CanBeClosedWhileAModalFormWaits)
 {
     Open();

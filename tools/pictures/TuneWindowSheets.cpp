@@ -37,6 +37,11 @@ public:
         throw RunTimeError(PathText(target) + " is not written.");
     }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
+    [[nodiscard]] bool WriteNewFile(const std::filesystem::path& /*path*/,
+                                    std::span<const std::span<const std::byte>> /*pieces*/) override
+    {
+        return false;
+    }
     [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& /*target*/) override
     {
         return nullptr;

@@ -142,20 +142,18 @@ ControlBarPlaces PlaceControlBar(std::int32_t width, EmailTool email)
 SongLine FitSongLine(const SongLineNeeds& needs, std::int32_t room)
 {
     SongLine line;
-    const std::int32_t behindTitle = kSongPartsApart + needs.authorCaption;
     const std::int32_t leastTitle = std::min(needs.title, kLeastTitle);
-    const std::int32_t leastAuthor = std::min(needs.author, kLeastAuthor);
-    line.hasCaption = needs.titleCaption + leastTitle <= room;
-    const std::int32_t beforeTitle = line.hasCaption ? needs.titleCaption : 0;
-    line.hasAuthor = beforeTitle + leastTitle + behindTitle + leastAuthor <= room;
-    const std::int32_t bothGet = room - beforeTitle - (line.hasAuthor ? behindTitle : 0);
-    const std::int32_t authorWants = line.hasAuthor ? needs.author : 0;
-    line.titleLeft = beforeTitle;
-    line.titleWidth = std::min(needs.title, std::max(leastTitle, bothGet - authorWants));
-    line.titleWidth = std::min(line.titleWidth, bothGet);
+    const std::int32_t least = leastTitle + kSongPartsApart + std::min(needs.author, kLeastAuthor);
+    line.hasCaption = needs.titleCaption + needs.authorCaption + least <= room;
+    line.hasAuthorCaption = needs.authorCaption + least <= room;
+    line.titleLeft = line.hasCaption ? needs.titleCaption : 0;
+    const std::int32_t authorCaption = line.hasAuthorCaption ? needs.authorCaption : 0;
+    const std::int32_t names = std::max(room - line.titleLeft - kSongPartsApart - authorCaption, 0);
+    const std::int32_t keptForAuthor = std::min({needs.author, kLeastAuthor, names / 2});
+    line.titleWidth = std::min({needs.title, std::max(leastTitle, names - needs.author), names - keptForAuthor});
     line.authorCaptionLeft = line.titleLeft + line.titleWidth + kSongPartsApart;
-    line.authorLeft = line.authorCaptionLeft + needs.authorCaption;
-    line.authorWidth = line.hasAuthor ? bothGet - line.titleWidth : 0;
+    line.authorLeft = line.authorCaptionLeft + authorCaption;
+    line.authorWidth = names - line.titleWidth;
     return line;
 }
 

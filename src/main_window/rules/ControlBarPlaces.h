@@ -60,8 +60,8 @@ struct SongLineNeeds {
 
 /// Where the parts of the song's line stand, from the line's left edge.
 struct SongLine {
-    bool hasCaption = false; ///< the title's; it stands at the left edge
-    bool hasAuthor = false;  ///< with the caption before it
+    bool hasCaption = false;       ///< the title's; it stands at the left edge
+    bool hasAuthorCaption = false; ///< before the author
     std::int32_t titleLeft = 0;
     std::int32_t titleWidth = 0;
     std::int32_t authorCaptionLeft = 0;
@@ -69,8 +69,8 @@ struct SongLine {
     std::int32_t authorWidth = 0; ///< all that is left behind the title
 };
 
-/// Fits title and author into one line. Where both have no room, the title is cut first and then the author; in a short
-/// line the author is left out, in the shortest the title's caption too.
+/// Fits title and author into one line. Where both have no room, the title is cut first and then the author; a short
+/// line goes without the title's caption, the shortest without the author's too, and both names share what it has.
 [[nodiscard]] SongLine FitSongLine(const SongLineNeeds& needs, std::int32_t room);
 
 } // namespace sprout

@@ -13,10 +13,10 @@ namespace {
 /// Beyond every surface, and its pixels are still a number.
 constexpr std::int32_t kFarthestCell = 1'000'000;
 
-PlayIndicator IndicatorAt(const PlayModState& play, const TrackView& view)
+PlayIndicator IndicatorAt(std::int32_t cell, const PlayModState& play, const TrackView& view)
 {
     PlayIndicator indicator;
-    const std::int32_t x = CellLeft(view, std::min(CellInPlay(play), kFarthestCell));
+    const std::int32_t x = CellLeft(view, cell);
     if (play.PlayingTrack == kWholeSong)
         indicator.songLeft = x;
     else if (RowIsVisible(view, play.PlayingTrack))
@@ -26,15 +26,29 @@ PlayIndicator IndicatorAt(const PlayModState& play, const TrackView& view)
 
 } // namespace
 
-PlayIndicator MovePlayIndicator(const PlayModState& play, const TrackView& view)
+std::optional<std::int32_t> MarkerCell(const PlayModState& play)
 {
     if (play.PlayingTrack == 0)
-        return {};
+        return std::nullopt;
     try {
-        return IndicatorAt(play, view);
+        return std::min(CellInPlay(play), kFarthestCell);
     } catch (const RunTimeError&) {
-        return {};
+        return std::nullopt;
     }
+}
+
+std::int32_t FollowingFirstCell(const TrackView& view, std::int32_t markerCell, FollowedEdges edges,
+                                std::int32_t lastFirstCell)
+{
+    const std::int32_t x = CellLeft(view, markerCell);
+    const bool isOutside = x >= view.trackPicWidth || (edges == FollowedEdges::Both && x < 0);
+    return isOutside ? std::clamp(markerCell - 1, 1, std::max(lastFirstCell, 1)) : view.FirstCell;
+}
+
+PlayIndicator MovePlayIndicator(const PlayModState& play, const TrackView& view)
+{
+    const std::optional<std::int32_t> cell = MarkerCell(play);
+    return cell ? IndicatorAt(*cell, play, view) : PlayIndicator();
 }
 
 } // namespace sprout

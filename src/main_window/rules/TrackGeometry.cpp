@@ -106,6 +106,15 @@ ScrollRange CellScrollRange(const TrackView& view, std::int32_t songCells)
     return {true, std::max(songCells - CellsAcross(view) + kCellsBehindTheSong, 2)};
 }
 
+std::int32_t FirstTrackForAdded(const TrackView& view, std::int32_t trackCount)
+{
+    const std::int32_t last = std::min(TrackScrollRange(view, trackCount).maximum, trackCount);
+    TrackView scrolled = view;
+    while (scrolled.FirstTrack < last && AddButtonsTop(scrolled, trackCount) + kAddButtonSide > view.titlePicHeight)
+        ++scrolled.FirstTrack;
+    return std::min(scrolled.FirstTrack, last);
+}
+
 std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount)
 {
     return (trackCount - view.FirstTrack + 1) * kRowHeight + kAddButtonsBelow;

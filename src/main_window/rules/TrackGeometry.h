@@ -84,6 +84,13 @@ inline constexpr std::int32_t kAddButtonsApart = 55;
 /// Top of the buttons that add a track, below the last row.
 [[nodiscard]] std::int32_t AddButtonsTop(const TrackView& view, std::int32_t trackCount);
 
+/// Side of those buttons.
+inline constexpr std::int32_t kAddButtonSide = 48;
+
+/// The least scrolled `FirstTrack`, from that of the view on, with which the last row and those buttons are in view;
+/// the last row alone where the surface is too low for both.
+[[nodiscard]] std::int32_t FirstTrackForAdded(const TrackView& view, std::int32_t trackCount);
+
 /// Breadth of the canvas's scroll bars.
 inline constexpr std::int32_t kScrollBarBreadth = 18;
 

@@ -46,6 +46,13 @@ double Offset(double setting, double extent, double screen)
     return setting > screen ? screen * kShareOfScreen : setting;
 }
 
+/// An offset of which at least half of the extent can be seen; else one that shows all of it: the screen may be a
+/// smaller one than that of the last run.
+double InSight(double offset, double extent, double screen)
+{
+    return screen - offset < extent / 2 ? screen - extent : offset;
+}
+
 std::int32_t Pixels(double twips)
 {
     return RoundHalfEven(twips / kTwipsOfAPixel);
@@ -62,8 +69,9 @@ WindowPlace PlaceFromSettings(std::string_view size, std::string_view position, 
     const double width = Extent(extent.first, kLeastWidth, screenX);
     const double height = Extent(extent.second, kLeastHeight, screenY);
     const Pair offset = PairOf(position);
-    return {Pixels(Offset(offset.first, width, screenX)), Pixels(Offset(offset.second, height, screenY)), Pixels(width),
-            Pixels(height)};
+    const double left = InSight(Offset(offset.first, width, screenX), width, screenX);
+    const double top = InSight(Offset(offset.second, height, screenY), height, screenY);
+    return {Pixels(left), Pixels(top), Pixels(width), Pixels(height)};
 }
 
 bool IsMaximizedSetting(std::string_view windowState)

@@ -20,7 +20,8 @@ struct WindowPlace {
 };
 
 /// The place that the settings `Size` and `Position` give on a screen of these sizes in pixels. Each is a pair of
-/// twips; -1 is not set, a missing or damaged number is 0.
+/// twips; -1 is not set, a missing or damaged number is 0. A window that would lie off the screen by more than half its
+/// width or height is brought back whole.
 [[nodiscard]] WindowPlace PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
                                             std::int32_t screenHeight);
 

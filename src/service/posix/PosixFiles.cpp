@@ -51,9 +51,11 @@ public:
     void TakeMode();
     void FlushToDisk();
     void MoveOver();
+    [[nodiscard]] bool MoveToFreeName();
 
 private:
     int Create();
+    void CloseUnderLock();
     [[noreturn]] void FailToReplace() const;
 
     fs::path wanted;
@@ -151,17 +153,39 @@ void FileBeside::FlushToDisk()
         Fail(wanted, errno);
 }
 
-void FileBeside::MoveOver()
+/// The close tells what the writes could not; until the rename the lock stands on.
+void FileBeside::CloseUnderLock()
 {
-    // The close tells what the writes could not; until the rename the lock stands on.
     lock = Descriptor(::dup(file.Number()));
     if (lock.Number() < 0)
         Fail(wanted, errno);
     if (const int error = file.Close(); error != 0)
         Fail(wanted, error);
+}
+
+void FileBeside::MoveOver()
+{
+    CloseUnderLock();
     if (Uninterrupted([&] { return ::rename(path.c_str(), wanted.c_str()); }) != 0)
         FailToReplace();
     moved = true;
+}
+
+/// False where something has the name.
+bool FileBeside::MoveToFreeName()
+{
+    CloseUnderLock();
+    const auto rename = [&] { return ::renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, wanted.c_str(), RENAME_NOREPLACE); };
+    if (Uninterrupted(rename) == 0) {
+        moved = true;
+        return true;
+    }
+    // Not every file system knows such a rename. A second name does the same; the first one goes with this object.
+    if (errno == EINVAL && Uninterrupted([&] { return ::link(path.c_str(), wanted.c_str()); }) == 0)
+        return true;
+    if (errno != EEXIST)
+        Fail(wanted, errno);
+    return false;
 }
 
 void FileBeside::FailToReplace() const
@@ -242,6 +266,18 @@ bool PosixFiles::MayBeReplaced(const fs::path& target) const
         return errno == ENOENT;
     const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
     return S_ISREG(facts.st_mode) && MayWrite(file) && MayWrite(folder);
+}
+
+bool PosixFiles::WriteNewFile(const fs::path& path, std::span<const std::span<const std::byte>> pieces)
+{
+    FileBeside file(path);
+    file.Write(pieces);
+    file.TakeMode();
+    file.FlushToDisk();
+    if (!file.MoveToFreeName())
+        return false;
+    FlushFolder(path);
+    return true;
 }
 
 void PosixFiles::DeleteStaleFile(const fs::path& path)

@@ -13,6 +13,8 @@ public:
     [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& target) override;
     [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& target) const override;
     void DeleteStaleFile(const std::filesystem::path& path) override;
+    [[nodiscard]] bool WriteNewFile(const std::filesystem::path& path,
+                                    std::span<const std::span<const std::byte>> pieces) override;
 };
 
 } // namespace sprout

@@ -5,6 +5,7 @@
 #include <array>
 
 #include "core/Text.h"
+#include "songs/OpenSaveClass.h"
 
 namespace sprout {
 
@@ -50,14 +51,14 @@ const SongSelLayout& LayoutOf(SongSelMode mode)
     return kLayouts[static_cast<std::size_t>(mode) - 1];
 }
 
-NameDecision DecideName(SongSelMode mode, std::string_view name, std::string_view songTitle,
-                        std::span<const SongFile> songs)
+NameDecision DecideName(SongSelMode mode, std::string_view name, std::span<const SongFile> songs)
 {
     if (Trim(name).empty())
         return NameDecision::AskForName;
-    if (mode == SongSelMode::Save && EqualIgnoringCase(name, songTitle))
-        return NameDecision::Accept;
-    return FindSong(songs, name) ? NameDecision::AskToOverwrite : NameDecision::Accept;
+    // What lies in the folder counts when a song is saved: the list may be older.
+    const bool takesNothing =
+        mode == SongSelMode::Save ? MayReplaceUnasked(PlaceOfSong(name)) : FindSong(songs, name) == nullptr;
+    return takesNothing ? NameDecision::Accept : NameDecision::AskToOverwrite;
 }
 
 int RowAfterChange(int row, int count)

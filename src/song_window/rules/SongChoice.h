@@ -33,9 +33,9 @@ struct SongSelLayout {
 /// What OK has to do with a name that was typed.
 enum class NameDecision { AskForName, Accept, AskToOverwrite };
 
-/// name: as typed. songTitle: of the open song, under whose name saving asks nothing; a new song has none.
-[[nodiscard]] NameDecision DecideName(SongSelMode mode, std::string_view name, std::string_view songTitle,
-                                      std::span<const SongFile> songs);
+/// name: as typed. songs: those that are listed. A song is saved over its own unchanged file unasked, whatever else
+/// has that name or its title.
+[[nodiscard]] NameDecision DecideName(SongSelMode mode, std::string_view name, std::span<const SongFile> songs);
 
 /// Row to select after the list was made anew, -1 for none. row: the one that was selected; count: songs now.
 [[nodiscard]] int RowAfterChange(int row, int count);

@@ -8,6 +8,7 @@
 #include "core/ByteCursor.h"
 #include "core/Errors.h"
 #include "core/Paths.h"
+#include "core/Shared.h"
 #include "core/Text.h"
 #include "service/Files.h"
 #include "service/Services.h"
@@ -67,6 +68,13 @@ std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name)
         if (!FindSong(songs, candidate))
             return candidate;
     }
+}
+
+fs::path PlaceOfSong(std::string_view title)
+{
+    const fs::path path = NamedFile(Shared().UserSongs, title, kSongExtension);
+    const fs::path found = FindFile(path);
+    return found.empty() ? path : found;
 }
 
 void CopySong(const SongFile& song, std::string_view newName)

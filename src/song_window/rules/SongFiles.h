@@ -22,6 +22,10 @@ using SongFile = FolderFile;
 /// `name` with the first number from 1 on behind it that gives a name no song has.
 [[nodiscard]] std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name);
 
+/// Where the song of a title lies or would lie in `UserSongs`: a file whose name differs in case only, if there is no
+/// other. Empty for a title that cannot be the name of a file.
+[[nodiscard]] std::filesystem::path PlaceOfSong(std::string_view title);
+
 /// Copies a song under another name into its folder. The copy appears whole or not at all and takes no other file's
 /// place. Throws `RunTimeError` or an exception of the standard library.
 void CopySong(const SongFile& song, std::string_view newName);

@@ -1,5 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 import os
+import signal
 
 from processes import expect, wait_for
 from songs import SongFile, without_time
@@ -56,6 +57,38 @@ def AskBeforeClosing(desk):
     expect(without_time(desk.song(SHORT_SONG)) != before, "the song was not saved though the answer was yes")
     left = [name for name in os.listdir(desk.songs) if not name.endswith(".TqSng")]
     expect(not left, f"files were left beside the songs: {left}")
+
+
+@scenario()
+def KeepTheSongAtTheSystemsEnd(desk):
+    """A song that was not saved when the system ended the program is kept beside the others; the next start tells so."""
+    give_short_song(desk)
+    for number, ending in enumerate((signal.SIGTERM, signal.SIGHUP)):
+        kept = SHORT_SONG + (" kept" if number == 0 else " kept 2")
+        program = desk.start()
+        open_song(program, SHORT_SONG)
+        before = without_time(desk.song(SHORT_SONG))
+        stroke(program, 2, 40, 50)
+        if number == 1:  # while a window waits for its answer
+            program.click("OpenBtn")
+            program.wait_for("SongNameLbl", form="SaveConfirmFrm")
+        program.process.send_signal(ending)
+        expect(program.wait_for_end() == 0, "the program did not end well")
+        expect(without_time(desk.song(SHORT_SONG)) == before, "the song's own file was changed")
+        expect(set(range(40, 51)) <= set(SongFile(desk.song(kept)).painted(2)), f"{kept} lacks the last stroke")
+
+        program = desk.start()
+        told = program.wait_for("NoteLbl1", form="Msg1Btn2NoteFrm").text
+        expect(told == f'What was not saved last time is kept as the song "{kept}"', f"the start told: {told}")
+        expect(program.text_of("NoteLbl2") == f"in the folder {desk.songs}/", "the start did not tell the folder")
+        program.click("OkBtn", form="Msg1Btn2NoteFrm")
+        program.wait_until_gone("Msg1Btn2NoteFrm")
+        open_song(program, kept)
+        program.process.send_signal(ending)
+        expect(program.wait_for_end() == 0, "the program did not end well")
+    expect(sorted(os.listdir(desk.songs)) == sorted(name + ".TqSng" for name in (SHORT_SONG, SHORT_SONG + " kept",
+                                                                               SHORT_SONG + " kept 2")),
+           f"the songs are {os.listdir(desk.songs)}")
 
 
 def go_to(desk, program, name):

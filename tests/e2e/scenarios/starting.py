@@ -36,13 +36,17 @@ def NoDisplay(desk):
 
 @scenario(sound=False)
 def NoSoundServer(desk):
-    """Without a sound device the window says so, without a box; songs can be painted and saved."""
+    """Without a sound device the window says so, and the first play what can be done; songs can be painted and saved."""
     give_short_song(desk)
     program = desk.start(ALSA_CONFIG_PATH="/dev/null")  # the machine's own devices do not count
     program.wait_for("SoundStatusLbl", "Device Failed:")
     open_song(program, SHORT_SONG)
     stroke(program, 3, 5, 20)
     program.click("PlayAllBtn")
+    program.wait_for("NoteLbl1", "I cannot find a loudspeaker to play your music on.", form="Msg1Btn2NoteFrm")
+    program.click("OkBtn", form="Msg1Btn2NoteFrm")
+    program.wait_until_gone("Msg1Btn2NoteFrm")
+    program.click("PlayAllBtn")  # the second play says nothing
     save_song(program, "Silent")
     expect(SongFile(desk.song("Silent")).painted(3) == list(range(5, 21)), "the stroke was not saved")
     close(program)

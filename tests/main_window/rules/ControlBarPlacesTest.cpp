@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <vector>
 
 namespace sprout {
@@ -163,7 +164,7 @@ TEST(FitSongLine, ShowsTitleAndAuthorWholeWhereTheyHaveRoom)
 {
     const SongLine line = FitSongLine(kShortSong, 348);
     EXPECT_TRUE(line.hasCaption);
-    EXPECT_TRUE(line.hasAuthor);
+    EXPECT_TRUE(line.hasAuthorCaption);
     EXPECT_EQ(line.titleLeft, 42);
     EXPECT_EQ(line.titleWidth, 50);
     EXPECT_EQ(line.authorCaptionLeft, 108);
@@ -171,31 +172,38 @@ TEST(FitSongLine, ShowsTitleAndAuthorWholeWhereTheyHaveRoom)
     EXPECT_EQ(line.authorWidth, 216);
 }
 
-TEST(FitSongLine, CutsTheTitleBeforeTheAuthorIsLeftOut)
+TEST(FitSongLine, CutsTheTitleBeforeTheAuthor)
 {
     const SongLine line = FitSongLine(kLongSong, 348);
-    EXPECT_TRUE(line.hasAuthor);
+    EXPECT_TRUE(line.hasAuthorCaption);
     EXPECT_EQ(line.titleWidth, 120);
     EXPECT_EQ(line.authorLeft, 202);
     EXPECT_EQ(line.authorWidth, 146);
 }
 
-TEST(FitSongLine, LeavesTheAuthorOutOfAShortLine)
+TEST(FitSongLine, LeavesTheTitlesCaptionOutOfAShortLine)
 {
+    EXPECT_TRUE(FitSongLine(kLongSong, 262).hasCaption);
     const SongLine line = FitSongLine(kLongSong, 261);
-    EXPECT_TRUE(line.hasCaption);
-    EXPECT_FALSE(line.hasAuthor);
-    EXPECT_EQ(line.titleWidth, 219);
-    EXPECT_TRUE(FitSongLine(kLongSong, 262).hasAuthor);
+    EXPECT_FALSE(line.hasCaption);
+    EXPECT_TRUE(line.hasAuthorCaption);
+    EXPECT_EQ(line.titleLeft, 0);
+    EXPECT_EQ(line.titleWidth, 120);
+    EXPECT_EQ(line.authorLeft, 160);
+    EXPECT_EQ(line.authorWidth, 101);
 }
 
-TEST(FitSongLine, LeavesTheCaptionOutOfTheShortestLine)
+TEST(FitSongLine, SharesTheShortestLineBetweenTitleAndAuthor)
 {
-    const SongLine line = FitSongLine(kLongSong, 161);
-    EXPECT_FALSE(line.hasCaption);
-    EXPECT_EQ(line.titleLeft, 0);
-    EXPECT_EQ(line.titleWidth, 161);
-    EXPECT_TRUE(FitSongLine(kLongSong, 162).hasCaption);
+    EXPECT_TRUE(FitSongLine(kLongSong, 220).hasAuthorCaption);
+    const SongLine longer = FitSongLine(kLongSong, 219);
+    EXPECT_FALSE(longer.hasAuthorCaption);
+    EXPECT_EQ(longer.titleWidth, 120);
+    EXPECT_EQ(longer.authorLeft, 136);
+    EXPECT_EQ(longer.authorWidth, 83);
+    const SongLine shortest = FitSongLine(kLongSong, 126);
+    EXPECT_EQ(shortest.titleWidth, 55);
+    EXPECT_EQ(shortest.authorWidth, 55);
 }
 
 TEST(FitSongLine, StaysInsideItsRoom)
@@ -204,10 +212,8 @@ TEST(FitSongLine, StaysInsideItsRoom)
         for (std::int32_t room = 126; room < 900; ++room) {
             const SongLine line = FitSongLine(needs, room);
             ASSERT_LE(line.titleLeft + line.titleWidth, room);
-            ASSERT_GE(line.authorWidth, 0);
-            if (line.hasAuthor) {
-                ASSERT_EQ(line.authorLeft + line.authorWidth, room);
-            }
+            ASSERT_GE(line.authorWidth, std::min(needs.author, 55)) << room; // seen at every width
+            ASSERT_EQ(line.authorLeft + line.authorWidth, room);
         }
 }
 

@@ -19,6 +19,38 @@ PlayModState At31(std::int32_t track)
     return play;
 }
 
+TEST(MarkerCell, IsThatOfTheSongOrTrackThatIsHeard)
+{
+    EXPECT_EQ(MarkerCell(At31(kWholeSong)), 31);
+    EXPECT_EQ(MarkerCell(At31(2)), 31);
+    EXPECT_FALSE(MarkerCell(At31(0)));
+}
+
+TEST(FollowingFirstCell, StaysWhileTheMarkerIsInView)
+{
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 11, FollowedEdges::Both, 1000), 11);
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 210, FollowedEdges::Both, 1000), 11);
+}
+
+TEST(FollowingFirstCell, BringsAMarkerBeyondTheRightEdgeToTheSecondCell)
+{
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 211, FollowedEdges::Right, 1000), 210);
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 211, FollowedEdges::Both, 1000), 210);
+}
+
+TEST(FollowingFirstCell, FollowsBeyondTheLeftEdgeOnlyAtAPlaysStart)
+{
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 10, FollowedEdges::Right, 1000), 11);
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 10, FollowedEdges::Both, 1000), 9);
+}
+
+TEST(FollowingFirstCell, IsHeldToTheScrollBar)
+{
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 1, FollowedEdges::Both, 1000), 1);
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 1280, FollowedEdges::Right, 1090), 1090);
+    EXPECT_EQ(FollowingFirstCell(kScrolled, 1280, FollowedEdges::Right, 0), 1);
+}
+
 TEST(MovePlayIndicator, MarksTheTimeBandForTheWholeSong)
 {
     const PlayIndicator indicator = MovePlayIndicator(At31(kWholeSong), kScrolled);

@@ -167,6 +167,25 @@ TEST(AddButtonsTop, FollowsTheLastRow)
     EXPECT_EQ(AddButtonsTop(ViewFrom(2), 2), 76);
 }
 
+TEST(FirstTrackForAdded, ScrollsNoFurtherThanTheButtonsBelowTheLastRowNeed)
+{
+    TrackView view = ViewFrom();
+    view.titlePicHeight = view.trackPicHeight = 300;
+    EXPECT_EQ(AddButtonsTop(view, 4) + kAddButtonSide, 262);
+    EXPECT_EQ(FirstTrackForAdded(view, 4), 1);
+    EXPECT_EQ(FirstTrackForAdded(view, 5), 2);
+    EXPECT_EQ(FirstTrackForAdded(view, 12), 9);
+    view.FirstTrack = 10; // further than needed stays
+    EXPECT_EQ(FirstTrackForAdded(view, 12), 9);
+}
+
+TEST(FirstTrackForAdded, KeepsTheLastRowInView)
+{
+    TrackView low = ViewFrom();
+    low.titlePicHeight = low.trackPicHeight = 100;
+    EXPECT_EQ(FirstTrackForAdded(low, 6), 6);
+}
+
 TEST(TileNumber, GoesRoundByTheTracksNumber)
 {
     EXPECT_EQ(TileNumber(false, 1), 2);

@@ -40,9 +40,20 @@ TEST(PlaceFromSettings, BringsThePositionOntoTheScreen)
 {
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "-30,-2").left, 0);
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "-30,-2").top, 0);
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "24001,15001").left, 1280);
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "24001,15001").top, 800);
+    EXPECT_EQ(PlaceOn1600x1000("8000,3000", "24001,15001").left, 1280);
+    EXPECT_EQ(PlaceOn1600x1000("8000,3000", "24001,15001").top, 800);
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "-1,-1").left, 300);
+}
+
+TEST(PlaceFromSettings, BringsAWindowBackWholeThatWouldLieNearlyOffTheScreen)
+{
+    const WindowPlace whole{600, 400, 1000, 600};
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "23900,14900"), whole);
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "24001,15001"), whole); // of a screen that is gone
+    // Half of it in sight is left as it is.
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10500"), (WindowPlace{1100, 700, 1000, 600}));
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16515,10500"), (WindowPlace{600, 700, 1000, 600}));
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10515"), (WindowPlace{1100, 400, 1000, 600}));
 }
 
 TEST(PlaceFromSettings, ReadsDamagedAndMissingNumbersAs0)

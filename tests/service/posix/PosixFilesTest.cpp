@@ -32,6 +32,12 @@ protected:
         PosixFiles().ReplaceFile(target, {&bytes, 1}, Flush::Yes);
     }
 
+    [[nodiscard]] bool WriteNew(const std::string& name, const std::string& text) const
+    {
+        const auto bytes = std::as_bytes(std::span(text));
+        return PosixFiles().WriteNewFile(In(name), {&bytes, 1});
+    }
+
     [[nodiscard]] std::vector<std::string> Names() const
     {
         std::vector<std::string> names;
@@ -207,6 +213,25 @@ TEST_F(FilesOnDisk, KnowThatAProtectedFileOrFolderMayNotBeReplaced)
     fs::permissions(In("song"), fs::perms::owner_read);
     const UnchangeableFolder rightsLaidDown(In("other"));
     EXPECT_FALSE(files.MayBeReplaced(In("song"))) << "the file is protected";
+}
+
+TEST_F(FilesOnDisk, WriteANewFileWhole)
+{
+    EXPECT_TRUE(WriteNew("song", "new"));
+    EXPECT_EQ(ReadBytes(In("song")), "new");
+    EXPECT_EQ(Names(), std::vector<std::string>{"song"});
+}
+
+TEST_F(FilesOnDisk, WriteNoNewFileWhereSomethingHasItsName)
+{
+    WriteBytes(In("song"), "old");
+    fs::create_directory(In("folder"));
+    fs::create_symlink(In("nothing"), In("link"));
+    for (const char* name : {"song", "folder", "link"})
+        EXPECT_FALSE(WriteNew(name, "new")) << name;
+    EXPECT_EQ(ReadBytes(In("song")), "old");
+    EXPECT_EQ(Names(), (std::vector<std::string>{"folder", "link", "song"}));
+    EXPECT_THROW(static_cast<void>(WriteNew("missing/song", "new")), RunTimeError);
 }
 
 TEST_F(FilesOnDisk, DeleteStaleFilesUnlessTheyAreHeld)

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "songs/SongKeeper.h"
+
+#include <filesystem>
+#include <functional>
+#include <span>
+#include <string_view>
+#include <system_error>
+
+#include "core/FileHead.h"
+#include "core/FolderFiles.h"
+#include "core/Longs.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "core/Text.h"
+#include "service/Files.h"
+#include "service/Services.h"
+#include "songs/SongVersions.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kNoteExtension = ".Kept";
+constexpr std::size_t kMostTitleBytes = 200; // of the 255 that a file's name may have
+
+std::size_t NumberOf(const LongsWriter& data)
+{
+    std::size_t number = 0;
+    for (const std::span<const std::byte> piece : data.Pieces()) {
+        const std::string_view bytes(reinterpret_cast<const char*>(piece.data()), piece.size());
+        number = number * 31 + std::hash<std::string_view>()(bytes);
+    }
+    return number;
+}
+
+/// "Rain kept", "Rain kept 2", ...: a title that no file can have gives way.
+std::string KeptName(std::string_view title, int number)
+{
+    std::string name = SafeFileName(CharactersInBytes(Trim(title), kMostTitleBytes));
+    if (NamedFile(Shared().UserSongs, name, ".TqSng").empty())
+        name = "Untitled";
+    return name + " kept" + (number == 1 ? std::string() : " " + std::to_string(number));
+}
+
+/// Writes a file of the first name that is free, and returns that name.
+std::string WriteUnderFreeName(std::string_view title, const LongsWriter& data)
+{
+    for (int number = 1;; ++number) {
+        std::string name = KeptName(title, number);
+        const fs::path place = NamedFile(Shared().UserSongs, name, ".TqSng");
+        if (!FileExists(place) && WriteNewDataFile(place, FileHead("TqSng", " Sprout Song File"), data))
+            return name;
+    }
+}
+
+/// A hidden file of the song's name, so that two programs that end at once write two notes.
+void NoteForNextStart(const std::string& name)
+{
+    TheServices().files->ReplaceFile(NamedFile(Shared().UserSongs, "." + name, kNoteExtension), {}, Flush::Yes);
+}
+
+} // namespace
+
+std::string SongKeeper::KeepUnsavedSong()
+{
+    if (!Shared().Song.SongChanged || Shared().Song.TrackCount < 1)
+        return {};
+    // A copy: work that waits for its next event may count on the song's beats as they are.
+    SongState song = Shared().Song;
+    Compact_Song_Beats(song);
+    const LongsWriter data = Write_Song_Data(song);
+    const std::size_t number = NumberOf(data);
+    if (kept == number)
+        return {};
+    std::string name = WriteUnderFreeName(song.SongTitle, data);
+    kept = number;
+    NoteForNextStart(name);
+    return name;
+}
+
+std::vector<std::string> TakeKeptSongs()
+{
+    std::vector<std::string> names;
+    for (const FolderFile& note : FilesInFolder(Shared().UserSongs, kNoteExtension, DotFiles::Yes)) {
+        if (note.Name.front() != '.')
+            continue;
+        std::string name = note.Name.substr(1);
+        if (FileExists(NamedFile(Shared().UserSongs, name, ".TqSng")))
+            names.push_back(std::move(name));
+        std::error_code error;
+        fs::remove(note.Path, error);
+    }
+    return names;
+}
+
+} // namespace sprout
