@@ -297,8 +297,7 @@ bool SongSelFrm::MayOverwrite(std::string_view name)
 {
     if (mode == SongSelMode::Save)
         Hint("Recommended to click 'No' and then save with another name");
-    const bool yes = AskYesNo("A song with this name already exists: " + std::string(name), "Do you wish to overwrite?",
-                              {}, FirstAnswer::No) == 1;
+    const bool yes = AskYesNo("A song with this name already exists: " + std::string(name), "Do you wish to overwrite?") == 1;
     Hint("");
     return yes;
 }
@@ -330,7 +329,7 @@ void SongSelFrm::DeleteSelected()
     Hint("Click Yes to delete, No to keep");
     const int row = SelectedRow();
     const SongFile song = songs[static_cast<std::size_t>(row)];
-    if (AskYesNo("Do you want to delete this song?", song.Name, {}, FirstAnswer::No) == 1) {
+    if (AskYesNo("Do you want to delete this song?", song.Name) == 1) {
         DeleteSong(song);
         LoadSongNames();
         SelectRow(RowAfterChange(row, static_cast<int>(songs.size())));
