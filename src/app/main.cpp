@@ -17,6 +17,7 @@
 #include "service/ffmpeg/SoundChild.h"
 #include "service/fontconfig/FontList.h"
 #include "service/posix/PosixFiles.h"
+#include "service/posix/PosixFolderCopies.h"
 #include "service/posix/PosixMachine.h"
 #include "service/posix/PosixPrivateFolders.h"
 #include "service/qt/QtPictureFiles.h"
@@ -50,6 +51,7 @@ public:
         TheServices().wma = &wma;
         TheServices().mail = &mail;
         TheServices().privateFolders = &privateFolders;
+        TheServices().folderCopies = &folderCopies;
         TheServices().soundReader = &soundReader;
         TheServices().capture = &capture;
     }
@@ -65,6 +67,7 @@ public:
 private:
     QtMessages messages;
     PosixFiles files;
+    PosixFolderCopies folderCopies;
     PosixMachine machine;
     XdgDesktop desktop;
     QtPictureFiles pictures;

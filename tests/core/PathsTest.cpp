@@ -109,19 +109,21 @@ TEST_F(Paths, AskForTheRoomOfTheTempFolder)
 TEST_F(Paths, CopyFoldersWithTheirTimesAndOverwriteNothing)
 {
     fs::create_directories(In("from/Beats/sub"));
-    fs::create_directories(In("to/Beats"));
+    fs::create_directories(In("to/Beats/sub"));
     WriteBytes(In("from/Beats/a.wav"), "a");
     WriteBytes(In("from/Beats/b.wav"), "b");
     WriteBytes(In("from/Beats/sub/c.wav"), "c");
-    WriteBytes(In("to/Beats/b.wav"), "mine");
+    WriteBytes(In("from/Beats/sub/d.wav"), "d");
+    WriteBytes(In("to/Beats/sub/d.wav"), "mine");
     SetWrittenIn2020(In("from/Beats/a.wav"), 1000);
     fs::permissions(In("from/Beats/a.wav"), fs::perms::owner_read);
     EXPECT_TRUE(CopyFolder(In("from/Beats/"), In("to")));
     EXPECT_EQ(FileStamp(In("to/Beats/a.wav")), FileStamp(In("from/Beats/a.wav")));
     EXPECT_EQ(fs::last_write_time(In("to/Beats/a.wav")), fs::last_write_time(In("from/Beats/a.wav")));
     EXPECT_NE(fs::status(In("to/Beats/a.wav")).permissions() & fs::perms::owner_write, fs::perms::none);
-    EXPECT_EQ(ReadBytes(In("to/Beats/b.wav")), "mine");
+    EXPECT_EQ(ReadBytes(In("to/Beats/b.wav")), "b");
     EXPECT_EQ(ReadBytes(In("to/Beats/sub/c.wav")), "c");
+    EXPECT_EQ(ReadBytes(In("to/Beats/sub/d.wav")), "mine");
     EXPECT_EQ(fake.screen.processPicsShown, 1);
     EXPECT_EQ(fake.screen.processPics, 0);
     EXPECT_EQ(fake.screen.hourglasses, 0);

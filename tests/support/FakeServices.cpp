@@ -77,6 +77,7 @@ FakeServices::FakeServices()
     TheServices().wma = &wma;
     TheServices().mail = &mail;
     TheServices().privateFolders = &privateFolders;
+    TheServices().folderCopies = &folderCopies;
     TheServices().soundReader = &soundReader;
     TheServices().capture = &capture;
     Shared() = SharedState();

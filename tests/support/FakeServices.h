@@ -20,6 +20,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "service/posix/PosixFolderCopies.h"
 #include "support/FakeCapture.h"
 #include "support/FakeMail.h"
 #include "support/FakeSound.h"
@@ -150,6 +151,7 @@ public:
     FakeMessages messages;
     FakeScreen screen;
     PosixFiles files;
+    PosixFolderCopies folderCopies;
     FakeMachine machine;
     FakeDesktop desktop;
     FakePictureFiles pictures;

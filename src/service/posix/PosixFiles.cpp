@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "core/Errors.h"
+#include "core/Paths.h"
 #include "service/posix/Descriptor.h"
 
 namespace sprout {
@@ -83,7 +84,8 @@ int FileBeside::Create()
             Fail(wanted, errno);
         if (opened < 0)
             continue;
-        if (TakeLock(opened) != Lock::Held && Names(path, opened))
+        // A system that does not tell the names of an open file has made it all the same.
+        if (TakeLock(opened) != Lock::Held && NamingOf(path, opened) != Naming::Another)
             return opened;
         ::close(opened); // another program took it for a stale one in the moment before the lock
     }
@@ -129,7 +131,8 @@ void FileBeside::MoveTo(std::uint64_t place)
         Fail(wanted, errno);
 }
 
-/// The mode of the file that is replaced, or what a new file gets.
+/// The mode of the file that is replaced, or what a new file gets. Where it cannot be set the file is good all the
+/// same, and its user's alone.
 void FileBeside::TakeMode()
 {
     struct stat facts {};
@@ -141,8 +144,7 @@ void FileBeside::TakeMode()
         ::umask(mask);
         mode = kAllButExecute & ~mask;
     }
-    if (Uninterrupted([&] { return ::fchmod(file.Number(), mode); }) != 0 && errno != EPERM && errno != ENOTSUP)
-        Fail(wanted, errno);
+    Uninterrupted([&] { return ::fchmod(file.Number(), mode); });
 }
 
 void FileBeside::FlushToDisk()
@@ -180,16 +182,6 @@ void FlushFolder(const fs::path& target)
     const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.Number() >= 0)
         ::fsync(opened.Number());
-}
-
-/// The file that a link at the target leads to, so that the link stays a link.
-fs::path ThroughLinks(const fs::path& target)
-{
-    std::error_code error;
-    if (!fs::is_symlink(target, error))
-        return target;
-    const fs::path resolved = fs::weakly_canonical(target, error);
-    return error ? target : resolved;
 }
 
 bool MayWrite(const fs::path& path)
