@@ -26,6 +26,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// False for a blank path, and for one with a zero byte: the machine would read it up to there and find another file.
+bool NamesAnything(const fs::path& path)
+{
+    return !Trim(path.native()).empty() && path.native().find('\0') == fs::path::string_type::npos;
+}
+
 bool IsPlainFile(const fs::path& path)
 {
     std::error_code error;
@@ -83,8 +89,7 @@ fs::path NamedFile(const fs::path& folder, std::string_view name, std::string_vi
 
 fs::path FindFile(const fs::path& path)
 {
-    // The machine would read a path up to its zero byte and find another file.
-    if (Trim(path.native()).empty() || path.native().find('\0') != fs::path::string_type::npos)
+    if (!NamesAnything(path))
         return {};
     if (IsPlainFile(path))
         return path;
@@ -111,12 +116,12 @@ bool FileExists(const fs::path& path)
 
 bool DeleteFile(const fs::path& path)
 {
-    const fs::path file = FindFile(path);
-    if (file.empty())
+    if (!NamesAnything(path))
         return true;
     std::error_code error;
-    fs::remove(file, error);
-    return !IsPlainFile(file);
+    if (IsPlainFile(path))
+        fs::remove(path, error);
+    return !fs::exists(fs::symlink_status(path, error));
 }
 
 fs::path NewTempFileName(std::string_view extension)

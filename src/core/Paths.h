@@ -26,7 +26,9 @@ namespace sprout {
 /// False for a blank path; else true when the path, whatever its letter case, finds a plain file.
 [[nodiscard]] bool FileExists(const std::filesystem::path& path);
 
-/// True when the path is blank, did not exist or no longer exists; false when it still does. Never throws.
+/// Deletes the plain file of just this name, or the link to one: a file whose name differs in letter case stays, and so
+/// does what is no file. True when the path is blank, did not exist or no longer exists; false when it still does.
+/// Never throws.
 bool DeleteFile(const std::filesystem::path& path);
 
 /// A free path for a temporary file in `TempFolder`. Stale files of the pattern met on the way are deleted, those that

@@ -64,6 +64,22 @@ TEST_F(Paths, DeleteFileTellsWhatStillExists)
     EXPECT_FALSE(fs::exists(In("a")));
     EXPECT_TRUE(fs::exists(In("A")));
     EXPECT_FALSE(DeleteFile("/proc/self/status"));
+    EXPECT_TRUE(DeleteFile(fs::path(In("A").native() + "\0b"s)));
+    EXPECT_TRUE(fs::exists(In("A")));
+}
+
+TEST_F(Paths, DeleteOnlyTheFileOfTheExactName)
+{
+    WriteBytes(In("mine.wav"), "");
+    EXPECT_TRUE(DeleteFile(In("Mine.wav"))) << "there is none";
+    EXPECT_TRUE(fs::exists(In("mine.wav")));
+    fs::create_directory(In("folder"));
+    EXPECT_FALSE(DeleteFile(In("folder")));
+    EXPECT_TRUE(fs::exists(In("folder")));
+    fs::create_symlink(In("mine.wav"), In("link"));
+    EXPECT_TRUE(DeleteFile(In("link")));
+    EXPECT_FALSE(fs::is_symlink(In("link")));
+    EXPECT_TRUE(fs::exists(In("mine.wav")));
 }
 
 TEST_F(Paths, ClearStaleTemporaryFilesOnTheWay)

@@ -474,6 +474,7 @@ TEST_F(MainFrmTest, StaysWhereTheSongCannotBeSaved)
 {
     Song().SongChanged = true;
     std::filesystem::remove_all(Shared().UserSongs);
+    WriteBytes(Shared().UserRoot / "Songs", "a file in the folder's place");
     ShownMessage message;
     WithNextForm([&message](BandedForm& form) {
         NoteNextMessage(message);
