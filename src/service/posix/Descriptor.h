@@ -11,6 +11,10 @@
 
 namespace sprout {
 
+// Modes of new files.
+inline constexpr mode_t kOwnerOnly = 0600;
+inline constexpr mode_t kAllButExecute = 0666;
+
 /// An open file descriptor.
 class Descriptor {
 public:

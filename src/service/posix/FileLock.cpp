@@ -7,7 +7,6 @@ namespace sprout {
 
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
 constexpr int kMostTries = 100; // of a file that others delete each time
 
 } // namespace

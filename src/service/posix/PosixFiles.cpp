@@ -27,8 +27,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
-constexpr mode_t kAllButExecute = 0666;
 constexpr int kMostSavesAtOnce = 100; // hidden files of other running programs in one folder
 
 fs::path FolderOf(const fs::path& file)

@@ -23,7 +23,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kAllButExecute = 0666;
 constexpr std::size_t kBlockBytes = 262'144;
 constexpr std::chrono::milliseconds kBetweenTries(10);
 
