@@ -11,6 +11,13 @@
 
 namespace sprout {
 
+/// Of the calls to be killed at, one in so many. A sanitizer makes calls of its own, and each call costs it more.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+inline constexpr int kKillStep = 11;
+#else
+inline constexpr int kKillStep = 1;
+#endif
+
 /// Runs `work` in a child process and kills it in place of its system call number `nth`, counted from 1. False where
 /// it came to its end before.
 template <class Work>

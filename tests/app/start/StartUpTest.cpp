@@ -187,7 +187,7 @@ TEST_F(StartUp, TellsAFailedCopyAndGoesOnWithTheNext)
 TEST_F(StartUp, IsWholeAfterAKillOfTheOneBefore)
 {
     // Each seventh call: a start makes hundreds, and those of a copy are met one by one in its own test.
-    constexpr int step = 7;
+    constexpr int step = 7 * kKillStep;
     const auto start = [] { RunStartUp(); };
     for (int call = 1; KilledAtSystemCall(call, start); call += step) {
         SCOPED_TRACE(call);
