@@ -20,6 +20,7 @@
 #include "service/fontconfig/FontList.h"
 #include "service/posix/EndSignals.h"
 #include "service/posix/PosixFiles.h"
+#include "service/posix/PosixFolderCopies.h"
 #include "service/posix/PosixMachine.h"
 #include "service/posix/PosixPrivateFolders.h"
 #include "service/qt/QtPictureFiles.h"
@@ -54,6 +55,7 @@ public:
         TheServices().wma = &wma;
         TheServices().mail = &mail;
         TheServices().privateFolders = &privateFolders;
+        TheServices().folderCopies = &folderCopies;
         TheServices().soundReader = &soundReader;
         TheServices().capture = &capture;
     }
@@ -69,6 +71,7 @@ public:
 private:
     QtMessages messages;
     PosixFiles files;
+    PosixFolderCopies folderCopies;
     PosixMachine machine;
     XdgDesktop desktop;
     QtPictureFiles pictures;

@@ -33,7 +33,9 @@ void FileSource::Read(std::uint64_t offset, std::span<std::byte> bytes)
 {
     if (offset > size || bytes.size() > size - offset)
         throw RunTimeError("The file is too short.");
-    file.pubseekpos(static_cast<std::streamoff>(offset));
+    const auto place = static_cast<std::streamoff>(offset);
+    if (std::streamoff(file.pubseekpos(place, std::ios::in)) != place)
+        throw RunTimeError("The file could not be read.");
     const auto count = static_cast<std::streamsize>(bytes.size());
     // A byte is read as what the stream calls a character.
     if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count)

@@ -2,6 +2,7 @@
 #include "core/IniFile.h"
 
 #include <algorithm>
+#include <memory>
 #include <span>
 #include <stdexcept>
 
@@ -98,13 +99,17 @@ IniFile IniFile::Read(const std::filesystem::path& path)
     const std::filesystem::path file = FindFile(path);
     if (file.empty())
         return {};
+    IniFile unread;
+    unread.unreadable = true;
     try {
         FileSource source(file);
+        if (source.Size() > kMostIniBytes)
+            return unread;
         std::string bytes(static_cast<std::size_t>(source.Size()), '\0');
         source.Read(0, std::as_writable_bytes(std::span(bytes)));
         return IniFile(bytes);
     } catch (const std::runtime_error&) {
-        return {};
+        return unread;
     }
 }
 
@@ -196,6 +201,8 @@ std::string IniFile::Bytes() const
 
 void IniFile::Write(const std::filesystem::path& path) const
 {
+    if (unreadable)
+        throw RunTimeError("The file " + PathText(path) + " could not be read and stays as it is.");
     const std::string bytes = Bytes();
     const std::span<const std::byte> piece = std::as_bytes(std::span(bytes));
     const std::filesystem::path file = FindFile(path);
@@ -213,6 +220,7 @@ std::string GetIniValue(std::string_view section, std::string_view key, std::str
 void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file)
 {
     const std::string_view named = Trim(section).empty() ? kGeneral : section;
+    const std::unique_ptr<FileHold> hold = TheServices().files->HoldForChange(file);
     IniFile ini = IniFile::Read(file);
     const std::string before = ini.Bytes();
     for (const IniValue& value : values) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <span>
 #include <string>
@@ -9,6 +10,9 @@
 #include <vector>
 
 namespace sprout {
+
+/// Size above which a file of this form, or a tune of the old form, is not read.
+inline constexpr std::uint64_t kMostIniBytes = 4'194'304;
 
 /// A text of sections in square brackets, with one key, an equals sign and a value a line.
 ///
@@ -22,7 +26,8 @@ public:
     /// Parses the bytes of a file.
     explicit IniFile(std::string_view bytes);
 
-    /// Reads the file that `path` finds, whatever its letter case; a missing or unreadable one is an empty one.
+    /// Reads the file that `path` finds, whatever its letter case; a missing one is an empty one. So is one that cannot
+    /// be read or is larger than `kMostIniBytes`, but `Write` never replaces it.
     [[nodiscard]] static IniFile Read(const std::filesystem::path& path);
 
     [[nodiscard]] bool Has(std::string_view section, std::string_view key) const;
@@ -38,7 +43,8 @@ public:
     /// The bytes of the file, lines ended by CR LF.
     [[nodiscard]] std::string Bytes() const;
 
-    /// Replaces the file that `path` finds, whatever its letter case, whole, or makes it. Throws `RunTimeError`.
+    /// Replaces the file that `path` finds, whatever its letter case, whole, or makes it. Throws `RunTimeError`, also
+    /// where what stands there could not be read.
     void Write(const std::filesystem::path& path) const;
 
 private:
@@ -51,6 +57,7 @@ private:
 
     void Index();
 
+    bool unreadable = false; // a file that holds what is not known here
     std::vector<Line> lines;
     std::unordered_map<std::string, std::size_t> places; // section, zero byte, key -> line
 };
@@ -64,8 +71,9 @@ struct IniValue {
     std::string value;
 };
 
-/// Writes values. A blank section becomes "General", a blank key deletes the section. The file is replaced once, and
-/// not at all where it says the same already. A failure is silent, as in a read-only folder.
+/// Writes values. A blank section becomes "General", a blank key deletes the section. The file is read anew and
+/// replaced once, while no other running program does the same, and not at all where it says the same already. A
+/// failure is silent, as in a read-only folder.
 void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file);
 
 /// Writes one value, likewise.

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <chrono>
 #include <ctime>
+#include <exception>
+#include <span>
 #include <system_error>
 #include <vector>
 
@@ -14,6 +16,7 @@
 #include "core/Text.h"
 #include "service/Desktop.h"
 #include "service/Files.h"
+#include "service/FolderCopies.h"
 #include "service/Machine.h"
 #include "service/Messages.h"
 
@@ -22,6 +25,12 @@ namespace sprout {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// False for a blank path, and for one with a zero byte: the machine would read it up to there and find another file.
+bool NamesAnything(const fs::path& path)
+{
+    return !Trim(path.native()).empty() && path.native().find('\0') == fs::path::string_type::npos;
+}
 
 bool IsPlainFile(const fs::path& path)
 {
@@ -35,33 +44,30 @@ bool IsFolder(const fs::path& path)
     return fs::is_directory(path, error);
 }
 
-/// A copy that broke off half-way is taken away again: it would count as a file of the user's.
-void CopyOneFile(const fs::path& source, const fs::path& copy)
+/// Some of the files that a copy left out, a line each.
+std::string LeftOutText(std::span<const LeftOutFile> files)
 {
-    if (fs::exists(copy))
-        return;
-    try {
-        fs::copy_file(source, copy);
-        // Tunes and songs know their beats by these times.
-        fs::last_write_time(copy, fs::last_write_time(source));
-        fs::permissions(copy, fs::perms::owner_write, fs::perm_options::add);
-    } catch (const fs::filesystem_error&) {
-        std::error_code error;
-        fs::remove(copy, error);
-        throw;
-    }
+    constexpr std::size_t most = 5;
+    std::string text;
+    for (const LeftOutFile& file : files.first(std::min(files.size(), most)))
+        text += (text.empty() ? "" : "\r\n") + PathText(file.Path.filename()) + ": " + file.Reason;
+    if (files.size() > most)
+        text += "\r\nand " + std::to_string(files.size() - most) + " more";
+    return text;
 }
 
-void CopyTree(const fs::path& source, const fs::path& target)
+/// Why a folder, or a part of it, was not copied; empty where all was.
+std::string FillFolder(const fs::path& source, const fs::path& target)
 {
-    fs::create_directories(target);
-    for (const fs::directory_entry& entry : fs::directory_iterator(source)) {
-        const fs::path copy = target / entry.path().filename();
-        if (entry.is_directory()) {
-            CopyTree(entry.path(), copy);
-        } else if (entry.is_regular_file()) {
-            CopyOneFile(entry.path(), copy);
-        }
+    const WorkingSign sign;
+    const StoppableWork work("Getting your " + LowerCase(PathText(target.filename())) + " ready");
+    try {
+        return LeftOutText(
+            TheServices().folderCopies->FillFolder(source, target, [](std::size_t done, std::size_t total) {
+                TheServices().screen->ShowProgress(done, total);
+            }));
+    } catch (const std::exception& error) {
+        return ErrorText(error);
     }
 }
 
@@ -95,8 +101,7 @@ fs::path NamedFile(const fs::path& folder, std::string_view name, std::string_vi
 
 fs::path FindFile(const fs::path& path)
 {
-    // The machine would read a path up to its zero byte and find another file.
-    if (Trim(path.native()).empty() || path.native().find('\0') != fs::path::string_type::npos)
+    if (!NamesAnything(path))
         return {};
     if (IsPlainFile(path))
         return path;
@@ -107,6 +112,15 @@ fs::path FindFile(const fs::path& path)
     return {};
 }
 
+fs::path ThroughLinks(const fs::path& path)
+{
+    std::error_code error;
+    if (!fs::is_symlink(path, error))
+        return path;
+    const fs::path resolved = fs::weakly_canonical(path, error);
+    return error ? path : resolved;
+}
+
 bool FileExists(const fs::path& path)
 {
     return !FindFile(path).empty();
@@ -114,12 +128,12 @@ bool FileExists(const fs::path& path)
 
 bool DeleteFile(const fs::path& path)
 {
-    const fs::path file = FindFile(path);
-    if (file.empty())
+    if (!NamesAnything(path))
         return true;
     std::error_code error;
-    fs::remove(file, error);
-    return !IsPlainFile(file);
+    if (IsPlainFile(path))
+        fs::remove(path, error);
+    return !fs::exists(fs::symlink_status(path, error));
 }
 
 fs::path NewTempFileName(std::string_view extension)
@@ -161,18 +175,13 @@ void OpenWithShell(std::string_view target)
 
 bool CopyFolder(const fs::path& source, const fs::path& destination)
 {
-    const WorkingSign sign;
     const fs::path folder = source.has_filename() ? source : source.parent_path();
-    try {
-        CopyTree(folder, destination / folder.filename());
-        return true;
-    } catch (const fs::filesystem_error& error) {
-        TheServices().messages->MessageBox("Error message",
-                                           "Following error occurd while copying folder " + PathText(source) + "\r\n" +
-                                               error.code().message(),
-                                           MessageIcon::Exclamation);
-        return false;
-    }
+    const std::string failure = FillFolder(folder, destination / folder.filename());
+    if (!failure.empty())
+        TheServices().messages->MessageBox(
+            "Error message", "Following error occurd while copying folder " + PathText(source) + "\r\n" + failure,
+            MessageIcon::Exclamation);
+    return failure.empty();
 }
 
 bool HoldsFile(const fs::path& folder)

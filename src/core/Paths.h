@@ -20,10 +20,15 @@ namespace sprout {
 /// Empty if there is none. Never throws.
 [[nodiscard]] std::filesystem::path FindFile(const std::filesystem::path& path);
 
+/// What a link at `path` leads to, so that the link stays a link; any other path as it is.
+[[nodiscard]] std::filesystem::path ThroughLinks(const std::filesystem::path& path);
+
 /// False for a blank path; else true when the path, whatever its letter case, finds a plain file.
 [[nodiscard]] bool FileExists(const std::filesystem::path& path);
 
-/// True when the path is blank, did not exist or no longer exists; false when it still does. Never throws.
+/// Deletes the plain file of just this name, or the link to one: a file whose name differs in letter case stays, and so
+/// does what is no file. True when the path is blank, did not exist or no longer exists; false when it still does.
+/// Never throws.
 bool DeleteFile(const std::filesystem::path& path);
 
 /// A free path for a temporary file in `TempFolder`. Stale files of the pattern met on the way are deleted, those that
@@ -42,8 +47,10 @@ bool DeleteFile(const std::filesystem::path& path);
 /// Hands a file or an address to the desktop. Errors are ignored.
 void OpenWithShell(std::string_view target);
 
-/// Copies a folder and its contents into `destination`, under its own name, with the files' times; what is there stays.
-/// A failure is shown and gives false.
+/// Copies a folder and its contents into `destination`, under its own name, with the files' times, if no plain file
+/// lies there yet; what is there stays. It is there whole or not at all: see `FolderCopies`. Where it lasts its
+/// progress is shown, and its user may stop it: throws `WorkStopped`. What failed is shown in one message and gives
+/// false.
 bool CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
 
 /// True when `folder` holds at least one plain file that is not hidden; sub-folders do not count.

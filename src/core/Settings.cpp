@@ -3,15 +3,55 @@
 
 #include <algorithm>
 #include <iterator>
+#include <mutex>
+#include <optional>
 #include <vector>
 
 #include "core/Errors.h"
 #include "core/Numbers.h"
+#include "core/Paths.h"
 #include "core/Text.h"
+#include "service/Files.h"
+#include "service/Services.h"
 
 namespace sprout {
 
 namespace {
+
+/// The settings file as it was read last. The file is asked at each use whether it is still the same.
+class SettingsRead {
+public:
+    std::string Value(std::string_view section, std::string_view key, std::string_view fallback)
+    {
+        const std::lock_guard lock(mutex);
+        const std::filesystem::path found = FindFile(Shared().SettingsFile);
+        const std::optional<FileFacts> now = found.empty() ? std::nullopt : TheServices().files->FactsOf(found);
+        if (!now || now != facts || found != file) {
+            ini = IniFile::Read(found);
+            facts = now;
+            file = found;
+        }
+        return ini.Value(section, key, fallback);
+    }
+
+    void Forget()
+    {
+        const std::lock_guard lock(mutex);
+        facts.reset();
+    }
+
+private:
+    std::mutex mutex;
+    std::filesystem::path file;
+    std::optional<FileFacts> facts; // before the file was read
+    IniFile ini;
+};
+
+SettingsRead& TheSettings()
+{
+    static SettingsRead settings;
+    return settings;
+}
 
 std::string_view NamedSection(std::string_view section)
 {
@@ -35,7 +75,7 @@ void ReadColour(std::string_view key, std::int32_t& colour)
 std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback)
 {
     const std::string_view named = Trim(key).empty() ? "END" : key;
-    const std::string value = GetIniValue(NamedSection(section), named, fallback, Shared().SettingsFile);
+    const std::string value = TheSettings().Value(NamedSection(section), named, fallback);
     return std::string(FirstCharacters(value, kLongestSetting));
 }
 
@@ -50,8 +90,10 @@ void PutSettings(std::string_view section, std::initializer_list<IniValue> value
     std::vector<IniValue> named;
     std::copy_if(values.begin(), values.end(), std::back_inserter(named),
                  [](const IniValue& value) { return !Trim(value.key).empty(); });
-    if (!named.empty())
-        PutIniValues(NamedSection(section), named, Shared().SettingsFile);
+    if (named.empty())
+        return;
+    PutIniValues(NamedSection(section), named, Shared().SettingsFile);
+    TheSettings().Forget();
 }
 
 void PutSetting(std::string_view section, std::string_view key, std::string_view value)

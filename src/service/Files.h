@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <span>
 
 #include "core/Errors.h"
@@ -40,6 +41,25 @@ public:
     virtual void PutInPlace(Flush flush) = 0;
 };
 
+/// What tells one state of a file from another.
+struct FileFacts {
+    std::uint64_t Device = 0;
+    std::uint64_t Inode = 0;
+    std::uint64_t Size = 0;     ///< bytes
+    std::int64_t WrittenNs = 0; ///< last write, in nanoseconds since 1970
+    std::int64_t ChangedNs = 0; ///< last change of its facts, likewise
+    friend bool operator==(const FileFacts&, const FileFacts&) = default;
+};
+
+/// Keeps other running programs from changing a file, as long as it lives.
+class FileHold {
+public:
+    FileHold() = default;
+    FileHold(const FileHold&) = delete;
+    FileHold& operator=(const FileHold&) = delete;
+    virtual ~FileHold() = default;
+};
+
 /// File operations that need more of the machine than the standard library gives.
 class Files {
 public:
@@ -52,8 +72,9 @@ public:
     ///
     /// The bytes are written beside the target under a hidden name and renamed over it, so that at any moment the
     /// target holds the old bytes or the new ones, never a part. With `Flush::Yes` they are on the disk before the
-    /// rename, and the rename before the return. Throws `RunTimeError` with a plain sentence on any failure; the
-    /// target then stands as before and nothing is left beside it.
+    /// rename, and the rename before the return. The folder is made if only it is missing. Throws `RunTimeError` with a
+    /// plain sentence on any failure; the target then stands as before and nothing is left beside it. What is no plain
+    /// file, or may not be written by its user, is not replaced: throws `NotReplaced`. Links are followed.
     virtual void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> pieces,
                              Flush flush) = 0;
 
@@ -64,6 +85,19 @@ public:
     /// True where nothing stands at `target`, or a plain file that its user may write in a folder that he may change.
     /// Links are followed.
     [[nodiscard]] virtual bool MayBeReplaced(const std::filesystem::path& target) const = 0;
+
+    /// Waits until no other running program holds a file of the same folder, and holds it for those that ask so too.
+    /// Null where the system has no locks, and where another program holds one for seconds.
+    [[nodiscard]] virtual std::unique_ptr<FileHold> HoldForChange(const std::filesystem::path& /*file*/)
+    {
+        return nullptr;
+    }
+
+    /// The facts of a file, through links; nothing where the system does not tell them.
+    [[nodiscard]] virtual std::optional<FileFacts> FactsOf(const std::filesystem::path& /*file*/) const
+    {
+        return std::nullopt;
+    }
 
     /// Deletes a temporary file, unless a running program still holds it. Follows no link.
     virtual void DeleteStaleFile(const std::filesystem::path& path) = 0;

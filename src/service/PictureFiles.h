@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <vector>
 
 #include "core/Picture.h"
 
@@ -19,7 +21,10 @@ public:
     /// more than 4096 pixels a side; nothing is allocated for such a claim.
     [[nodiscard]] virtual Picture LoadPicture(const std::filesystem::path& path) const = 0;
 
-    /// Writes a .bmp of 24 bits a pixel. Throws `RunTimeError` on failure.
+    /// The bytes of a .bmp of 24 bits a pixel. Throws `RunTimeError` for a picture without pixels.
+    [[nodiscard]] virtual std::vector<std::byte> EncodeBmp(const Picture& picture) const = 0;
+
+    /// Writes such a file. Throws `RunTimeError` on failure.
     virtual void SavePicture(const Picture& picture, const std::filesystem::path& path) const = 0;
 };
 

@@ -5,6 +5,7 @@ namespace sprout {
 
 class Desktop;
 class Files;
+class FolderCopies;
 class Machine;
 class Mail;
 class Messages;
@@ -35,6 +36,7 @@ struct Services {
     SoundCapture* capture = nullptr;
     Mail* mail = nullptr;
     PrivateFolders* privateFolders = nullptr;
+    FolderCopies* folderCopies = nullptr;
 };
 
 /// The one shared instance.

@@ -207,7 +207,7 @@ ExportOutcome WriteWmaFile(const WaveData& wave, const fs::path& path)
             return Refused(told);
         failure = kNotClosed;
         return wave.Length > 0 ? ExportOutcome{.End = PutInPlace(*file)} : ExportOutcome{};
-    } catch (const RunTimeError&) {
+    } catch (const std::exception&) { // of the disk, or of memory
         return Refused(failure);
     }
 }

@@ -158,8 +158,10 @@ void WriteWave(const WaveData& wave, const fs::path& path)
     const double dataBytes = static_cast<double>(FrameBytes(wave)) * wave.Length;
     const std::int32_t dataSize = RoundHalfEven(dataBytes);
     const std::int32_t riffSize = RoundHalfEven(dataBytes + 36);
-    DeleteFile(path);
-    WaveWriter writer(path);
+    const fs::path file = ThroughLinks(path);
+    if (!DeleteFile(file))
+        throw RunTimeError("The file " + PathText(path) + " cannot be replaced.");
+    WaveWriter writer(file);
     writer.Bytes(WaveHead(wave));
     WriteSamples(writer, wave);
     writer.MoveTo(40);
@@ -233,6 +235,8 @@ void SaveWaveFile(const WaveData& wave, const fs::path& path)
         WriteWave(wave, path);
     } catch (const std::runtime_error& error) {
         Tell("Wav file Write error", error.what());
+    } catch (const std::bad_alloc&) {
+        Tell("Wav file Write error", kNoMemory);
     }
 }
 

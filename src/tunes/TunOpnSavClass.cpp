@@ -6,6 +6,7 @@
 
 #include "core/Errors.h"
 #include "core/FileHead.h"
+#include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
@@ -33,6 +34,8 @@ bool LoadVersion(Tune& tune, const fs::path& path, TuneLoad mode)
         return Load_Tune_V20(tune, source, path, mode);
     if (version != 0.0F)
         return false;
+    if (source.Size() > kMostIniBytes)
+        throw RunTimeError("The file " + PathText(path) + " is too large for a tune.");
     Load_Tune_V00(tune, path, mode);
     return true;
 }

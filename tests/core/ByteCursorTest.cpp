@@ -1,13 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/ByteCursor.h"
 
+#include <sys/syscall.h>
+
 #include <gtest/gtest.h>
+
+#include <array>
+#include <cerrno>
 
 #include <filesystem>
 #include <string>
 #include <vector>
 
 #include "core/Errors.h"
+#include "support/RefusedCall.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -50,6 +56,25 @@ TEST(FileSource, RefusesWhatIsNoPlainFile)
     EXPECT_THROW(FileSource(folder.Path() / "link"), RunTimeError);
     EXPECT_THROW(FileSource{folder.Path()}, RunTimeError);
     EXPECT_THROW(FileSource(""), RunTimeError);
+}
+
+TEST(FileSource, TellsAPlaceThatCannotBeReached)
+{
+    const TestFolder folder;
+    WriteBytes(folder.Path() / "f", "0123456789");
+    EXPECT_TRUE(HoldsInChild([&folder] {
+        FileSource source(folder.Path() / "f");
+        std::array<std::byte, 2> bytes{};
+        source.Read(4, bytes);
+        if (!RefuseCall(SYS_lseek, EIO))
+            return false;
+        try {
+            source.Read(1, bytes);
+            return false;
+        } catch (const RunTimeError&) {
+            return true;
+        }
+    })) << "it reads on from where it stands";
 }
 
 TEST(FileSource, TellsWhenTheFileGrewShorter)

@@ -5,6 +5,8 @@
 
 #include "core/Errors.h"
 #include "support/FakeServices.h"
+#include "support/KilledChild.h"
+#include "support/UnchangeableFolder.h"
 
 namespace sprout {
 namespace {
@@ -179,9 +181,50 @@ TEST_F(IniOnDisk, FindsTheFileInAnyLetterCase)
 
 TEST_F(IniOnDisk, LosesSilentlyWhatCannotBeWritten)
 {
-    PutIniValue("a", "b", "1", fake.folder.Path() / "missing" / "x.ini");
+    WriteBytes(fake.folder.Path() / "file", "");
+    PutIniValue("a", "b", "1", fake.folder.Path() / "file" / "x.ini");
     EXPECT_TRUE(fake.messages.shown.empty());
-    EXPECT_THROW(IniFile().Write(fake.folder.Path() / "missing" / "x.ini"), RunTimeError);
+    EXPECT_THROW(IniFile().Write(fake.folder.Path() / "file" / "x.ini"), RunTimeError);
+}
+
+TEST_F(IniOnDisk, NeverReplacesAFileThatItCannotRead)
+{
+    const std::string bytes = "[a]\r\nb=1\r\n";
+    WriteBytes(Path(), bytes);
+    fs::permissions(Path(), fs::perms::owner_write);
+    {
+        fs::create_directory(fake.folder.Path() / "other");
+        const UnchangeableFolder rightsLaidDown(fake.folder.Path() / "other");
+        PutIniValue("a", "c", "2", Path());
+        PutIniValue("a", "", "", Path());
+        EXPECT_EQ(GetIniValue("a", "b", "none", Path()), "none");
+        EXPECT_THROW(IniFile::Read(Path()).Write(Path()), RunTimeError);
+    }
+    EXPECT_EQ(ReadBytes(Path()), bytes);
+}
+
+TEST_F(IniOnDisk, NeitherReadsNorReplacesAFileAboveFourMegabytes)
+{
+    std::string bytes = "[a]\r\nb=1\r\n;";
+    bytes.resize(kMostIniBytes, 'x');
+    WriteBytes(Path(), bytes);
+    EXPECT_EQ(GetIniValue("a", "b", "none", Path()), "1");
+    WriteBytes(Path(), bytes + 'x');
+    EXPECT_EQ(GetIniValue("a", "b", "none", Path()), "none");
+    PutIniValue("a", "c", "2", Path());
+    EXPECT_EQ(fs::file_size(Path()), kMostIniBytes + 1);
+    fs::resize_file(Path(), 5'000'000'000); // a file of holes
+    EXPECT_EQ(GetIniValue("a", "b", "none", Path()), "none");
+}
+
+TEST_F(IniOnDisk, LosesNothingWhereTwoProgramsWriteOtherKeys)
+{
+    constexpr int keys = 40;
+    RunAtOnce(2, [this](int program) {
+        for (int key = 0; key < keys; ++key)
+            PutIniValue("a", std::to_string(program) + "k" + std::to_string(key), "1", Path());
+    });
+    EXPECT_EQ(IniFile::Read(Path()).Keys("a").size(), 2U * keys);
 }
 
 } // namespace

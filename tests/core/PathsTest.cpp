@@ -64,6 +64,22 @@ TEST_F(Paths, DeleteFileTellsWhatStillExists)
     EXPECT_FALSE(fs::exists(In("a")));
     EXPECT_TRUE(fs::exists(In("A")));
     EXPECT_FALSE(DeleteFile("/proc/self/status"));
+    EXPECT_TRUE(DeleteFile(fs::path(In("A").native() + "\0b"s)));
+    EXPECT_TRUE(fs::exists(In("A")));
+}
+
+TEST_F(Paths, DeleteOnlyTheFileOfTheExactName)
+{
+    WriteBytes(In("mine.wav"), "");
+    EXPECT_TRUE(DeleteFile(In("Mine.wav"))) << "there is none";
+    EXPECT_TRUE(fs::exists(In("mine.wav")));
+    fs::create_directory(In("folder"));
+    EXPECT_FALSE(DeleteFile(In("folder")));
+    EXPECT_TRUE(fs::exists(In("folder")));
+    fs::create_symlink(In("mine.wav"), In("link"));
+    EXPECT_TRUE(DeleteFile(In("link")));
+    EXPECT_FALSE(fs::is_symlink(In("link")));
+    EXPECT_TRUE(fs::exists(In("mine.wav")));
 }
 
 TEST_F(Paths, ClearStaleTemporaryFilesOnTheWay)
@@ -109,19 +125,21 @@ TEST_F(Paths, AskForTheRoomOfTheTempFolder)
 TEST_F(Paths, CopyFoldersWithTheirTimesAndOverwriteNothing)
 {
     fs::create_directories(In("from/Beats/sub"));
-    fs::create_directories(In("to/Beats"));
+    fs::create_directories(In("to/Beats/sub"));
     WriteBytes(In("from/Beats/a.wav"), "a");
     WriteBytes(In("from/Beats/b.wav"), "b");
     WriteBytes(In("from/Beats/sub/c.wav"), "c");
-    WriteBytes(In("to/Beats/b.wav"), "mine");
+    WriteBytes(In("from/Beats/sub/d.wav"), "d");
+    WriteBytes(In("to/Beats/sub/d.wav"), "mine");
     SetWrittenIn2020(In("from/Beats/a.wav"), 1000);
     fs::permissions(In("from/Beats/a.wav"), fs::perms::owner_read);
     EXPECT_TRUE(CopyFolder(In("from/Beats/"), In("to")));
     EXPECT_EQ(FileStamp(In("to/Beats/a.wav")), FileStamp(In("from/Beats/a.wav")));
     EXPECT_EQ(fs::last_write_time(In("to/Beats/a.wav")), fs::last_write_time(In("from/Beats/a.wav")));
     EXPECT_NE(fs::status(In("to/Beats/a.wav")).permissions() & fs::perms::owner_write, fs::perms::none);
-    EXPECT_EQ(ReadBytes(In("to/Beats/b.wav")), "mine");
+    EXPECT_EQ(ReadBytes(In("to/Beats/b.wav")), "b");
     EXPECT_EQ(ReadBytes(In("to/Beats/sub/c.wav")), "c");
+    EXPECT_EQ(ReadBytes(In("to/Beats/sub/d.wav")), "mine");
     EXPECT_EQ(fake.screen.processPicsShown, 1);
     EXPECT_EQ(fake.screen.processPics, 0);
     EXPECT_EQ(fake.screen.hourglasses, 0);

@@ -79,6 +79,51 @@ TEST_F(Settings, AFileThatItsUserMayNotWriteIsNotReplaced)
     EXPECT_EQ(GetSetting("s", "k", ""), "1");
 }
 
+/// Counts how often a file is asked for, and can say that it is the one it was.
+class StillFiles : public PosixFiles {
+public:
+    [[nodiscard]] std::optional<FileFacts> FactsOf(const std::filesystem::path& file) const override
+    {
+        return stands ? FileFacts{1, 2, 3, 4, 5} : PosixFiles::FactsOf(file);
+    }
+
+    bool stands = false;
+};
+
+TEST_F(Settings, AreParsedAgainOnlyWhereTheFileIsAnotherOne)
+{
+    StillFiles files;
+    TheServices().files = &files;
+    files.stands = true;
+    Write("[s]\r\nk=1\r\n");
+    EXPECT_EQ(GetSetting("s", "k", ""), "1");
+    Write("[s]\r\nk=2\r\n");
+    EXPECT_EQ(GetSetting("s", "k", ""), "1") << "the file is said to be the same";
+    files.stands = false;
+    EXPECT_EQ(GetSetting("s", "k", ""), "2");
+}
+
+TEST_F(Settings, AreReadAnewAfterAWriteOfTheProgramsOwn)
+{
+    StillFiles files;
+    TheServices().files = &files;
+    files.stands = true;
+    PutSetting("s", "k", "1");
+    EXPECT_EQ(GetSetting("s", "k", ""), "1");
+    PutSetting("s", "k", "2");
+    EXPECT_EQ(GetSetting("s", "k", ""), "2");
+}
+
+TEST_F(Settings, SeeWhatAnotherProgramWrites)
+{
+    for (int value = 0; value < 50; ++value) {
+        PutIniValue("s", "k", std::to_string(value), Shared().SettingsFile);
+        EXPECT_EQ(GetSetting("s", "k", ""), std::to_string(value));
+    }
+    std::filesystem::remove(Shared().SettingsFile);
+    EXPECT_EQ(GetSetting("s", "k", "none"), "none");
+}
+
 TEST_F(Settings, GivesTheDefaultsWithoutAFile)
 {
     EXPECT_EQ(GetSetting("General", "SongBeatsOutside", "0"), "0");

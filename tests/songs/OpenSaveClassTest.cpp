@@ -163,7 +163,7 @@ TEST_F(OpenSaveClassTest, AFailedSaveThrowsAndLeavesFilesAndSongUsable)
 {
     SaveBytes();
     const std::string before = ReadBytes(Path());
-    EXPECT_THROW(OpenSaveClass().Save_Song(Shared().UserSongs / "no folder" / "x.TqSng"), RunTimeError);
+    EXPECT_THROW(OpenSaveClass().Save_Song(Shared().UserSongs / "no folder" / "in it" / "x.TqSng"), RunTimeError);
     EXPECT_THROW(OpenSaveClass().Save_Song(Shared().UserSongs), RunTimeError);
     EXPECT_EQ(ReadBytes(Path()), before);
     EXPECT_EQ(Shared().Song.TrackCount, 2);

@@ -78,7 +78,9 @@ TEST_P(ExportSong, LeavesOneOfTheFilesWholeWhereACallFails)
 TEST_P(ExportSong, MakesTheCallsThatTheFaultsHit)
 {
     for (std::size_t call = 0; call < kSystemCalls; ++call) {
-        const bool isMade = GetParam() == &WriteWmaFile || static_cast<SystemCall>(call) != SystemCall::Lseek;
+        const auto kind = static_cast<SystemCall>(call);
+        const bool isOfAFolder = kind > SystemCall::Fstat;
+        const bool isMade = !isOfAFolder && (GetParam() == &WriteWmaFile || kind != SystemCall::Lseek);
         EXPECT_EQ(calls[call] > 0, isMade) << kCallNames[call];
     }
 }

@@ -7,6 +7,7 @@
 
 #include "core/Errors.h"
 #include "support/FakeServices.h"
+#include "support/SmallDisk.h"
 
 namespace sprout {
 namespace {
@@ -316,10 +317,28 @@ TEST_F(WavFile, TellsAFolderInPlaceOfTheFile)
 
 TEST_F(WavFile, TellsAFullDisk)
 {
-    if (!fs::exists("/dev/full"))
-        GTEST_SKIP();
-    fs::create_symlink("/dev/full", Path()); // is no plain file, so it is not deleted first
+    const SmallDisk disk(4000);
     ExpectSaveTold(Wave(16, std::vector<std::int16_t>(50000, 1)), Path(), "Wav file Write error", "");
+}
+
+TEST_F(WavFile, ReplacesNoDeviceAndFollowsALinkToAFile)
+{
+    ExpectSaveTold(Wave(16, {1}), "/dev/null", "Wav file Write error", "The file /dev/null cannot be replaced.");
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    const fs::path real = Path().parent_path() / "real.wav";
+    WriteBytes(real, "old");
+    fs::create_symlink(real, Path());
+    SaveWaveFile(Wave(16, {1}), Path());
+    EXPECT_TRUE(fs::is_symlink(Path()));
+    EXPECT_EQ(fs::file_size(real), 46U);
+}
+
+TEST_F(WavFile, ReplacesOnlyTheFileOfTheExactName)
+{
+    const fs::path other = Path().parent_path() / "OTHER.WAV";
+    WriteBytes(other, "mine");
+    SaveWaveFile(Wave(16, {1}), Path().parent_path() / "other.wav");
+    EXPECT_EQ(ReadBytes(other), "mine");
 }
 
 TEST(WaveToLongs, LaysOutHeadAndChannels)

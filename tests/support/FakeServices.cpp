@@ -32,6 +32,11 @@ Picture FakePictureFiles::LoadPicture(const std::filesystem::path& path) const
     return OneColour(static_cast<std::uint32_t>(bytes.size()));
 }
 
+std::vector<std::byte> FakePictureFiles::EncodeBmp(const Picture& picture) const
+{
+    return std::vector<std::byte>(picture.Pixel(0, 0), std::byte{'p'});
+}
+
 void FakePictureFiles::SavePicture(const Picture& picture, const std::filesystem::path& path) const
 {
     WriteBytes(path, std::string(picture.Pixel(0, 0), 'p'));
@@ -77,6 +82,7 @@ FakeServices::FakeServices()
     TheServices().wma = &wma;
     TheServices().mail = &mail;
     TheServices().privateFolders = &privateFolders;
+    TheServices().folderCopies = &folderCopies;
     TheServices().soundReader = &soundReader;
     TheServices().capture = &capture;
     Shared() = SharedState();

@@ -20,6 +20,7 @@
 #include "service/Services.h"
 #include "service/Stretch.h"
 #include "service/posix/PosixFiles.h"
+#include "service/posix/PosixFolderCopies.h"
 #include "support/FakeCapture.h"
 #include "support/FakeMail.h"
 #include "support/FakeSound.h"
@@ -111,6 +112,7 @@ public:
 class FakePictureFiles : public PictureFiles {
 public:
     [[nodiscard]] Picture LoadPicture(const std::filesystem::path& path) const override;
+    [[nodiscard]] std::vector<std::byte> EncodeBmp(const Picture& picture) const override;
     void SavePicture(const Picture& picture, const std::filesystem::path& path) const override;
 };
 
@@ -150,6 +152,7 @@ public:
     FakeMessages messages;
     FakeScreen screen;
     PosixFiles files;
+    PosixFolderCopies folderCopies;
     FakeMachine machine;
     FakeDesktop desktop;
     FakePictureFiles pictures;

@@ -6,11 +6,12 @@
 
 namespace sprout {
 
-/// The system calls of a file's replacement, which a program linked with `--wrap` for each of them can let fail.
-enum class SystemCall { Open, Writev, Fchmod, Fsync, Close, Rename, Lseek };
-inline constexpr std::size_t kSystemCalls = 7;
-inline constexpr std::array<const char*, kSystemCalls> kCallNames = {"open",  "writev", "fchmod", "fsync",
-                                                                     "close", "rename", "lseek"};
+/// The system calls of a file's replacement and of a folder's copy, which a program linked with `--wrap` for each of
+/// them can let fail.
+enum class SystemCall { Open, Writev, Fchmod, Fsync, Close, Rename, Lseek, Fstat, Read, Write, Mkdir, Futimens };
+inline constexpr std::size_t kSystemCalls = 12;
+inline constexpr std::array<const char*, kSystemCalls> kCallNames = {
+    "open", "writev", "fchmod", "fsync", "close", "rename", "lseek", "fstat", "read", "write", "mkdir", "futimens"};
 
 enum class Fault {
     None,

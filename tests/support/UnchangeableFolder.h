@@ -13,7 +13,7 @@
 namespace sprout {
 
 /// A folder in which nothing can be made, replaced or deleted as long as it lives, not by root either, who lays down
-/// the right to all.
+/// the right to all files, protected ones too.
 class UnchangeableFolder {
 public:
     explicit UnchangeableFolder(const std::filesystem::path& lockedFolder) : folder(lockedFolder)
@@ -21,7 +21,7 @@ public:
         std::filesystem::permissions(folder, std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
         EXPECT_EQ(syscall(SYS_capget, &head, rights), 0);
         rightsBefore = rights[0].effective;
-        SetRights(rightsBefore & ~(1U << CAP_DAC_OVERRIDE));
+        SetRights(rightsBefore & ~((1U << CAP_DAC_OVERRIDE) | (1U << CAP_DAC_READ_SEARCH)));
     }
     UnchangeableFolder(const UnchangeableFolder&) = delete;
     UnchangeableFolder& operator=(const UnchangeableFolder&) = delete;

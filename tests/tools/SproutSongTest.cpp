@@ -5,7 +5,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <fstream>
+#include <new>
 #include <sstream>
+#include <streambuf>
 #include <string>
 #include <vector>
 
@@ -408,6 +411,66 @@ TEST_F(SproutSong, TellsOfAWmaFileThatIsDamaged)
     const json facts = Info(At("bad.wma"));
     EXPECT_EQ(facts["messages"].size(), 1U);
     EXPECT_EQ(Run({"info", At("bad.wma")}), kFailed);
+}
+
+/// Takes nothing and says that there is no memory.
+class NoMemoryBuffer : public std::streambuf {
+protected:
+    int_type overflow(int_type) override { throw std::bad_alloc(); }
+};
+
+TEST_F(SproutSong, FailsWhereTheStandardOutputCannotBeWritten)
+{
+    std::ofstream full("/dev/full");
+    EXPECT_EQ(RunSproutSong({"--version"}, full, err), 1);
+    EXPECT_EQ(err.str(), "sprout-song: The standard output could not be written.\n");
+}
+
+TEST_F(SproutSong, SaysWhatFailedWhereMemoryIsShort)
+{
+    NoMemoryBuffer buffer;
+    std::ostream noMemory(&buffer);
+    noMemory.exceptions(std::ios::badbit);
+    EXPECT_EQ(RunSproutSong({"--version", "--beats-outside"}, noMemory, err), 1);
+    EXPECT_EQ(err.str(), "sprout-song: --version --beats-outside: There is not enough memory.\n");
+}
+
+TEST_F(SproutSong, ShowsControlCharactersAndSendsNoneToTheTerminal)
+{
+    EXPECT_EQ(Run({"info", At("red \x1b[31m \xc2\x9b \x9b.wav")}), 1);
+    EXPECT_NE(err.str().find("red \\u001b[31m \\u009b \\x9b.wav was not found."), std::string::npos) << err.str();
+    WithEngine([&] {
+        Shared().Song.SongTitle = "a\x1b\x7f\xc2\x85\nb";
+        Shared().Song.Tracks.resize(2);
+        Shared().Song.TrackCount = 1;
+        OpenSaveClass().Save_Song(At("Bad.TqSng"));
+    });
+    EXPECT_EQ(Run({"info", At("Bad.TqSng")}), 0);
+    EXPECT_NE(out.str().find("title: a\\u001b\\u007f\\u0085\\u000ab\n"), std::string::npos) << out.str();
+    EXPECT_EQ(Run({"info", "--json", At("Bad.TqSng")}), 0);
+    EXPECT_NE(out.str().find("\"title\":\"a\\u001b\\u007f\\u0085\\nb\""), std::string::npos) << out.str();
+    EXPECT_EQ(json::parse(out.str())["song"]["title"], "a\x1b\x7f\xc2\x85\nb");
+}
+
+TEST_F(SproutSong, ReplacesNoDeviceAndNoFileOfAnotherName)
+{
+    SaveAudioSong("Song.TqSng");
+    EXPECT_EQ(Run({"resave", At("Song.TqSng"), "/dev/null"}), 1);
+    EXPECT_EQ(Run({"render", At("Song.TqSng"), "/dev/null"}), 1);
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    WriteBytes(At("mine.wav"), "mine");
+    EXPECT_EQ(Run({"render", At("Song.TqSng"), At("Mine.wav")}), 0);
+    EXPECT_EQ(ReadBytes(At("mine.wav")), "mine");
+    EXPECT_GT(std::filesystem::file_size(At("Mine.wav")), 44U);
+}
+
+TEST_F(SproutSong, RefusesAnOldTuneAboveFourMegabytes)
+{
+    WriteBytes(At("Big.TqTun"), "[General]\r\nCreatedBy=Ada\r\n");
+    EXPECT_EQ(Run({"info", At("Big.TqTun")}), 0);
+    std::filesystem::resize_file(At("Big.TqTun"), 5'000'000'000); // a file of holes
+    EXPECT_EQ(Run({"info", At("Big.TqTun")}), 1);
+    EXPECT_NE(err.str().find("is too large for a tune."), std::string::npos) << err.str();
 }
 
 } // namespace

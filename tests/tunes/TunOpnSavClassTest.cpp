@@ -360,7 +360,7 @@ TEST_F(TunOpnSavClassTest, AFailedSaveThrowsAndLeavesEverythingAsItWas)
 {
     SaveBytes(MakeTune());
     const std::string before = ReadBytes(Path());
-    EXPECT_THROW(TunOpnSavClass().Save_Tune(Shared().UserTunes / "no folder" / "x.TqTun"), RunTimeError);
+    EXPECT_THROW(TunOpnSavClass().Save_Tune(Shared().UserTunes / "no folder" / "in it" / "x.TqTun"), RunTimeError);
     EXPECT_THROW(TunOpnSavClass().Save_Tune(Shared().UserTunes), RunTimeError);
     EXPECT_EQ(ReadBytes(Path()), before);
     EXPECT_FALSE(fs::exists(Shared().UserTunes / "no folder"));

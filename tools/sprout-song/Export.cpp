@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <exception>
 #include <filesystem>
 #include <map>
 #include <sstream>
@@ -26,6 +27,7 @@
 #include "sound/TrackRender.h"
 #include "sprout-song/Commands.h"
 #include "sprout-song/Loading.h"
+#include "sprout-song/Printable.h"
 
 namespace sprout {
 
@@ -224,7 +226,8 @@ private:
         ++done;
         if (TakeLeave(session, ended)) {
             ++exported;
-            session.out << PathText(ended.job->song) << " -> " << PathText(ended.job->target) << '\n';
+            session.out << Printable(PathText(ended.job->song)) << " -> " << Printable(PathText(ended.job->target))
+                        << '\n';
         }
         TheServices().screen->ShowProgress(done, jobs.size());
     }
@@ -264,8 +267,8 @@ bool RunExport(Session& session, const Arguments& arguments)
         const std::size_t exported = Exports(session, jobs, kind).Run();
         session.out << exported << " exported, " << jobs.size() - exported << " failed.\n";
         return exported == jobs.size();
-    } catch (const RunTimeError& error) {
-        session.Fail(kExportError, error.what());
+    } catch (const std::exception& error) {
+        session.Fail(kExportError, ErrorText(error));
         return false;
     }
 }

@@ -9,6 +9,7 @@
 #include "sprout-song/Commands.h"
 #include "sprout-song/Facts.h"
 #include "sprout-song/Loading.h"
+#include "sprout-song/Printable.h"
 
 namespace sprout {
 
@@ -48,7 +49,8 @@ Facts MessageFacts(const Session& session, std::size_t first)
 
 std::string Plain(const Facts& value)
 {
-    return value.is_string() ? value.get<std::string>() : value.dump();
+    return value.is_string() ? Printable(value.get<std::string>())
+                             : PrintableJson(value.dump(-1, ' ', false, Facts::error_handler_t::replace));
 }
 
 /// Facts for a person: one indented line a fact, short objects on one line.
@@ -98,9 +100,9 @@ bool PrintOne(Session& session, const std::string& path, bool json)
         object["messages"] = MessageFacts(session, before);
         if (kind)
             object[kindName] = facts;
-        session.out << object.dump(-1, ' ', false, Facts::error_handler_t::replace) << '\n';
+        session.out << PrintableJson(object.dump(-1, ' ', false, Facts::error_handler_t::replace)) << '\n';
     } else if (!facts.is_null()) {
-        session.out << path << ": " << kindName << '\n';
+        session.out << Printable(path) << ": " << kindName << '\n';
         PrintFacts(session.out, facts, "  ");
     }
     return !facts.is_null();

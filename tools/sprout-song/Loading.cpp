@@ -98,7 +98,7 @@ std::optional<Tune> LoadStar(Session& session, const fs::path& path)
     try {
         LoadStarFile(star);
     } catch (const std::exception& error) {
-        session.Fail("Error Opening File", error.what());
+        session.Fail("Error Opening File", ErrorText(error));
     }
     Shared().UserStars = stars;
     return session.NoMessageSince(before) ? std::optional(std::move(star)) : std::nullopt;

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+#include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "songs/OpenSaveClass.h"
@@ -45,7 +46,7 @@ bool RunResave(Session& session, const Arguments& arguments)
         else
             SaveTune(out);
     } catch (const std::exception& error) {
-        session.Fail("Error Saving File", error.what());
+        session.Fail("Error Saving File", ErrorText(error));
         return false;
     }
     return true;

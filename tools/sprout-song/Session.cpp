@@ -8,6 +8,7 @@
 #include "service/Services.h"
 #include "service/stretch/StretchService.h"
 #include "sound/WavOperations.h"
+#include "sprout-song/Printable.h"
 
 namespace sprout {
 
@@ -20,8 +21,8 @@ void ToolMessages::MessageBox(std::string_view title, std::string_view text, Mes
 {
     shown.push_back({std::string(title), std::string(text)});
     if (!title.empty())
-        err << title << ": ";
-    err << text << '\n';
+        err << Printable(title) << ": ";
+    err << PrintableLines(text) << '\n';
 }
 
 void ToolScreen::ShowProgress(std::size_t done, std::size_t total)

@@ -2,9 +2,12 @@
 #include "sprout-song/SproutSong.h"
 
 #include <algorithm>
+#include <exception>
 
+#include "core/Errors.h"
 #include "core/Shared.h"
 #include "sprout-song/Commands.h"
+#include "sprout-song/Printable.h"
 
 namespace sprout {
 
@@ -44,6 +47,15 @@ std::vector<OptionRule> KnownOptions(const Command* command)
     if (command)
         options.insert(options.end(), command->options.begin(), command->options.end());
     return options;
+}
+
+/// What failed, for one who reads only that.
+std::string JoinedWords(const std::vector<std::string>& words)
+{
+    std::string joined;
+    for (const std::string& word : words)
+        joined += (joined.empty() ? "" : " ") + word;
+    return joined;
 }
 
 int Run(const std::vector<std::string>& words, std::ostream& out, std::ostream& err)
@@ -110,10 +122,18 @@ const std::vector<Command>& AllCommands()
 int RunSproutSong(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& err)
 {
     try {
-        return Run(arguments, out, err);
+        const int code = Run(arguments, out, err);
+        out.flush();
+        if (out)
+            return code;
+        err << "sprout-song: The standard output could not be written.\n";
+        return kFailed;
     } catch (const UsageError& error) {
-        err << "sprout-song: " << error.what() << "\nTry: sprout-song --help\n";
+        err << "sprout-song: " << Printable(error.what()) << "\nTry: sprout-song --help\n";
         return kWrongUsage;
+    } catch (const std::exception& error) {
+        err << "sprout-song: " << Printable(JoinedWords(arguments)) << ": " << ErrorText(error) << '\n';
+        return kFailed;
     }
 }
 

@@ -10,11 +10,13 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Files.h"
+#include "service/Messages.h"
 #include "service/Services.h"
 #include "songs/OpenSaveClass.h"
 
@@ -56,15 +58,40 @@ bool IsFirstStart()
     return true;
 }
 
+/// Takes the place of the messages as long as it lives, and shows none.
+class NoMessages : public Messages {
+public:
+    NoMessages() : before(std::exchange(TheServices().messages, this)) {}
+    NoMessages(const NoMessages&) = delete;
+    NoMessages& operator=(const NoMessages&) = delete;
+    ~NoMessages() override { TheServices().messages = before; }
+
+    void MessageBox(std::string_view /*title*/, std::string_view /*text*/, MessageIcon /*icon*/) override {}
+
+private:
+    Messages* before;
+};
+
+/// False, with the song as it was, where the file holds none that can be read.
+bool LoadQuietly(const fs::path& file)
+{
+    SongState before = Shared().Song;
+    const NoMessages quiet;
+    OpenSaveClass().Load_Song(file);
+    if (Shared().Song.TrackCount != 0)
+        return true;
+    Shared().Song = std::move(before);
+    return false;
+}
+
 } // namespace
 
 bool OpenSampleSong()
 {
     try {
         const fs::path file = NamedFile(Shared().UserSongs, kSampleSong, ".TqSng");
-        if (!IsFirstStart() || !FileExists(file))
+        if (!IsFirstStart() || !FileExists(file) || !LoadQuietly(file))
             return false;
-        OpenSaveClass().Load_Song(file);
         Shared().Song.SongTitle = kSampleSong;
         return true;
     } catch (const std::exception&) {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/Errors.h"
 #include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
@@ -15,6 +16,7 @@
 #include "core/SongModel.h"
 #include "core/Tell.h"
 #include "service/Desktop.h"
+#include "service/FolderCopies.h"
 #include "service/Machine.h"
 #include "service/PrivateFolders.h"
 #include "service/Services.h"
@@ -129,13 +131,20 @@ void SetUserFolders()
     MakeFolderIfMissing(Shared().UserRoot);
 }
 
-/// A user who has deleted every file of a folder gets the installed ones back.
+/// A user who has deleted every file of a folder gets the installed ones back. One who stops the copy gets them at the
+/// next start.
 void FillUserFolders()
 {
     const SharedState& shared = Shared();
-    for (const char* name : {"Beats", "Tunes", "Stars", "Songs"})
-        if (!HoldsFile(shared.UserRoot / name))
-            CopyFolder(shared.InstallRoot / name, shared.UserRoot);
+    try {
+        for (const char* name : {"Beats", "Tunes", "Stars", "Songs"}) {
+            const fs::path target = shared.UserRoot / name;
+            if (!HoldsFile(target) || TheServices().folderCopies->IsUnfinished(target))
+                CopyFolder(shared.InstallRoot / name, shared.UserRoot);
+        }
+    } catch (const WorkStopped&) {
+        return;
+    }
 }
 
 /// Last, for the start does not wait for it.

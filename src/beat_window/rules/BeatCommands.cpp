@@ -51,28 +51,16 @@ void PutBeatFile(const fs::path& target, const fs::path& source)
     TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::Yes);
 }
 
-/// A file that is deleted whatever happens.
-class ScratchBeatFile {
-public:
-    explicit ScratchBeatFile(std::string_view extension) : path(NewTempFileName(extension)) {}
-    ScratchBeatFile(const ScratchBeatFile&) = delete;
-    ScratchBeatFile& operator=(const ScratchBeatFile&) = delete;
-    ~ScratchBeatFile() { DeleteFile(path); }
-
-    [[nodiscard]] const fs::path& Path() const { return path; }
-
-private:
-    fs::path path;
-};
-
-/// The picture goes through a scratch file and is read back, so that a disk without room is noticed.
+/// A picture that lies around under the name in other letters goes once the new one is there.
 void PutBeatPicture(const fs::path& target, const Picture& picture)
 {
-    const ScratchBeatFile scratch("bmp");
-    TheServices().pictures->SavePicture(picture, scratch.Path());
-    (void)TheServices().pictures->LoadPicture(scratch.Path());
-    DeleteFile(target);
-    PutBeatFile(target, scratch.Path());
+    const std::vector<std::byte> bytes = TheServices().pictures->EncodeBmp(picture);
+    const std::span<const std::byte> piece(bytes);
+    const fs::path old = FindFile(target);
+    TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::Yes);
+    std::error_code error;
+    if (!old.empty() && !fs::equivalent(old, target, error))
+        DeleteFile(old);
 }
 
 fs::path UserBeatFile(std::string_view name, std::string_view extension)
@@ -136,8 +124,8 @@ void RenameBeatFiles(std::string_view oldName, std::string_view newName)
 
 void DeleteBeatFiles(std::string_view name)
 {
-    DeleteFile(UserBeatFile(name, ".wav"));
-    DeleteFile(UserBeatFile(name, ".bmp"));
+    DeleteFile(FindFile(UserBeatFile(name, ".wav")));
+    DeleteFile(FindFile(UserBeatFile(name, ".bmp")));
 }
 
 std::string SecondsText(double value)

@@ -11,6 +11,10 @@
 
 namespace sprout {
 
+// Modes of new files.
+inline constexpr mode_t kOwnerOnly = 0600;
+inline constexpr mode_t kAllButExecute = 0666;
+
 /// An open file descriptor.
 class Descriptor {
 public:
@@ -59,14 +63,25 @@ inline Lock TakeLock(int descriptor)
     return errno == EWOULDBLOCK ? Lock::Held : Lock::Unknown;
 }
 
-/// True while `path` still names the open file. Who holds the lock alone may delete or move it, so that under the lock
-/// the answer stays true.
-inline bool Names(const std::filesystem::path& path, int descriptor)
+enum class Naming { This, Another, Unknown };
+
+/// Whether `path` names the open file. `Unknown`: the system does not tell.
+inline Naming NamingOf(const std::filesystem::path& path, int descriptor)
 {
     struct stat open {};
     struct stat named {};
-    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &named) == 0 && open.st_dev == named.st_dev &&
-           open.st_ino == named.st_ino;
+    if (::fstat(descriptor, &open) != 0)
+        return Naming::Unknown;
+    if (::lstat(path.c_str(), &named) != 0)
+        return errno == ENOENT ? Naming::Another : Naming::Unknown;
+    return open.st_dev == named.st_dev && open.st_ino == named.st_ino ? Naming::This : Naming::Another;
+}
+
+/// True while `path` is known to name the open file. Who holds the lock alone may delete or move it, so that under the
+/// lock the answer stays true.
+inline bool Names(const std::filesystem::path& path, int descriptor)
+{
+    return NamingOf(path, descriptor) == Naming::This;
 }
 
 } // namespace sprout

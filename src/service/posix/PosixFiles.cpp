@@ -9,13 +9,17 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <string>
 #include <system_error>
+#include <thread>
 #include <vector>
 
 #include "core/Errors.h"
+#include "core/Paths.h"
 #include "service/posix/Descriptor.h"
+#include "service/posix/FileLock.h"
 
 namespace sprout {
 
@@ -23,14 +27,22 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
-constexpr mode_t kAllButExecute = 0666;
 constexpr int kMostSavesAtOnce = 100; // hidden files of other running programs in one folder
+
+fs::path FolderOf(const fs::path& file)
+{
+    return file.has_parent_path() ? file.parent_path() : fs::path(".");
+}
 
 template <class Error = RunTimeError>
 [[noreturn]] void Fail(const fs::path& path, int error)
 {
     throw Error("The file " + path.native() + " could not be written: " + std::generic_category().message(error) + ".");
+}
+
+bool MayWrite(const fs::path& path)
+{
+    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 /// A new hidden file beside a target. It is locked as long as it is written, so that no other running program takes it
@@ -46,6 +58,8 @@ public:
             ::unlink(path.c_str());
     }
 
+    /// Throws `NotReplaced` where what stands at the target is not to be replaced.
+    void RequireTarget() const;
     void Write(std::span<const std::span<const std::byte>> pieces);
     void MoveTo(std::uint64_t place);
     void TakeMode();
@@ -75,7 +89,7 @@ void DeleteUnlessHeld(const fs::path& path)
 
 int FileBeside::Create()
 {
-    const fs::path folder = wanted.has_parent_path() ? wanted.parent_path() : fs::path(".");
+    const fs::path folder = FolderOf(wanted);
     for (int n = 1; n <= kMostSavesAtOnce; ++n) {
         path = folder / (".TqkSave" + std::to_string(n));
         DeleteUnlessHeld(path);
@@ -85,7 +99,8 @@ int FileBeside::Create()
             Fail(wanted, errno);
         if (opened < 0)
             continue;
-        if (TakeLock(opened) != Lock::Held && Names(path, opened))
+        // A system that does not tell the names of an open file has made it all the same.
+        if (TakeLock(opened) != Lock::Held && NamingOf(path, opened) != Naming::Another)
             return opened;
         ::close(opened); // another program took it for a stale one in the moment before the lock
     }
@@ -131,7 +146,19 @@ void FileBeside::MoveTo(std::uint64_t place)
         Fail(wanted, errno);
 }
 
-/// The mode of the file that is replaced, or what a new file gets.
+void FileBeside::RequireTarget() const
+{
+    struct stat facts {};
+    if (::stat(wanted.c_str(), &facts) != 0)
+        return;
+    if (!S_ISREG(facts.st_mode))
+        throw NotReplaced("The file " + wanted.native() + " could not be written: it is no plain file.");
+    if (!MayWrite(wanted))
+        Fail<NotReplaced>(wanted, errno);
+}
+
+/// The mode of the file that is replaced, or what a new file gets. Where it cannot be set the file is good all the
+/// same, and its user's alone.
 void FileBeside::TakeMode()
 {
     struct stat facts {};
@@ -143,8 +170,7 @@ void FileBeside::TakeMode()
         ::umask(mask);
         mode = kAllButExecute & ~mask;
     }
-    if (Uninterrupted([&] { return ::fchmod(file.Number(), mode); }) != 0 && errno != EPERM && errno != ENOTSUP)
-        Fail(wanted, errno);
+    Uninterrupted([&] { return ::fchmod(file.Number(), mode); });
 }
 
 void FileBeside::FlushToDisk()
@@ -200,25 +226,9 @@ void FileBeside::FailToReplace() const
 /// Lets the folder's entry reach the disk. Some file systems cannot; the rename itself has succeeded.
 void FlushFolder(const fs::path& target)
 {
-    const fs::path folder = target.has_parent_path() ? target.parent_path() : fs::path(".");
-    const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const Descriptor opened(::open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (opened.Number() >= 0)
         ::fsync(opened.Number());
-}
-
-/// The file that a link at the target leads to, so that the link stays a link.
-fs::path ThroughLinks(const fs::path& target)
-{
-    std::error_code error;
-    if (!fs::is_symlink(target, error))
-        return target;
-    const fs::path resolved = fs::weakly_canonical(target, error);
-    return error ? target : resolved;
-}
-
-bool MayWrite(const fs::path& path)
-{
-    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
 class PosixReplacement : public Replacement {
@@ -229,6 +239,7 @@ public:
     void MoveTo(std::uint64_t place) override { beside.MoveTo(place); }
     void PutInPlace(Flush flush) override
     {
+        beside.RequireTarget();
         beside.TakeMode();
         if (flush == Flush::Yes)
             beside.FlushToDisk();
@@ -244,10 +255,28 @@ private:
     FileBeside beside;
 };
 
+class PosixHold : public FileHold {
+public:
+    explicit PosixHold(const fs::path& lockFile) : lock(lockFile) {}
+
+    Lock Try() { return lock.Try(); }
+
+private:
+    FileLock lock;
+};
+
+std::int64_t Nanoseconds(const timespec& time)
+{
+    constexpr std::int64_t inASecond = 1'000'000'000;
+    return time.tv_sec * inASecond + time.tv_nsec;
+}
+
 } // namespace
 
 void PosixFiles::ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush)
 {
+    std::error_code error; // where the folder cannot be made, the file cannot
+    fs::create_directory(FolderOf(ThroughLinks(target)), error);
     PosixReplacement replacement(target);
     replacement.WriteAll(pieces);
     replacement.PutInPlace(flush);
@@ -264,8 +293,32 @@ bool PosixFiles::MayBeReplaced(const fs::path& target) const
     struct stat facts {};
     if (::stat(file.c_str(), &facts) != 0)
         return errno == ENOENT;
-    const fs::path folder = file.has_parent_path() ? file.parent_path() : fs::path(".");
-    return S_ISREG(facts.st_mode) && MayWrite(file) && MayWrite(folder);
+    return S_ISREG(facts.st_mode) && MayWrite(file) && MayWrite(FolderOf(file));
+}
+
+std::unique_ptr<FileHold> PosixFiles::HoldForChange(const fs::path& file)
+{
+    constexpr std::chrono::milliseconds betweenTries(2);
+    constexpr int mostTries = 1000;
+    auto hold = std::make_unique<PosixHold>(FolderOf(ThroughLinks(file)) / ".TqkLock");
+    for (int i = 0; i < mostTries; ++i) {
+        const Lock lock = hold->Try();
+        if (lock == Lock::Taken)
+            return hold;
+        if (lock == Lock::Unknown)
+            return nullptr;
+        std::this_thread::sleep_for(betweenTries);
+    }
+    return nullptr;
+}
+
+std::optional<FileFacts> PosixFiles::FactsOf(const fs::path& file) const
+{
+    struct stat facts {};
+    if (::stat(file.c_str(), &facts) != 0)
+        return std::nullopt;
+    return FileFacts{facts.st_dev, facts.st_ino, static_cast<std::uint64_t>(facts.st_size), Nanoseconds(facts.st_mtim),
+                     Nanoseconds(facts.st_ctim)};
 }
 
 bool PosixFiles::WriteNewFile(const fs::path& path, std::span<const std::span<const std::byte>> pieces)

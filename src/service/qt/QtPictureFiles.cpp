@@ -10,6 +10,8 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <new>
+#include <span>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -33,13 +35,21 @@ std::uint32_t ToBgr(QRgb colour)
     return static_cast<std::uint32_t>(qBlue(colour) << 16 | qGreen(colour) << 8 | qRed(colour));
 }
 
+/// An image that was asked for with a width. Qt gives an empty one where it has no memory.
+QImage Allocated(QImage image, int width)
+{
+    if (image.isNull() && width > 0)
+        throw std::bad_alloc();
+    return image;
+}
+
 /// What is seen through lies on white.
 QImage Opaque(const QImage& image)
 {
     if (!image.hasAlphaChannel())
-        return image.convertToFormat(QImage::Format_RGB32);
-    QImage white(image.size(), QImage::Format_RGB32);
-    const QImage alpha = image.convertToFormat(QImage::Format_ARGB32);
+        return Allocated(image.convertToFormat(QImage::Format_RGB32), image.width());
+    QImage white = Allocated(QImage(image.size(), QImage::Format_RGB32), image.width());
+    const QImage alpha = Allocated(image.convertToFormat(QImage::Format_ARGB32), image.width());
     for (int y = 0; y < white.height(); ++y) {
         const auto* from = reinterpret_cast<const QRgb*>(alpha.constScanLine(y));
         auto* to = reinterpret_cast<QRgb*>(white.scanLine(y));
@@ -112,6 +122,20 @@ QImage ReadImage(QByteArray bytes, const std::filesystem::path& path)
     return image;
 }
 
+QImage ToImage(const Picture& picture)
+{
+    QImage image = Allocated(QImage(picture.Width(), picture.Height(), QImage::Format_RGB888), picture.Width());
+    for (int y = 0; y < picture.Height(); ++y) {
+        for (int x = 0; x < picture.Width(); ++x) {
+            const std::uint32_t colour = picture.Pixel(x, y);
+            image.setPixelColor(x, y,
+                                QColor(static_cast<int>(colour & 0xFF), static_cast<int>((colour >> 8) & 0xFF),
+                                       static_cast<int>((colour >> 16) & 0xFF)));
+        }
+    }
+    return image;
+}
+
 } // namespace
 
 Picture QtPictureFiles::LoadPicture(const std::filesystem::path& path) const
@@ -133,18 +157,20 @@ Picture QtPictureFiles::LoadPicture(const std::filesystem::path& path) const
     return {image.width(), image.height(), std::move(pixels)};
 }
 
+std::vector<std::byte> QtPictureFiles::EncodeBmp(const Picture& picture) const
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!ToImage(picture).save(&buffer, "BMP"))
+        throw RunTimeError("The picture could not be written.");
+    const auto encoded = std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    return {encoded.begin(), encoded.end()};
+}
+
 void QtPictureFiles::SavePicture(const Picture& picture, const std::filesystem::path& path) const
 {
-    QImage image(picture.Width(), picture.Height(), QImage::Format_RGB888);
-    for (int y = 0; y < picture.Height(); ++y) {
-        for (int x = 0; x < picture.Width(); ++x) {
-            const std::uint32_t colour = picture.Pixel(x, y);
-            image.setPixelColor(x, y,
-                                QColor(static_cast<int>(colour & 0xFF), static_cast<int>((colour >> 8) & 0xFF),
-                                       static_cast<int>((colour >> 16) & 0xFF)));
-        }
-    }
-    if (!image.save(QtPath(path), "BMP"))
+    if (!ToImage(picture).save(QtPath(path), "BMP"))
         throw RunTimeError("The picture " + path.native() + " could not be written.");
 }
 

@@ -9,6 +9,7 @@ namespace sprout {
 class QtPictureFiles : public PictureFiles {
 public:
     [[nodiscard]] Picture LoadPicture(const std::filesystem::path& path) const override;
+    [[nodiscard]] std::vector<std::byte> EncodeBmp(const Picture& picture) const override;
     void SavePicture(const Picture& picture, const std::filesystem::path& path) const override;
 };
 

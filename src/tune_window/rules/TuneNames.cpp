@@ -54,8 +54,8 @@ void SaveTuneFile(const Tune& tune)
 
 void DeleteTuneFiles(std::string_view name)
 {
-    DeleteFile(TuneFile(name));
-    DeleteFile(NamedFile(Shared().UserTunes, name, ".bmp"));
+    DeleteFile(FindFile(TuneFile(name)));
+    DeleteFile(FindFile(NamedFile(Shared().UserTunes, name, ".bmp")));
 }
 
 } // namespace sprout

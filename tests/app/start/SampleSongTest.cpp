@@ -77,12 +77,15 @@ TEST_F(SampleSong, IsOpenedWhereStartsCannotBeCounted)
     EXPECT_EQ(Shared().Song.Tempo, kSampleTempo);
 }
 
-TEST_F(SampleSong, EndsNothingWhereItCannotBeRead)
+TEST_F(SampleSong, LeavesTheNewSongWithoutAMessageWhereItCannotBeRead)
 {
+    const std::int32_t tracks = Shared().Song.TrackCount;
     WriteBytes(Shared().UserSongs / "Zumi.TqSng", "This is no song.");
-    EXPECT_TRUE(OpenSampleSong());
-    EXPECT_EQ(Shared().Song.TrackCount, 0);
-    EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
+    EXPECT_FALSE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.TrackCount, tracks);
+    EXPECT_EQ(Shared().Song.SongTitle, "Untitled");
+    EXPECT_TRUE(fake.messages.shown.empty());
+    EXPECT_EQ(TheServices().messages, &fake.messages);
 }
 
 } // namespace

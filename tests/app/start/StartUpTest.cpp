@@ -10,6 +10,9 @@
 #include "core/Settings.h"
 #include "sound/WavOperations.h"
 #include "support/FakeServices.h"
+#include "support/InstalledBeats.h"
+#include "support/KilledChild.h"
+#include "support/UnchangeableFolder.h"
 
 namespace sprout {
 namespace {
@@ -179,6 +182,72 @@ TEST_F(StartUp, TellsAFailedCopyAndGoesOnWithTheNext)
     EXPECT_TRUE(fake.messages.shown[0].text.starts_with("Following error occurd while copying folder " +
                                                         (Installed() / "Beats").native() + "\r\n"));
     EXPECT_TRUE(fs::exists(User() / "Tunes" / "Walk.TqTun"));
+}
+
+TEST_F(StartUp, IsWholeAfterAKillOfTheOneBefore)
+{
+    // Each seventh call: a start makes hundreds, and those of a copy are met one by one in its own test.
+    constexpr int step = 7 * kKillStep;
+    const auto start = [] { RunStartUp(); };
+    for (int call = 1; KilledAtSystemCall(call, start); call += step) {
+        SCOPED_TRACE(call);
+        RunStartUp();
+        for (const char* name : {"Beats", "Tunes", "Stars", "Songs"})
+            ASSERT_EQ(InstalledBeats::FilesIn(User() / name), InstalledBeats::FilesIn(Installed() / name)) << name;
+        ASSERT_TRUE(fake.messages.shown.empty());
+        fs::remove_all(User());
+        fs::remove(Program() / "sprout-painter.ini");
+    }
+}
+
+TEST_F(StartUp, FillsTheUsersFoldersOnceWhereTwoProgramsStart)
+{
+    constexpr int rounds = 50;
+    for (int round = 0; round < rounds; ++round) {
+        RunAtOnce(2, [this](int) {
+            RunStartUp();
+            EXPECT_TRUE(fake.messages.shown.empty());
+        });
+        for (const char* name : {"Beats", "Tunes", "Stars", "Songs"})
+            ASSERT_EQ(InstalledBeats::FilesIn(User() / name), InstalledBeats::FilesIn(Installed() / name)) << name;
+        fs::remove_all(User());
+    }
+}
+
+TEST_F(StartUp, TellsInOneMessageWhatIsLeftOut)
+{
+    for (int n = 1; n <= 7; ++n) {
+        const fs::path file = Installed() / "Tunes" / ("Locked" + std::to_string(n) + ".TqTun");
+        WriteBytes(file, "locked");
+        fs::permissions(file, fs::perms::none);
+    }
+    {
+        fs::create_directory(fake.folder.Path() / "other");
+        const UnchangeableFolder rightsLaidDown(fake.folder.Path() / "other");
+        RunStartUp();
+    }
+    ASSERT_EQ(fake.messages.shown.size(), 1U);
+    EXPECT_EQ(fake.messages.shown[0].title, "Error message");
+    EXPECT_NE(fake.messages.shown[0].text.find(".TqTun: Permission denied\r\n"), std::string::npos);
+    EXPECT_TRUE(fake.messages.shown[0].text.ends_with("\r\nand 2 more"));
+    EXPECT_EQ(ReadBytes(User() / "Tunes" / "Walk.TqTun"), "walk");
+    EXPECT_EQ(InstalledBeats::FilesIn(User() / "Tunes").size(), 1U);
+    EXPECT_EQ(ReadBytes(User() / "Songs" / "Zumi.TqSng"), "zumi");
+}
+
+TEST_F(StartUp, ShowsHowFarItIsAndMayBeStopped)
+{
+    fake.screen.progressesBeforeStop = 1;
+    RunStartUp();
+    EXPECT_EQ(fake.screen.stages, (std::vector<std::string>{"Getting your beats ready", ""}));
+    EXPECT_TRUE(fake.messages.shown.empty());
+    EXPECT_FALSE(fs::exists(User() / "Beats"));
+    EXPECT_FALSE(fs::exists(User() / "Tunes"));
+    EXPECT_EQ(fake.screen.processPics, 0);
+    fake.screen.progressesBeforeStop = -1;
+    RunStartUp();
+    EXPECT_EQ(fake.screen.lastProgress, (std::pair<std::size_t, std::size_t>(1, 2)));
+    EXPECT_EQ(ReadBytes(User() / "Beats" / "G_Acoustic Guitar High.wav"), "guitar");
 }
 
 TEST_F(StartUp, GoesOnWhereNoFolderCanBeMade)

@@ -3,42 +3,17 @@
 
 #include <gmock/gmock.h>
 
-#include <csignal>
-#include <sys/resource.h>
-
 #include "beat_window/BeatFolderMaker.h"
 #include "core/Errors.h"
 #include "core/Paths.h"
 #include "support/FakeServices.h"
+#include "support/SmallDisk.h"
 
 namespace sprout {
 namespace {
 
 namespace fs = std::filesystem;
 using testing::HasSubstr;
-
-/// The disk takes no file above a size, as long as it lives.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t mostBytes)
-    {
-        before = std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &limit);
-        const rlimit small{mostBytes, limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    ~SmallDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &limit);
-        std::signal(SIGXFSZ, before);
-    }
-
-private:
-    rlimit limit{};
-    void (*before)(int) = nullptr;
-};
 
 class BeatCommandsTest : public testing::Test {
 protected:
@@ -114,20 +89,29 @@ TEST_F(AddBeatFilesTest, LeavesNothingBehindOnAFullDisk)
     EXPECT_EQ(FilesOfUserBeats(), "");
 }
 
-/// Writes a part of a picture, as on a disk that is full, and says nothing.
-class PartPictureFiles : public FakePictureFiles {
+class NoPictureFiles : public FakePictureFiles {
 public:
-    void SavePicture(const Picture&, const fs::path& path) const override { WriteBytes(path, "bad: half a pict"); }
+    [[nodiscard]] std::vector<std::byte> EncodeBmp(const Picture&) const override
+    {
+        throw RunTimeError("The picture could not be written.");
+    }
 };
 
 TEST_F(AddBeatFilesTest, TakesTheWaveAwayAgainWhereThePictureCannotBeWritten)
 {
-    const PartPictureFiles pictures;
-    TheServices().pictures = const_cast<PartPictureFiles*>(&pictures);
+    NoPictureFiles pictures;
+    TheServices().pictures = &pictures;
     WriteBytes(Chosen("Bell.wav"), "wave");
     EXPECT_THROW(AddBeatFiles(Chosen("Bell.wav"), AnyPicture(), "Bell.wav"), RunTimeError);
     EXPECT_EQ(FilesOfUserBeats(), "");
-    EXPECT_FALSE(HoldsFile(Shared().TempFolder));
+}
+
+TEST_F(AddBeatFilesTest, MakesNoTemporaryFile)
+{
+    fs::remove(Shared().TempFolder);
+    WriteBytes(Chosen("Bell.wav"), "wave");
+    AddBeatFiles(Chosen("Bell.wav"), AnyPicture(), "Bell.wav");
+    EXPECT_EQ(FilesOfUserBeats(), "Bell.bmp Bell.wav ");
 }
 
 TEST_F(AddBeatFilesTest, ThrowsForAWaveThatIsGone)

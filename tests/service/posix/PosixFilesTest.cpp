@@ -106,9 +106,73 @@ TEST_F(FilesOnDisk, WriteThroughALink)
     EXPECT_EQ(ReadBytes(In("elsewhere/real")), "new");
 }
 
-TEST_F(FilesOnDisk, TellAMissingFolderAndAFolderInTheWay)
+TEST_F(FilesOnDisk, MakeAFolderAgainThatHasGone)
 {
-    EXPECT_THROW(Save(In("missing/file"), "x"), RunTimeError);
+    Save(In("gone/song"), "new");
+    EXPECT_EQ(ReadBytes(In("gone/song")), "new");
+    EXPECT_THROW(Save(In("no/such/song"), "new"), RunTimeError) << "more than one is a slip of the pen";
+}
+
+TEST_F(FilesOnDisk, TellAFileInPlaceOfTheFolder)
+{
+    WriteBytes(In("file"), "kept");
+    EXPECT_THROW(Save(In("file/song"), "x"), RunTimeError);
+    EXPECT_EQ(ReadBytes(In("file")), "kept");
+    EXPECT_EQ(Names(), std::vector<std::string>{"file"});
+}
+
+TEST_F(FilesOnDisk, ReplaceNoDeviceAndNoPipe)
+{
+    ASSERT_EQ(::mkfifo(In("pipe").c_str(), 0600), 0);
+    fs::create_symlink("/dev/null", In("link"));
+    EXPECT_THROW(Save(In("pipe"), "x"), NotReplaced);
+    EXPECT_THROW(Save(In("link"), "x"), NotReplaced);
+    EXPECT_TRUE(fs::is_fifo(In("pipe")));
+    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    EXPECT_EQ(Names(), (std::vector<std::string>{"link", "pipe"}));
+}
+
+TEST_F(FilesOnDisk, ReplaceNoWriteProtectedFile)
+{
+    WriteBytes(In("song"), "old");
+    fs::permissions(In("song"), fs::perms::owner_read);
+    fs::create_directory(In("other"));
+    const UnchangeableFolder rightsLaidDown(In("other"));
+    EXPECT_THROW(Save(In("song"), "new"), NotReplaced);
+    EXPECT_EQ(ReadBytes(In("song")), "old");
+    EXPECT_EQ(Names(), (std::vector<std::string>{"other", "song"}));
+}
+
+TEST_F(FilesOnDisk, TellThatAFileIsAnotherOne)
+{
+    const PosixFiles files;
+    EXPECT_EQ(files.FactsOf(In("song")), std::nullopt);
+    WriteBytes(In("song"), "old");
+    const auto old = files.FactsOf(In("song"));
+    ASSERT_TRUE(old);
+    EXPECT_EQ(old->Size, 3U);
+    EXPECT_EQ(files.FactsOf(In("song")), old);
+    Save(In("song"), "new");
+    EXPECT_NE(files.FactsOf(In("song")), old) << "of the same size";
+    const auto renewed = files.FactsOf(In("song"));
+    SetWrittenIn2020(In("song"), 1);
+    EXPECT_NE(files.FactsOf(In("song"))->WrittenNs, renewed->WrittenNs);
+}
+
+TEST_F(FilesOnDisk, AreHeldByOneProgramAtATime)
+{
+    PosixFiles files;
+    auto hold = files.HoldForChange(In("a.ini"));
+    EXPECT_TRUE(hold);
+    EXPECT_FALSE(files.HoldForChange(In("b.ini"))) << "of the same folder, after seconds";
+    hold.reset();
+    EXPECT_TRUE(files.HoldForChange(In("b.ini")));
+    EXPECT_FALSE(files.HoldForChange(In("missing/a.ini")));
+    EXPECT_TRUE(Names().empty());
+}
+
+TEST_F(FilesOnDisk, TellAFolderInTheWay)
+{
     fs::create_directory(In("folder"));
     EXPECT_THROW(Save(In("folder"), "x"), RunTimeError);
     EXPECT_EQ(Names(), std::vector<std::string>{"folder"});

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -164,6 +166,8 @@ TEST_F(Pictures, WriteBmpOf24BitsThatReadsBackEqual)
         pixels.push_back(i * 99991 & 0xFFFFFF);
     files.SavePicture(Picture(33, 5, pixels), In("out.bmp"));
     const std::string bytes = ReadBytes(In("out.bmp"));
+    const std::vector<std::byte> encoded = files.EncodeBmp(Picture(33, 5, pixels));
+    EXPECT_TRUE(std::ranges::equal(encoded, std::as_bytes(std::span(bytes))));
     EXPECT_EQ(bytes.substr(0, 2), "BM");
     EXPECT_EQ(bytes[28], 24);
     EXPECT_EQ(bytes.size(), 54U + 100U * 5U);
@@ -175,6 +179,7 @@ TEST_F(Pictures, TellWhatCannotBeWritten)
 {
     EXPECT_THROW(files.SavePicture(Picture(1, 1, {0}), In("missing/out.bmp")), RunTimeError);
     EXPECT_THROW(files.SavePicture(Picture(), In("out.bmp")), RunTimeError);
+    EXPECT_THROW(static_cast<void>(files.EncodeBmp(Picture())), RunTimeError);
 }
 
 } // namespace

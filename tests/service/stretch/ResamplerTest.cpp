@@ -5,9 +5,53 @@
 
 #include <gtest/gtest.h>
 
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <fstream>
+#include <new>
 
 namespace sprout::stretch {
+
+#ifndef __SANITIZE_ADDRESS__ // which needs more address space than there is
+
+/// How a child ends that resamples with `extraBytes` more memory than it has: 0 well, 1 with an exception, -1 by a
+/// signal.
+int EndWithMemory(rlim_t extraBytes, double pitch)
+{
+    const std::vector<float> sound = SineFloats(200'000, 1000);
+    const auto outCount = static_cast<Index>(200'000 / pitch);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        rlim_t pages = 0;
+        std::ifstream("/proc/self/statm") >> pages;
+        const rlim_t bytes = pages * static_cast<rlim_t>(::sysconf(_SC_PAGESIZE)) + extraBytes;
+        const rlimit limit = {bytes, bytes};
+        ::setrlimit(RLIMIT_AS, &limit);
+        try {
+            ::_exit(Resample(sound, pitch, outCount).size() == static_cast<std::size_t>(outCount) ? 0 : 2);
+        } catch (const std::bad_alloc&) {
+            ::_exit(1);
+        }
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST(Resample, EndsInAnExceptionWithoutMemory)
+{
+    for (const double pitch : {0.5, 0.97, 2.0}) {
+        EXPECT_EQ(EndWithMemory(0, pitch), 1);
+        EXPECT_EQ(EndWithMemory(64'000'000, pitch), 0);
+        for (rlim_t bytes = 0; bytes < 8'000'000; bytes += 100'000)
+            EXPECT_GE(EndWithMemory(bytes, pitch), 0) << bytes;
+    }
+}
+
+#endif
 
 TEST(Resample, PlaysASoundAsMuchFasterAsAsked)
 {

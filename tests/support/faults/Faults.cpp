@@ -69,6 +69,11 @@ int __real_fchmod(int descriptor, mode_t mode);
 int __real_fsync(int descriptor);
 int __real_close(int descriptor);
 int __real_rename(const char* from, const char* to);
+int __real_fstat(int descriptor, struct stat* facts);
+ssize_t __real_read(int descriptor, void* bytes, size_t count);
+ssize_t __real_write(int descriptor, const void* bytes, size_t count);
+int __real_mkdir(const char* path, mode_t mode);
+int __real_futimens(int descriptor, const timespec* times);
 
 int __wrap_open(const char* path, int flags, ...)
 {
@@ -122,5 +127,30 @@ int __wrap_close(int descriptor)
 int __wrap_rename(const char* from, const char* to)
 {
     return Fails(SystemCall::Rename) ? -1 : Behind(SystemCall::Rename, __real_rename(from, to));
+}
+
+int __wrap_fstat(int descriptor, struct stat* facts)
+{
+    return Fails(SystemCall::Fstat) ? -1 : Behind(SystemCall::Fstat, __real_fstat(descriptor, facts));
+}
+
+ssize_t __wrap_read(int descriptor, void* bytes, size_t count)
+{
+    return Fails(SystemCall::Read) ? -1 : Behind(SystemCall::Read, __real_read(descriptor, bytes, count));
+}
+
+ssize_t __wrap_write(int descriptor, const void* bytes, size_t count)
+{
+    return Fails(SystemCall::Write) ? -1 : Behind(SystemCall::Write, __real_write(descriptor, bytes, count));
+}
+
+int __wrap_mkdir(const char* path, mode_t mode)
+{
+    return Fails(SystemCall::Mkdir) ? -1 : Behind(SystemCall::Mkdir, __real_mkdir(path, mode));
+}
+
+int __wrap_futimens(int descriptor, const timespec* times)
+{
+    return Fails(SystemCall::Futimens) ? -1 : Behind(SystemCall::Futimens, __real_futimens(descriptor, times));
 }
 }
