@@ -60,6 +60,7 @@ void Hint(std::string_view text)
 SongSelFrm::SongSelFrm(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("SongSelFrm"));
+    ShowHintsInBand();
     MakeLabels();
     MakeList();
     MakeNameBox();
@@ -297,7 +298,8 @@ bool SongSelFrm::MayOverwrite(std::string_view name)
 {
     if (mode == SongSelMode::Save)
         Hint("Recommended to click 'No' and then save with another name");
-    const bool yes = AskYesNo("A song with this name already exists: " + std::string(name), "Do you wish to overwrite?") == 1;
+    const bool yes =
+        AskYesNo("A song with this name already exists: " + std::string(name), "Do you wish to overwrite?") == 1;
     Hint("");
     return yes;
 }

@@ -7,6 +7,7 @@
 
 #include "core/Errors.h"
 #include "support/FakeServices.h"
+#include "support/ScratchDevice.h"
 #include "support/SmallDisk.h"
 
 namespace sprout {
@@ -323,8 +324,11 @@ TEST_F(WavFile, TellsAFullDisk)
 
 TEST_F(WavFile, ReplacesNoDeviceAndFollowsALinkToAFile)
 {
-    ExpectSaveTold(Wave(16, {1}), "/dev/null", "Wav file Write error", "The file /dev/null cannot be replaced.");
-    EXPECT_TRUE(fs::is_character_file("/dev/null"));
+    const fs::path device = Path().parent_path() / "device";
+    MakeScratchDevice(device);
+    ExpectSaveTold(Wave(16, {1}), device, "Wav file Write error",
+                   "The file " + device.native() + " cannot be replaced.");
+    EXPECT_TRUE(IsScratchDevice(device));
     const fs::path real = Path().parent_path() / "real.wav";
     WriteBytes(real, "old");
     fs::create_symlink(real, Path());

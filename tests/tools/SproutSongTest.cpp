@@ -17,6 +17,7 @@
 #include "sound/WavOperations.h"
 #include "sprout-song/Session.h"
 #include "support/FakeServices.h"
+#include "support/ScratchDevice.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
@@ -455,9 +456,10 @@ TEST_F(SproutSong, ShowsControlCharactersAndSendsNoneToTheTerminal)
 TEST_F(SproutSong, ReplacesNoDeviceAndNoFileOfAnotherName)
 {
     SaveAudioSong("Song.TqSng");
-    EXPECT_EQ(Run({"resave", At("Song.TqSng"), "/dev/null"}), 1);
-    EXPECT_EQ(Run({"render", At("Song.TqSng"), "/dev/null"}), 1);
-    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    MakeScratchDevice(At("device"));
+    EXPECT_EQ(Run({"resave", At("Song.TqSng"), At("device")}), 1);
+    EXPECT_EQ(Run({"render", At("Song.TqSng"), At("device")}), 1);
+    EXPECT_TRUE(IsScratchDevice(At("device")));
     WriteBytes(At("mine.wav"), "mine");
     EXPECT_EQ(Run({"render", At("Song.TqSng"), At("Mine.wav")}), 0);
     EXPECT_EQ(ReadBytes(At("mine.wav")), "mine");

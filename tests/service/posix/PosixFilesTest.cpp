@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "core/Errors.h"
+#include "support/ScratchDevice.h"
 #include "support/TestFolder.h"
 #include "support/UnchangeableFolder.h"
 
@@ -124,12 +125,13 @@ TEST_F(FilesOnDisk, TellAFileInPlaceOfTheFolder)
 TEST_F(FilesOnDisk, ReplaceNoDeviceAndNoPipe)
 {
     ASSERT_EQ(::mkfifo(In("pipe").c_str(), 0600), 0);
-    fs::create_symlink("/dev/null", In("link"));
+    MakeScratchDevice(In("device"));
+    fs::create_symlink(In("device"), In("link"));
     EXPECT_THROW(Save(In("pipe"), "x"), NotReplaced);
     EXPECT_THROW(Save(In("link"), "x"), NotReplaced);
     EXPECT_TRUE(fs::is_fifo(In("pipe")));
-    EXPECT_TRUE(fs::is_character_file("/dev/null"));
-    EXPECT_EQ(Names(), (std::vector<std::string>{"link", "pipe"}));
+    EXPECT_TRUE(IsScratchDevice(In("device")));
+    EXPECT_EQ(Names(), (std::vector<std::string>{"device", "link", "pipe"}));
 }
 
 TEST_F(FilesOnDisk, ReplaceNoWriteProtectedFile)
@@ -261,7 +263,8 @@ TEST_F(FilesOnDisk, KnowWhatMayBeReplaced)
     EXPECT_TRUE(files.MayBeReplaced(In("dangling")));
     EXPECT_FALSE(files.MayBeReplaced(In("folder")));
     EXPECT_FALSE(files.MayBeReplaced(In("pipe")));
-    EXPECT_FALSE(files.MayBeReplaced("/dev/null"));
+    MakeScratchDevice(In("device"));
+    EXPECT_FALSE(files.MayBeReplaced(In("device")));
 }
 
 TEST_F(FilesOnDisk, KnowThatAProtectedFileOrFolderMayNotBeReplaced)
