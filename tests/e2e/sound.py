@@ -5,12 +5,12 @@ import os
 import signal
 import struct
 import subprocess
-import threading
-import time
 
 from processes import Failure, expect, wait_for
 
-STARTER = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "support", "sound-server")
+HERE = os.path.dirname(os.path.abspath(__file__))
+STARTER = os.path.join(HERE, "..", "support", "sound-server")
+LOUDSPEAKER = os.path.join(HERE, "loudspeaker")
 RATE = 44100
 FRAME_BYTES = 4
 TAIL_FRAMES = RATE // 20
@@ -36,29 +36,6 @@ def read_wave(path):
     expect((name, channels, rate, bits, size) == (b"WAVEfmt ", 2, RATE, 16, len(data)),
            f"{path} is no WAV file of 16 bits in stereo")
     return data
-
-
-class Loudspeaker:
-    """Takes what a device writes into a pipe, at the pace of its rate.
-
-    Its clock stands still while the machine does. A device that goes by the time of day wants at once, after a pause of
-    the whole machine, what no player could hand over meanwhile, and the hole in the sound is not the player's.
-    """
-    FRAMES = RATE // 100
-
-    def __init__(self, path):
-        self.pipe = os.open(path, os.O_RDONLY)
-        # The smallest pipe there is: the device is never far ahead of what was taken.
-        fcntl.fcntl(self.pipe, fcntl.F_SETPIPE_SZ, 4096)
-        threading.Thread(target=self.take, daemon=True).start()
-
-    def take(self):
-        due = time.monotonic()
-        while taken := os.read(self.pipe, self.FRAMES * FRAME_BYTES):
-            now = time.monotonic()
-            due = max(due + len(taken) / FRAME_BYTES / RATE, now)
-            time.sleep(due - now)
-        os.close(self.pipe)
 
 
 class SoundServer:
@@ -89,7 +66,11 @@ class SoundServer:
                                             env=environment, stderr=self.log)
         wait_for("the sound server", self.answers)
         if os.path.exists(self.pipe):  # not with PipeWire
-            Loudspeaker(self.pipe)
+            with open(self.pipe, "rb", buffering=0) as pipe:
+                # The smallest pipe there is: the device is never far ahead of what was taken.
+                fcntl.fcntl(pipe, fcntl.F_SETPIPE_SZ, 4096)
+                # A process of its own: nothing that the test does may hold it up.
+                self.processes.start([LOUDSPEAKER, str(RATE * FRAME_BYTES)], stdin=pipe)
             # It stays the one that programs play to, also when a microphone brings a device of its own.
             subprocess.run(["pactl", "set-default-sink", "out"], env=self.environment, check=True)
             # A device of this kind takes nothing, and nothing can be recorded of it, unless something plays.

@@ -124,7 +124,8 @@ def check_song(desk, plain, on, off, beat):
     expect(steps[on - 1]["pitch_shift"] == 4, f"the key of step {on} was not taken")
     expect(steps[off - 1]["on"] and steps[off - 1]["pitch_shift"] == -5, f"the lamp or key of step {off} was not taken")
     chosen = song["beats"][steps[off - 1]["beat_index"] - 1]["name"]
-    expect(chosen.lower() == beat.lower(), f"step {off} got the beat {chosen}, chosen was {beat}")
+    # The window shows a beat's name without the letter of its family.
+    expect(chosen.lower()[2:] == beat.lower(), f"step {off} got the beat {chosen}, chosen was {beat}")
 
 
 def find_tune_in_grid(desk):
