@@ -282,6 +282,8 @@ TEST_F(SongCommandsTest, NewAndOpenShowTheSongFromItsFirstTrackAndCell)
     PutSong("Rain", kQuickTempo);
     Song().TrackCount = 20;
     Song().Tracks.resize(21);
+    for (Track& track : Song().Tracks)
+        track.Painted.resize(static_cast<std::size_t>(Song().SongCells) + 1);
     auto& rows = *window->findChild<QScrollBar*>(QStringLiteral("TrackVScroll"));
     auto& cells = *window->findChild<QScrollBar*>(QStringLiteral("TrackHScroll"));
     const auto scroll = [&] {
