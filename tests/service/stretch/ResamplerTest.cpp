@@ -15,7 +15,8 @@
 
 namespace sprout::stretch {
 
-#ifndef __SANITIZE_ADDRESS__ // which needs more address space than there is
+// Sanitizers need more address space than there is.
+#if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 
 /// How a child ends that resamples with `extraBytes` more memory than it has: 0 well, 1 with an exception, -1 by a
 /// signal.
