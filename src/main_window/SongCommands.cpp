@@ -33,16 +33,14 @@ void ClearHint()
     ShowHint({});
 }
 
-/// Runs a command; what goes wrong in it is told behind `firstLine`. False where something did.
+/// Runs a command; what goes wrong in it is told behind `firstLine`.
 template <typename Command>
-bool RunCommand(std::string_view firstLine, Command command)
+void RunCommand(std::string_view firstLine, Command command)
 {
     try {
         command();
-        return true;
     } catch (const std::exception& error) {
         ShowMessage(std::string(firstLine) + "\r\n" + ErrorText(error));
-        return false;
     }
 }
 

@@ -77,9 +77,8 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     setAccessibleName(tr("Tracks"));
     setAccessibleDescription(tr(
         "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
-        "an arrow key choose a cell, Shift and Page Up or Page Down one that is eight cells away, Enter uses the tool "
-        "on "
-        "it, Control, Shift and an arrow key draw."));
+        "an arrow key choose a cell, Shift and Page Up or Page Down one that is eight cells away. Enter uses the tool "
+        "on it. Control, Shift and an arrow key draw."));
 }
 
 void TrackPic::Clear()

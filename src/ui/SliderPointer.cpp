@@ -10,7 +10,6 @@
 
 #include "core/Numbers.h"
 #include "ui/Artwork.h"
-#include "ui/Hints.h"
 #include "ui/Palette.h"
 
 namespace sprout {
@@ -85,13 +84,6 @@ void SliderPointer::mouseReleaseEvent(QMouseEvent* event)
 void SliderPointer::wheelEvent(QWheelEvent* event)
 {
     event->ignore();
-}
-
-void SliderPointer::focusInEvent(QFocusEvent* event)
-{
-    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason)
-        ShowHint(property(kHintProperty).toString());
-    QAbstractSlider::focusInEvent(event);
 }
 
 /// A window that opens during a drag gets the release in place of the pointer.
