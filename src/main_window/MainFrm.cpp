@@ -81,12 +81,6 @@ void ShutSound()
     ReleasePlayer();
 }
 
-void ShowForLater(const char* button)
-{
-    ShowHint({});
-    ShowLaterCommand(button);
-}
-
 std::optional<WaveData> RecordSound()
 {
     Recd_Frm recorder(WindowInFront());
@@ -131,7 +125,7 @@ const std::array<MainFrm::Row, 17>& MainFrm::Rows()
         {"EmailBtn", "Email song", Plate::Tool, [](MainFrm& frm) { frm.emailSong->EmailBtn(); }},
         {"HelpBtn", "Help", Plate::Tool, [](MainFrm&) { ShowHelp(); }},
         {"AboutBtn", "About", Plate::Tool, [](MainFrm& frm) { frm.AboutBtn(); }},
-        {"DemoBtn", "Demo", Plate::Tool, [](MainFrm&) { ShowForLater("DemoBtn"); }},
+        {"DemoBtn", "Demo", Plate::Tool, [](MainFrm&) { ShowLaterCommand("DemoBtn"); }},
         {"CloseImgBtn", "Close", Plate::Title, [](MainFrm& frm) { frm.close(); }},
         {"MaximizeImgBtn", "Maximize", Plate::Title, [](MainFrm& frm) { frm.showMaximized(); }},
         {"MinimizeImgBtn", "Minimize", Plate::Title, [](MainFrm& frm) { frm.showMinimized(); }},
@@ -176,7 +170,10 @@ MainFrm::MainFrm(TransportCommands& transport)
 void MainFrm::MakeButtons()
 {
     for (const Row& row : Rows())
-        buttons.AddButton(WithHint(row.name, row.spokenName, row.plate), [this, click = row.click] { click(*this); });
+        buttons.AddButton(WithHint(row.name, row.spokenName, row.plate), [this, click = row.click] {
+            ShowHint({});
+            click(*this);
+        });
     DrawPicturesAhead();
 }
 
@@ -382,7 +379,6 @@ void MainFrm::EnableTuneNotFilledTimer()
 
 void MainFrm::AboutBtn()
 {
-    ShowHint({});
     About_Frm about(this);
     about.ShowModal();
 }

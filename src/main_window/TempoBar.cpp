@@ -105,6 +105,7 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
     TempoPrtImg->setAccessibleName(QStringLiteral("Tempo"));
     SngDurLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     FitRoom({QWIDGETSIZE_MAX, kTempoBarHeight});
+    watcher.Watch(*this, "");
     const auto name = [&watcher](QWidget& control, const char* systemName) {
         control.setObjectName(QString::fromLatin1(systemName));
         watcher.Watch(control, MainWindowHint(systemName));

@@ -27,7 +27,7 @@ bool IsTrackNumber(std::int32_t number)
 bool MayDelete(std::int32_t number)
 {
     return AskYesNo("Are you sure to delete this Track?", "Track No: " + std::to_string(number),
-                    "Confirm Delete Track") == 1;
+                    " Confirm Delete Track") == 1;
 }
 
 } // namespace

@@ -258,6 +258,14 @@ void StepEditor::SyncStepFocus()
     for (std::int32_t step = 1; step <= reached; ++step)
         At(stepFocus, step)
             ->ShowStep(At(tune.Steps, step), NameForPeople(At(tune.Steps, step).StepBeat.Name), StepsLeft);
+    SetTabStep(std::clamp(tabStep, 1, std::max(reached, 1)));
+}
+
+void StepEditor::SetTabStep(std::int32_t step)
+{
+    tabStep = step;
+    for (std::int32_t other = 1; other < static_cast<std::int32_t>(stepFocus.size()); ++other)
+        At(stepFocus, other)->SetTabStop(other == step);
 }
 
 StepFocus* StepEditor::MakeStepFocus(std::int32_t step)
@@ -268,7 +276,10 @@ StepFocus* StepEditor::MakeStepFocus(std::int32_t step)
     connect(focus, &StepFocus::MenuWanted, this, [this, step] {
         RunOnStep(step, [&] { OpenStepMenu(step, QPoint(StepLeft(step, StepsLeft), kNumberTop)); });
     });
-    connect(focus, &StepFocus::Reached, this, [this, step] { BringIntoView(step); });
+    connect(focus, &StepFocus::Reached, this, [this, step] {
+        SetTabStep(step);
+        BringIntoView(step);
+    });
     connect(focus, &QAbstractButton::clicked, this, [this, step] { RunOnStep(step, [&] { ToggleLamp(step); }); });
     QWidget* const before = step == 1 ? static_cast<QWidget*>(StepNosCmb) : stepFocus.back();
     setTabOrder(before, focus);

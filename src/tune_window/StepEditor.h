@@ -77,6 +77,7 @@ private:
     void SyncStepFocus();
     [[nodiscard]] const std::string& NameForPeople(const std::string& beat);
     [[nodiscard]] StepFocus* MakeStepFocus(std::int32_t step);
+    void SetTabStep(std::int32_t step);
     void RunOnStep(std::int32_t step, const std::function<void()>& command);
     void PlaceChangeAll();
     void PlacePlayMarks();
@@ -129,6 +130,7 @@ private:
     QTimer PlayPosTimer;
     HintWatcher hints{this};
     std::vector<StepFocus*> stepFocus{nullptr}; ///< by step, from 1
+    std::int32_t tabStep = 1;                   ///< the Tab key stops at this step alone, the one that was reached last
     BeatChooser chooseBeat;
     QCursor pianoCursor;
 

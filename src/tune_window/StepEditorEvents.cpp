@@ -170,6 +170,10 @@ void StepEditor::PressStepKey(std::int32_t step, QKeyEvent& event)
     case Qt::Key_Space:
         ToggleLamp(step);
         return BringIntoView(step); // playing has brought step 1 back
+    case Qt::Key_Home:
+        return WalkTo(1);
+    case Qt::Key_End:
+        return WalkTo(static_cast<std::int32_t>(stepFocus.size()) - 1);
     case Qt::Key_Insert:
         return DoStepMenu(step, StepMoveMnu::InsertStep);
     case Qt::Key_Delete:

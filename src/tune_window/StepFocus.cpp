@@ -26,11 +26,12 @@ StepFocus::StepFocus(std::int32_t step, QWidget* surface) : QAbstractButton(surf
 {
     setObjectName(QStringLiteral("Step%1").arg(step));
     setAttribute(Qt::WA_TransparentForMouseEvents);
-    setFocusPolicy(Qt::TabFocus);
+    SetTabStop(false);
     setCheckable(true);
     setAccessibleDescription(
-        tr("The space bar switches the step on or off, up and down change its pitch, Shift with left or right its "
-           "length, Enter chooses its instrument. P plays the step, B its instrument. The menu key has more."));
+        tr("Left and right walk the steps. The space bar switches the step on or off, up and down change its pitch, "
+           "Shift with left or right its length, Enter chooses its instrument. P plays the step, B its instrument. The "
+           "menu key has more."));
 }
 
 void StepFocus::ShowStep(const TuneStep& step, std::string_view beat, std::int32_t stepsLeft)

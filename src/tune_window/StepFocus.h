@@ -21,6 +21,8 @@ public:
     /// Takes the step's name and state, and its place. beat: its beat's name for people. stepsLeft: left edge of
     /// step 1.
     void ShowStep(const TuneStep& step, std::string_view beat, std::int32_t stepsLeft);
+    /// Makes it the one step that the Tab key stops at, or one that only the arrow keys reach.
+    void SetTabStop(bool isTabStop) { setFocusPolicy(isTabStop ? Qt::TabFocus : Qt::ClickFocus); }
 
 Q_SIGNALS:
     void KeyPressed(QKeyEvent* event);

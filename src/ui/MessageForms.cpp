@@ -245,7 +245,7 @@ void SongTitleFrm::ClickOk()
 
 void ForbidCharacters(QLineEdit& box, const QString& forbidden)
 {
-    QObject::connect(&box, &QLineEdit::textChanged, &box, [&box, forbidden](const QString& text) {
+    const auto keepClean = [&box, forbidden](const QString& text) {
         QString clean = text;
         for (QChar& character : clean)
             if (forbidden.contains(character))
@@ -255,7 +255,9 @@ void ForbidCharacters(QLineEdit& box, const QString& forbidden)
         const int caret = box.cursorPosition();
         box.setText(clean);
         box.setCursorPosition(caret);
-    });
+    };
+    keepClean(box.text());
+    QObject::connect(&box, &QLineEdit::textChanged, &box, keepClean);
 }
 
 } // namespace sprout

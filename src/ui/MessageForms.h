@@ -110,7 +110,7 @@ private:
     QLineEdit* CreatedTxt;
 };
 
-/// Puts "_" in place of each of `forbidden` in what is typed into a box; the caret stays.
+/// Puts "_" in place of each of `forbidden` in what stands in a box now and in what comes into it; the caret stays.
 void ForbidCharacters(QLineEdit& box, const QString& forbidden);
 
 } // namespace sprout

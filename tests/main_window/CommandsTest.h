@@ -35,7 +35,7 @@ public:
             auto* form = qobject_cast<BandedForm*>(QApplication::activeModalWidget());
             if (!form)
                 return;
-            caption = form->windowTitle().toStdString();
+            caption = form->findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text().toStdString();
             for (const QLabel* note : form->findChildren<QLabel*>(QRegularExpression(QStringLiteral("^NoteLbl"))))
                 lines.push_back(note->text().toStdString());
             Click(*form, button);

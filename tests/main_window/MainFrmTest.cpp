@@ -137,6 +137,29 @@ TEST_F(MainFrmTest, ClearsTheHintOverItsBackground)
     EXPECT_EQ(TextOf("StatusLbl"), "Move the mouse over any button to read help clue here");
 }
 
+TEST_F(MainFrmTest, ClearsTheHintOverTheGapsOfTheTempoBar)
+{
+    QWidget& seconds = Control("SngDurLbl");
+    QWidget& bar = *seconds.parentWidget();
+    EXPECT_NE(HintOver("SngDurLbl"), "");
+    QPoint gap;
+    while (gap.y() < bar.height() && bar.childAt(gap))
+        gap = gap.x() < bar.width() - 1 ? gap + QPoint(1, 0) : QPoint(0, gap.y() + 1);
+    ASSERT_LT(gap.y(), bar.height());
+    Send(bar, QEvent::MouseMove, bar.mapToGlobal(QPointF(gap)), Qt::NoButton);
+    EXPECT_EQ(TextOf("StatusLbl"), "");
+}
+
+TEST_F(MainFrmTest, ClearsTheHintWhenAButtonIsClicked)
+{
+    for (const char* name :
+         {"BrushBtn", "EraserBtn", "PlayToolBtn", "MaximizeImgBtn", "RestoreImgBtn", "MinimizeImgBtn"}) {
+        ShowHint(QStringLiteral("An older hint"));
+        static_cast<QAbstractButton&>(Control(name)).click();
+        EXPECT_EQ(TextOf("StatusLbl"), "") << name;
+    }
+}
+
 TEST_F(MainFrmTest, HidesTheButtonsOfATrackOverThreePartsOfItsBackground)
 {
     QWidget& bar = Control("ControlFramePic");

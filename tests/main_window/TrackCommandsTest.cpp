@@ -118,7 +118,7 @@ TEST_F(TrackCommandsTest, DeletesTheHoveredTrackAfterAQuestion)
     HoverDeleteButton(2);
     const NextForm form("YesBtn");
     QTest::mouseClick(&Part("TrackDeleteBtn"), Qt::LeftButton);
-    EXPECT_EQ(form.caption, "Confirm Delete Track");
+    EXPECT_EQ(form.caption, "  Confirm Delete Track");
     EXPECT_THAT(form.lines, ElementsAre("Are you sure to delete this Track?", "Track No: 2"));
     EXPECT_EQ(song.TrackCount, 2);
     EXPECT_EQ(song.Tracks[2].TrackTune.Name, "Lila");

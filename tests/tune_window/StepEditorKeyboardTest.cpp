@@ -29,32 +29,49 @@ protected:
     }
 };
 
-TEST_F(StepEditorKeyboardTest, TabReachesEveryStepAndThenTheButtonBehindThem)
+TEST_F(StepEditorKeyboardTest, TabStopsAtOneStepAndArrowsWalkTheOthersIntoView)
 {
     ShowTuneOf(64);
     StepNos().setFocus();
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     for (std::int32_t step = 1; step <= 64; ++step) {
-        QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
         ASSERT_EQ(FocusedStep(), step);
         const QRect place = StepButton(step).geometry();
         EXPECT_GE(place.left(), 0) << "it is scrolled into view";
         EXPECT_LE(place.right(), Surface().width());
+        Press(step, Qt::Key_Right);
     }
     QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(window.focusWidget()->objectName(), QStringLiteral("ChangeAllBtn"));
     QTest::keyClick(window.focusWidget(), Qt::Key_Backtab);
-    EXPECT_EQ(FocusedStep(), 64);
+    EXPECT_EQ(FocusedStep(), 64) << "it is the step that was left";
+    QTest::keyClick(window.focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(window.focusWidget(), &StepNos());
 }
 
-TEST_F(StepEditorKeyboardTest, StepsThatAreAddedAreReachedInTheirOrder)
+TEST_F(StepEditorKeyboardTest, HomeAndEndWalkToTheFirstAndTheLastStep)
+{
+    ShowTuneOf(64);
+    StepButton(3).setFocus();
+    Press(3, Qt::Key_End);
+    EXPECT_EQ(FocusedStep(), 64);
+    Press(64, Qt::Key_Home);
+    EXPECT_EQ(FocusedStep(), 1);
+}
+
+TEST_F(StepEditorKeyboardTest, StepsThatAreAddedAreReachedAndTabStaysWithATuneThatIsShorter)
 {
     ShowTuneOf(2);
     ShowTuneOf(6);
     StepButton(2).setFocus();
-    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    Press(2, Qt::Key_Right);
     EXPECT_EQ(FocusedStep(), 3);
+    Press(3, Qt::Key_End);
+    StepNos().setFocus();
     ShowTuneOf(2);
     EXPECT_EQ(editor.findChild<QWidget*>(QStringLiteral("Step3")), nullptr);
+    QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(FocusedStep(), 2);
 }
 
 TEST_F(StepEditorKeyboardTest, ATuneOfAnyLengthHasNoMoreThan256StepsForTheKeyboard)

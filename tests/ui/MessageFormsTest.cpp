@@ -136,6 +136,13 @@ TEST_F(SongTitleFrmTest, PutsAnUnderscoreInPlaceOfWhatNoFileNameMayHold)
     EXPECT_EQ(form.Name(), "a_b_c_d_e,f_g_h_i_j_k_l");
 }
 
+TEST_F(SongTitleFrmTest, CleansTheTitleThatItIsFilledWith)
+{
+    const SongTitleFrm filled(nullptr, "AC/DC: live?", "Who? Me.");
+    EXPECT_EQ(filled.Name(), "AC_DC_ live_");
+    EXPECT_EQ(filled.CreatedBy(), "Who? Me.");
+}
+
 TEST_F(SongTitleFrmTest, KeepsTheCaretWhereItWas)
 {
     NameTxt().setText(QStringLiteral("Rain"));
