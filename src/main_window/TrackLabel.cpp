@@ -27,6 +27,7 @@ TrackLabel::TrackLabel(const char* name, const QString& text, std::function<void
     font.setPixelSize(kHeadingPixels);
     setFont(font);
     setAlignment(Qt::AlignCenter);
+    setAccessibleName(text);
     setFocusPolicy(Qt::TabFocus);
     SetSpokenRole(*this, QAccessible::Button);
 }

@@ -90,6 +90,8 @@ void TrackPic::Clear()
 
 void TrackPic::PaintMeadow(std::int32_t trackCount)
 {
+    if (const auto top = HillsTop(view, trackCount))
+        Painter().Tile(QRect(0, *top, width(), kHillsHeight), CanvasPicture("Hills", kHillsTileSize, PixelRatio()));
     if (const auto top = MeadowTop(view, trackCount))
         Painter().Tile(QRect(0, *top, width(), kMeadowHeight), CanvasPicture("Meadow", kMeadowTileSize, PixelRatio()));
 }

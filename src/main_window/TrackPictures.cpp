@@ -48,10 +48,12 @@ QPixmap CanvasPicture(const char* name, QSize size, qreal pixelRatio)
 
 std::vector<WantedArtwork> CanvasArtworks(qreal pixelRatio)
 {
-    std::vector<WantedArtwork> artworks{
-        CanvasArtwork("TimeSlide", kTimeSlideSize, pixelRatio), CanvasArtwork("Meadow", kMeadowTileSize, pixelRatio),
-        BlankArtwork(0, pixelRatio), CanvasArtwork("DeleteButtonPic", kDeleteButtonPicSize, pixelRatio),
-        CanvasArtwork("PlayPic", kPlayPicSize, pixelRatio)};
+    std::vector<WantedArtwork> artworks{CanvasArtwork("TimeSlide", kTimeSlideSize, pixelRatio),
+                                        CanvasArtwork("Meadow", kMeadowTileSize, pixelRatio),
+                                        CanvasArtwork("Hills", kHillsTileSize, pixelRatio),
+                                        BlankArtwork(0, pixelRatio),
+                                        CanvasArtwork("DeleteButtonPic", kDeleteButtonPicSize, pixelRatio),
+                                        CanvasArtwork("PlayPic", kPlayPicSize, pixelRatio)};
     for (std::int32_t tile = 1; tile <= kMusicTiles; ++tile)
         artworks.push_back(TileArtwork(tile, pixelRatio));
     return artworks;

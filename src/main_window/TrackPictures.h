@@ -22,6 +22,7 @@ inline constexpr QSize kTimeSlideSize{3850, 15};
 inline constexpr QSize kDeleteButtonPicSize{14, 16};
 inline constexpr QSize kPlayPicSize{32, 32};
 inline constexpr QSize kMeadowTileSize{512, kMeadowHeight};
+inline constexpr QSize kHillsTileSize{1024, kHillsHeight};
 
 /// The background of a row by the kind of its track; of kinds that do not exist, that of music.
 [[nodiscard]] QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio);

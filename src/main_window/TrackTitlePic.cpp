@@ -81,6 +81,7 @@ void TrackTitlePic::MakeHeadings()
         auto* label = new TrackLabel(
             name, text, [message] { ShowMessage(message); }, this);
         label->setGeometry(place);
+        label->setAccessibleDescription(QString::fromUtf8(message));
         watcher.Watch(*label, "");
         label->installEventFilter(this);
     };

@@ -22,8 +22,18 @@ SongList::SongList(QWidget* parent) : QListWidget(parent)
     setFont(LabelFont());
     setTextElideMode(Qt::ElideMiddle); // copies differ at their ends
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void SongList::updateGeometries()
+{
+    const int line = sizeHintForRow(0);
+    const int room = viewport()->height() + viewportMargins().bottom();
+    const int below = line > 0 && line <= room ? room % line : 0;
+    if (below != viewportMargins().bottom())
+        setViewportMargins(0, 0, 0, below);
+    QListWidget::updateGeometries();
 }
 
 void SongList::keyPressEvent(QKeyEvent* event)

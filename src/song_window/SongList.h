@@ -14,6 +14,8 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    /// Leaves room below, so that no half line stands at the end.
+    void updateGeometries() override;
 
 private:
     [[nodiscard]] bool SelectFirst(int key);

@@ -77,6 +77,7 @@ void ApplyLook(QApplication& application)
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(ProgramPalette());
     QApplication::setFont(LabelFont());
+    QApplication::setLayoutDirection(Qt::LeftToRight); // as time runs on the tracks, whatever the system's language
     application.setStyleSheet(StyleSheet());
 }
 

@@ -25,7 +25,9 @@ constexpr int kAboveButtons = 14;
 constexpr int kLeastMessageWidth = 230;
 constexpr int kLeastQuestionWidth = 250;
 constexpr int kLeastThreeButtonsWidth = 300; // the form is 316 wide
+constexpr int kNotePadding = 8;              // with the margin it keeps the text well clear of the form's edge
 constexpr double kWidestShareOfScreen = 0.8;
+constexpr int kWidestNote = 816; // what a small screen has room for; longer lines are hard to read
 
 constexpr int kIconSide = 40;
 constexpr int kTwipsOfAPixel = 15;
@@ -56,6 +58,7 @@ void NotesForm::AddNote(const char* name, std::string_view text)
     QLabel& note = AddLabel(name);
     note.setText(QtText(text));
     note.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    note.setContentsMargins(kNotePadding, 0, kNotePadding, 0);
     notes.push_back(&note);
 }
 
@@ -67,9 +70,14 @@ void NotesForm::AddPicture(const char* artwork)
     notes.push_back(&picture);
 }
 
+int WidestNote(int screenWidth)
+{
+    return std::min(static_cast<int>(screenWidth * kWidestShareOfScreen), kWidestNote);
+}
+
 void NotesForm::SizeToNotes()
 {
-    const int widest = static_cast<int>(screen()->availableGeometry().width() * kWidestShareOfScreen);
+    const int widest = WidestNote(screen()->availableGeometry().width());
     int noteWidth = leastNoteWidth;
     for (QLabel* note : notes) {
         note->adjustSize();

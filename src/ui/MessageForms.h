@@ -31,6 +31,9 @@ private:
     std::vector<QLabel*> notes;
 };
 
+/// How wide a note may be on a screen that leaves so much room; a longer one goes on in the next line.
+[[nodiscard]] int WidestNote(int screenWidth);
+
 /// A message of one line. `Result` 1 for OK.
 class Msg1BtnFrm : public NotesForm {
     Q_OBJECT

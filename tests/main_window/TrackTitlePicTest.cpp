@@ -208,6 +208,9 @@ TEST_F(TrackTitlePicTest, TheHeadingsExplainThemselvesWhenClicked)
                   [this] { QTest::keyClick(&Part("Label5"), Qt::Key_Return); });
     RepeatKey(Part("Label5"), Qt::Key_Return); // brings up no message that this test would have to close
     // Above the columns that they name.
+    EXPECT_EQ(Part("Label1").accessibleName(), QStringLiteral("Play"));
+    EXPECT_EQ(Part("Label5").accessibleName(), QStringLiteral("Tune"));
+    EXPECT_EQ(Part("Label5").accessibleDescription(), QStringLiteral("Click on the Tune button below this."));
     EXPECT_LT(Part("Label1").geometry().bottom(), 20);
     EXPECT_TRUE(Part("Label1").geometry().contains(QPoint(118, 10)));
     EXPECT_TRUE(Part("Label5").geometry().contains(QPoint(40, 10)));

@@ -160,6 +160,18 @@ TEST_F(SongSelFrmTest, ShowsANameBoxAndTheSoundFilesToSaveASong)
     EXPECT_EQ(Part("ListTitleLbl").y() - kBandHeight, 20);
 }
 
+TEST_F(SongSelFrmTest, ShowsOnlyWholeLinesOfALongList)
+{
+    for (int i = 0; i < 60; ++i)
+        Put({("Song " + std::to_string(i)).c_str()});
+    Open(SongSelMode::Open);
+    const int line = List().visualItemRect(List().item(0)).height();
+    EXPECT_GT(List().viewport()->height(), 2 * line);
+    EXPECT_EQ(List().viewport()->height() % line, 0);
+    List().scrollToBottom();
+    EXPECT_EQ(List().visualItemRect(List().item(59)).bottom() + 1, List().viewport()->height());
+}
+
 TEST_F(SongSelFrmTest, ShowsANameBoxWithoutSoundFilesForANewSong)
 {
     Open(SongSelMode::New);

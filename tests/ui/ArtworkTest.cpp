@@ -128,6 +128,13 @@ TEST(ToImage, TurnsTheColoursRound)
     EXPECT_EQ(image.pixel(1, 0), qRgb(0, 128, 255));
 }
 
+TEST(ApplyLook, LaysOutFromLeftToRightWhateverTheSystemDoes)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    ApplyLook(*qApp);
+    EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+}
+
 TEST(ApplyLook, ShowsAllTextInTheFontThatIsCompiledIn)
 {
     EXPECT_EQ(QFontInfo(HintFont()).family(), QStringLiteral("Andika"));

@@ -29,6 +29,21 @@ TEST(NotesForm, IsAsWideAsItsWidestNoteAndAMarginOf8)
     EXPECT_EQ(form.width(), Part(form, "NoteLbl2").width() + 16);
 }
 
+TEST(NotesForm, KeepsItsText16PixelsFromTheEdge)
+{
+    const QString text = QStringLiteral("A note that is certainly wider than two hundred and thirty pixels");
+    Msg1BtnFrm form(nullptr, text.toStdString());
+    const auto& note = static_cast<QLabel&>(Part(form, "NoteLbl"));
+    EXPECT_GE(form.width(), note.fontMetrics().horizontalAdvance(text) + 32);
+}
+
+TEST(NotesForm, WrapsItsTextWhereASmallScreenWould)
+{
+    EXPECT_EQ(WidestNote(800), 640);
+    EXPECT_EQ(WidestNote(1024), 816);
+    EXPECT_EQ(WidestNote(1920), 816);
+}
+
 TEST(NotesForm, IsNoNarrowerThan230And250)
 {
     EXPECT_EQ(Msg1BtnFrm(nullptr, "Hi").width(), 246);

@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <functional>
 #include <memory>
+#include <stdexcept>
 #include <string_view>
 
 #include "BeatWindowSheets.h"
@@ -347,15 +348,18 @@ int main(int argc, char** argv)
     StartOffscreen(windowAlone ? "1" : argv[1]);
     QApplication application(argc, argv);
     sprout::ApplyLook(application);
-    if (windowAlone)
-        return sprout::DrawMainWindow(QFile::decodeName(argv[3]), QFile::decodeName(argv[2])) ? 0 : 1;
-    const QString folder = QFile::decodeName(argv[2]);
-    if (!QDir().mkpath(folder)) {
-        std::fprintf(stderr, "The folder %s cannot be made.\n", argv[2]);
+    try {
+        if (windowAlone)
+            return sprout::DrawMainWindow(QFile::decodeName(argv[3]), QFile::decodeName(argv[2])) ? 0 : 1;
+        const QString folder = QFile::decodeName(argv[2]);
+        if (!QDir().mkpath(folder))
+            throw std::runtime_error("The folder " + folder.toStdString() + " cannot be made.");
+        DrawAllSheets(folder);
+        if (argc == 4)
+            sprout::DrawMainWindowSheets(QFile::decodeName(argv[3]), folder);
+        return 0;
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
         return 1;
     }
-    DrawAllSheets(folder);
-    if (argc == 4)
-        sprout::DrawMainWindowSheets(QFile::decodeName(argv[3]), folder);
-    return 0;
 }

@@ -9,6 +9,8 @@
 
 #include <array>
 #include <cstdio>
+#include <stdexcept>
+#include <string>
 
 #include "core/Paths.h"
 #include "core/Settings.h"
@@ -17,12 +19,12 @@
 #include "main_window/MainFrm.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/TransportCommands.h"
+#include "service/Messages.h"
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
 #include "service/qt/QtPictureFiles.h"
 #include "songs/OpenSaveClass.h"
 #include "ui/ProgramPictures.h"
-#include "ui/QtMessages.h"
 #include "ui/QtScreen.h"
 
 namespace sprout {
@@ -32,9 +34,20 @@ namespace {
 constexpr QSize kUsualSize{800, 600};
 constexpr QSize kWholeScreen{1280, 800};
 
+/// Keeps what would be told, where nobody could read or close it.
+class KeptMessages : public Messages {
+public:
+    void MessageBox(std::string_view /*title*/, std::string_view text, MessageIcon /*icon*/) override { kept = text; }
+    [[nodiscard]] const std::string& Last() const { return kept; }
+
+private:
+    std::string kept;
+};
+
 /// A main window without a sound device, in a folder of its own.
 class ShownWindow {
 public:
+    /// Throws where the song cannot be read whole.
     explicit ShownWindow(const QString& songPath)
     {
         Services& services = TheServices();
@@ -49,6 +62,8 @@ public:
         MakeProgramPictures();
         NewSong();
         OpenSaveClass().Load_Song(songPath.toStdString());
+        if (!messages.Last().empty())
+            throw std::runtime_error(songPath.toStdString() + ": " + messages.Last());
         Shared().Song.SongTitle = QFileInfo(songPath).completeBaseName().toStdString();
         window = std::make_unique<MainFrm>(transport);
         window->ShowSoundDevices(1);
@@ -105,7 +120,7 @@ public:
 
 private:
     QTemporaryDir folder;
-    QtMessages messages;
+    KeptMessages messages;
     QtScreen screen;
     PosixFiles files;
     QtPictureFiles pictures;

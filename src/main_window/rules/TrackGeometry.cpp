@@ -131,6 +131,12 @@ std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackC
     return top < RowTop(view, trackCount + 1) + kMeadowBelowRows ? std::nullopt : std::optional(top);
 }
 
+std::optional<std::int32_t> HillsTop(const TrackView& view, std::int32_t trackCount)
+{
+    const std::int32_t free = view.trackPicHeight - RowTop(view, trackCount + 1);
+    return 2 * free < 3 * kHillsHeight ? std::nullopt : std::optional(view.trackPicHeight - kHillsHeight);
+}
+
 std::int32_t TileNumber(bool isAudio, std::int32_t track)
 {
     return isAudio ? 0 : track % kMusicTiles + 1;

@@ -103,6 +103,12 @@ inline constexpr std::int32_t kMeadowHeight = 80;
 /// Top of the meadow; it grows only where it stays clear of the rows.
 [[nodiscard]] std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackCount);
 
+/// Height of the hills behind the meadow.
+inline constexpr std::int32_t kHillsHeight = 240;
+
+/// Top of the hills, which rise only where they fill no more than two thirds of what the rows leave free.
+[[nodiscard]] std::optional<std::int32_t> HillsTop(const TrackView& view, std::int32_t trackCount);
+
 inline constexpr std::int32_t kMusicTiles = 10;
 /// Which of the row tiles paints a track: 0 for audio, 1 to 10 for music by the track's number.
 [[nodiscard]] std::int32_t TileNumber(bool isAudio, std::int32_t track);

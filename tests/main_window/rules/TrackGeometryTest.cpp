@@ -37,6 +37,14 @@ TEST(MeadowTop, StandsOnTheLowerEdgeWhereTheRowsLeaveRoom)
     EXPECT_EQ(MeadowTop({1, 1, 600, 124, 124}, 0), 44);
 }
 
+TEST(HillsTop, RiseWhereTheyFillNoMoreThanTwoThirdsOfTheFreeRoom)
+{
+    EXPECT_EQ(HillsTop({1, 1, 600, 380, 380}, 0), 140);
+    EXPECT_EQ(HillsTop({1, 1, 600, 379, 379}, 0), std::nullopt);
+    EXPECT_EQ(HillsTop({1, 1, 600, 425, 425}, 1), std::nullopt);
+    EXPECT_EQ(HillsTop({1, 1, 600, 426, 426}, 1), 186);
+}
+
 TEST(CellLeft, IsThreePixelsACell)
 {
     EXPECT_EQ(CellLeft(ViewFrom(1, 10), 10), 0);
