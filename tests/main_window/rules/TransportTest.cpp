@@ -61,10 +61,11 @@ TEST(CheckSongFromCell, ChecksFewerThanFiveTracksAlone)
 TEST(CheckTrack, AsksForAStepThenForPaint)
 {
     Track track = MusicTrack("Rain", 0);
-    EXPECT_EQ(CheckTrack(track, kSongCells).message,
-              (TwoLines{"Please select a tune or edit it.", "Use the first button on the left."}));
-    track.TrackTune.Steps[2].OnPos = 2; // only 1 is on
-    EXPECT_FALSE(CheckTrack(track, kSongCells).goesOn);
+    for (const std::int32_t off : {0, 2}) {
+        track.TrackTune.Steps[2].OnPos = off;
+        EXPECT_EQ(CheckTrack(track, kSongCells).message,
+                  (TwoLines{"Please select a tune or edit it.", "Use the first button on the left."}));
+    }
     track.TrackTune.Steps[2].OnPos = 1;
     EXPECT_EQ(CheckTrack(track, kSongCells).message,
               (TwoLines{"This track is not painted.", "Use the Brush button and paint on the track."}));
