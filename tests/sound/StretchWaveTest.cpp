@@ -191,16 +191,19 @@ TEST_F(StretchWaveTest, AServiceThatTellsMoreThanItsRoomOrNothingFails)
     TheServices().stretch = &odd;
     odd.told = -1;
     EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
-    EXPECT_EQ(StretchWave(MonoWave(SampleList(512, -512)), 1, 1).Length, 0);
     odd.told = 0; // as many as came, and the first one's value fewer
-    EXPECT_EQ(StretchWave(MonoWave(SampleList(512, -512)), 1, 1).Length, 0);
-    EXPECT_EQ(StretchWave(MonoWave(SampleList(512, -513)), 1, 1).Length, 0);
+    for (const std::int16_t fewer : {std::int16_t{-512}, std::int16_t{-513}}) {
+        const WaveData result = StretchWave(MonoWave(SampleList(512, fewer)), 1, 1);
+        EXPECT_EQ(result.Length, 0);
+        EXPECT_EQ(result.WavL.UpperBound(), 512) << "silent, as after any failure";
+    }
 }
 
 TEST_F(StretchWaveTest, AServiceThatSucceedsWithoutAHandleFails)
 {
     OddStretch odd;
     odd.givesHandle = false;
+    odd.told = 600;
     TheServices().stretch = &odd;
     EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
 }
