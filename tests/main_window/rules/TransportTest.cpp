@@ -51,6 +51,19 @@ TEST(CheckSong, CountsAnAudioTrackAsContent)
     EXPECT_TRUE(CheckSong(song).goesOn);
 }
 
+TEST(CheckSong, TakesContentAndPaintOfAnyTrack)
+{
+    for (std::int32_t withTune = 1; withTune <= 3; ++withTune)
+        for (std::int32_t withPaint = 1; withPaint <= 3; ++withPaint) {
+            SongState song = SongOf(3, MusicTrack("", 0));
+            At(song.Tracks, withTune).TrackTune.Name = "Rain";
+            EXPECT_EQ(CheckSong(song).message.line1, "Please paint on the track.") << withTune;
+            At(At(song.Tracks, withPaint).Painted, 9) = 1;
+            EXPECT_EQ(CheckSong(song).message, kNoMessage) << withTune << ' ' << withPaint;
+            EXPECT_TRUE(CheckSong(song).goesOn);
+        }
+}
+
 TEST(CheckSongFromCell, ChecksFewerThanFiveTracksAlone)
 {
     EXPECT_FALSE(CheckSongFromCell(SongOf(4, MusicTrack("Rain", 1))).goesOn);
