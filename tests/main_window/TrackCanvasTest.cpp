@@ -260,9 +260,9 @@ TEST_F(TrackCanvasTest, WritesTheNumberOfATrackAheadOfItsPicture)
 
 TEST_F(TrackCanvasTest, LaysThePictureOfTheTimeBandFivePixelsToTheLeft)
 {
-    Song().Tempo = 0; // no seconds
-    canvas->DrawTrackTop();
-    QImage band(kPicWidth, 17, QImage::Format_RGB32);
+    Song().Tempo = 0;                          // no seconds
+    canvas->resize(140 + 3900 + 18, 300 + 18); // so wide that its end is seen
+    QImage band(3900, 17, QImage::Format_RGB32);
     band.fill(kPaper);
     QPainter(&band).drawPixmap(-5, 2, Artwork(QStringLiteral("pictures/TimeSlide"), QSize(3850, 15), 1));
     EXPECT_EQ(Shown(Pic()).copy(band.rect()), band);
