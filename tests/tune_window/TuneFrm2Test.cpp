@@ -553,7 +553,9 @@ TEST_F(TuneFrm2Test, ControlsTellWhatTheyAreFor)
         {"SaveTuneBtn", "Save button, use it to keep this tune among your tunes"},
         {"DeleteTuneBtn", "This button will delete the selected tune"},
         {"HelpBtn", "Help button, use it to see help"},
-        {"CancelBtn", "Cancel button, use it to leave the track's tune as it was"}};
+        {"CancelBtn", "Cancel button, use it to leave the track's tune as it was"},
+        {"StepNosCmb", "Number of steps, use it to make the tune longer or shorter"},
+        {"TunFramHScroll", "Slide this to see the other steps"}};
     Open([&](TuneFrm2& window) {
         EXPECT_EQ(TextOf(window, "CaptionLbl"), " Choose a Tune");
         for (const auto& [name, hint] : hints) {
