@@ -475,7 +475,7 @@ TEST_F(DeleteBeatTest, DeletesThePairAfterAQuestionAndSelectsTheBeatBehind)
     Open("a");
     Delete("YesBtn");
     EXPECT_THAT(told, ElementsAre("Are you sure to delete this Beat?|Beat name: a|Click Yes to delete, No to keep"));
-    EXPECT_EQ(caption, QStringLiteral("Confirm Delete Beat"));
+    EXPECT_EQ(caption, QStringLiteral("  Confirm Delete Beat"));
     EXPECT_EQ(FilesOfUserBeats(), "b.bmp b.wav original.bmp original.wav ");
     EXPECT_EQ(ListedNames(), "b original ");
     EXPECT_EQ(TextOf("NmLbl"), "b");

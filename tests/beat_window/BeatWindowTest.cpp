@@ -358,6 +358,7 @@ TEST_F(BeatWindowTest, TellsWhatEachControlDoes)
         {"CancelBtn", "Cancel button, use it to leave the beat as it was"},
         {"HelpBtn", "Help button, use it to see help"},
         {"NoteLbl", ""}};
+    EXPECT_EQ(TextOf("CaptionLbl"), " Choose a Beat");
     for (const auto& [name, hint] : hints) {
         auto& control = Control(name);
         statusLbl.setText(QStringLiteral("before"));

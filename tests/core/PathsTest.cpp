@@ -116,9 +116,19 @@ TEST_F(Paths, ReplaceWhatFileNamesCannotHold)
     EXPECT_EQ(SafeFileName("a./\\:*?<>\"|b é"), "a_________|b é");
 }
 
+/// A machine with room on the volume of the temporary folder alone.
+class NamedRoom : public FakeMachine {
+public:
+    [[nodiscard]] std::uint64_t FreeBytes(const fs::path& path) const override
+    {
+        return path == Shared().TempFolder ? 5'000'000'000U : 0U;
+    }
+};
+
 TEST_F(Paths, AskForTheRoomOfTheTempFolder)
 {
-    fake.machine.freeBytes = 5'000'000'000;
+    NamedRoom machine;
+    TheServices().machine = &machine;
     EXPECT_EQ(FreeDiskBytes(), 5'000'000'000U);
 }
 

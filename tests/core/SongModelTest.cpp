@@ -130,7 +130,13 @@ TEST_F(SongModel, TurnsTempoIntoPercentAndBack)
     EXPECT_EQ(TempoPercent(1), 50);
     EXPECT_EQ(TempoPercent(-5), 50);
     EXPECT_EQ(TempoPercent(100000), 200);
-    EXPECT_EQ(TempoPercent(324), 101); // 101.25
+    EXPECT_EQ(TempoPercent(324), 101);   // 101.25
+    EXPECT_EQ(TempoPercent(325), 102);   // 101.5625
+    EXPECT_EQ(TempoPercent(328), 102);   // 102.5 goes to the even one
+    EXPECT_EQ(TempoPercent(344), 108);   // 107.5
+    EXPECT_EQ(TempoOfPercent(101), 323); // 323.2
+    EXPECT_EQ(TempoOfPercent(102), 326); // 326.4
+    EXPECT_EQ(TempoOfPercent(104), 333); // 332.8
     for (std::int32_t percent = 50; percent <= 200; ++percent)
         EXPECT_EQ(TempoPercent(TempoOfPercent(percent)), percent);
 }
@@ -140,6 +146,8 @@ TEST_F(SongModel, MeasuresTheWholeGrid)
     EXPECT_EQ(SongSeconds(320), 240);
     EXPECT_EQ(SongSeconds(160), 480);
     EXPECT_EQ(SongSeconds(640), 120);
+    EXPECT_EQ(SongSeconds(333), 231); // 230.63
+    EXPECT_EQ(SongSeconds(30720), 2); // 2.5 goes to the even one
     EXPECT_THROW(static_cast<void>(SongSeconds(0)), RunTimeError);
 }
 
@@ -158,6 +166,18 @@ TEST_F(SongModel, CountsTheCellsOfAnAudioWaveAtTheReferenceTempo)
     WaveData audio;
     audio.Length = 44100 * 3;
     EXPECT_EQ(AudioCycleCells(audio), 16);
+    audio.Rate = 16; // three frames a cell
+    for (const auto& [length, cells] :
+         {std::pair(4, 1), std::pair(5, 2), std::pair(6, 2), std::pair(7, 2), std::pair(8, 3), std::pair(1, 1)}) {
+        audio.Length = length;
+        EXPECT_EQ(AudioCycleCells(audio), cells) << length;
+    }
+    audio.Rate = 32; // six: a half goes to the even number
+    for (const auto& [length, cells] : {std::pair(3, 1), std::pair(9, 2), std::pair(15, 2), std::pair(21, 4)}) {
+        audio.Length = length;
+        EXPECT_EQ(AudioCycleCells(audio), cells) << length;
+    }
+    audio.Rate = 44100;
     audio.Length = 0;
     EXPECT_EQ(AudioCycleCells(audio), 1);
     audio.Rate = 0;

@@ -7,6 +7,7 @@
 
 #include "core/Shared.h"
 #include "support/FakeServices.h"
+#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
 
 namespace sprout {
@@ -30,6 +31,7 @@ protected:
 
 TEST_F(AboutFrmTest, TellsTheProductItsDateAndItsLicence)
 {
+    EXPECT_EQ(TextOf("CaptionLbl"), " About");
     EXPECT_EQ(TextOf("ProductLbl"), kProductName);
     EXPECT_THAT(TextOf("VersionLbl"), HasSubstr(std::string(kAppVersionDate)));
     EXPECT_THAT(TextOf("LicenceLbl"), HasSubstr("GPL-3.0-or-later"));
@@ -42,6 +44,19 @@ TEST_F(AboutFrmTest, TheLinkOpensTheMakersPages)
     Click(form, "WebSiteLbl");
     EXPECT_THAT(services.desktop.opened, ElementsAre("https://tonquill.example/"));
     EXPECT_TRUE(form.isVisible());
+}
+
+TEST_F(AboutFrmTest, TellsWhatTheLinkDoesAndNothingBesideIt)
+{
+    QLabel statusLbl;
+    SetStatusLbl(&statusLbl);
+    QTest::mouseMove(form.findChild<QWidget*>(QStringLiteral("WebSiteLbl")), QPoint(5, 5));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Click to see the makers' pages"));
+    for (const char* name : {"ProductLbl", "VersionLbl", "LicenceLbl", "OkBtn"}) {
+        statusLbl.setText(QStringLiteral("before"));
+        QTest::mouseMove(form.findChild<QWidget*>(QString::fromLatin1(name)), QPoint(6, 6));
+        EXPECT_EQ(statusLbl.text(), QString()) << name;
+    }
 }
 
 TEST_F(AboutFrmTest, TheLinkIsReachedAndOpenedWithKeys)

@@ -92,7 +92,7 @@ TEST_F(AudioTrackCommandsTest, ACancelledChoiceChangesNothing)
 {
     ShowHint(QStringLiteral("Before"));
     AddTrack(Choice::Cancel);
-    EXPECT_EQ(caption, QStringLiteral("Add Audio Track"));
+    EXPECT_EQ(caption, QStringLiteral(" Add Audio Track"));
     EXPECT_THAT(told, IsEmpty());
     EXPECT_THAT(questions, IsEmpty());
     EXPECT_EQ(statusLbl.text(), QString());
@@ -150,7 +150,7 @@ TEST_F(AudioTrackCommandsTest, TakesJustTwoMinutes)
     SaveWaveFile(WaveOf(120 * 11025 + 11), In("Long.wav")); // 120.001 s
     AddFile(In("Long.wav"));
     EXPECT_THAT(told, ElementsAre(kTooLong));
-    EXPECT_EQ(caption, QStringLiteral("Load wav file failed."));
+    EXPECT_EQ(caption, QStringLiteral(" Load wav file failed."));
     ExpectUnchanged();
 }
 

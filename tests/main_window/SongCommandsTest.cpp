@@ -98,14 +98,17 @@ TEST_F(SongCommandsTest, NewAsksAboutAChangedSong)
     Song().SongChanged = true;
     Song().Tempo = kQuickTempo;
     QString asked;
+    QString caption;
     QString hint;
     WithNextForm([&](BandedForm& form) {
+        caption = form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text();
         asked = form.findChild<QLabel*>(QStringLiteral("SongNameLbl"))->text();
         hint = QtText(TextOf("StatusLbl"));
         Click(form, "Cancel_Btn");
     });
     ClickButton("NewBtn");
     EXPECT_EQ(asked, QStringLiteral("Untitled"));
+    EXPECT_EQ(caption, QStringLiteral(" Tonquill Sprout Painter"));
     EXPECT_EQ(hint, QStringLiteral("This Song is changed, say \"Yes\" to save if you need it"));
     EXPECT_EQ(TextOf("StatusLbl"), "");
     EXPECT_EQ(Song().Tempo, kQuickTempo);
@@ -485,6 +488,15 @@ TEST_F(SongCommandsTest, ChangeOfOneLettersCaseIsAChange)
     ChangeNextTitle("untitled", "Your name here");
     ClickButton("SongTitleChgBtn");
     EXPECT_EQ(Song().SongTitle, "untitled");
+    EXPECT_TRUE(Song().SongChanged);
+}
+
+TEST_F(SongCommandsTest, ChangeOfTheAuthorAloneIsAChange)
+{
+    ChangeNextTitle("Untitled", "Lina");
+    ClickButton("SongTitleChgBtn");
+    EXPECT_EQ(Song().SongCreatedBy, "Lina");
+    EXPECT_EQ(TextOf("SngCreateLbl"), "Lina");
     EXPECT_TRUE(Song().SongChanged);
 }
 

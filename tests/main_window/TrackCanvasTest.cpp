@@ -258,6 +258,16 @@ TEST_F(TrackCanvasTest, WritesTheNumberOfATrackAheadOfItsPicture)
     expectNumber(104, 2, small);
 }
 
+TEST_F(TrackCanvasTest, LaysThePictureOfTheTimeBandFivePixelsToTheLeft)
+{
+    Song().Tempo = 0;                          // no seconds
+    canvas->resize(140 + 3900 + 18, 300 + 18); // so wide that its end is seen
+    QImage band(3900, 17, QImage::Format_RGB32);
+    band.fill(kPaper);
+    QPainter(&band).drawPixmap(-5, 2, Artwork(QStringLiteral("pictures/TimeSlide"), QSize(3850, 15), 1));
+    EXPECT_EQ(Shown(Pic()).copy(band.rect()), band);
+}
+
 TEST_F(TrackCanvasTest, StandsTheSecondsOnTheFootOfTheBand)
 {
     const QImage with = Shown(Pic());
@@ -336,6 +346,17 @@ TEST_F(TrackCanvasTest, MovesCursorAndMarkersWithoutDrawingTheRowsAnew)
     canvas->ShowPlayIndicator({90, std::nullopt});
     for (const QRect& part : pic.Drawn())
         EXPECT_LE(part.width(), 3);
+}
+
+TEST_F(TrackCanvasTest, AWholeRedrawHidesTheCellCursor)
+{
+    Pic().setFocus();
+    MoveTo(InRow(30, 1));
+    ASSERT_TRUE(IsShown("CellCursor"));
+    ASSERT_TRUE(IsShown("CellOutline"));
+    canvas->DrawTracksAll();
+    EXPECT_FALSE(IsShown("CellCursor"));
+    EXPECT_FALSE(IsShown("CellOutline"));
 }
 
 TEST_F(TrackCanvasTest, ShowsAfterAStrokeWhatAWholeRedrawShows)

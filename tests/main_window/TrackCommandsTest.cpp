@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TrackCommands.h"
 
+#include <utility>
+
 #include "core/Errors.h"
 #include "main_window/CommandsTest.h"
 
@@ -20,6 +22,22 @@ protected:
 
     void PlaySomething() { PlayWaveStatus(CountingWave(100), "Playing", Loop::No); }
     void HoverDeleteButton(std::int32_t number) const { Hover(number, 75); }
+    /// What both surfaces show. The first drawing keeps nothing, so that a second one is needed to see what is stale.
+    [[nodiscard]] std::pair<QImage, QImage> Shown() const
+    {
+        const auto grab = [this](const char* name) {
+            static_cast<void>(Part(name).grab());
+            return Part(name).grab().toImage();
+        };
+        return {grab("TrackTitlePic"), grab("TrackPic")};
+    }
+    /// Whether a redraw of everything changes nothing.
+    [[nodiscard]] bool ShowsTheSongAsItIs() const
+    {
+        const auto shown = Shown();
+        canvas->DrawTracksAll();
+        return Shown() == shown;
+    }
     [[nodiscard]] bool Marked() const { return !song.SongMixValid && song.SongChanged; }
     [[nodiscard]] bool Unmarked() const { return song.SongMixValid && !song.SongChanged; }
 };
@@ -188,6 +206,37 @@ TEST_F(TrackCommandsTest, AChosenTuneIsRenderedAndMakesItsTrackStale)
     EXPECT_FALSE(song.Tracks[2].TrackRenderValid);
     EXPECT_TRUE(song.Tracks[1].TrackRenderValid);
     EXPECT_TRUE(Marked());
+}
+
+TEST_F(TrackCommandsTest, TheRowShowsATuneThatWasChosen)
+{
+    Paint(2, 1, 40);
+    canvas->DrawTracksAll();
+    const auto before = Shown();
+    tuneWindow = [](Tune& tune, bool&) {
+        tune.Picture = Shared().BlankStarPic;
+        tune.StepCount = 8; // another cycle
+        return true;
+    };
+    HoverPicture(2);
+    tracks->TrackTuneBtn();
+    EXPECT_NE(Shown().first, before.first);
+    EXPECT_NE(Shown().second, before.second);
+    EXPECT_TRUE(ShowsTheSongAsItIs());
+}
+
+TEST_F(TrackCommandsTest, TheRowsBelowADeletedTrackMoveUp)
+{
+    song.Tracks[3].TrackTune.Picture = Shared().BlankStarPic;
+    Paint(3, 8, 9);
+    canvas->DrawTracksAll();
+    const auto before = Shown();
+    HoverDeleteButton(2);
+    const NextForm form("YesBtn");
+    tracks->TrackDeleteBtn();
+    EXPECT_NE(Shown().first, before.first);
+    EXPECT_NE(Shown().second, before.second);
+    EXPECT_TRUE(ShowsTheSongAsItIs());
 }
 
 TEST_F(TrackCommandsTest, ACancelledTuneWindowRendersATuneThatIsNotRenderedAndMarksNothing)

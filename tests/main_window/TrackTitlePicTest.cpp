@@ -58,6 +58,23 @@ TEST_F(TrackTitlePicTest, FloatsTheAudioButtonOverARecording)
     EXPECT_TRUE(canvas->TrackAudioBtnVisible());
     EXPECT_EQ(canvas->HoverTrack(), 2);
     EXPECT_EQ(Part("TrackAudioBtn").geometry().topLeft(), QPoint(23, RowY(2) + 6));
+    for (const int x : {22, 56}) {
+        Hover(x, RowY(2) + 20);
+        EXPECT_THAT(Floating(), ElementsAre("TrackAudioBtn")) << x;
+    }
+    for (const int x : {21, 57}) {
+        Hover(x, RowY(2) + 20);
+        EXPECT_THAT(Floating(), IsEmpty()) << x;
+    }
+}
+
+TEST_F(TrackTitlePicTest, TheButtonOfOneKindOfTrackGoesWhereThatOfTheOtherComes)
+{
+    Hover(40, RowY(1) + 20);
+    Hover(22, RowY(2) + 20);
+    EXPECT_THAT(Floating(), ElementsAre("TrackAudioBtn"));
+    Hover(22, RowY(1) + 20);
+    EXPECT_THAT(Floating(), ElementsAre("TrackTuneBtn"));
 }
 
 TEST_F(TrackTitlePicTest, FloatsDeleteAndPlayInTheirRangesAlone)

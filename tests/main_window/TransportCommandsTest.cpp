@@ -510,6 +510,8 @@ TEST_F(TransportTest, PlaysTheAudioUnderThePointer)
     Tick("TrackTitlePlayTimer");
     EXPECT_EQ(FramesPlayed(), 44100);
     EXPECT_EQ(Status(), "Playing Audio/Recording");
+    EXPECT_EQ(play.PlayKind, PlayKind::Other);
+    EXPECT_FALSE(play.PlayLooping);
     EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 2000);
     sound.calls.clear();
     song.Tracks[3].TrackAudio = WaveData();

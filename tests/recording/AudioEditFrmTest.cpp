@@ -500,6 +500,7 @@ TEST_F(AudioEditFrmTest, LetsTheTimerTickWithoutAnEditor)
 
 TEST_F(AudioEditFrmTest, ShowsTheHintsOfItsControls)
 {
+    EXPECT_EQ(Part<QLabel>("CaptionLbl").text(), QStringLiteral(" Tonquill Sprout Painter - Edit Audio"));
     const std::vector<std::pair<const char*, const char*>> hints{
         {"DeleteBtn", "Select the unwanted audio and use this button to delete it."},
         {"TestPlayBtn", "Play button, click on it to play this audio"},
@@ -508,9 +509,16 @@ TEST_F(AudioEditFrmTest, ShowsTheHintsOfItsControls)
         {"ZoomInBtn", "Zoom In Button, click on it to zoom in the waveform display"},
         {"ZoomOutBtn", "Zoom Out Button, click on it to zoom out the waveform display"},
         {"WavePic", "Your recorded sound looks like this"},
+        {"HScroll", "Slide this to see the other parts of your sound"},
+        {"OkBtn", "Ok button, use it to keep the sound as it is now"},
+        {"CancelBtn", "Cancel button, use it to leave the sound as it was"},
+        {"HelpBtn", "Help button, use it to see help"},
+        {"SelectOkLbl", ""},
+        {"SelectedLbl", ""},
     };
     int at = 4;
     for (const auto& [name, hint] : hints) {
+        statusLbl.setText(QStringLiteral("before"));
         QTest::mouseMove(&Part(name), {at++, 10});
         EXPECT_EQ(statusLbl.text(), QString::fromLatin1(hint)) << name;
         EXPECT_EQ(Part(name).accessibleDescription(), QString::fromLatin1(hint)) << name;

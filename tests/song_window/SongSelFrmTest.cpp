@@ -678,8 +678,15 @@ TEST_F(SongSelFrmTest, ShowsTheHintsOfItsControls)
              {SongSelMode::New, "OkBtn", "Click Ok to create a new song with the name entered"},
              {save, "SongNameTxt", "Type your song name here"},
              {save, "SavWavBtn", "Select wav file name to save the song as audio (.wav) file"},
-             {save, "SavWmaBtn", "Select wma file name to save the song as audio (.wma) file"}}) {
+             {save, "SavWmaBtn", "Select wma file name to save the song as audio (.wma) file"},
+             {save, "CancelBtn", ""},
+             {save, "HelpBtn", ""},
+             {save, "ModePic", ""},
+             {save, "ListTitleLbl", ""},
+             {save, "TextTitleLbl", ""},
+             {save, "SongNmLbl", ""}}) {
         Open(row.mode);
+        statusLbl.setText(QStringLiteral("before"));
         QTest::mouseMove(&Part(row.control), QPoint(20, 12));
         EXPECT_EQ(statusLbl.text(), QString::fromLatin1(row.hint));
         EXPECT_EQ(Part(row.control).accessibleDescription(), QString::fromLatin1(row.hint));

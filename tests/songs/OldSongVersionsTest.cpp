@@ -115,6 +115,18 @@ TEST_F(OldSongVersionsTest, Version11KnowsOneAloneAsStored)
     EXPECT_EQ(song.Tracks[1].TrackTune.StepCount, 16);
 }
 
+TEST_F(OldSongVersionsTest, Version11TakesABeatFromItsFolderUnlessItsSecondFlagIs1)
+{
+    SaveWaveFile(WaveOf({40}), Shared().UserBeats / "Drum.wav");
+    HandArray array;
+    array.Add({1, 0, 320}).Text("s").Text("a").Add({0}).Add({1}).Text("Drum").Add({2}).Add({0});
+    const SongState& song = LoadArray(array, "1.1");
+    ASSERT_EQ(song.SongBeatCount, 1);
+    EXPECT_EQ(song.SongBeats[1].Sound, WaveOf({40}));
+    EXPECT_EQ(song.Tracks[1].TrackTune.Steps[1].BeatIndex, 1);
+    EXPECT_TRUE(Told().empty());
+}
+
 HandArray MakeArray10()
 {
     HandArray array;

@@ -190,6 +190,23 @@ TEST_F(PlayDllTest, ASampleBeyond8BitsEndsThePlayCallWithWords)
     EXPECT_EQ(sound.calls, Calls());
 }
 
+TEST_F(PlayDllTest, ARunTimeErrorLeavesThePlayBefore)
+{
+    Player().WriteWaveMemo(CountingWave(3), PlayNow::Yes, Loop::Yes);
+    sound.calls.clear();
+    WaveData headOnly = CountingWave(2);
+    headOnly.Length = 300;
+    for (const WaveData& failing : {MonoWave(8, 11025, {128}), headOnly}) {
+        EXPECT_EQ(Player().WriteWaveMemo(failing, PlayNow::Yes, Loop::No), PlayResult::Refused);
+        EXPECT_EQ(sound.calls, Calls());
+        EXPECT_EQ(play.PlayState, PlayState::PlayingLoop);
+        EXPECT_EQ(play.PlayBufBits, 16);
+        EXPECT_EQ(play.PlayBufChannels, 2);
+        EXPECT_EQ(play.PlayBufRate, 44100);
+        EXPECT_EQ(play.PlayBufLength, 3);
+    }
+}
+
 TEST_F(PlayDllTest, AWaveReadWithoutItsSamplesEndsThePlayCallWithWords)
 {
     WaveData headOnly = CountingWave(2);

@@ -99,6 +99,21 @@ TEST_F(PlayModTest, WhileTheTutorialPlaysTheMainWindowIsLeftAlone)
     EXPECT_EQ(display.timersEnabled, 0);
 }
 
+TEST_F(PlayModTest, NoOtherPlayHeedsTheTutorial)
+{
+    play.DemoPlaying = true;
+    PlayWaveKind(CountingWave(10), PlayKind::Recording, Loop::No);
+    EXPECT_EQ(display.status, "Playing Recorded");
+    EXPECT_EQ(display.timersEnabled, 1);
+    PlayWaveTrack(CountingWave(10), 4, 17, Loop::No);
+    EXPECT_EQ(display.status, "Playing Track 4");
+    EXPECT_EQ(display.timersEnabled, 2);
+    PlayWaveDelayed(CountingWave(10), 0, "Playing Tune", Loop::No);
+    EXPECT_EQ(display.status, "Playing Tune");
+    EXPECT_EQ(display.timersEnabled, 3);
+    EXPECT_EQ(display.tunesShown, 1);
+}
+
 TEST_F(PlayModTest, PlayWaveKindNamesARecording)
 {
     PlayWaveKind(CountingWave(10), PlayKind::Recording, Loop::No);
@@ -207,6 +222,16 @@ TEST_F(PlayModTest, ATuneWhoseWaveIsRefusedIsNotShown)
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
     EXPECT_EQ(display.tunesShown, 0);
     EXPECT_EQ(display.status, "Ready");
+}
+
+TEST_F(PlayModTest, ATuneWhoseWaveFailsOnTheWayIsNotShown)
+{
+    PlayWaveDelayed(MonoWave(8, 11025, {128}), 0, "Playing Tune", Loop::No);
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_EQ(display.tunesShown, 0);
+    EXPECT_EQ(display.status, "Ready");
+    EXPECT_EQ(display.timersEnabled, 0);
+    EXPECT_TRUE(services.messages.shown.empty());
 }
 
 TEST_F(PlayModTest, ThePlayerOutlivesASwitchOfTheDriver)

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <span>
 
@@ -121,23 +122,28 @@ public:
                       std::int32_t& size) const override
     {
         heard = samples.front();
+        offered = size;
         if (refusedSample != 0 && samples.front() == refusedSample)
             return false;
-        handle = std::make_unique<Block>();
+        if (givesHandle)
+            handle = std::make_unique<Block>();
         size = told < 0 ? size - told : told != 0 ? told : static_cast<std::int32_t>(samples.size()) + samples.front();
         return true;
     }
     bool Tq5Service02a(StretchHandle, std::int32_t& size, std::span<std::int16_t> samples) const override
     {
         std::fill(samples.begin(), samples.end(), given);
-        size = static_cast<std::int32_t>(samples.size());
+        size = copied(static_cast<std::int32_t>(samples.size()));
         return true;
     }
 
     std::int32_t told = 0; // 0: as many as came and the first one's value more; below 0: more than there is room
     std::int16_t given = 9;
     std::int16_t refusedSample = 0;
+    bool givesHandle = true;
+    std::function<std::int32_t(std::int32_t)> copied = [](std::int32_t room) { return room; };
     mutable std::int16_t heard = 0;
+    mutable std::int32_t offered = 0; // the room
 };
 
 TEST_F(StretchWaveTest, TheLongerChannelSetsTheLength)
@@ -168,11 +174,52 @@ TEST_F(StretchWaveTest, ARightChannelThatFailsIsSilentBesideTheLeftOne)
     EXPECT_EQ(ListOf(result.WavR), SampleList(522, 0));
 }
 
-TEST_F(StretchWaveTest, AServiceThatTellsMoreThanItsRoomFails)
+TEST_F(StretchWaveTest, OffersRoomForFourTimesTheSamplesAndTakesAllOfIt)
 {
     OddStretch odd;
-    odd.told = -1;
+    odd.told = 2048;
     TheServices().stretch = &odd;
+    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 2048);
+    EXPECT_EQ(odd.offered, 2048);
+    odd.told = 1;
+    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 1);
+}
+
+TEST_F(StretchWaveTest, AServiceThatTellsMoreThanItsRoomOrNothingFails)
+{
+    OddStretch odd;
+    TheServices().stretch = &odd;
+    odd.told = -1;
+    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
+    odd.told = 0; // as many as came, and the first one's value fewer
+    for (const std::int16_t fewer : {std::int16_t{-512}, std::int16_t{-513}}) {
+        const WaveData result = StretchWave(MonoWave(SampleList(512, fewer)), 1, 1);
+        EXPECT_EQ(result.Length, 0);
+        EXPECT_EQ(result.WavL.UpperBound(), 512) << "silent, as after any failure";
+    }
+}
+
+TEST_F(StretchWaveTest, AServiceThatSucceedsWithoutAHandleFails)
+{
+    OddStretch odd;
+    odd.givesHandle = false;
+    odd.told = 600;
+    TheServices().stretch = &odd;
+    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
+}
+
+TEST_F(StretchWaveTest, TheCountThatIsCopiedIsTheLength)
+{
+    OddStretch odd;
+    TheServices().stretch = &odd;
+    odd.told = 600;
+    odd.copied = [](std::int32_t room) { return room - 100; };
+    const WaveData result = StretchWave(MonoWave(SampleList(512, 3)), 1, 1);
+    EXPECT_EQ(result.Length, 500);
+    EXPECT_EQ(result.WavL.UpperBound(), 500);
+    odd.copied = [](std::int32_t room) { return room + 1; };
+    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
+    odd.copied = [](std::int32_t) { return -1; };
     EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
 }
 

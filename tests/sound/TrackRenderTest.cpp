@@ -112,6 +112,7 @@ TEST_F(RenderTuneTrackTest, AStepThatIsOffTakesItsCellInSilence)
     const std::int32_t track = AddNumberedTrack(3);
     At(TrackAt(track).TrackTune.Steps, 1).OnPos = 0;
     At(TrackAt(track).TrackTune.Steps, 3).OnPos = 2;
+    At(TrackAt(track).TrackTune.Steps, 3).StepWave = LevelWave(kBeatFrames, 9); // of the time when it was on
     Paint(track, 1, 6);
     RenderTuneTrack(track);
     EXPECT_EQ(LevelsAtCells(TrackAt(track).TrackRender, 6), (SampleList{0, 2, 0, 0, 2, 0}));
@@ -286,6 +287,7 @@ TEST_F(RenderAudioTrackTest, TheWaveRepeatsAlongARunAndEachRunBeginsItAnew)
     const WaveData audio = RampWave(2 * kCellFrames);
     const std::int32_t track = AddAudioTrack(audio);
     Paint(track, 3, 6);
+    Paint(track, 7, 8, 2);
     Paint(track, 9, 10);
     RenderAudioTrack(track);
     const WaveData& wave = TrackAt(track).TrackRender;
@@ -313,6 +315,30 @@ TEST_F(RenderAudioTrackTest, ARunThatEndsBeforeTheWaveCutsIt)
     EXPECT_EQ(CutWaveSlice(wave, 3 * kCellFrames + 1, 4 * kCellFrames), cell);
     EXPECT_EQ(wave.WavL[4 * kCellFrames + 1], 0);
     EXPECT_EQ(CutWaveSlice(wave, 5 * kCellFrames + 1, 6 * kCellFrames), cell) << "runs of one length share the cut";
+}
+
+TEST_F(RenderAudioTrackTest, EveryRunSoundsACutOfItsOwnLength)
+{
+    const WaveData audio = RampWave(4 * kCellFrames);
+    const std::int32_t track = AddAudioTrack(audio);
+    Paint(track, 1, 2);
+    Paint(track, 4, 6);
+    Paint(track, 8, 8);
+    Paint(track, 10, 12);
+    Paint(track, 14, 15);
+    RenderAudioTrack(track);
+    const WaveData& wave = TrackAt(track).TrackRender;
+    ASSERT_EQ(wave.Length, 15 * kCellFrames);
+    for (const auto& [cell, cells] :
+         {std::pair(1, 2), std::pair(4, 3), std::pair(8, 1), std::pair(10, 3), std::pair(14, 2)}) {
+        const std::int32_t begin = (cell - 1) * kCellFrames;
+        EXPECT_EQ(CutWaveSlice(wave, begin + 1, begin + cells * kCellFrames),
+                  CutWaveSlice(audio, 1, cells * kCellFrames))
+            << cell;
+        if (cell < 14) {
+            EXPECT_EQ(wave.WavL[begin + cells * kCellFrames + 1], 0) << cell;
+        }
+    }
 }
 
 TEST_F(RenderAudioTrackTest, ARunThatReachesTheEndOfTheSongUnfinishedIsSilent)

@@ -122,6 +122,14 @@ TEST_F(RenderStepTest, AShortBeatCountsItsLengthAfterTheConversion)
     EXPECT_EQ(RenderStep(StepOf(AddBeat(RampWave(511)))).Length, 0);
 }
 
+TEST_F(RenderStepTest, ABeatThatDiffersInBitsOrRateAloneIsConverted)
+{
+    const WaveData eightBits = MonoWave(SampleList(600, 3), 44100, 8);
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(eightBits))), MonoWave(SampleList(600, 768)));
+    const WaveData halfRate = MonoWave(SampleList(600, 3), 22050, 16);
+    EXPECT_EQ(RenderStep(StepOf(AddBeat(halfRate))), MonoWave(SampleList(1200, 3)));
+}
+
 TEST_F(RenderStepTest, LoadsABeatOfTheSongOnFirstUse)
 {
     SaveBeat("Drum", LevelWave(700, 9));
@@ -237,6 +245,35 @@ TEST_F(TuneRenderTest, EqualStepsOfACycleShareOneRenderingAndAllBecomeValid)
     EXPECT_TRUE(tune.Steps[4].StepWave.WavL.SharesBlockWith(tune.Steps[1].StepWave.WavL));
 }
 
+TEST_F(TuneRenderTest, AStepOfAnotherPitchOrDurationHasASoundOfItsOwn)
+{
+    const std::int32_t beat = AddBeat(LevelWave(600, 100));
+    Tune tune = MakeTune(4);
+    for (std::int32_t number = 1; number <= 4; ++number)
+        SetStep(tune, number, beat).StepBeat.Name = "Drum";
+    At(tune.Steps, 2).PitchShift = 12;
+    At(tune.Steps, 3).PitchShift = -12;
+    At(tune.Steps, 4).Duration = 200;
+    for (std::int32_t number = 1; number <= 4; ++number) {
+        At(tune.Steps, number).StepBeat.Sound = LevelWave(600, 200);
+        At(tune.Steps, number).StepBeat.Loaded = true;
+    }
+    const RenderThreads one(1);
+    Tune edited = tune;
+    RenderStarCycle(tune);
+    RenderTuneCycle(edited);
+    const auto calls = services.stretch.Calls();
+    ASSERT_EQ(calls.size(), 8u);
+    for (const std::size_t first : {0u, 4u}) {
+        EXPECT_EQ(calls[first].pitchFactor, 1.0f);
+        EXPECT_EQ(calls[first + 1].pitchFactor, 2.0f);
+        EXPECT_EQ(calls[first + 2].pitchFactor, 0.5f);
+        EXPECT_EQ(calls[first + 3].durationFactor, 2.0f);
+    }
+    EXPECT_EQ(At(tune.Steps, 4).StepWave, LevelWave(1200, 100));
+    EXPECT_EQ(At(edited.Steps, 4).StepWave, LevelWave(1200, 200));
+}
+
 TEST_F(TuneRenderTest, AValidStepKeepsItsWaveAndLendsItToEqualOnes)
 {
     Tune tune = MakeTune(3);
@@ -269,10 +306,12 @@ TEST_F(TuneRenderTest, OnlyTheValue1IsOn)
 {
     Tune tune = MakeTune(1);
     SetStep(tune, 1, 0).OnPos = 2;
+    At(tune.Steps, 1).StepWave = LevelWave(2, 77); // of the time when it was on
     RenderStarCycle(tune);
     EXPECT_EQ(Calls(), 0u);
     EXPECT_FALSE(tune.Steps[1].StepWaveValid);
     EXPECT_EQ(tune.TuneWave.Length, kCellFrames + 1);
+    EXPECT_EQ(tune.TuneWave.WavL[1], 0);
 }
 
 TEST_F(TuneRenderTest, OnlyOnStepsLend)

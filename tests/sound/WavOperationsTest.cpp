@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
+#include <utility>
 
 #include "core/Errors.h"
+#include "sound/Waves.h"
 #include "support/FakeServices.h"
 #include "support/ScratchDevice.h"
 #include "support/SmallDisk.h"
@@ -165,11 +168,14 @@ TEST_F(WavFile, RefusesUnknownChannelsRatesAndBits)
     ExpectRefused(Wav({1, 44100, 24}, "abcdef"), error, "Bits per sample not supported");
 }
 
-TEST_F(WavFile, LooksAtTheLowByteOfTheChannelsOnly)
+TEST_F(WavFile, LooksAtTheLowBytesOfChannelsAndBitsOnly)
 {
     std::string bytes = Wav({2, 44100, 8}, "\x81\x82");
     bytes[23] = 7;
+    bytes[35] = 1;
     EXPECT_EQ(Load(bytes).Channels, 2);
+    EXPECT_EQ(Load(bytes).Bits, 8);
+    EXPECT_TRUE(fake.messages.shown.empty());
 }
 
 TEST_F(WavFile, ChecksNeitherTheMarksNorTheTag)
@@ -222,6 +228,29 @@ TEST_F(WavFile, RefusesAPromiseBeyondTheLimit)
         ASSERT_EQ(fake.messages.shown.size(), 1U) << promised;
         EXPECT_EQ(fake.messages.shown[0].title, "Wave file load error");
     }
+}
+
+TEST_F(WavFile, CountsItsLimitInFrames)
+{
+    const Format stereo{2, 44100, 16};
+    constexpr std::uint32_t most = 5'292'000;
+    EXPECT_EQ(Load(Head(stereo, 0) + "data" + Little(4 * most, 4) + "\x81").Length, 5'292'000);
+    EXPECT_TRUE(fake.messages.shown.empty());
+    ExpectRefused(Head(stereo, 0) + "data" + Little(4 * most + 4, 4) + "\x81", "Wave file load error",
+                  "The file promises more sound than it holds.");
+}
+
+TEST_F(WavFile, ReadsMoreThanItsLimitWhereTheFileHoldsIt)
+{
+    std::string samples(static_cast<std::size_t>(kMostPromisedFrames) + 1, '\x81');
+    samples.back() = '\x85';
+    const WaveData wave = Load(Wav({1, 44100, 8}, samples));
+    EXPECT_TRUE(fake.messages.shown.empty());
+    ASSERT_EQ(wave.Length, kMostPromisedFrames + 1);
+    EXPECT_EQ(wave.WavL[wave.Length], 5);
+    samples.pop_back();
+    EXPECT_EQ(Load(Head({1, 44100, 8}, 0) + "data" + Little(kMostPromisedFrames + 1, 4) + samples), EmptyWave())
+        << "one byte short";
 }
 
 TEST_F(WavFile, ReadsTheHeadAlone)
@@ -407,30 +436,54 @@ TEST(CutWaveSlice, ThrowsForFramesOutside)
     EXPECT_THROW(static_cast<void>(CutWaveSlice(wave, -2147483647, 2147483647)), RunTimeError);
 }
 
-TEST_F(WavFile, TheTestToneGlidesAndFades)
+/// The test tone's formula, frame by frame.
+SampleList ToneByTheBook(std::int32_t frames, double rate, double amplitude)
+{
+    const double turn = 6.28318530717958;
+    double step = turn / (rate / 650);
+    const double growth = std::pow((turn / (rate / 700)) / step, 1.0 / frames);
+    SampleList samples;
+    double phase = 0;
+    for (std::int32_t i = 1; i <= frames; ++i) {
+        const double left = static_cast<double>(frames - i) / frames;
+        samples.push_back(static_cast<std::int16_t>(std::nearbyint(std::sin(phase) * amplitude * left)));
+        step *= growth;
+        phase += step;
+        if (phase > turn)
+            phase -= turn;
+    }
+    return samples;
+}
+
+TEST_F(WavFile, TheTestToneIsItsFormulaSampleBySample)
 {
     const WaveData tone = MakeTestTone();
-    ASSERT_EQ(tone.Length, 8820);
+    EXPECT_EQ(tone.Length, 8820);
+    EXPECT_EQ(ListOf(tone.WavL), ToneByTheBook(8820, 44100, 22937));
     EXPECT_EQ(tone.WavL[1], 0);
     EXPECT_EQ(tone.WavL[2], 2121); // sin(2 pi 650 / 44100) of the amplitude, two frames of 8820 faded
-    EXPECT_EQ(tone.WavL[8820], 0);
     EXPECT_TRUE(tone.WavR == tone.WavL);
-    std::int32_t crossings = 0;
-    for (std::int32_t i = 2; i < tone.Length; ++i)
-        crossings += tone.WavL[i] < 0 && tone.WavL[i + 1] >= 0;
-    EXPECT_NEAR(crossings, 675 * 0.2, 1);
+    EXPECT_EQ(tone.Channels, 2);
 }
 
 TEST_F(WavFile, TheTestToneFollowsTheSharedFormat)
 {
+    Shared().SampleRate = 22050;
     Shared().BitsPerSample = 8;
     Shared().Channels = 1;
     const WaveData tone = MakeTestTone();
-    std::int16_t most = 0;
-    for (const std::int16_t sample : tone.WavL.Samples())
-        most = std::max(most, sample);
-    EXPECT_EQ(most, 89);
+    EXPECT_EQ(ListOf(tone.WavL), ToneByTheBook(4410, 22050, 89));
     EXPECT_EQ(tone.WavR.UpperBound(), 0);
+    EXPECT_EQ(tone.Rate, 22050);
+    EXPECT_EQ(tone.Bits, 8);
+}
+
+TEST_F(WavFile, TheTestTonesLengthIsRounded)
+{
+    for (const auto& [rate, frames] : {std::pair(44112, 8822), std::pair(44113, 8823)}) {
+        Shared().SampleRate = rate;
+        EXPECT_EQ(MakeTestTone().Length, frames) << rate;
+    }
 }
 
 TEST_F(WavFile, TellsAToneThatCannotBeMade)

@@ -127,6 +127,15 @@ TEST(ConvertWaveFormat, HalvesByDroppingEverySecondSample)
     EXPECT_EQ(ConvertWaveFormat(MonoWave({9}), 11025, 16).Length, 0);
 }
 
+TEST(ConvertWaveFormat, ConvertsBitsBeforeTheRate)
+{
+    const WaveData up = ConvertWaveFormat(MonoWave({1, 2, 1}, 22050, 8), 0, 0);
+    EXPECT_EQ(up.WavL[3], 403); // 384 + 0.075 x (256 - 0), which 8 bits would have rounded to a multiple of 256
+    // 127.6 becomes 128, which nothing clips; what lies between two of them is clipped.
+    const WaveData down = ConvertWaveFormat(MonoWave({32666, 32666, 32666}, 22050), 44100, 8);
+    EXPECT_EQ(ListOf(down.WavL), (SampleList{127, 128, 127, 128, 127, 128}));
+}
+
 TEST(ConvertWaveFormat, DoublesAlongTheCurve)
 {
     const WaveData twice = ConvertWaveFormat(MonoWave({1000, 2000, -500, 0}, 22050), 0, 0);

@@ -27,6 +27,7 @@ TEST_F(TuneNameFrmTest, StartsWithTheGivenNames)
 {
     EXPECT_EQ(form.Names(), (TuneNames{"Rain", "Ann"}));
     EXPECT_FALSE(form.NameOk);
+    EXPECT_EQ(form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(), QStringLiteral(" Save Tune"));
 }
 
 TEST_F(TuneNameFrmTest, PutsAnUnderscoreInPlaceOfWhatNoFileNameMayHold)

@@ -173,6 +173,31 @@ TEST_F(BeatFilesTest, ReloadsASoundThatChanged)
     EXPECT_TRUE(beat.Loaded);
 }
 
+TEST_F(BeatFilesTest, ReloadTakesStampAndPictureAnewCutsAtFiveSecondsAndKeepsTheNamesLetters)
+{
+    WaveData wave = WaveOf(std::vector<std::int16_t>(5 * 11025 + 1, 1));
+    wave.Rate = 11025;
+    MakeBeat("Old", wave, 8);
+    Beat beat = OldBeat();
+    beat.Name = "oLD";
+    ReloadBeat(beat);
+    EXPECT_EQ(beat.Name, "oLD");
+    EXPECT_EQ(beat.DateStamp, FileStamp(Shared().UserBeats / "Old.wav"));
+    EXPECT_EQ(beat.Sound.Length, 5 * 11025);
+    EXPECT_EQ(beat.Picture.Pixel(0, 0), 8U);
+}
+
+TEST_F(BeatFilesTest, ReloadLeavesABeatAsItWasWhereTheWaveHoldsNoSamples)
+{
+    WriteBytes(Shared().UserBeats / "Old.wav", "no wave at all");
+    Beat beat = OldBeat();
+    beat.Loaded = false;
+    ReloadBeat(beat);
+    EXPECT_EQ(beat.DateStamp, "stamp");
+    EXPECT_EQ(beat.Sound, WaveOf({1, 2, 3}));
+    EXPECT_FALSE(beat.Loaded);
+}
+
 TEST_F(BeatFilesTest, ReloadKeepsTheNameOfAMissingBeatAndCountsItAsLoaded)
 {
     WriteBytes(Shared().UserBeats / "Old.bmp", "12345");
@@ -274,6 +299,28 @@ TEST_F(SharedBeatsTest, ExpandGivesOnStepsTheirBeatAndOthersAnEmptyOne)
     }
 }
 
+TEST_F(SharedBeatsTest, StepsOfAnyValueBut1NeitherGetNorGiveABeat)
+{
+    tune.Steps[1].OnPos = 2;
+    ExpandTuneBeats(song, tune);
+    EXPECT_EQ(tune.Steps[1].StepBeat.Name, "");
+    tune.Steps[1].StepBeat.Name = "mine";
+    MergeTuneBeats(song, tune);
+    EXPECT_EQ(song.SongBeatCount, 2);
+    EXPECT_EQ(tune.Steps[1].StepBeat.Name, "mine");
+}
+
+TEST_F(SharedBeatsTest, ExpandGivesNoBeatForANumberBeyondTheList)
+{
+    song.SongBeats[0].Name = "no beat at all";
+    for (const std::int32_t index : {0, -1, 3, 2147483647, -2147483647 - 1}) {
+        tune.Steps[1].BeatIndex = index;
+        ExpandTuneBeats(song, tune);
+        EXPECT_EQ(tune.Steps[1].StepBeat.Name, "") << index;
+        EXPECT_TRUE(SamePicture(tune.Steps[1].StepBeat.Picture, Shared().DefaultTunePicture));
+    }
+}
+
 TEST_F(SharedBeatsTest, ExpandAndMergeLeaveEveryOnStepWithItsBeat)
 {
     ExpandTuneBeats(song, tune);
@@ -308,6 +355,39 @@ TEST_F(SharedBeatsTest, MergeAddsANewBeatOnceAndTellsStampsApart)
     EXPECT_EQ(song.SongBeatCount, 3);
     ASSERT_EQ(song.SongBeats.size(), 4U);
     EXPECT_EQ(song.SongBeats[3].DateStamp, "other stamp");
+}
+
+TEST_F(SharedBeatsTest, TheFirstOfSeveralEqualBeatsIsFound)
+{
+    MakeBeat("A", WaveOf({9}));
+    const std::string stamp = FileStamp(Shared().UserBeats / "A.wav");
+    song.SongBeats[1].DateStamp = stamp;
+    song.SongBeats[2] = {"a", stamp, WaveOf({2}), Shared().BlankPic, true};
+    std::int32_t index = 0;
+    FindOrLoadBeat(song, "A", index);
+    EXPECT_EQ(index, 1);
+    tune.Steps[3].StepBeat = song.SongBeats[2];
+    MergeTuneBeats(song, tune);
+    EXPECT_EQ(tune.Steps[3].BeatIndex, 1);
+}
+
+TEST_F(SharedBeatsTest, MergeHandsAWholeBeatToTheSongAndLeavesAnEmptyOne)
+{
+    const Beat added{"New", "its stamp", WaveOf({7, 8}), Shared().BlankStarPic, true};
+    tune.Steps[1].StepBeat = added;
+    MergeTuneBeats(song, tune);
+    EXPECT_EQ(tune.Steps[1].BeatIndex, 3);
+    ASSERT_EQ(song.SongBeats.size(), 4U);
+    EXPECT_EQ(song.SongBeats[3].Name, "New");
+    EXPECT_EQ(song.SongBeats[3].DateStamp, "its stamp");
+    EXPECT_EQ(song.SongBeats[3].Sound, WaveOf({7, 8}));
+    EXPECT_TRUE(SamePicture(song.SongBeats[3].Picture, Shared().BlankStarPic));
+    EXPECT_TRUE(song.SongBeats[3].Loaded);
+    const Beat& left = tune.Steps[1].StepBeat;
+    EXPECT_EQ(left.Name + left.DateStamp, "");
+    EXPECT_EQ(left.Sound.Length, 0);
+    EXPECT_TRUE(SamePicture(left.Picture, Shared().DefaultTunePicture));
+    EXPECT_FALSE(left.Loaded);
 }
 
 TEST_F(BeatFilesTest, ReaderReadsEachPairOnceAndSharesItsSamples)

@@ -170,6 +170,20 @@ TEST_F(OldTuneFilesTest, ReadsAStar)
     EXPECT_EQ(star.Steps[2].StepBeat.Name, ""); // a star brings no beats
 }
 
+TEST_F(OldTuneFilesTest, AStarBringsItsOwnAuthorAndNoSoundOfTheTuneBefore)
+{
+    WriteBytes(Shared().UserStars / "Star.TqSta", "[General]\r\nCreatedBy=Ann\r\n");
+    Tune star;
+    star.Name = "Star";
+    star.CreatedBy = "before";
+    star.TuneWave = WaveOf({1});
+    star.TuneWaveValid = true;
+    LoadStarFile(star);
+    EXPECT_EQ(star.CreatedBy, "Ann");
+    EXPECT_EQ(star.TuneWave, WaveData());
+    EXPECT_FALSE(star.TuneWaveValid);
+}
+
 TEST_F(OldTuneFilesTest, AMissingStarBecomesSixteenSilentStepsWithoutLength)
 {
     for (const std::string_view name :

@@ -148,6 +148,23 @@ TEST_F(TunOpnSavClassTest, ATuneWithNoStepOnHasItsSoundBehindItsSteps)
     EXPECT_EQ(ArrayOf(SaveBytes(tune)), array.Elements());
 }
 
+TEST_F(TunOpnSavClassTest, AStepOfAnyValueBut1BringsNoBeat)
+{
+    Tune tune = MakeTune();
+    tune.Steps[1].OnPos = 2;
+    tune.Steps[1].StepBeat = MakeBeat("Ghost", 4);
+    Elements expected = MakeArray().Elements();
+    expected[1 + 4 + 4 + 1024 + 1] = 2; // behind name, author, picture and step count
+    EXPECT_EQ(ArrayOf(SaveBytes(tune)), expected);
+    TunOpnSavClass().Load_Tune(Path());
+    const TuneStep& step = Shared().TuneClipboard.Steps[1];
+    EXPECT_EQ(step.OnPos, 2);
+    EXPECT_EQ(step.StepBeat.Name, "");
+    EXPECT_TRUE(SamePicture(step.StepBeat.Picture, Shared().DefaultTunePicture));
+    EXPECT_TRUE(Shared().TuneClipboard.TuneWaveValid);
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
 TEST_F(TunOpnSavClassTest, NamesInAnyAlphabetComeBack)
 {
     Tune tune = MakeTune();
@@ -353,6 +370,19 @@ TEST_F(TunOpnSavClassTest, ABeatThatIsNowhereLeavesItsStepsOnAndEmpty)
         EXPECT_EQ(tune.Steps[step].StepBeat.Name, "");
         EXPECT_FALSE(tune.Steps[step].StepBeat.Loaded);
     }
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
+TEST_F(TunOpnSavClassTest, OnlyAFlagOf1MeansThatABeatOrTheSoundIsStored)
+{
+    SaveWaveFile(WaveOf({50}), Shared().UserBeats / "Drum.wav");
+    HandArray array;
+    array.Text("Rain").Text("Ann").Picture(0x20).Add({1}).Add({1, 0, 100, 100}).Text("Drum");
+    array.Add({2}).Add({2}).Add({5, 16, 1, 44100, 1, 7});
+    const Tune& tune = LoadBytes(FileOf("TqTun", "2", array.Elements()));
+    EXPECT_EQ(tune.Steps[1].StepBeat.Sound, WaveOf({50}));
+    EXPECT_FALSE(tune.TuneWaveValid);
+    EXPECT_EQ(tune.TuneWave.Length, 0);
     EXPECT_TRUE(services.messages.shown.empty());
 }
 

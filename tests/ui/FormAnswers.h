@@ -36,7 +36,7 @@ public:
     }
 
     std::vector<std::string> seen;
-    QString caption; ///< of the last form
+    QString caption; ///< of the last form, as it stands in its band
     QString typed;   ///< into a box, before its button is clicked
 
 private:
@@ -52,7 +52,7 @@ private:
             if (const auto* label = form.findChild<QLabel*>(QString::fromLatin1(name)))
                 lines += label->text().toStdString() + "|";
         seen.push_back(lines + hint);
-        caption = form.windowTitle();
+        caption = form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text();
         if (auto* box = form.findChild<QLineEdit*>(QStringLiteral("InputTxt")))
             box->setText(typed);
         const std::string button = seen.size() <= buttons.size() ? buttons[seen.size() - 1] : "OkBtn";

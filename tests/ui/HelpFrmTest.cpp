@@ -58,6 +58,7 @@ protected:
 TEST_F(HelpFrmTest, OpensAtItsFirstPage)
 {
     HelpFrm& help = Open();
+    EXPECT_EQ(help.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(), QStringLiteral(" Help"));
     EXPECT_EQ(Shown(help), QStringLiteral("Welcome"));
     EXPECT_EQ(Marked(help), QStringLiteral("Welcome"));
     EXPECT_FALSE(help.isModal());

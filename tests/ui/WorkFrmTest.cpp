@@ -26,6 +26,8 @@ TEST(WorkFrm, ShowsWhatIsDoneAndHowFarItIs)
     form.Appear();
     auto* label = form.findChild<QLabel*>(QStringLiteral("WorkLbl"));
     auto* bar = form.findChild<QProgressBar*>(QStringLiteral("WorkBar"));
+    EXPECT_EQ(form.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(),
+              QStringLiteral(" Tonquill Sprout Painter"));
     EXPECT_EQ(label->text(), QStringLiteral("Mixing your song"));
     EXPECT_EQ(bar->value(), 0);
     form.ShowShare(1, 4);

@@ -4,7 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
+#include "core/Errors.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
@@ -259,6 +262,34 @@ TEST_F(StartUp, GoesOnWhereNoFolderCanBeMade)
     EXPECT_EQ(Shared().Song.TrackCount, 2);
 }
 
+class MachineWithoutFacts : public FakeMachine {
+public:
+    [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override { throw RunTimeError("There are no facts."); }
+};
+
+class LockedFolders : public FakePrivateFolders {
+public:
+    void DeleteLeftFolders(const fs::path& /*parent*/) override { throw RunTimeError("They are locked."); }
+};
+
+TEST_F(StartUp, GoesOnBehindAStepThatThrows)
+{
+    MachineWithoutFacts machine;
+    machine.executable = fake.machine.executable;
+    machine.temp = fake.machine.temp;
+    LockedFolders folders;
+    TheServices().machine = &machine;
+    TheServices().privateFolders = &folders;
+    RunStartUp();
+    EXPECT_FALSE(fs::exists(Program() / "sprout-painter.ini"));
+    EXPECT_EQ(Shared().InstallRoot, AsFolder(Installed()));
+    EXPECT_EQ(Shared().Song.TrackCount, 2);
+    EXPECT_EQ(ReadBytes(User() / "Songs" / "Zumi.TqSng"), "zumi");
+    EXPECT_EQ(fake.capture.cleaned, (std::vector<fs::path>{fake.machine.temp}))
+        << "the step behind the last that threw";
+    EXPECT_TRUE(fake.messages.shown.empty());
+}
+
 TEST_F(StartUp, MakesTheToneTheSongAndTheColours)
 {
     WriteBytes(Program() / "sprout-painter.ini", "[Color]\r\nCenterLineColor=255\r\n");
@@ -320,6 +351,31 @@ TEST_F(StartUp, ReadsTheOptionsInTheirOppositeSenses)
         EXPECT_TRUE(Shared().SongBeatsInside) << other;
         EXPECT_FALSE(Shared().AllowEditOriginal) << other;
     }
+}
+
+/// Fails the first time that it is asked.
+class FilesThatFailOnce : public PosixFiles {
+public:
+    [[nodiscard]] std::optional<FileFacts> FactsOf(const fs::path& file) const override
+    {
+        if (!std::exchange(failed, true))
+            throw RunTimeError("The disk is busy.");
+        return PosixFiles::FactsOf(file);
+    }
+
+private:
+    mutable bool failed = false;
+};
+
+TEST_F(StartUp, AnOptionThatCannotBeReadKeepsNoOtherFromBeingRead)
+{
+    RunStartUp();
+    PutSetting("", "AllowEditOriginal", "1");
+    FilesThatFailOnce files;
+    TheServices().files = &files;
+    ReadOptionFlags();
+    EXPECT_TRUE(Shared().SongBeatsInside);
+    EXPECT_TRUE(Shared().AllowEditOriginal);
 }
 
 } // namespace

@@ -41,9 +41,13 @@ TEST(BevelTunePicture, ShadesCrossingsByEachLineInOrder)
     EXPECT_EQ(bevelled.Pixel(30, 30), 49u);                 // 100 x 0.7 x 0.7
     EXPECT_EQ(bevelled.Pixel(31, 31), 16u);                 // 100 x 0.4 x 0.4
     EXPECT_EQ(bevelled.Pixel(30, 31), 40u);                 // column 30 ends at row 30
+    EXPECT_EQ(bevelled.Pixel(31, 30), 40u);                 // row 30 ends at column 30
     EXPECT_EQ(bevelled.Pixel(1, 1) & 0xFF, 230u);           // 255 - 155 x 0.4 = 193, 255 - 62 x 0.4 = 230.2
     EXPECT_EQ(bevelled.Pixel(0, 0) & 0xFF, 156u);           // 131, then 255 - 124 x 0.8 = 155.8
     EXPECT_EQ(bevelled.Pixel(1, 30) & 0xFF, 181u);          // 70, then 255 - 185 x 0.4
+    EXPECT_EQ(bevelled.Pixel(30, 1) & 0xFF, 181u);          // the same across
+    EXPECT_EQ(bevelled.Pixel(1, 0), 0x333383u);             // column 1 begins at row 1
+    EXPECT_EQ(bevelled.Pixel(0, 1), 0x333383u);             // row 1 begins at column 1
     EXPECT_EQ(bevelled.Pixel(0, 31) & 0xFF, 131u);          // row 31 begins at column 1
     EXPECT_EQ(bevelled.Pixel(1, 31), 40u);                  // column 1 ends at row 30
     EXPECT_EQ(bevelled.Pixel(31, 0) & 0xFF, 131u);          // column 31 begins at row 1

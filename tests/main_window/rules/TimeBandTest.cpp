@@ -80,6 +80,19 @@ TEST(SecondsLabels, RunTo480AtHalfTheTempo)
     EXPECT_EQ(SecondsLabels(song, view).back().seconds, 480);
 }
 
+TEST(SecondsLabels, GoFiveSecondsBeyondTheWholeLengthWhereTheBandHasRoom)
+{
+    SongState song = EmptySong(1);
+    const TrackView wide{1, 1, 5000, 300, 300};
+    for (const auto& [tempo, last] : {std::pair(320, 245), std::pair(160, 485), std::pair(321, 240), // 239.25 s
+                                      std::pair(327, 240)}) {                                        // 234.86 s
+        song.Tempo = tempo;
+        const auto labels = SecondsLabels(song, wide);
+        EXPECT_EQ(labels.back().seconds, last) << tempo;
+        EXPECT_EQ(labels.size(), static_cast<std::size_t>(last / 5 + 1)) << tempo;
+    }
+}
+
 TEST(SecondsLabels, BeginAtTheViewInASongOfAnyLength)
 {
     SongState song = EmptySong(0);

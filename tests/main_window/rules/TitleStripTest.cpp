@@ -31,8 +31,13 @@ TEST(HoverTitleStrip, FloatsTheTuneButtonFrom22To56)
 
 TEST(HoverTitleStrip, FloatsTheAudioButtonInItsPlaceOnAudioTracks)
 {
-    EXPECT_TRUE(HoverAt(30, 70, true).TrackAudioBtn);
-    EXPECT_FALSE(HoverAt(30, 70, true).TrackTuneBtn);
+    for (const std::int32_t x : {22, 56}) {
+        EXPECT_TRUE(HoverAt(x, 70, true).TrackAudioBtn);
+        EXPECT_FALSE(HoverAt(x, 70, true).TrackTuneBtn);
+        EXPECT_FALSE(HoverAt(x, 70).TrackAudioBtn);
+    }
+    EXPECT_FALSE(HoverAt(21, 70, true).OverlayShown());
+    EXPECT_FALSE(HoverAt(57, 70, true).OverlayShown());
 }
 
 TEST(HoverTitleStrip, FloatsTheDeleteButtonOnItsPictureAlone)

@@ -51,6 +51,19 @@ TEST(CheckSong, CountsAnAudioTrackAsContent)
     EXPECT_TRUE(CheckSong(song).goesOn);
 }
 
+TEST(CheckSong, TakesContentAndPaintOfAnyTrack)
+{
+    for (std::int32_t withTune = 1; withTune <= 3; ++withTune)
+        for (std::int32_t withPaint = 1; withPaint <= 3; ++withPaint) {
+            SongState song = SongOf(3, MusicTrack("", 0));
+            At(song.Tracks, withTune).TrackTune.Name = "Rain";
+            EXPECT_EQ(CheckSong(song).message.line1, "Please paint on the track.") << withTune;
+            At(At(song.Tracks, withPaint).Painted, 9) = 1;
+            EXPECT_EQ(CheckSong(song).message, kNoMessage) << withTune << ' ' << withPaint;
+            EXPECT_TRUE(CheckSong(song).goesOn);
+        }
+}
+
 TEST(CheckSongFromCell, ChecksFewerThanFiveTracksAlone)
 {
     EXPECT_FALSE(CheckSongFromCell(SongOf(4, MusicTrack("Rain", 1))).goesOn);
@@ -61,10 +74,11 @@ TEST(CheckSongFromCell, ChecksFewerThanFiveTracksAlone)
 TEST(CheckTrack, AsksForAStepThenForPaint)
 {
     Track track = MusicTrack("Rain", 0);
-    EXPECT_EQ(CheckTrack(track, kSongCells).message,
-              (TwoLines{"Please select a tune or edit it.", "Use the first button on the left."}));
-    track.TrackTune.Steps[2].OnPos = 2; // only 1 is on
-    EXPECT_FALSE(CheckTrack(track, kSongCells).goesOn);
+    for (const std::int32_t off : {0, 2}) {
+        track.TrackTune.Steps[2].OnPos = off;
+        EXPECT_EQ(CheckTrack(track, kSongCells).message,
+                  (TwoLines{"Please select a tune or edit it.", "Use the first button on the left."}));
+    }
     track.TrackTune.Steps[2].OnPos = 1;
     EXPECT_EQ(CheckTrack(track, kSongCells).message,
               (TwoLines{"This track is not painted.", "Use the Brush button and paint on the track."}));
@@ -91,6 +105,7 @@ TEST(CheckTrackFromCell, GoesOnWherePaintLiesToTheRight)
 TEST(CheckTrackFromCell, TellsAClickBehindAllPaintFromATrackWithoutAny)
 {
     Track track = MusicTrack("Rain", 1);
+    At(track.Painted, 60) = 2; // erased is not painted
     EXPECT_EQ(CheckTrackFromCell(track, kSongCells, 51).message,
               (TwoLines{"Please paint on the track, after that you can play it.",
                         "Use the paint button and draw on the track."}));

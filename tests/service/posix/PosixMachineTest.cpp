@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <string>
 
 namespace sprout {
@@ -17,6 +19,25 @@ TEST(PosixMachine, KnowsItsMemory)
     EXPECT_LE(memory.AvailableBytes, memory.TotalBytes);
     EXPECT_GE(memory.LoadPercent, 0);
     EXPECT_LE(memory.LoadPercent, 100);
+}
+
+/// A line of the system's facts about its memory, in bytes.
+std::uint64_t BytesTold(const std::string& name)
+{
+    std::ifstream facts("/proc/meminfo");
+    std::string line;
+    while (std::getline(facts, line))
+        if (line.starts_with(name + ":"))
+            return std::stoull(line.substr(name.size() + 1)) * 1024;
+    return 0;
+}
+
+TEST(PosixMachine, TellsBytesAndTheLoadInPercentOfThem)
+{
+    const MemoryStatus memory = PosixMachine().GlobalMemoryStatus();
+    EXPECT_EQ(memory.TotalBytes, BytesTold("MemTotal"));
+    EXPECT_EQ(memory.AvailableBytes % 1024, 0U);
+    EXPECT_EQ(memory.LoadPercent, 100 - static_cast<int>(memory.AvailableBytes * 100 / memory.TotalBytes));
 }
 
 TEST(PosixMachine, NamesTheTempFolderOfTheEnvironment)
@@ -35,12 +56,15 @@ TEST(PosixMachine, NamesTheTempFolderOfTheEnvironment)
 
 TEST(PosixMachine, FindsTheRunningProgram)
 {
-    EXPECT_TRUE(std::filesystem::is_regular_file(PosixMachine().ExecutablePath()));
+    const std::filesystem::path program = PosixMachine().ExecutablePath();
+    EXPECT_TRUE(std::filesystem::is_regular_file(program));
+    EXPECT_EQ(program.filename(), "sprout_service_tests");
 }
 
 TEST(PosixMachine, AsksForTheRoomOnAVolume)
 {
     EXPECT_GT(PosixMachine().FreeBytes("/tmp"), 0U);
+    EXPECT_LT(PosixMachine().FreeBytes("/"), std::filesystem::space("/").capacity);
     EXPECT_EQ(PosixMachine().FreeBytes("/no/such/folder"), 0U);
 }
 

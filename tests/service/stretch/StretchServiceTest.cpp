@@ -90,6 +90,39 @@ TEST(StretchService, FailsWhereTheRoomIsTooSmall)
     EXPECT_EQ(size, 2000);
     Samples buffer(1999);
     EXPECT_FALSE(service->Tq5Service02a(std::move(handle), size, buffer));
+    EXPECT_EQ(size, 0);
+}
+
+TEST(StretchService, HeedsTheRoomThatIsToldAndThatOfTheBuffer)
+{
+    const auto service = MakeStretch();
+    const Samples sound(1000, 5);
+    StretchHandle handle;
+    Samples buffer(2000);
+    std::int32_t size = 2000;
+    ASSERT_TRUE(service->Tq5Service02(handle, 1, 2, 44100, sound, size));
+    size = 1999;
+    EXPECT_FALSE(service->Tq5Service02a(std::move(handle), size, buffer));
+    EXPECT_EQ(size, 0);
+    size = 4000;
+    ASSERT_TRUE(service->Tq5Service02(handle, 1, 2, 44100, sound, size));
+    EXPECT_EQ(size, 2000);
+    size = 4000;
+    EXPECT_TRUE(service->Tq5Service02a(std::move(handle), size, buffer));
+    EXPECT_EQ(size, 2000);
+}
+
+TEST(StretchService, AFailureEmptiesTheHandleAndTheSize)
+{
+    const auto service = MakeStretch();
+    const Samples sound(1000, 5);
+    StretchHandle handle;
+    std::int32_t size = 4000;
+    ASSERT_TRUE(service->Tq5Service02(handle, 1, 1, 44100, sound, size));
+    size = 4000;
+    EXPECT_FALSE(service->Tq5Service02(handle, 1, 1, 0, sound, size));
+    EXPECT_EQ(handle, nullptr);
+    EXPECT_EQ(size, 0);
 }
 
 TEST(StretchService, FailsToCopyFromAnEmptyHandle)
@@ -97,6 +130,7 @@ TEST(StretchService, FailsToCopyFromAnEmptyHandle)
     Samples buffer(10);
     std::int32_t size = 10;
     EXPECT_FALSE(MakeStretch()->Tq5Service02a(nullptr, size, buffer));
+    EXPECT_EQ(size, 0);
 }
 
 TEST(StretchService, SurvivesEveryRateAndLength)

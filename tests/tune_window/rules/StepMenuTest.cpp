@@ -8,14 +8,14 @@
 namespace sprout {
 namespace {
 
-/// A tune whose steps tell where they come from by their volume; "x" is on, "." off.
+/// A tune whose steps tell where they come from by their volume; "x" is on, "." off, "2" the value 2.
 Tune TuneOf(const std::string& lamps)
 {
     Tune tune;
     tune.StepCount = static_cast<std::int32_t>(lamps.size());
     tune.Steps.resize(lamps.size() + 1);
     for (std::size_t i = 1; i <= lamps.size(); ++i) {
-        tune.Steps[i].OnPos = lamps[i - 1] == 'x' ? 1 : 0;
+        tune.Steps[i].OnPos = lamps[i - 1] == 'x' ? 1 : lamps[i - 1] == '2' ? 2 : 0;
         tune.Steps[i].Volume = static_cast<std::int32_t>(i);
         tune.Steps[i].StepWaveValid = i % 2 == 1;
     }
@@ -101,6 +101,16 @@ TEST(StepMenu, RefusesToMoveAStepOntoOneThatIsOn)
     }
     EXPECT_EQ(StepsOf(tune), "x1x2.3x4");
     EXPECT_TRUE(tune.TuneWaveValid);
+}
+
+TEST(StepMenu, TakesAStepOfAnyValueBut1ForOff)
+{
+    Tune tune = TuneOf("x2.2");
+    EXPECT_FALSE(StepMenuItemEnabled(StepMoveMnu::MoveStepToLeft, tune.Steps[2]));
+    EXPECT_FALSE(ApplyStepMenu(tune, 1, StepMoveMnu::MoveStepToRight).IsRefusal());
+    EXPECT_EQ(StepsOf(tune), ".1x1.3.4");
+    EXPECT_FALSE(ApplyStepMenu(tune, 1, StepMoveMnu::InsertStep).IsRefusal());
+    EXPECT_EQ(StepsOf(tune), ".1.1x1.3");
 }
 
 TEST(StepMenu, InsertsASilentCopyAndLosesTheLastStep)

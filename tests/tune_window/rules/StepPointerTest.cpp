@@ -14,6 +14,7 @@ protected:
         tune.Steps.resize(4);
         tune.Steps[1].OnPos = 1;
         tune.Steps[1].StepBeat.Name = "P_Piano High";
+        tune.Steps[2].OnPos = 2; // only 1 is on
         tune.Steps[3].OnPos = 1;
     }
 
