@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <mutex>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -88,6 +90,21 @@ TEST(ParallelFor, TellsProgressOnTheCallingThreadAndTheEndLast)
         },
         3);
     EXPECT_EQ(last, 30U);
+}
+
+TEST(ParallelFor, TakesNoMoreThreadsThanItMay)
+{
+    std::mutex mutex;
+    for (const std::size_t threads : {1U, 2U}) {
+        std::set<std::thread::id> used;
+        const auto work = [&](std::size_t) {
+            std::this_thread::yield(); // the others' turn
+            const std::lock_guard lock(mutex);
+            used.insert(std::this_thread::get_id());
+        };
+        ParallelFor(20'000, work, {}, threads);
+        EXPECT_LE(used.size(), threads);
+    }
 }
 
 } // namespace

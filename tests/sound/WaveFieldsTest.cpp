@@ -19,10 +19,10 @@ std::uint64_t DataPlace(const std::string& bytes)
 TEST(ReadWaveFields, ReadsTheTagWholeAndOfChannelsAndBitsTheLowByte)
 {
     std::array<std::uint8_t, kSmallestWave> head{};
-    head[20] = 3, head[21] = 2;                               // the tag
-    head[22] = 4, head[23] = 9;                               // channels
-    head[24] = 5, head[25] = 6, head[26] = 7, head[27] = 8;   // rate
-    head[34] = 10, head[35] = 9;                              // bits
+    head[20] = 3, head[21] = 2;                             // the tag
+    head[22] = 4, head[23] = 9;                             // channels
+    head[24] = 5, head[25] = 6, head[26] = 7, head[27] = 8; // rate
+    head[34] = 10, head[35] = 9;                            // bits
     MemorySource source(std::as_bytes(std::span(head)));
     const WaveFields fields = ReadWaveFields(source);
     EXPECT_EQ(fields.FormatTag, 0x0203);
