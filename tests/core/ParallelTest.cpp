@@ -107,5 +107,13 @@ TEST(ParallelFor, TakesNoMoreThreadsThanItMay)
     }
 }
 
+TEST(ParallelFor, CountsEachPieceInItsProgress)
+{
+    std::vector<std::size_t> told;
+    ParallelFor(
+        3, [](std::size_t) {}, [&told](std::size_t done, std::size_t) { told.push_back(done); }, 1);
+    EXPECT_EQ(told, (std::vector<std::size_t>{1, 2, 3, 3}));
+}
+
 } // namespace
 } // namespace sprout
