@@ -642,5 +642,17 @@ TEST(CutFromCell, NeverReadsBeyondTheWave)
     EXPECT_FALSE(CutFromCell(rateless, 1, 2, 0));
 }
 
+TEST_F(MixSongTest, AStepBeyondTheTunesCountLeavesTheMixEmpty)
+{
+    const std::int32_t track = AddNumberedTrack(1);
+    TrackAt(track).TrackTune.StepCount = 0; // its step 1 stays in the array
+    Paint(track, 4, 4);
+    MixSong();
+    EXPECT_EQ(Shared().Song.SongMix, EmptyWave());
+    EXPECT_TRUE(Shared().Song.SongMixValid);
+    EXPECT_EQ(Shared().Song.SongFirstPos, 4);
+    ExpectSignsRestored();
+}
+
 } // namespace
 } // namespace sprout
