@@ -286,5 +286,14 @@ TEST_F(SongVersion20Test, RefusesWhatTheFileCannotHoldBeforeItIsMade)
     }
 }
 
+TEST_F(SongVersion20Test, WritesCellsThatATrackLacksAsUnpainted)
+{
+    LoadArray(MakeArray());
+    Shared().Song.Tracks[4].Painted = {0, 1};
+    OpenSaveClass(Flush::No).Save_Song(Path());
+    OpenSaveClass().Load_Song(Path());
+    EXPECT_EQ(Shared().Song.Tracks[4].Painted, (Elements{0, 1, 0, 0}));
+}
+
 } // namespace
 } // namespace sprout
