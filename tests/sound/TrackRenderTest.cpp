@@ -654,5 +654,17 @@ TEST_F(MixSongTest, AStepBeyondTheTunesCountLeavesTheMixEmpty)
     ExpectSignsRestored();
 }
 
+TEST(CutFromCell, RefusesAWaveOfWhichOneChannelIsTooShort)
+{
+    const WaveData whole = LevelWave(2 * kCellFrames, 1);
+    EXPECT_TRUE(CutFromCell(whole, 1, 2, kSlowTempo));
+    WaveData left = whole;
+    left.WavL = Channel(10);
+    EXPECT_FALSE(CutFromCell(left, 1, 2, kSlowTempo));
+    WaveData right = whole;
+    right.WavR = Channel(10);
+    EXPECT_FALSE(CutFromCell(right, 1, 2, kSlowTempo));
+}
+
 } // namespace
 } // namespace sprout
