@@ -9,12 +9,11 @@ namespace fs = std::filesystem;
 
 FileMark MarkOf(const fs::path& path)
 {
-    std::error_code noFile;
     std::error_code noSize;
     std::error_code noTime;
-    const bool isPlain = fs::is_regular_file(path, noFile);
+    // Only a plain file has a size.
     FileMark mark{path, fs::file_size(path, noSize), fs::last_write_time(path, noTime)};
-    return isPlain && !noSize && !noTime ? mark : FileMark();
+    return !noSize && !noTime ? mark : FileMark();
 }
 
 } // namespace sprout

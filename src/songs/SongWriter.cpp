@@ -51,7 +51,7 @@ void WriteTrack(LongsWriter& data, const Track& track, std::int32_t songCells)
 LongsWriter Write_Song_Data(const SongState& song)
 {
     LongsWriter data;
-    data.Put(0);
+    data.Put(0); // the place of the last index
     data.Put(song.TrackCount);
     data.Put(song.SongBeatCount);
     data.Put(song.SongCells);

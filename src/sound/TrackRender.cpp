@@ -233,7 +233,7 @@ public:
         }
     }
 
-    [[nodiscard]] bool Silent() const { return waveCount <= 0 || placementCount == 0; }
+    [[nodiscard]] bool Silent() const { return placementCount == 0; }
 
     [[nodiscard]] WaveData MixAll(std::int32_t origin) const
     {
@@ -259,7 +259,6 @@ private:
         if (track.FirstPainted == 0)
             return false;
         placementCount += CountSoundingCells(track);
-        waveCount += track.TrackTune.StepCount;
         return true;
     }
 
@@ -268,7 +267,6 @@ private:
     {
         RenderAudioTrack(number);
         ++placementCount;
-        ++waveCount;
         return track.TrackRenderValid;
     }
 
@@ -283,7 +281,6 @@ private:
 
     std::vector<Track*> parts;
     std::size_t placementCount = 0;
-    std::int64_t waveCount = 0;
 };
 
 WaveData MixParts(SongState& song)

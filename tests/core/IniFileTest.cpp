@@ -227,5 +227,12 @@ TEST_F(IniOnDisk, LosesNothingWhereTwoProgramsWriteOtherKeys)
     EXPECT_EQ(IniFile::Read(Path()).Keys("a").size(), 2U * keys);
 }
 
+TEST(IniFile, ReadsNothingBetweenTwoQuotes)
+{
+    const IniFile ini("[a]\nx=\"\"\ny=''\n");
+    EXPECT_EQ(ini.Value("a", "x", "fallback"), "");
+    EXPECT_EQ(ini.Value("a", "y", "fallback"), "");
+}
+
 } // namespace
 } // namespace sprout

@@ -251,5 +251,14 @@ TEST(LongsReader, AsksForRecordsWithoutOverflow)
     EXPECT_THROW(data->Require(2147483647, std::int64_t{1} << 62), RunTimeError);
 }
 
+TEST(LongsReader, TakesAnArrayOfElement0Alone)
+{
+    const Elements elements{0, 99};
+    MemorySource source(std::as_bytes(std::span(elements)));
+    LongsReader data(source, 0);
+    EXPECT_EQ(data.Left(), 0U);
+    EXPECT_THROW(static_cast<void>(data.Get()), RunTimeError);
+}
+
 } // namespace
 } // namespace sprout

@@ -4,6 +4,8 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <mutex>
+#include <set>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -88,6 +90,29 @@ TEST(ParallelFor, TellsProgressOnTheCallingThreadAndTheEndLast)
         },
         3);
     EXPECT_EQ(last, 30U);
+}
+
+TEST(ParallelFor, TakesNoMoreThreadsThanItMay)
+{
+    std::mutex mutex;
+    for (const std::size_t threads : {1U, 2U}) {
+        std::set<std::thread::id> used;
+        const auto work = [&](std::size_t) {
+            std::this_thread::yield(); // the others' turn
+            const std::lock_guard lock(mutex);
+            used.insert(std::this_thread::get_id());
+        };
+        ParallelFor(20'000, work, {}, threads);
+        EXPECT_LE(used.size(), threads);
+    }
+}
+
+TEST(ParallelFor, CountsEachPieceInItsProgress)
+{
+    std::vector<std::size_t> told;
+    ParallelFor(
+        3, [](std::size_t) {}, [&told](std::size_t done, std::size_t) { told.push_back(done); }, 1);
+    EXPECT_EQ(told, (std::vector<std::size_t>{1, 2, 3, 3}));
 }
 
 } // namespace

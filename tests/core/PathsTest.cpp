@@ -224,5 +224,15 @@ TEST(ChosenFolder, EndsInASeparator)
     EXPECT_EQ(ChosenFolder("Bell.wav"), "");
 }
 
+TEST_F(Paths, FindTheProgramsFolderAnew)
+{
+    fake.machine.executable = In("temp/other");
+    fake.machine.temp = In("missing");
+    FindTempFolder();
+    EXPECT_EQ(Shared().ProgramFolder, In("temp"));
+    EXPECT_EQ(Shared().SettingsFile, In("temp/other.ini"));
+    EXPECT_EQ(Shared().TempFolder, In("temp"));
+}
+
 } // namespace
 } // namespace sprout

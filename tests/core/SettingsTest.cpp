@@ -151,5 +151,19 @@ TEST_F(Settings, ReadsColoursAsNumbers)
     EXPECT_EQ(colours.PlayPosIndiColor, 0xFF00FF);
 }
 
+TEST_F(Settings, ReadsEachColourFromItsOwnKey)
+{
+    Write("[Color]\nWaveFormNormalColorL=1\nWaveFormNormalColorR=2\nCenterLineColor=3\nNormalBackColor=4\n"
+          "SelectBackColor=5\nLineCursorColor=6\nPlayPosIndiColor=7\n");
+    const WaveViewColours colours = ReadWaveColours();
+    EXPECT_EQ(colours.WaveFormNormalColorL, 1);
+    EXPECT_EQ(colours.WaveFormNormalColorR, 2);
+    EXPECT_EQ(colours.CenterLineColor, 3);
+    EXPECT_EQ(colours.NormalBackColor, 4);
+    EXPECT_EQ(colours.SelectBackColor, 5);
+    EXPECT_EQ(colours.LineCursorColor, 6);
+    EXPECT_EQ(colours.PlayPosIndiColor, 7);
+}
+
 } // namespace
 } // namespace sprout

@@ -116,5 +116,13 @@ TEST(Channel, HoldsLongSoundsWithoutAMachineToAsk)
     EXPECT_EQ(large[3'000'000], 5);
 }
 
+TEST(Channel, UnfilledHasAPlaceForEachFrameAndNoneWhereThereIsNone)
+{
+    EXPECT_EQ(Channel::Unfilled(0).Identity(), nullptr);
+    const Channel one = Channel::Unfilled(1);
+    EXPECT_NE(one.Identity(), nullptr);
+    EXPECT_EQ(one[0], 0);
+}
+
 } // namespace
 } // namespace sprout

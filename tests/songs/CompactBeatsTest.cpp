@@ -125,5 +125,14 @@ TEST(CompactSongBeats, TakesASongWithoutBeatsAndTracks)
     EXPECT_EQ(song.SongBeatCount, 0);
 }
 
+TEST(CompactSongBeats, NeverLooksAtElement0)
+{
+    SongState song = MakeSong({{"A", ""}, {"B", ""}}, {2, 1});
+    song.SongBeats[0].Name = "none";
+    Compact_Song_Beats(song);
+    EXPECT_EQ(song.SongBeats[0].Name, "none");
+    EXPECT_EQ(Names(song), (std::vector<std::string>{"A", "B"}));
+}
+
 } // namespace
 } // namespace sprout

@@ -190,5 +190,16 @@ TEST_F(OldSongVersionsTest, DamagedSongsOfVersion1NeverBreakTheLoad)
     ExpectToSurvive(MakeArray10(), "1");
 }
 
+TEST_F(OldSongVersionsTest, Version11RefusesStepsThatTheFileCannotHold)
+{
+    HandArray array;
+    array.Add({1, 0, 320}).Text("s").Text("a").Add({0}).Add({0}).Add({1}).Text("T").Text("").Text("").Picture(0);
+    array.Add({3}).Many(1, 8); // of the nine elements that three steps take
+    LoadArray(array, "1.1");
+    EXPECT_EQ(Told(),
+              (std::vector<std::string>{"Error Loading File|The file is damaged: it promises more than it holds.",
+                                        "|Failed Loading"}));
+}
+
 } // namespace
 } // namespace sprout

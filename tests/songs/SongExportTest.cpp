@@ -359,5 +359,12 @@ TEST_F(WavExport, LeavesTheOldFileWhereItIsStopped)
     }
 }
 
+TEST_F(WmaExport, AsksForAListOfAnyLength)
+{
+    fake.wma.listLength = 1;
+    EXPECT_EQ(Write(), kWritten);
+    EXPECT_EQ(fake.wma.lists, 1);
+}
+
 } // namespace
 } // namespace sprout

@@ -270,5 +270,30 @@ TEST_F(SongVersion20Test, AnyElementMayLie)
     }
 }
 
+TEST_F(SongVersion20Test, RefusesWhatTheFileCannotHoldBeforeItIsMade)
+{
+    HandArray beats, tracks, steps;
+    beats.Add({1, 2, 0, 320}).Text("").Text("").Add({1, 0, 0, 1, 0}); // one of six is missing
+    tracks.Add({2, 0, 2, 320}).Text("").Text("").Add({7, 0, 0, 7, 0});
+    steps.Add({1, 0, 0, 320}).Text("").Text("").Add({0, 1}).Text("T").Add({1}).Text("").Text("").Picture(0);
+    steps.Add({2}).Many(1, 9); // one of ten
+    for (const HandArray& array : {beats, tracks, steps}) {
+        services.messages.shown.clear();
+        LoadArray(array);
+        EXPECT_EQ(Told(), (std::vector<std::string>{"Error Loading File|The file is damaged: it promises more than it "
+                                                    "holds.",
+                                                    "|Failed Loading"}));
+    }
+}
+
+TEST_F(SongVersion20Test, WritesCellsThatATrackLacksAsUnpainted)
+{
+    LoadArray(MakeArray());
+    Shared().Song.Tracks[4].Painted = {0, 1};
+    OpenSaveClass(Flush::No).Save_Song(Path());
+    OpenSaveClass().Load_Song(Path());
+    EXPECT_EQ(Shared().Song.Tracks[4].Painted, (Elements{0, 1, 0, 0}));
+}
+
 } // namespace
 } // namespace sprout

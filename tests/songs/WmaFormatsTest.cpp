@@ -111,5 +111,14 @@ TEST(FindWmaFormat, WantsTheNameInItsLetterCaseAndAtTheBegin)
     EXPECT_EQ(PlaceIn("Windows Media Audio" + FormatLine("64000")), (WmaFormatPlace{0, 0}));
 }
 
+TEST(ParseWmaCodecs, ReadsNoFormatInTheLineOfTheName)
+{
+    const std::vector<WmaCodec> codecs = ParseWmaCodecs("x\n1\n2\n3\n4\r\ny\n5\n6\n7\n8");
+    ASSERT_EQ(codecs.size(), 1U);
+    EXPECT_EQ(codecs[0].Name, "x\n1\n2\n3\n4");
+    EXPECT_EQ(codecs[0].Descriptions, (std::vector<std::string>{"", "y"}));
+    EXPECT_EQ(codecs[0].BitRates, (std::vector<std::int32_t>{0, 5}));
+}
+
 } // namespace
 } // namespace sprout

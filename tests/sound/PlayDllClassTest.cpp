@@ -329,5 +329,15 @@ TEST_F(PlayDllTest, ABackEndsStatusNeedsNothingAndItsMessageIsShown)
     EXPECT_EQ(services.messages.shown[0].title, "Sound");
 }
 
+TEST_F(PlayDllTest, DxObjTakesEveryWindowAbove0)
+{
+    for (const std::int32_t window : {1, 2, 0, -1}) {
+        std::int32_t driver = window;
+        Player().DxObj(driver);
+        const PlayResult result = Player().WriteWaveMemo(CountingWave(1), PlayNow::Yes, Loop::No);
+        EXPECT_EQ(result, window > 0 ? PlayResult::Started : PlayResult::NoDevice) << window;
+    }
+}
+
 } // namespace
 } // namespace sprout

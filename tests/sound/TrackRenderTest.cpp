@@ -668,5 +668,29 @@ TEST(CutFromCell, NeverReadsBeyondTheWave)
     EXPECT_FALSE(CutFromCell(rateless, 1, 2, 0));
 }
 
+TEST_F(MixSongTest, AStepBeyondTheTunesCountLeavesTheMixEmpty)
+{
+    const std::int32_t track = AddNumberedTrack(1);
+    TrackAt(track).TrackTune.StepCount = 0; // its step 1 stays in the array
+    Paint(track, 4, 4);
+    MixSong();
+    EXPECT_EQ(Shared().Song.SongMix, EmptyWave());
+    EXPECT_TRUE(Shared().Song.SongMixValid);
+    EXPECT_EQ(Shared().Song.SongFirstPos, 4);
+    ExpectSignsRestored();
+}
+
+TEST(CutFromCell, RefusesAWaveOfWhichOneChannelIsTooShort)
+{
+    const WaveData whole = LevelWave(2 * kCellFrames, 1);
+    EXPECT_TRUE(CutFromCell(whole, 1, 2, kSlowTempo));
+    WaveData left = whole;
+    left.WavL = Channel(10);
+    EXPECT_FALSE(CutFromCell(left, 1, 2, kSlowTempo));
+    WaveData right = whole;
+    right.WavR = Channel(10);
+    EXPECT_FALSE(CutFromCell(right, 1, 2, kSlowTempo));
+}
+
 } // namespace
 } // namespace sprout

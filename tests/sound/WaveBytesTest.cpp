@@ -67,5 +67,22 @@ TEST(CheckFrames, RefusesAWaveWithFewerFramesThanItTells)
     EXPECT_THROW(CheckFrames(negative), RunTimeError);
 }
 
+TEST(PackFrames, PacksAMonoWaveOf16BitsWordByWord)
+{
+    std::vector<std::byte> bytes(8);
+    PackFrames(MonoWave(16, 44100, {0x1234, -2, 32767, -32768}), 1, bytes);
+    EXPECT_EQ(bytes, Bytes({0x34, 0x12, 0xFE, 0xFF, 0xFF, 0x7F, 0, 0x80}));
+}
+
+TEST(PackFrames, InterleavesBytes)
+{
+    WaveData wave = MonoWave(8, 11025, {1, 2});
+    wave.Channels = 2;
+    wave.WavR = Channel::FromSamples(std::vector<std::int16_t>{-1, -2});
+    std::vector<std::byte> bytes(4);
+    PackFrames(wave, 1, bytes);
+    EXPECT_EQ(bytes, Bytes({129, 127, 130, 126}));
+}
+
 } // namespace
 } // namespace sprout

@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "core/Errors.h"
+#include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "sound/WavOperations.h"
@@ -413,6 +414,21 @@ TEST_F(TunOpnSavClassTest, KnowsOriginalsByTheirAuthorsFirstLetters)
     EXPECT_FALSE(isOriginal("Tonquil"));
     EXPECT_FALSE(isOriginal(" Tonquill"));
     EXPECT_FALSE(isOriginal(""));
+}
+
+TEST_F(TunOpnSavClassTest, SaysWhetherAllWasLoaded)
+{
+    const auto loads = [this](const std::string& bytes) {
+        WriteBytes(Path(), bytes);
+        return TunOpnSavClass(Flush::No).Load_Tune(Path());
+    };
+    const std::string whole = SaveBytes(MakeTune());
+    EXPECT_TRUE(loads(whole));
+    EXPECT_FALSE(loads(whole.substr(0, whole.size() - 10)));
+    EXPECT_FALSE(loads(FileOf("TqTun", "3", MakeArray().Elements())));
+    EXPECT_FALSE(loads(std::string(kMostIniBytes + 1, ' '))) << "an old-form tune that is too large";
+    fs::remove(Path());
+    EXPECT_FALSE(TunOpnSavClass().Load_Tune(Path()));
 }
 
 } // namespace

@@ -12,8 +12,8 @@ namespace {
 constexpr int kMostSmallSide = 4 * kPictureSide;
 
 struct PixelRange {
-    int first = 0;
-    int end = 0;
+    int first;
+    int end;
 };
 
 /// The pixels of a side that a pixel of the small picture stands for, at least one.

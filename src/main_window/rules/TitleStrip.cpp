@@ -24,9 +24,9 @@ bool FloatingButtons::OverlayShown() const
 
 FloatingButtons HoverTitleStrip(const TrackView& view, std::int32_t track, bool isAudio, std::int32_t x, std::int32_t y)
 {
-    FloatingButtons shown;
     if (track == 0)
-        return shown;
+        return {};
+    FloatingButtons shown;
     const std::int32_t top = RowTop(view, track);
     const bool onPicture = IsWithin(x, 22, 56);
     shown.HoverTrack = track;

@@ -42,10 +42,8 @@ std::int32_t StepLeft(std::int32_t step, std::int32_t stepsLeft)
 std::int32_t StepAt(std::int32_t x, std::int32_t stepsLeft, std::int32_t stepCount)
 {
     const std::int32_t inRow = x - stepsLeft;
-    if (inRow < 0)
-        return 0;
     const std::int32_t step = inRow / kStepPitch + 1;
-    const std::int32_t inColumn = inRow % kStepPitch;
+    const std::int32_t inColumn = inRow % kStepPitch; // not above 0 left of the first column
     return step <= stepCount && inColumn > 0 && inColumn < kStepHitWidth ? step : 0;
 }
 

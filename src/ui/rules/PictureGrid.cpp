@@ -74,7 +74,7 @@ std::int32_t NeighbourInGrid(const PictureGrid& grid, std::int32_t index, GridSt
     if (grid.count < 1 || index < 1 || index > grid.count)
         return std::min(grid.count, 1);
     const std::int32_t page = GridRowsInView(grid) * grid.columns;
-    const std::array<std::int32_t, 8> moves{-1, 1, -grid.columns, grid.columns, -page, page, -grid.count, grid.count};
+    const std::array moves{-1, 1, -grid.columns, grid.columns, -page, page, -grid.count, grid.count};
     const std::int32_t target = index + moves[static_cast<std::size_t>(step)];
     if (step == GridStep::First || step == GridStep::Last)
         return std::clamp(target, 1, grid.count);

@@ -144,5 +144,13 @@ TEST(RunMarks, CountsCyclesFromTheStartOfEachRun)
     EXPECT_EQ(ticks({10, 17}), 39);
 }
 
+TEST(VisibleRuns, EndsWhereTheSongOrTheTracksCellsEnd)
+{
+    Track track = PaintedTrack({{1, 20}});
+    EXPECT_THAT(VisibleRuns(track, 10, NarrowView()), ElementsAre(PaintedRun{1, 10}));
+    track.Painted = {0, 1, 1, 1};
+    EXPECT_THAT(VisibleRuns(track, kSongCells, NarrowView()), ElementsAre(PaintedRun{1, 3}));
+}
+
 } // namespace
 } // namespace sprout

@@ -62,5 +62,13 @@ TEST(ProgressColumns, FillUpToTheLimitAndStandFullBeyondIt)
     EXPECT_EQ(ProgressColumns(100, 2.7, 180), 2); // 1.5
 }
 
+TEST(Meter, ShowsTheSmallestPeakWhereItHasTheRowsForIt)
+{
+    const Meter meter{1000, 100};
+    EXPECT_EQ(meter.BarTop(0), 1000);
+    EXPECT_EQ(meter.BarTop(1), 990);
+    EXPECT_EQ(meter.BarTop(99), 10);
+}
+
 } // namespace
 } // namespace sprout

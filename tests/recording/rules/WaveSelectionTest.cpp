@@ -214,5 +214,15 @@ TEST(SpokenSelection, TellsSecondsFromTheWavesBeginning)
     EXPECT_EQ(Spoken(5, 10, 0), "0.0 to 0.0 seconds");
 }
 
+TEST(MoveCursor, LeavesTheViewWhereItsFirstAndItsLastSampleAreReached)
+{
+    for (const auto& [from, move] : {std::pair(103, WaveMove::Left), std::pair(299, WaveMove::Right)}) {
+        Keys keys;
+        keys.cursor = {from, from};
+        keys.Press(move);
+        EXPECT_EQ(keys.view.First, 101) << from;
+    }
+}
+
 } // namespace
 } // namespace sprout

@@ -21,6 +21,11 @@ TEST(WithExtension, LeavesAnExtensionInAnyLetterCase)
     EXPECT_EQ(WithExtension("Zumi.WmA", ".wma"), "Zumi.WmA");
 }
 
+TEST(WithExtension, LeavesANameThatIsTheExtensionAlone)
+{
+    EXPECT_EQ(WithExtension(".wav", ".WAV"), ".wav");
+}
+
 TEST(OfferedName, IsTheTitleWithTheExtension)
 {
     EXPECT_EQ(OfferedName("Zumi", ".wav"), "Zumi.wav");

@@ -101,5 +101,15 @@ TEST(RowAfterChange, StaysWhereItWasHeldToTheLastLine)
     EXPECT_EQ(RowAfterChange(0, 0), -1);
 }
 
+TEST(LayoutOf, TellsWhatEachModeHas)
+{
+    EXPECT_FALSE(LayoutOf(SongSelMode::Open).HasNameBox);
+    EXPECT_FALSE(LayoutOf(SongSelMode::Open).HasSoundFiles);
+    EXPECT_TRUE(LayoutOf(SongSelMode::Save).HasNameBox);
+    EXPECT_TRUE(LayoutOf(SongSelMode::Save).HasSoundFiles);
+    EXPECT_TRUE(LayoutOf(SongSelMode::New).HasNameBox);
+    EXPECT_FALSE(LayoutOf(SongSelMode::New).HasSoundFiles);
+}
+
 } // namespace
 } // namespace sprout

@@ -231,5 +231,14 @@ TEST(TypedStepCount, RefusesAllElse)
         EXPECT_EQ(TypedStepCount(answer), std::nullopt) << answer;
 }
 
+TEST_F(StepEditsTest, AKeyTakesAPitchThatIsAsFarAsFilesAllow)
+{
+    for (const std::int32_t farthest : {64, -64}) {
+        tune.Steps[3].PitchShift = farthest;
+        EXPECT_EQ(ClickKey(tune, 3, 5), (KeyClick{true, true})) << farthest;
+        EXPECT_EQ(tune.Steps[3].PitchShift, 5);
+    }
+}
+
 } // namespace
 } // namespace sprout

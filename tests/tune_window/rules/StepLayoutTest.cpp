@@ -218,5 +218,11 @@ TEST(ChangeAllLeft, IsBehindTheLastStep)
     EXPECT_EQ(ChangeAllLeft(16, 8), 576);
 }
 
+TEST(StepAt, HitsNothingLeftOfTheFirstColumn)
+{
+    for (std::int32_t x = -100; x <= 8; ++x)
+        EXPECT_EQ(StepAt(x, 8, 64), 0) << x;
+}
+
 } // namespace
 } // namespace sprout
