@@ -15,6 +15,7 @@
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/QtText.h"
+#include "ui/rules/ScaledPicture.h"
 
 namespace sprout {
 
@@ -106,7 +107,7 @@ std::optional<Picture> ChooseBeatPicture()
     const std::optional<fs::path> file = AskForBeatPicture();
     if (!file)
         return std::nullopt;
-    Picture picture = ReadChosenPicture(*file);
+    Picture picture = FittedPicture(ReadChosenPicture(*file));
     KeepBeatFolder(kBeatPictureFolder, *file);
     return picture;
 }

@@ -26,6 +26,7 @@
 #include "ui/HelpFrm.h"
 #include "ui/PictureGridPic.h"
 #include "ui/QtText.h"
+#include "ui/rules/ScaledPicture.h"
 
 namespace sprout {
 
@@ -197,7 +198,7 @@ void TuneFrm2::ChangePicBtn()
 
 void TuneFrm2::TakePicture(const fs::path& file)
 {
-    const Picture picture = TheServices().pictures->LoadPicture(file);
+    const Picture picture = FittedPicture(TheServices().pictures->LoadPicture(file));
     Shared().CurrentTune.Picture = picture;
     TunePic->SetPicture(picture);
     TuneChanged = true;

@@ -337,7 +337,7 @@ const QByteArray& GifBytes()
     return bytes;
 }
 
-TEST_F(AddBeatTest, StoresEveryKindAndSizeOfPictureAsBmp)
+TEST_F(AddBeatTest, StoresEveryKindAndSizeOfPictureAsASmallBmp)
 {
     QtPictureFiles pictures;
     TheServices().pictures = &pictures;
@@ -354,13 +354,14 @@ TEST_F(AddBeatTest, StoresEveryKindAndSizeOfPictureAsBmp)
     Add(Chosen("Bell.wav"), Chosen("flag.png"));
     EXPECT_THAT(services.messages.shown, IsEmpty());
     const QImage fromPng(QFile::decodeName((Shared().UserBeats / "New2Bell.bmp").c_str()), "BMP");
-    EXPECT_EQ(fromPng.size(), QSize(200, 100));
-    EXPECT_EQ(fromPng.pixelColor(50, 50), QColor(Qt::green));
+    EXPECT_EQ(fromPng.size(), QSize(32, 32));
+    EXPECT_EQ(fromPng.pixelColor(0, 8), QColor(Qt::green));
+    EXPECT_EQ(fromPng.pixelColor(0, 7), QColor(Qt::white)) << "it is twice as wide as high";
     const QImage fromJpg(QFile::decodeName((Shared().UserBeats / "Bell.bmp").c_str()), "BMP");
-    EXPECT_EQ(fromJpg.size(), QSize(200, 100));
-    EXPECT_GT(fromJpg.pixelColor(50, 50).green(), 250);
+    EXPECT_EQ(fromJpg.size(), QSize(32, 32));
+    EXPECT_GT(fromJpg.pixelColor(16, 16).green(), 250);
     const QImage fromGif(QFile::decodeName((Shared().UserBeats / "New1Bell.bmp").c_str()), "BMP");
-    EXPECT_EQ(fromGif.size(), QSize(1, 1));
+    EXPECT_EQ(fromGif.size(), QSize(32, 32));
     EXPECT_EQ(fromGif.pixelColor(0, 0), QColor(Qt::red));
     const QImage grid = Grid().grab().toImage();
     EXPECT_GT(grid.pixelColor(20, 20).green(), 250);

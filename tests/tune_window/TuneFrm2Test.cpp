@@ -3,9 +3,13 @@
 
 #include <gmock/gmock.h>
 
+#include <QFile>
+#include <QImage>
+
 #include <filesystem>
 
 #include "core/Settings.h"
+#include "service/qt/QtPictureFiles.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TuneWindowTest.h"
 #include "ui/FileDialogs.h"
@@ -704,6 +708,24 @@ TEST_F(ChangePicBtnTest, TakesAPictureAndRemembersItsFolder)
     EXPECT_EQ(GetSetting("General", "PictureSelectPath", ""), services.folder.Path().native() + "/");
     ChangePicture({}, [](TuneFrm2&) {});
     EXPECT_EQ(question.Folder, services.folder.Path() / "");
+}
+
+TEST_F(ChangePicBtnTest, ScalesAPictureOfAnotherSizeAsItIsFoundAfterSaving)
+{
+    QtPictureFiles pictures;
+    TheServices().pictures = &pictures;
+    QImage photo(200, 100, QImage::Format_RGB32);
+    photo.fill(Qt::green);
+    const fs::path file = services.folder.Path() / "photo.png";
+    ASSERT_TRUE(photo.save(QFile::decodeName(file.c_str()), "PNG"));
+    ChangePicture(file, [](TuneFrm2& window) {
+        const Picture taken = Shared().CurrentTune.Picture;
+        EXPECT_EQ(taken.Width(), 32);
+        EXPECT_EQ(taken.Height(), 32);
+        EXPECT_EQ(taken.Pixel(31, 23), 0x00FF00U);
+        EXPECT_EQ(taken.Pixel(31, 24), 0xFFFFFFU);
+        EXPECT_TRUE(SamePicture(PartOf<TunePicture>(window, "TunePic").Picture(), taken));
+    });
 }
 
 TEST_F(ChangePicBtnTest, CancelChangesNothing)
