@@ -17,7 +17,10 @@ namespace sprout {
 
 namespace {
 
-constexpr std::size_t kLeadFrames = 44; // kept before the onset, and faded in
+constexpr double kHeardDb = -37;           // against the peak: what is softer before a sound is no part of it
+constexpr std::ptrdiff_t kLeadFrames = 44; // kept before that, and faded in
+// Levelling moves the onset a little: this keeps it well within the latest.
+constexpr auto kMostFramesToOnset = static_cast<std::ptrdiff_t>(0.8 * kLatestOnsetSeconds * kRate);
 
 /// Takes away what lies below 25 Hz.
 void CutLowest(std::vector<double>& sound)
@@ -41,19 +44,39 @@ void CutOffset(std::vector<double>& sound)
     }
 }
 
-/// Cuts what comes before the onset and what is too soft behind the end.
+/// The number of frames before the first one that is louder than `level`.
+std::ptrdiff_t FramesBefore(std::span<const double> sound, double level)
+{
+    return std::find_if(sound.begin(), sound.end(), [level](double s) { return std::abs(s) > level; }) - sound.begin();
+}
+
+/// Cuts frames off the beginning and fades in `lead` of those that follow.
+void CutBeginning(std::vector<double>& sound, std::ptrdiff_t frames, std::ptrdiff_t lead)
+{
+    sound.erase(sound.begin(), sound.begin() + frames);
+    for (std::ptrdiff_t i = 0; i < lead; ++i)
+        sound[static_cast<std::size_t>(i)] *= static_cast<double>(i) / static_cast<double>(lead);
+}
+
+/// Cuts what comes before the sound and what is too soft behind the end.
 void Trim(std::vector<double>& sound)
 {
-    const double level = std::pow(10.0, (PeakDb(sound) + kOnsetDb + 3) / 20);
-    const auto heard = [level](double sample) { return std::abs(sample) > level; };
-    const auto onset = std::find_if(sound.begin(), sound.end(), heard);
-    const auto lead = std::min<std::ptrdiff_t>(onset - sound.begin(), kLeadFrames);
-    sound.erase(sound.begin(), onset - lead);
+    const double level = std::pow(10.0, (PeakDb(sound) + kHeardDb) / 20);
+    const std::ptrdiff_t before = FramesBefore(sound, level);
+    const std::ptrdiff_t lead = std::min(before, kLeadFrames);
+    CutBeginning(sound, before - lead, lead);
     const double faint = level / 12;
     const auto last = std::find_if(sound.rbegin(), sound.rend(), [faint](double s) { return std::abs(s) > faint; });
     sound.erase(last.base(), sound.end());
-    for (std::size_t i = 0; i < static_cast<std::size_t>(lead); ++i)
-        sound[i] *= static_cast<double>(i) / static_cast<double>(lead);
+}
+
+/// Cuts as much of a slow beginning as brings the onset near.
+void BringOnsetNear(std::vector<double>& sound)
+{
+    const double level = std::pow(10.0, PeakDb(sound) / 20) * kOnsetShare;
+    const std::ptrdiff_t tooMany = FramesBefore(sound, level) - kMostFramesToOnset;
+    if (tooMany > 0)
+        CutBeginning(sound, tooMany, kLeadFrames);
 }
 
 void FadeOut(std::vector<double>& sound)
@@ -132,6 +155,7 @@ WaveData BeatSounds::Make(const BeatRecipe& recipe, const BeatFamily& family)
     Trim(sound);
     sound.resize(std::min(sound.size(), static_cast<std::size_t>(recipe.Seconds * kRate)));
     CutLowest(sound);
+    BringOnsetNear(sound);
     FadeOut(sound);
     Level(sound, family.LoudnessDb);
     CutOffset(sound);

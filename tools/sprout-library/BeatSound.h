@@ -18,8 +18,8 @@ inline constexpr double kLowestBeatPeakDb = -12;
 inline constexpr double kMostCentsOff = 5;
 inline constexpr double kMostLoudnessOffFamilyDb = 3;
 inline constexpr double kLatestOnsetSeconds = 0.005;
-inline constexpr double kOnsetDb = -40; ///< against the peak: here a sound has begun
-inline constexpr double kEndDb = -60;   ///< what the last 5 ms stay below
+inline constexpr double kOnsetShare = 0.02; ///< of the peak: here a sound has begun
+inline constexpr double kEndDb = -60;       ///< what the last 5 ms stay below
 inline constexpr double kMostOffset = 0.001;
 
 /// Makes the sounds of beats. The sound font is loaded at the first use.

@@ -231,7 +231,7 @@ BeatFacts MeasureBeat(const std::string& name, const WaveData& wave)
     facts.Seconds = static_cast<double>(wave.Length) / wave.Rate;
     facts.PeakDb = PeakDb(sound);
     facts.LoudestDb = LoudestDb(sound);
-    const double level = std::pow(10.0, (facts.PeakDb + kOnsetDb) / 20);
+    const double level = std::pow(10.0, facts.PeakDb / 20) * kOnsetShare;
     const auto onset = std::find_if(sound.begin(), sound.end(), [level](double s) { return std::abs(s) > level; });
     facts.OnsetSeconds = static_cast<double>(onset - sound.begin()) / wave.Rate;
     const std::size_t endFrames = std::min<std::size_t>(sound.size(), static_cast<std::size_t>(wave.Rate / 200));
