@@ -5,7 +5,6 @@
 #include <atomic>
 #include <exception>
 #include <mutex>
-#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -82,8 +81,8 @@ void ParallelFor(std::size_t count, const std::function<void(std::size_t)>& work
                     while (pieces.DoNext()) {
                     }
                 });
-            } catch (const std::system_error&) {
-                break; // fewer threads do the same work
+            } catch (const std::exception&) {
+                break; // without threads or memory for one, fewer do the same work
             }
         }
         try {

@@ -85,13 +85,13 @@ void TrackCommands::TrackTuneBtn()
         Tune& tune = At(Shared().Song.Tracks, track).TrackTune;
         if (changed)
             tune.TuneWaveValid = false;
+        if (changed) { // which stays true where the cycle cannot be rendered
+            MarkTuneChosen(track);
+            canvas.DrawTrackOne(track);
+            canvas.window()->update();
+        }
         if (!tune.TuneWaveValid)
             RenderStarCycle(tune);
-        if (!changed)
-            return;
-        MarkTuneChosen(track);
-        canvas.DrawTrackOne(track);
-        canvas.window()->update();
     });
 }
 

@@ -135,9 +135,18 @@ void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
     for (const PaintedRun& run : look.runs)
         PaintRun(painter, run, look.cycle, tile, rowTop);
     if (!look.painted)
-        painter.Write(kUnpaintedTextAt.x(), rowTop + kUnpaintedTextAt.y(), LabelFont(),
-                      tr("Please paint on this track to play with others."));
+        WriteUnpainted(painter, background, look.trackType);
     Changed(background);
+}
+
+void TrackPic::WriteUnpainted(SurfacePainter& painter, const QRect& background, std::int32_t trackType) const
+{
+    const QString text = tr("Please paint on this track to play with others.");
+    const int textEnd = kUnpaintedTextAt.x() + QFontMetrics(LabelFont()).horizontalAdvance(text);
+    const int tiles = (textEnd + kTileWidth - 1) / kTileWidth;
+    painter.Tile(QRect(background.topLeft(), QSize(std::min(tiles * kTileWidth, width()), background.height())),
+                 TrackPlainPic(trackType, PixelRatio()));
+    painter.Write(kUnpaintedTextAt.x(), background.top() - kBackgroundTop + kUnpaintedTextAt.y(), LabelFont(), text);
 }
 
 void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,

@@ -79,6 +79,7 @@ private:
     void PaintMeadow(std::int32_t trackCount);
     [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
     void PaintRow(const RowLook& look, std::int32_t rowTop);
+    void WriteUnpainted(SurfacePainter& painter, const QRect& background, std::int32_t trackType) const;
     void PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
                   std::int32_t rowTop) const;
     void PaintBusyMarks(SurfacePainter& painter, const std::vector<BusyMark>& marks) const;

@@ -30,6 +30,13 @@ QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio)
     return Artwork(BlankArtwork(kind, pixelRatio));
 }
 
+QPixmap TrackPlainPic(std::int32_t trackType, qreal pixelRatio)
+{
+    const int kind = trackType == static_cast<std::int32_t>(TrackKind::Audio) ? 1 : 0;
+    return CanvasPicture(kind == 1 ? "TrackPlainPic1" : "TrackPlainPic0", QSize(kTileWidth, kBackgroundHeight),
+                         pixelRatio);
+}
+
 QPixmap TrackDrawnPic(std::int32_t tile, qreal pixelRatio)
 {
     return Artwork(TileArtwork(tile, pixelRatio));

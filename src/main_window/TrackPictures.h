@@ -26,6 +26,8 @@ inline constexpr QSize kHillsTileSize{1024, kHillsHeight};
 
 /// The background of a row by the kind of its track; of kinds that do not exist, that of music.
 [[nodiscard]] QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio);
+/// The same without a drawing, for words to stand on.
+[[nodiscard]] QPixmap TrackPlainPic(std::int32_t trackType, qreal pixelRatio);
 /// What paints a track, 64 x 32. tile: 0 for audio, 1 to 10 for music.
 [[nodiscard]] QPixmap TrackDrawnPic(std::int32_t tile, qreal pixelRatio);
 /// A cell of the time band in which some track is painted, 3 x 17. picture: 0 or 1.

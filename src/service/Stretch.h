@@ -35,7 +35,7 @@ public:
     /// pitchFactor: 2 an octave up, 0.5 an octave down; durationFactor: 2 twice as long; both are clamped to 0.5..2.
     /// size: on entry the room offered for the result in samples, on return the result's sample count.
     /// handle: receives the result. Returns false, with an empty handle and size 0, where samples are missing, the rate
-    /// is not above 0, a factor is not a number, or the room or the memory is too small.
+    /// is not above 0, a factor is not a number, or the room is too small. Throws std::bad_alloc.
     [[nodiscard]] virtual bool Tq5Service02(StretchHandle& handle, float pitchFactor, float durationFactor,
                                             std::int32_t rate, std::span<const std::int16_t> samples,
                                             std::int32_t& size) const = 0;

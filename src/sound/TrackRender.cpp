@@ -12,6 +12,7 @@
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "sound/Mixer.h"
+#include "sound/QuietRender.h"
 #include "sound/TuneRender.h"
 #include "sound/WavOperations.h"
 #include "sound/WaveFormat.h"
@@ -34,17 +35,6 @@ struct MixInput {
 std::int32_t OffsetOf(std::int32_t cell, std::int32_t origin)
 {
     return CellOffset(cell, origin, Shared().Song.Tempo, Shared().SampleRate);
-}
-
-/// The result of render(), an empty wave where it fails.
-template <class Render>
-WaveData QuietRender(Render render)
-{
-    try {
-        return render();
-    } catch (const std::exception&) {
-        return EmptyWave();
-    }
 }
 
 bool HasTrack(std::int32_t trackNumber)

@@ -10,14 +10,16 @@
 namespace sprout {
 
 /// Renders a music track of the shared song alone: fills `TrackRender` and `FirstPainted`, unless it is valid.
-/// trackNumber: 1..`TrackCount`; others do nothing. A run-time error leaves an empty wave, valid.
+/// trackNumber: 1..`TrackCount`; others do nothing. A run-time error leaves an empty wave, valid. Throws
+/// std::bad_alloc, and the track is as it was, or empty and to be rendered.
 void RenderTuneTrack(std::int32_t trackNumber);
 
 /// The same for an audio track, whose wave sounds again and again along the paint.
 void RenderAudioTrack(std::int32_t trackNumber);
 
 /// Mixes the whole shared song: fills `SongMix` and `SongFirstPos`, unless it is valid. A run-time error leaves an
-/// empty wave, valid. `SongFirstPos` is -1 in a song without paint.
+/// empty wave, valid. `SongFirstPos` is -1 in a song without paint. Throws std::bad_alloc, and the mix is empty and to
+/// be rendered.
 void MixSong();
 
 /// What sounds when a wave whose first frame belongs to cell `origin` is played from `cell`.

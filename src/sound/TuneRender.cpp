@@ -9,6 +9,7 @@
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "sound/Mixer.h"
+#include "sound/QuietRender.h"
 #include "sound/StepBatch.h"
 #include "sound/WavOperations.h"
 
@@ -21,14 +22,12 @@ constexpr std::int32_t kCycleClip = 80;
 WaveData RenderOne(TuneStep& step, BeatSource source)
 {
     const Hourglass hourglass;
-    try {
+    return QuietRender([&] {
         StepBatch batch;
         batch.AddStep(step, source);
         batch.Render();
         return step.StepWave;
-    } catch (const std::exception&) {
-        return EmptyWave();
-    }
+    });
 }
 
 /// One silent frame.
@@ -61,14 +60,12 @@ WaveData MixCycle(const Tune& tune)
 WaveData RenderCycle(Tune& tune, BeatSource source)
 {
     const WorkingSign sign;
-    try {
+    return QuietRender([&] {
         StepBatch batch;
         batch.AddTune(tune, source, CopiedStep::Valid);
         batch.Render();
         return MixCycle(tune);
-    } catch (const std::exception&) {
-        return EmptyWave();
-    }
+    });
 }
 
 } // namespace

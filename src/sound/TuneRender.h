@@ -9,7 +9,8 @@
 namespace sprout {
 
 /// A step's sound with its instrument from `SongBeats` by `BeatIndex`, which is loaded if it is not yet; the test tone
-/// where there is none. A run-time error gives an empty wave. Flags and `StepWave` stay as they are.
+/// where there is none. A run-time error gives an empty wave. Flags and `StepWave` stay as they are. Throws
+/// std::bad_alloc.
 [[nodiscard]] WaveData RenderStep(const TuneStep& step);
 
 /// The same with the step's own `StepBeat`; the test tone where it has no name.
@@ -17,6 +18,7 @@ namespace sprout {
 
 /// Fills `TuneWave` of a track's tune with one cycle, one frame longer than its steps at the shared tempo, or more
 /// where the last sounds ring on. A run-time error leaves an empty wave; the tune is valid afterwards either way.
+/// Throws std::bad_alloc, and the tune is as valid as before.
 void RenderStarCycle(Tune& tune);
 
 /// The same for the tune under edit, whose steps hold their own beats.

@@ -239,6 +239,17 @@ TEST_F(TrackCanvasTest, WritesTheWordsOfATrackWithoutPaintAtTheirPlace)
         InkOf(QStringLiteral("Please paint on this track to play with others."), QPoint(10, RowY(1) + 6), LabelFont()));
 }
 
+TEST_F(TrackCanvasTest, DrawsNothingThroughTheWordsOfATrackWithoutPaint)
+{
+    const QColor seedling(0xE9, 0xDA, 0xB2);
+    const int textEnd =
+        10 +
+        QFontMetrics(LabelFont()).horizontalAdvance(QStringLiteral("Please paint on this track to play with others."));
+    const QImage shown = Shown(Pic());
+    EXPECT_FALSE(HasColourIn(shown, QRect(0, RowY(1), textEnd, 42), seedling));
+    EXPECT_TRUE(HasColourIn(shown, QRect(textEnd, RowY(1), kPicWidth - textEnd, 42), seedling));
+}
+
 TEST_F(TrackCanvasTest, WritesTheNumberOfATrackAheadOfItsPicture)
 {
     SetTracks(110);

@@ -127,6 +127,24 @@ TEST_F(TrackCommandsTest, ATuneWindowThatFailsLeavesNoTrackBehind)
     EXPECT_EQ(services.messages.shown[0].text, "No window.");
 }
 
+TEST_F(TrackCommandsTest, AChosenTuneIsAChangeThoughItsCycleCannotBeRendered)
+{
+    class FailingScreen : public FakeScreen {
+        void ShowHourglass() override { throw std::bad_alloc(); }
+    } screen;
+    tuneWindow = [&screen](Tune& tune, bool&) {
+        GiveTune(tune);
+        TheServices().screen = &screen;
+        return true;
+    };
+    HoverPicture(2);
+    tracks->TrackTuneBtn();
+    ASSERT_EQ(services.messages.shown.size(), 1U);
+    EXPECT_EQ(services.messages.shown[0].text, "There is not enough memory.");
+    EXPECT_TRUE(Marked());
+    EXPECT_FALSE(song.Tracks[2].TrackRenderValid);
+}
+
 TEST_F(TrackCommandsTest, DeletesTheHoveredTrackAfterAQuestion)
 {
     song.Tracks[3].TrackTune.Name = "Lila";

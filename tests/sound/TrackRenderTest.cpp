@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <vector>
 
 #include "core/SongModel.h"
@@ -116,6 +117,23 @@ TEST_F(RenderTuneTrackTest, AStepThatIsOffTakesItsCellInSilence)
     Paint(track, 1, 6);
     RenderTuneTrack(track);
     EXPECT_EQ(LevelsAtCells(TrackAt(track).TrackRender, 6), (SampleList{0, 2, 0, 0, 2, 0}));
+}
+
+TEST_F(RenderTuneTrackTest, MemoryThatRunsOutIsToldToTheCallerAndTheTrackStaysToBeRendered)
+{
+    const std::int32_t track = AddNumberedTrack(3);
+    Paint(track, 1, 6);
+    services.stretch.lacksMemory = true;
+    EXPECT_THROW(RenderTuneTrack(track), std::bad_alloc);
+    EXPECT_FALSE(TrackAt(track).TrackRenderValid);
+    EXPECT_THROW(MixSong(), std::bad_alloc);
+    EXPECT_FALSE(Shared().Song.SongMixValid);
+    EXPECT_EQ(services.screen.processPics, 0);
+    services.stretch.lacksMemory = false;
+    RenderTuneTrack(track);
+    EXPECT_GT(TrackAt(track).TrackRender.Length, 0);
+    MixSong();
+    EXPECT_GT(Shared().Song.SongMix.Length, 0);
 }
 
 TEST_F(RenderTuneTrackTest, WithoutPaintTheTrackIsEmptyAndValid)

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <new>
 #include <string>
 #include <utility>
 #include <vector>
@@ -272,6 +273,23 @@ TEST_F(TuneRenderTest, AStepOfAnotherPitchOrDurationHasASoundOfItsOwn)
     }
     EXPECT_EQ(At(tune.Steps, 4).StepWave, LevelWave(1200, 100));
     EXPECT_EQ(At(edited.Steps, 4).StepWave, LevelWave(1200, 200));
+}
+
+TEST_F(TuneRenderTest, MemoryThatRunsOutIsToldToTheCallerAndTheTuneStaysToBeRendered)
+{
+    Tune tune = MakeTune(2);
+    SetStep(tune, 1, AddBeat(LevelWave(600, 100)));
+    services.stretch.lacksMemory = true;
+    EXPECT_THROW(RenderStarCycle(tune), std::bad_alloc);
+    EXPECT_THROW(RenderTuneCycle(tune), std::bad_alloc);
+    EXPECT_THROW(static_cast<void>(RenderStep(tune.Steps[1])), std::bad_alloc);
+    EXPECT_FALSE(tune.TuneWaveValid);
+    EXPECT_FALSE(tune.Steps[1].StepWaveValid);
+    ExpectSignsRestored();
+    services.stretch.lacksMemory = false;
+    RenderStarCycle(tune);
+    EXPECT_TRUE(tune.TuneWaveValid);
+    EXPECT_EQ(tune.TuneWave.WavL[1], 100);
 }
 
 TEST_F(TuneRenderTest, AValidStepKeepsItsWaveAndLendsItToEqualOnes)

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
+#include <new>
 
 #include "core/Errors.h"
 #include "core/Paths.h"
@@ -51,6 +52,8 @@ bool FakeStretch::Tq5Service02(StretchHandle& handle, float pitchFactor, float d
     }
     if (fails)
         return false;
+    if (lacksMemory)
+        throw std::bad_alloc();
     auto block = std::make_unique<FakeBlock>();
     block->samples.resize(static_cast<std::size_t>(std::lround(static_cast<double>(samples.size()) * durationFactor)));
     for (std::size_t i = 0; i < block->samples.size(); ++i)

@@ -134,6 +134,7 @@ public:
     [[nodiscard]] std::vector<Call> Calls() const;
     bool fails = false;       // the first entry refuses
     bool secondFails = false; // the second entry refuses
+    bool lacksMemory = false; // the first entry throws
 
 private:
     mutable std::mutex mutex;

@@ -187,7 +187,7 @@ private:
             return {3, 32};
         if (name == QStringLiteral("DeleteButtonPic"))
             return {14, 16};
-        if (name.startsWith(QStringLiteral("TrackBlankPic")))
+        if (name.startsWith(QStringLiteral("TrackBlankPic")) || name.startsWith(QStringLiteral("TrackPlainPic")))
             return {64, 42};
         const bool small = name == QStringLiteral("PlayPic") || name == QStringLiteral("RecordButtonPic") ||
                            name.startsWith(QStringLiteral("Blank")) || name.endsWith(QStringLiteral("TunePicture"));

@@ -5,7 +5,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <new>
 #include <utility>
 #include <vector>
 
@@ -42,12 +41,8 @@ public:
         if (count < 1 || count > room) {
             return false;
         }
-        try {
-            handle =
-                std::make_unique<FinishedBlock>(stretch::StretchSamples(samples, rate, Clamped(pitchFactor), duration));
-        } catch (const std::bad_alloc&) {
-            return false;
-        }
+        handle =
+            std::make_unique<FinishedBlock>(stretch::StretchSamples(samples, rate, Clamped(pitchFactor), duration));
         size = static_cast<std::int32_t>(count);
         return true;
     }

@@ -2,7 +2,7 @@
 """What a user does at the desk, and what must come of it. Each scenario is a function of a desk."""
 import importlib
 
-MODULES = ("playing", "saving", "starting", "window", "tunes", "sharing", "recording")
+MODULES = ("playing", "saving", "starting", "window", "tunes", "sharing", "recording", "memory")
 
 
 def all_scenarios():
