@@ -73,10 +73,14 @@ Picture FittedPicture(const Picture& picture)
         ScaledPicture(picture, FittedSide(picture.Width(), longer), FittedSide(picture.Height(), longer));
     const int left = (kPictureSide - scaled.Width()) / 2;
     const int top = (kPictureSide - scaled.Height()) / 2;
-    std::vector<std::uint32_t> pixels(kPicturePixels, kWhite);
-    for (int y = 0; y < scaled.Height(); ++y)
-        for (int x = 0; x < scaled.Width(); ++x)
-            pixels[static_cast<std::size_t>((top + y) * kPictureSide + left + x)] = scaled.Pixel(x, y);
+    std::vector<std::uint32_t> pixels;
+    pixels.reserve(kPicturePixels);
+    for (int y = -top; y < kPictureSide - top; ++y) {
+        for (int x = -left; x < kPictureSide - left; ++x) {
+            const bool isInside = x >= 0 && x < scaled.Width() && y >= 0 && y < scaled.Height();
+            pixels.push_back(isInside ? scaled.Pixel(x, y) : kWhite);
+        }
+    }
     return {kPictureSide, kPictureSide, std::move(pixels)};
 }
 
