@@ -83,9 +83,8 @@ void TrackCommands::TrackTuneBtn()
         StopPlay(canvas);
         const bool changed = ChooseTuneOf(track);
         Tune& tune = At(Shared().Song.Tracks, track).TrackTune;
-        if (changed)
-            tune.TuneWaveValid = false;
         if (changed) { // which stays true where the cycle cannot be rendered
+            tune.TuneWaveValid = false;
             MarkTuneChosen(track);
             canvas.DrawTrackOne(track);
             canvas.window()->update();

@@ -7,9 +7,16 @@ namespace sprout {
 
 namespace {
 
-WantedArtwork BlankArtwork(int kind, qreal pixelRatio)
+/// The background of a row by the kind of its track. name: with a place for the kind's number.
+WantedArtwork RowArtwork(const QString& name, std::int32_t trackType, qreal pixelRatio)
 {
-    return {QStringLiteral("pictures/TrackBlankPic%1").arg(kind), QSize(kTileWidth, kBackgroundHeight), pixelRatio};
+    const int kind = trackType == static_cast<std::int32_t>(TrackKind::Audio) ? 1 : 0;
+    return {name.arg(kind), QSize(kTileWidth, kBackgroundHeight), pixelRatio};
+}
+
+WantedArtwork BlankArtwork(std::int32_t trackType, qreal pixelRatio)
+{
+    return RowArtwork(QStringLiteral("pictures/TrackBlankPic%1"), trackType, pixelRatio);
 }
 
 WantedArtwork TileArtwork(std::int32_t tile, qreal pixelRatio)
@@ -26,15 +33,12 @@ WantedArtwork CanvasArtwork(const char* name, QSize size, qreal pixelRatio)
 
 QPixmap TrackBlankPic(std::int32_t trackType, qreal pixelRatio)
 {
-    const int kind = trackType == static_cast<std::int32_t>(TrackKind::Audio) ? 1 : 0;
-    return Artwork(BlankArtwork(kind, pixelRatio));
+    return Artwork(BlankArtwork(trackType, pixelRatio));
 }
 
 QPixmap TrackPlainPic(std::int32_t trackType, qreal pixelRatio)
 {
-    const int kind = trackType == static_cast<std::int32_t>(TrackKind::Audio) ? 1 : 0;
-    return CanvasPicture(kind == 1 ? "TrackPlainPic1" : "TrackPlainPic0", QSize(kTileWidth, kBackgroundHeight),
-                         pixelRatio);
+    return Artwork(RowArtwork(QStringLiteral("pictures/TrackPlainPic%1"), trackType, pixelRatio));
 }
 
 QPixmap TrackDrawnPic(std::int32_t tile, qreal pixelRatio)
@@ -58,7 +62,7 @@ std::vector<WantedArtwork> CanvasArtworks(qreal pixelRatio)
     std::vector<WantedArtwork> artworks{CanvasArtwork("TimeSlide", kTimeSlideSize, pixelRatio),
                                         CanvasArtwork("Meadow", kMeadowTileSize, pixelRatio),
                                         CanvasArtwork("Hills", kHillsTileSize, pixelRatio),
-                                        BlankArtwork(0, pixelRatio),
+                                        BlankArtwork(static_cast<std::int32_t>(TrackKind::Music), pixelRatio),
                                         CanvasArtwork("DeleteButtonPic", kDeleteButtonPicSize, pixelRatio),
                                         CanvasArtwork("PlayPic", kPlayPicSize, pixelRatio)};
     for (std::int32_t tile = 1; tile <= kMusicTiles; ++tile)
