@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstring>
 #include <exception>
+#include <new>
 #include <span>
 
 #include "core/Errors.h"
@@ -147,6 +148,8 @@ PlayResult PlayDllClass::WriteWaveMemo(const WaveData& wave, PlayNow playNow, Lo
     } catch (const std::exception& error) {
         Raise(ErrorText(error), "Play Wave error");
         SendStatus("Failed to play");
+        if (dynamic_cast<const std::bad_alloc*>(&error))
+            throw; // the sound is well, so the user is told
     }
     return result;
 }

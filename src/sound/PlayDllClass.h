@@ -24,8 +24,8 @@ enum class PlayResult {
 
 /// The player: fills the shared play buffer with a wave as a whole WAV file and plays it.
 ///
-/// No operation throws: a failure raises `MsgBoxOb` with its words and a title, and the operation ends. All calls come
-/// from the interface thread.
+/// A failure raises `MsgBoxOb` with its words and a title, and the operation ends. No operation throws, except
+/// `WriteWaveMemo` where memory runs out. All calls come from the interface thread.
 class PlayDllClass {
 public:
     PlayDllClass() = default;
@@ -48,7 +48,7 @@ public:
     void UpdatePlayPosition();
     void PlayPause();
     /// Fills the play buffer with `wave` and plays it. Behind a wave that does not loop stand 50 ms more, which hold
-    /// what an earlier, longer play left there.
+    /// what an earlier, longer play left there. Throws std::bad_alloc behind the event and the status of a failure.
     PlayResult WriteWaveMemo(const WaveData& wave, PlayNow playNow, Loop loop);
 
     /// What the sound output raises: a prompt of "S2" needs nothing, any other one is shown with its title.

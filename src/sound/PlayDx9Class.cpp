@@ -2,6 +2,7 @@
 #include "sound/PlayDx9Class.h"
 
 #include <exception>
+#include <new>
 #include <span>
 #include <string>
 #include <utility>
@@ -25,6 +26,8 @@ bool PlayDx9Class::PlayMe(Loop loop)
 {
     try {
         return PlayBufferOnDevice(loop);
+    } catch (const std::bad_alloc&) {
+        throw; // the device is well
     } catch (const std::exception&) {
         // The caller tells of it in its own words.
         return false;

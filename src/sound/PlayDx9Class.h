@@ -22,7 +22,8 @@ public:
     /// Stops the sound, without a status.
     ~PlayDx9Class();
 
-    /// Stops the sound in play and plays the buffer from its beginning. False where no device could be opened.
+    /// Stops the sound in play and plays the buffer from its beginning. False where no device could be opened. Throws
+    /// std::bad_alloc.
     [[nodiscard]] bool PlayMe(Loop loop);
     /// Goes on where `PlayPause` stopped, looping as the last play was asked to.
     void PlayContinue();

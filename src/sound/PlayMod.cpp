@@ -5,6 +5,7 @@
 #include <cmath>
 #include <exception>
 #include <memory>
+#include <new>
 #include <string>
 
 #include "core/Errors.h"
@@ -149,11 +150,16 @@ void PlayWaveTrack(const WaveData& wave, std::int32_t track, std::int32_t startC
         return;
     play.PlayStartPos = startCell;
     play.PlayTempo = Shared().Song.Tempo;
-    Play(wave, PlayKind::SongOrTrack, track, loop);
-    ShowOnMainWindow(track == kWholeSong ? "Playing All" : "Playing Track " + std::to_string(track));
     // No timer will find the end of a play that has not begun, and hover play waits for the 0.
-    if (!HasBegun())
-        play.PlayingTrack = 0;
+    const auto settle = [&play] { play.PlayingTrack = HasBegun() ? play.PlayingTrack : 0; };
+    try {
+        Play(wave, PlayKind::SongOrTrack, track, loop);
+    } catch (const std::bad_alloc&) {
+        settle();
+        throw;
+    }
+    settle();
+    ShowOnMainWindow(track == kWholeSong ? "Playing All" : "Playing Track " + std::to_string(track));
 }
 
 void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view status, Loop loop)

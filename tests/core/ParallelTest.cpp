@@ -3,11 +3,15 @@
 
 #include <gtest/gtest.h>
 
+#include <pthread.h>
+
 #include <atomic>
+#include <cstddef>
 #include <mutex>
 #include <set>
 #include <stdexcept>
 #include <string>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -55,6 +59,41 @@ TEST(ParallelFor, LeavesTheRestWhereTheProgressThrows)
         EXPECT_LT(done, pieces);
         EXPECT_GE(done, 1U);
     }
+}
+
+/// Lets no thread start: each would need more memory than there are addresses.
+class NoMoreThreads {
+public:
+    NoMoreThreads()
+    {
+        pthread_getattr_default_np(&before);
+        pthread_attr_t attributes = before;
+        pthread_attr_setstacksize(&attributes, std::size_t{1} << 50);
+        pthread_setattr_default_np(&attributes);
+    }
+    NoMoreThreads(const NoMoreThreads&) = delete;
+    NoMoreThreads& operator=(const NoMoreThreads&) = delete;
+    ~NoMoreThreads() { pthread_setattr_default_np(&before); }
+
+private:
+    pthread_attr_t before{};
+};
+
+TEST(ParallelFor, DoesAllOfItOnOneThreadWhereNoOtherCanStart)
+{
+    const NoMoreThreads none;
+    EXPECT_THROW(std::jthread([] {}), std::system_error);
+    std::set<std::thread::id> workers;
+    std::vector<int> done(50);
+    ParallelFor(
+        done.size(),
+        [&](std::size_t i) {
+            workers.insert(std::this_thread::get_id());
+            ++done[i];
+        },
+        {}, 7);
+    EXPECT_EQ(done, std::vector<int>(50, 1));
+    EXPECT_EQ(workers, std::set{std::this_thread::get_id()});
 }
 
 TEST(ParallelFor, ThrowsTheErrorOfTheLowestPieceAfterAllAreDone)

@@ -4,7 +4,9 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <stop_token>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "core/Settings.h"
@@ -165,6 +167,28 @@ TEST_F(AudioTrackCommandsTest, BelievesNoHeadThatLies)
     EXPECT_THAT(told, ElementsAre("No wave Data found in file|"));
     ExpectUnchanged();
     EXPECT_THAT(services.messages.shown, IsEmpty());
+}
+
+TEST_F(AudioTrackCommandsTest, MeasuresAFileAnewThatChangesBehindItsHead)
+{
+    SaveWaveFile(WaveOf(500), In("Short.wav"));
+    SaveWaveFile(WaveOf(121 * 11025), In("Long.wav"));
+    fs::create_hard_link(In("Short.wav"), In("Voice.wav"));
+    const std::jthread other([this](const std::stop_token& stop) {
+        for (bool isLong = true; !stop.stop_requested(); isLong = !isLong) {
+            fs::create_hard_link(In(isLong ? "Long.wav" : "Short.wav"), In("Next.wav"));
+            fs::rename(In("Next.wav"), In("Voice.wav"));
+        }
+    });
+    for (int i = 0; i < 50; ++i) {
+        AddFile(In("Voice.wav"));
+        if (song.TrackCount == 4)
+            EXPECT_EQ(At(song.Tracks, 4).TrackAudio.Length, 500);
+        else
+            EXPECT_THAT(told, ElementsAre(kTooLong));
+        song.TrackCount = 3;
+        song.Tracks.resize(4);
+    }
 }
 
 TEST_F(AudioTrackCommandsTest, ConvertsOtherSounds)

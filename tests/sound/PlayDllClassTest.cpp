@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "sound/PlayTest.h"
 #include "sound/WavOperations.h"
 
@@ -188,6 +190,15 @@ TEST_F(PlayDllTest, ASampleBeyond8BitsEndsThePlayCallWithWords)
     EXPECT_EQ(raised, Calls({"S2|Writing to Play Buffer", "A sample does not fit into 8 bits.|Play Wave error",
                              "S2|Failed to play"}));
     EXPECT_EQ(sound.calls, Calls());
+}
+
+TEST_F(PlayDllTest, MemoryThatRunsOutIsToldAndPasses)
+{
+    sound.memoryFails = true;
+    Listen();
+    EXPECT_THROW(Player().WriteWaveMemo(CountingWave(1), PlayNow::Yes, Loop::No), std::bad_alloc);
+    EXPECT_EQ(raised, Calls({"S2|Writing to Play Buffer", "There is not enough memory.|Play Wave error",
+                             "S2|Failed to play"}));
 }
 
 TEST_F(PlayDllTest, ARunTimeErrorLeavesThePlayBefore)

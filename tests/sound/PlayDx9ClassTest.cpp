@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "sound/PlayTest.h"
 
 namespace sprout {
@@ -87,9 +89,18 @@ TEST_F(PlayDx9Test, AFailedPlayEndsTheOneBefore)
 
 TEST_F(PlayDx9Test, ARunTimeErrorMakesAPlayFail)
 {
-    sound.memoryFails = true;
+    sound.driverFails = true;
     EXPECT_FALSE(backEnd.PlayMe(Loop::No));
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
+}
+
+TEST_F(PlayDx9Test, MemoryThatRunsOutIsNoFailureOfTheDevice)
+{
+    sound.memoryFails = true;
+    EXPECT_THROW(static_cast<void>(backEnd.PlayMe(Loop::No)), std::bad_alloc);
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    sound.memoryFails = false;
+    EXPECT_TRUE(backEnd.PlayMe(Loop::No));
 }
 
 TEST_F(PlayDx9Test, PauseAndContinueGoOnAtThePlaceReached)

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+
 #include "core/Errors.h"
 #include "sound/PlayTest.h"
 #include "sound/WavOperations.h"
@@ -149,6 +151,16 @@ TEST_F(PlayModTest, TrackMinus1IsTheWholeSong)
 TEST_F(PlayModTest, ATrackThatDoesNotBeginIsNoPlayingTrack)
 {
     PlayWaveTrack(EmptyWave(), 4, 17, Loop::No);
+    EXPECT_EQ(play.PlayState, PlayState::Stopped);
+    EXPECT_EQ(play.PlayingTrack, 0);
+    EXPECT_EQ(display.status, "Ready");
+    EXPECT_EQ(display.timersEnabled, 0);
+}
+
+TEST_F(PlayModTest, ATrackThatMemoryRunsOutForIsNoPlayingTrack)
+{
+    sound.memoryFails = true;
+    EXPECT_THROW(PlayWaveTrack(CountingWave(10), 4, 17, Loop::No), std::bad_alloc);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
     EXPECT_EQ(play.PlayingTrack, 0);
     EXPECT_EQ(display.status, "Ready");

@@ -84,9 +84,10 @@ void DrawBeatWindowSheets(const QString& folder)
     TheServices().pictures = &pictures;
     MakeProgramPictures();
 
+    Shared().UserBeats = AsFolder("/home/child/Documents/Tonquill Sprout Painter/Beats");
+    DrawBeats(folder + QStringLiteral("/beats-none.png"), {});
     const QTemporaryDir beats;
     Shared().UserBeats = AsFolder(beats.path().toStdString());
-    DrawBeats(folder + QStringLiteral("/beats-none.png"), {});
     const fs::path library = fs::path(QApplication::applicationDirPath().toStdString()) / "Sprout" / "Beats";
     if (fs::is_directory(library))
         fs::copy(library, fs::path(beats.path().toStdString()));

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Draws sheets of all buttons, artworks and dialogs, as they look on a screen of a given scale.
 #include <QApplication>
+#include <QCryptographicHash>
 #include <QDir>
 #include <QDirIterator>
+#include <QImage>
 #include <QLabel>
 #include <QPainter>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <functional>
@@ -312,8 +315,25 @@ namespace {
 
 constexpr const char* kUsage = "usage: sprout-pictures SCALE FOLDER [SONG]\n"
                                "       sprout-pictures --window PICTURE SONG\n"
+                               "       sprout-pictures --pixels PICTURE...\n"
                                "Draws buttons, artworks, dialogs and, with a song, the main window, for example at the "
-                               "scale 2; or the\nmain window alone.\n";
+                               "scale 2; or the\nmain window alone; or tells a hash of each picture's pixels, its size "
+                               "and its name.\n";
+
+/// Prints a line of the picture; false where it cannot be read.
+bool TellPixels(const QString& path)
+{
+    const QImage image = QImage(path).convertToFormat(QImage::Format_ARGB32);
+    if (image.isNull()) {
+        std::fprintf(stderr, "%s is no picture.\n", qPrintable(path));
+        return false;
+    }
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (int y = 0; y < image.height(); ++y)
+        hash.addData(QByteArrayView(image.constScanLine(y), image.width() * 4));
+    std::printf("%s %dx%d %s\n", hash.result().toHex().constData(), image.width(), image.height(), qPrintable(path));
+    return true;
+}
 
 void StartOffscreen(const char* scale)
 {
@@ -340,6 +360,10 @@ void DrawAllSheets(const QString& folder)
 
 int main(int argc, char** argv)
 {
+    if (argc > 2 && std::string_view(argv[1]) == "--pixels")
+        return std::all_of(argv + 2, argv + argc, [](const char* path) { return TellPixels(QFile::decodeName(path)); })
+                   ? 0
+                   : 1;
     const bool windowAlone = argc == 4 && std::string_view(argv[1]) == "--window";
     if (argc != 3 && argc != 4) {
         std::fputs(kUsage, stderr);

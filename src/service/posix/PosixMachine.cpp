@@ -19,10 +19,9 @@ constexpr std::uint64_t kBytesPerKibibyte = 1024;
 
 }
 
-MemoryStatus PosixMachine::GlobalMemoryStatus() const
+MemoryStatus ReadMemoryStatus(std::istream& facts)
 {
     MemoryStatus status;
-    std::ifstream facts("/proc/meminfo");
     std::string name;
     std::string rest;
     for (std::uint64_t kibibytes = 0; facts >> name >> kibibytes; std::getline(facts, rest)) {
@@ -35,6 +34,12 @@ MemoryStatus PosixMachine::GlobalMemoryStatus() const
         status.LoadPercent =
             100 - static_cast<int>(std::min(status.AvailableBytes, status.TotalBytes) * 100 / status.TotalBytes);
     return status;
+}
+
+MemoryStatus PosixMachine::GlobalMemoryStatus() const
+{
+    std::ifstream facts("/proc/meminfo");
+    return ReadMemoryStatus(facts);
 }
 
 fs::path PosixMachine::TempPath() const

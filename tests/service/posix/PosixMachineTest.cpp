@@ -5,7 +5,7 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
+#include <sstream>
 #include <string>
 
 namespace sprout {
@@ -21,23 +21,24 @@ TEST(PosixMachine, KnowsItsMemory)
     EXPECT_LE(memory.LoadPercent, 100);
 }
 
-/// A line of the system's facts about its memory, in bytes.
-std::uint64_t BytesTold(const std::string& name)
+TEST(PosixMachine, TellsWhatProgramsCanGetInBytesAndTheLoadInPercent)
 {
-    std::ifstream facts("/proc/meminfo");
-    std::string line;
-    while (std::getline(facts, line))
-        if (line.starts_with(name + ":"))
-            return std::stoull(line.substr(name.size() + 1)) * 1024;
-    return 0;
+    std::istringstream facts("MemTotal:        4000000 kB\n"
+                             "MemFree:          300000 kB\n"
+                             "MemAvailable:    1000000 kB\n"
+                             "Buffers:           20000 kB\n");
+    const MemoryStatus memory = ReadMemoryStatus(facts);
+    EXPECT_EQ(memory.TotalBytes, 4'000'000ULL * 1024);
+    EXPECT_EQ(memory.AvailableBytes, 1'000'000ULL * 1024);
+    EXPECT_EQ(memory.LoadPercent, 75);
 }
 
-TEST(PosixMachine, TellsBytesAndTheLoadInPercentOfThem)
+TEST(PosixMachine, KnowsNoLoadWhereTheSystemTellsNothing)
 {
-    const MemoryStatus memory = PosixMachine().GlobalMemoryStatus();
-    EXPECT_EQ(memory.TotalBytes, BytesTold("MemTotal"));
-    EXPECT_EQ(memory.AvailableBytes % 1024, 0U);
-    EXPECT_EQ(memory.LoadPercent, 100 - static_cast<int>(memory.AvailableBytes * 100 / memory.TotalBytes));
+    std::istringstream nothing;
+    const MemoryStatus memory = ReadMemoryStatus(nothing);
+    EXPECT_EQ(memory.TotalBytes, 0U);
+    EXPECT_EQ(memory.LoadPercent, MemoryStatus().LoadPercent);
 }
 
 TEST(PosixMachine, NamesTheTempFolderOfTheEnvironment)
