@@ -13,7 +13,7 @@
 #include "service/WmaEncoder.h"
 #include "songs/SongExport.h"
 #include "sound/TrackRender.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

@@ -21,8 +21,8 @@
 #include "service/Screen.h"
 #include "service/Services.h"
 #include "service/ffmpeg/FfmpegWmaEncoder.h"
+#include "service/posix/LargePages.h"
 #include "service/posix/PosixFiles.h"
-#include "service/stretch/StretchService.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/Mixer.h"
 #include "sound/RenderThreads.h"
@@ -30,8 +30,9 @@
 #include "sound/StretchWave.h"
 #include "sound/TrackRender.h"
 #include "sound/TuneRender.h"
-#include "sound/WavOperations.h"
+#include "stretch/StretchService.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 
@@ -280,6 +281,7 @@ int Run(int argc, char** argv)
     PosixFiles files;
     const std::unique_ptr<Stretch> stretch = MakeStretch();
     FfmpegWmaEncoder wma;
+    LargePages::UseFromNowOn();
     TheServices() = {.messages = &messages, .screen = &screen, .files = &files, .stretch = stretch.get(), .wma = &wma};
     const std::vector<std::string_view> words(argv + 1, argv + argc);
     if (words.size() == 1 && words[0] == "--memory")

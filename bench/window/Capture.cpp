@@ -20,6 +20,7 @@
 #include "app/sound/MachineCapture.h"
 #include "recording/Recd_Mod.h"
 #include "service/Services.h"
+#include "service/posix/LargePages.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/pulse/PulseSoundOutput.h"
@@ -168,17 +169,17 @@ void Bench::MeasureMeter()
     const std::string ramp = RampBytes(4410);
     const auto* const bytes = reinterpret_cast<const std::byte*>(ramp.data());
     PulseSoundOutput output;
-    SoundHandle sound = output.Service02(nullptr, 0, format, static_cast<std::int32_t>(ramp.size()));
+    SoundHandle sound = output.Open(nullptr, 0, format, static_cast<std::int32_t>(ramp.size()));
     Need(sound != nullptr);
-    sound->Service06({bytes, ramp.size()});
+    sound->Load({bytes, ramp.size()});
     std::vector<double> figures;
     for (int i = 0; i < kPlays; ++i) {
         Need(Comes([this] { return capture.Peaks().Left == 0; }));
         const auto begun = Clock::now();
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         Need(Comes([this] { return capture.Peaks().Left > 0; }));
         figures.push_back(MillisecondsSince(begun));
-        Need(Comes([&] { return !sound->Service07().Playing; }));
+        Need(Comes([&] { return !sound->Place().Playing; }));
     }
     capture.Release();
     Print("play to meter", figures);
@@ -242,6 +243,7 @@ int Run(int seconds, int busyLoops)
 {
     PosixFiles files;
     PosixMachine machine;
+    LargePages::UseFromNowOn();
     TheServices().files = &files;
     TheServices().machine = &machine;
     Bench bench;

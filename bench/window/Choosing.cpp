@@ -21,13 +21,14 @@
 #include "core/Shared.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"
+#include "service/posix/LargePages.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/qt/QtPictureFiles.h"
 #include "service/sdl/SdlSoundOutput.h"
-#include "service/stretch/StretchService.h"
 #include "sound/PlayMod.h"
 #include "sound/StepCache.h"
+#include "stretch/StretchService.h"
 #include "tune_window/OpenTuneWindow.h"
 #include "tune_window/TunFramPic.h"
 #include "tune_window/TuneFrm2.h"
@@ -218,6 +219,7 @@ void MeasureAll(const fs::path& installed)
     SdlSoundOutput sound;
     TuneWindowDisplay display;
     const auto stretch = MakeStretch();
+    LargePages::UseFromNowOn();
     TheServices() = {.messages = &messages,
                      .screen = &screen,
                      .files = &files,

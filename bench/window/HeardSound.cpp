@@ -108,14 +108,14 @@ void AddBehind(const std::vector<CursorMoment>& cursors, const std::vector<Heard
 void PlayOnce(SoundObject& sound, Ear& ear, std::chrono::milliseconds length, Figures& figures)
 {
     const auto played = Clock::now();
-    sound.Service04(StartFrom::Beginning, Loop::Yes);
+    sound.Start(StartFrom::Beginning, Loop::Yes);
     std::vector<CursorMoment> cursors;
     while (Clock::now() < played + length) {
-        cursors.push_back({Clock::now(), sound.Service07().Cursor});
+        cursors.push_back({Clock::now(), sound.Place().Cursor});
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
     }
     const auto stopped = Clock::now();
-    sound.Service05();
+    sound.Stop();
     std::this_thread::sleep_for(kUntilSilence);
     const std::vector<HeardMoment> heard = ear.Take();
     if (heard.empty())
@@ -139,10 +139,10 @@ int Run(std::chrono::milliseconds length)
         return 1;
     const Bytes samples = NumberedFrames(format, 10 * format.Rate);
     PulseSoundOutput output;
-    const SoundHandle sound = output.Service02(nullptr, 0, format, static_cast<std::int32_t>(samples.size()));
+    const SoundHandle sound = output.Open(nullptr, 0, format, static_cast<std::int32_t>(samples.size()));
     if (!sound)
         return 1;
-    sound->Service06(samples);
+    sound->Load(samples);
     TestRecording recording(server);
     Ear ear;
     recording.SetListener([&ear](const Bytes& piece) { ear.Hear(piece); });

@@ -24,13 +24,14 @@
 #include "main_window/TransportCommands.h"
 #include "service/Messages.h"
 #include "service/Services.h"
+#include "service/posix/LargePages.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixMachine.h"
 #include "service/pulse/PulseSound.h"
 #include "service/pulse/PulseSoundOutput.h"
-#include "service/stretch/StretchService.h"
 #include "sound/PlayMod.h"
 #include "sound/StepCache.h"
+#include "stretch/StretchService.h"
 #include "ui/Look.h"
 #include "ui/ProgramPictures.h"
 #include "ui/QtScreen.h"
@@ -57,10 +58,10 @@ public:
 /// The sound server's output, which lets the newest sound be looked at.
 class WatchedOutput : public PulseSoundOutput {
 public:
-    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t window, const SoundFormat& format,
-                                        std::int32_t bufferBytes) override
+    [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t window, const SoundFormat& format,
+                                   std::int32_t bufferBytes) override
     {
-        SoundHandle sound = PulseSoundOutput::Service02(std::move(old), window, format, bufferBytes);
+        SoundHandle sound = PulseSoundOutput::Open(std::move(old), window, format, bufferBytes);
         newest = static_cast<PulseSound*>(sound.get());
         return sound;
     }
@@ -226,6 +227,7 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     sprout::ApplyLook(application);
+    sprout::LargePages::UseFromNowOn();
     sprout::Bench().Run();
     return 0;
 }

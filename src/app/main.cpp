@@ -8,27 +8,30 @@
 #include <future>
 #include <memory>
 
+#include "app/OpenMainWindow.h"
+#include "app/ProgramWindows.h"
 #include "app/sound/MachineCapture.h"
 #include "app/sound/MachineSound.h"
 #include "app/start/StartUp.h"
+#include "core/Paths.h"
 #include "main_window/MainFrm.h"
-#include "main_window/OpenMainWindow.h"
 #include "main_window/TransportCommands.h"
 #include "service/Services.h"
 #include "service/ffmpeg/FfmpegWmaEncoder.h"
 #include "service/ffmpeg/SoundChild.h"
 #include "service/fontconfig/FontList.h"
 #include "service/posix/EndSignals.h"
+#include "service/posix/LargePages.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixFolderCopies.h"
 #include "service/posix/PosixMachine.h"
 #include "service/posix/PosixPrivateFolders.h"
 #include "service/qt/QtPictureFiles.h"
-#include "service/stretch/StretchService.h"
 #include "service/xdg/XdgDesktop.h"
 #include "service/xdg/XdgMail.h"
 #include "songs/SongKeeper.h"
 #include "sound/PlayMod.h"
+#include "stretch/StretchService.h"
 #include "ui/Look.h"
 #include "ui/ProgramPictures.h"
 #include "ui/QtMessages.h"
@@ -51,6 +54,7 @@ class ProgramServices {
 public:
     ProgramServices()
     {
+        LargePages::UseFromNowOn();
         TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
         TheServices().wma = &wma;
         TheServices().mail = &mail;
@@ -81,7 +85,8 @@ private:
     FfmpegWmaEncoder wma;
     XdgMail mail;
     PosixPrivateFolders privateFolders;
-    SoundChild soundReader{machine.ExecutablePath().parent_path() / "sprout-read-sound"};
+    SoundChild soundReader{machine.ExecutablePath().parent_path() / "sprout-read-sound",
+                           [] { return NewTempFileName("wav"); }};
 };
 
 /// Keeps the song where the system ends the program, by a signal or with the session, and ends the event loops.
@@ -133,6 +138,8 @@ int RunProgram(QApplication& application)
     pictures.get();
     services.CountSoundDevicesAhead(); // behind the pictures: many machines have two cores
     RunStartUp();
+    ProgramWindows windows;
+    const ProvidedWindows provided(windows);
     MainFrm window(services.transport);
     services.screen.SetProcessPic(&window.WorkingSign());
     services.screen.SetTuneNotFilledTimer([&window] { window.EnableTuneNotFilledTimer(); });

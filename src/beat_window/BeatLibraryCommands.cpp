@@ -3,19 +3,20 @@
 #include <filesystem>
 #include <optional>
 
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Product.h"
+#include "base/ScaledPicture.h"
 #include "beat_window/BeatWindow.h"
-#include "beat_window/rules/BeatCommands.h"
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "beats/BeatCommands.h"
+#include "beats/BeatFiles.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "sound/ChosenSound.h"
-#include "sound/WavOperations.h"
-#include "tunes/BeatFiles.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/QtText.h"
-#include "ui/rules/ScaledPicture.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

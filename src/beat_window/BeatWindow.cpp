@@ -9,9 +9,9 @@
 #include <exception>
 #include <vector>
 
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Busy.h"
-#include "core/Errors.h"
-#include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Messages.h"
 #include "sound/PlayMod.h"
@@ -25,6 +25,8 @@ namespace sprout {
 
 namespace {
 
+constexpr std::int32_t kBeatColumns = 12;
+constexpr std::int32_t kFewestBeatRows = 8;
 constexpr int kBeatMargin = 16;
 constexpr int kBeatNoteTop = 8;
 constexpr int kBeatNoteHeight = 26;
@@ -133,9 +135,9 @@ void BeatWindow::MakeMoveMnu()
     PopPosiMnu = new QMenu(this);
     PopPosiMnu->setObjectName(QStringLiteral("PopPosiMnu"));
     for (std::size_t i = 0; i < MoveMnu.size(); ++i) {
-        MoveMnu[i] = PopPosiMnu->addAction(QtText(kBeatMoveCaptions[i]));
+        MoveMnu[i] = PopPosiMnu->addAction(QtText(kGridMoveCaptions[i]));
         connect(MoveMnu[i], &QAction::triggered, this,
-                [this, i] { Guarded([this, i] { MoveSelected(static_cast<BeatMove>(i)); }); });
+                [this, i] { Guarded([this, i] { MoveSelected(static_cast<GridMove>(i)); }); });
     }
 }
 
@@ -144,7 +146,11 @@ int BeatWindow::FittingRows() const
 {
     const int frameHeight = PictureGridPic::FrameSize(kBeatColumns, 0).height();
     const int beside = kBandHeight + kBeatGridTop + frameHeight + OkBtn->height() + 2 * kBeatRowGap;
-    return BeatGridRows(table.BeatListCount, screen()->availableGeometry().height() - beside);
+    return FittingGridRows({.count = table.BeatListCount,
+                            .columns = kBeatColumns,
+                            .wantedRows = kFewestBeatRows,
+                            .roomPx = screen()->availableGeometry().height() - beside,
+                            .fewestRows = kFewestBeatRows});
 }
 
 void BeatWindow::PlaceControls(int rows)
@@ -268,14 +274,21 @@ void BeatWindow::PressGrid(int index, Qt::MouseButton button, QPoint at)
 void BeatWindow::OpenMoveMnu(QPoint at)
 {
     for (std::size_t i = 0; i < MoveMnu.size(); ++i)
-        MoveMnu[i]->setEnabled(MoveTarget(table, static_cast<BeatMove>(i)) != 0);
+        MoveMnu[i]->setEnabled(MoveTarget(static_cast<GridMove>(i)) != 0);
     PopPosiMnu->popup(at);
 }
 
-void BeatWindow::MoveSelected(BeatMove move)
+std::int32_t BeatWindow::MoveTarget(GridMove move) const
 {
-    if (!MoveBeat(table, move))
+    return GridMoveTarget(move, table.SelectedBeat, table.BeatListCount, kBeatColumns);
+}
+
+void BeatWindow::MoveSelected(GridMove move)
+{
+    const std::int32_t target = MoveTarget(move);
+    if (target == 0)
         return;
+    MoveBeatTo(table, target);
     FillGrid();
     RefreshShowAllPic();
 }

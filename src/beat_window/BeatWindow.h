@@ -9,9 +9,10 @@
 
 #include "beat_window/ChoosenPicture.h"
 #include "beat_window/NameLabel.h"
-#include "beat_window/rules/BeatTable.h"
+#include "beats/BeatTable.h"
 #include "ui/BandedForm.h"
 #include "ui/PictureGridPic.h"
+#include "ui/rules/PictureGrid.h"
 
 namespace sprout {
 
@@ -57,7 +58,8 @@ private:
 
     void PressGrid(int index, Qt::MouseButton button, QPoint at);
     void OpenMoveMnu(QPoint at);
-    void MoveSelected(BeatMove move);
+    [[nodiscard]] std::int32_t MoveTarget(GridMove move) const;
+    void MoveSelected(GridMove move);
     void PlaySelectedBeat();
     void ClickPlay();
     void ClickOk();
@@ -86,7 +88,7 @@ private:
     ImageButton* DeleteBtn = nullptr;
     ImageButton* HelpBtn = nullptr;
     QMenu* PopPosiMnu = nullptr;
-    std::array<QAction*, kBeatMoveCaptions.size()> MoveMnu{};
+    std::array<QAction*, kGridMoveCaptions.size()> MoveMnu{};
 };
 
 } // namespace sprout

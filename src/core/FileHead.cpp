@@ -9,10 +9,11 @@
 #include <span>
 #include <vector>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
+#include "base/Product.h"
+#include "base/Text.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "service/Services.h"
 
 namespace sprout {

@@ -7,8 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "core/ByteCursor.h"
-#include "core/Longs.h"
+#include "base/ByteCursor.h"
+#include "base/Longs.h"
 #include "service/Files.h"
 
 namespace sprout {

@@ -6,10 +6,11 @@
 #include <span>
 #include <stdexcept>
 
-#include "core/ByteCursor.h"
-#include "core/Errors.h"
+#include "base/ByteCursor.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
 #include "core/Paths.h"
-#include "core/Text.h"
 #include "service/Files.h"
 #include "service/Services.h"
 

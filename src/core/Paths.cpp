@@ -9,11 +9,12 @@
 #include <system_error>
 #include <vector>
 
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/FolderFiles.h"
+#include "base/Text.h"
 #include "core/Busy.h"
-#include "core/Errors.h"
-#include "core/FolderFiles.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "service/Desktop.h"
 #include "service/Files.h"
 #include "service/FolderCopies.h"
@@ -85,20 +86,6 @@ void MakeUserFolderAgain(const fs::path& folder)
 
 } // namespace
 
-fs::path AsFolder(const fs::path& folder)
-{
-    return folder.empty() || !folder.has_filename() ? folder : folder / "";
-}
-
-fs::path NamedFile(const fs::path& folder, std::string_view name, std::string_view extension)
-{
-    const bool leadsOut = name.find(fs::path::preferred_separator) != std::string_view::npos ||
-                          name.find('/') != std::string_view::npos || name.find('\0') != std::string_view::npos;
-    if (leadsOut || Trim(name).empty())
-        return {};
-    return folder.native() + std::string(name) + std::string(extension);
-}
-
 fs::path FindFile(const fs::path& path)
 {
     if (!NamesAnything(path))
@@ -110,15 +97,6 @@ fs::path FindFile(const fs::path& path)
         if (LowerCase(entry.path().filename().native()) == wanted && IsPlainFile(entry.path()))
             return entry.path();
     return {};
-}
-
-fs::path ThroughLinks(const fs::path& path)
-{
-    std::error_code error;
-    if (!fs::is_symlink(path, error))
-        return path;
-    const fs::path resolved = fs::weakly_canonical(path, error);
-    return error ? path : resolved;
 }
 
 bool FileExists(const fs::path& path)
@@ -152,22 +130,6 @@ std::uint64_t FreeDiskBytes()
     return TheServices().machine->FreeBytes(Shared().TempFolder);
 }
 
-std::string SafeFileName(std::string_view name)
-{
-    std::string safe(name);
-    for (char& c : safe)
-        if (std::string_view("./\\:*?<>\"").find(c) != std::string_view::npos)
-            c = '_';
-    return safe;
-}
-
-std::string ChosenFolder(const fs::path& file)
-{
-    const std::string text = PathText(file);
-    const auto separator = text.find_last_of('/');
-    return separator == std::string::npos || separator == 0 ? std::string() : text.substr(0, separator + 1);
-}
-
 void OpenWithShell(std::string_view target)
 {
     TheServices().desktop->OpenWithShell(target);
@@ -182,14 +144,6 @@ bool CopyFolder(const fs::path& source, const fs::path& destination)
             "Error message", "Following error occurd while copying folder " + PathText(source) + "\r\n" + failure,
             MessageIcon::Exclamation);
     return failure.empty();
-}
-
-bool HoldsFile(const fs::path& folder)
-{
-    const std::vector<fs::directory_entry> entries = EntriesOfFolder(folder);
-    return std::any_of(entries.begin(), entries.end(), [](const fs::directory_entry& entry) {
-        return entry.path().filename().native().front() != '.' && IsPlainFile(entry.path());
-    });
 }
 
 void PrepareToReplace(const fs::path& file)
@@ -234,16 +188,6 @@ std::string FileStamp(const fs::path& path)
     if (!local || std::strftime(text, sizeof text, "%m/%d/%Y,%H:%M:%S", local) == 0)
         return {};
     return text;
-}
-
-std::string BaseName(const fs::path& path)
-{
-    return PathText(path.stem());
-}
-
-std::string PathText(const fs::path& path)
-{
-    return path.native();
 }
 
 } // namespace sprout

@@ -7,10 +7,10 @@
 #include <optional>
 #include <vector>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "core/Paths.h"
-#include "core/Text.h"
 #include "service/Files.h"
 #include "service/Services.h"
 

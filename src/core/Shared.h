@@ -11,11 +11,6 @@
 
 namespace sprout {
 
-inline constexpr std::string_view kAppVersionDate = "Dec 2010";
-inline constexpr std::string_view kProductName = "Tonquill Sprout Painter";
-inline constexpr std::string_view kProductFamily = "Tonquill";
-inline constexpr std::string_view kWebSite = "https://tonquill.example/";
-
 /// Colours of the wave view, 0x00BBGGRR.
 struct WaveViewColours {
     std::int32_t WaveFormNormalColorL = 0x0000FF;

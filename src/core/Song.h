@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "base/Picture.h"
+#include "base/WaveData.h"
 #include "core/FileMark.h"
-#include "core/Picture.h"
-#include "core/WaveData.h"
 
 namespace sprout {
 

@@ -5,7 +5,9 @@
 #include <limits>
 #include <string>
 
-#include "core/Numbers.h"
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Screen.h"
@@ -21,7 +23,7 @@ std::string FreeSongName()
 {
     const std::string first = "Untitled";
     std::string candidate = first;
-    for (int n = 1; FileExists(NamedFile(Shared().UserSongs, candidate, ".TqSng")); ++n)
+    for (int n = 1; FileExists(NamedFile(Shared().UserSongs, candidate, kSongExtension)); ++n)
         candidate = first + " " + std::to_string(n);
     return candidate;
 }

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "ui/Artwork.h"

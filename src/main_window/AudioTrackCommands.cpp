@@ -7,17 +7,17 @@
 #include <system_error>
 #include <utility>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "main_window/rules/TrackList.h"
 #include "sound/ChosenSound.h"
-#include "sound/WavOperations.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
 #include "ui/MessageForms.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

@@ -9,7 +9,7 @@
 #include <functional>
 #include <optional>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 #include "main_window/TrackCanvas.h"
 
 namespace sprout {

@@ -18,6 +18,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/Product.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "main_window/About_Frm.h"
@@ -30,10 +31,6 @@
 #include "main_window/TrackPictures.h"
 #include "main_window/TransportCommands.h"
 #include "main_window/rules/WindowPlace.h"
-#include "recording/AudioEditFrm.h"
-#include "recording/Recd_Frm.h"
-#include "recording/Recd_Mod.h"
-#include "sharing/EmailSong.h"
 #include "sound/PlayMod.h"
 #include "ui/Artwork.h"
 #include "ui/Dialogs.h"
@@ -42,6 +39,7 @@
 #include "ui/Palette.h"
 #include "ui/QtText.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -81,25 +79,6 @@ void ShutSound()
     ReleasePlayer();
 }
 
-std::optional<WaveData> RecordSound()
-{
-    Recd_Frm recorder(WindowInFront());
-    recorder.InitilizeForm();
-    if (!recorder.InitilizeDriver())
-        return std::nullopt;
-    recorder.CaptureStartRemote();
-    return recorder.Ok ? std::optional(TakeRecordedWave()) : std::nullopt;
-}
-
-bool EditTrack(std::int32_t track)
-{
-    AudioEditFrm editor(WindowInFront());
-    editor.UpdateFormWithCurrentTrack(track);
-    editor.ShowModal();
-    Player().UpdatePlayPosition();
-    return editor.TrackWasChanged();
-}
-
 } // namespace
 
 /// A button of the window, in the order of the table; the canvas adds its own behind them.
@@ -122,7 +101,7 @@ const std::array<MainFrm::Row, 17>& MainFrm::Rows()
         {"OpenBtn", "Open", Plate::Tool, [](MainFrm& frm) { frm.songCommands.OpenBtn(); }},
         {"SaveBtn", "Save", Plate::Tool, [](MainFrm& frm) { frm.songCommands.SaveBtn(); }},
         {"SongTitleChgBtn", "Change", Plate::Tool, [](MainFrm& frm) { frm.songCommands.SongTitleChgBtn(); }},
-        {"EmailBtn", "Email song", Plate::Tool, [](MainFrm& frm) { frm.emailSong->EmailBtn(); }},
+        {"EmailBtn", "Email song", Plate::Tool, [](MainFrm& /*frm*/) { TheWindows().EmailSong(); }},
         {"HelpBtn", "Help", Plate::Tool, [](MainFrm&) { ShowHelp(); }},
         {"AboutBtn", "About", Plate::Tool, [](MainFrm& frm) { frm.AboutBtn(); }},
         {"DemoBtn", "Demo", Plate::Tool, [](MainFrm&) { ShowLaterCommand("DemoBtn"); }},
@@ -140,8 +119,7 @@ MainFrm::MainFrm(TransportCommands& transport)
       buttons(*this, AllOffTimer::OffAtFirst),
       watcher(this),
       songCommands(*this, {[this] { ShowNewSong(); }, [this] { UpdateSongTitle(); },
-                           [this](bool opening) { trackCommands->SetOpening(opening); }}),
-      emailSong(new EmailSong(this))
+                           [this](bool opening) { trackCommands->SetOpening(opening); }})
 {
     setObjectName(QStringLiteral("MainFrm"));
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -227,7 +205,9 @@ void MainFrm::MakeCanvas()
     calls.TrackAddRecBtn = [this] { audioTrackCommands->TrackAddRecBtn(); };
     canvas = new TrackCanvas(this, buttons, std::move(calls));
     trackCommands = new TrackCommands(*canvas, this);
-    audioTrackCommands = std::make_unique<AudioTrackCommands>(*canvas, AudioWindows{RecordSound, EditTrack});
+    audioTrackCommands = std::make_unique<AudioTrackCommands>(
+        *canvas, AudioWindows{[] { return TheWindows().RecordSound(); },
+                              [](std::int32_t track) { return TheWindows().EditTrack(track); }});
     transport.SetWindow(*canvas, statusBar->SoundStatusLbl());
 }
 
@@ -451,7 +431,7 @@ void MainFrm::closeEvent(QCloseEvent* event)
 void MainFrm::Unload()
 {
     ShowHint({});
-    emailSong->StopWaiting();
+    TheWindows().StopEmailSong();
     WritePlaceToSettings();
     ShutSound();
 }

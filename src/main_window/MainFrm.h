@@ -18,7 +18,6 @@ namespace sprout {
 
 class ControlBar;
 class EdgeGrip;
-class EmailSong;
 class StatusBar;
 class TitleBand;
 class TrackCanvas;
@@ -91,7 +90,6 @@ private:
     ButtonScheme buttons;
     HintWatcher watcher;
     SongCommands songCommands;
-    EmailSong* emailSong;
     TitleBand* titleBand = nullptr;
     ControlBar* controlBar = nullptr;
     TrackCanvas* canvas = nullptr;

@@ -7,18 +7,19 @@
 #include <string_view>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
-#include "song_window/SongSelFrm.h"
-#include "song_window/rules/SongFiles.h"
 #include "songs/OpenSaveClass.h"
+#include "songs/SongFiles.h"
 #include "sound/PlayMod.h"
 #include "ui/Dialogs.h"
 #include "ui/Hints.h"
 #include "ui/MessageForms.h"
 #include "ui/QtText.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -144,18 +145,16 @@ void SongCommands::OpenBtn()
 
 void SongCommands::OpenChosenSong()
 {
-    SongSelFrm chooser(&window);
-    chooser.InitilizeThisWindow(SongSelMode::Open);
-    chooser.ShowModal();
-    if (!chooser.Ok)
+    const std::optional<std::string> name = TheWindows().ChooseSongToOpen(window);
+    if (!name)
         return;
-    const fs::path file = PlaceOfSong(chooser.ChosenName);
+    const fs::path file = PlaceOfSong(*name);
     if (!FileExists(file)) {
-        ShowMessage("This song is not there any more.", chooser.ChosenName);
+        ShowMessage("This song is not there any more.", *name);
         return;
     }
     OpenSaveClass().Load_Song(file);
-    Shared().Song.SongTitle = chooser.ChosenName;
+    Shared().Song.SongTitle = *name;
     calls.ShowNewSong();
     Shared().Song.SongChanged = false;
 }
@@ -170,13 +169,10 @@ bool SongCommands::SaveUnderChosenName()
 {
     SongState& song = Shared().Song;
     RequireTracks(song);
-    SongSelFrm chooser(&window);
-    chooser.InitilizeThisWindow(SongSelMode::Save);
-    chooser.SetSongName(song.SongTitle);
-    chooser.ShowModal();
-    if (!chooser.Ok)
+    const std::optional<std::string> name = TheWindows().ChooseNameToSave(window, song.SongTitle);
+    if (!name)
         return false;
-    TitleUntilSaved title(chooser.ChosenName);
+    TitleUntilSaved title(*name);
     OpenSaveClass().Save_Song(PlaceOfSong(song.SongTitle));
     title.Keep();
     song.SongChanged = false;

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "main_window/TrackCanvas.h"
-#include "tune_window/OpenTuneWindow.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -18,10 +18,12 @@ class TrackCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// What lets the user choose a tune; see `OpenTuneWindow`.
+    /// What lets the user choose a tune; see `Windows::OpenTuneWindow`.
     using TuneChooser = std::function<bool(Tune& tune, bool& newFlag)>;
 
-    TrackCommands(TrackCanvas& canvas, QObject* parent, TuneChooser chooseTune = OpenTuneWindow);
+    TrackCommands(
+        TrackCanvas& canvas, QObject* parent,
+        TuneChooser chooseTune = [](Tune& tune, bool& newFlag) { return TheWindows().OpenTuneWindow(tune, newFlag); });
 
     void TrackAddBtn();
     void TrackDeleteBtn();

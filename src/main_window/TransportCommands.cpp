@@ -7,19 +7,18 @@
 #include <optional>
 #include <utility>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "main_window/rules/Transport.h"
-#include "recording/AudioEditFrm.h"
 #include "sound/PlayMod.h"
 #include "sound/TrackRender.h"
 #include "sound/TuneRender.h"
-#include "tune_window/OpenTuneWindow.h"
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
 #include "ui/QtText.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -234,7 +233,7 @@ void TransportCommands::EnablePlayPosTimer()
 
 void TransportCommands::UpdateThisTune()
 {
-    sprout::UpdateThisTune();
+    TheWindows().UpdateThisTune();
 }
 
 void TransportCommands::PlayPosTimerTick()
@@ -246,13 +245,13 @@ void TransportCommands::PlayPosTimerTick()
             playPosTimer.stop();
             PlayShared().PlayingTrack = 0;
             PlayIndicatorOff();
-            UpdatePlayPointer();
+            TheWindows().UpdatePlayPointer();
             break;
         case PlayState::Playing:
         case PlayState::PlayingLoop:
             Player().UpdatePlayPosition();
             MovePlayIndicator();
-            UpdatePlayPointer();
+            TheWindows().UpdatePlayPointer();
             break;
         case PlayState::Paused:
             break;

@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Product.h"
 #include "core/Shared.h"
 #include "recording/WavePic.h"
 #include "recording/rules/WavePoints.h"

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 #include "recording/rules/WaveEdits.h"
 #include "recording/rules/WaveSelection.h"
 #include "recording/rules/WaveView.h"

@@ -8,8 +8,9 @@
 #include <system_error>
 #include <utility>
 
+#include "base/Errors.h"
+#include "base/Product.h"
 #include "core/Busy.h"
-#include "core/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "recording/Recd_Mod.h"

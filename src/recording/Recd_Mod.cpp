@@ -9,8 +9,8 @@
 #include <system_error>
 #include <utility>
 
-#include "core/ByteCursor.h"
-#include "core/Parallel.h"
+#include "base/ByteCursor.h"
+#include "base/Parallel.h"
 #include "core/Paths.h"
 
 namespace sprout {

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <filesystem>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 
 namespace sprout {
 

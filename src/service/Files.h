@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 

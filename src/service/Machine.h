@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <filesystem>
 
@@ -29,8 +28,6 @@ public:
     [[nodiscard]] virtual std::filesystem::path ExecutablePath() const = 0;
     /// Bytes that the user may still fill on the volume of `path`; 0 if the question fails.
     [[nodiscard]] virtual std::uint64_t FreeBytes(const std::filesystem::path& path) const = 0;
-    /// Asks for large pages for memory that was not touched yet, so that it is soon there. May do nothing; any thread.
-    virtual void PreferLargePages(void* memory, std::size_t bytes) const = 0;
 };
 
 } // namespace sprout

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <vector>
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 
 namespace sprout {
 

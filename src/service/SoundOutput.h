@@ -6,20 +6,12 @@
 #include <memory>
 #include <span>
 
+#include "base/SoundFormat.h"
+
 namespace sprout {
 
 enum class Loop { No, Yes };
 enum class StartFrom { Beginning, WhereItStopped };
-
-/// Form of PCM samples: 8 bits unsigned or 16 bits signed with the low byte first; stereo interleaved, left first.
-struct SoundFormat {
-    std::int32_t Channels = 2; ///< 1 or 2
-    std::int32_t Rate = 44100; ///< frames a second: 11025, 22050 or 44100
-    std::int32_t Bits = 16;    ///< 8 or 16
-
-    [[nodiscard]] std::int32_t FrameBytes() const { return Channels * Bits / 8; }
-    friend bool operator==(const SoundFormat&, const SoundFormat&) = default;
-};
 
 /// Where a sound object stands.
 struct SoundPlace {
@@ -29,7 +21,7 @@ struct SoundPlace {
 
 /// A sound that is open on an output device. It plays on its own, in a thread of the device.
 ///
-/// A device that is lost while it plays tells of it in `Service07` alone: the sound has then ended.
+/// A device that is lost while it plays tells of it in `Place` alone: the sound has then ended.
 class SoundObject {
 public:
     SoundObject() = default;
@@ -39,15 +31,15 @@ public:
     virtual ~SoundObject() = default;
 
     /// Copies `pcm` to the beginning of the sound and stops it. Throws std::bad_alloc.
-    virtual void Service06(std::span<const std::byte> pcm) = 0;
+    virtual void Load(std::span<const std::byte> pcm) = 0;
     /// Starts playing; with `Loop::Yes` the end is followed by the beginning without a gap.
-    virtual void Service04(StartFrom from, Loop loop) = 0;
+    virtual void Start(StartFrom from, Loop loop) = 0;
     /// Stops within 30 ms and keeps the place.
-    virtual void Service05() = 0;
+    virtual void Stop() = 0;
     /// The frame that is heard now, within 15 ms.
-    [[nodiscard]] virtual SoundPlace Service07() = 0;
+    [[nodiscard]] virtual SoundPlace Place() = 0;
     /// Changes looping of a sound while it plays.
-    virtual void Service09(Loop loop) = 0;
+    virtual void SetLooping(Loop loop) = 0;
 };
 
 using SoundHandle = std::unique_ptr<SoundObject>;
@@ -68,8 +60,8 @@ public:
     /// old: the sound object of the last play, or empty; the one that comes back replaces it. windowHandle: the window
     /// that the sound belongs to; a machine whose sounds belong to no window does not look at it. Returns an empty
     /// handle where no device could be opened. The objects must not outlive the output.
-    [[nodiscard]] virtual SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
-                                                std::int32_t bufferBytes) = 0;
+    [[nodiscard]] virtual SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                           std::int32_t bufferBytes) = 0;
 };
 
 } // namespace sprout

@@ -7,7 +7,8 @@
 #include <stop_token>
 #include <system_error>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Mail.h"

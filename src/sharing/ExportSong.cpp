@@ -8,8 +8,9 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "service/Files.h"
@@ -34,7 +35,7 @@ constexpr std::string_view kSoundFolder = "WavFileSelPath";
 struct ExportKind {
     std::string_view selectHint;
     const char* dialogTitle;
-    const char* extension; ///< with its dot
+    std::string_view extension; ///< with its dot
     const char* filter;
     std::string_view savingHint;
     std::string_view writingStage;
@@ -46,7 +47,7 @@ struct ExportKind {
 
 constexpr ExportKind kWavKind{"Select wav file name to save the song as audio (.wav) file",
                               "Please select a .wav file to save",
-                              ".wav",
+                              kWaveExtension,
                               "Wave files(*.wav)|*.wav|All files|*.*",
                               "Saving the song as audio (.wav) file",
                               "Writing the wav file",
@@ -57,7 +58,7 @@ constexpr ExportKind kWavKind{"Select wav file name to save the song as audio (.
 
 constexpr ExportKind kWmaKind{"Select wma file name to save the song as audio (.wma) file",
                               "Please select a WMA file name to save",
-                              ".wma",
+                              kWmaExtension,
                               "Windows Media Audio files(*.wma)|*.wma|All files|*.*",
                               "Saving the song as audio (.wma) file",
                               "Writing the wma file",
@@ -84,7 +85,8 @@ bool MayOverwriteSound(const fs::path& target)
 std::optional<fs::path> AskForSoundFile(const ExportKind& kind)
 {
     FileQuestion question{kind.dialogTitle, GetSetting("General", kSoundFolder, ""),
-                          OfferedName(Shared().Song.SongTitle, kind.extension), kind.extension + 1, kind.filter};
+                          OfferedName(Shared().Song.SongTitle, kind.extension), std::string(kind.extension.substr(1)),
+                          kind.filter};
     for (;;) {
         const std::optional<fs::path> answer = ChooseFileToSave(question);
         if (!answer)

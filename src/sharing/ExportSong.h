@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-namespace sprout {
+#include "ui/Windows.h"
 
-enum class SoundFileKind { Wav, Wma };
+namespace sprout {
 
 /// Asks for a file and saves the shared song there as a sound, with all its questions, hints and messages. Long work
 /// shows its progress and can be stopped. Whatever goes wrong, a file that was there stands as it was.

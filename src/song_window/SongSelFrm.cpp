@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <exception>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "service/Messages.h"
 #include "service/Services.h"
@@ -20,6 +20,7 @@
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -361,7 +362,7 @@ void SongSelFrm::RenameSelected()
 /// The song counts as no more saved than before: the sound file is no song.
 void SongSelFrm::SaveAsSound(SoundFileKind kind)
 {
-    if (SaveSongAsSound(kind))
+    if (TheWindows().SaveSongAsSound(kind))
         reject();
 }
 

@@ -8,10 +8,10 @@
 #include <string_view>
 #include <vector>
 
-#include "sharing/ExportSong.h"
 #include "song_window/rules/SongChoice.h"
-#include "song_window/rules/SongFiles.h"
+#include "songs/SongFiles.h"
 #include "ui/BandedForm.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 

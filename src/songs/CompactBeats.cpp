@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "songs/SongVersions.h"
 
 namespace sprout {

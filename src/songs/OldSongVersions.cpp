@@ -2,11 +2,11 @@
 #include <string>
 #include <vector>
 
+#include "beats/BeatEntry.h"
+#include "beats/BeatFiles.h"
 #include "core/SongModel.h"
 #include "songs/SongReader.h"
 #include "songs/SongVersions.h"
-#include "tunes/BeatEntry.h"
-#include "tunes/BeatFiles.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TunOpnSavClass.h"
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"

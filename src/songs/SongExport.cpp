@@ -12,8 +12,9 @@
 #include <utility>
 #include <vector>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "base/Product.h"
 #include "core/Shared.h"
 #include "core/Tell.h"
 #include "service/Files.h"
@@ -21,8 +22,8 @@
 #include "service/Services.h"
 #include "service/WmaEncoder.h"
 #include "songs/WmaFormats.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveBytes.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveBytes.h"
 
 namespace sprout {
 

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <string>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 
 namespace sprout {
 

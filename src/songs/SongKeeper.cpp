@@ -7,12 +7,14 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/FolderFiles.h"
+#include "base/Longs.h"
+#include "base/Text.h"
 #include "core/FileHead.h"
-#include "core/FolderFiles.h"
-#include "core/Longs.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "service/Files.h"
 #include "service/Services.h"
 #include "songs/SongVersions.h"
@@ -40,7 +42,7 @@ std::size_t NumberOf(const LongsWriter& data)
 std::string KeptName(std::string_view title, int number)
 {
     std::string name = SafeFileName(CharactersInBytes(Trim(title), kMostTitleBytes));
-    if (NamedFile(Shared().UserSongs, name, ".TqSng").empty())
+    if (NamedFile(Shared().UserSongs, name, kSongExtension).empty())
         name = "Untitled";
     return name + " kept" + (number == 1 ? std::string() : " " + std::to_string(number));
 }
@@ -50,7 +52,7 @@ std::string WriteUnderFreeName(std::string_view title, const LongsWriter& data)
 {
     for (int number = 1;; ++number) {
         std::string name = KeptName(title, number);
-        const fs::path place = NamedFile(Shared().UserSongs, name, ".TqSng");
+        const fs::path place = NamedFile(Shared().UserSongs, name, kSongExtension);
         if (!FileExists(place) && WriteNewDataFile(place, FileHead("TqSng", " Sprout Song File"), data))
             return name;
     }
@@ -88,7 +90,7 @@ std::vector<std::string> TakeKeptSongs()
         if (note.Name.front() != '.')
             continue;
         std::string name = note.Name.substr(1);
-        if (FileExists(NamedFile(Shared().UserSongs, name, ".TqSng")))
+        if (FileExists(NamedFile(Shared().UserSongs, name, kSongExtension)))
             names.push_back(std::move(name));
         std::error_code error;
         fs::remove(note.Path, error);

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "core/Longs.h"
+#include "base/Longs.h"
 #include "core/Song.h"
 
 namespace sprout {

@@ -2,13 +2,15 @@
 #include <map>
 #include <string>
 
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "beats/BeatEntry.h"
+#include "beats/BeatFiles.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "songs/SongReader.h"
 #include "songs/SongVersions.h"
-#include "tunes/BeatEntry.h"
-#include "tunes/BeatFiles.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TunOpnSavClass.h"
 
@@ -96,7 +98,7 @@ void SongReader20::ReadTune(Tune& tune)
 
 void SongReader20::TakeTuneFile(Tune& tune, const std::string& name)
 {
-    const std::filesystem::path file = NamedFile(Shared().UserTunes, name, ".TqTun");
+    const std::filesystem::path file = NamedFile(Shared().UserTunes, name, kTuneExtension);
     if (!FileExists(file))
         return ResetTune(tune);
     auto found = outsideTunes.find(name);

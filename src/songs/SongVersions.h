@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Longs.h"
+#include "base/Longs.h"
 #include "core/Song.h"
 
 namespace sprout {

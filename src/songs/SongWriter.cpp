@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <cstdint>
 
+#include "beats/BeatEntry.h"
 #include "songs/SongVersions.h"
-#include "tunes/BeatEntry.h"
 #include "tunes/StepEntry.h"
 
 namespace sprout {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "songs/WmaFormats.h"
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

@@ -8,13 +8,13 @@
 #include <string_view>
 #include <utility>
 
+#include "base/ByteCursor.h"
 #include "core/Busy.h"
-#include "core/ByteCursor.h"
 #include "core/Paths.h"
 #include "service/Screen.h"
 #include "service/Services.h"
-#include "sound/WaveBytes.h"
-#include "sound/WaveFields.h"
+#include "waves/WaveBytes.h"
+#include "waves/WaveFields.h"
 
 namespace sprout {
 

@@ -8,13 +8,13 @@
 #include <limits>
 #include <memory>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
-#include "core/Parallel.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "base/Parallel.h"
 #include "core/Shared.h"
 #include "sound/RenderThreads.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveFormat.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 

@@ -8,11 +8,11 @@
 #include <new>
 #include <span>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
 #include "core/Tell.h"
 #include "sound/PlayShared.h"
-#include "sound/WaveBytes.h"
+#include "waves/WaveBytes.h"
 
 namespace sprout {
 

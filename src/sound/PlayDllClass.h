@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 #include "service/SoundOutput.h"
 #include "sound/PlayDx9Class.h"
 

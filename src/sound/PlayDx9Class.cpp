@@ -7,10 +7,10 @@
 #include <string>
 #include <utility>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 #include "service/Services.h"
 #include "sound/PlayShared.h"
-#include "sound/WaveBytes.h"
+#include "waves/WaveBytes.h"
 
 namespace sprout {
 
@@ -40,16 +40,16 @@ bool PlayDx9Class::PlayBufferOnDevice(Loop loop)
     Stop();
     const std::int32_t bytes =
         RoundHalfEven(static_cast<double>(play.PlayBufLength) * play.PlayBufChannels * play.PlayBufBits / 8);
-    WaveDriverHandle = TheServices().sound->Service02(
-        std::move(WaveDriverHandle), WindowHandle, {play.PlayBufChannels, play.PlayBufRate, play.PlayBufBits}, bytes);
+    WaveDriverHandle = TheServices().sound->Open(std::move(WaveDriverHandle), WindowHandle,
+                                                 {play.PlayBufChannels, play.PlayBufRate, play.PlayBufBits}, bytes);
     if (!WaveDriverHandle) {
         SendStatus("Play Failed");
         return false;
     }
     play.PlayState = PlayState::Stopped;
-    WaveDriverHandle->Service06(std::span(play.PlayBuffer).subspan(kWaveHeadBytes, static_cast<std::size_t>(bytes)));
+    WaveDriverHandle->Load(std::span(play.PlayBuffer).subspan(kWaveHeadBytes, static_cast<std::size_t>(bytes)));
     LoopCount = 0;
-    WaveDriverHandle->Service04(StartFrom::Beginning, loop);
+    WaveDriverHandle->Start(StartFrom::Beginning, loop);
     play.PlayState = loop == Loop::Yes ? PlayState::PlayingLoop : PlayState::Playing;
     SendStatus(loop == Loop::Yes ? "Playing Loop" + std::to_string(LoopCount) : "Playing");
     return true;
@@ -59,7 +59,7 @@ void PlayDx9Class::PlayContinue()
 {
     PlayModState& play = PlayShared();
     if (WaveDriverHandle)
-        WaveDriverHandle->Service04(StartFrom::WhereItStopped, play.PlayLooping ? Loop::Yes : Loop::No);
+        WaveDriverHandle->Start(StartFrom::WhereItStopped, play.PlayLooping ? Loop::Yes : Loop::No);
     play.PlayState = play.PlayLooping ? PlayState::PlayingLoop : PlayState::Playing;
 }
 
@@ -68,14 +68,14 @@ void PlayDx9Class::PlayReplay() {}
 void PlayDx9Class::LetLooping(Loop loop)
 {
     if (WaveDriverHandle)
-        WaveDriverHandle->Service09(loop);
+        WaveDriverHandle->SetLooping(loop);
     PlayShared().PlayState = loop == Loop::Yes ? PlayState::PlayingLoop : PlayState::Playing;
 }
 
 void PlayDx9Class::UpdatePlayPosition()
 {
     PlayModState& play = PlayShared();
-    const SoundPlace place = WaveDriverHandle ? WaveDriverHandle->Service07() : SoundPlace();
+    const SoundPlace place = WaveDriverHandle ? WaveDriverHandle->Place() : SoundPlace();
     play.PlayCursor = play.PlayOffset + place.Cursor;
     if (!place.Playing) {
         play.PlayState = PlayState::Stopped;
@@ -86,7 +86,7 @@ void PlayDx9Class::UpdatePlayPosition()
 void PlayDx9Class::PlayPause()
 {
     if (WaveDriverHandle)
-        WaveDriverHandle->Service05();
+        WaveDriverHandle->Stop();
     PlayShared().PlayState = PlayState::Paused;
 }
 
@@ -104,7 +104,7 @@ void PlayDx9Class::PutONDx9Ds(std::int32_t windowHandle)
 void PlayDx9Class::Stop()
 {
     if (WaveDriverHandle)
-        WaveDriverHandle->Service05();
+        WaveDriverHandle->Stop();
     PlayShared().PlayState = PlayState::Stopped;
 }
 

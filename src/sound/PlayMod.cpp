@@ -8,8 +8,8 @@
 #include <new>
 #include <string>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "core/Tell.h"

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 #include "sound/PlayDllClass.h"
 #include "sound/PlayShared.h"
 

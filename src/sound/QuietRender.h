@@ -4,8 +4,8 @@
 #include <exception>
 #include <new>
 
-#include "core/WaveData.h"
-#include "sound/WavOperations.h"
+#include "base/WaveData.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

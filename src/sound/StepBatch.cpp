@@ -6,16 +6,16 @@
 #include <string>
 #include <tuple>
 
-#include "core/Errors.h"
-#include "core/Parallel.h"
+#include "base/Errors.h"
+#include "base/Parallel.h"
+#include "beats/BeatFiles.h"
 #include "core/Shared.h"
 #include "service/Screen.h"
 #include "service/Services.h"
 #include "sound/RenderThreads.h"
 #include "sound/StretchWave.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveFormat.h"
-#include "tunes/BeatFiles.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 

@@ -6,8 +6,8 @@
 #include <unordered_map>
 #include <vector>
 
+#include "base/WaveData.h"
 #include "core/Song.h"
-#include "core/WaveData.h"
 #include "sound/StepCache.h"
 
 namespace sprout {

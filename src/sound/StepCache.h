@@ -6,7 +6,7 @@
 #include <list>
 #include <unordered_map>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 
 namespace sprout {
 

@@ -7,10 +7,10 @@
 #include <optional>
 #include <vector>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 #include "service/Services.h"
 #include "service/Stretch.h"
-#include "sound/WaveFormat.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 
@@ -40,21 +40,9 @@ std::int16_t ShiftDown(std::int16_t sample)
 std::optional<Channel> CallService(std::span<const std::int16_t> samples, std::int32_t rate, float pitchFactor,
                                    float durationFactor)
 {
-    const Stretch& service = *TheServices().stretch;
-    const auto room = static_cast<std::int32_t>(samples.size() * 4);
-    std::int32_t size = room;
-    StretchHandle handle;
-    if (!service.Tq5Service02(handle, pitchFactor, durationFactor, rate, samples, size))
-        return std::nullopt;
-    if (size < 1 || size > room || !handle)
-        return std::nullopt;
-    Channel stretched = Channel::Unfilled(size);
-    if (!service.Tq5Service02a(std::move(handle), size, stretched.Change().subspan(1)))
-        return std::nullopt;
-    if (size < 0 || size > stretched.UpperBound())
-        return std::nullopt;
-    stretched.Resize(size);
-    return stretched;
+    const std::vector<std::int16_t> stretched =
+        TheServices().stretch->Change(samples, rate, pitchFactor, durationFactor);
+    return stretched.empty() ? std::nullopt : std::optional(Channel::FromSamples(stretched));
 }
 
 std::optional<Channel> StretchChannel(const WaveData& wave, const Channel& channel, float pitchFactor,

@@ -7,15 +7,15 @@
 #include <optional>
 #include <vector>
 
+#include "base/Errors.h"
 #include "core/Busy.h"
-#include "core/Errors.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "sound/Mixer.h"
 #include "sound/QuietRender.h"
 #include "sound/TuneRender.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveFormat.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/WaveData.h"
 #include "core/Song.h"
-#include "core/WaveData.h"
 
 namespace sprout {
 

@@ -11,7 +11,7 @@
 #include "sound/Mixer.h"
 #include "sound/QuietRender.h"
 #include "sound/StepBatch.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

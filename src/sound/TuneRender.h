@@ -3,8 +3,8 @@
 
 #include <span>
 
+#include "base/WaveData.h"
 #include "core/Song.h"
-#include "core/WaveData.h"
 
 namespace sprout {
 

@@ -3,11 +3,11 @@
 
 #include <QPointer>
 
+#include "beats/BeatFiles.h"
 #include "core/Shared.h"
 #include "tune_window/TuneFrm2.h"
-#include "tune_window/rules/ChosenTune.h"
-#include "tune_window/rules/TuneTable.h"
-#include "tunes/BeatFiles.h"
+#include "tunes/ChosenTune.h"
+#include "tunes/TuneTable.h"
 #include "ui/Dialogs.h"
 
 namespace sprout {

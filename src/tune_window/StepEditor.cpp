@@ -12,13 +12,12 @@
 #include <array>
 #include <chrono>
 
-#include "beat_window/ChooseBeat.h"
+#include "beats/BeatFiles.h"
 #include "core/Shared.h"
 #include "sound/PlayMod.h"
 #include "tune_window/StepFocus.h"
 #include "tune_window/TunFramPic.h"
 #include "tune_window/rules/StepPlays.h"
-#include "tunes/BeatFiles.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Dialogs.h"
@@ -27,6 +26,7 @@
 #include "ui/Palette.h"
 #include "ui/PopupKeys.h"
 #include "ui/QtText.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -85,7 +85,8 @@ QLabel* MakeNote(const char* name, const char* text, QPoint place, QWidget* surf
 
 } // namespace
 
-StepEditor::StepEditor(QWidget* parent) : QWidget(parent), chooseBeat(ChooseBeat)
+StepEditor::StepEditor(QWidget* parent)
+    : QWidget(parent), chooseBeat([](std::string& name) { return TheWindows().ChooseBeat(name); })
 {
     MakeStepNosCmb();
     MakeTunFramPic();

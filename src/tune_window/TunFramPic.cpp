@@ -10,6 +10,8 @@
 #include <map>
 #include <string>
 
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "ui/Artwork.h"
@@ -39,7 +41,7 @@ public:
             return false;
         const auto [known, isNew] = missing.try_emplace(beat.Name, false);
         if (isNew)
-            known->second = !FileExists(NamedFile(Shared().UserBeats, beat.Name, ".wav"));
+            known->second = !FileExists(NamedFile(Shared().UserBeats, beat.Name, kWaveExtension));
         return known->second;
     }
 

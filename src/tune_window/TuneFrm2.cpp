@@ -6,13 +6,13 @@
 
 #include <algorithm>
 
-#include "core/Paths.h"
+#include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "sound/PlayMod.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TunePicture.h"
-#include "tune_window/rules/ChosenTune.h"
 #include "tune_window/rules/TuneWindowPlan.h"
+#include "tunes/ChosenTune.h"
 #include "tunes/TunOpnSavClass.h"
 #include "ui/Guarded.h"
 #include "ui/Look.h"
@@ -126,14 +126,15 @@ void TuneFrm2::MakeEditor()
 
 void TuneFrm2::MakeMoveMnu()
 {
-    constexpr std::array captions{"Move Up", "Move Down", "Move Left", "Move Right", "Delete"};
+    std::array<std::string_view, kDeleteItem + 1> captions{};
+    *std::copy(kGridMoveCaptions.begin(), kGridMoveCaptions.end(), captions.begin()) = "Delete";
     PopPosiMnu = new QMenu(this);
     PopPosiMnu->setObjectName(QStringLiteral("PopPosiMnu"));
     for (std::size_t i = 0; i < captions.size(); ++i) {
-        MoveMnu[i] = PopPosiMnu->addAction(QString::fromLatin1(captions[i]));
+        MoveMnu[i] = PopPosiMnu->addAction(QtText(captions[i]));
         MoveMnu[i]->setObjectName(QStringLiteral("MoveMnu%1").arg(i));
         connect(MoveMnu[i], &QAction::triggered, this, [this, i] {
-            Guarded([this, i] { i == kDeleteItem ? DeleteTune() : MoveTune(static_cast<TuneMove>(i)); });
+            Guarded([this, i] { i == kDeleteItem ? DeleteTune() : MoveTune(static_cast<GridMove>(i)); });
         });
     }
     PopPosiMnu->insertSeparator(MoveMnu[kDeleteItem]);

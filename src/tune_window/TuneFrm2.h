@@ -10,9 +10,10 @@
 #include <string>
 
 #include "core/Song.h"
-#include "tune_window/rules/TuneNames.h"
-#include "tune_window/rules/TuneTable.h"
+#include "tunes/TuneNames.h"
+#include "tunes/TuneTable.h"
 #include "ui/BandedForm.h"
+#include "ui/rules/PictureGrid.h"
 
 namespace sprout {
 
@@ -85,7 +86,7 @@ private:
     [[nodiscard]] bool ShowsEditorsTune() const { return showsEditorsTune || SelectedTune == kNothingChosen; }
 
     void OpenMoveMnu(QPoint at);
-    void MoveTune(TuneMove move);
+    void MoveTune(GridMove move);
     void DeleteTune();
     void ReadTunesAgain();
 

@@ -4,7 +4,11 @@
 #include <filesystem>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Product.h"
+#include "base/ScaledPicture.h"
+#include "beats/BeatFiles.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -17,16 +21,15 @@
 #include "tune_window/TuneFrm2.h"
 #include "tune_window/TuneNameFrm.h"
 #include "tune_window/TunePicture.h"
-#include "tune_window/rules/ChosenTune.h"
-#include "tune_window/rules/RandomTune.h"
-#include "tunes/BeatFiles.h"
+#include "tune_window/rules/TuneWindowPlan.h"
+#include "tunes/ChosenTune.h"
+#include "tunes/RandomTune.h"
 #include "tunes/TunOpnSavClass.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/HelpFrm.h"
 #include "ui/PictureGridPic.h"
 #include "ui/QtText.h"
-#include "ui/rules/ScaledPicture.h"
 
 namespace sprout {
 
@@ -36,13 +39,13 @@ void TuneFrm2::OpenMoveMnu(QPoint at)
 {
     for (int i = 0; i < kDeleteItem; ++i)
         MoveMnu[static_cast<std::size_t>(i)]->setEnabled(
-            TuneMoveTarget(static_cast<TuneMove>(i), SelectedTune, Shared().TuneTableCount) > 0);
+            GridMoveTarget(static_cast<GridMove>(i), SelectedTune, Shared().TuneTableCount, kTuneColumns) > 0);
     PopPosiMnu->popup(at);
 }
 
-void TuneFrm2::MoveTune(TuneMove move)
+void TuneFrm2::MoveTune(GridMove move)
 {
-    const std::int32_t target = TuneMoveTarget(move, SelectedTune, Shared().TuneTableCount);
+    const std::int32_t target = GridMoveTarget(move, SelectedTune, Shared().TuneTableCount, kTuneColumns);
     if (target == 0)
         return;
     std::swap(At(Shared().TuneTable, SelectedTune), At(Shared().TuneTable, target));

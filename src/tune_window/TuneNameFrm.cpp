@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/TuneNameFrm.h"
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "ui/Dialogs.h"
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"

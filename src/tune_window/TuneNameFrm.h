@@ -3,7 +3,7 @@
 
 #include <QLineEdit>
 
-#include "tune_window/rules/TuneNames.h"
+#include "tunes/TuneNames.h"
 #include "ui/BandedForm.h"
 
 namespace sprout {

@@ -4,7 +4,7 @@
 #include <QAbstractButton>
 #include <QImage>
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 
 namespace sprout {
 

@@ -3,13 +3,15 @@
 #include <string>
 #include <vector>
 
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
+#include "beats/BeatFiles.h"
 #include "core/IniFile.h"
-#include "core/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
-#include "core/Text.h"
-#include "tunes/BeatFiles.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -110,7 +112,7 @@ void Load_Tune_V00(Tune& tune, const fs::path& path, TuneLoad mode)
     tune.Name = fileName.substr(0, fileName.size() - std::min(fileName.size(), kTuneExtensionLetters));
     const IniFile ini = IniFile::Read(path);
     tune.CreatedBy = ini.Value("General", "CreatedBy", kUnknownAuthor);
-    tune.Picture = LoadPictureFile(NamedFile(Shared().UserTunes, tune.Name, ".bmp"));
+    tune.Picture = LoadPictureFile(NamedFile(Shared().UserTunes, tune.Name, kPictureExtension));
     if (mode != TuneLoad::All)
         return;
     tune.DateStamp = FileStamp(path);
@@ -126,7 +128,7 @@ void LoadStarFile(Tune& tune)
     if (file.empty())
         return MakeSilentStar(tune);
     const IniFile ini = IniFile::Read(file);
-    tune.Picture = LoadPictureFile(NamedFile(Shared().UserStars, tune.Name, ".bmp"));
+    tune.Picture = LoadPictureFile(NamedFile(Shared().UserStars, tune.Name, kPictureExtension));
     tune.DateStamp = FileStamp(file);
     tune.CreatedBy = ini.Value("General", "CreatedBy", kUnknownAuthor);
     ReadStepCycle(ini, tune);

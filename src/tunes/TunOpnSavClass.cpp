@@ -4,14 +4,16 @@
 #include <exception>
 #include <string>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Product.h"
+#include "base/Text.h"
 #include "core/FileHead.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "core/Tell.h"
-#include "core/Text.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {

@@ -4,7 +4,8 @@
 #include <span>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "tunes/TuneVersions.h"
 

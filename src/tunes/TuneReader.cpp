@@ -4,13 +4,14 @@
 #include <string>
 #include <unordered_map>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "beats/BeatEntry.h"
+#include "beats/BeatFiles.h"
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Tell.h"
-#include "tunes/BeatEntry.h"
-#include "tunes/BeatFiles.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TuneVersions.h"
 

@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "core/ByteCursor.h"
-#include "core/Longs.h"
+#include "base/ByteCursor.h"
+#include "base/Longs.h"
 #include "core/Song.h"
 #include "tunes/TunOpnSavClass.h"
 

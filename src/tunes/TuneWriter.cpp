@@ -2,9 +2,9 @@
 #include <string>
 #include <unordered_set>
 
+#include "base/Text.h"
+#include "beats/BeatEntry.h"
 #include "core/Shared.h"
-#include "core/Text.h"
-#include "tunes/BeatEntry.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TuneVersions.h"
 

@@ -9,7 +9,7 @@
 
 #include <vector>
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 
 namespace sprout {
 

@@ -3,8 +3,9 @@
 
 #include <QApplication>
 
+#include "base/Product.h"
+#include "base/Text.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "ui/HelpFrm.h"
 #include "ui/MessageForms.h"
 

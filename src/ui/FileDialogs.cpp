@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
-#include "core/Paths.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "ui/Dialogs.h"
 #include "ui/QtText.h"
 

@@ -3,7 +3,7 @@
 
 #include <exception>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/Messages.h"
 #include "service/Services.h"
 

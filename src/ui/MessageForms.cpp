@@ -5,9 +5,11 @@
 
 #include <algorithm>
 
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "ui/Artwork.h"
 #include "ui/Dialogs.h"
 #include "ui/Look.h"
@@ -244,7 +246,7 @@ void SongTitleFrm::ClickOk()
     }
     // Only another case of the open song's own title may name a file that is there.
     if (!EqualIgnoringCase(name, Shared().Song.SongTitle) &&
-        FileExists(NamedFile(Shared().UserSongs, name, ".TqSng"))) {
+        FileExists(NamedFile(Shared().UserSongs, name, kSongExtension))) {
         ShowMessage("A song with this name already exists.", "Please type another name.");
         return;
     }

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 #include "ui/rules/PictureGrid.h"
 
 namespace sprout {

@@ -7,7 +7,7 @@
 
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "ui/Dialogs.h"
 
 namespace sprout {

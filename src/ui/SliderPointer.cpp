@@ -8,7 +8,7 @@
 #include <cmath>
 #include <utility>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 #include "ui/Artwork.h"
 #include "ui/Palette.h"
 

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 
+#include "base/Product.h"
 #include "core/Shared.h"
 #include "ui/Artwork.h"
 #include "ui/Palette.h"

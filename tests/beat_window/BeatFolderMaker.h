@@ -7,9 +7,9 @@
 #include <string>
 
 #include "core/Shared.h"
-#include "sound/WavOperations.h"
 #include "sound/Waves.h"
 #include "support/TestFolder.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

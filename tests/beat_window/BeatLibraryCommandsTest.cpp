@@ -6,12 +6,13 @@
 
 #include <optional>
 
+#include "base/FilePaths.h"
 #include "beat_window/BeatWindowTest.h"
+#include "beats/BeatFiles.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "service/qt/QtPictureFiles.h"
 #include "sound/ChosenSound.h"
-#include "tunes/BeatFiles.h"
 #include "ui/FileDialogs.h"
 
 namespace sprout {

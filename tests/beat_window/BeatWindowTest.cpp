@@ -315,7 +315,7 @@ TEST_F(BeatWindowTest, EveryWayOutStopsTheSoundAndTheBlinkingAndClearsTheHint)
         sound.calls.clear();
         statusLbl.setText(QStringLiteral("hint"));
         Click(*window, leave);
-        EXPECT_THAT(sound.calls, testing::Contains(HasSubstr("Service05"))) << leave;
+        EXPECT_THAT(sound.calls, testing::Contains(HasSubstr("Stop"))) << leave;
         EXPECT_FALSE(Grid().BlinkSelectedTimer().isActive()) << leave;
         EXPECT_EQ(statusLbl.text(), QString()) << leave;
     }

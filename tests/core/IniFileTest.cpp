@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/FakeServices.h"
 #include "support/KilledChild.h"
 #include "support/UnchangeableFolder.h"

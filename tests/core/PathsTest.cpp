@@ -21,20 +21,6 @@ protected:
     FakeServices fake;
 };
 
-TEST_F(Paths, EndFoldersInOneSeparator)
-{
-    EXPECT_EQ(AsFolder("/a/b").native(), "/a/b/");
-    EXPECT_EQ(AsFolder("/a/b/").native(), "/a/b/");
-    EXPECT_EQ(AsFolder("").native(), "");
-}
-
-TEST_F(Paths, NameNoFileOutsideOfTheFolder)
-{
-    EXPECT_EQ(NamedFile("/a/", "b", ".wav").native(), "/a/b.wav");
-    for (const std::string& name : {"../b"s, "/b"s, "b\0c"s, ""s, "  "s})
-        EXPECT_EQ(NamedFile("/a/", name, ".wav"), fs::path()) << name;
-}
-
 TEST_F(Paths, FindFilesInAnyLetterCaseAndTheirOwnNameFirst)
 {
     WriteBytes(In("Beat.WAV"), "1");
@@ -111,11 +97,6 @@ TEST_F(Paths, EndTheSearchWhereANameCannotBeAskedFor)
     EXPECT_EQ(NewTempFileName(tooLong), Shared().TempFolder / ("TqkTmp1." + tooLong));
 }
 
-TEST_F(Paths, ReplaceWhatFileNamesCannotHold)
-{
-    EXPECT_EQ(SafeFileName("a./\\:*?<>\"|b é"), "a_________|b é");
-}
-
 /// A machine with room on the volume of the temporary folder alone.
 class NamedRoom : public FakeMachine {
 public:
@@ -166,18 +147,6 @@ TEST_F(Paths, TellAFailedCopy)
     EXPECT_EQ(fake.screen.processPics, 0);
 }
 
-TEST_F(Paths, CountPlainFilesThatAreNotHidden)
-{
-    fs::create_directories(In("f/sub"));
-    EXPECT_FALSE(HoldsFile(In("missing")));
-    EXPECT_FALSE(HoldsFile(In("f")));
-    WriteBytes(In("f/.TqkSave1"), "");
-    WriteBytes(In("f/sub/a"), "");
-    EXPECT_FALSE(HoldsFile(In("f")));
-    WriteBytes(In("f/a"), "");
-    EXPECT_TRUE(HoldsFile(In("f")));
-}
-
 TEST_F(Paths, FindTheProgramsFoldersAndSettings)
 {
     fake.machine.executable = In("program/sprout.painter");
@@ -209,19 +178,6 @@ TEST_F(Paths, StampFilesInLocalTime)
         ::unsetenv("TZ");
     ::tzset();
     EXPECT_EQ(FileStamp(In("missing")), "");
-}
-
-TEST_F(Paths, TakeTheBaseNameBetweenSeparatorAndLastDot)
-{
-    EXPECT_EQ(BaseName("/a/b.c.wav"), "b.c");
-    EXPECT_EQ(BaseName("É.wav"), "É");
-}
-
-TEST(ChosenFolder, EndsInASeparator)
-{
-    EXPECT_EQ(ChosenFolder("/home/child/Bell.wav"), "/home/child/");
-    EXPECT_EQ(ChosenFolder("/Bell.wav"), "");
-    EXPECT_EQ(ChosenFolder("Bell.wav"), "");
 }
 
 TEST_F(Paths, FindTheProgramsFolderAnew)

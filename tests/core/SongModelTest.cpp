@@ -5,7 +5,7 @@
 
 #include <limits>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/FakeServices.h"
 
 namespace sprout {

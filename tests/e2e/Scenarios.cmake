@@ -3,7 +3,7 @@
 
 # The player on a real sound server.
 add_executable(play_wave e2e/play_wave.cpp)
-target_link_libraries(play_wave PRIVATE sprout_engine sprout_service_posix sprout_machine_sound)
+target_link_libraries(play_wave PRIVATE sprout_engine sprout_service_posix sprout_app_sound)
 add_test(NAME SoundServer COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/sound-server $<TARGET_FILE:play_wave>)
 set_tests_properties(SoundServer PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
 

@@ -12,7 +12,7 @@
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
 #include "sound/PlayMod.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

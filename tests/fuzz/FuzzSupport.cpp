@@ -5,7 +5,7 @@
 
 #include "sound/StepCache.h"
 #include "sound/TrackRender.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

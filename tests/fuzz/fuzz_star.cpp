@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/FuzzSupport.h"
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "tunes/TunOpnSavClass.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "fuzz/FuzzSupport.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveFormat.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveFormat.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {

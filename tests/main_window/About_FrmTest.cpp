@@ -5,6 +5,7 @@
 
 #include <QPushButton>
 
+#include "base/Product.h"
 #include "core/Shared.h"
 #include "support/FakeServices.h"
 #include "ui/Hints.h"

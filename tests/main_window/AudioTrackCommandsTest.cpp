@@ -11,9 +11,9 @@
 
 #include "core/Settings.h"
 #include "main_window/CommandsTest.h"
-#include "sound/WavOperations.h"
 #include "ui/FileDialogs.h"
 #include "ui/FormAnswers.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

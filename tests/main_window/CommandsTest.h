@@ -137,7 +137,7 @@ protected:
 
     [[nodiscard]] bool SoundStarted() const
     {
-        return testing::Value(sound.calls, testing::Contains(testing::HasSubstr("Service04")));
+        return testing::Value(sound.calls, testing::Contains(testing::HasSubstr("Start")));
     }
     /// Frames that the device got, without the tail.
     [[nodiscard]] std::int32_t FramesPlayed() const

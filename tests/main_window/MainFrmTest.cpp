@@ -13,8 +13,8 @@
 
 #include "main_window/MainWindowTest.h"
 #include "sound/PlayTest.h"
-#include "sound/WavOperations.h"
 #include "ui/ModalSteps.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "main_window/CommandsTest.h"
 
 namespace sprout {

@@ -5,9 +5,10 @@
 
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/AllocationWatch.h"
 #include "support/FakeServices.h"
+#include "support/MemoryWatch.h"
 
 namespace sprout {
 namespace {
@@ -128,14 +129,12 @@ TEST_F(RecdModTest, KeepsArraysAndFilesWhereTheRightFileCannotBeRead)
 }
 
 /// Gives a file another size when memory for a long sound is asked for: when its length is known, before it is read.
-class ResizingMachine : public FakeMachine {
+class ResizingMemory : public MemoryWatch {
 public:
-    ResizingMachine(const fs::path& resized, std::uintmax_t newSize) : file(resized), size(newSize) {}
-    void PreferLargePages(void* /*memory*/, std::size_t /*bytes*/) const override { fs::resize_file(file, size); }
-
-private:
-    const fs::path file;
-    const std::uintmax_t size;
+    ResizingMemory(const fs::path& file, std::uintmax_t newSize)
+        : MemoryWatch([file, newSize] { fs::resize_file(file, newSize); })
+    {
+    }
 };
 
 TEST_F(RecdModTest, KeepsArraysAndFilesWhereAFileShrinksWhileItIsRead)
@@ -144,8 +143,7 @@ TEST_F(RecdModTest, KeepsArraysAndFilesWhereAFileShrinksWhileItIsRead)
     for (const fs::path& file : {left, right}) {
         WriteBytes(left, std::string(5'000'000, 'a'));
         WriteBytes(right, std::string(5'000'000, 'b'));
-        ResizingMachine machine(file, 1000);
-        TheServices().machine = &machine;
+        const ResizingMemory memory(file, 1000);
         EXPECT_THROW(Load(), RunTimeError);
         EXPECT_EQ(Recd().RecdWavL.UpperBound(), 3);
         EXPECT_EQ(Recd().RecdWavR.UpperBound(), 0);
@@ -158,12 +156,12 @@ TEST_F(RecdModTest, KeepsArraysAndFilesWhereAFileShrinksWhileItIsRead)
 TEST_F(RecdModTest, ReadsNoMoreOfAFileThatGrowsWhileItIsRead)
 {
     WriteBytes(left, std::string(5'000'000, 'a'));
-    ResizingMachine machine(left, 9'000'000);
-    TheServices().machine = &machine;
+    const ResizingMemory memory(left, 9'000'000);
     Load();
     EXPECT_EQ(Recd().RecdLength, 2'499'999);
     EXPECT_EQ(Recd().RecdWavL.UpperBound(), 2'499'999);
     EXPECT_EQ(Recd().RecdWavL[2'499'999], 0x6161);
+    Recd() = {}; // its memory goes back to where it came from
 }
 
 TEST_F(RecdModTest, AllocatesNoMoreThanTheSamples)

@@ -13,12 +13,12 @@
 
 #include "core/Settings.h"
 #include "core/SongModel.h"
-#include "sound/WavOperations.h"
 #include "support/FakeServices.h"
 #include "support/UnchangeableFolder.h"
 #include "ui/FileDialogs.h"
 #include "ui/FormAnswers.h"
 #include "ui/Hints.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

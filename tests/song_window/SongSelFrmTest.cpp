@@ -7,7 +7,6 @@
 
 #include "core/Shared.h"
 #include "service/Services.h"
-#include "sound/WavOperations.h"
 #include "support/FakeServices.h"
 #include "support/FullDisk.h"
 #include "support/TestFolder.h"
@@ -15,6 +14,7 @@
 #include "ui/FileDialogs.h"
 #include "ui/HelpFrm.h"
 #include "ui/ModalSteps.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <filesystem>
 
-#include "core/Paths.h"
-#include "songs/SongFiles.h"
-#include "sound/WavOperations.h"
+#include "songs/SongFileMaker.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -3,11 +3,11 @@
 
 #include <filesystem>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/SongModel.h"
-#include "songs/SongFiles.h"
-#include "sound/WavOperations.h"
+#include "songs/SongFileMaker.h"
 #include "support/UnchangeableFolder.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

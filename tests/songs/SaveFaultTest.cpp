@@ -10,7 +10,7 @@
 #include <iterator>
 #include <string>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/SongModel.h"
 #include "songs/OpenSaveClass.h"
 #include "support/FakeServices.h"

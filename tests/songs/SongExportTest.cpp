@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "songs/SongExport.h"
+#include "base/Product.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <ctime>
 
-#include "sound/WavOperations.h"
 #include "sound/Waves.h"
 #include "support/FakeServices.h"
 #include "support/FullDisk.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

@@ -5,10 +5,10 @@
 
 #include <filesystem>
 
-#include "core/Errors.h"
-#include "core/FolderFiles.h"
+#include "base/Errors.h"
+#include "base/FolderFiles.h"
 #include "core/SongModel.h"
-#include "songs/SongFiles.h"
+#include "songs/SongFileMaker.h"
 #include "support/FullDisk.h"
 
 namespace sprout {

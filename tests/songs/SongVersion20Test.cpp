@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <filesystem>
 
-#include "core/Paths.h"
 #include "core/SongModel.h"
-#include "songs/SongFiles.h"
-#include "sound/WavOperations.h"
+#include "songs/SongFileMaker.h"
 #include "support/AllocationWatch.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 namespace {

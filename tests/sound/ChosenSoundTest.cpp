@@ -7,10 +7,10 @@
 
 #include <string>
 
-#include "core/Errors.h"
-#include "sound/WavOperations.h"
+#include "base/Errors.h"
 #include "sound/Waves.h"
 #include "support/FakeServices.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -8,7 +8,7 @@
 #include <limits>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/Song.h"
 #include "sound/RenderThreads.h"
 #include "sound/Waves.h"

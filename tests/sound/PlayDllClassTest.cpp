@@ -6,7 +6,7 @@
 #include <new>
 
 #include "sound/PlayTest.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {
@@ -120,7 +120,7 @@ TEST_F(PlayDllTest, APlayRaisesItsStatusAndItsEnd)
 TEST_F(PlayDllTest, AStartedPlayIsToldAgainWhetherItLoops)
 {
     Player().WriteWaveMemo(CountingWave(1), PlayNow::Yes, Loop::Yes);
-    EXPECT_EQ(sound.calls, Calls({"Service02 0", "Service06 1 4", "Service04 1 Beginning loop", "Service09 1 loop"}));
+    EXPECT_EQ(sound.calls, Calls({"Open 0", "Load 1 4", "Start 1 Beginning loop", "SetLooping 1 loop"}));
     EXPECT_EQ(play.PlayState, PlayState::PlayingLoop);
 }
 
@@ -139,7 +139,7 @@ TEST_F(PlayDllTest, AnEmptyWaveIsRefusedAndStopsThePlayBefore)
     EXPECT_EQ(Player().WriteWaveMemo(EmptyWave(), PlayNow::Yes, Loop::No), PlayResult::Refused);
     EXPECT_EQ(raised, Calls({"S2|Writing to Play Buffer", "Zero size wave found|Play wave error", "S2|Play Failed"}));
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
-    EXPECT_EQ(sound.calls.back(), "Service05 1");
+    EXPECT_EQ(sound.calls.back(), "Stop 1");
 }
 
 TEST_F(PlayDllTest, AnEmptyWaveThatIsNotToBePlayedLeavesThePlayBefore)
@@ -197,8 +197,8 @@ TEST_F(PlayDllTest, MemoryThatRunsOutIsToldAndPasses)
     sound.memoryFails = true;
     Listen();
     EXPECT_THROW(Player().WriteWaveMemo(CountingWave(1), PlayNow::Yes, Loop::No), std::bad_alloc);
-    EXPECT_EQ(raised, Calls({"S2|Writing to Play Buffer", "There is not enough memory.|Play Wave error",
-                             "S2|Failed to play"}));
+    EXPECT_EQ(raised,
+              Calls({"S2|Writing to Play Buffer", "There is not enough memory.|Play Wave error", "S2|Failed to play"}));
 }
 
 TEST_F(PlayDllTest, ARunTimeErrorLeavesThePlayBefore)
@@ -268,14 +268,14 @@ TEST_F(PlayDllTest, PauseAndContinueReachTheDevice)
     EXPECT_EQ(play.PlayState, PlayState::Paused);
     Player().PlayContinue();
     EXPECT_EQ(play.PlayState, PlayState::Playing);
-    EXPECT_EQ(sound.calls.back(), "Service04 1 WhereItStopped once");
+    EXPECT_EQ(sound.calls.back(), "Start 1 WhereItStopped once");
 }
 
 TEST_F(PlayDllTest, SetLoopingReachesTheDeviceAndNotTheRequestOfThePlay)
 {
     Player().WriteWaveMemo(CountingWave(1), PlayNow::Yes, Loop::No);
     Player().SetLooping(Loop::Yes);
-    EXPECT_EQ(sound.calls.back(), "Service09 1 loop");
+    EXPECT_EQ(sound.calls.back(), "SetLooping 1 loop");
     EXPECT_EQ(play.PlayState, PlayState::PlayingLoop);
     EXPECT_FALSE(play.PlayLooping);
 }

@@ -39,7 +39,7 @@ TEST_F(PlayDx9Test, PlayMeOpensCopiesAndStartsTheBuffer)
 {
     backEnd.PutONDx9Ds(5);
     EXPECT_TRUE(backEnd.PlayMe(Loop::No));
-    EXPECT_EQ(sound.calls, Calls({"Service02 0", "Service06 1 8", "Service04 1 Beginning once"}));
+    EXPECT_EQ(sound.calls, Calls({"Open 0", "Load 1 8", "Start 1 Beginning once"}));
     EXPECT_EQ(sound.windowHandle, 5);
     EXPECT_EQ(sound.format, (SoundFormat{2, 22050, 16}));
     EXPECT_EQ(sound.bufferBytes, 8);
@@ -51,7 +51,7 @@ TEST_F(PlayDx9Test, PlayMeOpensCopiesAndStartsTheBuffer)
 TEST_F(PlayDx9Test, ALoopedPlayTellsItsCount)
 {
     EXPECT_TRUE(backEnd.PlayMe(Loop::Yes));
-    EXPECT_EQ(sound.calls.back(), "Service04 1 Beginning loop");
+    EXPECT_EQ(sound.calls.back(), "Start 1 Beginning loop");
     EXPECT_EQ(play.PlayState, PlayState::PlayingLoop);
     EXPECT_EQ(statuses, Calls({"Playing Loop0"}));
 }
@@ -61,7 +61,7 @@ TEST_F(PlayDx9Test, ASecondPlayStopsTheFirstAndPassesTheOldHandle)
     EXPECT_TRUE(backEnd.PlayMe(Loop::Yes));
     sound.calls.clear();
     EXPECT_TRUE(backEnd.PlayMe(Loop::No));
-    EXPECT_EQ(sound.calls, Calls({"Service05 1", "Service02 1", "Service06 2 8", "Service04 2 Beginning once"}));
+    EXPECT_EQ(sound.calls, Calls({"Stop 1", "Open 1", "Load 2 8", "Start 2 Beginning once"}));
     EXPECT_EQ(sound.open, 1);
     EXPECT_EQ(play.PlayState, PlayState::Playing);
 }
@@ -111,7 +111,7 @@ TEST_F(PlayDx9Test, PauseAndContinueGoOnAtThePlaceReached)
     EXPECT_EQ(play.PlayState, PlayState::Paused);
     backEnd.PlayContinue();
     EXPECT_EQ(play.PlayState, PlayState::Playing);
-    EXPECT_EQ(sound.calls, Calls({"Service05 1", "Service04 1 WhereItStopped once"}));
+    EXPECT_EQ(sound.calls, Calls({"Stop 1", "Start 1 WhereItStopped once"}));
 }
 
 TEST_F(PlayDx9Test, ContinueLoopsAsTheLastPlayWasAskedTo)
@@ -121,7 +121,7 @@ TEST_F(PlayDx9Test, ContinueLoopsAsTheLastPlayWasAskedTo)
     play.PlayLooping = true;
     backEnd.PlayContinue();
     EXPECT_EQ(play.PlayState, PlayState::PlayingLoop);
-    EXPECT_EQ(sound.calls.back(), "Service04 1 WhereItStopped loop");
+    EXPECT_EQ(sound.calls.back(), "Start 1 WhereItStopped loop");
 }
 
 TEST_F(PlayDx9Test, APauseStoppedAndReplayedStaysSilent)
@@ -139,7 +139,7 @@ TEST_F(PlayDx9Test, StopPlayTellsOfIt)
 {
     EXPECT_TRUE(backEnd.PlayMe(Loop::Yes));
     backEnd.StopPlay();
-    EXPECT_EQ(sound.calls.back(), "Service05 1");
+    EXPECT_EQ(sound.calls.back(), "Stop 1");
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
     EXPECT_EQ(statuses.back(), "Stopped");
 }
@@ -148,10 +148,10 @@ TEST_F(PlayDx9Test, LetLoopingChangesASoundInPlay)
 {
     EXPECT_TRUE(backEnd.PlayMe(Loop::No));
     backEnd.LetLooping(Loop::Yes);
-    EXPECT_EQ(sound.calls.back(), "Service09 1 loop");
+    EXPECT_EQ(sound.calls.back(), "SetLooping 1 loop");
     EXPECT_EQ(play.PlayState, PlayState::PlayingLoop);
     backEnd.LetLooping(Loop::No);
-    EXPECT_EQ(sound.calls.back(), "Service09 1 once");
+    EXPECT_EQ(sound.calls.back(), "SetLooping 1 once");
     EXPECT_EQ(play.PlayState, PlayState::Playing);
 }
 

@@ -5,9 +5,9 @@
 
 #include <new>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "sound/PlayTest.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {
@@ -182,7 +182,7 @@ TEST_F(PlayModTest, ASecondPlayCutsTheFirstOff)
     PlayWaveStatus(CountingWave(10), "one", Loop::Yes);
     sound.calls.clear();
     PlayWaveStatus(CountingWave(20), "two", Loop::No);
-    EXPECT_EQ(sound.calls.front(), "Service05 1");
+    EXPECT_EQ(sound.calls.front(), "Stop 1");
     EXPECT_EQ(play.PlayState, PlayState::Playing);
     EXPECT_EQ(play.PlayLength, 20);
     EXPECT_EQ(display.status, "two");

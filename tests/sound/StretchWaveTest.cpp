@@ -4,11 +4,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <functional>
-#include <memory>
 #include <span>
+#include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/Services.h"
 #include "sound/Waves.h"
 #include "support/FakeServices.h"
@@ -94,13 +93,12 @@ TEST_F(StretchWaveTest, MonoStaysMono)
     EXPECT_EQ(result, MonoWave(SampleList(256, 3)));
 }
 
-TEST_F(StretchWaveTest, AFailureOfEitherEntryIsSilent)
+TEST_F(StretchWaveTest, AFailureIsSilent)
 {
     services.stretch.fails = true;
-    EXPECT_EQ(StretchWave(RampWave(600), 1, 1).Length, 0);
-    services.stretch.fails = false;
-    services.stretch.secondFails = true;
-    EXPECT_EQ(StretchWave(RampWave(600), 1, 1).Length, 0);
+    const WaveData result = StretchWave(RampWave(600), 1, 1);
+    EXPECT_EQ(result.Length, 0);
+    EXPECT_EQ(result.WavL.UpperBound(), 600);
 }
 
 TEST_F(StretchWaveTest, EightBitSamplesAreShiftedUpAndBack)
@@ -116,34 +114,20 @@ TEST_F(StretchWaveTest, EightBitSamplesAreShiftedUpAndBack)
 /// Answers as it is told to.
 class OddStretch : public Stretch {
 public:
-    class Block : public StretchedBlock {};
-
-    bool Tq5Service02(StretchHandle& handle, float, float, std::int32_t, std::span<const std::int16_t> samples,
-                      std::int32_t& size) const override
+    [[nodiscard]] std::vector<std::int16_t> Change(std::span<const std::int16_t> samples, std::int32_t /*rate*/,
+                                                   float /*pitchFactor*/, float /*durationFactor*/) const override
     {
         heard = samples.front();
-        offered = size;
         if (refusedSample != 0 && samples.front() == refusedSample)
-            return false;
-        if (givesHandle)
-            handle = std::make_unique<Block>();
-        size = told < 0 ? size - told : told != 0 ? told : static_cast<std::int32_t>(samples.size()) + samples.front();
-        return true;
-    }
-    bool Tq5Service02a(StretchHandle, std::int32_t& size, std::span<std::int16_t> samples) const override
-    {
-        std::fill(samples.begin(), samples.end(), given);
-        size = copied(static_cast<std::int32_t>(samples.size()));
-        return true;
+            return {};
+        const auto count = told != 0 ? told : static_cast<std::int32_t>(samples.size()) + samples.front();
+        return std::vector<std::int16_t>(static_cast<std::size_t>(count), given);
     }
 
-    std::int32_t told = 0; // 0: as many as came and the first one's value more; below 0: more than there is room
+    std::int32_t told = 0; // 0: as many as came and the first one's value more
     std::int16_t given = 9;
     std::int16_t refusedSample = 0;
-    bool givesHandle = true;
-    std::function<std::int32_t(std::int32_t)> copied = [](std::int32_t room) { return room; };
     mutable std::int16_t heard = 0;
-    mutable std::int32_t offered = 0; // the room
 };
 
 TEST_F(StretchWaveTest, TheLongerChannelSetsTheLength)
@@ -174,53 +158,16 @@ TEST_F(StretchWaveTest, ARightChannelThatFailsIsSilentBesideTheLeftOne)
     EXPECT_EQ(ListOf(result.WavR), SampleList(522, 0));
 }
 
-TEST_F(StretchWaveTest, OffersRoomForFourTimesTheSamplesAndTakesAllOfIt)
-{
-    OddStretch odd;
-    odd.told = 2048;
-    TheServices().stretch = &odd;
-    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 2048);
-    EXPECT_EQ(odd.offered, 2048);
-    odd.told = 1;
-    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 1);
-}
-
-TEST_F(StretchWaveTest, AServiceThatTellsMoreThanItsRoomOrNothingFails)
+TEST_F(StretchWaveTest, TakesTheLengthThatComes)
 {
     OddStretch odd;
     TheServices().stretch = &odd;
-    odd.told = -1;
-    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
-    odd.told = 0; // as many as came, and the first one's value fewer
-    for (const std::int16_t fewer : {std::int16_t{-512}, std::int16_t{-513}}) {
-        const WaveData result = StretchWave(MonoWave(SampleList(512, fewer)), 1, 1);
-        EXPECT_EQ(result.Length, 0);
-        EXPECT_EQ(result.WavL.UpperBound(), 512) << "silent, as after any failure";
+    for (const std::int32_t told : {1, 2048}) {
+        odd.told = told;
+        const WaveData result = StretchWave(RampWave(512), 1, 1);
+        EXPECT_EQ(result.Length, told);
+        EXPECT_EQ(result.WavL.UpperBound(), told);
     }
-}
-
-TEST_F(StretchWaveTest, AServiceThatSucceedsWithoutAHandleFails)
-{
-    OddStretch odd;
-    odd.givesHandle = false;
-    odd.told = 600;
-    TheServices().stretch = &odd;
-    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
-}
-
-TEST_F(StretchWaveTest, TheCountThatIsCopiedIsTheLength)
-{
-    OddStretch odd;
-    TheServices().stretch = &odd;
-    odd.told = 600;
-    odd.copied = [](std::int32_t room) { return room - 100; };
-    const WaveData result = StretchWave(MonoWave(SampleList(512, 3)), 1, 1);
-    EXPECT_EQ(result.Length, 500);
-    EXPECT_EQ(result.WavL.UpperBound(), 500);
-    odd.copied = [](std::int32_t room) { return room + 1; };
-    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
-    odd.copied = [](std::int32_t) { return -1; };
-    EXPECT_EQ(StretchWave(RampWave(512), 1, 1).Length, 0);
 }
 
 TEST_F(StretchWaveTest, EightBitsComeBackRoundedAndNever128)

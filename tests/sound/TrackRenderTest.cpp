@@ -12,9 +12,9 @@
 #include "sound/RenderThreads.h"
 #include "sound/SongMaker.h"
 #include "sound/StepCache.h"
-#include "sound/WavOperations.h"
 #include "sound/Waves.h"
 #include "support/FakeServices.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -9,13 +9,13 @@
 #include <utility>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "sound/RenderThreads.h"
 #include "sound/SongMaker.h"
 #include "sound/StepCache.h"
-#include "sound/WavOperations.h"
 #include "sound/Waves.h"
 #include "support/FakeServices.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

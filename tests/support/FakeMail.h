@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/Mail.h"
 #include "service/PrivateFolders.h"
 

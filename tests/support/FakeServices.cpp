@@ -6,17 +6,12 @@
 #include <fstream>
 #include <new>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/Paths.h"
 
 namespace sprout {
 
 namespace {
-
-class FakeBlock : public StretchedBlock {
-public:
-    std::vector<std::int16_t> samples;
-};
 
 Picture OneColour(std::uint32_t colour)
 {
@@ -43,34 +38,22 @@ void FakePictureFiles::SavePicture(const Picture& picture, const std::filesystem
     WriteBytes(path, std::string(picture.Pixel(0, 0), 'p'));
 }
 
-bool FakeStretch::Tq5Service02(StretchHandle& handle, float pitchFactor, float durationFactor, std::int32_t rate,
-                               std::span<const std::int16_t> samples, std::int32_t& size) const
+std::vector<std::int16_t> FakeStretch::Change(std::span<const std::int16_t> samples, std::int32_t rate,
+                                              float pitchFactor, float durationFactor) const
 {
     {
         const std::lock_guard lock(mutex);
         calls.push_back({pitchFactor, durationFactor, rate, samples.size()});
     }
     if (fails)
-        return false;
+        return {};
     if (lacksMemory)
         throw std::bad_alloc();
-    auto block = std::make_unique<FakeBlock>();
-    block->samples.resize(static_cast<std::size_t>(std::lround(static_cast<double>(samples.size()) * durationFactor)));
-    for (std::size_t i = 0; i < block->samples.size(); ++i)
-        block->samples[i] = samples[i * samples.size() / block->samples.size()];
-    size = static_cast<std::int32_t>(block->samples.size());
-    handle = std::move(block);
-    return true;
-}
-
-bool FakeStretch::Tq5Service02a(StretchHandle handle, std::int32_t& size, std::span<std::int16_t> samples) const
-{
-    const auto* block = dynamic_cast<const FakeBlock*>(handle.get());
-    if (secondFails || !block || block->samples.size() > samples.size())
-        return false;
-    std::copy(block->samples.begin(), block->samples.end(), samples.begin());
-    size = static_cast<std::int32_t>(block->samples.size());
-    return true;
+    std::vector<std::int16_t> result(
+        static_cast<std::size_t>(std::lround(static_cast<double>(samples.size()) * durationFactor)));
+    for (std::size_t i = 0; i < result.size(); ++i)
+        result[i] = samples[i * samples.size() / result.size()];
+    return result;
 }
 
 std::vector<FakeStretch::Call> FakeStretch::Calls() const

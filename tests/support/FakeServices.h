@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <mutex>
@@ -9,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-#include "core/Errors.h"
-#include "core/Picture.h"
+#include "base/Errors.h"
+#include "base/Picture.h"
 #include "core/Shared.h"
 #include "service/Desktop.h"
 #include "service/Machine.h"
@@ -82,13 +81,11 @@ public:
     [[nodiscard]] std::filesystem::path TempPath() const override { return temp; }
     [[nodiscard]] std::filesystem::path ExecutablePath() const override { return executable; }
     [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path&) const override { return freeBytes; }
-    void PreferLargePages(void*, std::size_t bytes) const override { largeBytes += bytes; }
 
     MemoryStatus memory;
     std::filesystem::path temp;
     std::filesystem::path executable;
     std::uint64_t freeBytes = 0;
-    mutable std::atomic<std::size_t> largeBytes = 0; // asked for as large pages
 };
 
 class FakeDesktop : public Desktop {
@@ -120,10 +117,8 @@ public:
 /// same share of it. Counts its calls.
 class FakeStretch : public Stretch {
 public:
-    [[nodiscard]] bool Tq5Service02(StretchHandle& handle, float pitchFactor, float durationFactor, std::int32_t rate,
-                                    std::span<const std::int16_t> samples, std::int32_t& size) const override;
-    [[nodiscard]] bool Tq5Service02a(StretchHandle handle, std::int32_t& size,
-                                     std::span<std::int16_t> samples) const override;
+    [[nodiscard]] std::vector<std::int16_t> Change(std::span<const std::int16_t> samples, std::int32_t rate,
+                                                   float pitchFactor, float durationFactor) const override;
 
     struct Call {
         float pitchFactor;
@@ -132,9 +127,8 @@ public:
         std::size_t count;
     };
     [[nodiscard]] std::vector<Call> Calls() const;
-    bool fails = false;       // the first entry refuses
-    bool secondFails = false; // the second entry refuses
-    bool lacksMemory = false; // the first entry throws
+    bool fails = false;
+    bool lacksMemory = false; // throws
 
 private:
     mutable std::mutex mutex;

@@ -5,7 +5,7 @@
 #include <new>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 
@@ -16,34 +16,34 @@ public:
     explicit FakeSoundObject(FakeSoundOutput& output) : fake(output), number(++output.objects) { ++fake.open; }
     ~FakeSoundObject() override { --fake.open; }
 
-    void Service06(std::span<const std::byte> pcm) override
+    void Load(std::span<const std::byte> pcm) override
     {
         if (fake.memoryFails)
             throw std::bad_alloc();
-        Note("Service06", std::to_string(pcm.size()));
+        Note("Load", std::to_string(pcm.size()));
         fake.pcm.assign(pcm.begin(), pcm.end());
     }
-    void Service04(StartFrom from, Loop loop) override
+    void Start(StartFrom from, Loop loop) override
     {
         CheckDriver();
-        Note("Service04", std::string(from == StartFrom::Beginning ? "Beginning" : "WhereItStopped") + Word(loop));
+        Note("Start", std::string(from == StartFrom::Beginning ? "Beginning" : "WhereItStopped") + Word(loop));
         fake.place.Playing = true;
     }
-    void Service05() override
+    void Stop() override
     {
         CheckDriver();
-        Note("Service05", "");
+        Note("Stop", "");
         fake.place.Playing = false;
     }
-    [[nodiscard]] SoundPlace Service07() override
+    [[nodiscard]] SoundPlace Place() override
     {
         CheckDriver();
         return fake.place;
     }
-    void Service09(Loop loop) override
+    void SetLooping(Loop loop) override
     {
         CheckDriver();
-        Note("Service09", Word(loop));
+        Note("SetLooping", Word(loop));
     }
 
     [[nodiscard]] int Number() const { return number; }
@@ -68,11 +68,10 @@ private:
 
 } // namespace
 
-SoundHandle FakeSoundOutput::Service02(SoundHandle old, std::int32_t window, const SoundFormat& wanted,
-                                       std::int32_t bytes)
+SoundHandle FakeSoundOutput::Open(SoundHandle old, std::int32_t window, const SoundFormat& wanted, std::int32_t bytes)
 {
     const auto* former = dynamic_cast<const FakeSoundObject*>(old.get());
-    calls.push_back("Service02 " + std::to_string(former ? former->Number() : 0));
+    calls.push_back("Open " + std::to_string(former ? former->Number() : 0));
     windowHandle = window;
     format = wanted;
     bufferBytes = bytes;

@@ -16,18 +16,18 @@ namespace sprout {
 class FakeSoundOutput : public SoundOutput {
 public:
     [[nodiscard]] std::int32_t SoundDeviceCount() override { return deviceCount; }
-    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
-                                        std::int32_t bufferBytes) override;
+    [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                   std::int32_t bufferBytes) override;
 
     std::int32_t deviceCount = 1;
-    bool opens = true;        // `Service02` gives a handle
-    bool memoryFails = false; // `Service06` throws
-    bool driverFails = false; // `Service05`, `Service04` and `Service07` throw
-    SoundPlace place;         // what `Service07` tells
+    bool opens = true;        // `Open` gives a handle
+    bool memoryFails = false; // `Load` throws
+    bool driverFails = false; // `Stop`, `Start` and `Place` throw
+    SoundPlace place;         // what `Place` tells
 
-    std::vector<std::string> calls; // such as "Service04 2 Beginning loop", with the number of the object
-    std::vector<std::byte> pcm;     // what the last `Service06` got
-    SoundFormat format;             // what the last `Service02` got
+    std::vector<std::string> calls; // such as "Start 2 Beginning loop", with the number of the object
+    std::vector<std::byte> pcm;     // what the last `Load` got
+    SoundFormat format;             // what the last `Open` got
     std::int32_t windowHandle = 0;
     std::int32_t bufferBytes = 0;
     int objects = 0; // made so far

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/Files.h"
 
 namespace sprout {

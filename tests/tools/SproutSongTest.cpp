@@ -12,13 +12,12 @@
 #include <string>
 #include <vector>
 
-#include "core/Paths.h"
 #include "songs/OpenSaveClass.h"
-#include "sound/WavOperations.h"
 #include "sprout-song/Session.h"
 #include "support/FakeServices.h"
 #include "support/ScratchDevice.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "sound/WavOperations.h"
 #include "ui/MessageForms.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -232,7 +232,7 @@ TEST_F(TuneFrm2Test, ADeleteKeepsTheOrderAndTheTuneInTheEditor)
     EXPECT_EQ(hintOfMessage, "Click Yes to delete, No to keep");
     EXPECT_FALSE(fs::exists(File("Tune 01.TqTun")));
     EXPECT_FALSE(fs::exists(File("Tune 01.bmp")));
-    EXPECT_EQ(TuneIndex::Read(TuneIndexFile()).Place("Tune 02"), 1);
+    EXPECT_EQ(FolderOrder::Read(TuneIndexFile()).Place("Tune 02"), 1);
 }
 
 TEST_F(TuneFrm2Test, ATuneIsKeptOnAnyAnswerButYes)
@@ -807,7 +807,7 @@ TEST_F(SaveTuneBtnTest, ANewTuneSortsLastAndIsChosen)
     EXPECT_EQ(offered, (TuneNames{"Tune 02", "Ann"}));
     EXPECT_THAT(TableNames(), ElementsAre("Tune 02", "Tune 01", "A first"));
     EXPECT_EQ(Shared().CurrentTune.Name, "A first");
-    EXPECT_EQ(TuneIndex::Read(TuneIndexFile()).Place("A first"), 3);
+    EXPECT_EQ(FolderOrder::Read(TuneIndexFile()).Place("A first"), 3);
     EXPECT_TRUE(tune.Name.empty());
 }
 

@@ -3,13 +3,13 @@
 
 #include <filesystem>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "sound/WavOperations.h"
 #include "support/FakeServices.h"
 #include "support/HandArray.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -5,14 +5,14 @@
 
 #include <filesystem>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "sound/WavOperations.h"
 #include "support/AllocationWatch.h"
 #include "support/FakeServices.h"
 #include "support/HandArray.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

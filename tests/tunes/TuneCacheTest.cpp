@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "support/FakeServices.h"

@@ -13,7 +13,7 @@
 #include <functional>
 #include <utility>
 
-#include "core/Paths.h"
+#include "base/FilePaths.h"
 #include "support/FakeServices.h"
 #include "ui/ModalSteps.h"
 

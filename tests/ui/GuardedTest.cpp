@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/FakeServices.h"
 
 namespace sprout {

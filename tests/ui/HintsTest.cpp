@@ -10,6 +10,7 @@
 #include <memory>
 #include <string>
 
+#include "base/Product.h"
 #include "core/Shared.h"
 #include "ui/ButtonScheme.h"
 

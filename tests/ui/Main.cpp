@@ -3,6 +3,7 @@
 
 #include <QApplication>
 
+#include "app/ProgramWindows.h"
 #include "ui/Look.h"
 
 int main(int argc, char** argv)
@@ -13,5 +14,7 @@ int main(int argc, char** argv)
     testing::InitGoogleMock(&argc, argv);
     QApplication application(argc, argv);
     sprout::ApplyLook(application);
+    sprout::ProgramWindows windows;
+    const sprout::ProvidedWindows provided(windows);
     return RUN_ALL_TESTS();
 }

@@ -8,7 +8,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "ui/ModalSteps.h"
 #include "ui/QtScreen.h"
 

@@ -10,8 +10,8 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "base/FilePaths.h"
 #include "beat_window/BeatWindow.h"
-#include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"

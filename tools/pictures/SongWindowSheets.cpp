@@ -10,7 +10,7 @@
 #include <array>
 #include <cstdio>
 
-#include "core/Paths.h"
+#include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "main_window/About_Frm.h"
 #include "song_window/SongSelFrm.h"

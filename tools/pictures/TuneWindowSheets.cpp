@@ -11,7 +11,8 @@
 #include <functional>
 #include <string>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Files.h"

@@ -6,12 +6,12 @@
 #include <numbers>
 #include <span>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
-#include "core/Text.h"
-#include "sound/WavOperations.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "sprout-library/Measure.h"
 #include "sprout-library/OwnSound.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

@@ -5,7 +5,7 @@
 #include <memory>
 #include <vector>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 #include "sprout-library/BeatTable.h"
 #include "sprout-library/SoundFont.h"
 

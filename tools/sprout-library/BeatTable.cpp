@@ -5,8 +5,8 @@
 #include <charconv>
 #include <set>
 
-#include "core/Errors.h"
-#include "core/Text.h"
+#include "base/Errors.h"
+#include "base/Text.h"
 #include "sprout-library/Table.h"
 
 namespace sprout {

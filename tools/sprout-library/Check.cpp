@@ -9,6 +9,7 @@
 #include <span>
 #include <sstream>
 
+#include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
@@ -16,11 +17,11 @@
 #include "service/Services.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/TrackRender.h"
-#include "sound/WavOperations.h"
 #include "sprout-library/BeatSound.h"
 #include "sprout-library/DrawPicture.h"
 #include "sprout-library/Measure.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

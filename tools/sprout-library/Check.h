@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "base/WaveData.h"
 #include "core/Song.h"
-#include "core/WaveData.h"
 
 namespace sprout {
 

@@ -9,7 +9,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <span>
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 
 namespace sprout {
 

@@ -6,7 +6,8 @@
 #include <charconv>
 #include <fstream>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "sprout-library/Table.h"
 

@@ -7,18 +7,17 @@
 #include <fstream>
 #include <set>
 
-#include "core/Errors.h"
-#include "core/FolderFiles.h"
+#include "base/Errors.h"
+#include "base/FolderFiles.h"
+#include "base/Text.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "service/Machine.h"
 #include "service/PictureFiles.h"
 #include "service/Services.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/TuneRender.h"
-#include "sound/WavOperations.h"
 #include "sprout-library/BeatSound.h"
 #include "sprout-library/BeatTable.h"
 #include "sprout-library/DrawPicture.h"
@@ -26,6 +25,7 @@
 #include "sprout-library/SongText.h"
 #include "sprout-library/Table.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 
 namespace sprout {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "sprout-library/Measure.h"
 
 namespace sprout {

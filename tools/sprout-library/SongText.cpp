@@ -3,13 +3,14 @@
 
 #include <algorithm>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
+#include "beats/BeatFiles.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
-#include "core/Text.h"
 #include "sprout-library/Table.h"
-#include "tunes/BeatFiles.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {

@@ -7,7 +7,7 @@
 #include <cmath>
 #include <string>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "sprout-library/Measure.h"
 
 namespace sprout {

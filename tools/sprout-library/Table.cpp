@@ -6,8 +6,8 @@
 #include <iterator>
 #include <sstream>
 
-#include "core/Errors.h"
-#include "core/Text.h"
+#include "base/Errors.h"
+#include "base/Text.h"
 
 namespace sprout {
 

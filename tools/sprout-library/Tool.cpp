@@ -7,19 +7,18 @@
 #include <filesystem>
 #include <iomanip>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
 #include "core/Shared.h"
 #include "service/PictureFiles.h"
 #include "service/Services.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveFormat.h"
 #include "sprout-library/Check.h"
 #include "sprout-library/DrawPicture.h"
 #include "sprout-library/Library.h"
 #include "sprout-library/Measure.h"
 #include "sprout-song/Session.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 

@@ -18,9 +18,9 @@
 #include <utility>
 #include <vector>
 
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Busy.h"
-#include "core/Errors.h"
-#include "core/Paths.h"
 #include "core/Shared.h"
 #include "songs/SongExport.h"
 #include "sound/RenderThreads.h"

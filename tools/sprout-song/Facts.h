@@ -3,8 +3,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include "base/WaveData.h"
 #include "core/Song.h"
-#include "core/WaveData.h"
 #include "service/ffmpeg/SoundFacts.h"
 
 namespace sprout {

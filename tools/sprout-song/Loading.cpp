@@ -7,10 +7,11 @@
 #include <string>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Text.h"
 #include "songs/OpenSaveClass.h"
 #include "tunes/TunOpnSavClass.h"
 

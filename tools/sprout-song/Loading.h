@@ -7,8 +7,8 @@
 
 #include "core/Song.h"
 #include "service/ffmpeg/SoundFacts.h"
-#include "sound/WavOperations.h"
 #include "sprout-song/Session.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <optional>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/TuneRender.h"

@@ -3,12 +3,14 @@
 
 #include <unistd.h>
 
+#include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Services.h"
-#include "service/stretch/StretchService.h"
-#include "sound/WavOperations.h"
+#include "service/posix/LargePages.h"
 #include "sprout-song/Printable.h"
+#include "stretch/StretchService.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 
@@ -41,6 +43,7 @@ Session::Session(std::ostream& outStream, std::ostream& errStream, const std::fi
 {
     TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get()};
     TheServices().wma = &wma;
+    LargePages::UseFromNowOn();
     Shared() = SharedState();
     Shared().SongBeatsInside = !beatsOutside;
     MakePlainPictures();

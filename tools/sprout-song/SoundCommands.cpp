@@ -6,17 +6,16 @@
 #include <sstream>
 #include <string>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "sound/StretchWave.h"
 #include "sound/TrackRender.h"
 #include "sound/TuneRender.h"
-#include "sound/WavOperations.h"
-#include "sound/WaveFormat.h"
 #include "sprout-song/Commands.h"
 #include "sprout-song/Loading.h"
+#include "waves/WavOperations.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 

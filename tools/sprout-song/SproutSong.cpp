@@ -4,7 +4,8 @@
 #include <algorithm>
 #include <exception>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
+#include "base/Product.h"
 #include "core/Shared.h"
 #include "sprout-song/Commands.h"
 #include "sprout-song/Printable.h"

@@ -58,21 +58,21 @@ std::int32_t MachineSound::CountDevices()
     return answer == ServerAnswer::No ? device.SoundDeviceCount() : 0;
 }
 
-SoundHandle MachineSound::Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
-                                    std::int32_t bufferBytes)
+SoundHandle MachineSound::Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                               std::int32_t bufferBytes)
 {
     if (countAhead.valid())
         countAhead.wait();
     ServerAnswer answer = IsOpenDevice(old, format) ? ServerAnswer::No : AskServer();
     if (answer == ServerAnswer::Yes) {
-        SoundHandle sound = server.Service02(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);
+        SoundHandle sound = server.Open(KeepIf<PulseSound>(std::move(old)), windowHandle, format, bufferBytes);
         if (sound)
             return sound;
         old = nullptr;
         answer = AskServer(); // its failure may be how its end is known
     }
     if (answer == ServerAnswer::No)
-        return device.Service02(KeepIf<SdlSound>(std::move(old)), windowHandle, format, bufferBytes);
+        return device.Open(KeepIf<SdlSound>(std::move(old)), windowHandle, format, bufferBytes);
     return nullptr;
 }
 

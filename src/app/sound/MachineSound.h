@@ -26,8 +26,8 @@ public:
     void CountAhead();
 
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
-    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
-                                        std::int32_t bufferBytes) override;
+    [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                   std::int32_t bufferBytes) override;
 
 private:
     [[nodiscard]] ServerAnswer AskServer();

@@ -12,7 +12,9 @@
 #include <string_view>
 #include <utility>
 
-#include "core/Numbers.h"
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Files.h"
@@ -89,7 +91,7 @@ bool LoadQuietly(const fs::path& file)
 bool OpenSampleSong()
 {
     try {
-        const fs::path file = NamedFile(Shared().UserSongs, kSampleSong, ".TqSng");
+        const fs::path file = NamedFile(Shared().UserSongs, kSampleSong, kSongExtension);
         if (!IsFirstStart() || !FileExists(file) || !LoadQuietly(file))
             return false;
         Shared().Song.SongTitle = kSampleSong;

@@ -8,8 +8,10 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
+#include "base/Numbers.h"
+#include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -21,7 +23,7 @@
 #include "service/PrivateFolders.h"
 #include "service/Services.h"
 #include "service/SoundCapture.h"
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 

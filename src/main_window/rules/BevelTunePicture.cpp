@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 
 namespace sprout {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "sound/PlayMod.h"
 
 namespace sprout {

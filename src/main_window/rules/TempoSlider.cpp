@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/rules/TempoSlider.h"
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

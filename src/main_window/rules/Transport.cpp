@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
 #include "core/SongModel.h"
 #include "main_window/rules/CellValues.h"
 

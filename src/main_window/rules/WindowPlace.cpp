@@ -3,8 +3,8 @@
 
 #include <vector>
 
-#include "core/Numbers.h"
-#include "core/Text.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
 
 namespace sprout {
 

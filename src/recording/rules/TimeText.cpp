@@ -4,8 +4,8 @@
 #include <cmath>
 #include <string_view>
 
-#include "core/Errors.h"
-#include "core/Numbers.h"
+#include "base/Errors.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 
 namespace sprout {
 

@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

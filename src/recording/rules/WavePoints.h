@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "core/WaveData.h"
+#include "base/WaveData.h"
 #include "recording/rules/WaveView.h"
 
 namespace sprout {

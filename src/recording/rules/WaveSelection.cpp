@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <utility>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

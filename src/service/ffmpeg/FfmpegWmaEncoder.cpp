@@ -8,7 +8,7 @@
 #include <exception>
 #include <vector>
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "service/Files.h"
 #include "service/ffmpeg/FfmpegHandles.h"
 

@@ -19,8 +19,7 @@
 #include <system_error>
 #include <utility>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
 #include "service/ffmpeg/SoundDecoder.h"
 
 namespace sprout {
@@ -69,7 +68,7 @@ bool IsPlainFile(const Descriptor& file)
 /// one.
 class TemporaryWave : public ConvertedWave {
 public:
-    TemporaryWave() : file(Create()) {}
+    explicit TemporaryWave(const SoundChild::NewFile& newFile) : file(Create(newFile)) {}
     TemporaryWave(const TemporaryWave&) = delete;
     TemporaryWave& operator=(const TemporaryWave&) = delete;
     ~TemporaryWave() override { ::unlink(path.c_str()); }
@@ -78,16 +77,16 @@ public:
     [[nodiscard]] int Number() const { return file.Number(); }
 
 private:
-    int Create();
+    int Create(const SoundChild::NewFile& newFile);
 
     fs::path path;
     Descriptor file;
 };
 
-int TemporaryWave::Create()
+int TemporaryWave::Create(const SoundChild::NewFile& newFile)
 {
     for (int n = 1; n <= kMostTries; ++n) {
-        path = NewTempFileName("wav");
+        path = newFile();
         const int opened = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly);
         if (opened < 0 && errno != EEXIST)
             FailToWrite(errno);
@@ -207,8 +206,8 @@ Converted Result(int status, std::unique_ptr<TemporaryWave> wave)
 
 } // namespace
 
-SoundChild::SoundChild(fs::path programFile, std::chrono::milliseconds longestWait)
-    : program(std::move(programFile)), longest(longestWait)
+SoundChild::SoundChild(fs::path programFile, NewFile newFileName, std::chrono::milliseconds longestWait)
+    : program(std::move(programFile)), newFile(std::move(newFileName)), longest(longestWait)
 {
 }
 
@@ -219,7 +218,7 @@ Converted SoundChild::Convert(const fs::path& sound, std::int32_t mostSeconds, T
     if (!IsPlainFile(from))
         return {};
     const std::int64_t mostFrames = std::int64_t{mostSeconds} * kDecodedRate;
-    auto wave = std::make_unique<TemporaryWave>();
+    auto wave = std::make_unique<TemporaryWave>(newFile);
     const auto last = std::chrono::steady_clock::now() + longest;
     const pid_t pid = Spawn(program, from.Number(), wave->Number(), mostFrames, tooLong);
     if (pid < 0)

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <chrono>
+#include <filesystem>
+#include <functional>
 
 #include "service/SoundReader.h"
 
@@ -11,14 +13,19 @@ namespace sprout {
 /// there, the program goes on.
 class SoundChild : public SoundReader {
 public:
+    /// Gives a path for a temporary WAV file at which nothing lies.
+    using NewFile = std::function<std::filesystem::path()>;
+
     /// program: the path of `sprout-read-sound`. longest: after so long the child is ended.
-    explicit SoundChild(std::filesystem::path program, std::chrono::milliseconds longest = std::chrono::seconds(20));
+    SoundChild(std::filesystem::path program, NewFile newFile,
+               std::chrono::milliseconds longest = std::chrono::seconds(20));
 
     [[nodiscard]] Converted Convert(const std::filesystem::path& sound, std::int32_t mostSeconds, TooLong tooLong,
                                     const Progress& progress) override;
 
 private:
     std::filesystem::path program;
+    NewFile newFile;
     std::chrono::milliseconds longest;
 };
 

@@ -7,7 +7,7 @@
 #include <new>
 #include <span>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/ffmpeg/SoundDecoder.h"
 
 namespace sprout {

@@ -7,8 +7,8 @@
 #include <exception>
 #include <span>
 
-#include "core/ByteCursor.h"
-#include "core/Errors.h"
+#include "base/ByteCursor.h"
+#include "base/Errors.h"
 #include "service/ffmpeg/FfmpegHandles.h"
 
 namespace sprout {

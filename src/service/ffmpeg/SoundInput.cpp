@@ -9,7 +9,7 @@
 #include <new>
 #include <string>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 

@@ -5,7 +5,7 @@
 #include <span>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 

@@ -16,8 +16,8 @@
 #include <thread>
 #include <vector>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "service/posix/Descriptor.h"
 #include "service/posix/FileLock.h"
 

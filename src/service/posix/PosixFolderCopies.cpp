@@ -12,8 +12,8 @@
 #include <system_error>
 #include <thread>
 
-#include "core/FolderFiles.h"
-#include "core/Paths.h"
+#include "base/FilePaths.h"
+#include "base/FolderFiles.h"
 #include "service/posix/Descriptor.h"
 #include "service/posix/FileLock.h"
 

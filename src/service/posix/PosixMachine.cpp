@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/posix/PosixMachine.h"
 
-#include <sys/mman.h>
-
 #include <algorithm>
 #include <cstdlib>
 #include <fstream>
@@ -60,12 +58,6 @@ std::uint64_t PosixMachine::FreeBytes(const fs::path& path) const
     std::error_code error;
     const fs::space_info space = fs::space(path, error);
     return error ? 0 : space.available;
-}
-
-void PosixMachine::PreferLargePages(void* memory, std::size_t bytes) const
-{
-    // A kernel without large pages refuses; the small ones do as well.
-    static_cast<void>(::madvise(memory, bytes, MADV_HUGEPAGE));
 }
 
 } // namespace sprout

@@ -17,7 +17,6 @@ public:
     [[nodiscard]] std::filesystem::path TempPath() const override;
     [[nodiscard]] std::filesystem::path ExecutablePath() const override;
     [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path& path) const override;
-    void PreferLargePages(void* memory, std::size_t bytes) const override;
 };
 
 } // namespace sprout

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 

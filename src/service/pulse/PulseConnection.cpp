@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "core/Shared.h"
+#include "base/Product.h"
 #include "service/pulse/PulseLibrary.h"
 
 namespace sprout {

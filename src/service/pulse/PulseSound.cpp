@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "core/Shared.h"
+#include "base/Product.h"
 #include "service/pulse/PulseLibrary.h"
 
 namespace sprout {
@@ -303,11 +303,11 @@ std::optional<PulseSound::Time> PulseSound::FirstTaken()
     return firstTaken;
 }
 
-void PulseSound::Service06(std::span<const std::byte> pcm)
+void PulseSound::Load(std::span<const std::byte> pcm)
 {
     {
         const Lock lock(connection.Mutex());
-        Stop();
+        StopStream();
         ForgetQuestions();
         holdsQueue = false;
         place = 0;
@@ -315,10 +315,10 @@ void PulseSound::Service06(std::span<const std::byte> pcm)
     queue.Load(pcm, soundBytes);
 }
 
-void PulseSound::Service04(StartFrom from, Loop loop)
+void PulseSound::Start(StartFrom from, Loop loop)
 {
     Lock lock(connection.Mutex());
-    Stop();
+    StopStream();
     if (from == StartFrom::Beginning) {
         firstTaken.reset();
         holdsQueue = false;
@@ -361,13 +361,13 @@ bool PulseSound::GoOn(Loop loop)
     return true;
 }
 
-void PulseSound::Service05()
+void PulseSound::Stop()
 {
     const Lock lock(connection.Mutex());
-    Stop();
+    StopStream();
 }
 
-void PulseSound::Stop()
+void PulseSound::StopStream()
 {
     Follow();
     if (!std::exchange(playing, false))
@@ -390,14 +390,14 @@ void PulseSound::OnTailHeard()
     Cork(true);
 }
 
-SoundPlace PulseSound::Service07()
+SoundPlace PulseSound::Place()
 {
     const Lock lock(connection.Mutex());
     Follow();
     return {queue.FrameAt(place), playing};
 }
 
-void PulseSound::Service09(Loop loop)
+void PulseSound::SetLooping(Loop loop)
 {
     const Lock lock(connection.Mutex());
     Follow();

@@ -47,11 +47,11 @@ public:
     /// When the server told that the device takes frames, after the last start from the beginning.
     [[nodiscard]] std::optional<Time> FirstTaken();
 
-    void Service06(std::span<const std::byte> pcm) override;
-    void Service04(StartFrom from, Loop loop) override;
-    void Service05() override;
-    [[nodiscard]] SoundPlace Service07() override;
-    void Service09(Loop loop) override;
+    void Load(std::span<const std::byte> pcm) override;
+    void Start(StartFrom from, Loop loop) override;
+    void Stop() override;
+    [[nodiscard]] SoundPlace Place() override;
+    void SetLooping(Loop loop) override;
 
 private:
     using Lock = PulseConnection::Lock;
@@ -91,7 +91,7 @@ private:
     [[nodiscard]] bool GoOn(Loop loop);
     void ChangeLooping(Loop loop, std::int64_t firstPlace);
     [[nodiscard]] std::int64_t FirstPlaceNotGiven() const;
-    void Stop();
+    void StopStream();
     void End();
     /// Brings the place up to now, and ends the sound once its end was heard.
     void Follow();

@@ -25,8 +25,7 @@ std::int32_t PulseSoundOutput::SoundDeviceCount()
     return connection.Connect(lock, deadline) == ServerAnswer::Yes ? connection.CountSinks(lock, deadline) : 0;
 }
 
-SoundHandle PulseSoundOutput::Service02(SoundHandle old, std::int32_t, const SoundFormat& format,
-                                        std::int32_t bufferBytes)
+SoundHandle PulseSoundOutput::Open(SoundHandle old, std::int32_t, const SoundFormat& format, std::int32_t bufferBytes)
 {
     const auto deadline = ServerDeadline();
     std::unique_ptr<PulseSound> sound(static_cast<PulseSound*>(old.release()));

@@ -24,8 +24,8 @@ public:
 
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
     /// Keeps the stream of `old`, which must come from here, where it is alive and has the same format.
-    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
-                                        std::int32_t bufferBytes) override;
+    [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                   std::int32_t bufferBytes) override;
 
 private:
     const std::chrono::milliseconds restRound;

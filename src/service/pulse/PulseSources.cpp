@@ -6,8 +6,8 @@
 #include <string_view>
 #include <utility>
 
-#include "core/Numbers.h"
-#include "core/Text.h"
+#include "base/Numbers.h"
+#include "base/Text.h"
 #include "service/pulse/PulseLibrary.h"
 
 namespace sprout {

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <span>
 
-#include "core/PcmSound.h"
+#include "base/PcmSound.h"
 #include "service/SoundOutput.h"
 
 namespace sprout {

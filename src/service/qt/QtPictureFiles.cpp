@@ -16,7 +16,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 
 namespace sprout {
 

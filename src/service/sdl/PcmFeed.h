@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-#include "core/PcmSound.h"
+#include "base/PcmSound.h"
 #include "service/SoundOutput.h"
 
 namespace sprout {

@@ -6,7 +6,7 @@
 #include <mutex>
 #include <string>
 
-#include "core/Shared.h"
+#include "base/Product.h"
 
 namespace sprout {
 

@@ -123,13 +123,13 @@ void SdlSound::EndWatch()
     watchIsEnding = false;
 }
 
-void SdlSound::Service04(StartFrom from, Loop loop)
+void SdlSound::Start(StartFrom from, Loop loop)
 {
     if (Wake())
         feed.Start(from, loop);
 }
 
-SoundPlace SdlSound::Service07()
+SoundPlace SdlSound::Place()
 {
     SoundPlace place = feed.PlaceAt(std::chrono::steady_clock::now());
     const std::lock_guard lock(mutex);

@@ -38,11 +38,11 @@ public:
     /// See `PcmFeed`.
     [[nodiscard]] std::optional<PcmFeed::Time> FirstTaken() const { return feed.FirstTaken(); }
 
-    void Service06(std::span<const std::byte> pcm) override { feed.Load(pcm, soundBytes); }
-    void Service04(StartFrom from, Loop loop) override;
-    void Service05() override { feed.Stop(); }
-    [[nodiscard]] SoundPlace Service07() override;
-    void Service09(Loop loop) override { feed.SetLooping(loop); }
+    void Load(std::span<const std::byte> pcm) override { feed.Load(pcm, soundBytes); }
+    void Start(StartFrom from, Loop loop) override;
+    void Stop() override { feed.Stop(); }
+    [[nodiscard]] SoundPlace Place() override;
+    void SetLooping(Loop loop) override { feed.SetLooping(loop); }
 
 private:
     [[nodiscard]] bool Open();

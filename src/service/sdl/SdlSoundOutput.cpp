@@ -36,8 +36,7 @@ std::int32_t SdlSoundOutput::SoundDeviceCount()
     return StartAudio() ? std::max(0, Sdl().GetNumAudioDevices(0)) : 0;
 }
 
-SoundHandle SdlSoundOutput::Service02(SoundHandle old, std::int32_t, const SoundFormat& format,
-                                      std::int32_t bufferBytes)
+SoundHandle SdlSoundOutput::Open(SoundHandle old, std::int32_t, const SoundFormat& format, std::int32_t bufferBytes)
 {
     // Every handle came from here.
     std::unique_ptr<SdlSound> sound(static_cast<SdlSound*>(old.release()));

@@ -19,8 +19,8 @@ public:
 
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
     /// Keeps the device of `old` where it is alive and has the same format.
-    [[nodiscard]] SoundHandle Service02(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
-                                        std::int32_t bufferBytes) override;
+    [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
+                                   std::int32_t bufferBytes) override;
 
 private:
     bool StartAudio();

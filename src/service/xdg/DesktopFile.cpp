@@ -5,7 +5,7 @@
 #include <map>
 #include <utility>
 
-#include "core/Text.h"
+#include "base/Text.h"
 
 namespace sprout {
 

@@ -11,8 +11,8 @@
 #include <span>
 #include <stdexcept>
 
-#include "core/ByteCursor.h"
-#include "core/Text.h"
+#include "base/ByteCursor.h"
+#include "base/Text.h"
 
 namespace sprout {
 

@@ -10,7 +10,7 @@
 #include <cerrno>
 #include <system_error>
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "service/xdg/ChildProcess.h"
 #include "service/xdg/Environment.h"
 

@@ -11,7 +11,7 @@
 #include <string>
 #include <system_error>
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "service/xdg/ChildProcess.h"
 #include "service/xdg/DesktopFile.h"
 #include "service/xdg/Environment.h"

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sharing/rules/AttachmentName.h"
 
-#include "core/Paths.h"
-#include "core/Text.h"
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
 
 namespace sprout {
 
@@ -26,7 +27,7 @@ std::string AttachmentName(std::string_view songTitle)
         if (IsControl(c) || c == '|')
             c = '_';
     // Windows takes no blank at the end of a name.
-    return std::string(Trim(CharactersInBytes(Trim(name), kMostBytes))) + ".wma";
+    return std::string(Trim(CharactersInBytes(Trim(name), kMostBytes))) + std::string(kWmaExtension);
 }
 
 } // namespace sprout

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sharing/rules/ExportName.h"
 
-#include "core/Paths.h"
-#include "core/Text.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
 
 namespace sprout {
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sharing/rules/MailText.h"
 
+#include "base/Product.h"
 #include "core/Shared.h"
 
 namespace sprout {

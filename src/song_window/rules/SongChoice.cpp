@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "songs/OpenSaveClass.h"
 
 namespace sprout {

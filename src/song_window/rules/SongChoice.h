@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "song_window/rules/SongFiles.h"
+#include "songs/SongFiles.h"
 
 namespace sprout {
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/Numbers.h"
-#include "tunes/BeatFiles.h"
+#include "base/Numbers.h"
+#include "beats/BeatFiles.h"
 
 namespace sprout {
 

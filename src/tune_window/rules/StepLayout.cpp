@@ -5,7 +5,7 @@
 #include <array>
 #include <cmath>
 
-#include "core/Numbers.h"
+#include "base/Numbers.h"
 
 namespace sprout {
 

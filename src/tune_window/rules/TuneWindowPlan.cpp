@@ -3,7 +3,6 @@
 
 #include <algorithm>
 
-#include "tune_window/rules/TuneTable.h"
 #include "ui/rules/PictureGrid.h"
 
 namespace sprout {
@@ -29,11 +28,13 @@ int WideWindow(const TuneWindowNeeds& needs)
     return 2 * kPlanMargin + needs.gridWidth + kBeforePanel + kPanelWidth;
 }
 
-std::int32_t GridRows(const TuneWindowNeeds& needs, int besideRows, std::int32_t fewest)
+std::int32_t TuneGridRows(const TuneWindowNeeds& needs, int besideRows)
 {
-    const std::int32_t fit = (needs.screenHeight - besideRows) / kGridCell;
-    const std::int32_t filled = (needs.tunes + kTuneColumns - 1) / kTuneColumns;
-    return std::max(std::min(std::max(filled + 1, fewest), fit), kFewestRows);
+    return FittingGridRows({.count = needs.tunes,
+                            .columns = kTuneColumns,
+                            .wantedRows = kFewestRowsBesidePanel,
+                            .roomPx = needs.screenHeight - besideRows,
+                            .fewestRows = kFewestRows});
 }
 
 /// Picture at the left, name above author beside it.
@@ -66,7 +67,7 @@ TuneWindowPlan PlanWide(const TuneWindowNeeds& needs)
     TuneWindowPlan plan;
     const int top = needs.bandHeight + kPlanMargin;
     const int beside = top + needs.gridFrameHeight + kPlanMargin + needs.editorHeight + kPlanMargin;
-    plan.gridRows = GridRows(needs, beside, kFewestRowsBesidePanel);
+    plan.gridRows = TuneGridRows(needs, beside);
     plan.width = WideWindow(needs);
     plan.grid = {kPlanMargin, top, needs.gridWidth, plan.gridRows * kGridCell + needs.gridFrameHeight};
     const int panelX = plan.grid.Right() + kBeforePanel;
@@ -83,7 +84,7 @@ TuneWindowPlan PlanNarrow(const TuneWindowNeeds& needs)
     TuneWindowPlan plan;
     const int top = needs.bandHeight + kPlanGap;
     const int beside = top + needs.gridFrameHeight + kPlanGap + kRoundButton + kPlanGap + needs.editorHeight + kPlanGap;
-    plan.gridRows = GridRows(needs, beside, kFewestRowsBesidePanel);
+    plan.gridRows = TuneGridRows(needs, beside);
     plan.width = 2 * kPlanMargin + needs.gridWidth;
     plan.grid = {kPlanMargin, top, needs.gridWidth, plan.gridRows * kGridCell + needs.gridFrameHeight};
     const int barY = plan.grid.Bottom() + kPlanGap;

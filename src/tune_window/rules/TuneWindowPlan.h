@@ -6,6 +6,9 @@
 
 namespace sprout {
 
+/// Tunes in a row of the grid.
+inline constexpr std::int32_t kTuneColumns = 18;
+
 /// A place in a window, in logical pixels.
 struct PlanBox {
     int x = 0;

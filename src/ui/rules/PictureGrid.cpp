@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/Picture.h"
+#include "base/Picture.h"
 
 namespace sprout {
 
@@ -91,6 +91,22 @@ std::int32_t TopRowShowing(const PictureGrid& grid, std::int32_t index)
     const std::int32_t row = GridRowOf(grid, std::clamp(index, 1, std::max(grid.count, 1)));
     const std::int32_t nearest = std::clamp(grid.topRow, row - GridRowsInView(grid) + 1, row);
     return std::clamp(nearest, 1, std::max(GridScrollRange(grid).maximum, 1));
+}
+
+std::int32_t FittingGridRows(const GridRoom& room)
+{
+    const std::int32_t filled = (room.count + room.columns - 1) / room.columns;
+    const std::int32_t fit = room.roomPx / kGridCell;
+    return std::max(std::min(std::max(filled + 1, room.wantedRows), fit), room.fewestRows);
+}
+
+std::int32_t GridMoveTarget(GridMove move, std::int32_t selected, std::int32_t count, std::int32_t columns)
+{
+    if (selected < 1 || selected > count)
+        return 0;
+    const std::array<std::int32_t, kGridMoveCaptions.size()> distances{-columns, columns, -1, 1};
+    const std::int32_t target = selected + distances[static_cast<std::size_t>(move)];
+    return target >= 1 && target <= count ? target : 0;
 }
 
 } // namespace sprout

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <string_view>
 
 namespace sprout {
 
@@ -42,6 +44,26 @@ struct GridScroll {
 
 /// The range of the scroll bar: rows less those that fit, the last of which stays free.
 [[nodiscard]] GridScroll GridScrollRange(const PictureGrid& grid);
+
+/// What a grid has to find room for.
+struct GridRoom {
+    std::int32_t count = 0; ///< pictures
+    std::int32_t columns = 1;
+    std::int32_t wantedRows = 1; ///< at least, where there is room
+    std::int32_t roomPx = 0;     ///< height for the rows
+    std::int32_t fewestRows = 1; ///< even where there is no room
+};
+
+/// Rows that show all pictures, and one more: a grid that is filled to its last row can be scrolled.
+[[nodiscard]] std::int32_t FittingGridRows(const GridRoom& room);
+
+/// What the menu of a grid does to the chosen picture, in the order of its items.
+enum class GridMove : std::int32_t { Up = 0, Down = 1, Left = 2, Right = 3 };
+inline constexpr std::array<std::string_view, 4> kGridMoveCaptions{"Move Up", "Move Down", "Move Left", "Move Right"};
+
+/// The place that the chosen one of `count` pictures moves to; 0 where it cannot go.
+[[nodiscard]] std::int32_t GridMoveTarget(GridMove move, std::int32_t selected, std::int32_t count,
+                                          std::int32_t columns);
 
 /// Where the keyboard can go from a picture.
 enum class GridStep { Left, Right, Up, Down, PageUp, PageDown, First, Last };

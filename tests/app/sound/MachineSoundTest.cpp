@@ -36,7 +36,7 @@ protected:
         Sdl().SetHint("SDL_AUDIODRIVER", nullptr);
     }
 
-    SoundHandle Opened(SoundHandle old = nullptr) { return output.Service02(std::move(old), 0, SoundFormat(), 4); }
+    SoundHandle Opened(SoundHandle old = nullptr) { return output.Open(std::move(old), 0, SoundFormat(), 4); }
 
     TestSoundServer server;
     MachineSound output;
@@ -95,19 +95,19 @@ TEST_F(MachineSoundTest, AServerThatDiesLeavesSdlAndOneThatComesIsFoundWithTheNe
     const SoundObject* const device = sound.get();
     sound = Opened(std::move(sound));
     EXPECT_EQ(sound.get(), device); // it is open
-    sound = output.Service02(std::move(sound), 0, {1, 11025, 8}, 4);
+    sound = output.Open(std::move(sound), 0, {1, 11025, 8}, 4);
     EXPECT_TRUE(IsOfServer(sound));
 }
 
 TEST_F(MachineSoundTest, AServerThatComesIsFoundWhenTheDeviceRested)
 {
     MachineSound resting{std::chrono::milliseconds(1)};
-    SoundHandle sound = resting.Service02(nullptr, 0, SoundFormat(), 4);
+    SoundHandle sound = resting.Open(nullptr, 0, SoundFormat(), 4);
     ASSERT_TRUE(IsOfSdl(sound));
     ASSERT_TRUE(server.Start());
     while (static_cast<SdlSound&>(*sound).IsOpenIn(SoundFormat()))
         std::this_thread::yield();
-    sound = resting.Service02(std::move(sound), 0, SoundFormat(), 4);
+    sound = resting.Open(std::move(sound), 0, SoundFormat(), 4);
     EXPECT_TRUE(IsOfServer(sound));
 }
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/StartUp.h"
+#include "base/FilePaths.h"
 
 #include <gtest/gtest.h>
 
@@ -7,15 +8,14 @@
 #include <optional>
 #include <utility>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/IniFile.h"
-#include "core/Paths.h"
 #include "core/Settings.h"
-#include "sound/WavOperations.h"
 #include "support/FakeServices.h"
 #include "support/InstalledBeats.h"
 #include "support/KilledChild.h"
 #include "support/UnchangeableFolder.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

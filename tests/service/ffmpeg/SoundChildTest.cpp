@@ -22,7 +22,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "core/Paths.h"
 #include "support/FakeServices.h"
 
@@ -140,8 +140,10 @@ protected:
 
     static Converted ConvertBy(const fs::path& program, const fs::path& sound)
     {
-        return SoundChild(program).Convert(sound, 5, TooLong::Cut, [](std::size_t, std::size_t) {});
+        return SoundChild(program, NewFile).Convert(sound, 5, TooLong::Cut, [](std::size_t, std::size_t) {});
     }
+
+    static fs::path NewFile() { return NewTempFileName("wav"); }
 
     static void ExpectNothingLeft()
     {
@@ -150,7 +152,7 @@ protected:
     }
 
     FakeServices services;
-    SoundChild child{Program()};
+    SoundChild child{Program(), NewFile};
 };
 
 /// A way to write a sound, and what it does to it.
@@ -419,7 +421,7 @@ TEST_F(SoundChildTest, TakesEveryEndOfTheChildForWhatItIs)
 TEST_F(SoundChildTest, EndsAChildThatTakesTooLong)
 {
     WriteBytes(In("sound"), "x");
-    SoundChild patient(Script("exec sleep 1000"), std::chrono::milliseconds(50));
+    SoundChild patient(Script("exec sleep 1000"), NewFile, std::chrono::milliseconds(50));
     EXPECT_EQ(patient.Convert(In("sound"), 5, TooLong::Cut, [](std::size_t, std::size_t) {}).Outcome,
               Conversion::Unreadable);
     ExpectNothingLeft();
@@ -428,7 +430,7 @@ TEST_F(SoundChildTest, EndsAChildThatTakesTooLong)
 TEST_F(SoundChildTest, TellsHowFarItIsAndEndsTheChildWhenTheUserStops)
 {
     WriteBytes(In("sound"), "x");
-    SoundChild slow(Script("head -c 1000 /dev/zero; exec sleep 1000"));
+    SoundChild slow(Script("head -c 1000 /dev/zero; exec sleep 1000"), NewFile);
     const auto stop = [](std::size_t done, std::size_t total) {
         EXPECT_EQ(total, 44U + 5 * 44100 * 4);
         if (done == 1000)

@@ -9,9 +9,9 @@
 #include <random>
 
 #include "service/ffmpeg/WmaMaker.h"
-#include "sound/WaveBytes.h"
 #include "sound/Waves.h"
 #include "support/TestFolder.h"
+#include "waves/WaveBytes.h"
 
 namespace sprout {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/Files.h"
 #include "service/ffmpeg/FfmpegWmaEncoder.h"
 

@@ -13,7 +13,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/ScratchDevice.h"
 #include "support/TestFolder.h"
 #include "support/UnchangeableFolder.h"

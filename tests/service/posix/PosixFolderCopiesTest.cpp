@@ -8,8 +8,8 @@
 #include <string>
 #include <system_error>
 
-#include "core/Errors.h"
-#include "core/Paths.h"
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "service/posix/FileLock.h"
 #include "support/InstalledBeats.h"
 #include "support/KilledChild.h"

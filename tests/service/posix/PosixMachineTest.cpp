@@ -69,16 +69,5 @@ TEST(PosixMachine, AsksForTheRoomOnAVolume)
     EXPECT_EQ(PosixMachine().FreeBytes("/no/such/folder"), 0U);
 }
 
-TEST(PosixMachine, LeavesMemoryUsableThatItAskedLargePagesFor)
-{
-    constexpr std::size_t page = std::size_t{1} << 21;
-    void* memory = std::aligned_alloc(page, 2 * page);
-    ASSERT_NE(memory, nullptr);
-    PosixMachine().PreferLargePages(memory, 2 * page);
-    static_cast<char*>(memory)[2 * page - 1] = 'x';
-    EXPECT_EQ(static_cast<char*>(memory)[2 * page - 1], 'x');
-    std::free(memory);
-}
-
 } // namespace
 } // namespace sprout

@@ -14,7 +14,7 @@
 #include <optional>
 #include <string>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/TestFolder.h"
 
 namespace sprout {

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "service/posix/PosixFiles.h"
 #include "support/Faults.h"
 #include "support/TestFolder.h"

@@ -72,15 +72,15 @@ bool Comes(const std::function<bool()>& condition)
 
 bool Ends(const SoundHandle& sound)
 {
-    return Comes([&] { return !sound->Service07().Playing; });
+    return Comes([&] { return !sound->Place().Playing; });
 }
 
 /// A sound of `samples` that is open and silent.
 SoundHandle Opened(SoundOutput& output, const SoundFormat& format, const Bytes& samples, SoundHandle old = nullptr)
 {
-    SoundHandle sound = output.Service02(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
+    SoundHandle sound = output.Open(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
     if (sound)
-        sound->Service06(samples);
+        sound->Load(samples);
     return sound;
 }
 
@@ -94,7 +94,7 @@ protected:
     {
         SoundHandle sound = Opened(output, format, samples);
         if (sound)
-            sound->Service04(StartFrom::Beginning, loop);
+            sound->Start(StartFrom::Beginning, loop);
         return sound && recording.Sounds() ? std::move(sound) : nullptr;
     }
 
@@ -117,7 +117,7 @@ TEST(PulseFormats, AreHeardBitExactEach)
                 const Bytes samples = Samples(format, rate * 7 / 10); // longer than the queue
                 SoundHandle sound = Opened(output, format, samples);
                 ASSERT_TRUE(sound);
-                sound->Service04(StartFrom::Beginning, Loop::No);
+                sound->Start(StartFrom::Beginning, Loop::No);
                 EXPECT_TRUE(recording.Holds(samples));
                 EXPECT_TRUE(Ends(sound));
                 EXPECT_TRUE(Same(recording.Sounded(), samples));
@@ -137,7 +137,7 @@ TEST_F(PulseTest, APlayIsHeardFromItsFirstFrameToItsLastAgainAndAgain)
         const Bytes samples = Samples(format, 10001, play);
         sound = Opened(output, format, samples, std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(recording.Holds(samples));
         EXPECT_TRUE(Ends(sound));
         EXPECT_TRUE(Same(recording.Sounded(), samples));
@@ -149,21 +149,21 @@ TEST_F(PulseTest, ItPlaysUntilTheLastFrameIsHeard)
     const auto begun = Clock::now();
     SoundHandle sound = Opened(output, format, Samples(format, format.Rate));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_GE(Clock::now() - begun, std::chrono::seconds(1));
-    EXPECT_EQ(sound->Service07().Cursor, format.Rate - 1);
+    EXPECT_EQ(sound->Place().Cursor, format.Rate - 1);
 }
 
 TEST_F(PulseTest, TheCursorRunsAndNeverGoesBack)
 {
     SoundHandle sound = Opened(output, format, Samples(format, format.Rate));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     std::int32_t cursor = 0;
     int moves = 0;
     EXPECT_TRUE(Comes([&] {
-        const SoundPlace place = sound->Service07();
+        const SoundPlace place = sound->Place();
         EXPECT_GE(place.Cursor, cursor);
         moves += place.Cursor > cursor;
         cursor = place.Cursor;
@@ -176,14 +176,14 @@ TEST_F(PulseTest, TheCursorOfALoopCountsWithinThePass)
 {
     SoundHandle sound = Opened(output, format, Samples(format, 5000));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     std::int32_t cursor = 0;
     for (int pass = 0; pass < 3; ++pass)
         EXPECT_TRUE(Comes([&] {
-            const std::int32_t before = std::exchange(cursor, sound->Service07().Cursor);
+            const std::int32_t before = std::exchange(cursor, sound->Place().Cursor);
             return cursor < before;
         }));
-    EXPECT_TRUE(sound->Service07().Playing);
+    EXPECT_TRUE(sound->Place().Playing);
 }
 
 TEST_F(PulseTest, ALoopHasNoGap)
@@ -193,7 +193,7 @@ TEST_F(PulseTest, ALoopHasNoGap)
     SoundHandle sound = Playing(samples, Loop::Yes, recording);
     ASSERT_TRUE(sound);
     EXPECT_TRUE(recording.Holds(Repeated(samples, 60 * samples.size())));
-    EXPECT_TRUE(sound->Service07().Playing);
+    EXPECT_TRUE(sound->Place().Playing);
 }
 
 TEST_F(PulseTest, ALoopSwitchedOffEndsWithTheHeardPassThoughMoreIsQueued)
@@ -203,8 +203,8 @@ TEST_F(PulseTest, ALoopSwitchedOffEndsWithTheHeardPassThoughMoreIsQueued)
     SoundHandle sound = Playing(samples, Loop::Yes, recording);
     ASSERT_TRUE(sound);
     EXPECT_TRUE(recording.Holds(Repeated(samples, samples.size() + 4000)));
-    const std::int32_t frame = sound->Service07().Cursor;
-    sound->Service09(Loop::No);
+    const std::int32_t frame = sound->Place().Cursor;
+    sound->SetLooping(Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(88200)); // as long as the queue
     const Bytes sounded = recording.Sounded();
@@ -220,8 +220,8 @@ TEST_F(PulseTest, ALoopSwitchedOffAndOnAgainHasNoGap)
     const Bytes samples = Samples(format, 20000);
     SoundHandle sound = Playing(samples, Loop::Yes, recording);
     ASSERT_TRUE(sound);
-    sound->Service09(Loop::No);
-    sound->Service09(Loop::Yes);
+    sound->SetLooping(Loop::No);
+    sound->SetLooping(Loop::Yes);
     EXPECT_TRUE(recording.Holds(Repeated(samples, 3 * samples.size())));
 }
 
@@ -231,7 +231,7 @@ TEST_F(PulseTest, LoopingSwitchedOnBehindWhatIsQueuedHasNoGap)
     const Bytes samples = Samples(format, 10000); // all of it waits at the server, and silence behind it
     SoundHandle sound = Playing(samples, Loop::No, recording);
     ASSERT_TRUE(sound);
-    sound->Service09(Loop::Yes);
+    sound->SetLooping(Loop::Yes);
     EXPECT_TRUE(recording.Holds(Repeated(samples, 4 * samples.size())));
 }
 
@@ -240,8 +240,8 @@ TEST_F(PulseTest, AStopIsKnownAtOnceAndSilent)
     TestRecording recording(server);
     SoundHandle sound = Playing(Samples(format, 44100), Loop::Yes, recording);
     ASSERT_TRUE(sound);
-    sound->Service05();
-    EXPECT_FALSE(sound->Service07().Playing);
+    sound->Stop();
+    EXPECT_FALSE(sound->Place().Playing);
     EXPECT_TRUE(recording.Grows(88200));
     EXPECT_LT(recording.Sounded().size(), 88200U); // the queue was not played
 }
@@ -255,12 +255,12 @@ TEST_F(PulseTest, PausesLoseNoFrameAndRepeatNone)
     for (int pause = 0; pause < 4; ++pause) {
         EXPECT_TRUE(recording.Grows(17640));
         const auto begun = Clock::now();
-        sound->Service05();
-        const std::int32_t stoppedAt = sound->Service07().Cursor;
+        sound->Stop();
+        const std::int32_t stoppedAt = sound->Place().Cursor;
         const std::chrono::duration<double> took = Clock::now() - begun; // this thread may have been held up
         EXPECT_TRUE(recording.Grows(17640));
-        EXPECT_NEAR(sound->Service07().Cursor, stoppedAt, 2205 + took.count() * 44100);
-        sound->Service04(StartFrom::WhereItStopped, Loop::No);
+        EXPECT_NEAR(sound->Place().Cursor, stoppedAt, 2205 + took.count() * 44100);
+        sound->Start(StartFrom::WhereItStopped, Loop::No);
     }
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
@@ -277,8 +277,8 @@ TEST_F(PulseTest, PausesThatAreOverAtOnceLoseNoFrame)
     ASSERT_TRUE(sound);
     constexpr std::size_t kPauses = 3;
     for (std::size_t pause = 0; pause < kPauses; ++pause) {
-        sound->Service05();
-        sound->Service04(StartFrom::WhereItStopped, Loop::No);
+        sound->Stop();
+        sound->Start(StartFrom::WhereItStopped, Loop::No);
     }
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
@@ -296,8 +296,8 @@ TEST_F(PulseTest, ALoopThatGoesOnWithoutLoopingEndsWithItsPass)
     const Bytes samples = Samples(format, 10000);
     SoundHandle sound = Playing(samples, Loop::Yes, recording);
     ASSERT_TRUE(sound);
-    sound->Service05();
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    sound->Stop();
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(88200));
     const Bytes sounded = WithoutSilence(recording.Sounded());
@@ -312,10 +312,10 @@ TEST_F(PulseTest, ASoundThatHasEndedDoesNotGoOnAndStartsAnew)
     SoundHandle sound = Playing(samples, Loop::No, recording);
     ASSERT_TRUE(sound);
     EXPECT_TRUE(Ends(sound));
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
-    EXPECT_FALSE(sound->Service07().Playing);
-    sound->Service04(StartFrom::Beginning, Loop::No);
-    EXPECT_TRUE(sound->Service07().Playing);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
+    EXPECT_FALSE(sound->Place().Playing);
+    sound->Start(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(sound->Place().Playing);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
     EXPECT_TRUE(Same(WithoutSilence(recording.Sounded()), Repeated(samples, 2 * samples.size())));
@@ -327,7 +327,7 @@ TEST_F(PulseTest, TheStreamStopsSoonAfterASoundHasEnded)
     SoundHandle sound = Opened(tireless, format, Samples(format, 3000));
     ASSERT_TRUE(sound);
     EXPECT_TRUE(server.HasStoppedInput());
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(Comes([this] { return server.HasStoppedInput(); }));
 }
@@ -341,13 +341,13 @@ TEST_F(PulseTest, TheStreamRunsOnBehindAnEndUntilTheNextPlay)
         const Bytes samples = Samples(format, 3001, play);
         sound = Opened(running, format, samples, std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(Ends(sound));
         EXPECT_FALSE(server.HasStoppedInput());
         EXPECT_TRUE(recording.Grows(8820));
         EXPECT_TRUE(Same(recording.Sounded(), samples));
-        sound->Service05();
-        EXPECT_FALSE(sound->Service07().Playing);
+        sound->Stop();
+        EXPECT_FALSE(sound->Place().Playing);
     }
 }
 
@@ -358,7 +358,7 @@ TEST_F(PulseTest, TheNextSoundCutsTheFirstOffAndIsHeardWhole)
     ASSERT_TRUE(sound);
     const Bytes samples = Samples(format, 30000, 7);
     sound = Opened(output, format, samples, std::move(sound));
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(recording.Holds(samples));
     EXPECT_TRUE(Ends(sound));
     const Bytes sounded = recording.Sounded();
@@ -385,7 +385,7 @@ TEST_F(PulseTest, AnotherFormatOpensAStreamOfItsOwn)
     sound = Opened(output, other, Samples(other, 1000), std::move(sound));
     ASSERT_TRUE(sound);
     EXPECT_NE(server.Inputs(), inputs);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
 }
 
@@ -393,9 +393,9 @@ TEST_F(PulseTest, AnEmptySoundDoesNotPlay)
 {
     SoundHandle sound = Opened(output, format, Bytes());
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
-    EXPECT_FALSE(sound->Service07().Playing);
-    EXPECT_EQ(sound->Service07().Cursor, 0);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
+    EXPECT_FALSE(sound->Place().Playing);
+    EXPECT_EQ(sound->Place().Cursor, 0);
 }
 
 TEST_F(PulseTest, TellsWhenTheDeviceTookTheFirstFrame)
@@ -405,7 +405,7 @@ TEST_F(PulseTest, TellsWhenTheDeviceTookTheFirstFrame)
     auto& object = static_cast<PulseSound&>(*sound);
     for (int play = 0; play < 3; ++play) {
         const auto begun = Clock::now();
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(Comes([&] { return object.FirstTaken().has_value(); }));
         EXPECT_GE(object.FirstTaken().value_or(Clock::time_point()), begun);
     }
@@ -439,12 +439,12 @@ TEST_F(PulseRewindTest, EachSoundIsHeardToItsEndAndCutsTheOneBeforeOff)
         const Bytes samples = Samples(format, 30000, play);
         sound = Opened(output, format, samples, std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::Yes);
+        sound->Start(StartFrom::Beginning, Loop::Yes);
         EXPECT_TRUE(recording.Holds(Bytes(samples.begin() + kGivenBack, samples.end())));
     }
     const Bytes samples = Samples(format, 30000, 9);
     sound = Opened(output, format, samples, std::move(sound));
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
     EXPECT_TRUE(EndsWith(recording.Sounded(), samples));
@@ -456,9 +456,9 @@ TEST_F(PulseRewindTest, ALoopSwitchedOffEndsWithItsPass)
     const Bytes samples = Samples(format, 8820);
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     EXPECT_TRUE(recording.Sounds());
-    sound->Service09(Loop::No);
+    sound->SetLooping(Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(88200));
     EXPECT_TRUE(EndsWith(recording.Sounded(), samples));
@@ -470,14 +470,14 @@ TEST_F(PulseRewindTest, APauseIsSilentAndTheSoundGoesOnToItsEnd)
     const Bytes samples = Samples(format, 44100);
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(recording.Sounds());
-    sound->Service05();
-    const std::int32_t stoppedAt = sound->Service07().Cursor;
+    sound->Stop();
+    const std::int32_t stoppedAt = sound->Place().Cursor;
     EXPECT_TRUE(recording.Grows(17640));
-    EXPECT_NEAR(sound->Service07().Cursor, stoppedAt, 882);
+    EXPECT_NEAR(sound->Place().Cursor, stoppedAt, 882);
     const Bytes before = recording.Sounded();
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
     const Bytes sounded = recording.Sounded();
@@ -508,14 +508,14 @@ TEST_F(PulseRestTest, TheStreamClosesAndTheNextPlayOpensItAgain)
         ASSERT_TRUE(sound);
         first = first ? first : sound.get();
         EXPECT_EQ(sound.get(), first);
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(recording.Holds(samples));
         EXPECT_TRUE(Ends(sound));
         EXPECT_TRUE(Same(recording.Sounded(), samples));
         EXPECT_TRUE(Rests());
-        EXPECT_FALSE(sound->Service07().Playing);
-        sound->Service05();
-        sound->Service09(Loop::Yes);
+        EXPECT_FALSE(sound->Place().Playing);
+        sound->Stop();
+        sound->SetLooping(Loop::Yes);
     }
 }
 
@@ -523,7 +523,7 @@ TEST_F(PulseRestTest, TheStreamClosesThoughNobodyAsksWhetherTheSoundHasEnded)
 {
     SoundHandle sound = Opened(resting, format, Samples(format, 3001));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Rests());
 }
 
@@ -533,11 +533,11 @@ TEST_F(PulseRestTest, APauseThatOutlastsTheRestGoesOnWhereItStopped)
     const Bytes samples = Samples(format, 50000);
     SoundHandle sound = Opened(resting, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(recording.Sounds());
-    sound->Service05();
+    sound->Stop();
     EXPECT_TRUE(Rests());
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
     EXPECT_TRUE(Same(WithoutSilence(recording.Sounded()), samples));
@@ -549,7 +549,7 @@ TEST_F(PulseRestTest, ASoundInPlayKeepsItsStream)
     const Bytes samples = Samples(format, 1001);
     SoundHandle sound = Opened(resting, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     EXPECT_TRUE(recording.Holds(Repeated(samples, 40 * samples.size()))); // ten times as long as a rest
 }
 
@@ -560,7 +560,7 @@ TEST_F(PulseRestTest, PlaysAndRestsThatMeetHarmNothing)
     for (int i = 0; i < 20; ++i) {
         sound = Opened(restless, format, Samples(format, 600), std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(Ends(sound));
     }
 }
@@ -581,15 +581,15 @@ TEST_F(PulseServerTest, WithoutAServerThereIsNoDevice)
 {
     EXPECT_EQ(output.AskServer(), ServerAnswer::No);
     EXPECT_EQ(output.SoundDeviceCount(), 0);
-    EXPECT_FALSE(output.Service02(nullptr, 0, format, 4));
+    EXPECT_FALSE(output.Open(nullptr, 0, format, 4));
 }
 
 TEST_F(PulseServerTest, AServerThatComesLaterIsFound)
 {
-    EXPECT_FALSE(output.Service02(nullptr, 0, format, 4));
+    EXPECT_FALSE(output.Open(nullptr, 0, format, 4));
     ASSERT_TRUE(server.Start());
     EXPECT_EQ(output.SoundDeviceCount(), 1);
-    EXPECT_TRUE(output.Service02(nullptr, 0, format, 4));
+    EXPECT_TRUE(output.Open(nullptr, 0, format, 4));
 }
 
 TEST_F(PulseServerTest, ItsDeathEndsThePlayAndTheNextPlayOnANewOneIsHeard)
@@ -598,17 +598,17 @@ TEST_F(PulseServerTest, ItsDeathEndsThePlayAndTheNextPlayOnANewOneIsHeard)
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
     for (int death = 0; death < 3; ++death) {
-        sound->Service04(StartFrom::Beginning, Loop::Yes);
-        EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
+        sound->Start(StartFrom::Beginning, Loop::Yes);
+        EXPECT_TRUE(Comes([&] { return sound->Place().Cursor > 0; }));
         server.Kill();
         EXPECT_TRUE(Ends(sound));
-        sound->Service09(Loop::No);
-        sound->Service05();
+        sound->SetLooping(Loop::No);
+        sound->Stop();
         ASSERT_TRUE(server.Start());
         TestRecording recording(server);
         sound = Opened(output, format, samples, std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(recording.Holds(samples));
     }
 }
@@ -618,16 +618,16 @@ TEST_F(PulseServerTest, ASoundGoesOnOnANewServer)
     ASSERT_TRUE(server.Start());
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
-    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 10000; }));
-    sound->Service05();
+    sound->Start(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Comes([&] { return sound->Place().Cursor > 10000; }));
+    sound->Stop();
     server.Kill();
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
     EXPECT_TRUE(Ends(sound));
     ASSERT_TRUE(server.Start());
     TestRecording recording(server);
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
-    EXPECT_TRUE(sound->Service07().Playing);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
+    EXPECT_TRUE(sound->Place().Playing);
     const Bytes last(samples.end() - 20000, samples.end());
     EXPECT_TRUE(recording.Holds(last));
     EXPECT_LT(recording.Sounded().size(), samples.size() - 10000);
@@ -647,7 +647,7 @@ TEST_F(PulseServerTest, ADeathAtRestIsNoticedByTheNextPlay)
     TestRecording recording(server);
     sound = Opened(resting, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(recording.Holds(samples));
 }
 
@@ -658,7 +658,7 @@ TEST_F(PulseServerTest, OneThatStandsStillHoldsNobodyUp)
     const auto before = Clock::now();
     EXPECT_EQ(output.AskServer(), ServerAnswer::Silence);
     EXPECT_LT(Clock::now() - before, kBearable);
-    EXPECT_FALSE(output.Service02(nullptr, 0, format, 4));
+    EXPECT_FALSE(output.Open(nullptr, 0, format, 4));
     EXPECT_EQ(output.SoundDeviceCount(), 0);
     EXPECT_LT(Clock::now() - before, 3 * kBearable);
     server.Thaw();
@@ -670,18 +670,18 @@ TEST_F(PulseServerTest, OneThatStandsStillWhileItPlaysHoldsNobodyUpAndGoesOn)
     ASSERT_TRUE(server.Start());
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
-    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
+    sound->Start(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(Comes([&] { return sound->Place().Cursor > 0; }));
     server.Freeze();
     const auto before = Clock::now();
     for (int click = 0; click < 40; ++click) {
-        sound->Service09(Loop::No);
-        sound->Service05();
-        EXPECT_FALSE(sound->Service07().Playing);
+        sound->SetLooping(Loop::No);
+        sound->Stop();
+        EXPECT_FALSE(sound->Place().Playing);
         sound = Opened(output, format, samples, std::move(sound));
         if (!sound)
             break;
-        sound->Service04(StartFrom::Beginning, Loop::Yes);
+        sound->Start(StartFrom::Beginning, Loop::Yes);
     }
     EXPECT_LT(Clock::now() - before, 2 * kBearable);
     server.Thaw();
@@ -690,7 +690,7 @@ TEST_F(PulseServerTest, OneThatStandsStillWhileItPlaysHoldsNobodyUpAndGoesOn)
         sound = Opened(output, format, samples, std::move(sound));
         return sound != nullptr;
     }));
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(recording.Holds(samples));
     EXPECT_TRUE(Ends(sound));
 }
@@ -702,12 +702,12 @@ TEST_F(PulseServerTest, ASoundIsHeardToItsEndThoughTheDeviceStoodStill)
     TestRecording recording(server);
     SoundHandle sound = Opened(output, format, brief);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
-    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
+    sound->Start(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Comes([&] { return sound->Place().Cursor > 0; }));
     server.Freeze();
     const auto frozen = Clock::now();
-    EXPECT_TRUE(Comes([&] { return !sound->Service07().Playing || Clock::now() - frozen > milliseconds(600); }));
-    EXPECT_TRUE(sound->Service07().Playing);
+    EXPECT_TRUE(Comes([&] { return !sound->Place().Playing || Clock::now() - frozen > milliseconds(600); }));
+    EXPECT_TRUE(sound->Place().Playing);
     server.Thaw();
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Holds(brief));
@@ -721,7 +721,7 @@ TEST_F(PulseServerTest, OutputsCanGoWhileTheServerStandsStill)
         PulseSoundOutput brief;
         SoundHandle sound = Opened(brief, format, samples);
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::Yes);
+        sound->Start(StartFrom::Beginning, Loop::Yes);
         server.Freeze();
     }
     EXPECT_LT(Clock::now() - before, kBearable);

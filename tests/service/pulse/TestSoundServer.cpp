@@ -16,7 +16,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "core/PcmSound.h"
+#include "base/PcmSound.h"
 
 namespace sprout {
 namespace {

@@ -51,9 +51,9 @@ bool Comes(const std::function<bool()>& condition)
 /// A sound of `samples` that is open and silent.
 SoundHandle Opened(SdlSoundOutput& output, const SoundFormat& format, const Bytes& samples, SoundHandle old = nullptr)
 {
-    SoundHandle sound = output.Service02(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
+    SoundHandle sound = output.Open(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
     if (sound)
-        sound->Service06(samples);
+        sound->Load(samples);
     return sound;
 }
 
@@ -116,7 +116,7 @@ protected:
 
 bool Ends(const SoundHandle& sound)
 {
-    return Comes([&] { return !sound->Service07().Playing; });
+    return Comes([&] { return !sound->Place().Playing; });
 }
 
 Bytes Repeated(const Bytes& samples, std::size_t bytes)
@@ -137,7 +137,7 @@ TEST_F(SdlDiskTest, EveryFormatComesOutBitExact)
                 const Bytes samples = Samples(format, 5001);
                 SoundHandle sound = Opened(output, format, samples);
                 ASSERT_TRUE(sound);
-                sound->Service04(StartFrom::Beginning, Loop::No);
+                sound->Start(StartFrom::Beginning, Loop::No);
                 EXPECT_TRUE(Ends(sound));
                 sound.reset();
                 EXPECT_EQ(Sounded(format), samples);
@@ -150,9 +150,9 @@ TEST_F(SdlDiskTest, ALoopHasNoGap)
     const Bytes samples = Samples(format, 1000);
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     EXPECT_TRUE(FileGrows(20 * samples.size()));
-    EXPECT_TRUE(sound->Service07().Playing);
+    EXPECT_TRUE(sound->Place().Playing);
     sound.reset();
     const Bytes sounded = Sounded(format);
     EXPECT_GT(sounded.size(), 10 * samples.size());
@@ -165,9 +165,9 @@ TEST_F(SdlDiskTest, ALoopSwitchedOffEndsWithAWholePass)
     const Bytes samples = Samples(format, 1000);
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     EXPECT_TRUE(FileGrows(10 * samples.size()));
-    sound->Service09(Loop::No);
+    sound->SetLooping(Loop::No);
     EXPECT_TRUE(Ends(sound));
     sound.reset();
     const Bytes sounded = Sounded(format);
@@ -181,11 +181,11 @@ TEST_F(SdlDiskTest, APauseIsSilentAndLosesNoFrame)
     const Bytes samples = Samples(format, 1001);
     SoundHandle sound = Opened(output, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     EXPECT_TRUE(FileGrows(10 * samples.size()));
-    sound->Service05();
+    sound->Stop();
     EXPECT_TRUE(FileGrows(10 * samples.size()));
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
     EXPECT_TRUE(Ends(sound));
     sound.reset();
 
@@ -202,12 +202,12 @@ TEST_F(SdlDiskTest, TheNextSoundOnTheSameDeviceCutsTheFirstOff)
     const SoundFormat format;
     SoundHandle sound = Opened(output, format, Samples(format, 500));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     EXPECT_TRUE(FileGrows(10000));
     Bytes samples = Samples(format, 3000);
     std::reverse(samples.begin(), samples.end());
     sound = Opened(output, format, samples, std::move(sound));
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
     sound.reset();
     const Bytes sounded = Sounded(format);
@@ -225,11 +225,11 @@ TEST_F(SdlDummyTest, TheCursorFollowsTheSoundToItsEnd)
     SoundHandle sound = Opened(output, format, Samples(format, 8820)); // 200 ms
     ASSERT_TRUE(sound);
     const auto begun = Clock::now();
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     std::int32_t cursor = 0;
     bool goesBack = false;
     EXPECT_TRUE(Comes([&] {
-        const SoundPlace place = sound->Service07();
+        const SoundPlace place = sound->Place();
         goesBack = goesBack || place.Cursor < cursor;
         cursor = place.Cursor;
         return !place.Playing;
@@ -244,24 +244,24 @@ TEST_F(SdlDummyTest, AStopIsKnownAtOnce)
 {
     SoundHandle sound = Opened(output, format, Samples(format, 1000));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
-    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
-    sound->Service05();
-    EXPECT_FALSE(sound->Service07().Playing);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
+    EXPECT_TRUE(Comes([&] { return sound->Place().Cursor > 0; }));
+    sound->Stop();
+    EXPECT_FALSE(sound->Place().Playing);
 }
 
 TEST_F(SdlDummyTest, ALoopGoesOnUntilItIsSwitchedOff)
 {
     SoundHandle sound = Opened(output, format, Samples(format, 2000));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     std::int32_t cursor = 0;
     EXPECT_TRUE(Comes([&] {
-        const std::int32_t before = std::exchange(cursor, sound->Service07().Cursor);
+        const std::int32_t before = std::exchange(cursor, sound->Place().Cursor);
         return cursor < before;
     }));
-    EXPECT_TRUE(sound->Service07().Playing);
-    sound->Service09(Loop::No);
+    EXPECT_TRUE(sound->Place().Playing);
+    sound->SetLooping(Loop::No);
     EXPECT_TRUE(Ends(sound));
 }
 
@@ -271,7 +271,7 @@ TEST_F(SdlDummyTest, ASoundOfTheSameFormatKeepsTheDevice)
     const SoundObject* first = sound.get();
     sound = Opened(output, format, Samples(format, 200), std::move(sound));
     EXPECT_EQ(sound.get(), first);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
 }
 
@@ -281,8 +281,8 @@ TEST_F(SdlDummyTest, AnotherFormatOpensTheDeviceAgain)
     const SoundFormat other{1, 11025, 8};
     sound = Opened(output, other, Samples(other, 1000), std::move(sound));
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
-    EXPECT_TRUE(sound->Service07().Playing);
+    sound->Start(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(sound->Place().Playing);
     EXPECT_TRUE(Ends(sound));
 }
 
@@ -318,12 +318,12 @@ TEST_F(SdlDummyTest, AtRestNothingRuns)
     SoundHandle sound = Opened(resting, format, Samples(format, 1000));
     ASSERT_TRUE(sound);
     EXPECT_GT(ThreadsOfThisProgram(), threads);
-    sound->Service04(StartFrom::Beginning, Loop::No);
+    sound->Start(StartFrom::Beginning, Loop::No);
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
-    EXPECT_FALSE(sound->Service07().Playing);
-    sound->Service05();
-    sound->Service09(Loop::Yes);
+    EXPECT_FALSE(sound->Place().Playing);
+    sound->Stop();
+    sound->SetLooping(Loop::Yes);
 }
 
 TEST_F(SdlDiskTest, AfterARestTheNextPlayOpensTheDeviceAgain)
@@ -336,7 +336,7 @@ TEST_F(SdlDiskTest, AfterARestTheNextPlayOpensTheDeviceAgain)
     for (int i = 0; i < 3; ++i) {
         sound = Opened(resting, format, samples, std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::No);
+        sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(Ends(sound));
         EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
         EXPECT_EQ(Sounded(format), samples); // of a file that was begun anew
@@ -351,12 +351,12 @@ TEST_F(SdlDiskTest, APauseThatOutlastsTheRestGoesOnWhereItStopped)
     const auto threads = ThreadsOfThisProgram();
     SoundHandle sound = Opened(resting, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::No);
-    EXPECT_TRUE(Comes([&] { return sound->Service07().Cursor > 0; }));
-    sound->Service05();
+    sound->Start(StartFrom::Beginning, Loop::No);
+    EXPECT_TRUE(Comes([&] { return sound->Place().Cursor > 0; }));
+    sound->Stop();
     EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
     Bytes sounded = Sounded(format);
-    sound->Service04(StartFrom::WhereItStopped, Loop::No);
+    sound->Start(StartFrom::WhereItStopped, Loop::No);
     EXPECT_TRUE(Ends(sound));
     sound.reset();
     const Bytes rest = Sounded(format);
@@ -371,10 +371,10 @@ TEST_F(SdlDiskTest, ASoundInPlayKeepsItsDevice)
     const Bytes samples = Samples(format, 1000);
     SoundHandle sound = Opened(resting, format, samples);
     ASSERT_TRUE(sound);
-    sound->Service04(StartFrom::Beginning, Loop::Yes);
+    sound->Start(StartFrom::Beginning, Loop::Yes);
     const auto longEnough = Clock::now() + 20 * kShortRound;
     EXPECT_TRUE(Comes([&] { return Clock::now() > longEnough; }));
-    EXPECT_TRUE(sound->Service07().Playing);
+    EXPECT_TRUE(sound->Place().Playing);
     sound.reset();
     const Bytes sounded = Sounded(format);
     EXPECT_EQ(sounded, Repeated(samples, sounded.size()));
@@ -387,8 +387,8 @@ TEST_F(SdlDummyTest, PlaysAndRestsThatMeetHarmNothing)
     for (int i = 0; i < 30; ++i) {
         sound = Opened(resting, format, Samples(format, 600), std::move(sound));
         ASSERT_TRUE(sound);
-        sound->Service04(StartFrom::Beginning, Loop::No);
-        EXPECT_TRUE(sound->Service07().Playing);
+        sound->Start(StartFrom::Beginning, Loop::No);
+        EXPECT_TRUE(sound->Place().Playing);
         EXPECT_TRUE(Ends(sound));
     }
 }
@@ -404,7 +404,7 @@ protected:
 TEST_F(SdlNoSoundTest, ListsNoDeviceAndOpensNone)
 {
     EXPECT_EQ(output.SoundDeviceCount(), 0);
-    EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    EXPECT_FALSE(output.Open(nullptr, 0, SoundFormat(), 4));
 }
 
 /// A machine with ALSA, which SDL falls back on, and without a card.
@@ -420,15 +420,15 @@ TEST_F(SdlAlsaTest, AFailedPlayWritesNothingOnTheStandardError)
     if (output.SoundDeviceCount() > 0)
         GTEST_SKIP() << "This machine has a sound card.";
     testing::internal::CaptureStderr();
-    EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    EXPECT_FALSE(output.Open(nullptr, 0, SoundFormat(), 4));
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(SdlNoSoundTest, ADeviceThatComesLaterIsFound)
 {
-    EXPECT_FALSE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    EXPECT_FALSE(output.Open(nullptr, 0, SoundFormat(), 4));
     setenv("SDL_AUDIODRIVER", "dummy", 1);
-    EXPECT_TRUE(output.Service02(nullptr, 0, SoundFormat(), 4));
+    EXPECT_TRUE(output.Open(nullptr, 0, SoundFormat(), 4));
     EXPECT_EQ(output.SoundDeviceCount(), 1);
 }
 

@@ -13,7 +13,7 @@
 #include <thread>
 #include <vector>
 
-#include "core/Text.h"
+#include "base/Text.h"
 #include "service/xdg/XdgHome.h"
 
 namespace sprout {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Text.h"
+#include "base/Text.h"
 
 namespace sprout {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "support/TestFolder.h"
 
 namespace sprout {

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "sound/WavOperations.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

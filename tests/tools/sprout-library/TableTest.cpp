@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Errors.h"
+#include "base/Errors.h"
 #include "sprout-library/BeatTable.h"
 #include "sprout-library/SongText.h"
 #include "support/TestFolder.h"

@@ -7,8 +7,8 @@
 #include <string>
 
 #include "core/Shared.h"
-#include "sound/WavOperations.h"
 #include "support/FakeServices.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 namespace {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 namespace sprout {
@@ -159,6 +160,59 @@ TEST(TopRowShowing, AlwaysShowsThePicture)
             ASSERT_TRUE(IsInGridView(grid, index)) << heightPx << " " << index;
         }
     }
+}
+
+TEST(FittingGridRows, ShowsAllPicturesWhereThereIsRoom)
+{
+    const auto rows = [](std::int32_t count, std::int32_t roomPx) {
+        return FittingGridRows({.count = count, .columns = 12, .wantedRows = 8, .roomPx = roomPx, .fewestRows = 8});
+    };
+    EXPECT_EQ(rows(129, 900), 12);
+    EXPECT_EQ(rows(132, 900), 12);
+    EXPECT_EQ(rows(133, 900), 13);
+    EXPECT_EQ(rows(129, 479), 11);
+    EXPECT_EQ(rows(1000, 900), 22);
+}
+
+TEST(FittingGridRows, HasAtLeastTheWantedOnesWithRoomAndTheFewestWithout)
+{
+    const auto rows = [](std::int32_t count, std::int32_t roomPx) {
+        return FittingGridRows({.count = count, .columns = 18, .wantedRows = 5, .roomPx = roomPx, .fewestRows = 2});
+    };
+    EXPECT_EQ(rows(0, 900), 5);
+    EXPECT_EQ(rows(72, 900), 5);
+    EXPECT_EQ(rows(73, 900), 6);
+    EXPECT_EQ(rows(0, 170), 4);
+    EXPECT_EQ(rows(1000, 30), 2);
+}
+
+TEST(GridMoveTarget, LeadsToThePlacesBeside)
+{
+    struct Case {
+        std::int32_t selected;
+        std::array<std::int32_t, 4> targets; // up, down, left, right
+    };
+    for (const Case& one : {Case{1, {0, 13, 0, 2}}, Case{12, {0, 24, 11, 13}}, Case{13, {1, 25, 12, 14}},
+                            Case{18, {6, 30, 17, 19}}, Case{19, {7, 0, 18, 20}}, Case{30, {18, 0, 29, 0}}})
+        for (std::size_t i = 0; i < 4; ++i)
+            EXPECT_EQ(GridMoveTarget(static_cast<GridMove>(i), one.selected, 30, 12), one.targets[i])
+                << one.selected << " " << i;
+}
+
+TEST(GridMoveTarget, The19thOf19InRowsOf18GoesUpAndNotDown)
+{
+    EXPECT_EQ(GridMoveTarget(GridMove::Up, 19, 19, 18), 1);
+    EXPECT_EQ(GridMoveTarget(GridMove::Down, 19, 19, 18), 0);
+    EXPECT_EQ(GridMoveTarget(GridMove::Up, 18, 19, 18), 0);
+    EXPECT_EQ(GridMoveTarget(GridMove::Down, 1, 19, 18), 19);
+    EXPECT_EQ(GridMoveTarget(GridMove::Down, 2, 19, 18), 0);
+}
+
+TEST(GridMoveTarget, IsNoneWithoutAChoice)
+{
+    for (const GridMove move : {GridMove::Up, GridMove::Down, GridMove::Left, GridMove::Right})
+        for (const std::int32_t selected : {-1, 0, 41})
+            EXPECT_EQ(GridMoveTarget(move, selected, 40, 18), 0);
 }
 
 } // namespace

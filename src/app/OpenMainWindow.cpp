@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/OpenMainWindow.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <exception>
+#include <string>
+
+#include "app/start/SampleSong.h"
+#include "app/start/StartUp.h"
+#include "base/FilePaths.h"
+#include "core/Shared.h"
+#include "main_window/MainFrm.h"
+#include "service/Services.h"
+#include "service/SoundOutput.h"
+#include "songs/SongKeeper.h"
+#include "sound/PlayMod.h"
+#include "tune_window/OpenTuneWindow.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
+
+namespace sprout {
+
+namespace {
+
+void ShowSong(MainFrm& window)
+{
+    window.DrawTracksAll();
+    window.UpdateTempoSliderValue();
+    window.UpdateSongTitle();
+}
+
+/// Without the table of tunes the program is of use; it is read again when the tune window opens.
+void FillTuneTable()
+{
+    try {
+        LoadTuneFiles();
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
+void StartSound(MainFrm& window)
+{
+    SetSoundDriver(true);
+    window.ShowSoundDevices(TheServices().sound->SoundDeviceCount());
+}
+
+/// Tells of the songs that the last run could only keep: which, and where.
+void TellKeptSongs()
+{
+    Guarded([] {
+        std::string names;
+        for (const std::string& name : TakeKeptSongs())
+            names += (names.empty() ? "\"" : ", \"") + name + "\"";
+        if (!names.empty())
+            ShowMessage("What was not saved last time is kept as the song " + names,
+                        "in the folder " + PathText(Shared().UserSongs));
+    });
+}
+
+} // namespace
+
+// The desktop takes about as long to put the window on the screen as all that follows here: nothing waits for it, and
+// the window is drawn once, with everything in it.
+void OpenMainWindow(MainFrm& window)
+{
+    window.show();
+    ShowSong(window);
+    FillTuneTable();
+    ShowHint(QCoreApplication::translate("OpenMainWindow", "Ready"));
+    StartSound(window);
+    ReadOptionFlags();
+    if (OpenSampleSong())
+        ShowSong(window);
+    // A message waits for its answer: the start must be over by then.
+    QTimer::singleShot(0, &window, TellKeptSongs);
+}
+
+} // namespace sprout

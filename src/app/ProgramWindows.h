@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "ui/Windows.h"
+
+namespace sprout {
+
+class EmailSong;
+
+/// The windows that the program has.
+class ProgramWindows : public Windows {
+public:
+    ProgramWindows();
+    ~ProgramWindows() override;
+
+    [[nodiscard]] bool OpenTuneWindow(Tune& tune, bool& newFlag) override;
+    void UpdateThisTune() override;
+    [[nodiscard]] bool ChooseBeat(std::string& name) override;
+    [[nodiscard]] std::optional<WaveData> RecordSound() override;
+    [[nodiscard]] bool EditTrack(std::int32_t track) override;
+    void UpdatePlayPointer() override;
+    [[nodiscard]] std::optional<std::string> ChooseSongToOpen(QWidget& owner) override;
+    [[nodiscard]] std::optional<std::string> ChooseNameToSave(QWidget& owner, std::string_view name) override;
+    [[nodiscard]] bool SaveSongAsSound(SoundFileKind kind) override;
+    void EmailSong() override;
+    void StopEmailSong() override;
+
+private:
+    std::unique_ptr<sprout::EmailSong> emailSong; ///< from the first mail on
+};
+
+} // namespace sprout

@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "songs/SongFiles.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <system_error>
+
+#include "base/ByteCursor.h"
+#include "base/Errors.h"
+#include "base/Extensions.h"
+#include "base/FilePaths.h"
+#include "base/Text.h"
+#include "core/Paths.h"
+#include "core/Shared.h"
+#include "service/Files.h"
+#include "service/Services.h"
+
+namespace sprout {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// True where a file, a folder or a link stands already, whatever the case of its letters.
+bool IsTaken(const fs::path& path)
+{
+    std::error_code error;
+    return fs::exists(fs::symlink_status(path, error)) || FileExists(path);
+}
+
+/// Where a song of another name goes in the song's folder.
+fs::path FreePlaceBeside(const SongFile& song, std::string_view newName)
+{
+    fs::path place = NamedFile(song.Path.parent_path() / "", newName, kSongExtension);
+    if (place.empty())
+        throw RunTimeError("This cannot be the name of a song.");
+    if (IsTaken(place))
+        throw RunTimeError("There is another file with this name.");
+    return place;
+}
+
+std::vector<std::byte> BytesOfSong(const SongFile& song)
+{
+    FileSource source(song.Path);
+    std::vector<std::byte> bytes(static_cast<std::size_t>(source.Size()));
+    source.Read(0, bytes);
+    return bytes;
+}
+
+} // namespace
+
+std::vector<SongFile> ListSongs(const fs::path& folder)
+{
+    return FilesInFolder(folder, kSongExtension);
+}
+
+const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name)
+{
+    const auto found = std::find_if(songs.begin(), songs.end(),
+                                    [name](const SongFile& song) { return EqualIgnoringCase(song.Name, name); });
+    return found == songs.end() ? nullptr : &*found;
+}
+
+std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name)
+{
+    for (int number = 1;; ++number) {
+        std::string candidate = std::string(name) + std::to_string(number);
+        if (!FindSong(songs, candidate))
+            return candidate;
+    }
+}
+
+fs::path PlaceOfSong(std::string_view title)
+{
+    const fs::path path = NamedFile(Shared().UserSongs, title, kSongExtension);
+    const fs::path found = FindFile(path);
+    return found.empty() ? path : found;
+}
+
+void CopySong(const SongFile& song, std::string_view newName)
+{
+    const fs::path place = FreePlaceBeside(song, newName);
+    const std::vector<std::byte> bytes = BytesOfSong(song);
+    const std::span<const std::byte> whole(bytes);
+    TheServices().files->ReplaceFile(place, std::span(&whole, 1), Flush::Yes);
+}
+
+void RenameSong(const SongFile& song, std::string_view newName)
+{
+    fs::rename(song.Path, FreePlaceBeside(song, newName));
+}
+
+void DeleteSong(const SongFile& song)
+{
+    // Asked by its exact name: the look-up without regard to case could find another song in place of one that is gone.
+    std::error_code error;
+    if (fs::exists(song.Path, error) && !DeleteFile(song.Path))
+        throw RunTimeError("The file " + PathText(song.Path) + " could not be deleted.");
+}
+
+} // namespace sprout

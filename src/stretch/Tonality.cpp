@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "stretch/Tonality.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+#include "service/Fft.h"
+#include "stretch/Window.h"
+
+namespace sprout::stretch {
+namespace {
+
+constexpr Index kBinsOfBand = 16;
+constexpr Index kMostFrames = 6;
+constexpr double kTopHz = 15000;
+constexpr double kNoisyDb = -8;
+constexpr double kSilentDb = -100;
+// A hundredth of the power of one unit of white noise in a bin: keeps the logarithm of digital silence finite.
+constexpr double kPowerFloor = 1e-2;
+
+struct WeightedFlatness {
+    double sum = 0;
+    double weights = 0;
+};
+
+/// Adds the flatness of one band. One logarithm serves the whole geometric mean: sixteen powers of 16-bit sound
+/// multiply to 1e251 at most.
+void AddBand(WeightedFlatness& total, std::span<const FftBin> band)
+{
+    double product = 1;
+    double sum = 0;
+    for (const FftBin bin : band) {
+        const double power = static_cast<double>(std::norm(bin)) + kPowerFloor;
+        product *= power;
+        sum += power;
+    }
+    const double count = static_cast<double>(band.size());
+    const double mean = sum / count;
+    const double weight = std::sqrt(mean) - std::sqrt(kPowerFloor);
+    total.sum += weight * (std::log(product) / count - std::log(mean));
+    total.weights += weight;
+}
+
+} // namespace
+
+double FlatnessDb(std::span<const float> sound, const Sizes& sizes)
+{
+    const Index size = sizes.longWindow * 4 / 3;
+    Fft& fft = FftOfSize(size);
+    const std::span<const float> window = HannWindow(size);
+    std::vector<float> block(static_cast<std::size_t>(size));
+    std::vector<FftBin> spectrum(static_cast<std::size_t>(fft.Bins()));
+    const Index topBin = static_cast<Index>(kTopHz * static_cast<double>(size) / sizes.nominalRate);
+    const Index end = std::min(topBin, fft.Bins() - 1);
+
+    // The middle of each of as many even parts as there are frames: no long sound costs more than a few transforms.
+    const Index frames = std::clamp<Index>(std::ssize(sound) / size, 1, kMostFrames);
+    WeightedFlatness total;
+    for (Index frame = 0; frame < frames; ++frame) {
+        const Index middle = std::ssize(sound) * (2 * frame + 1) / (2 * frames);
+        WindowBlock(sound, middle - size / 2, window, block);
+        fft.Forward(block, spectrum);
+        for (Index bin = kBinsOfBand; bin + kBinsOfBand <= end; bin += kBinsOfBand)
+            AddBand(total, std::span(spectrum).subspan(static_cast<std::size_t>(bin), kBinsOfBand));
+    }
+    return total.weights > 0 ? 10 / std::log(10.0) * total.sum / total.weights : kSilentDb;
+}
+
+bool IsNoisy(std::span<const float> sound, const Sizes& sizes)
+{
+    return FlatnessDb(sound, sizes) > kNoisyDb;
+}
+
+} // namespace sprout::stretch
