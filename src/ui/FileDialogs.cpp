@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/FileDialogs.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -100,8 +101,18 @@ void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
         dialog.selectFile(QtText(question.FileName));
 }
 
+/// A drag from a list onto a folder would move a file, which nobody means to do who chooses one.
+void ForbidDrags(const QFileDialog& dialog)
+{
+    for (auto* list : dialog.findChildren<QAbstractItemView*>()) {
+        list->setDragEnabled(false);
+        list->setAcceptDrops(false);
+    }
+}
+
 std::optional<fs::path> AnswerOf(QFileDialog& dialog)
 {
+    ForbidDrags(dialog);
     const bool chosen = dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty();
     LastShownFolder() = dialog.directory().absolutePath();
     if (!chosen)

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
@@ -74,6 +75,19 @@ TEST_F(ChooseFileToOpenTest, ReturnsTheChosenFile)
 TEST_F(ChooseFileToOpenTest, ReturnsNothingWhenItIsCancelled)
 {
     EXPECT_EQ(Ask(Question(), [](QFileDialog& dialog) { dialog.reject(); }), std::nullopt);
+}
+
+TEST_F(ChooseFileToOpenTest, LetsNoFileBeDraggedAway)
+{
+    Ask(Question(), [](QFileDialog& dialog) {
+        const auto lists = dialog.findChildren<QAbstractItemView*>();
+        EXPECT_FALSE(lists.isEmpty());
+        for (const QAbstractItemView* list : lists) {
+            EXPECT_FALSE(list->dragEnabled()) << list->objectName().toStdString();
+            EXPECT_FALSE(list->acceptDrops()) << list->objectName().toStdString();
+        }
+        dialog.reject();
+    });
 }
 
 TEST_F(ChooseFileToOpenTest, RefusesAFileThatIsNotThere)
