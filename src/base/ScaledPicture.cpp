@@ -10,7 +10,7 @@ namespace sprout {
 
 namespace {
 
-constexpr std::uint32_t kWhite = 0xFFFFFF;
+constexpr std::uint32_t kBesidePicture = 0xFFFFFF;
 
 struct PixelRange {
     int first;
@@ -78,7 +78,7 @@ Picture FittedPicture(const Picture& picture)
     for (int y = -top; y < kPictureSide - top; ++y) {
         for (int x = -left; x < kPictureSide - left; ++x) {
             const bool isInside = x >= 0 && x < scaled.Width() && y >= 0 && y < scaled.Height();
-            pixels.push_back(isInside ? scaled.Pixel(x, y) : kWhite);
+            pixels.push_back(isInside ? scaled.Pixel(x, y) : kBesidePicture);
         }
     }
     return {kPictureSide, kPictureSide, std::move(pixels)};

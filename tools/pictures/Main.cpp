@@ -330,7 +330,7 @@ bool TellPixels(const QString& path)
     }
     QCryptographicHash hash(QCryptographicHash::Sha256);
     for (int y = 0; y < image.height(); ++y)
-        hash.addData(QByteArrayView(image.constScanLine(y), image.width() * 4));
+        hash.addData(QByteArrayView(image.constScanLine(y), qsizetype{image.width()} * 4));
     std::printf("%s %dx%d %s\n", hash.result().toHex().constData(), image.width(), image.height(), qPrintable(path));
     return true;
 }
