@@ -6,12 +6,12 @@
 
 namespace sprout {
 
-/// The song file that bench/compare names in `SPROUT_BENCH_SONG`; further files lie beside it.
+/// The song file that bench/compare names in `SPROUT_BENCH_SONG`; more files are beside it.
 [[nodiscard]] std::filesystem::path BenchSong();
 
-/// Begins the peak of the program's memory anew; bytes of memory now.
+/// Resets the program's memory peak; returns the bytes of memory in use now.
 [[nodiscard]] std::int64_t RestartMemoryPeak();
-/// The peak since then, in bytes.
+/// The memory peak since then, in bytes.
 [[nodiscard]] std::int64_t MemoryPeak();
 
 } // namespace sprout

@@ -18,7 +18,7 @@ constexpr double kRate = 44100;
 constexpr int kTracks = 20;
 constexpr int kStepsATrack = 5;
 
-/// A tone by a recurrence, so that twenty full songs are made in seconds.
+/// Computes a tone with a recurrence, so twenty full songs are made in seconds.
 Channel SwellingTone(std::int32_t frames, double hertz, double swellHertz, double level)
 {
     Channel channel = Channel::Unfilled(frames);
@@ -116,7 +116,7 @@ void MakeFullSong()
             step.BeatIndex = number;
             step.PitchShift = i - 3;
             step.Volume = 20;
-            step.Duration = i == 3 ? 120 : 100; // none comes out as it went in
+            step.Duration = i == 3 ? 120 : 100; // no step stays unchanged
             track.TrackTune.Steps.push_back(step);
         }
         song.Tracks.push_back(track);

@@ -19,7 +19,7 @@ const WaveData& LongWave()
     return FullSongWaves()[1];
 }
 
-/// Copies all frames of both channels but the first `skipped` into new memory.
+/// Copies all frames of both channels, except the first `skipped`, into new memory.
 void CopyInto(std::size_t skipped, benchmark::State& state)
 {
     for ([[maybe_unused]] auto _ : state)

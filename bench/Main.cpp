@@ -59,7 +59,7 @@ public:
 
 constexpr int kSteps = 16;
 
-/// The pitches of the sixteen steps: an octave down to nearly one up, none of them the beat's own.
+/// The pitches of the sixteen steps: from an octave down to nearly one up, never the beat's own.
 std::int32_t StepPitch(int number)
 {
     return number <= kSteps / 2 ? number - kSteps / 2 - 1 : number - kSteps / 2;
@@ -86,7 +86,7 @@ void Mix(benchmark::State& state)
         benchmark::DoNotOptimize(MixWaves(waves, placements, 100, 0, 100));
 }
 
-/// What no mixer can do without: every sample read and added once.
+/// The minimum that any mixer must do: read and add every sample once.
 void PlainPass(benchmark::State& state)
 {
     const std::vector<WaveData>& waves = FullSongWaves();
@@ -123,7 +123,7 @@ void StepsPeer(benchmark::State& state)
                                             static_cast<double>(PitchFactor(StepPitch(i))), 1.0));
 }
 
-/// A tune of the sixteen steps, whose beats are in the song.
+/// A tune of the sixteen steps; their beats are in the song.
 Tune StepsTune()
 {
     SongState& song = Shared().Song;
@@ -146,7 +146,7 @@ Tune StepsTune()
     return tune;
 }
 
-/// The whole way of a tune's steps, on one thread or on all cores.
+/// The whole processing of a tune's steps, on one thread or on all cores.
 template <std::size_t Threads>
 void StepsWholeWay(benchmark::State& state)
 {
@@ -184,8 +184,8 @@ void Save(benchmark::State& state)
     std::filesystem::remove(target);
 }
 
-/// Five thousand tunes with a sound of eight seconds, as a list of them reads them. Fifty files under many names: what
-/// is read of each is the same.
+/// Five thousand tunes with a sound of eight seconds, read as for a list of tunes. They are fifty files under many
+/// names, since the same part is read of each.
 std::vector<std::filesystem::path> MakeTunes(const std::filesystem::path& folder)
 {
     constexpr int tunes = 5000;
@@ -218,7 +218,7 @@ void ListTunes(benchmark::State& state)
     std::filesystem::remove_all(folder);
 }
 
-/// Prints the bytes that a mix of the full song needs at its peak above the loaded song.
+/// Prints the peak bytes that a mix of the full song needs above the loaded song.
 int PrintMemory()
 {
     MakeFullSong();

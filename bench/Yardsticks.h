@@ -7,10 +7,10 @@
 
 namespace sprout {
 
-// Public engines that do what the stretch service does; measured beside it, used nowhere else.
+// Public engines that do what the stretch service does; they are only used here, for comparison.
 
-/// Rubber Band's finer engine, offline: it stretches by pitch x duration, libsoxr changes the pitch. Blocks of 1024,
-/// drained after each: it loses sound otherwise.
+/// Rubber Band's finer engine, offline: it stretches by pitch x duration, and libsoxr changes the pitch. It works in
+/// blocks of 1024 and is drained after each; otherwise it loses sound.
 [[nodiscard]] std::vector<std::int16_t> RubberBandStretch(std::span<const std::int16_t> samples, double pitch,
                                                           double duration);
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# How every target of the project is compiled.
+# Compiler settings for every target of the project.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -16,21 +16,21 @@ if(SPROUT_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${SPROUT_CCACHE})
 endif()
 
-# The mixer's loops are written to be vectorised; -O3 does it with the baseline instruction set of every x86-64.
-# No contraction: a render must give the same samples on every machine and compiler.
+# The mixer's loops are written to be vectorised; -O3 does so with the baseline x86-64 instruction set.
+# Contraction is off because a render must give the same samples on every machine and compiler.
 set(CMAKE_CXX_FLAGS_RELEASE "-O3 -DNDEBUG")
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-Wno-restrict) # g++ 12 misfires on "text" + string
     if(SPROUT_SANITIZE)
-        add_compile_options(-Wno-maybe-uninitialized) # and, with a sanitizer's checks, on std::regex
+        add_compile_options(-Wno-maybe-uninitialized) # with sanitizer checks it also misfires on std::regex
     endif()
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     add_compile_options(-Wno-sign-conversion) # part of clang's -Wconversion, not of g++'s
 endif()
 
-# A list of sanitizers breaks at its comma inside a generator expression, so it goes straight into the options.
+# A generator expression would split a list of sanitizers at its comma, so the list goes straight into the options.
 if(SPROUT_SANITIZE)
     add_compile_options(-fsanitize=${SPROUT_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${SPROUT_SANITIZE})

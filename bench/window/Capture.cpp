@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_capture_bench [SECONDS [LOOPS]]: records from a microphone at a sound server of its own. Frames that are lost
-// in SECONDS (120) while LOOPS (4) busy loops run and the interface thread stands still for two seconds at a time;
-// milliseconds from an opening to the first kept frame, from a play to the meter (the play's own delay is in it), and
-// for the end of a take of three minutes beside `cat` of its files; foreign frames in 50 takes of which the microphone
+// sprout_capture_bench [SECONDS [LOOPS]]: records from a microphone at its own sound server. Measures the frames lost
+// in SECONDS (120) while LOOPS (4) busy loops run and the interface thread stalls for two seconds at a time;
+// milliseconds from an opening to the first kept frame, from a play to the meter (including the play's own delay), and
+// for the end of a take of three minutes compared with `cat` of its files; foreign frames in 50 takes whose microphone
 // is pulled out.
 #include <algorithm>
 #include <atomic>
@@ -45,7 +45,7 @@ double MillisecondsSince(Clock::time_point begun)
     return std::chrono::duration<double, std::milli>(Clock::now() - begun).count();
 }
 
-/// A benchmark that cannot record measures nothing.
+/// Ends the program unless the condition holds: a benchmark that cannot record measures nothing.
 void Need(bool condition)
 {
     if (!condition)

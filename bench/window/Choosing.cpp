@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_choose_bench SPROUT_FOLDER: milliseconds to open, scroll and use the tune window and the beat window, in
-// folders with copies of the installed tunes and beats. Sound goes to SDL's dummy device.
+// sprout_choose_bench SPROUT_FOLDER: measures the milliseconds to open, scroll and use the tune window and the beat
+// window, in folders with copies of the installed tunes and beats. Sound goes to SDL's dummy device.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -56,7 +56,7 @@ double Milliseconds(const std::function<void()>& work)
     return static_cast<double>(clock.nsecsElapsed()) / 1e6;
 }
 
-/// Memory of the program in MB.
+/// The program's memory in MB.
 double ResidentMegabytes()
 {
     std::ifstream status("/proc/self/status");
@@ -74,7 +74,7 @@ void Print(const std::string& name, std::vector<double> measured, const char* un
     std::fflush(stdout);
 }
 
-/// Files of `from` with an ending, each as often as it takes to have `count` of them, under names of their own.
+/// Copies the files of `from` with these endings under different names, as often as needed to get `count` of each.
 void CopyMany(const fs::path& from, const fs::path& to, const std::vector<std::string>& endings, int count)
 {
     fs::remove_all(to);
@@ -112,7 +112,7 @@ std::vector<double> ScrollTimes(PictureGridPic& grid)
     return times;
 }
 
-/// What is measured while the tune window is open.
+/// Measures while the tune window is open.
 struct TuneWindowTimes {
     std::vector<double> open, memory, scroll, choose, lamp, key;
 };

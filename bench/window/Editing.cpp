@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_edit_bench: milliseconds to open and use the audio editor on 240 s of stereo sound.
+// sprout_edit_bench: measures the milliseconds to open and use the audio editor on 240 s of stereo sound.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
@@ -70,7 +70,7 @@ void MakeSong()
     track.TrackAudio.WavR = Tones(0.047);
 }
 
-/// Lets a window draw what is to be drawn at once; left alone it would wait for the screen's next refresh.
+/// Makes a window draw pending changes at once; otherwise it would wait for the screen's next refresh.
 void DrawNow(QWidget& window)
 {
     QEvent request(QEvent::UpdateRequest);
@@ -95,7 +95,7 @@ void MeasureOpening()
     Print("edit-open", Share(times, 50), 16, copied ? "SAMPLES WERE COPIED" : "ms: the same later");
 }
 
-/// The lines that a drawing of a wave is made of, ready for the painter.
+/// The lines of a drawing of a wave, ready for the painter.
 std::vector<QLine> LinesOf(const std::vector<WavePoint>& points)
 {
     std::vector<QLine> lines;

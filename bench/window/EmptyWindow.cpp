@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The yardstick of the program's start: a window of the same size in the same font, with nothing in it but a word.
+// The yardstick of the program's start: a window of the same size that only shows one word in the same font.
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
@@ -14,7 +14,7 @@ public:
     {
         resize(screen.size() * 4 / 5);
         move(screen.center() - rect().center());
-        setWindowState(Qt::WindowMaximized); // as the program's window at its first starts
+        setWindowState(Qt::WindowMaximized); // like the program's window at its first starts
     }
 
 protected:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_heard_bench [SECONDS]: milliseconds from a play to the first sound on the monitor of a sound server of its
-// own, from a stop to the last, and between the play cursor and what is heard meanwhile. Each is told when the recorder
-// has it, so that the recorder's own delay is in it. Each play is stopped after SECONDS (1).
+// sprout_heard_bench [SECONDS]: measures the milliseconds from a play to the first sound on the monitor of its own
+// sound server, from a stop to the last sound, and between the play cursor and what is heard meanwhile. All of them
+// include the recorder's own delay. Each play is stopped after SECONDS (1).
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
@@ -26,13 +26,13 @@ constexpr double kAskedOfCursor = 15;
 
 constexpr std::size_t kFrameBytes = 4;
 
-/// Where the cursor stood.
+/// The position of the cursor at a moment.
 struct CursorMoment {
     Clock::time_point time;
     std::int32_t frame = 0;
 };
 
-/// A piece of the sound that was heard.
+/// A heard piece of the sound.
 struct HeardMoment {
     Clock::time_point begins;
     Clock::time_point ends;
@@ -92,7 +92,7 @@ private:
 struct Figures {
     std::vector<double> untilFirst;
     std::vector<double> untilLast;
-    std::vector<double> behind; // of what is heard, the cursor
+    std::vector<double> behind; // lag of the cursor behind what is heard
 };
 
 void AddBehind(const std::vector<CursorMoment>& cursors, const std::vector<HeardMoment>& heard, Figures& figures)

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_play_bench: milliseconds from the call of `PlayAllBtn` until the device takes the first frame, and the
-// processor time of the program at rest. It plays on the sound server that the environment names.
+// sprout_play_bench: measures the milliseconds from the call of `PlayAllBtn` until the device takes the first frame,
+// and the processor time of the program at rest. It plays on the sound server that the environment names.
 #include <sys/resource.h>
 
 #include <QApplication>
@@ -55,7 +55,7 @@ public:
     }
 };
 
-/// The sound server's output, which lets the newest sound be looked at.
+/// The sound server's output; it gives access to the newest sound.
 class WatchedOutput : public PulseSoundOutput {
 public:
     [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t window, const SoundFormat& format,
@@ -90,7 +90,7 @@ void HandleEventsFor(std::chrono::milliseconds time)
     QApplication::exec();
 }
 
-/// One click, in milliseconds.
+/// The times of one click, in milliseconds.
 struct Click {
     double untilFirstFrame = 0;
     double processorTime = 0; ///< of all threads, during the call
@@ -112,7 +112,7 @@ Click ClickPlayAll(TransportCommands& transport, const WatchedOutput& sound)
     return {Milliseconds(*sound.newest->FirstTaken() - clicked), worked};
 }
 
-/// One track with twenty steps of a second, each of its own pitch.
+/// One track with twenty steps of one second, each with a different pitch.
 void MakeTwentySteps()
 {
     NewSong();
@@ -137,7 +137,7 @@ void MakeTwentySteps()
     TheStepCache().Clear();
 }
 
-/// The window's parts that play, and the services that they need.
+/// The parts of the window that play, and the services that they need.
 class Bench {
 public:
     Bench()

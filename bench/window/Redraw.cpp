@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Measures how long the canvas takes to draw, on a screen of 1920 x 1080 with all rows filled, from the event until the
-// picture stands in the window: a move of the brush by one cell, and a scroll, which draws everything anew.
+// Measures how long the canvas takes to draw on a screen of 1920 x 1080 with all rows filled, from the event until the
+// picture is in the window, for a brush move by one cell and for a scroll, which redraws everything.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QMouseEvent>
@@ -57,7 +57,7 @@ void Send(QWidget& surface, QEvent::Type type, int cell)
     QApplication::sendEvent(&surface, &event);
 }
 
-/// The window paints what is to be painted at once; left alone it would wait for the screen's next refresh.
+/// Makes the window paint pending changes at once; otherwise it would wait for the screen's next refresh.
 double Milliseconds(QWidget& surface, const std::function<void()>& change)
 {
     QApplication::processEvents();

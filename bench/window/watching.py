@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What the measures of the windows see: the screen's memory, the processor time of a program, and rows of a table."""
+"""Helpers to measure the windows: the screen's memory, the processor time of a program, and rows of a table."""
 import mmap
 import os
 import struct
 
 
 class ScreenMemory:
-    """What the X server shows, read from the file that it draws into: watching it costs the server nothing."""
+    """What the X server shows, read from the file that it draws into, so watching it costs the server nothing."""
 
     def __init__(self, path):
         with open(path, "rb") as file:
@@ -16,7 +16,7 @@ class ScreenMemory:
         self.begin = numbers[0] + numbers[19] * 12
 
     def lines(self):
-        """Every 16th line in the middle four fifths of the screen, where a window stands at first."""
+        """Every 16th line in the middle four fifths of the screen, where a window first appears."""
         left, right = self.width // 10 * 4, self.width * 9 // 10 * 4
         return b"".join(self.bytes[self.begin + y * self.line_bytes + left:self.begin + y * self.line_bytes + right]
                         for y in range(self.height // 10, self.height * 9 // 10, 16))

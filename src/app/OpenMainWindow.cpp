@@ -32,7 +32,7 @@ void ShowSong(MainFrm& window)
     window.UpdateSongTitle();
 }
 
-/// Without the table of tunes the program is of use; it is read again when the tune window opens.
+/// The program is useful without the table of tunes, which is read again when the tune window opens.
 void FillTuneTable()
 {
     try {
@@ -48,7 +48,7 @@ void StartSound(MainFrm& window)
     window.ShowSoundDevices(TheServices().sound->SoundDeviceCount());
 }
 
-/// Tells of the songs that the last run could only keep: which, and where.
+/// Tells the user which songs the last run could only keep, and where.
 void TellKeptSongs()
 {
     Guarded([] {
@@ -63,8 +63,8 @@ void TellKeptSongs()
 
 } // namespace
 
-// The desktop takes about as long to put the window on the screen as all that follows here: nothing waits for it, and
-// the window is drawn once, with everything in it.
+// The desktop takes about as long to show the window as everything below takes: nothing waits for it, and the window is
+// drawn once, with all its content.
 void OpenMainWindow(MainFrm& window)
 {
     window.show();
@@ -75,7 +75,7 @@ void OpenMainWindow(MainFrm& window)
     ReadOptionFlags();
     if (OpenSampleSong())
         ShowSong(window);
-    // A message waits for its answer: the start must be over by then.
+    // A message waits for its answer, so the start must be over.
     QTimer::singleShot(0, &window, TellKeptSongs);
 }
 

@@ -5,9 +5,9 @@ namespace sprout {
 
 class MainFrm;
 
-/// The part of the program's start that needs the main window, in its order: shows the window, fills the table of
-/// tunes, starts the sound and, on the first starts, opens the sample song. The window is drawn when the desktop has
-/// put it on the screen. Songs that the last run could only keep are told as soon as events are handled.
+/// The part of the program's start that needs the main window, in this order: shows the window, fills the table of
+/// tunes, starts the sound and, on the first starts, opens the sample song. The window is drawn once the desktop has
+/// put it on the screen. A message about songs that the last run could only keep appears as soon as events are handled.
 void OpenMainWindow(MainFrm& window);
 
 } // namespace sprout

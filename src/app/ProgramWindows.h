@@ -13,7 +13,7 @@ namespace sprout {
 
 class EmailSong;
 
-/// The windows that the program has.
+/// The program's windows.
 class ProgramWindows : public Windows {
 public:
     ProgramWindows();
@@ -32,7 +32,7 @@ public:
     void StopEmailSong() override;
 
 private:
-    std::unique_ptr<sprout::EmailSong> emailSong; ///< from the first mail on
+    std::unique_ptr<sprout::EmailSong> emailSong; ///< created for the first mail
 };
 
 } // namespace sprout

@@ -40,7 +40,7 @@
 namespace sprout {
 namespace {
 
-/// Qt ends a program that finds no display with a long text and an abort; a user is better told what is missing.
+/// If Qt finds no display, it ends the program with a long text and an abort; this tells the user what is missing.
 void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const QString& /*text*/)
 {
     if (type != QtFatalMsg)
@@ -49,7 +49,7 @@ void TellNoDisplay(QtMsgType type, const QMessageLogContext& /*context*/, const 
     std::_Exit(EXIT_FAILURE);
 }
 
-/// The machine, as the program finds it. The player, which holds a sound device, goes before it does.
+/// The services of the machine. The player, which holds a sound device, is released before them.
 class ProgramServices {
 public:
     ProgramServices()
@@ -89,7 +89,7 @@ private:
                            [] { return NewTempFileName("wav"); }};
 };
 
-/// Keeps the song where the system ends the program, by a signal or with the session, and ends the event loops.
+/// Keeps the song if the system ends the program, by a signal or with the session, and ends the event loops.
 class SystemEnd {
 public:
     explicit SystemEnd(QApplication& application)
@@ -98,7 +98,7 @@ public:
             notifier = std::make_unique<QSocketNotifier>(signals.Number(), QSocketNotifier::Read);
             QObject::connect(notifier.get(), &QSocketNotifier::activated, &context, [this] { End(); });
         }
-        // The session manager waits for the answer. It may go on with the session, and the program with it.
+        // The session manager waits for the answer. The session, and the program with it, may continue.
         QObject::connect(
             &application, &QGuiApplication::commitDataRequest, &context, [this] { KeepSong(); }, Qt::DirectConnection);
     }
@@ -119,7 +119,7 @@ private:
         try {
             keeper.KeepUnsavedSong();
         } catch (const std::exception&) {
-            return; // nobody is there any more who could be told
+            return; // nobody is left to be told
         }
     }
 
@@ -136,7 +136,7 @@ int RunProgram(QApplication& application)
     std::future<void> pictures = std::async(MakeProgramPictures);
     ApplyLook(application);
     pictures.get();
-    services.CountSoundDevicesAhead(); // behind the pictures: many machines have two cores
+    services.CountSoundDevicesAhead(); // after the pictures: many machines have two cores
     RunStartUp();
     ProgramWindows windows;
     const ProvidedWindows provided(windows);
@@ -147,7 +147,7 @@ int RunProgram(QApplication& application)
         &window, &MainFrm::Unloaded, qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     const SystemEnd systemEnd(application);
     OpenMainWindow(window);
-    // An end that came while the window appeared found no loop to end.
+    // If the end came while the window appeared, there was no loop to end.
     const bool runs = window.isVisible() && !systemEnd.HasCome();
     const int status = runs ? QApplication::exec() : EXIT_SUCCESS;
     if (systemEnd.HasCome())

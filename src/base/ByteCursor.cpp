@@ -11,7 +11,7 @@ namespace sprout {
 
 namespace {
 
-constexpr std::size_t kBufferBytes = 8192; // the head and the picture of a tune, all that a list of tunes needs
+constexpr std::size_t kBufferBytes = 8192; // the head and the picture of a tune, enough for a list of tunes
 
 }
 
@@ -20,7 +20,7 @@ FileSource::FileSource(const std::filesystem::path& path)
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
         throw RunTimeError("The file " + path.native() + " was not found.");
-    file.pubsetbuf(nullptr, 0); // the cursor has a buffer of its own
+    file.pubsetbuf(nullptr, 0); // the cursor has its own buffer
     if (!file.open(path, std::ios::in | std::ios::binary))
         throw RunTimeError("The file " + path.native() + " could not be opened.");
     const auto end = file.pubseekoff(0, std::ios::end);
@@ -37,7 +37,7 @@ void FileSource::Read(std::uint64_t offset, std::span<std::byte> bytes)
     if (std::streamoff(file.pubseekpos(place, std::ios::in)) != place)
         throw RunTimeError("The file could not be read.");
     const auto count = static_cast<std::streamsize>(bytes.size());
-    // A byte is read as what the stream calls a character.
+    // The stream reads bytes as its characters.
     if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count)
         throw RunTimeError("The file could not be read to its end.");
 }

@@ -21,14 +21,14 @@ public:
     virtual ~ByteSource() = default;
 
     [[nodiscard]] virtual std::uint64_t Size() const = 0;
-    /// Fills `bytes` from `offset` on. Throws `RunTimeError` where the source ends before.
+    /// Fills `bytes` from `offset` on. Throws `RunTimeError` if the source ends too early.
     virtual void Read(std::uint64_t offset, std::span<std::byte> bytes) = 0;
 };
 
 /// A file, open as long as the object lives.
 class FileSource : public ByteSource {
 public:
-    /// Throws `RunTimeError` where the path is no plain file or cannot be read.
+    /// Throws `RunTimeError` if the path is not a plain file or cannot be read.
     explicit FileSource(const std::filesystem::path& path);
 
     [[nodiscard]] std::uint64_t Size() const override { return size; }
@@ -51,8 +51,8 @@ private:
     std::span<const std::byte> content;
 };
 
-/// Walks a part of a source, never beyond its end. Small reads come from a buffer, large ones go straight to their
-/// place. Nothing is allocated for a count before the bytes for it are known to be there.
+/// Walks through a part of a source, never beyond its end. Small reads are buffered; large ones go straight to their
+/// target. Nothing is allocated for a count until its bytes are known to exist.
 class ByteCursor {
 public:
     /// Reads from `begin` up to `end` bytes of the source (clamped to its size).
@@ -61,17 +61,17 @@ public:
     [[nodiscard]] std::uint64_t Offset() const { return offset; }
     [[nodiscard]] std::uint64_t Left() const { return end - offset; }
 
-    /// Throws `RunTimeError` unless `count` more bytes are there.
+    /// Throws `RunTimeError` unless at least `count` bytes are left.
     void Require(std::uint64_t count) const;
 
     void Read(std::span<std::byte> bytes);
     [[nodiscard]] std::int32_t ReadInt32();
     void Skip(std::uint64_t count);
 
-    /// Goes to a place between the begin and the end that were given.
+    /// Moves to a place between the given begin and end.
     void MoveTo(std::uint64_t place);
 
-    /// Moves the end nearer, to byte `newEnd` of the source, which must not lie behind the old end.
+    /// Moves the end closer, to byte `newEnd` of the source, which must not lie beyond the old end.
     void Narrow(std::uint64_t newEnd);
 
 private:

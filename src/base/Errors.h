@@ -7,16 +7,17 @@
 
 namespace sprout {
 
-/// A run-time error of the program's own; `what()` is a plain sentence that may be shown to the user.
+/// One of the program's own run-time errors; `what()` is a plain sentence that may be shown to the user.
 class RunTimeError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Thrown where the user ended long work. No failure, so that nothing that tells of failures takes it for one.
+/// Thrown when the user stops long work. It is not a failure, so code that reports failures does not report it.
 class WorkStopped {};
 
-/// The sentence that tells the user of any exception: its own words, or plain ones for those of the standard library.
+/// The sentence that describes an exception to the user: its own text, or plain words for those of the standard
+/// library.
 [[nodiscard]] std::string ErrorText(const std::exception& error);
 
 } // namespace sprout

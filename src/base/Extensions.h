@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// The endings of the program's files.
+/// The extensions of the program's files.
 inline constexpr std::string_view kSongExtension = ".TqSng";
 inline constexpr std::string_view kTuneExtension = ".TqTun";
 inline constexpr std::string_view kWaveExtension = ".wav";

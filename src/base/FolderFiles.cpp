@@ -19,7 +19,7 @@ bool IsPlain(const fs::directory_entry& entry)
     return entry.is_regular_file(vanished);
 }
 
-/// True when something stands in front of the extension.
+/// True if there is something before the extension.
 bool HasExtension(std::string_view fileName, std::string_view extension)
 {
     return fileName.size() > extension.size() &&

@@ -8,7 +8,7 @@
 
 namespace sprout {
 
-/// A file of a folder. Name: without its extension. Path: as the folder has it, whatever the case of its letters.
+/// A file in a folder. Name: without its extension. Path: as in the folder, whatever the case of its letters.
 struct FolderFile {
     std::string Name;
     std::filesystem::path Path;
@@ -17,12 +17,12 @@ struct FolderFile {
 /// Whether files whose names begin with a dot are listed.
 enum class DotFiles { No, Yes };
 
-/// The entries of a folder, in no order: those that can be read, none where there is no such folder.
+/// The readable entries of a folder, in no particular order; none if the folder does not exist.
 [[nodiscard]] std::vector<std::filesystem::directory_entry> EntriesOfFolder(const std::filesystem::path& folder);
 
-/// The plain files of a folder that have a name and behind it `extension`, in any letter case. They stand in
-/// alphabetical order without regard to case; those that differ in case alone, by their bytes. `extension`: with its
-/// dot. None where the folder cannot be read.
+/// The plain files of a folder that have a name followed by `extension`, in any letter case. They are in alphabetical
+/// order, ignoring case; names that differ only in case are ordered by their bytes. `extension`: with its dot. None if
+/// the folder cannot be read.
 [[nodiscard]] std::vector<FolderFile> FilesInFolder(const std::filesystem::path& folder, std::string_view extension,
                                                     DotFiles dotFiles = DotFiles::No);
 

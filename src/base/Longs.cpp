@@ -14,7 +14,7 @@
 
 namespace sprout {
 
-// Samples and colours go to files as they lie in memory.
+// Files store samples and colours exactly as memory does.
 static_assert(std::endian::native == std::endian::little);
 
 namespace {
@@ -28,7 +28,7 @@ std::int64_t ChannelElements(std::int32_t upperBound)
     return upperBound == 0 ? 0 : std::int64_t{upperBound} / 2 + 1;
 }
 
-/// What a file holds of a channel: `length` samples, and none where the channel has none.
+/// A channel as stored in a file: `length` samples, or none if the channel has none.
 Channel StoredChannel(Channel channel, std::int32_t length)
 {
     if (channel.UpperBound() != 0)
@@ -98,7 +98,7 @@ void LongsWriter::PutChannel(const Channel& channel)
 
 void LongsWriter::PutWave(const WaveData& wave)
 {
-    // The length alone tells what sounds: a cleared wave may still hold samples.
+    // Only the length decides what sounds: a cleared wave may still have samples.
     const Channel left = StoredChannel(wave.WavL, wave.Length);
     const Channel right = wave.Channels == 2 ? StoredChannel(wave.WavR, wave.Length) : Channel();
     const std::int64_t lastIndex =

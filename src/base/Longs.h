@@ -16,26 +16,26 @@
 namespace sprout {
 
 // Songs, tunes and caches are arrays of 32-bit little-endian integers whose element 0 is the index of the last element.
-// Texts, waves and pictures stand in them as blocks; docs/file-formats.md draws the layouts.
+// They contain texts, waves and pictures as blocks; docs/file-formats.md shows the layouts.
 
-/// An array in the making. Samples are kept as channels, not copied, until the bytes are asked for.
+/// An array under construction. Samples are kept as channels, without a copy, until the bytes are requested.
 class LongsWriter {
 public:
     LongsWriter() = default;
 
     void Put(std::int32_t value);
     void PutMany(std::span<const std::int32_t> values);
-    void PutText(std::string_view text);     ///< packed, in its stored bytes
+    void PutText(std::string_view text);     ///< packed, as its stored bytes
     void PutWave(const WaveData& wave);      ///< wave block
     void PutPicture(const Picture& picture); ///< 1024 colours in columns
 
-    /// Number of elements so far. Throws `RunTimeError` beyond the 32-bit numbers.
+    /// Number of elements so far. Throws `RunTimeError` if it exceeds 32 bits.
     [[nodiscard]] std::int32_t Count() const;
 
-    /// Overwrites element 0, for which `Put` made room, with the index of the last element.
+    /// Overwrites element 0, reserved by an earlier `Put`, with the index of the last element.
     void PutLastIndex();
 
-    /// The array's bytes as pieces that stay valid as long as the writer is not changed.
+    /// The array's bytes as pieces that stay valid until the writer changes.
     [[nodiscard]] std::vector<std::span<const std::byte>> Pieces() const;
 
     /// The array as numbers.
@@ -55,21 +55,21 @@ private:
     std::uint64_t bytes = 0;
 };
 
-/// Reads an array element by element, never beyond its last one. Throws `RunTimeError` for what cannot be there.
+/// Reads an array element by element, never beyond its last one. Throws `RunTimeError` if the data is invalid.
 class LongsReader {
 public:
-    /// The array that begins at byte `begin` of `source`; its element 0 tells its length, which must lie within the
-    /// source. Stands on element 1 afterwards.
+    /// The array that begins at byte `begin` of `source`; its element 0 gives its length, which must lie within the
+    /// source. Starts at element 1.
     LongsReader(ByteSource& source, std::uint64_t begin);
 
-    /// Bytes from `begin` on as they are, element 0 being whatever stands there. Stands on element 0.
+    /// Bytes from `begin` on as they are, whatever element 0 contains. Starts at element 0.
     [[nodiscard]] static LongsReader Raw(ByteSource& source, std::uint64_t begin, std::uint64_t end);
 
     [[nodiscard]] std::int32_t Get();
     [[nodiscard]] std::string GetText();
     [[nodiscard]] WaveData GetWave();
     [[nodiscard]] Picture GetPicture();
-    /// Fills `elements`. What is allocated for them should have been asked for by `Require` before.
+    /// Fills `elements`. Call `Require` before you allocate them.
     void GetMany(std::span<std::int32_t> elements);
 
     /// Elements not read yet.
@@ -80,15 +80,15 @@ public:
 private:
     explicit LongsReader(ByteCursor bytes) : cursor(std::move(bytes)) {}
 
-    /// The byte behind the block whose element 0 was just read as `lastIndex`.
+    /// The byte after the block whose element 0 was just read as `lastIndex`.
     [[nodiscard]] std::uint64_t BlockEnd(std::int32_t lastIndex) const;
     Channel GetChannel(std::int32_t length, std::uint64_t blockEnd);
 
     ByteCursor cursor;
 };
 
-/// Packed text: an empty text is 1, 0; any other is K, its byte count L, its bytes, with K = round(L / 4 + 2) the index
-/// of the block's last element.
+/// Packed text: an empty text is 1, 0; any other is K, its byte count L, its bytes, where K = round(L / 4 + 2) is the
+/// index of the block's last element.
 [[nodiscard]] std::vector<std::int32_t> TextToLongs(std::string_view text);
 
 /// The text of such a block.

@@ -26,7 +26,7 @@ double NumberPrefix(std::string_view text)
     const bool signedPlus = text.front() == '+';
     if (signedPlus)
         text.remove_prefix(1);
-    // from_chars also knows "inf" and "nan", which are words here, and takes a minus sign, also one behind a plus.
+    // from_chars also accepts "inf" and "nan", which are words here, and a minus sign, even after a plus.
     const auto digits = text.find_first_not_of('-');
     if (digits == std::string_view::npos || digits > 1 || (signedPlus && digits == 1))
         return 0;

@@ -20,7 +20,7 @@ public:
     {
     }
 
-    /// Does one piece; false when none is left.
+    /// Does one piece; returns false if none is left.
     bool DoNext()
     {
         const std::size_t index = next.fetch_add(1);
@@ -35,7 +35,7 @@ public:
         return true;
     }
 
-    /// Leaves undone what nobody has begun.
+    /// Drops the pieces that nobody has begun.
     void GiveUp() { next.store(count); }
 
     [[nodiscard]] std::size_t Done() const { return done.load(); }
@@ -82,7 +82,7 @@ void ParallelFor(std::size_t count, const std::function<void(std::size_t)>& work
                     }
                 });
             } catch (const std::exception&) {
-                break; // without threads or memory for one, fewer do the same work
+                break; // if no thread can be started, fewer do the same work
             }
         }
         try {

@@ -8,9 +8,9 @@ namespace sprout {
 
 /// Runs work(0) ... work(count - 1) on all cores, each once, in any order, and returns when all are done.
 ///
-/// The calling thread works too, and calls `progress(done, count)`, if given, between its pieces and at the end. The
-/// exception of the lowest index that threw is thrown again. One that `progress` throws ends the work: what is begun is
-/// done, the rest left. threads: at most this many, 0 for one a core.
+/// The calling thread works too, and calls `progress(done, count)`, if given, between its pieces and at the end. If
+/// several calls throw, the exception of the lowest index is rethrown. An exception from `progress` ends the work:
+/// calls that have begun finish, the rest are dropped. threads: at most this many, 0 for one per core.
 void ParallelFor(std::size_t count, const std::function<void(std::size_t)>& work,
                  const std::function<void(std::size_t, std::size_t)>& progress = {}, std::size_t threads = 0);
 

@@ -9,7 +9,7 @@
 
 namespace sprout {
 
-/// The byte of which silence in `format` consists.
+/// The byte that silence in `format` consists of.
 [[nodiscard]] std::byte SilenceOf(const SoundFormat& format);
 
 /// A sound output's own copy of a sound: whole frames of one format.
@@ -17,10 +17,10 @@ class PcmSound {
 public:
     explicit PcmSound(const SoundFormat& soundFormat) : format(soundFormat) {}
 
-    /// Becomes `pcm`, which silence or a cut brings to `soundBytes`; half a frame at the end is left out. Throws
+    /// Becomes a copy of `pcm`, padded with silence or cut to `soundBytes`; half a frame at the end is dropped. Throws
     /// std::bad_alloc.
     void Load(std::span<const std::byte> pcm, std::size_t soundBytes);
-    /// Copies from `place`, in bytes, up to the end of the sound or of `out`. Returns the bytes copied.
+    /// Copies from `place`, in bytes, to the end of the sound or of `out`. Returns the number of bytes copied.
     std::size_t CopyFrom(std::size_t place, std::span<std::byte> out) const;
 
     [[nodiscard]] const SoundFormat& Format() const { return format; }

@@ -30,7 +30,8 @@ public:
     /// All pixels, row by row.
     [[nodiscard]] std::span<const std::uint32_t> Pixels() const;
 
-    /// True when both are the same block: copies of one picture, not pictures that look alike. Nothing is like nothing.
+    /// True if both share one block: copies of one picture, not pictures that look alike. Two empty pictures are the
+    /// same.
     friend bool SamePicture(const Picture& a, const Picture& b) { return a.block == b.block; }
 
 private:
@@ -42,11 +43,11 @@ private:
     std::shared_ptr<const Block> block;
 };
 
-/// The 1024 colours that stand for a picture in song and tune files: columns from the left, each from the top.
-/// A larger picture is cut to its top left, a smaller one padded with white.
+/// The 1024 colours of a picture in song and tune files: columns from the left, each from the top. A larger picture is
+/// cut to its top left, a smaller one padded with white.
 [[nodiscard]] std::array<std::int32_t, kPicturePixels> PictureColumns(const Picture& picture);
 
-/// The picture that `PictureColumns` gave. columns: 1024 colours.
+/// Rebuilds the picture from the result of `PictureColumns`. columns: 1024 colours.
 [[nodiscard]] Picture PictureFromColumns(std::span<const std::int32_t> columns);
 
 } // namespace sprout

@@ -17,7 +17,7 @@ struct PixelRange {
     int end;
 };
 
-/// The pixels of a side that one of the `scaled` pixels stands for, at least one.
+/// The range of pixels along a side that one of the `scaled` pixels represents, at least one.
 PixelRange PixelsUnder(int place, int side, int scaled)
 {
     const auto under = [side, scaled](int at) { return static_cast<int>(std::int64_t{at} * side / scaled); };

@@ -5,12 +5,12 @@
 
 namespace sprout {
 
-/// A picture in another size, each pixel the average of those that it stands for. width, height: above 0. Nothing stays
-/// nothing.
+/// A picture in another size; each pixel is the average of those that it replaces. width, height: above 0. An empty
+/// picture stays empty.
 [[nodiscard]] Picture ScaledPicture(const Picture& picture, int width, int height);
 
-/// A picture as beats, tunes and stars have it: scaled to 32 x 32 with its proportions kept, in the middle, with white
-/// beside it. One of that size is the same picture; nothing stays nothing.
+/// A picture in the size for beats, tunes and stars: scaled to 32 x 32 with its proportions kept, centred on white. A
+/// picture of that size is returned as it is; an empty one stays empty.
 [[nodiscard]] Picture FittedPicture(const Picture& picture);
 
 } // namespace sprout

@@ -13,7 +13,7 @@ namespace {
 
 constexpr char32_t kNoCharacter = 0xFFFFFFFF;
 
-// Windows-1252 from 0x80 to 0x9F; the unassigned five stand for themselves.
+// Windows-1252 from 0x80 to 0x9F; the five unassigned bytes represent themselves.
 constexpr std::array<char32_t, 32> kUpperControls = {0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                                      0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                                      0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -29,7 +29,7 @@ bool IsTrail(unsigned char byte)
     return (byte & 0xC0) == 0x80;
 }
 
-/// The character at the front of `text`; `kNoCharacter` where the bytes there are no UTF-8.
+/// The first character of `text`; `kNoCharacter` if its bytes are not UTF-8.
 Decoded DecodeFirst(std::string_view text)
 {
     const auto lead = static_cast<unsigned char>(text.front());

@@ -7,34 +7,34 @@
 
 namespace sprout {
 
-// Text in memory is UTF-8. In files it is one byte a character in the code page Windows-1252; a text with a character
-// outside that page is stored as UTF-8 whole, so that no name in any alphabet is lost.
+// Text in memory is UTF-8. In files it is one byte per character in the code page Windows-1252; a text with a character
+// outside that page is stored entirely as UTF-8, so names in any alphabet survive.
 
-/// `text` without blanks at its ends.
+/// `text` without leading and trailing blanks.
 [[nodiscard]] std::string_view Trim(std::string_view text);
 
-/// `text` in lower case, letters of all alphabets.
+/// `text` in lower case, for letters of all alphabets.
 [[nodiscard]] std::string LowerCase(std::string_view text);
 
 [[nodiscard]] bool EqualIgnoringCase(std::string_view a, std::string_view b);
 
-/// True when `text` begins with `prefix`, ignoring case.
+/// True if `text` begins with `prefix`, ignoring case.
 [[nodiscard]] bool BeginsIgnoringCase(std::string_view text, std::string_view prefix);
 
-/// The bytes that stand for `text` in a file.
+/// The bytes that represent `text` in a file.
 ///
-/// A text whose single bytes would themselves read as UTF-8 is stored as UTF-8, so that it comes back as it was.
-/// A text that is no UTF-8 keeps its bytes.
+/// A text whose single bytes would be valid UTF-8 is stored as UTF-8, so that it is read back unchanged.
+/// A text that is not UTF-8 keeps its bytes.
 [[nodiscard]] std::string StoredBytes(std::string_view text);
 
-/// The text that stored bytes stand for: UTF-8 if a byte of 0x80 or more occurs and the whole is valid UTF-8, else
-/// Windows-1252, in which the five unassigned bytes stand for the control characters of the same number.
+/// The text that stored bytes represent: UTF-8 if there is a byte of 0x80 or more and the whole is valid UTF-8,
+/// otherwise Windows-1252, where the five unassigned bytes are the control characters of the same number.
 [[nodiscard]] std::string TextFromStored(std::string_view bytes);
 
-/// `text` as it comes back from a file. Two texts that are written alike give the same.
+/// `text` as it is read back from a file. Two texts that are stored alike give the same result.
 [[nodiscard]] std::string StoredText(std::string_view text);
 
-/// What names are compared by where letter case does not count: equal for names that files tell apart by case only.
+/// The key for comparing names without regard to letter case: equal for names whose stored forms differ only in case.
 [[nodiscard]] std::string NameKey(std::string_view name);
 
 [[nodiscard]] bool IsUtf8(std::string_view bytes);
@@ -45,7 +45,7 @@ namespace sprout {
 /// At most `count` characters of a UTF-8 text.
 [[nodiscard]] std::string_view FirstCharacters(std::string_view text, std::size_t count);
 
-/// The characters of a UTF-8 text that fit whole into its first `bytes`.
+/// The characters of a UTF-8 text that fit completely into its first `bytes`.
 [[nodiscard]] std::string_view CharactersInBytes(std::string_view text, std::size_t bytes);
 
 } // namespace sprout

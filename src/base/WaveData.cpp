@@ -16,8 +16,8 @@ std::size_t ElementCount(std::int32_t upperBound)
 
 using Block = std::shared_ptr<std::int16_t[]>;
 
-// Most of the time that a long sound takes to load goes into its first touch of one small page after the other. Blocks
-// of several large pages come from the default memory resource, of which the program makes one that asks for these.
+// Loading a long sound spends most of its time on the first touch of one small page after the other. Blocks of several
+// large pages come from the default memory resource; the program installs one that requests large pages.
 constexpr std::size_t kLargePageBytes = std::size_t{1} << 21;
 constexpr std::size_t kSmallestLargeBlock = 2 * kLargePageBytes;
 
@@ -28,7 +28,7 @@ Block LargeBlock(std::size_t bytes)
     return {static_cast<std::int16_t*>(source.allocate(bytes, kLargePageBytes)), release};
 }
 
-/// Elements 0 to `upperBound`, whatever they hold.
+/// Elements 0 to `upperBound`, with arbitrary content.
 Block UnfilledBlock(std::int32_t upperBound)
 {
     const std::size_t count = ElementCount(upperBound);

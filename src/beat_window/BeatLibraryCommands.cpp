@@ -33,7 +33,7 @@ void HintBeatCommand(std::string_view text)
     ShowHint(QtText(text));
 }
 
-/// A hint that stays as long as the message can be read.
+/// Shows a message, and a hint for as long as it is open.
 void TellOfBeat(std::string_view hint, std::string_view line1, std::string_view line2 = {})
 {
     HintBeatCommand(hint);
@@ -74,7 +74,7 @@ void TellBeatTooLong(const WaveData& wave)
                     "This will be trimmed to 3 seconds.");
 }
 
-/// Of a sound that must be converted, no more than a beat can use.
+/// Converts only as much of a sound as a beat can use.
 std::optional<ChosenSound> OpenBeatSound(const fs::path& file)
 {
     try {
@@ -85,7 +85,7 @@ std::optional<ChosenSound> OpenBeatSound(const fs::path& file)
     }
 }
 
-/// The sound for a new beat, of which the user was told what there is to tell; nothing where there is none.
+/// The sound for a new beat, after all messages about it; nothing if there is none.
 std::optional<ChosenSound> ChooseBeatSound()
 {
     const std::optional<fs::path> file = AskForBeatWave();

@@ -141,7 +141,7 @@ void BeatWindow::MakeMoveMnu()
     }
 }
 
-/// Rows that the list asks for and the screen has room for.
+/// The rows that the list needs and the screen has room for.
 int BeatWindow::FittingRows() const
 {
     const int frameHeight = PictureGridPic::FrameSize(kBeatColumns, 0).height();
@@ -170,7 +170,7 @@ void BeatWindow::PlaceControls(int rows)
     resize(column.right() + 1 + kBeatMargin, rowTop + OkBtn->height() + kBeatRowGap);
 }
 
-/// The picture and the play button side by side at the top, the name and the duration below.
+/// Places the picture and the play button side by side at the top, the name and the duration below.
 void BeatWindow::PlaceChoice(const QRect& column)
 {
     const int pairWidth = ChoosenPic->width() + kBeatGap + TestPlayBtn->width();
@@ -183,7 +183,7 @@ void BeatWindow::PlaceChoice(const QRect& column)
     DurLbl->setGeometry(column.left(), nameTop + kBeatNameHeight, column.width(), kBeatDurationHeight);
 }
 
-/// The buttons stand on the grid's lower edge.
+/// Places the buttons up from the grid's lower edge.
 void BeatWindow::PlaceColumn(const QRect& column)
 {
     int bottom = column.bottom() + 1;
@@ -363,7 +363,7 @@ void BeatWindow::Try(std::string_view text, void (BeatWindow::*command)())
         (this->*command)();
     } catch (const std::exception& error) {
         TheServices().messages->MessageBox("", std::string(text) + "\r\n" + ErrorText(error));
-        // A part of it may have been done: the list shows what the folder holds now.
+        // Part of it may have been done: the list shows what the folder contains now.
         Guarded([this] { LoadBeatFiles(); });
     }
 }

@@ -24,20 +24,20 @@ class BeatWindow : public BandedForm {
 public:
     explicit BeatWindow(QWidget* parent);
 
-    /// In: the beat to select at first. Out, where `OkPressed`: the chosen one.
+    /// In: the initially selected beat. Out, if `OkPressed`: the chosen one.
     std::string ChosenBeatName;
     bool OkPressed = false;
 
-    /// One beat was added since the program began: the messages that guide through it stay away.
+    /// A beat was added since the program started: the messages that explain it are no longer shown.
     static inline bool AddHelpShown = false;
 
-    /// Builds the list anew from the folder and shows it from its first row.
+    /// Rebuilds the list from the folder and shows it from its first row.
     void LoadBeatFiles();
 
-    /// Shows the list, the selected beat, its name and its duration. It loads the sound of the selected beat for that.
+    /// Shows the list and the selected beat with its name and duration. For that, it loads the sound of the beat.
     void RefreshShowAllPic();
 
-    /// Cancel: the order is not saved, nothing is chosen.
+    /// Cancels: the order is not saved, nothing is chosen.
     void reject() override;
 
 private:

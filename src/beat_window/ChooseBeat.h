@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// Lets the user choose an instrument in the beat window. name: the one to start from, the chosen one on return.
-/// Returns false, with the name as it was, where none was chosen.
+/// Lets the user choose an instrument in the beat window. name: the initial one; on return the chosen one. Returns
+/// false and keeps the name if none was chosen.
 [[nodiscard]] bool ChooseBeat(std::string& name);
 
 } // namespace sprout

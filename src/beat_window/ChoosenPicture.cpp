@@ -19,7 +19,7 @@ constexpr qreal kChoosenCorner = 8;
 ChoosenPicture::ChoosenPicture(QWidget* parent) : QAbstractButton(parent)
 {
     setObjectName(QStringLiteral("ChoosenPic"));
-    setFocusPolicy(Qt::NoFocus); // the play button beside it does the same
+    setFocusPolicy(Qt::NoFocus); // the play button next to it does the same
     setCursor(Qt::PointingHandCursor);
     resize(ChoosenPicture::sizeHint());
 }

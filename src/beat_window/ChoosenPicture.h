@@ -8,14 +8,14 @@
 
 namespace sprout {
 
-/// The picture of the chosen beat, large (`ChoosenPic`); a click on it plays the beat.
+/// The large picture of the chosen beat (`ChoosenPic`); a click on it plays the beat.
 class ChoosenPicture : public QAbstractButton {
     Q_OBJECT
 
 public:
     explicit ChoosenPicture(QWidget* parent);
 
-    /// Shows a picture of any size; nothing clears it.
+    /// Shows a picture of any size; an empty one clears it.
     void ShowPicture(const Picture& picture);
     [[nodiscard]] bool IsClear() const { return image.isNull(); }
 

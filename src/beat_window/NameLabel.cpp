@@ -10,7 +10,7 @@ namespace sprout {
 
 namespace {
 
-/// The part of a text that stands in the first line of a width; words stay whole where they can.
+/// The part of a text that fits on the first line; words stay whole if possible.
 QString FirstLineOfName(const QString& text, const QFont& font, int width)
 {
     QTextLayout layout(text, font);
@@ -36,7 +36,7 @@ NameLabel::NameLabel(QWidget* parent) : QLabel(parent)
 void NameLabel::ShowName(const QString& name)
 {
     setText(name);
-    setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped())); // names are no rich text
+    setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped())); // names are plain text
 }
 
 void NameLabel::paintEvent(QPaintEvent* /*event*/)

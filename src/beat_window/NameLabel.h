@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// A centred name on one or two lines: a long one goes on in the second line, and ends there with dots. The tool tip
+/// A centred name on one or two lines: a long name continues on the second line and ends there with dots. The tool tip
 /// shows all of it.
 class NameLabel : public QLabel {
     Q_OBJECT

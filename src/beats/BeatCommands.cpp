@@ -53,7 +53,7 @@ void PutBeatFile(const fs::path& target, const fs::path& source)
     TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::Yes);
 }
 
-/// A picture that lies around under the name in other letters goes once the new one is there.
+/// Once the new picture is in place, an old one whose name differs only in case is deleted.
 void PutBeatPicture(const fs::path& target, const Picture& picture)
 {
     const std::vector<std::byte> bytes = TheServices().pictures->EncodeBmp(picture);
@@ -70,7 +70,7 @@ fs::path UserBeatFile(std::string_view name, std::string_view extension)
     return NamedFile(Shared().UserBeats, name, extension);
 }
 
-/// A file system that tells letter case would let two beats of one name stand side by side.
+/// A case-sensitive file system would allow two beats of one name.
 void RenameBeatFile(const fs::path& from, const fs::path& to)
 {
     if (to.empty())

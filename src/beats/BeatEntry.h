@@ -6,12 +6,12 @@
 
 namespace sprout {
 
-// The beat as songs and tunes hold it, behind its name.
+// The beat in songs and tunes, after its name.
 
-/// Writes a beat: 1 and what the file is to carry of it, or 0 alone where it is kept outside and is there.
+/// Writes a beat: 1 and its content, or only 0 if it is kept outside the file and exists there.
 void WriteBeatEntry(LongsWriter& data, const Beat& beat);
 
-/// Reads what stands behind the 1: `DateStamp`, `Sound` and `Picture`. Throws `RunTimeError` for what cannot be there.
+/// Reads what follows the 1: `DateStamp`, `Sound` and `Picture`. Throws `RunTimeError` if the data is invalid.
 void ReadStoredBeat(LongsReader& data, Beat& beat);
 
 } // namespace sprout

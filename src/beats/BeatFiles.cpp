@@ -31,7 +31,7 @@ Picture LoadBeatPicture(std::string_view name)
     return LoadPictureFile(NamedFile(Shared().UserBeats, name, kPictureExtension));
 }
 
-/// The beat of a wave file; nothing where the file holds no samples.
+/// The beat in a wave file; nothing if the file has no samples.
 std::optional<Beat> ReadBeat(std::string_view name, const fs::path& waveFile)
 {
     Beat beat;
@@ -48,14 +48,14 @@ std::optional<Beat> ReadBeat(std::string_view name, const fs::path& waveFile)
     return beat;
 }
 
-/// What `LoadBeatFile` puts into a beat; nothing where it leaves it as it was.
+/// The new content for `LoadBeatFile`; nothing if the beat stays unchanged.
 std::optional<Beat> ReadNamedBeat(std::string_view name)
 {
     const fs::path waveFile = FindBeatWave(name);
     return waveFile.empty() ? Beat() : ReadBeat(name, waveFile);
 }
 
-/// Place of the beat of that name and stamp in the song's list; 0 where it has none.
+/// Place in the song's list of the beat with that name and stamp; 0 if it is not there.
 std::int32_t FindSongBeat(const SongState& song, std::string_view name, std::string_view stamp)
 {
     const std::string key = NameKey(name);
@@ -67,7 +67,7 @@ std::int32_t FindSongBeat(const SongState& song, std::string_view name, std::str
     return 0;
 }
 
-/// Adds a beat to the song's list and returns its place.
+/// Appends a beat to the song's list and returns its place.
 std::int32_t AppendSongBeat(SongState& song, Beat beat)
 {
     song.SongBeats.push_back(std::move(beat));
@@ -172,7 +172,7 @@ void MergeTuneBeats(SongState& song, Tune& tune)
             continue;
         const std::int32_t found = FindSongBeat(song, step.StepBeat.Name, step.StepBeat.DateStamp);
         step.BeatIndex = found != 0 ? found : AppendSongBeat(song, step.StepBeat);
-        step.StepBeat = empty; // the song holds the sound once, not every step
+        step.StepBeat = empty; // the song stores the sound once, not every step
     }
 }
 

@@ -14,8 +14,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The files that a look-up by name finds, by their names in lower case: the one of just that name before those of
-/// another case.
+/// The files that a look-up by name finds, by their lower-case names: an exact match comes before names in other case.
 std::map<std::string, fs::path> FilesByName(const std::vector<FolderFile>& files)
 {
     std::map<std::string, fs::path> byName;

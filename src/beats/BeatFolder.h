@@ -7,20 +7,20 @@
 
 namespace sprout {
 
-/// A beat of a folder: a .wav and a .bmp of one name.
+/// A beat in a folder: a .wav and a .bmp with the same name.
 struct BeatPair {
     std::string Name; ///< in lower case
     std::filesystem::path Wave;
     std::filesystem::path Picture;
 };
 
-/// What a folder holds of beats, alphabetical without regard to case.
+/// The beats in a folder, in alphabetical order, ignoring case.
 struct BeatFolder {
-    std::vector<std::string> WaveNames; ///< base names of all .wav, with or without a .bmp
-    std::vector<BeatPair> Pairs;        ///< one for names that differ in case only, as a look-up by name finds it
+    std::vector<std::string> WaveNames; ///< base names of all .wav files, with or without a .bmp
+    std::vector<BeatPair> Pairs;        ///< one per name in any case, as a look-up by name finds it
 };
 
-/// Reads a folder. One that cannot be read is an empty one.
+/// Reads a folder. A folder that cannot be read counts as empty.
 [[nodiscard]] BeatFolder ListBeatFolder(const std::filesystem::path& folder);
 
 } // namespace sprout

@@ -11,28 +11,28 @@
 
 namespace sprout {
 
-/// Originals of a folder that are protected, at most.
+/// Most originals in a folder that are protected.
 inline constexpr std::int32_t kMostProtected = 1000;
 
-/// TqBeats.ini of `UserBeats`: the order of the beats and the names of the originals. A value: it is read once, and
+/// TqBeats.ini in `UserBeats`: the order of the beats and the names of the originals. A value: it is read once, and
 /// written once with `Write`.
 class BeatIndex {
 public:
     [[nodiscard]] static BeatIndex Read();
 
-    /// Makes all the given beats originals, unless that was done before; true where it changed the index.
+    /// Makes all given beats originals, unless this was done before; true if it changed the index.
     bool WriteProtectedList(std::span<const std::string> names);
 
     /// Keys (`NameKey`) of the first 1000 originals.
     [[nodiscard]] std::unordered_set<std::string> ReadProtectedList() const;
 
-    /// The place of a beat, in any letter case; `kNoPlace` where it has none.
+    /// The place of a beat, in any letter case; `kNoPlace` if it has none.
     [[nodiscard]] std::int32_t Place(std::string_view name) const { return order.Place(name); }
 
-    /// Gives the names the places 1, 2, ..., as `FolderOrder::SetOrder`.
+    /// Gives the names the places 1, 2, ..., like `FolderOrder::SetOrder`.
     void SetOrder(std::span<const std::string> names) { order.SetOrder(names); }
 
-    /// Keeps whatever else the file holds. A failure is silent, as in a read-only folder.
+    /// Keeps the rest of the file. Ignores failures, for example in a read-only folder.
     void Write() const { order.Write(); }
 
 private:

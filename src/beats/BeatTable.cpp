@@ -20,7 +20,7 @@ namespace sprout {
 
 namespace {
 
-/// In the order of the index; those of one place stay alphabetical.
+/// In the order of the index; beats with the same place stay alphabetical.
 void SortBeatPairs(std::vector<BeatPair>& pairs, const BeatIndex& index)
 {
     std::vector<std::pair<std::int32_t, std::size_t>> places;
@@ -44,7 +44,7 @@ std::int32_t FindBeatPair(const std::vector<BeatPair>& pairs, std::string_view n
     return 0;
 }
 
-/// Keeps a selection that the list has; otherwise takes the named beat, or the first one.
+/// Keeps a selection that is in the list; otherwise selects the named beat or the first one.
 std::int32_t NewBeatSelection(const BeatTable& table, const std::vector<BeatPair>& pairs, std::string_view wanted)
 {
     const auto count = static_cast<std::int32_t>(pairs.size());

@@ -8,7 +8,7 @@
 
 namespace sprout {
 
-/// The hourglass, as long as it lives.
+/// Shows the hourglass during its lifetime.
 class Hourglass {
 public:
     Hourglass() { TheServices().screen->ShowHourglass(); }
@@ -17,7 +17,7 @@ public:
     ~Hourglass() { TheServices().screen->RestorePointer(); }
 };
 
-/// The hourglass and the working sign, as long as it lives.
+/// Shows the hourglass and the working sign during its lifetime.
 class WorkingSign {
 public:
     WorkingSign() { TheServices().screen->ShowProcessPic(); }
@@ -29,10 +29,10 @@ private:
     Hourglass hourglass;
 };
 
-/// Work that its user may stop, as long as it lives: `Screen::ShowProgress` then throws `WorkStopped`.
+/// Work that the user may stop during its lifetime: `Screen::ShowProgress` then throws `WorkStopped`.
 class StoppableWork {
 public:
-    /// what: a short sentence that tells what is being done.
+    /// what: a short sentence that says what is being done.
     explicit StoppableWork(std::string_view what) { TheServices().screen->BeginStoppable(what); }
     StoppableWork(const StoppableWork&) = delete;
     StoppableWork& operator=(const StoppableWork&) = delete;

@@ -23,7 +23,7 @@ namespace {
 constexpr std::uint64_t kHeadBytes = 1000;
 constexpr std::string_view kLineEnd = "\r\n";
 
-/// The clock, or the moment that SOURCE_DATE_EPOCH names, so that files made by a build are the same in every build.
+/// The current time, or SOURCE_DATE_EPOCH if set, so that every build makes the same files.
 std::time_t PresentTime()
 {
     const char* text = std::getenv("SOURCE_DATE_EPOCH");
@@ -39,7 +39,7 @@ std::string Now()
     const std::time_t time = PresentTime();
     const std::tm* local = std::localtime(&time);
     std::array<char, 32> clock{};
-    // Month names are those of the C locale, whatever the desktop's language.
+    // Month names are in the C locale, whatever the desktop's language.
     constexpr std::array months = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
     if (!local || std::strftime(clock.data(), clock.size(), "%Y/%H:%M:%S", local) == 0)
         return {};
@@ -48,7 +48,7 @@ std::string Now()
            clock.data();
 }
 
-/// Place behind CR LF + key + "=" in the searched bytes; npos where it does not stand there.
+/// Position after CR LF + key + "=" in the searched bytes; npos if it is not found.
 std::size_t FindBehindKey(std::string_view head, std::string_view key)
 {
     const std::string pattern = LowerCase(std::string(kLineEnd) + std::string(key) + "=");
@@ -68,7 +68,7 @@ std::string ReadHead(ByteSource& source, std::string_view key)
     return head;
 }
 
-/// A whole file; the pieces are those of its parts.
+/// The pieces of a whole file: head, array and tail.
 std::vector<std::span<const std::byte>> PiecesOfFile(std::string_view head, const LongsWriter& data)
 {
     const std::string_view tail = FileTail();

@@ -6,7 +6,7 @@
 
 namespace sprout {
 
-/// A file as it stood at a moment. An empty path stands for no file.
+/// The state of a file at one moment. An empty path means no file.
 struct FileMark {
     std::filesystem::path Path;
     std::uintmax_t Size = 0; ///< bytes
@@ -14,7 +14,7 @@ struct FileMark {
     friend bool operator==(const FileMark&, const FileMark&) = default;
 };
 
-/// The mark of a plain file as it stands now; no file where there is none or where it cannot be asked. Never throws.
+/// The current mark of a plain file; no file if it does not exist or cannot be examined. Never throws.
 [[nodiscard]] FileMark MarkOf(const std::filesystem::path& path);
 
 } // namespace sprout

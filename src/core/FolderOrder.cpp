@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view kSortOrder = "SortOrder";
 
-/// A line of any other name would be read as something else, or cut the lines behind it off from their section.
+/// A line with any other name would be read as something else, or separate the lines after it from their section.
 bool CanBeKey(std::string_view name)
 {
     const std::string_view key = Trim(name);
@@ -56,7 +56,7 @@ void FolderOrder::Write() const
     try {
         ini.Write(path);
     } catch (const RunTimeError&) {
-        return; // the entries then stand in the order of their files
+        return; // the entries are then in the order of their files
     }
 }
 

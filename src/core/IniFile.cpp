@@ -36,7 +36,7 @@ std::string_view Unquoted(std::string_view value)
     return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
-/// A line break or a zero byte inside a value would make other lines of it.
+/// A line break or a zero byte inside a value would create other lines.
 std::string OneLine(std::string_view text)
 {
     std::string line(text);
@@ -45,7 +45,7 @@ std::string OneLine(std::string_view text)
     return line;
 }
 
-/// A value that starts and ends with blanks or quotes keeps them only inside quotes of its own.
+/// Quotes a value that would otherwise lose blanks or quotes at its ends.
 std::string ValueText(std::string_view value)
 {
     std::string line = OneLine(value);
@@ -151,7 +151,7 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
         lines[found->second].bytes = std::move(line.bytes);
         return;
     }
-    // Behind the last line with words of the first section of that name.
+    // After the last non-blank line of the first section with that name.
     const auto heading = std::find_if(lines.begin(), lines.end(), [&](const Line& candidate) {
         return candidate.heading && candidate.section == lowerSection;
     });
@@ -185,7 +185,7 @@ void IniFile::RemoveKey(std::string_view section, std::string_view key)
 void IniFile::RemoveSection(std::string_view section)
 {
     const std::string lowerSection = LowerCase(section);
-    // Lines ahead of the first heading belong to no section, not to one with an empty name.
+    // Lines before the first heading belong to no section, not to one with an empty name.
     const auto first = std::find_if(lines.begin(), lines.end(), [](const Line& line) { return line.heading; });
     lines.erase(std::remove_if(first, lines.end(), [&](const Line& line) { return line.section == lowerSection; }),
                 lines.end());
@@ -234,7 +234,7 @@ void PutIniValues(std::string_view section, std::span<const IniValue> values, co
         if (ini.Bytes() != before)
             ini.Write(file);
     } catch (const RunTimeError&) {
-        // Where the file cannot be written, the program runs on without it.
+        // If the file cannot be written, the program continues without it.
         return;
     }
 }

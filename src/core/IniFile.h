@@ -11,14 +11,14 @@
 
 namespace sprout {
 
-/// Size above which a file of this form, or a tune of the old form, is not read.
+/// Size limit for reading files of this form and tunes of the old form.
 inline constexpr std::uint64_t kMostIniBytes = 4'194'304;
 
-/// A text of sections in square brackets, with one key, an equals sign and a value a line.
+/// A text of sections in square brackets, with one key, an equals sign and a value per line.
 ///
-/// Sections and keys are looked up without regard to case; the first of two equal keys wins, wherever in the sections
-/// of one name it stands. Blanks around a value and one matching pair of quotes are dropped. Everything that is not
-/// understood is kept as it stands.
+/// Sections and keys are looked up regardless of case; if a key occurs twice, the first one wins, even across several
+/// sections of the same name. Blanks around a value and one matching pair of quotes are dropped. Everything else that
+/// is not understood is kept as it is.
 class IniFile {
 public:
     IniFile() = default;
@@ -26,43 +26,43 @@ public:
     /// Parses the bytes of a file.
     explicit IniFile(std::string_view bytes);
 
-    /// Reads the file that `path` finds, whatever its letter case; a missing one is an empty one. So is one that cannot
-    /// be read or is larger than `kMostIniBytes`, but `Write` never replaces it.
+    /// Reads the file that `path` finds, whatever its letter case; a missing file counts as empty. So does one that
+    /// cannot be read or is larger than `kMostIniBytes`, but `Write` never replaces it.
     [[nodiscard]] static IniFile Read(const std::filesystem::path& path);
 
     [[nodiscard]] bool Has(std::string_view section, std::string_view key) const;
     [[nodiscard]] std::string Value(std::string_view section, std::string_view key, std::string_view fallback) const;
 
-    /// Keys of all sections of that name, in order.
+    /// Keys of all sections with that name, in order.
     [[nodiscard]] std::vector<std::string> Keys(std::string_view section) const;
 
     void SetValue(std::string_view section, std::string_view key, std::string_view value);
     void RemoveKey(std::string_view section, std::string_view key);
     void RemoveSection(std::string_view section);
 
-    /// The bytes of the file, lines ended by CR LF.
+    /// The bytes of the file; lines end with CR LF.
     [[nodiscard]] std::string Bytes() const;
 
-    /// Replaces the file that `path` finds, whatever its letter case, whole, or makes it. Throws `RunTimeError`, also
-    /// where what stands there could not be read.
+    /// Creates or completely replaces the file that `path` finds, whatever its letter case. Throws `RunTimeError`, also
+    /// if the existing file could not be read.
     void Write(const std::filesystem::path& path) const;
 
 private:
     struct Line {
-        std::string bytes;   // as it stands in the file
+        std::string bytes;   // as in the file
         std::string section; // lower case
-        std::string key;     // lower case; empty where the line is none of key and value
+        std::string key;     // lower case; empty if the line has no key and value
         bool heading = false;
     };
 
     void Index();
 
-    bool unreadable = false; // a file that holds what is not known here
+    bool unreadable = false; // the file has content that is not known here
     std::vector<Line> lines;
     std::unordered_map<std::string, std::size_t> places; // section, zero byte, key -> line
 };
 
-/// The value of `key`, `fallback` where the file has none or the key is blank.
+/// The value of `key`, or `fallback` if the file has none or the key is blank.
 [[nodiscard]] std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,
                                       const std::filesystem::path& file);
 
@@ -71,9 +71,9 @@ struct IniValue {
     std::string value;
 };
 
-/// Writes values. A blank section becomes "General", a blank key deletes the section. The file is read anew and
-/// replaced once, while no other running program does the same, and not at all where it says the same already. A
-/// failure is silent, as in a read-only folder.
+/// Writes values. A blank section becomes "General"; a blank key deletes the section. The file is read again and
+/// replaced once, while no other running program does the same, but not if it already has these values. Ignores
+/// failures, for example in a read-only folder.
 void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file);
 
 /// Writes one value, likewise.

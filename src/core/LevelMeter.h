@@ -18,12 +18,12 @@ public:
 
     /// The greatest sample of the last 0.2 s, 0 to 32767.
     [[nodiscard]] std::int32_t Peak() const;
-    /// Three samples in a row stood at full scale.
+    /// Three samples in a row were at full scale.
     [[nodiscard]] bool IsOverloaded() const { return overloaded; }
 
 private:
     std::array<std::int32_t, kMeterPieces> peaks{};
-    std::size_t piece = 0;  // of which the peak is being found
+    std::size_t piece = 0;  // whose peak is being measured
     std::size_t inside = 0; // its samples so far
     int fullScale = 0;      // samples in a row
     bool overloaded = false;
@@ -32,7 +32,7 @@ private:
 /// The level of both channels.
 class LevelMeter {
 public:
-    /// samples: left and right in turn. True where one of them is not exactly zero.
+    /// samples: alternating left and right. True if one of them is not exactly zero.
     bool Add(std::span<const std::int16_t> samples);
 
     [[nodiscard]] const ChannelMeter& Left() const { return left; }

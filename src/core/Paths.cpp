@@ -27,7 +27,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// False for a blank path, and for one with a zero byte: the machine would read it up to there and find another file.
+/// False for a blank path or one with a zero byte: the system would read up to there and find another file.
 bool NamesAnything(const fs::path& path)
 {
     return !Trim(path.native()).empty() && path.native().find('\0') == fs::path::string_type::npos;
@@ -45,7 +45,7 @@ bool IsFolder(const fs::path& path)
     return fs::is_directory(path, error);
 }
 
-/// Some of the files that a copy left out, a line each.
+/// Some of the files that a copy left out, one per line.
 std::string LeftOutText(std::span<const LeftOutFile> files)
 {
     constexpr std::size_t most = 5;
@@ -57,7 +57,7 @@ std::string LeftOutText(std::span<const LeftOutFile> files)
     return text;
 }
 
-/// Why a folder, or a part of it, was not copied; empty where all was.
+/// Why a folder, or part of it, was not copied; empty if everything was.
 std::string FillFolder(const fs::path& source, const fs::path& target)
 {
     const WorkingSign sign;
@@ -72,7 +72,7 @@ std::string FillFolder(const fs::path& source, const fs::path& target)
     }
 }
 
-/// Only what belongs to the user's own tree: a folder that was mistyped is none that has gone.
+/// Only recreates folders of the user's own tree: a mistyped folder is not a missing one.
 void MakeUserFolderAgain(const fs::path& folder)
 {
     const SharedState& shared = Shared();
@@ -119,7 +119,7 @@ fs::path NewTempFileName(std::string_view extension)
     for (int n = 1;; ++n) {
         fs::path candidate = Shared().TempFolder / ("TqkTmp" + std::to_string(n) + "." + std::string(extension));
         std::error_code error;
-        if (!fs::exists(fs::symlink_status(candidate, error))) // nor where the question itself fails
+        if (!fs::exists(fs::symlink_status(candidate, error))) // also false if the check itself fails
             return candidate;
         TheServices().files->DeleteStaleFile(candidate);
     }

@@ -8,36 +8,36 @@
 
 namespace sprout {
 
-/// The plain file that `path` names; if none has just this name, one of its folder whose name differs in case only.
-/// Empty if there is none. Never throws.
+/// The plain file at `path`; if there is none, a file in its folder whose name differs only in case. Empty if there is
+/// none. Never throws.
 [[nodiscard]] std::filesystem::path FindFile(const std::filesystem::path& path);
 
-/// False for a blank path; else true when the path, whatever its letter case, finds a plain file.
+/// False for a blank path; otherwise true if the path, whatever its letter case, finds a plain file.
 [[nodiscard]] bool FileExists(const std::filesystem::path& path);
 
-/// Deletes the plain file of just this name, or the link to one: a file whose name differs in letter case stays, and so
-/// does what is no file. True when the path is blank, did not exist or no longer exists; false when it still does.
-/// Never throws.
+/// Deletes the plain file with exactly this name, or the link to one; leaves a file whose name differs in letter case,
+/// and anything that is not a file. True if the path is blank, did not exist or no longer exists; false if it still
+/// does. Never throws.
 bool DeleteFile(const std::filesystem::path& path);
 
-/// A free path for a temporary file in `TempFolder`. Stale files of the pattern met on the way are deleted, those that
-/// a running program still holds are passed over. extension: without its dot.
+/// A free path for a temporary file in `TempFolder`. Stale files of the pattern found on the way are deleted; those
+/// still held by a running program are skipped. extension: without its dot.
 [[nodiscard]] std::filesystem::path NewTempFileName(std::string_view extension);
 
-/// Bytes that the user may still fill on the volume of `TempFolder`; 0 if the question fails.
+/// Bytes available to the user on the volume of `TempFolder`; 0 if the query fails.
 [[nodiscard]] std::uint64_t FreeDiskBytes();
 
 /// Hands a file or an address to the desktop. Errors are ignored.
 void OpenWithShell(std::string_view target);
 
-/// Copies a folder and its contents into `destination`, under its own name, with the files' times, if no plain file
-/// lies there yet; what is there stays. It is there whole or not at all: see `FolderCopies`. Where it lasts its
-/// progress is shown, and its user may stop it: throws `WorkStopped`. What failed is shown in one message and gives
+/// Copies a folder and its contents into `destination`, under its own name, with the files' times, unless a plain file
+/// is already there; existing files stay. The copy appears completely or not at all: see `FolderCopies`. Longer copies
+/// show their progress, and the user may stop them: throws `WorkStopped`. Failures are shown in one message and give
 /// false.
 bool CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
 
-/// Makes ready to replace or make a file: a folder of the user's that has gone is made again. Throws `RunTimeError`
-/// with a plain sentence where the file may not be changed by its user, or where that folder cannot be made.
+/// Prepares to replace or create a file: recreates a missing folder of the user's. Throws `RunTimeError` with a plain
+/// sentence if the user may not change the file, or if the folder cannot be created.
 void PrepareToReplace(const std::filesystem::path& file);
 
 /// Sets `ProgramFolder`, `SettingsFile` and `TempFolder`.
@@ -46,7 +46,7 @@ void FindTempFolder();
 /// Sets the folders under `UserRoot`.
 void SetUserRoot(const std::filesystem::path& root);
 
-/// The last-write time of a file as "mm/dd/yyyy,hh:mm:ss" of the local time; empty where there is no such file.
+/// The last-write time of a file as "mm/dd/yyyy,hh:mm:ss" in local time; empty if the file does not exist.
 [[nodiscard]] std::string FileStamp(const std::filesystem::path& path);
 
 } // namespace sprout

@@ -18,7 +18,7 @@ namespace sprout {
 
 namespace {
 
-/// The settings file as it was read last. The file is asked at each use whether it is still the same.
+/// The settings file as last read. Each use checks whether the file has changed.
 class SettingsRead {
 public:
     std::string Value(std::string_view section, std::string_view key, std::string_view fallback)
@@ -43,7 +43,7 @@ public:
 private:
     std::mutex mutex;
     std::filesystem::path file;
-    std::optional<FileFacts> facts; // before the file was read
+    std::optional<FileFacts> facts; // taken before the file was read
     IniFile ini;
 };
 
@@ -66,7 +66,7 @@ void ReadColour(std::string_view key, std::int32_t& colour)
         if (value != notSet)
             colour = value;
     } catch (const RunTimeError&) {
-        return; // a number beyond all colours: the built-in one stays
+        return; // impossible colour number: the built-in one stays
     }
 }
 
@@ -86,7 +86,7 @@ bool IsSetToOne(std::string_view key)
 
 void PutSettings(std::string_view section, std::initializer_list<IniValue> values)
 {
-    // A blank key would delete the section; a setting without a name is none.
+    // A blank key would delete the section; a setting without a name is ignored.
     std::vector<IniValue> named;
     std::copy_if(values.begin(), values.end(), std::back_inserter(named),
                  [](const IniValue& value) { return !Trim(value.key).empty(); });

@@ -17,17 +17,17 @@ inline constexpr std::size_t kLongestSetting = 99;
 /// unless the file has a key "END".
 [[nodiscard]] std::string GetSetting(std::string_view section, std::string_view key, std::string_view fallback);
 
-/// True where the number of a setting of "General" is 1: the switches that a user sets by hand.
+/// True if a setting of "General" is the number 1: the switches that a user sets by hand.
 [[nodiscard]] bool IsSetToOne(std::string_view key);
 
-/// Writes values to the settings file in one go. A blank section becomes "General"; a blank key is ignored. A failure
-/// is silent.
+/// Writes values to the settings file in one step. A blank section becomes "General"; a blank key is ignored. Ignores
+/// failures.
 void PutSettings(std::string_view section, std::initializer_list<IniValue> values);
 
 /// Writes one value, likewise.
 void PutSetting(std::string_view section, std::string_view key, std::string_view value);
 
-/// The colours of the wave view: each setting's number, the built-in colour in place of -1.
+/// The colours of the wave view: each setting's number, or the built-in colour if it is -1.
 [[nodiscard]] WaveViewColours ReadWaveColours();
 
 } // namespace sprout

@@ -27,13 +27,13 @@ struct WmaCodec {
     std::string Name;
     std::int32_t FormatCount = 0;
     std::vector<std::string> Descriptions;
-    std::vector<std::int32_t> BitRates;      ///< bits a second
-    std::vector<std::int32_t> SampleRates;   ///< frames a second
+    std::vector<std::int32_t> BitRates;      ///< bits per second
+    std::vector<std::int32_t> SampleRates;   ///< frames per second
     std::vector<std::int32_t> Channels;      ///< 1 or 2
     std::vector<std::int32_t> BitsPerSample; ///< 8 or 16
 };
 
-/// The encoder's codecs, listed at the first export, and the format that exports use. Codec and format count from 0.
+/// The encoder's codecs, listed at the first export, and the format used for exports. Codec and format count from 0.
 struct WmaChoice {
     std::vector<WmaCodec> Codecs;
     std::int32_t ChosenCodec = -1;
@@ -41,7 +41,7 @@ struct WmaChoice {
     bool CodecChosen = false;
 };
 
-/// What every window and the engine read and write directly; it lives from start to exit.
+/// State that every window and the engine read and write directly; it lives from start to exit.
 struct SharedState {
     // The one sound format in memory, set at the start and never changed.
     std::int32_t SampleRate = 44100;
@@ -53,23 +53,23 @@ struct SharedState {
     SongState Song;
 
     Tune CurrentTune;                                   ///< the tune open in the tune window
-    Tune TuneClipboard;                                 ///< what every tune load fills and every tune save reads
+    Tune TuneClipboard;                                 ///< filled by every tune load and read by every tune save
     Tune TuneInfoDefault;                               ///< the tune window's own
     std::vector<Tune> TuneTable = std::vector<Tune>(1); ///< the tunes of `UserTunes`, from 1
     std::int32_t TuneTableCount = 0;
 
-    bool SongBeatsInside = true;    ///< song and tune files carry their beats
+    bool SongBeatsInside = true;    ///< song and tune files contain their beats
     bool AllowEditOriginal = false; ///< the tunes that came with the program may be edited
     WaveViewColours WaveColours;
     WmaChoice Wma;
 
-    // Pictures that the program itself holds; told apart by identity.
-    Picture BlankPic;           ///< of a track's tune that was not chosen yet
+    // The program's own pictures, distinguished by identity.
+    Picture BlankPic;           ///< of a track whose tune is not chosen yet
     Picture BlankStarPic;       ///< the other half of its blinking
-    Picture DefaultTunePicture; ///< where a picture file is missing
+    Picture DefaultTunePicture; ///< used if a picture file is missing
     Picture NewTunePicture;     ///< of a tune made in the tune window
 
-    // Folders. Those of the second and third line end in a separator.
+    // Folders. Those in the second and third line end in a separator.
     std::filesystem::path ProgramFolder, TempFolder, SettingsFile, DocumentsFolder, UserRoot;
     std::filesystem::path InstallRoot, InstallBeats, InstallTunes, InstallStars, InstallSongs, DemoImages;
     std::filesystem::path UserBeats, UserTunes, UserStars, UserSongs;
@@ -78,8 +78,8 @@ struct SharedState {
 /// The one shared instance.
 [[nodiscard]] SharedState& Shared();
 
-/// Gives the shared state four plain pictures of 32 x 32, for programs without windows: files and tables tell the
-/// pictures apart by identity, so they must be there and must be four.
+/// Gives the shared state four plain 32 x 32 pictures, for programs without windows: files and tables distinguish the
+/// pictures by identity, so there must be four different ones.
 void MakePlainPictures();
 
 } // namespace sprout

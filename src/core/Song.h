@@ -13,30 +13,30 @@ namespace sprout {
 
 /// Cells of every song's time grid.
 inline constexpr std::int32_t kSongCells = 1280;
-/// The reference tempo, 100 percent, in cells a minute.
+/// The reference tempo, 100 percent, in cells per minute.
 inline constexpr std::int32_t kReferenceTempo = 320;
-/// In place of a track's number: the whole song, in the time band and in a play.
+/// Used in place of a track's number for the whole song, in the time band and during play.
 inline constexpr std::int32_t kWholeSong = -1;
 
 /// One instrument: a short wave and its picture.
 struct Beat {
-    std::string Name;      ///< base name of its files in `UserBeats`; empty = no beat
+    std::string Name;      ///< base name of its files in `UserBeats`; empty for no beat
     std::string DateStamp; ///< last-write time of the .wav, "mm/dd/yyyy,hh:mm:ss"
-    WaveData Sound;        ///< in the format of its file
+    WaveData Sound;        ///< in its file's format
     sprout::Picture Picture;
-    bool Loaded = false; ///< the record holds sound
+    bool Loaded = false; ///< the record contains sound
 };
 
-/// One place in a tune's cycle.
+/// One position in a tune's cycle.
 struct TuneStep {
     std::int32_t OnPos = 0;      ///< only 1 counts as on
-    std::int32_t BeatIndex = 0;  ///< into `SongBeats`, from 1, while the tune belongs to a track
-    std::int32_t PitchShift = 0; ///< semitones against the beat's own pitch
+    std::int32_t BeatIndex = 0;  ///< index in `SongBeats`, from 1, while the tune belongs to a track
+    std::int32_t PitchShift = 0; ///< semitones relative to the beat's own pitch
     std::int32_t Volume = 100;   ///< percent of the beat's loudness
     std::int32_t Duration = 100; ///< percent of the beat's length
     Beat StepBeat;               ///< the step's own instrument, in tune files and in the tune window
     WaveData StepWave;           ///< the step's rendered sound
-    bool StepWaveValid = false;  ///< `StepWave` corresponds to the fields above
+    bool StepWaveValid = false;  ///< `StepWave` matches the fields above
 };
 
 /// A cycle of steps.
@@ -48,7 +48,7 @@ struct Tune {
     std::vector<TuneStep> Steps = std::vector<TuneStep>(1); ///< element 0 is never used
     std::int32_t StepCount = 0;                             ///< upper bound of `Steps`
     WaveData TuneWave;                                      ///< the rendered cycle
-    bool TuneWaveValid = false;                             ///< `TuneWave` corresponds to the steps
+    bool TuneWaveValid = false;                             ///< `TuneWave` matches the steps
 };
 
 enum class TrackKind : std::int32_t { Music = 0, Audio = 1 };
@@ -58,8 +58,8 @@ struct Track {
     std::int32_t TrackType = 0; ///< a `TrackKind`; a file may hold other values
     Tune TrackTune;
     WaveData TrackAudio;
-    std::vector<std::int32_t> Painted = std::vector<std::int32_t>(1); ///< a value a cell, from 1; only 1 is painted
-    std::int32_t FirstPainted = 0;                                    ///< set by a render; 0 = nothing painted
+    std::vector<std::int32_t> Painted = std::vector<std::int32_t>(1); ///< one value per cell, from 1; only 1 is painted
+    std::int32_t FirstPainted = 0;                                    ///< set when rendered; 0 if nothing is painted
     WaveData TrackRender;                                             ///< the sound from `FirstPainted` on
     bool TrackRenderValid = false;
 
@@ -67,7 +67,7 @@ struct Track {
     [[nodiscard]] bool IsAudio() const { return TrackType == static_cast<std::int32_t>(TrackKind::Audio); }
 };
 
-/// The state of the open song. Elements 0 of its arrays exist and hold nothing.
+/// The state of the open song. Element 0 of each array exists but is unused.
 struct SongState {
     std::string SongTitle;
     std::string SongCreatedBy;
@@ -76,15 +76,15 @@ struct SongState {
     std::vector<Beat> SongBeats = std::vector<Beat>(1);
     std::int32_t SongBeatCount = 0; ///< upper bound of `SongBeats`
     std::int32_t SongCells = kSongCells;
-    std::int32_t Tempo = kReferenceTempo; ///< cells a minute
+    std::int32_t Tempo = kReferenceTempo; ///< cells per minute
     WaveData SongMix;
     bool SongMixValid = false;
     std::int32_t SongFirstPos = 0; ///< first painted cell of the whole song, set by the mix
     bool SongChanged = false;
-    FileMark OwnFile; ///< that it was read from without a message, or was last saved to
+    FileMark OwnFile; ///< the file it was read from without a message, or last saved to
 };
 
-/// The value at `index` of a 1-based record array, by 32-bit index.
+/// The value at `index` of a 1-based record array, with a 32-bit index.
 template <class Record>
 [[nodiscard]] auto& At(Record& records, std::int32_t index)
 {

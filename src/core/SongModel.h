@@ -7,10 +7,10 @@
 
 namespace sprout {
 
-/// Steps of the cycle that a tune without a file starts with.
+/// Steps in the initial cycle of a tune without a file.
 inline constexpr std::int32_t kBlankTuneSteps = 16;
 
-/// Replaces the shared song by the default one: two empty music tracks under the first free name "Untitled",
+/// Replaces the shared song with the default one: two empty music tracks under the first free name "Untitled",
 /// "Untitled 1", ... of `UserSongs`. Leaves `SongChanged` as it is.
 void NewSong();
 
@@ -21,23 +21,23 @@ void ResetTrack(std::int32_t trackNumber);
 /// Makes `tune` a blank cycle of 16 steps, all off, and lets tracks without a tune blink.
 void ResetTune(Tune& tune);
 
-/// Seconds that one cell lasts. tempo: cells a minute; 0 gives infinity, as the division does.
+/// Duration of one cell in seconds. tempo: cells per minute; 0 gives infinity, as the division does.
 [[nodiscard]] inline double CellSeconds(std::int32_t tempo)
 {
     return 60.0 / tempo;
 }
 
-/// Frames from cell `origin` to cell `cell` at `rate` frames a second, rounded. Throws `RunTimeError` where that is no
-/// 32-bit number.
+/// Frames from cell `origin` to cell `cell` at `rate` frames per second, rounded. Throws `RunTimeError` if that is not
+/// a 32-bit number.
 [[nodiscard]] std::int32_t CellOffset(std::int32_t cell, std::int32_t origin, std::int32_t tempo, std::int32_t rate);
 
-/// The whole grid's duration in seconds at a tempo, rounded. Throws `RunTimeError` where that is no 32-bit number.
+/// The whole grid's duration in seconds at a tempo, rounded. Throws `RunTimeError` if that is not a 32-bit number.
 [[nodiscard]] std::int32_t SongSeconds(std::int32_t tempo);
 
 /// The tempo in percent of the reference tempo, 50 to 200.
 [[nodiscard]] std::int32_t TempoPercent(std::int32_t tempo);
 
-/// Cells a minute for a percentage.
+/// Cells per minute for a percentage.
 [[nodiscard]] std::int32_t TempoOfPercent(std::int32_t percent);
 
 /// Cells that one pass of an audio track's wave covers at the reference tempo, at least 1; 1 for a wave without a rate.
@@ -46,7 +46,7 @@ void ResetTune(Tune& tune);
 /// First painted cell of a track, 0 if there is none.
 [[nodiscard]] std::int32_t FindFirstPainted(const Track& track, std::int32_t songCells);
 
-/// Clears what a new tempo makes stale in the shared song.
+/// Invalidates what a new tempo makes stale in the shared song.
 void InvalidateForTempo();
 
 } // namespace sprout

@@ -10,7 +10,8 @@ namespace sprout {
 /// only.
 void Tell(std::string_view title, std::string_view text);
 
-/// How many messages `Tell` has shown since the program began: two counts tell whether there was one between them.
+/// The number of messages that `Tell` has shown since the program started: compare two counts to see if one appeared in
+/// between.
 [[nodiscard]] std::size_t MessagesTold();
 
 } // namespace sprout

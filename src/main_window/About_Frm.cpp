@@ -25,14 +25,14 @@ constexpr int kLinesLeft = kAboutSproutLeft + kAboutSproutSide + 18;
 constexpr int kLinesTop = 18;
 constexpr int kLinesApart = 6;
 constexpr int kRightMargin = 24;
-constexpr int kLinkInset = 6; ///< its border and padding
+constexpr int kLinkInset = 6; ///< border and padding of the link
 
 constexpr std::string_view kLinkStyle =
     "QPushButton { color: #1F6FA8; background: transparent; border: 2px solid transparent; border-radius: 6px;"
     " padding: 2px 4px; text-align: left; text-decoration: underline; }"
     "QPushButton:hover { color: #1F6B34; } QPushButton:focus { border-color: #1F6FA8; }";
 
-/// A key held down opens its page once.
+/// Holding a key down opens the page only once.
 class LinkButton : public QPushButton {
 public:
     using QPushButton::QPushButton;

@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// Tells what the program is, its date and where its makers are found.
+/// Shows what the program is, its date and where to find its makers.
 class About_Frm : public BandedForm {
     Q_OBJECT
 

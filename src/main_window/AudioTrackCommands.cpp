@@ -50,13 +50,13 @@ void TellTooLong()
     ShowMessage("This file is too long.", "Use less then 2 minutes audio.", "Load wav file failed.");
 }
 
-/// The wave of a file, or of its head alone, if it can become a track; else the reason was told.
+/// The wave of a file, or only its header, if it can become a track; else the reason was shown.
 std::optional<WaveData> ReadTrackWave(const fs::path& file, ReadSamples samples)
 {
     std::optional<WaveData> wave = TryLoadWaveFile(file, samples);
     if (!wave)
         return std::nullopt;
-    // Heads lie, and a file may change between the two readings.
+    // Headers lie, and a file may change between the two reads.
     if (wave->Length < 1) {
         ShowMessage("No wave Data found in file");
         return std::nullopt;
@@ -80,7 +80,7 @@ std::optional<WaveData> LoadTrackWave(const fs::path& file)
     return ReadTrackWave(sound.WaveFile, ReadSamples::Yes);
 }
 
-/// The file of this machine that was dropped; else the reason was told.
+/// The dropped local file; if there is none, the reason was shown.
 std::optional<fs::path> DroppedFile(const QList<QUrl>& places)
 {
     std::error_code error;
@@ -110,7 +110,7 @@ AudioTrackCommands::AudioTrackCommands(TrackCanvas& trackCanvas, AudioWindows au
 void AudioTrackCommands::TrackAddRecBtn()
 {
     ShowHint({});
-    // A tune that sounds because the pointer rests on it must not be heard in a recording.
+    // A tune that plays because the pointer is over it must not be heard in a recording.
     canvas.HideTrackButtons();
     Guarded([this] {
         switch (AskAudioType()) {
@@ -150,7 +150,7 @@ void AudioTrackCommands::AddFile(const fs::path& file)
         if (std::optional<WaveData> wave = LoadTrackWave(file))
             AddTrack(std::move(*wave));
     } catch (const WorkStopped&) {
-        return; // the song is as it was
+        return; // the song is unchanged
     }
 }
 

@@ -14,19 +14,19 @@
 
 namespace sprout {
 
-/// Longest sound that becomes an audio track from a file, in seconds.
+/// Maximum length of a sound file that becomes an audio track, in seconds.
 inline constexpr std::int32_t kLongestAudioSeconds = 120;
 
 /// The windows that the commands open.
 struct AudioWindows {
-    /// Records; nothing where that was cancelled or could not begin, which the window has told.
+    /// Records a sound; nothing if that was cancelled or could not start, which the window has already reported.
     std::function<std::optional<WaveData>()> Record;
     /// Edits the sound of a track. Returns whether it was changed.
     std::function<bool(std::int32_t track)> Edit;
 };
 
-/// The commands that bring sound of the child's own into a song: recorded, from a file, or dropped on the window; and
-/// the one that edits it. Each tells its own failures and leaves the song as it was then; none throws.
+/// The commands that add the child's own sound to a song (recorded, from a file, or dropped on the window) and the one
+/// that edits it. Each reports its own failures and then leaves the song unchanged; none throws.
 class AudioTrackCommands {
 public:
     AudioTrackCommands(TrackCanvas& canvas, AudioWindows windows);
@@ -34,7 +34,7 @@ public:
     void TrackAddRecBtn();
     void TrackAudioBtn();
 
-    /// Adds the sound file that was dropped on the window, with the checks and messages of one that is chosen.
+    /// Adds the sound file that was dropped on the window, with the same checks and messages as for a chosen file.
     void AddDropped(const QList<QUrl>& places);
 
 private:

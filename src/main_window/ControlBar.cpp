@@ -34,15 +34,15 @@ int WidthOfText(const QLabel& label, const QString& text)
     return label.fontMetrics().horizontalAdvance(text) + 2;
 }
 
-/// How much deeper a small text has to be set than a large one, each in the middle of its label's height, so that both
-/// stand on one line.
+/// How much lower a small text must be than a large one to share its baseline, if each is in the middle of its label's
+/// height.
 int BaselineBelow(const QLabel& large, const QLabel& small)
 {
     const auto belowMiddle = [](const QFontMetrics& font) { return (font.ascent() - font.descent()) / 2.0; };
     return qRound(belowMiddle(large.fontMetrics()) - belowMiddle(small.fontMetrics()));
 }
 
-/// Shows a text, cut to the label's width; the whole of it is there for a screen reader.
+/// Shows a text, cut to the label's width; screen readers get all of it.
 void ShowCut(QLabel& label, const QString& text)
 {
     label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
@@ -154,7 +154,7 @@ void ControlBar::PlaceSongInTwoLines(const QRect& room)
     const int lineHeight = room.height() * 11 / 20;
     const int captionWidth = CaptionWidth(*titleCaption);
     const int textWidth = room.width() - captionWidth;
-    // What hangs below the line reaches into the gap between the rows.
+    // Descenders reach into the gap between the rows.
     const int authorHeight = room.height() - lineHeight + kBelowTheLine;
     for (QLabel* label : {titleCaption, authorCaption, authorText})
         label->show();

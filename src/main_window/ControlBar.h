@@ -15,27 +15,27 @@ namespace sprout {
 class HintWatcher;
 class TempoBar;
 
-/// `ControlFramePic`: the tools, the song's title and author, and its tempo. As high as its width asks for.
+/// `ControlFramePic`: the tools, the song's title and author, and its tempo. Its height depends on its width.
 class ControlBar : public QWidget {
     Q_OBJECT
 
 public:
-    /// email: whether the bar has room for its button.
+    /// email: whether the bar has space for the email button.
     ControlBar(QWidget* parent, HintWatcher& watcher, EmailTool email);
 
-    /// Takes the button of a tool.
+    /// Adds a tool's button.
     void AddTool(BarTool tool, ImageButton& button);
 
-    /// Height that the bar needs in a width.
+    /// The height that the bar needs at a given width.
     [[nodiscard]] int HeightFor(int width) const;
 
     void ShowSong(std::string_view title, std::string_view author);
     void UpdateTempoSliderValue();
 
 Q_SIGNALS:
-    /// The title or the author was clicked twice.
+    /// The title or the author was double-clicked.
     void SongTitleDoubleClicked();
-    /// The user has given the song another tempo.
+    /// The user changed the song's tempo.
     void TempoChanged();
 
 protected:

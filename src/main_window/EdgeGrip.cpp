@@ -62,7 +62,7 @@ void EdgeGrip::mousePressEvent(QMouseEvent* event)
 
 void EdgeGrip::mouseMoveEvent(QMouseEvent* event)
 {
-    // Not at the press already: the desktop would hold the edge to the pointer where the button is up before it hears.
+    // Not at the press: the desktop would keep the edge at the pointer if the button is released before it hears of it.
     if (dragging && DesktopPlacesWindows() && window()->windowHandle())
         dragging = !window()->windowHandle()->startSystemResize(SystemEdges(held));
     if (!dragging)

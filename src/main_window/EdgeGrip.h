@@ -8,14 +8,14 @@
 
 namespace sprout {
 
-/// An edge or a corner of a window without a system frame; dragging it resizes the window. Nothing is drawn.
+/// An invisible edge or corner of a window without a system frame; dragging it resizes the window.
 class EdgeGrip : public QWidget {
     Q_OBJECT
 
 public:
     EdgeGrip(QWidget* window, const WindowEdges& edges);
 
-    /// Takes its place in the window's present size.
+    /// Moves to its place for the window's current size.
     void Place();
 
 protected:

@@ -49,7 +49,7 @@ constexpr int kFrameWidth = 6;
 constexpr int kWindowIconSide = 64;
 constexpr std::string_view kPlaceSection = "MainWindow";
 
-/// A vine at a lower corner.
+/// A vine in a lower corner.
 class CornerVine : public QWidget {
 public:
     CornerVine(QWidget* parent, const char* name) : QWidget(parent) { setObjectName(QString::fromLatin1(name)); }
@@ -62,7 +62,7 @@ protected:
     }
 };
 
-/// A button row whose hint is the table's.
+/// A button row with the hint from the table.
 ButtonRow WithHint(const char* name, const char* spokenName, Plate plate = Plate::Tool)
 {
     const std::string_view hint = MainWindowHint(name);
@@ -74,14 +74,14 @@ void ShutSound()
     try {
         SetSoundDriver(false);
     } catch (const std::exception&) {
-        // A driver that cannot be shut goes with the program.
+        // A driver that cannot be closed ends with the program.
     }
     ReleasePlayer();
 }
 
 } // namespace
 
-/// A button of the window, in the order of the table; the canvas adds its own behind them.
+/// A button of the window, in table order; the canvas adds its own after them.
 struct MainFrm::Row {
     const char* name;
     const char* spokenName;
@@ -139,7 +139,7 @@ MainFrm::MainFrm(TransportCommands& transport)
     SetTabOrder();
     processPic = new ProcessPic(this);
     ChooseTool(Tool::Brush);
-    // Space plays and the arrows scroll until another control is chosen.
+    // Space plays and the arrows scroll until another control gets the focus.
     findChild<QWidget*>(QStringLiteral("TrackPic"))->setFocus();
     TakePlaceFromSettings();
     ShowWindowButtons();
@@ -155,7 +155,7 @@ void MainFrm::MakeButtons()
     DrawPicturesAhead();
 }
 
-/// While the rest of the window is made, the pictures that it is first painted with are drawn.
+/// Draws the pictures for the first paint while the rest of the window is built.
 void MainFrm::DrawPicturesAhead()
 {
     std::vector<WantedArtwork> wanted;
@@ -177,7 +177,7 @@ void MainFrm::MakeTitleBand()
 
 void MainFrm::MakeControlBar()
 {
-    // A school may want no mail to leave its machines.
+    // A school may not want its machines to send mail.
     const EmailTool email = IsSetToOne("HideEmail") ? EmailTool::Hidden : EmailTool::Shown;
     controlBar = new ControlBar(this, watcher, email);
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
@@ -245,9 +245,9 @@ void MainFrm::MakeShortcuts()
 
 void MainFrm::SetTabOrder()
 {
-    // The buttons were made in the order of the table. What belongs to the song comes as it lies in the window, from
-    // the bar's tools to the tracks' titles; the window's own buttons follow. The tracks themselves, which have the
-    // focus at first, are the last: the first step of the tabulator leads to the first button.
+    // The buttons were created in table order. The song's controls follow in the order of the window, from the bar's
+    // tools to the tracks' titles; then the window's own buttons. The tracks, which have the initial focus, are last:
+    // the first Tab leads to the first button.
     const char* before = "DemoBtn";
     for (const char* name : {"TempoPrtImg", "Label5", "Label1", "TrackTitlePic", "TrackAddBtn", "TrackAddRecBtn",
                              "CloseImgBtn", "MaximizeImgBtn", "MinimizeImgBtn", "RestoreImgBtn", "TrackPic"}) {
@@ -265,7 +265,7 @@ void MainFrm::WatchBackground()
 
 bool MainFrm::eventFilter(QObject* watched, QEvent* event)
 {
-    // Qt passes on a move that a child does not want; only one over the ground itself counts.
+    // Qt passes on moves that a child ignores; only a move over the background itself counts.
     if (event->type() == QEvent::MouseMove &&
         !static_cast<QWidget*>(watched)->childAt(static_cast<QMouseEvent*>(event)->position().toPoint()))
         canvas->HideTrackButtons();
@@ -300,7 +300,7 @@ void MainFrm::dragEnterEvent(QDragEnterEvent* event)
 void MainFrm::dropEvent(QDropEvent* event)
 {
     event->acceptProposedAction();
-    // Where it was dragged from waits for the end of this event, which a message would hold up.
+    // The drag source waits for the end of this event; a message would block it.
     QTimer::singleShot(0, this, [this, places = event->mimeData()->urls()] { audioTrackCommands->AddDropped(places); });
 }
 
@@ -378,7 +378,7 @@ void MainFrm::paintEvent(QPaintEvent* /*event*/)
     painter.fillRect(rect(), kPaper);
     if (isMaximized())
         return;
-    painter.setPen(QPen(kBark, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin)); // the default join cuts the corners
+    painter.setPen(QPen(kBark, 2, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin)); // the default join clips corners
     painter.drawRect(rect().adjusted(1, 1, -1, -1));
 }
 
@@ -396,7 +396,7 @@ void MainFrm::resizeEvent(QResizeEvent* event)
         part->setVisible(hasStatus);
     titleBand->setGeometry(0, 0, width(), kTitleBandHeight);
     controlBar->setGeometry(kFrameWidth, barTop, inner, barHeight);
-    // The canvas draws itself anew in its new size.
+    // The canvas redraws itself at its new size.
     const int canvasBottom = hasStatus ? statusTop - kFrameWidth : height() - kFrameWidth;
     canvas->setGeometry(kFrameWidth, canvasTop, inner, canvasBottom - canvasTop);
     statusBar->setGeometry(cornerSide + kFrameWidth, statusTop, width() - 2 * (cornerSide + kFrameWidth),
@@ -416,7 +416,7 @@ void MainFrm::changeEvent(QEvent* event)
 
 void MainFrm::closeEvent(QCloseEvent* event)
 {
-    // The question of a minimized window would not be seen.
+    // A minimized window's question would be invisible.
     if (isMinimized() && Shared().Song.SongChanged)
         setWindowState(windowState() & ~Qt::WindowMinimized);
     if (!songCommands.ConfirmSongSave()) {

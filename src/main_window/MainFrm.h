@@ -24,35 +24,35 @@ class TrackCanvas;
 class TrackCommands;
 class TransportCommands;
 
-/// The main window: title band, control bar, track canvas and status line, in a frame of its own. It stands where the
-/// settings file tells, shows the shared song, and turns clicks and keys into commands.
+/// The main window: title band, control bar, track canvas and status line, in a frame of its own. It takes its position
+/// from the settings file, shows the shared song, and turns clicks and keys into commands.
 class MainFrm : public QWidget {
     Q_OBJECT
 
 public:
-    /// transport: the player's display; it outlives the window.
+    /// transport: the display of the player; it outlives the window.
     explicit MainFrm(TransportCommands& transport);
 
     void DrawTracksAll();
     void UpdateTempoSliderValue();
-    /// Shows title and author, in the caption too.
+    /// Shows title and author, also in the caption.
     void UpdateSongTitle();
 
-    /// count: sound devices that were found.
+    /// count: number of sound devices found.
     void ShowSoundDevices(int count);
 
-    /// Stores the window's place and lets the player go, as a close does, but asks nothing: for a program that the
-    /// system ends.
+    /// Stores the window's position and releases the player, as closing does, but asks nothing: for when the system
+    /// ends the program.
     void Unload();
 
-    /// The working sign, `ProcessPic`.
+    /// The busy sign, `ProcessPic`.
     [[nodiscard]] ProcessPic& WorkingSign() { return *processPic; }
     void EnableTuneNotFilledTimer();
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    /// The window is closed, its place is stored and the player is gone: the program ends.
+    /// The window is closed, its position is stored and the player is released: the program ends.
     void Unloaded();
 
 protected:

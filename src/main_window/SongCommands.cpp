@@ -34,7 +34,7 @@ void ClearHint()
     ShowHint({});
 }
 
-/// Runs a command; what goes wrong in it is told behind `firstLine`.
+/// Runs a command; errors are reported after `firstLine`.
 template <typename Command>
 void RunCommand(std::string_view firstLine, Command command)
 {
@@ -45,7 +45,7 @@ void RunCommand(std::string_view firstLine, Command command)
     }
 }
 
-/// Tells the window that a song is being chosen, as long as it lives.
+/// Tells the window that a song is being chosen while this object lives.
 class OpeningMark {
 public:
     explicit OpeningMark(const std::function<void(bool)>& tellOpening) : tell(tellOpening) { tell(true); }
@@ -57,7 +57,7 @@ private:
     const std::function<void(bool)>& tell;
 };
 
-/// Brings the old title back unless the song was saved under the new one.
+/// Restores the old title unless the song was saved under the new one.
 class TitleUntilSaved {
 public:
     explicit TitleUntilSaved(std::string newTitle) : oldTitle(Shared().Song.SongTitle)
@@ -108,7 +108,7 @@ bool SongCommands::SaveUnderTitle()
 {
     SongState& song = Shared().Song;
     const fs::path place = PlaceOfSong(song.SongTitle);
-    // Another song's file, or a title that no file can have: the user chooses.
+    // If it is another song's file, or if no file can have that title, the user chooses.
     if (place.empty() || !MayReplaceUnasked(place))
         return SaveUnderChosenName();
     OpenSaveClass().Save_Song(place);

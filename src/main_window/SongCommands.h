@@ -8,22 +8,22 @@
 
 namespace sprout {
 
-/// What the commands on the song ask of the main window.
+/// What the song commands need from the main window.
 struct SongCommandCalls {
-    std::function<void()> ShowNewSong;         ///< draws all that tells of the song
+    std::function<void()> ShowNewSong;         ///< redraws everything that depends on the song
     std::function<void()> UpdateSongTitle;     ///< shows title and author
-    std::function<void(bool opening)> Opening; ///< a song is being chosen, or no more
+    std::function<void(bool opening)> Opening; ///< whether a song is being chosen
 };
 
-/// The commands on the song as a whole. Each clears the hint and tells its own failures; none throws.
+/// The commands on the whole song. Each clears the hint and reports its own failures; none throws.
 class SongCommands {
 public:
     /// window: the parent of the questions.
     SongCommands(QWidget& window, SongCommandCalls calls);
 
-    /// Asks about unsaved changes and saves the song if that is wanted; under a name that the user chooses, where its
-    /// title would take another file's place. Returns false where what is under way must not go on: a question was
-    /// cancelled, or the song was not saved. What went wrong is told behind `errorLine`.
+    /// Asks about unsaved changes and saves the song if the user wants that. The user chooses another name if saving
+    /// under the title would overwrite another file. Returns false if the current action must not continue because a
+    /// question was cancelled or the song was not saved. Errors are reported after `errorLine`.
     [[nodiscard]] bool ConfirmSongSave(std::string_view errorLine = kErrorSaving);
 
     void NewBtn();
@@ -33,7 +33,7 @@ public:
 
 private:
     void OpenChosenSong();
-    /// Both return whether the song was saved; they throw where it cannot be.
+    /// Both return whether the song was saved; they throw if saving fails.
     [[nodiscard]] bool SaveUnderTitle();
     [[nodiscard]] bool SaveUnderChosenName();
 

@@ -16,7 +16,7 @@ namespace {
 constexpr int kInset = 12;
 constexpr int kPartsApart = 10;
 constexpr int kCellWidthPx = 36;
-constexpr int kSoundWidthPx = 152; // the longest of the player's states
+constexpr int kSoundWidthPx = 152; // fits the player's longest state
 constexpr int kSoundNarrowPx = 110;
 constexpr int kNarrowBar = 640;
 constexpr int kTwoLinesFontPx = 12;
@@ -25,7 +25,7 @@ constexpr int kFrameCorner = 9;
 constexpr const char* kDeviceFailed = "Device Failed:";
 constexpr QColor kFailureRed{0xFF, 0x00, 0x00};
 
-/// Where the first of two lines ends: behind the last word that fits.
+/// Where the first of two lines ends: after the last word that fits.
 qsizetype FirstLineLength(const QString& text, const QFont& font, int width)
 {
     QTextLayout layout(text, font);
@@ -56,7 +56,7 @@ void HintLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setFont(small);
     const qsizetype firstLength = FirstLineLength(text(), small, width());
     const QString second = painter.fontMetrics().elidedText(text().mid(firstLength).trimmed(), Qt::ElideRight, width());
-    // Closer than the font's own lines, which leave room that these letters do not need.
+    // Closer than the font's own line spacing, which has room that these letters do not need.
     const int baseline = (height() - kTwoLinesApart + painter.fontMetrics().xHeight()) / 2 + 1;
     painter.drawText(0, baseline, text().left(firstLength));
     painter.drawText(0, baseline + kTwoLinesApart, second);
@@ -70,7 +70,7 @@ SoundLabel::SoundLabel(QWidget* parent) : QLabel(parent)
 
 void SoundLabel::paintEvent(QPaintEvent* /*event*/)
 {
-    // The red goes with the words: once a device is there, the player's states stand in their own colour.
+    // The red depends on the text: once there is a device, the player's states have their own colour.
     const bool failed = text() == QLatin1String(kDeviceFailed);
     QFont shownFont = font();
     shownFont.setBold(failed);

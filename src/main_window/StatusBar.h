@@ -13,7 +13,7 @@ class HintWatcher;
 /// Height of the status frame.
 inline constexpr int kStatusBarHeight = 32;
 
-/// `StatusLbl`: the hint of what the pointer is over, on one line or, where that is too short, on two narrow ones.
+/// `StatusLbl`: the hint for what is under the pointer, on one line or, if it is too long, on two narrow lines.
 class HintLabel : public QLabel {
     Q_OBJECT
 
@@ -24,7 +24,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// `SoundStatusLbl`: the state of the player, in bold red while it tells that there is no device.
+/// `SoundStatusLbl`: the player's state, in bold red while it reports that there is no device.
 class SoundLabel : public QLabel {
     Q_OBJECT
 
@@ -35,7 +35,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/// `StatusFramePic`: the hint, the cell under the pointer and the state of the player.
+/// `StatusFramePic`: the hint, the cell under the pointer and the player's state.
 class StatusBar : public QWidget {
     Q_OBJECT
 
@@ -44,10 +44,10 @@ public:
 
     [[nodiscard]] QLabel& SoundStatusLbl() { return *soundStatusLbl; }
 
-    /// The text of `TrackMouPosLbl`.
+    /// Sets the text of `TrackMouPosLbl`.
     void ShowCell(std::string_view cell);
 
-    /// Tells whether there is a sound device.
+    /// Shows whether there is a sound device.
     void ShowSoundDevices(int count);
 
 protected:

@@ -25,12 +25,12 @@ namespace {
 // At these widths one percent is one pixel.
 constexpr QSize kTempoSlotSize{184, 28};
 constexpr QSize kTempoPointerSize{34, 40};
-constexpr QSize kPointerPicture{30, 35}; // inside the frame of the focus
+constexpr QSize kPointerPicture{30, 35}; // inside the focus frame
 constexpr int kTempoBarHeight = 40;
 constexpr int kLabelGap = 8;
 constexpr int kLabelBelowHeight = 16;
-constexpr int kHeightWithLabelsBelow = 53; // the labels lie over the frame of the pointer's focus, not over its picture
-constexpr int kStemEnd = 4;                // sticks out behind the outer knots
+constexpr int kHeightWithLabelsBelow = 53; // the labels cover the pointer's focus frame, but not its picture
+constexpr int kStemEnd = 4;                // sticks out beyond the outer knots
 constexpr std::int32_t kLowestPercent = 50;
 constexpr std::int32_t kHighestPercent = 200;
 constexpr std::int32_t kUsualPercent = 100;
@@ -39,13 +39,13 @@ constexpr int kShortestSlot = 60;
 constexpr double kKnot = 7; // half its height
 constexpr double kUsualKnot = 10;
 
-/// Width of a label that holds `text` at most.
+/// Width of a label whose longest text is `text`.
 int WidestWidth(const char* text)
 {
     return QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(text)) + 2;
 }
 
-/// The slot: a stem with a knot under the pointer's middle at each half of the reference tempo.
+/// The slot: a stem with a knot under the pointer's middle at every half of the reference tempo.
 class TempoSlot : public QWidget {
 public:
     TempoSlot(QWidget* parent, std::function<void(double x)> onPress) : QWidget(parent), press(std::move(onPress))
@@ -148,7 +148,7 @@ void TempoBar::PlaceLabelsBelow(int widthPx)
 {
     const int slotWidth = std::min(widthPx, kTempoSlotSize.width());
     SetSlotWidth(slotWidth);
-    // The labels stand under the ends of the stem.
+    // The labels are under the ends of the stem.
     const int left = kTempoPointerSize.width() / 2 - kStemEnd;
     const int labelsWidth = slotWidth - 2 * left;
     const int top = kHeightWithLabelsBelow - kLabelBelowHeight;

@@ -22,12 +22,12 @@ public:
     /// Shows the song's tempo.
     void UpdateTempoSliderValue();
 
-    /// Takes no more than a width: in a narrow one the slot is shorter and the labels stand below it where the height
-    /// allows that, else beside it, one above the other.
+    /// Fits the bar into a space. In a narrow one the slot is shorter, and the labels go below it if the height allows,
+    /// else beside it, one above the other.
     void FitRoom(QSize room);
 
 Q_SIGNALS:
-    /// The song has another tempo, so that its cells last differently.
+    /// The song's tempo changed, and with it the duration of its cells.
     void TempoChanged();
 
 private:
@@ -36,7 +36,7 @@ private:
     void PlaceLabelsStacked(int widthPx, int secondsWidth);
     void SetSlotWidth(int widthPx);
     void ShowLabels(std::int32_t percent, std::int32_t tempo);
-    /// The user's choice.
+    /// Takes the user's choice.
     void TakePercent(std::int32_t percent);
 
     QWidget* TempoSliderImg;

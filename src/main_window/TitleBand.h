@@ -14,15 +14,15 @@ namespace sprout {
 /// Height of the main window's title band.
 inline constexpr int kTitleBandHeight = 40;
 
-/// `MainTitlePic`: the leaf band with the window's name and its buttons. Dragging it moves the window, a double click
-/// maximises or restores it.
+/// `MainTitlePic`: the leaf-green band with the window's name and its buttons. Dragging it moves the window,
+/// double-clicking maximises or restores it.
 class TitleBand : public QWidget {
     Q_OBJECT
 
 public:
     explicit TitleBand(QWidget* parent);
 
-    /// Takes a window button; the first one stands at the right. Hidden buttons leave no gap.
+    /// Adds a window button; the first one is the rightmost. Hidden buttons leave no gap.
     void AddWindowButton(ImageButton& button);
     void SetCaption(const QString& caption);
     void PlaceParts();

@@ -20,7 +20,7 @@ namespace sprout {
 
 namespace {
 
-/// Gives a bar its range and its place, of which no event tells, and returns the place.
+/// Sets a scroll bar's range and value without signals, and returns the value.
 std::int32_t FitScrollBar(QScrollBar& bar, const ScrollRange& range, std::int32_t first, int pageStep)
 {
     const QSignalBlocker quiet(bar);
@@ -118,7 +118,7 @@ void TrackCanvas::FitScrollBars()
     const SongState& song = Shared().Song;
     const int rowsInView = (view.trackPicHeight - kFirstRowTop) / kRowHeight;
     const int cellsInView = view.trackPicWidth / kCellWidth;
-    // A range that became smaller takes the view along.
+    // If a range shrinks, the view moves with it.
     view.FirstTrack = FitScrollBar(*vScroll, TrackScrollRange(view, song.TrackCount), view.FirstTrack, rowsInView - 1);
     view.FirstCell =
         FitScrollBar(*hScroll, CellScrollRange(view, song.SongCells), view.FirstCell, cellsInView - kCellsOfAGroup);
@@ -150,7 +150,7 @@ void TrackCanvas::FollowMarker(std::int32_t cell)
     followed = FollowedEdges::Right;
 }
 
-/// A scroll that is not the user's.
+/// Scrolls without the user.
 void TrackCanvas::ScrollToCell(std::int32_t cell)
 {
     if (cell == view.FirstCell)

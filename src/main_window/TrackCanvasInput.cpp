@@ -65,7 +65,7 @@ struct ArrowKey {
 constexpr std::array kArrowKeys{ArrowKey{Qt::Key_Up, -1, 0}, ArrowKey{Qt::Key_Down, 1, 0},
                                 ArrowKey{Qt::Key_Left, 0, -1}, ArrowKey{Qt::Key_Right, 0, 1}};
 
-/// The row of a table for a key, nullptr if there is none.
+/// The table row for a key, nullptr if there is none.
 template <class Row, std::size_t size>
 const Row* RowOfKey(const std::array<Row, size>& table, int key)
 {
@@ -119,7 +119,7 @@ void TrackCanvas::Move(QPoint at)
         at.setY(stroke.DownY());
     const TrackHit hit = HitTest(at);
     ShowPointer(PointerOverTracks(view, hit, stroke.Dragging() ? stroke.DragTrack() : 0));
-    // Also without a hit: a drag beyond the edge goes on with the cell that lies there.
+    // Even without a hit: a drag beyond the edge continues with the cell there.
     if (stroke.MoveTo(Shared().Song, tool, hit.cell))
         DrawStroke();
 }
@@ -212,7 +212,7 @@ void TrackCanvas::MoveKeyCell(std::int32_t cells)
 {
     const SongState& song = Shared().Song;
     keyTrack = std::clamp(keyTrack, 0, song.TrackCount);
-    keyCell = std::clamp(keyCell + cells, 1, std::max(song.SongCells, 1)); // a file may hold a song of no cells
+    keyCell = std::clamp(keyCell + cells, 1, std::max(song.SongCells, 1)); // a file may contain a song without cells
     ShowKeyCell();
     TellKeyCell();
 }
@@ -236,7 +236,7 @@ void TrackCanvas::PressKeyCell()
 
 void TrackCanvas::TellKeyCell()
 {
-    // The name of what has the focus is read out when it changes.
+    // Screen readers read the name of the focused widget when it changes.
     trackPic->setAccessibleName(QtText(CellInWords(Shared().Song, keyTrack, keyCell)));
 }
 
@@ -264,7 +264,7 @@ void TrackCanvas::keyPressEvent(QKeyEvent* event)
 {
     const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (presses || event->key() == Qt::Key_Space) {
-        if (event->isAutoRepeat()) // held down it would start and stop by turns
+        if (event->isAutoRepeat()) // a held key would start and stop in turn
             return;
         return presses ? PressKeyCell() : Ask(calls.PlayOrStop);
     }

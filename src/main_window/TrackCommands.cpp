@@ -46,9 +46,9 @@ void TrackCommands::TrackAddBtn()
     Guarded([this] {
         StopPlay(canvas);
         const std::int32_t track = AddMusicTrack();
-        // The new row blinks behind the tune window: the buttons below the rows make room for it now.
+        // The new row blinks behind the tune window, so the buttons below the rows make room now.
         canvas.ShowAddedTrack();
-        // Whatever becomes of the window, a track without a tune does not stay.
+        // Whatever happens in the window, a track without a tune is removed.
         Guarded([this, track] { ChooseTuneOf(track); });
         EndAddMusicTrack();
         canvas.DrawTracksAll();
@@ -83,7 +83,7 @@ void TrackCommands::TrackTuneBtn()
         StopPlay(canvas);
         const bool changed = ChooseTuneOf(track);
         Tune& tune = At(Shared().Song.Tracks, track).TrackTune;
-        if (changed) { // which stays true where the cycle cannot be rendered
+        if (changed) { // stays true if the cycle cannot be rendered
             tune.TuneWaveValid = false;
             MarkTuneChosen(track);
             canvas.DrawTrackOne(track);
@@ -115,7 +115,7 @@ void TrackCommands::TuneNotFilledTimerTick()
 {
     if (songIsOpening)
         return;
-    // Once on, the timer stays on: the next song or track may have no tune again.
+    // Once started, the timer keeps running: the next song or track may have no tune again.
     const auto blink = [this] {
         for (const std::int32_t track : BlinkTunesNotFilled())
             canvas.DrawTrackOne(track);

@@ -12,13 +12,13 @@
 
 namespace sprout {
 
-/// The commands on music tracks: add, delete, choose a tune; and the blinking of tracks without one
+/// The commands on music tracks: add, delete, choose a tune; also the blinking of tracks without a tune
 /// (`TuneNotFilledTimer`).
 class TrackCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// What lets the user choose a tune; see `Windows::OpenTuneWindow`.
+    /// Lets the user choose a tune; see `Windows::OpenTuneWindow`.
     using TuneChooser = std::function<bool(Tune& tune, bool& newFlag)>;
 
     TrackCommands(
@@ -30,7 +30,7 @@ public:
     void TrackTuneBtn();
 
     void EnableTuneNotFilledTimer();
-    /// While a song is being chosen, nothing blinks.
+    /// Nothing blinks while a song is being chosen.
     void SetOpening(bool opening);
 
 private:

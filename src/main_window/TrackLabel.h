@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// A small heading of the title strip that answers a click, or Enter and the space bar.
+/// A small heading of the title strip that reacts to a click, Enter and Space.
 class TrackLabel : public QLabel {
     Q_OBJECT
 

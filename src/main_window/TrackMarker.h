@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// A thin shape that lies on the painting surface and moves without drawing the surface anew. The mouse goes through
-/// it. Hidden at first.
+/// A thin shape on top of the painting surface that moves without redrawing it. It ignores the mouse and is hidden at
+/// first.
 class TrackMarker : public QWidget {
     Q_OBJECT
 

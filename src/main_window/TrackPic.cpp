@@ -28,7 +28,7 @@ bool AnyCellIsPainted(const Track& track)
            std::find(track.Painted.begin() + 1, track.Painted.end(), kPaintedCell) != track.Painted.end();
 }
 
-/// Moves a marker and shows it, or hides it where it has no place.
+/// Moves a marker and shows it, or hides it if it has no position.
 void PlaceMarker(TrackMarker& marker, const std::optional<QPoint>& at)
 {
     if (at)
@@ -38,7 +38,7 @@ void PlaceMarker(TrackMarker& marker, const std::optional<QPoint>& at)
 
 } // namespace
 
-/// The outline of the cell cursor: light beside dark, so that one of them stands out on every ground.
+/// The outline of the cell cursor: light next to dark, so that one of them is visible on any background.
 class CellOutline : public QWidget {
 public:
     explicit CellOutline(QWidget* parent) : QWidget(parent)
@@ -245,7 +245,7 @@ void TrackPic::focusInEvent(QFocusEvent* event)
 
 void TrackPic::focusOutEvent(QFocusEvent* event)
 {
-    // A stroke that keys draw would not see them released.
+    // A stroke drawn by keys would miss their release.
     Q_EMIT Released();
     TrackSurface::focusOutEvent(event);
     ShowCellOutline();

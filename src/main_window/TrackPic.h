@@ -17,28 +17,28 @@ namespace sprout {
 class CellOutline;
 class TrackMarker;
 
-/// The painting surface: the time band and the painted runs of the tracks, and on them the cell cursor (`CellCursor`),
-/// which has an outline (`CellOutline`) while the surface has the focus, and the two markers of the play position
-/// (`PlayPosImg0`, `PlayPosImg1`). It draws and tells of the mouse; what a press means is decided elsewhere.
+/// The painting surface: the time band and the tracks' painted runs. On top are the cell cursor (`CellCursor`), with an
+/// outline (`CellOutline`) while the surface has the focus, and the two play position markers (`PlayPosImg0`,
+/// `PlayPosImg1`). It draws and reports mouse events; others decide what a press means.
 class TrackPic : public TrackSurface {
     Q_OBJECT
 
 public:
-    /// view: what is scrolled into it; outlives the surface.
+    /// view: what is scrolled into view; it outlives the surface.
     TrackPic(const TrackView& view, QWidget* parent);
 
-    /// Empties the surface and draws all of it.
+    /// Clears the surface and draws all of it.
     void DrawAll(const SongState& song);
-    /// Draws a track's row, if it is in view and does not show just that already. A surface that is still to be drawn
-    /// whole is left as it is.
+    /// Draws a track's row if it is in view and its picture has changed. Does nothing if the whole surface is waiting
+    /// for a redraw.
     void DrawRow(const SongState& song, std::int32_t track);
-    /// Draws the time band, if it does not show just that already.
+    /// Draws the time band if its picture has changed.
     void DrawTop(const SongState& song);
 
-    /// Places the cell cursor; nothing hides it.
+    /// Places the cell cursor, or hides it if there is none.
     void ShowCellCursor(const std::optional<CellCursor>& cursor);
     void ShowPlayIndicator(const PlayIndicator& indicator);
-    /// Gives the markers the height of the surface.
+    /// Sets the markers' height to that of the surface.
     void FitMarkers();
 
 Q_SIGNALS:
@@ -57,7 +57,7 @@ protected:
     void PaintOver(QPainter& painter) override;
 
 private:
-    /// All that a row's picture depends on, besides view and pixel ratio.
+    /// All that a row's picture depends on, apart from view and pixel ratio.
     struct RowLook {
         std::int32_t trackType = 0;
         std::int32_t tile = 0;
@@ -75,7 +75,7 @@ private:
 
     void ShowCellOutline();
     void Clear();
-    /// Draws a meadow on the lower edge of the emptied surface, if the rows leave room for it.
+    /// Draws a meadow at the lower edge of the cleared surface, if there is room below the rows.
     void PaintMeadow(std::int32_t trackCount);
     [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
     void PaintRow(const RowLook& look, std::int32_t rowTop);

@@ -7,7 +7,7 @@ namespace sprout {
 
 namespace {
 
-/// The background of a row by the kind of its track. name: with a place for the kind's number.
+/// The background of a row by track type. name: contains a placeholder for the type's number.
 WantedArtwork RowArtwork(const QString& name, std::int32_t trackType, qreal pixelRatio)
 {
     const int kind = trackType == static_cast<std::int32_t>(TrackKind::Audio) ? 1 : 0;

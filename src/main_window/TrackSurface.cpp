@@ -48,7 +48,7 @@ void SurfacePainter::Lay(const QRect& place, const QPixmap& artwork)
 
 void SurfacePainter::LayBitmap(const QRect& place, const QImage& bitmap)
 {
-    // Whole pixels stay sharp when they are repeated; at a broken ratio they would differ in size.
+    // Repeated whole pixels stay sharp; at a fractional ratio they would differ in size.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
     painter.drawImage(DeviceRect(place), bitmap);
 }
@@ -74,7 +74,7 @@ TrackSurface::TrackSurface(const char* name, const QColor& backColour, QWidget* 
 
 QSize TrackSurface::DevicePixels() const
 {
-    // A surface without room can be drawn on all the same.
+    // Even a surface without any room can be drawn on.
     return (QSizeF(size()) * devicePixelRatioF()).toSize().expandedTo(QSize(1, 1));
 }
 
@@ -96,7 +96,7 @@ void TrackSurface::Forget()
 
 void TrackSurface::Changed(const QRect& part)
 {
-    // What is drawn in a paint event is shown by it.
+    // A paint event shows what is drawn in it.
     if (!isPainting)
         update(part);
 }
@@ -125,7 +125,7 @@ void TrackSurface::PaintKept(const QRegion& region)
     if (IsStale() && Redraw)
         Redraw();
     QPainter painter(this);
-    // Without a scale the picture is copied and not resampled.
+    // Without a scale the picture is copied, not resampled.
     painter.scale(1 / ratio, 1 / ratio);
     for (const QRect& part : region) {
         const QRectF device(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
@@ -165,7 +165,7 @@ void TrackSurface::UpdateFocusRing()
         update();
 }
 
-// A widget draws itself anew with every change of the focus; the surfaces are large and show it rarely.
+// By default a widget redraws on every focus change; these surfaces are large and rarely show the focus.
 void TrackSurface::focusInEvent(QFocusEvent* event)
 {
     const auto reason = event->reason();

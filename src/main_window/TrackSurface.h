@@ -11,20 +11,20 @@
 
 namespace sprout {
 
-/// Draws on a picture that is kept in device pixels, or on the screen. Places are logical pixels; every edge falls on a
-/// whole device pixel, so that neighbours meet without a seam at any pixel ratio.
+/// Draws on a picture that is kept in device pixels, or on the screen. Positions are in logical pixels; every edge
+/// falls on a whole device pixel, so neighbours meet without a seam at any pixel ratio.
 class SurfacePainter {
 public:
     SurfacePainter(QPaintDevice& device, qreal pixelRatio);
 
     void Fill(const QRect& place, const QColor& colour);
-    /// Fills `place` with copies of an artwork that was drawn for the pixel ratio, from its top left on.
+    /// Fills `place` with copies of an artwork drawn for the pixel ratio, starting at the top left.
     void Tile(const QRect& place, const QPixmap& artwork);
-    /// Lays the top left of an artwork, cut to `place`.
+    /// Draws the top left of an artwork, cropped to `place`.
     void Lay(const QRect& place, const QPixmap& artwork);
-    /// Lays a small bitmap, each of its pixels as large as a logical one.
+    /// Draws a small bitmap; each of its pixels is as large as a logical pixel.
     void LayBitmap(const QRect& place, const QImage& bitmap);
-    /// Writes `text` with its left edge at x and the top of its line at `top`.
+    /// Draws `text` with its left edge at x and the top of its line at `top`.
     void Write(qreal x, int top, const QFont& font, const QString& text);
 
 private:
@@ -34,21 +34,21 @@ private:
     qreal ratio;
 };
 
-/// A widget that keeps what was drawn on it, and copies it to the screen.
+/// A widget that keeps what was drawn on it and copies it to the screen.
 class TrackSurface : public QWidget {
     Q_OBJECT
 
 public:
-    /// name: of the control. back: the colour of an empty surface.
+    /// name: of the control. back: background colour of an empty surface.
     TrackSurface(const char* name, const QColor& back, QWidget* parent);
 
-    /// Empties the surface, at its size and the screen's pixel ratio of this moment.
+    /// Clears the surface, at its current size and the screen's current pixel ratio.
     void Clear();
-    /// Everything is drawn anew when the surface has to be shown next.
+    /// Makes the surface redraw everything when it is next shown.
     void Forget();
 
-    /// Draws everything. Called where the surface has to be shown and was not drawn at its size and the screen's pixel
-    /// ratio, or was forgotten.
+    /// Draws everything. Called when the surface must be shown but was forgotten, or was drawn at another size or pixel
+    /// ratio.
     std::function<void()> Redraw;
 
 protected:
@@ -57,29 +57,29 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
-    /// Draws what lies on the kept picture for the moment. Nothing by default.
+    /// Draws temporary things over the kept picture. Does nothing by default.
     virtual void PaintOver(QPainter& painter);
 
-    /// The focus came by key, so that it has to be shown.
+    /// The focus came from the keyboard and must be shown.
     [[nodiscard]] bool FocusByKey() const { return focusByKey; }
     [[nodiscard]] QColor BackColour() const { return back; }
     [[nodiscard]] qreal PixelRatio() const { return ratio; }
-    /// What is drawn now is thrown away: `Redraw` comes before it is seen.
+    /// True if drawing now is pointless, because `Redraw` runs before the result is seen.
     [[nodiscard]] bool IsStale() const;
-    /// A painter on the kept picture; whoever draws calls `Changed` for it.
+    /// Returns a painter for the kept picture; call `Changed` after drawing.
     [[nodiscard]] SurfacePainter Painter();
 
     void Changed(const QRect& part);
 
-    /// Frames `place` light beside dark, so that the frame stands out on every ground.
+    /// Frames `place` light next to dark, so that the frame is visible on any background.
     static void PaintFocusRing(QPainter& painter, const QRect& place);
 
 private:
     [[nodiscard]] QSize DevicePixels() const;
-    /// Draws on the screen itself, for the first time that the surface is shown: the memory of a large picture takes
-    /// several ms, and the window can be there before. The picture that is kept follows at once.
+    /// Draws directly on the screen the first time the surface is shown. Allocating a large picture takes several ms,
+    /// and this way the window can appear earlier. The kept picture follows at once.
     void PaintStraight();
-    /// Copies what is kept, drawn anew where it has to be.
+    /// Copies the kept picture to the screen, after a redraw if needed.
     void PaintKept(const QRegion& region);
     void UpdateFocusRing();
 

@@ -38,7 +38,7 @@ constexpr int kTopLblHeight = 22;
 constexpr std::int32_t kThreeDigits = 100;
 constexpr int kSmallNumberPixels = 12;
 
-/// A place in a row where a button floats, for choosing by key.
+/// Where a button floats in a row, for choosing it by key.
 struct StripColumn {
     std::int32_t x;
     std::int32_t y; ///< below the row's top
@@ -46,7 +46,7 @@ struct StripColumn {
 constexpr std::array kStripColumns{StripColumn{40, 22}, StripColumn{77, 22}, StripColumn{118, 22}};
 constexpr std::int32_t kPlayColumn = 2;
 
-/// Runs what the window gave for a button, if it gave something.
+/// Runs the window's function for a button, if there is one.
 void RunCall(const std::function<void()>& call)
 {
     if (call)
@@ -64,7 +64,7 @@ TrackTitlePic::TrackTitlePic(const TrackView& shownView, ButtonScheme& scheme, c
       watcher(this),
       chosenColumn(kPlayColumn)
 {
-    // The pointer leaves the focus where it is, so that the space bar goes on playing and stopping.
+    // The pointer does not move the focus, so Space keeps playing and stopping.
     setFocusPolicy(Qt::TabFocus);
     SetSpokenRole(*this, QAccessible::ToolBar);
     setAccessibleName(tr("Buttons of the tracks"));
@@ -113,7 +113,7 @@ void TrackTitlePic::MakeButtons()
         &AddStripButton({"TrackAddBtn", "Add music track", hint("TrackAddBtn")}, kAddButtonSize, calls.TrackAddBtn);
     deleteBtn = &AddStripButton({"TrackDeleteBtn", "Delete track", hint("TrackDeleteBtn"), Plate::Title},
                                 kDeleteButtonPicSize, calls.TrackDeleteBtn);
-    // By keyboard they are reached through the strip.
+    // The keyboard reaches them through the strip.
     for (ImageButton* button : {audioBtn, deleteBtn, playBtn}) {
         button->setFocusPolicy(Qt::NoFocus);
         button->hide();
@@ -199,7 +199,7 @@ void TrackTitlePic::PaintRow(const Track& track, std::int32_t number)
 void TrackTitlePic::PlaceAddButtons(std::int32_t trackCount)
 {
     const int top = AddButtonsTop(view, trackCount);
-    chosenRow = std::min(chosenRow, trackCount); // the frame of a track that is gone goes to the last one
+    chosenRow = std::min(chosenRow, trackCount); // the frame of a deleted track goes to the last one
     addBtn->move(kAddButtonLeft, top);
     addRecBtn->move(kAddButtonLeft + kAddButtonsApart, top);
     topLbl->move(kAddButtonLeft, top + kAddButtonSize.height() + kTopLblGap);
@@ -280,13 +280,13 @@ void TrackTitlePic::LeaveRows()
 void TrackTitlePic::mousePressEvent(QMouseEvent* event)
 {
     TrackSurface::mousePressEvent(event);
-    // After a scroll the pointer can rest on a row without a move; the press shows what it would press.
+    // After a scroll the pointer can be over a row without a move; the press shows what it would press.
     HoverAt(event->position().toPoint().x(), event->position().toPoint().y());
 }
 
 void TrackTitlePic::mouseMoveEvent(QMouseEvent* event)
 {
-    // A button passes on its moves, which are none over the strip.
+    // A button passes on its moves, which are not over the strip itself.
     if (childAt(event->position().toPoint()))
         return;
     ShowHint({});

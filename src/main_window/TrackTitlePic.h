@@ -18,38 +18,38 @@ namespace sprout {
 struct TrackCanvasCalls;
 class TrackTuneBtn;
 
-/// Breadth of the title strip.
+/// Width of the title strip.
 inline constexpr int kTitleStripWidth = 140;
 
-/// The title strip: number, picture, delete and play picture of each track, the buttons that float over them while the
-/// pointer rests there, and the buttons that add a track.
+/// The title strip: each track's number, picture, delete and play pictures, the buttons that float over them while the
+/// pointer is there, and the buttons that add a track.
 ///
-/// By keyboard the strip is one stop. Up and down choose a row, left and right one of its buttons, which then floats as
-/// if the pointer were there; Enter and the space bar press it, Escape lets it go.
+/// For the keyboard the strip is one tab stop. Up and down choose a row, left and right one of its buttons, which then
+/// floats as if the pointer were there. Enter and Space press it, Escape leaves it.
 class TrackTitlePic : public TrackSurface {
     Q_OBJECT
 
 public:
-    /// view: what is scrolled into it; view and calls outlive the strip. buttons: the window's, takes those of the
-    /// strip.
+    /// view: what is scrolled into view; view and calls outlive the strip. buttons: the window's; the strip adds its
+    /// own.
     TrackTitlePic(const TrackView& view, ButtonScheme& buttons, const TrackCanvasCalls& calls, QWidget* parent);
 
-    /// Empties the strip and draws all of it.
+    /// Clears the strip and draws all of it.
     void DrawAll(const SongState& song);
-    /// Draws a track's row, if it is in view and does not show just that already. A strip that is still to be drawn
-    /// whole is left as it is.
+    /// Draws a track's row if it is in view and its picture has changed. Does nothing if the whole strip is waiting for
+    /// a redraw.
     void DrawRow(const SongState& song, std::int32_t track);
-    /// Puts the buttons that add a track, and their label, below the last row.
+    /// Places the buttons that add a track, and their label, below the last row.
     void PlaceAddButtons(std::int32_t trackCount);
     void HideTrackButtons();
 
-    /// Track under the pointer, or chosen by key; 0 for none.
+    /// The track under the pointer or chosen by key; 0 for none.
     [[nodiscard]] std::int32_t HoverTrack() const { return hoverTrack; }
     [[nodiscard]] bool TrackTuneBtnVisible() const;
     [[nodiscard]] bool TrackAudioBtnVisible() const;
 
 Q_SIGNALS:
-    /// A row was chosen by key and has to be scrolled into view.
+    /// The user chose a row by key, and it must be scrolled into view.
     void RowChosen(int track);
 
 protected:
@@ -94,7 +94,7 @@ private:
     std::vector<std::optional<RowLook>> drawnRows; ///< by row, from the top
     std::int32_t hoverTrack = 0;
     bool overlayShown = false;
-    std::int32_t chosenRow = 0; ///< track whose row was chosen by key, 0 for none
+    std::int32_t chosenRow = 0; ///< the track whose row was chosen by key, 0 for none
     std::int32_t chosenColumn = 0;
     TrackTuneBtn* tuneBtn = nullptr;
     ImageButton* audioBtn = nullptr;

@@ -10,17 +10,17 @@
 
 namespace sprout {
 
-/// The button that floats over the picture of a music track: the tune's own raised picture in a frame.
+/// The button that floats over a music track's picture: the tune's own raised picture in a frame.
 class TrackTuneBtn : public QAbstractButton {
     Q_OBJECT
 
 public:
     explicit TrackTuneBtn(QWidget* parent);
 
-    /// Takes the tune's picture and its name, which the tip shows.
+    /// Sets the tune's picture and its name, which the tool tip shows.
     void SetTune(const Tune& tune);
 
-    /// Called for every move of the mouse over the button.
+    /// Called whenever the mouse moves over the button.
     std::function<void()> Hovered;
 
 protected:

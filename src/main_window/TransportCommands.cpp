@@ -28,7 +28,7 @@ constexpr std::chrono::milliseconds kSongPosInterval{40};
 constexpr std::chrono::milliseconds kTitlePlayInterval{1000};
 constexpr std::int32_t kMainWindow = 1;
 
-/// Shows the message of a check; returns whether the command goes on.
+/// Shows the message of a check; returns whether the command continues.
 bool Passes(const PlayCheck& check)
 {
     if (!check.message.line1.empty())
@@ -36,7 +36,7 @@ bool Passes(const PlayCheck& check)
     return check.goesOn;
 }
 
-/// A track of the shared song, none for other numbers.
+/// A track of the shared song, nullptr for other numbers.
 Track* TrackOfNumber(std::int32_t number)
 {
     SongState& song = Shared().Song;
@@ -78,7 +78,7 @@ int PlayHoveredAudio(const Track* track)
     return AudioHoverInterval(track->TrackAudio);
 }
 
-/// A stroke renders nothing, so that the brush never waits.
+/// A stroke renders nothing, so the brush never waits.
 int PlayBrushedTune(const Tune& tune)
 {
     if (tune.TuneWaveValid)
@@ -88,7 +88,7 @@ int PlayBrushedTune(const Tune& tune)
     return TuneInterval(tune);
 }
 
-/// Runs a tick. One that fails ends its timer and tells of it, so that it does not fail again and again.
+/// Runs a tick. If it fails, its timer stops and the error is shown once instead of again and again.
 template <class Operation>
 void GuardedTick(QTimer& timer, Operation operation)
 {
@@ -199,7 +199,7 @@ void TransportCommands::PlayFromCell(const WaveData& wave, std::int32_t origin, 
         Play(part->Wave, track, part->StartCell);
 }
 
-/// Once: the status line goes on to say that there is no sound.
+/// Only once: after that the status line keeps saying that there is no sound.
 void TransportCommands::TellNoSound()
 {
     if (std::exchange(noSoundTold, true))
@@ -262,7 +262,7 @@ void TransportCommands::PlayPosTimerTick()
 void TransportCommands::MovePlayIndicator()
 {
     const PlayModState& play = PlayShared();
-    // A sound that has just ended has no place any more: its marker waits where it stands for the next tick.
+    // A sound that has just ended has no position; its marker stays where it is until the next tick.
     if (!canvas || play.PlayKind != PlayKind::SongOrTrack || play.PlayState == PlayState::Stopped)
         return;
     if (const std::optional<std::int32_t> cell = MarkerCell(play))
@@ -282,7 +282,7 @@ void TransportCommands::TrackTitlePlayTimerTick()
     if (titlePlayBusy || PlayShared().PlayingTrack != 0 || !canvas)
         return;
     const QScopedValueRollback busy(titlePlayBusy, true);
-    // The new interval counts from the end of a render, not from its beginning.
+    // The new interval starts at the end of a render, not at its beginning.
     GuardedTick(trackTitlePlayTimer, [this] { trackTitlePlayTimer.start(PlayHovered()); });
 }
 

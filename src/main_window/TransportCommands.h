@@ -14,21 +14,22 @@
 
 namespace sprout {
 
-/// Hears the song, a track or a tune, and follows what plays: the transport commands of the main window with their
-/// timers (`PlayPosTimer`, `TrackTitlePlayTimer`). It is what the player shows its plays on.
+/// The main window's transport commands: they play the song, a track or a tune, and follow what plays with their timers
+/// (`PlayPosTimer`, `TrackTitlePlayTimer`). The player shows its state here.
 class TransportCommands : public QObject, public PlayDisplay {
     Q_OBJECT
 
 public:
     explicit TransportCommands(QObject* parent);
 
-    /// The canvas whose markers and rows it follows, and the label of the player's state. Called once, before all else.
+    /// Sets the canvas whose markers and rows it follows, and the player's state label. Call it once, before anything
+    /// else.
     void SetWindow(TrackCanvas& canvas, QLabel& soundStatusLbl);
 
     void PlayAllBtn();
     void PlayStopBtn();
     void TrackPlayBtn();
-    /// `PlayAllBtn`, or `PlayStopBtn` while something plays.
+    /// Acts as `PlayAllBtn`, or as `PlayStopBtn` while something plays.
     void PlayOrStop();
     void PlaySongFrom(std::int32_t cell);
     void PlayTrackFrom(std::int32_t track, std::int32_t cell);
@@ -40,7 +41,7 @@ public:
     void UpdateThisTune() override;
 
 private:
-    /// Plays a wave of the song or of a track that starts at a cell.
+    /// Plays a wave of the song or of a track, starting at a cell.
     void Play(const WaveData& wave, std::int32_t track, std::int32_t startCell);
     void PlayFromCell(const WaveData& wave, std::int32_t origin, std::int32_t track, std::int32_t cell);
     void TellNoSound();
@@ -50,7 +51,7 @@ private:
     void PlayIndicatorOff();
 
     void TrackTitlePlayTimerTick();
-    /// What sounds now; returns the milliseconds until the next look.
+    /// Plays what is hovered or brushed; returns the milliseconds until the next check.
     [[nodiscard]] int PlayHovered();
 
     QPointer<TrackCanvas> canvas;
@@ -58,7 +59,7 @@ private:
     QTimer playPosTimer;
     QTimer trackTitlePlayTimer;
     bool noSoundTold = false;
-    bool titlePlayBusy = false; ///< a message or a long render inside a tick lets others come
+    bool titlePlayBusy = false; ///< a message or a long render inside a tick lets other ticks in
 };
 
 } // namespace sprout

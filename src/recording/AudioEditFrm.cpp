@@ -26,7 +26,7 @@ namespace sprout {
 
 namespace {
 
-// Places of the picture are multiples of 4, so that they are whole device pixels at 125, 150 and 175 percent too.
+// Positions in the picture are multiples of 4, which are whole device pixels at 125, 150 and 175 percent too.
 constexpr int kEditMargin = 16;
 constexpr int kWavePicTop = 14;
 constexpr int kPlaceUnit = 4;
@@ -44,7 +44,7 @@ constexpr int kToolGap = 6;
 constexpr int kGroupGap = 20;
 constexpr int kAnswerGap = 12;
 constexpr int kAnswerHeight = 44;
-// The frame lies around the picture, so that no pixel of the sound is hidden.
+// The frame lies around the picture and hides no pixel of the sound.
 constexpr QMargins kPictureFrame{2, 2, 2, 2};
 constexpr QMargins kFocusFrame{4, 4, 4, 4};
 constexpr int kScrollMost = 100;
@@ -53,7 +53,7 @@ constexpr int kScrollPage = 10;
 constexpr std::string_view kWavePicHint = "Your recorded sound looks like this";
 constexpr std::string_view kHScrollHint = "Slide this to see the other parts of your sound";
 
-/// Qt turns the arrow keys of scroll bars around, which have the focus nowhere else.
+/// Qt reverses the arrow keys of scroll bars. No other scroll bar can have the focus.
 class WaveScrollBar : public QScrollBar {
 public:
     explicit WaveScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent) {}
@@ -70,14 +70,14 @@ protected:
     }
 };
 
-/// The one that is open, to be found by the timer of the player.
+/// The open editor, which the player's timer looks up.
 QPointer<AudioEditFrm>& OpenEditor()
 {
     static QPointer<AudioEditFrm> editor;
     return editor;
 }
 
-/// An audio track of the song, none for other numbers.
+/// An audio track of the song, or null for any other number.
 Track* AudioTrack(std::int32_t number)
 {
     SongState& song = Shared().Song;
@@ -93,7 +93,7 @@ WaveData SoundToEdit(std::int32_t number)
     return track && track->TrackAudio.Length >= 1 ? track->TrackAudio : WaveData();
 }
 
-/// All below the picture and above it.
+/// Everything above and below the picture.
 constexpr int HeightAround(int toolSide)
 {
     return kBandHeight + kWavePicTop + kHScrollGap + kHScrollHeight + kSelectLblGap + kSelectLblHeight + toolSide +
@@ -107,7 +107,7 @@ int PictureSide(int room, int least, int most)
 
 } // namespace
 
-/// A button and what its click does.
+/// A button and its click command.
 struct AudioEditFrm::CommandRow {
     ButtonRow button;
     std::function<void()> command;
@@ -131,7 +131,7 @@ AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent)
 
 AudioEditFrm::~AudioEditFrm()
 {
-    // A window that is still shown is hidden last, and its picture then tells that the focus is gone.
+    // A window that is still shown is hidden last; its picture would then report that it lost the focus.
     wavePic->disconnect(this);
 }
 
@@ -158,7 +158,7 @@ void AudioEditFrm::MakeScroll()
     HScroll->setRange(0, kScrollMost);
     HScroll->setPageStep(kScrollPage);
     HScroll->setFocusPolicy(Qt::TabFocus);
-    HScroll->setTracking(false); // a drag of the thumb counts once, when it is let go
+    HScroll->setTracking(false); // a drag of the thumb counts once, on release
     HScroll->setStyleSheet(QStringLiteral("QScrollBar:focus { border: 2px solid #1F6FA8; border-radius: 9px; }"
                                           "QScrollBar::handle:focus { border-radius: 6px; }"));
     Watcher().Watch(*HScroll, kHScrollHint);
@@ -167,7 +167,7 @@ void AudioEditFrm::MakeScroll()
 
 void AudioEditFrm::MakeButtons()
 {
-    // The first one is the one that Enter presses.
+    // Enter presses the first one.
     const std::array rows{
         CommandRow{{"OkBtn", "OK", "Ok button, use it to keep the sound as it is now", Plate::Word, kDeepLeaf},
                    [this] { OkBtn(); }},
@@ -275,7 +275,7 @@ void AudioEditFrm::ShowSelection()
     static_cast<void>(HasSelection());
 }
 
-/// Whether there is a selection to edit; `SelectOkLbl` tells how to make one where there is none.
+/// Whether there is a selection to edit; if not, `SelectOkLbl` tells how to make one.
 bool AudioEditFrm::HasSelection()
 {
     const bool valid = SelectionIsValid(view, editWave.Length);
@@ -406,7 +406,7 @@ void AudioEditFrm::paintEvent(QPaintEvent* event)
 void AudioEditFrm::keyPressEvent(QKeyEvent* event)
 {
     const auto run = [event](auto command) {
-        if (!event->isAutoRepeat()) // held down it would start the sound again and again
+        if (!event->isAutoRepeat()) // holding the key would restart the sound again and again
             Guarded(command);
     };
     switch (event->key()) {

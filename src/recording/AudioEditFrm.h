@@ -15,9 +15,9 @@ namespace sprout {
 
 class WavePic;
 
-/// The small editor of one audio track's sound. What is edited is a copy, which `OkBtn` writes back to the track.
+/// The small editor of one audio track's sound. It edits a copy, which `OkBtn` writes back to the track.
 ///
-/// It is made for each opening: `UpdateFormWithCurrentTrack`, `ShowModal`, then `TrackWasChanged`.
+/// A new one is made for each opening: `UpdateFormWithCurrentTrack`, `ShowModal`, then `TrackWasChanged`.
 class AudioEditFrm : public BandedForm {
     Q_OBJECT
 
@@ -27,16 +27,16 @@ public:
     AudioEditFrm& operator=(const AudioEditFrm&) = delete;
     ~AudioEditFrm() override;
 
-    /// Loads the sound of a track, the empty wave where it has none, and shows the whole of it. No sample is copied.
+    /// Loads a track's sound, or the empty wave if it has none, and shows all of it. Copies no samples.
     void UpdateFormWithCurrentTrack(std::int32_t track);
 
-    /// Puts the play marker where the sound in play is, out of sight where that is not the sound of this window.
+    /// Moves the play marker to the current place, or out of sight if another sound is playing.
     void UpdatePlayPointer();
 
     /// The window was left with OK.
     bool Ok = false;
 
-    /// The window was left with OK, and the track has another sound now: its row is to be drawn anew.
+    /// The window was left with OK and the track's sound has changed, so its row must be redrawn.
     [[nodiscard]] bool TrackWasChanged() const { return Ok && changed; }
 
     /// Sizes the window for a screen with this much room.
@@ -88,10 +88,10 @@ private:
     WaveDrag drag;
     WaveCursor cursor;
     bool changed = false;
-    bool scrollGuard = false; ///< the program moves `HScroll`
+    bool scrollGuard = false; ///< the program is moving `HScroll`
 };
 
-/// Lets the editor, if it is open, follow the sound in play.
+/// Makes the editor, if it is open, follow the sound that is playing.
 void UpdatePlayPointer();
 
 } // namespace sprout

@@ -33,12 +33,12 @@ constexpr int kCaptureMilliseconds = 40;
 constexpr int kAnimMilliseconds = 120;
 constexpr int kAnimSteps = 5;
 constexpr int kAnimHop = 0;       ///< the step at which the bird hops up
-constexpr int kAnimLand = 3;      ///< the step at which it stands again
-constexpr float kWorthAsking = 2; ///< seconds that nobody loses without a question
+constexpr int kAnimLand = 3;      ///< the step at which it has landed
+constexpr float kWorthAsking = 2; ///< seconds; longer recordings are not discarded without a question
 
 constexpr int kFormWidth = 600;
 constexpr int kFormMargin = 16;
-constexpr QRect kBirdPlace{16, 10, 128, 128}; // places count from the band's lower edge
+constexpr QRect kBirdPlace{16, 10, 128, 128}; // positions count from the band's lower edge
 constexpr QRect kDurationPlace{160, 18, 306, 56};
 constexpr QRect kStatusPlace{160, 80, 306, 52};
 constexpr QRect kLeftMeterPlace{476, 12, 48, 128};
@@ -54,7 +54,7 @@ constexpr QRect kPlayControlPlace{536, 246, 48, 48};
 constexpr int kButtonsTop = 312;
 constexpr int kButtonsGap = 16;
 constexpr int kBelowButtons = 14;
-constexpr int kBesideSource = 56; ///< frame, arrow and air
+constexpr int kBesideSource = 56; ///< frame, arrow and padding
 constexpr int kDurationPixels = 36;
 
 constexpr QSize kVolumePointerSize{34, 40};
@@ -63,7 +63,7 @@ constexpr QSize kVolumePointerPicture{30, 35};
 constexpr const char* kMeterHint = "This should show moving up-down when you sing";
 constexpr const char* kControlHint = "This will open the recording control";
 
-/// A place of the form's body.
+/// A rectangle in the form's body.
 QRect BodyRect(const QRect& place)
 {
     return place.translated(0, kBandHeight);
@@ -93,7 +93,7 @@ Recd_Frm::~Recd_Frm()
     std::error_code error;
     for (const std::filesystem::path& file : {leftFile, rightFile})
         if (filesAreOurs)
-            std::filesystem::remove(file, error); // a voice that could not be loaded stays on no machine
+            std::filesystem::remove(file, error); // a voice that could not be loaded must not stay behind
 }
 
 void Recd_Frm::MakeButtons()
@@ -323,7 +323,7 @@ void Recd_Frm::reject()
 
 bool Recd_Frm::eventFilter(QObject* watched, QEvent* event)
 {
-    // A wheel turned in passing must not record from somewhere else.
+    // An accidental turn of the wheel must not change the source.
     if (watched == MixerRecSrcCmb && event->type() == QEvent::Wheel) {
         event->ignore();
         return true;
@@ -368,7 +368,7 @@ void Recd_Frm::TickAnim()
     animCounter = (animCounter + 1) % kAnimSteps;
 }
 
-/// A list that is filled while the pointer is dragged would take the pointer out of the hand.
+/// Refilling the list during a drag would pull the pointer out of the user's hand.
 void Recd_Frm::FollowSources()
 {
     if (capture.SourceChanges() != sourceChanges && !VolumePrtImg->IsDragged())
@@ -377,7 +377,7 @@ void Recd_Frm::FollowSources()
 
 void Recd_Frm::LoadMixerSources()
 {
-    sourceChanges = capture.SourceChanges(); // first, so that a change behind the list is not missed
+    sourceChanges = capture.SourceChanges(); // before the list, to miss no change after it
     const SourceLines sources = LinesOfSources(capture.ListSources());
     const bool isThere = !sources.Lines.empty();
     selectedSource = sources.SourceIndex;
@@ -391,7 +391,7 @@ void Recd_Frm::LoadMixerSources()
 void Recd_Frm::ShowLines(const SourceLines& sources)
 {
     const QSignalBlocker filling(MixerRecSrcCmb);
-    // An open list stays open where only a volume has changed.
+    // An open list stays open if only a volume has changed.
     if (sources.Lines != lines || lines.empty()) {
         lines = sources.Lines;
         MixerRecSrcCmb->hidePopup();
@@ -404,7 +404,7 @@ void Recd_Frm::ShowLines(const SourceLines& sources)
     MixerRecSrcCmb->setCurrentIndex(lines.empty() ? 0 : sources.Selected);
 }
 
-/// Shows the beginning of a long name, and tells it whole.
+/// Shows the start of a long name; the tooltip has all of it.
 void Recd_Frm::AddLine(const QString& name)
 {
     const int room = MixerRecSrcCmb->width() - kBesideSource;

@@ -19,10 +19,10 @@
 
 namespace sprout {
 
-/// The recording window: shows a capture while it runs, lets its source and volume be chosen, and leaves what was
-/// recorded in the shared arrays of `Recd`. Made for one recording; its end releases the microphone.
+/// The recording window: shows a running capture, lets the user choose its source and volume, and leaves the recording
+/// in the shared arrays of `Recd`. Made for one recording; its destructor releases the microphone.
 ///
-/// To be called in this order: `InitilizeForm`, `InitilizeDriver`, `CaptureStartRemote`.
+/// Call in this order: `InitilizeForm`, `InitilizeDriver`, `CaptureStartRemote`.
 class Recd_Frm : public BandedForm {
     Q_OBJECT
 
@@ -32,15 +32,16 @@ public:
 
     /// Sets the format of the recording and measures the meters.
     void InitilizeForm();
-    /// Opens the microphone; a failure is told, and gives false.
+    /// Opens the microphone. Shows a message and returns false on failure.
     [[nodiscard]] bool InitilizeDriver();
     /// Starts the recording and shows the window modally until it is finished or cancelled.
     void CaptureStartRemote();
 
-    /// After the window has closed: it was finished. Whether something was recorded is told by `Recd().RecdLength`.
+    /// After the window has closed: the recording was finished. `Recd().RecdLength` tells whether anything was
+    /// recorded.
     bool Ok = false;
 
-    /// What Escape and the close box do: cancels, but asks first once there is something to lose.
+    /// What Escape and the close box do: cancels, but asks first if there is something to lose.
     void reject() override;
 
 protected:
@@ -77,9 +78,9 @@ private:
 
     SoundCapture& capture;
     CaptureView view;
-    std::filesystem::path leftFile; ///< empty where nothing was started
+    std::filesystem::path leftFile; ///< empty if nothing was started
     std::filesystem::path rightFile;
-    bool filesAreOurs = false; ///< the capture has handed them over, and they are not loaded yet
+    bool filesAreOurs = false; ///< the capture has handed them over, but they are not loaded yet
     std::vector<SourceLine> lines;
     std::int32_t selectedSource = -1;
     std::uint64_t sourceChanges = 0;

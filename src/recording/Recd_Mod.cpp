@@ -19,14 +19,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// The files' samples are read to their place as they are.
+// The files' samples are read straight into memory.
 static_assert(std::endian::native == std::endian::little);
 
 constexpr std::uint64_t kSampleBytes = sizeof(std::int16_t);
-/// As many as a capture keeps at most; what somebody wrote behind them is no sound.
+/// A capture keeps at most this many; anything after them is not sound.
 constexpr std::uint64_t kMostSamples = (std::uint64_t{1} << 29) - 11;
 
-/// A raw file of one channel; nothing where it is missing or holds no sample.
+/// A raw file of one channel; nothing if it is missing or has no samples.
 class RawFile {
 public:
     static std::optional<RawFile> Open(const fs::path& path)
@@ -38,10 +38,10 @@ public:
         return file.Samples() == 0 ? std::nullopt : std::optional<RawFile>(std::move(file));
     }
 
-    /// As many as the file held when it was opened.
+    /// The number of samples when the file was opened.
     [[nodiscard]] std::uint64_t Samples() const { return std::min(source->Size() / kSampleBytes, kMostSamples); }
 
-    /// Elements 0 to `upperBound`, the first of which are the file's samples; behind its end there is silence.
+    /// Elements 0 to `upperBound`: the file's samples, then silence after its end.
     [[nodiscard]] Channel Read(std::int32_t upperBound) const
     {
         Channel channel = Channel::Unfilled(upperBound);
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<FileSource> source;
 };
 
-/// Clears element 0, which holds nothing in a wave.
+/// Clears element 0, which is unused in a wave.
 Channel AsWaveChannel(Channel channel)
 {
     channel.Change().front() = 0;
@@ -80,7 +80,7 @@ void LoadRecordedFiles(const fs::path& left, const fs::path& right)
         const auto length = static_cast<std::int32_t>(leftFile->Samples() - 1);
         Channel leftSamples;
         Channel rightSamples;
-        // Both at once: a child waits for long recordings.
+        // Both at once: a child is waiting for long recordings.
         ParallelFor(2, [&](std::size_t channel) {
             if (channel == 0)
                 leftSamples = leftFile->Read(length);
@@ -104,7 +104,7 @@ WaveData TakeRecordedWave()
     Channel right = std::exchange(recd.RecdWavR, Channel());
     if (length < 1)
         return wave;
-    // One block for both stays one.
+    // A block shared by both stays shared.
     const bool isOneBlock = left.SharesBlockWith(right);
     if (isOneBlock)
         right = Channel();

@@ -8,10 +8,10 @@
 
 namespace sprout {
 
-/// The sound that was recorded last.
+/// The last recorded sound.
 ///
-/// The arrays run from 0 to `RecdLength`, and element 0 of them is the first sample that was captured. Waves begin at
-/// element 1, so that this one sample is lost when they become a wave; that is wanted.
+/// The arrays run from 0 to `RecdLength`; element 0 is the first captured sample. Waves begin at element 1, so this one
+/// sample is lost when the arrays become a wave. This is intended.
 struct RecdState {
     std::int32_t RecdBits = 16;
     std::int32_t RecdChannels = 2;
@@ -26,13 +26,13 @@ struct RecdState {
 
 /// Fills the shared arrays from the raw files of a capture, 16 bits, low byte first, and deletes both.
 ///
-/// A left file that is missing or shorter than 2 bytes leaves the arrays as they are. A right one that is missing or
-/// shorter than 2 bytes sounds like the left; one that is shorter than the left is silent at its end; what is longer is
-/// not read. Throws `RunTimeError` where a file cannot be read and std::bad_alloc where memory is short; arrays and
-/// files then stay as they are.
+/// If the left file is missing or shorter than 2 bytes, the arrays stay unchanged. If the right one is, the right
+/// channel is a copy of the left. A right file shorter than the left is padded with silence; what is longer is not
+/// read. Throws `RunTimeError` if a file cannot be read and std::bad_alloc if memory runs out; arrays and files then
+/// stay unchanged.
 void LoadRecordedFiles(const std::filesystem::path& left, const std::filesystem::path& right);
 
-/// Hands the shared arrays over as a wave, without copying a sample, and leaves none. `Length` is 0 where nothing was
+/// Hands the shared arrays over as a wave without copying samples, and leaves them empty. `Length` is 0 if nothing was
 /// recorded.
 [[nodiscard]] WaveData TakeRecordedWave();
 

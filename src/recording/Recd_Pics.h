@@ -11,13 +11,13 @@
 
 namespace sprout {
 
-/// A level meter: a bar that rises from its lower edge, a line at the loudest of the last second, and a warning sign
-/// where the sound was too loud. All of it can be read without colour.
+/// A level meter: a bar that rises from the bottom, a line at the loudest peak of the last second, and a warning sign
+/// if the sound was too loud. All of it can be read without colour.
 class LevelMeterPic : public QWidget {
 public:
     using QWidget::QWidget;
 
-    /// Measures the meter by the widget's height, for peaks up to `peakMaximum`.
+    /// Scales the meter to the widget's height, for peaks up to `peakMaximum`.
     void MeasureMeter(std::int32_t peakMaximum);
     void Clear() { ShowLevel({}, kIdleBarColour); }
     /// barColour: 0x00BBGGRR.
@@ -32,7 +32,7 @@ private:
     std::int32_t colour = kIdleBarColour;
 };
 
-/// How much is recorded, on a scale of the recording limit.
+/// How much has been recorded, on a scale up to the recording limit.
 class RecordingProgressPic : public QWidget {
 public:
     using QWidget::QWidget;

@@ -33,13 +33,13 @@ QColor BandColour()
     return colour;
 }
 
-/// Device pixels that a line of one logical pixel is wide.
+/// Width in device pixels of a line that is one logical pixel wide.
 int LineWidth(double ratio)
 {
     return std::max(qRound(ratio), 1);
 }
 
-/// Fills a box with all its edges, of places in logical pixels.
+/// Fills a box including all its edges; positions in logical pixels.
 void FillBox(QPainter& painter, QPointF topLeft, QPointF bottomRight, const QColor& colour, double ratio)
 {
     const int line = LineWidth(ratio);
@@ -164,7 +164,7 @@ void WavePic::PaintPass(QPainter& painter, const std::vector<WavePoint>& points,
         before = place;
     }
     painter.save();
-    // A wide line lies around its points; the pixels that a point stands for lie to its right and below it.
+    // Qt centres a wide line on its points; the pixels of a point lie to its right and below it.
     const int shift = lineWidth / 2;
     painter.translate(QPoint(shift, shift));
     painter.setPen(QPen(ColourOf(colour), lineWidth));
@@ -221,7 +221,7 @@ void WavePic::LetGo()
 
 bool WavePic::eventFilter(QObject* watched, QEvent* event)
 {
-    // A key can open a message while the mouse is down, and the picture would not see it go up.
+    // A key can open a message while the mouse is down; the picture would then miss the release.
     if (event->type() == QEvent::WindowBlocked)
         LetGo();
     return QWidget::eventFilter(watched, event);
@@ -239,7 +239,7 @@ void WavePic::keyPressEvent(QKeyEvent* event)
     const bool isAll = event->matches(QKeySequence::SelectAll);
     if (!move && !isAll)
         return QWidget::keyPressEvent(event);
-    if (mouseDown) // the mouse selects
+    if (mouseDown) // the mouse is selecting
         return;
     if (isAll)
         Q_EMIT AllWanted();

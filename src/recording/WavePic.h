@@ -12,7 +12,7 @@
 
 namespace sprout {
 
-/// A shape of one colour that lies over the picture of a wave and moves without drawing the wave anew. The mouse goes
+/// A shape of one colour that lies over the picture of a wave and moves without redrawing the wave. Mouse events pass
 /// through it.
 class WaveMarker : public QWidget {
     Q_OBJECT
@@ -27,9 +27,8 @@ private:
     QColor colour;
 };
 
-/// The picture of a wave, made in the window that it stays in: it draws what it is told, in the colours of the
-/// settings, and reports mouse and keys. Over it lie a thin selection band (`SelectBandShp`) and a thin play marker
-/// (`PlayPosShp`).
+/// The picture of a wave, created in its final window. It draws what it is given, in the colours of the settings, and
+/// reports mouse and keys. A thin selection band (`SelectBandShp`) and a thin play marker (`PlayPosShp`) lie over it.
 class WavePic : public QWidget {
     Q_OBJECT
 
@@ -39,7 +38,7 @@ public:
     /// Its scale size, in logical pixels.
     [[nodiscard]] WavePicSize ScaleSize() const { return {width(), height()}; }
 
-    /// Shows a drawing from now on.
+    /// Shows this drawing from now on.
     void Show(WaveDrawing newDrawing);
 
     void ShowBand(const WaveBand& band);
@@ -50,22 +49,23 @@ public:
     /// Tells screen readers what is selected.
     void Speak(const QString& selection);
 
-    /// The drawing in device pixels, as it is shown on a screen of a ratio.
+    /// The drawing in device pixels, as shown on a screen of this pixel ratio.
     [[nodiscard]] QImage Draw(double ratio) const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 Q_SIGNALS:
-    // The left mouse button, x in logical pixels. A button that the picture loses while it is held counts as up.
+    // The left mouse button, x in logical pixels. If the picture loses the button while it is held, it counts as
+    // released.
     void Pressed(double x);
     void Moved(double x);
     void Released(double x);
     /// A key that moves the cursor.
     void CursorMoved(sprout::WaveMove move, sprout::WaveKeep keep);
     void AllWanted();
-    /// It got or lost the focus; the frame that shows it is its window's.
+    /// It got or lost the focus; its window draws the focus frame.
     void FocusChanged();
-    /// Its size is another one.
+    /// Its size has changed.
     void Resized();
 
 protected:
@@ -85,11 +85,11 @@ private:
     void PaintPass(QPainter& painter, const std::vector<WavePoint>& points, std::int32_t colour, double ratio) const;
 
     WaveDrawing drawing;
-    QImage picture; ///< of the drawing; made when it is first painted
+    QImage picture; ///< of the drawing; made at the first paint
     WaveMarker* band;
     WaveMarker* marker;
     bool mouseDown = false;
-    double mouseX = 0; ///< where it was last
+    double mouseX = 0; ///< last position
 };
 
 } // namespace sprout

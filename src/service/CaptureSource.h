@@ -10,7 +10,7 @@
 
 namespace sprout {
 
-/// Where the sound of a source goes. The calls come from a thread of the source's, one at a time, and return at once.
+/// Where a source sends its sound. The calls come from a thread of the source, one at a time, and return at once.
 class CaptureSink {
 public:
     CaptureSink() = default;
@@ -18,19 +18,20 @@ public:
     CaptureSink& operator=(const CaptureSink&) = delete;
     virtual ~CaptureSink() = default;
 
-    /// frames: whole ones, 44,100 Hz, 16 bits, low byte first, left and right in turn.
+    /// frames: whole frames, 44,100 Hz, 16 bits, low byte first, left and right interleaved.
     virtual void Take(std::span<const std::byte> frames) = 0;
-    /// frames: how many the source left out.
+    /// frames: how many frames the source left out.
     virtual void TakeHole(std::int64_t frames) = 0;
 };
 
 enum class SourceState {
     Runs,
-    Suspended, ///< by the server or the machine; it may run again
-    Gone       ///< for good
+    Suspended, ///< by the server or the machine; it may resume
+    Gone       ///< permanently
 };
 
-/// One way to the machine's microphones. All calls come from the interface thread, and none waits longer than a second.
+/// One way to access the machine's microphones. All calls come from the interface thread; none waits longer than a
+/// second.
 class CaptureSource {
 public:
     CaptureSource() = default;
@@ -38,11 +39,11 @@ public:
     CaptureSource& operator=(const CaptureSource&) = delete;
     virtual ~CaptureSource() = default;
 
-    /// Opens the source, from which frames go to `sink` until the close.
+    /// Opens the source, which sends frames to `sink` until it is closed.
     [[nodiscard]] virtual CaptureOpening Open(CaptureSink& sink) = 0;
-    /// No frame comes any more when it returns.
+    /// No more frames come once it returns.
     virtual void Close() = 0;
-    /// Of what is open; `Gone` where nothing is.
+    /// The state of the open source; `Gone` if nothing is open.
     [[nodiscard]] virtual SourceState State() = 0;
 
     // See `SoundCapture`.

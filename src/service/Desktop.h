@@ -8,10 +8,10 @@
 
 namespace sprout {
 
-/// The side of the sound that a desktop's control shows.
+/// Which side of the sound a desktop's control shows.
 enum class SoundControl { Play, Record };
 
-/// What the user's desktop knows.
+/// What the user's desktop provides.
 class Desktop {
 public:
     Desktop() = default;
@@ -19,12 +19,12 @@ public:
     Desktop& operator=(const Desktop&) = delete;
     virtual ~Desktop() = default;
 
-    /// The user's documents folder, made if it is missing; empty where there is none and none can be made.
+    /// The user's documents folder, created if missing; empty if there is none and none can be created.
     [[nodiscard]] virtual std::filesystem::path DocumentsFolder() const = 0;
-    /// Hands a file or an address to the program that the desktop opens it with. Errors are ignored.
+    /// Opens a file or an address with the desktop's program for it. Errors are ignored.
     virtual void OpenWithShell(std::string_view target) = 0;
-    /// Starts the desktop's own control of volumes, or its sound settings. Returns nothing where one was started, else
-    /// the names of the programs that were looked for, at least one.
+    /// Starts the desktop's own volume control or its sound settings. Returns an empty list if one was started,
+    /// otherwise the names of the programs that were looked for, at least one.
     [[nodiscard]] virtual std::vector<std::string> OpenSoundControl(SoundControl control) = 0;
 };
 

@@ -10,10 +10,10 @@ namespace sprout {
 
 using FftBin = std::complex<float>;
 
-/// Fourier transform of real blocks of one size; holds scratch memory, so one thread at a time may use it.
+/// Fourier transform of real blocks of one size. It holds scratch memory, so only one thread at a time may use it.
 class Fft {
 public:
-    /// size: even, best a product of 2, 3 and 5. Throws std::bad_alloc.
+    /// size: even, preferably a product of 2, 3 and 5. Throws std::bad_alloc.
     explicit Fft(std::int64_t size);
     ~Fft();
     Fft(const Fft&) = delete;
@@ -25,7 +25,7 @@ public:
     /// block: Size() samples; spectrum: Bins() bins, from 0 to half the rate, not scaled.
     void Forward(std::span<const float> block, std::span<FftBin> spectrum);
 
-    /// The reverse, Size() times too large: forward and inverse together multiply by Size().
+    /// The inverse, Size() times too large: forward and inverse together multiply by Size().
     void Inverse(std::span<const FftBin> spectrum, std::span<float> block);
 
 private:
@@ -34,7 +34,7 @@ private:
     std::unique_ptr<Plans> plans;
 };
 
-/// The calling thread's transform of that size, made at its first use. Throws std::bad_alloc.
+/// The calling thread's transform of that size, created at its first use. Throws std::bad_alloc.
 [[nodiscard]] Fft& FftOfSize(std::int64_t size);
 
 } // namespace sprout

@@ -6,14 +6,14 @@
 
 namespace sprout {
 
-/// Memory of the machine in bytes, and its load in percent.
+/// The machine's memory in bytes, and its load in percent.
 struct MemoryStatus {
     std::uint64_t TotalBytes = 0;
     std::uint64_t AvailableBytes = 0;
     int LoadPercent = 0;
 };
 
-/// Facts about the machine that the start-up asks for. Nothing here throws; a fact that cannot be had is 0 or empty.
+/// Facts about the machine that start-up needs. Nothing here throws; a fact that is unavailable is 0 or empty.
 class Machine {
 public:
     Machine() = default;
@@ -22,11 +22,11 @@ public:
     virtual ~Machine() = default;
 
     [[nodiscard]] virtual MemoryStatus GlobalMemoryStatus() const = 0;
-    /// The folder for temporary files as the machine names it; may be missing.
+    /// The machine's folder for temporary files; may be missing.
     [[nodiscard]] virtual std::filesystem::path TempPath() const = 0;
     /// The running program's file.
     [[nodiscard]] virtual std::filesystem::path ExecutablePath() const = 0;
-    /// Bytes that the user may still fill on the volume of `path`; 0 if the question fails.
+    /// Bytes that the user may still fill on the volume of `path`; 0 if this is unknown.
     [[nodiscard]] virtual std::uint64_t FreeBytes(const std::filesystem::path& path) const = 0;
 };
 

@@ -23,11 +23,10 @@ public:
     Mail& operator=(const Mail&) = delete;
     virtual ~Mail() = default;
 
-    /// Opens the mail program with a new message. True where it was started with the attachment; whether the message is
-    /// ever sent, nobody learns. False where there is no mail program or it does not start.
+    /// Opens the mail program with a new message. Returns true if it was started with the attachment; nobody learns
+    /// whether the message is ever sent. Returns false if there is no mail program or it does not start.
     ///
-    /// Takes up to some seconds, on any thread, and ends at once when `stop` asks for it; the result then tells
-    /// nothing.
+    /// May take some seconds, on any thread, and ends at once when `stop` asks for it; the result then means nothing.
     [[nodiscard]] virtual bool HandOver(const MailMessage& message, std::stop_token stop) = 0;
 };
 

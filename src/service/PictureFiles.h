@@ -17,11 +17,11 @@ public:
     PictureFiles& operator=(const PictureFiles&) = delete;
     virtual ~PictureFiles() = default;
 
-    /// Reads a picture in its own size. Throws `RunTimeError` for a file that is no picture, is cut short or claims
-    /// more than 4096 pixels a side; nothing is allocated for such a claim.
+    /// Reads a picture in its original size. Throws `RunTimeError` if the file is not a picture, is cut short or claims
+    /// more than 4096 pixels per side; nothing is allocated for such a claim.
     [[nodiscard]] virtual Picture LoadPicture(const std::filesystem::path& path) const = 0;
 
-    /// The bytes of a .bmp of 24 bits a pixel. Throws `RunTimeError` for a picture without pixels.
+    /// The bytes of a .bmp with 24 bits per pixel. Throws `RunTimeError` for a picture without pixels.
     [[nodiscard]] virtual std::vector<std::byte> EncodeBmp(const Picture& picture) const = 0;
 
     /// Writes such a file. Throws `RunTimeError` on failure.

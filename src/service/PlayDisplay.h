@@ -6,7 +6,7 @@
 
 namespace sprout {
 
-/// What the windows show of a play. All calls come from the interface thread.
+/// What the windows show during playback. All calls come from the interface thread.
 class PlayDisplay {
 public:
     PlayDisplay() = default;
@@ -14,13 +14,13 @@ public:
     PlayDisplay& operator=(const PlayDisplay&) = delete;
     virtual ~PlayDisplay() = default;
 
-    /// A number above 0 that stands for the main window.
+    /// A number above 0 that identifies the main window.
     [[nodiscard]] virtual std::int32_t MainWindowHandle() const = 0;
-    /// Puts a text on the main window's `SoundStatusLbl`.
+    /// Shows a text in the main window's `SoundStatusLbl`.
     virtual void ShowSoundStatus(std::string_view text) = 0;
-    /// Switches on the main window's `PlayPosTimer`, which follows the play and finds its end.
+    /// Starts the main window's `PlayPosTimer`, which follows the playback and detects its end.
     virtual void EnablePlayPosTimer() = 0;
-    /// Lets the tune window show the tune whose sound has begun.
+    /// Makes the tune window show the tune whose sound has begun.
     virtual void UpdateThisTune() = 0;
 };
 

@@ -5,8 +5,7 @@
 
 namespace sprout {
 
-/// Folders that nobody but the user can look into, with names that nobody can guess, for files that other programs of
-/// the user read.
+/// Folders that only the user can look into, with unguessable names, for files that the user's other programs read.
 class PrivateFolders {
 public:
     PrivateFolders() = default;
@@ -14,15 +13,15 @@ public:
     PrivateFolders& operator=(const PrivateFolders&) = delete;
     virtual ~PrivateFolders() = default;
 
-    /// Makes an empty folder in `parent`. The running program holds it, so that no other one takes it for a left one.
-    /// Throws `RunTimeError` with a plain sentence where it cannot be made.
+    /// Creates an empty folder in `parent`. The running program locks it, so other programs do not take it for a
+    /// leftover. Throws `RunTimeError` with a plain sentence if it cannot be created.
     [[nodiscard]] virtual std::filesystem::path MakeFolder(const std::filesystem::path& parent) = 0;
 
-    /// Deletes a folder that this object made, with the files in it. What cannot be deleted stays, without a word.
+    /// Deletes a folder that this object created, with the files in it. What cannot be deleted stays, silently.
     virtual void DeleteFolder(const std::filesystem::path& folder) = 0;
 
-    /// Deletes the folders in `parent` that earlier runs left more than a day ago, with the files in them. May go on
-    /// behind the call. What cannot be deleted stays, without a word.
+    /// Deletes the folders in `parent` that earlier runs left more than a day ago, with the files in them. May continue
+    /// after the call returns. What cannot be deleted stays, silently.
     virtual void DeleteLeftFolders(const std::filesystem::path& parent) = 0;
 };
 

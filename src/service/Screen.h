@@ -14,7 +14,7 @@ public:
     Screen& operator=(const Screen&) = delete;
     virtual ~Screen() = default;
 
-    /// Saves the pointer's shape and shows the hourglass; `RestorePointer` brings the saved shape back. Calls nest.
+    /// Saves the pointer's shape and shows the hourglass; `RestorePointer` restores the saved shape. Calls nest.
     virtual void ShowHourglass() = 0;
     virtual void RestorePointer() = 0;
 
@@ -22,18 +22,18 @@ public:
     virtual void ShowProcessPic() = 0;
     virtual void HideProcessPic() = 0;
 
-    /// Long work tells how far it is: `done` of `total` pieces. Throws `WorkStopped` where the work may be stopped and
-    /// its user asked for that.
+    /// Reports the progress of long work: `done` of `total` pieces. Throws `WorkStopped` if the work may be stopped and
+    /// the user asked for that.
     virtual void ShowProgress(std::size_t done, std::size_t total) = 0;
 
-    /// From here to `EndStoppable` the user may stop the work: if it lasts, a window shows its progress and `what` is
-    /// being done, a short sentence. Calls do not nest. Where there are no windows nothing can be stopped.
+    /// From here to `EndStoppable` the user may stop the work. If it takes long, a window shows its progress and
+    /// `what`, a short sentence about what is being done. Calls do not nest. Without windows nothing can be stopped.
     virtual void BeginStoppable(std::string_view /*what*/) {}
-    /// The work goes on with something else.
+    /// The work continues with another stage.
     virtual void NextStage(std::string_view /*what*/) {}
     virtual void EndStoppable() {}
 
-    /// Lets tracks without a chosen tune blink.
+    /// Makes tracks without a chosen tune blink.
     virtual void EnableTuneNotFilledTimer() = 0;
 };
 

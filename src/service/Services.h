@@ -19,7 +19,7 @@ class SoundReader;
 class Stretch;
 class WmaEncoder;
 
-/// The services that the program runs on. Whoever starts the program fills it once, before anything else; the objects
+/// The services that the program runs on. The program's start code fills it once, before anything else; the objects
 /// outlive every use. A service that a program does not use may stay null.
 struct Services {
     Messages* messages = nullptr;

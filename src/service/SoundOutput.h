@@ -13,15 +13,15 @@ namespace sprout {
 enum class Loop { No, Yes };
 enum class StartFrom { Beginning, WhereItStopped };
 
-/// Where a sound object stands.
+/// The state of a sound object.
 struct SoundPlace {
-    std::int32_t Cursor = 0; ///< frames of the sound that were heard before this moment
-    bool Playing = false;    ///< false once the sound has ended or was stopped
+    std::int32_t Cursor = 0; ///< frames of the sound heard so far
+    bool Playing = false;    ///< false once the sound has ended or been stopped
 };
 
-/// A sound that is open on an output device. It plays on its own, in a thread of the device.
+/// A sound that is open on an output device. It plays by itself, in a thread of the device.
 ///
-/// A device that is lost while it plays tells of it in `Place` alone: the sound has then ended.
+/// If a device is lost during playback, only `Place` reports it: the sound has then ended.
 class SoundObject {
 public:
     SoundObject() = default;
@@ -30,15 +30,15 @@ public:
     /// Stops the sound and closes the device.
     virtual ~SoundObject() = default;
 
-    /// Copies `pcm` to the beginning of the sound and stops it. Throws std::bad_alloc.
+    /// Copies `pcm` to the start of the sound and stops it. Throws std::bad_alloc.
     virtual void Load(std::span<const std::byte> pcm) = 0;
-    /// Starts playing; with `Loop::Yes` the end is followed by the beginning without a gap.
+    /// Starts playing. With `Loop::Yes` the sound repeats without a gap.
     virtual void Start(StartFrom from, Loop loop) = 0;
-    /// Stops within 30 ms and keeps the place.
+    /// Stops within 30 ms and keeps the position.
     virtual void Stop() = 0;
-    /// The frame that is heard now, within 15 ms.
+    /// The frame being heard now, within 15 ms.
     [[nodiscard]] virtual SoundPlace Place() = 0;
-    /// Changes looping of a sound while it plays.
+    /// Changes looping while the sound plays.
     virtual void SetLooping(Loop loop) = 0;
 };
 
@@ -57,9 +57,9 @@ public:
 
     /// Opens a sound of `bufferBytes` in `format` on the default device.
     ///
-    /// old: the sound object of the last play, or empty; the one that comes back replaces it. windowHandle: the window
-    /// that the sound belongs to; a machine whose sounds belong to no window does not look at it. Returns an empty
-    /// handle where no device could be opened. The objects must not outlive the output.
+    /// old: the sound object of the last play, or empty; the returned one replaces it. windowHandle: the window that
+    /// the sound belongs to; ignored on machines whose sounds belong to no window. Returns an empty handle if no device
+    /// can be opened. The objects must not outlive the output.
     [[nodiscard]] virtual SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
                                            std::int32_t bufferBytes) = 0;
 };

@@ -9,12 +9,12 @@
 
 namespace sprout {
 
-/// What becomes of a sound that is longer than wanted.
+/// What happens to a sound that is longer than wanted.
 enum class TooLong { Cut, Refuse };
 
 enum class Conversion { Done, TooLong, Unreadable };
 
-/// A temporary WAV file, which no other running program deletes and which goes with the object.
+/// A temporary WAV file. No other running program deletes it, and it is deleted with this object.
 class ConvertedWave {
 public:
     ConvertedWave() = default;
@@ -27,13 +27,13 @@ public:
 
 struct Converted {
     Conversion Outcome = Conversion::Unreadable;
-    std::unique_ptr<ConvertedWave> Wave; ///< there when it is done
+    std::unique_ptr<ConvertedWave> Wave; ///< set if the conversion is done
 };
 
-/// Reads sounds of other kinds than the program's own. Interface thread only.
+/// Reads sounds in formats other than the program's own. Interface thread only.
 class SoundReader {
 public:
-    /// Told now and then how far the work is, `done` of `total`. What it throws ends the work.
+    /// Called now and then with the progress, `done` of `total`. If it throws, the work ends.
     using Progress = std::function<void(std::size_t done, std::size_t total)>;
 
     SoundReader() = default;
@@ -43,9 +43,9 @@ public:
 
     /// Converts a sound file to 44,100 Hz and 16 bits, mono as mono and everything else as stereo.
     ///
-    /// mostSeconds: at most 600. Of a longer sound no more than that is decoded. `Unreadable` is also what holds no
-    /// sound, is no plain file, takes too long, or finds the reader's libraries missing. Throws `RunTimeError` where
-    /// the temporary file cannot be written.
+    /// mostSeconds: at most 600. No more than that is decoded. `Unreadable` also means: no sound in it, not a plain
+    /// file, takes too long, or the reader's libraries are missing. Throws `RunTimeError` if the temporary file cannot
+    /// be written.
     [[nodiscard]] virtual Converted Convert(const std::filesystem::path& sound, std::int32_t mostSeconds,
                                             TooLong tooLong, const Progress& progress) = 0;
 };

@@ -12,7 +12,7 @@ namespace sprout {
 
 class Replacement;
 
-/// What a WMA file tells of itself, in UTF-8. An empty text is left out.
+/// The metadata of a WMA file, in UTF-8. An empty text is left out.
 struct WmaTags {
     std::string Title{};
     std::string Author{};
@@ -22,18 +22,18 @@ struct WmaTags {
     std::string Description{};
 };
 
-/// What is to be encoded, and how.
+/// The format to encode to.
 struct WmaFormat {
-    std::int32_t Rate = 44100; ///< frames a second
+    std::int32_t Rate = 44100; ///< frames per second
     std::int32_t Channels = 2;
     std::int32_t Bits = 16;
-    std::int32_t Codec = 0;  ///< number in the list of formats, from 0
-    std::int32_t Format = 0; ///< number in the codec's formats, from 0
+    std::int32_t Codec = 0;  ///< index in the list of formats, from 0
+    std::int32_t Format = 0; ///< index in the codec's formats, from 0
 };
 
 /// A WMA file that is being written.
 ///
-/// Sample n of what is written is sample n of what a player decodes. The same samples and tags give the same bytes.
+/// Sample n written is sample n that a player decodes. The same samples and tags give the same bytes.
 class WmaFile {
 public:
     WmaFile() = default;
@@ -41,12 +41,12 @@ public:
     WmaFile& operator=(const WmaFile&) = delete;
     virtual ~WmaFile() = default;
 
-    /// Before the first samples.
+    /// Call before the first samples.
     virtual void SetTags(const WmaTags& tags) = 0;
-    /// Encodes interleaved samples of 16 bits, low byte first, of any count of bytes; what is short of a frame waits
-    /// for the next call. False on failure.
+    /// Encodes interleaved samples of 16 bits, low byte first, any number of bytes; an incomplete frame waits for the
+    /// next call. Returns false on failure.
     [[nodiscard]] virtual bool Write(std::span<const std::byte> samples) = 0;
-    /// Finishes the file, the last call. False on failure.
+    /// Finishes the file; the last call. Returns false on failure.
     [[nodiscard]] virtual bool Close() = 0;
 };
 
@@ -58,18 +58,18 @@ public:
     WmaEncoder& operator=(const WmaEncoder&) = delete;
     virtual ~WmaEncoder() = default;
 
-    /// Loads the encoder's libraries, unless they are there; false where they are missing. No other call may come
-    /// before it succeeded.
+    /// Loads the encoder's libraries if necessary; returns false if they are missing. Must succeed before any other
+    /// call.
     [[nodiscard]] virtual bool Load() = 0;
 
-    /// Bytes of the list of formats; below 1 where it cannot be told.
+    /// Bytes of the list of formats; below 1 if it is unavailable.
     [[nodiscard]] virtual std::int32_t FormatListLength() = 0;
-    /// The codecs, separated by CR LF CR LF; of each the lines, separated by CR LF: its name, and for each format the
-    /// description, bits a second, frames a second, channels and bits, separated by LF. Nothing on failure.
+    /// The codecs, separated by CR LF CR LF. Each consists of lines, separated by CR LF: its name, and for each format
+    /// the description, bits per second, frames per second, channels and bits, separated by LF. Nothing on failure.
     [[nodiscard]] virtual std::optional<std::string> FormatList() = 0;
 
-    /// Begins a file, whose bytes go to `target`; null on failure. The target outlives the file and is not put in place
-    /// by it.
+    /// Begins a file and sends its bytes to `target`; null on failure. The target outlives the file, which does not put
+    /// it in place.
     [[nodiscard]] virtual std::unique_ptr<WmaFile> Open(Replacement& target, const WmaFormat& format) = 0;
 };
 

@@ -29,7 +29,7 @@ namespace {
 
 constexpr int kLookForQuietMs = 100;
 
-/// A private folder that goes with this object, unless it is kept.
+/// A private folder that is deleted with this object unless it is kept.
 class MailFolder {
 public:
     MailFolder() : path(TheServices().privateFolders->MakeFolder(Shared().TempFolder)) {}
@@ -59,8 +59,8 @@ bool WasStarted(Mail& mail, const MailMessage& message, const std::stop_token& s
     }
 }
 
-/// A message would come between the user and what waits for an answer, end a stroke, or break into long work, which
-/// shows the hourglass.
+/// While this is true, a message would get between the user and an open question, end a mouse stroke, or interrupt long
+/// work, which shows the hourglass.
 bool IsBusy()
 {
     return QApplication::activeModalWidget() || QApplication::activePopupWidget() || QApplication::overrideCursor() ||
@@ -88,7 +88,7 @@ void EmailSong::EmailBtn()
     underWay = isHandedOver;
 }
 
-/// Returns whether the song is on its way.
+/// Returns whether the song has been handed over.
 bool EmailSong::MailSong()
 {
     try {
@@ -123,14 +123,14 @@ void EmailSong::HandOver(const fs::path& wma)
     try {
         handOver = std::jthread(work);
     } catch (const std::system_error&) {
-        tellTimer.start(); // no thread is to be had
+        tellTimer.start(); // no thread can be started
     }
 }
 
 void EmailSong::EndHandOver(bool started)
 {
     if (!handOver.joinable())
-        return; // nobody waits any more
+        return; // nobody is waiting any more
     handOver.join();
     underWay = !started;
     if (!started)
@@ -154,7 +154,7 @@ void EmailSong::TellFailure()
 void EmailSong::StopWaiting()
 {
     tellTimer.stop();
-    handOver = std::jthread(); // asks the hand-over to end, and waits until it has
+    handOver = std::jthread(); // asks the hand-over to end and waits for it
     underWay = false;
 }
 

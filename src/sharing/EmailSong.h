@@ -9,11 +9,11 @@
 
 namespace sprout {
 
-/// The command that mails the song: it writes the song as a WMA file under its title into a private folder and hands
-/// the file to the user's mail program, which reads it when it sends.
+/// The command that mails the song: it writes the song as a WMA file, named after its title, into a private folder and
+/// hands the file to the user's mail program, which reads it when sending.
 ///
-/// The mail program starts while the window lives on. A click meanwhile starts nothing a second time and shows on the
-/// status line what is going on. Where no mail program starts, a message tells where the file is, and its folder opens.
+/// The mail program starts while the window stays usable. Another click meanwhile only shows the progress on the status
+/// line. If no mail program starts, a message tells where the file is, and its folder opens.
 class EmailSong : public QObject {
     Q_OBJECT
 
@@ -23,13 +23,13 @@ public:
     EmailSong& operator=(const EmailSong&) = delete;
     ~EmailSong() override { StopWaiting(); }
 
-    /// Tells its own failures and never throws. Writing the file may be stopped by the user; nothing is left then.
+    /// Shows its own failures and never throws. The user may stop the writing; nothing is left behind then.
     void EmailBtn();
 
-    /// True from a click until the mail program was started, or all is told.
+    /// True from a click until the mail program has started or the user has been told the outcome.
     [[nodiscard]] bool IsUnderWay() const { return underWay; }
 
-    /// The program ends: nobody waits for the mail program any more, and nothing is told of it.
+    /// The program is ending: stops waiting for the mail program and shows nothing more about it.
     void StopWaiting();
 
 private:
@@ -40,7 +40,7 @@ private:
 
     std::filesystem::path file; ///< of the last hand-over
     bool underWay = false;
-    QTimer tellTimer; ///< waits for the moment of a message
+    QTimer tellTimer; ///< waits for the moment to show a message
     std::jthread handOver;
 };
 

@@ -31,7 +31,7 @@ namespace {
 
 constexpr std::string_view kSoundFolder = "WavFileSelPath";
 
-/// The words and the writer of one kind of sound file.
+/// The texts and the writer for one kind of sound file.
 struct ExportKind {
     std::string_view selectHint;
     const char* dialogTitle;
@@ -75,13 +75,13 @@ void HintExport(std::string_view text)
 bool MayOverwriteSound(const fs::path& target)
 {
     std::error_code error;
-    // What is no plain file is refused later, without a question.
+    // What is not a plain file is refused later, without a question.
     return !fs::is_regular_file(target, error) ||
            AskYesNo("A file with this name already exists: " + PathText(target.filename()),
                     "Do you wish to overwrite?") == 1;
 }
 
-/// The file to save to, its extension right and what stands there allowed to go; nothing if that was cancelled.
+/// The file to save to, with the right extension and permission to overwrite it; nothing if the user cancelled.
 std::optional<fs::path> AskForSoundFile(const ExportKind& kind)
 {
     FileQuestion question{kind.dialogTitle, GetSetting("General", kSoundFolder, ""),
@@ -110,7 +110,7 @@ void TellNotReplaced(const fs::path& target)
     ShowMessage("File could not be deleted.", PathText(target));
 }
 
-/// Returns whether the song window is to hide.
+/// Returns whether the song window must hide.
 bool SaveTo(const ExportKind& kind, const fs::path& target)
 {
     if (!TheServices().files->MayBeReplaced(target)) {

@@ -10,8 +10,8 @@ namespace sprout {
 
 using SongWriter = ExportOutcome (*)(const WaveData&, const std::filesystem::path&);
 
-/// Mixes the shared song and lets `write` make a file of it, as stoppable work. writing: what the second half is
-/// called. Throws `WorkStopped`.
+/// Mixes the shared song and lets `write` turn it into a file, as stoppable work. writing: the name of the second half.
+/// Throws `WorkStopped`.
 [[nodiscard]] ExportOutcome MixAndWrite(SongWriter write, const std::filesystem::path& file, std::string_view writing);
 
 } // namespace sprout

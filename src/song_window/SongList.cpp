@@ -20,7 +20,7 @@ bool MovesSelection(int key)
 SongList::SongList(QWidget* parent) : QListWidget(parent)
 {
     setFont(LabelFont());
-    setTextElideMode(Qt::ElideMiddle); // copies differ at their ends
+    setTextElideMode(Qt::ElideMiddle); // names of copies differ at the end
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -44,8 +44,8 @@ void SongList::keyPressEvent(QKeyEvent* event)
         event->accept();
 }
 
-/// A list that gets the focus puts its place on the first line without selecting it; the first key selects that line
-/// and does not go on from it.
+/// A list that gets the focus makes its first line current without selecting it; the first key then selects that line
+/// and does not move on from it.
 bool SongList::SelectFirst(int key)
 {
     const bool fromNothing = selectedItems().isEmpty() && count() > 0 && item(0)->flags() != Qt::NoItemFlags;

@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// A list of songs of which one can be selected. Its arrow keys stay inside it.
+/// A list of songs with single selection. Its arrow keys stay inside it.
 class SongList : public QListWidget {
     Q_OBJECT
 
@@ -14,7 +14,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
-    /// Leaves room below, so that no half line stands at the end.
+    /// Leaves room at the bottom to avoid half a line at the end.
     void updateGeometries() override;
 
 private:

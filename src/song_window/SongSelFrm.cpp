@@ -92,7 +92,7 @@ void SongSelFrm::MakeNameBox()
     SongNameTxt = new QLineEdit(this);
     SongNameTxt->setObjectName(QStringLiteral("SongNameTxt"));
     SongNameTxt->setAccessibleName(SongNmLbl->text());
-    SongNameTxt->setMaxLength(0x7FFFFFFF); // the machine limits names, the box does not
+    SongNameTxt->setMaxLength(0x7FFFFFFF); // the file system limits names, the box does not
     SongNameTxt->installEventFilter(this);
     ForbidCharacters(*SongNameTxt, QStringLiteral("./\\:*?\"<>"));
     Watcher().Watch(*SongNameTxt, "Type your song name here");
@@ -180,7 +180,7 @@ void SongSelFrm::PlaceColumn(int top, int bottom)
 void SongSelFrm::PlaceNameBox(int top)
 {
     const int nameLeft = kSongMargin + SongNmLbl->sizeHint().width() + 8;
-    // The title begins with a blank, the label below it does not.
+    // The title begins with a blank; the label below it does not.
     const int titleLeft = kSongMargin - TextTitleLbl->fontMetrics().horizontalAdvance(QChar(u' '));
     TextTitleLbl->setGeometry({BodyPoint(titleLeft, top), QSize(width() - titleLeft - kSongMargin, kLabelHeight)});
     SongNmLbl->setGeometry(
@@ -208,7 +208,7 @@ void SongSelFrm::LoadSongNames()
     SngNmLst->clear();
     for (const SongFile& song : songs) {
         auto* line = new QListWidgetItem(QtText(song.Name), SngNmLst);
-        line->setToolTip(QStringLiteral("<p>%1</p>").arg(line->text().toHtmlEscaped())); // names are no rich text
+        line->setToolTip(QStringLiteral("<p>%1</p>").arg(line->text().toHtmlEscaped())); // names are not rich text
     }
     if (songs.empty())
         (new QListWidgetItem(QtText(LayoutOf(mode).NothingFound), SngNmLst))->setFlags(Qt::NoItemFlags);
@@ -220,7 +220,7 @@ int SongSelFrm::SelectedRow() const
     return selected.isEmpty() ? -1 : SngNmLst->row(selected.front());
 }
 
-/// What the program selects leaves the name that was typed as it is.
+/// A selection by the program does not change the typed name.
 void SongSelFrm::SelectRow(int row)
 {
     const QSignalBlocker quiet(SngNmLst);
@@ -359,7 +359,7 @@ void SongSelFrm::RenameSelected()
     SelectRow(renamed == songs.end() ? -1 : static_cast<int>(renamed - songs.begin()));
 }
 
-/// The song counts as no more saved than before: the sound file is no song.
+/// This does not mark the song as saved: a sound file is not a song.
 void SongSelFrm::SaveAsSound(SoundFileKind kind)
 {
     if (TheWindows().SaveSongAsSound(kind))

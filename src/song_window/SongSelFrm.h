@@ -24,10 +24,10 @@ public:
 
     void InitilizeThisWindow(SongSelMode mode);
 
-    /// The name in the box at first.
+    /// The initial name in the box.
     void SetSongName(std::string_view name);
 
-    /// After the window has closed: left with OK, and the song's name.
+    /// After the window has closed: whether it was left with OK, and the song's name.
     bool Ok = false;
     std::string ChosenName;
 
@@ -63,11 +63,11 @@ private:
     void RenameSelected();
     void SaveAsSound(SoundFileKind kind);
     void ClickHelp();
-    /// Runs a command on files; an error is told after `text`.
+    /// Runs a command on files; an error is shown after `text`.
     void Try(std::string_view text, void (SongSelFrm::*command)());
 
     SongSelMode mode = SongSelMode::Open;
-    std::vector<SongFile> songs; ///< in the order of the list
+    std::vector<SongFile> songs; ///< in list order
     QLabel* ModePic = nullptr;
     QLabel* ListTitleLbl = nullptr;
     QLabel* TextTitleLbl = nullptr;

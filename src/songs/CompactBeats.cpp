@@ -13,7 +13,7 @@ namespace sprout {
 
 namespace {
 
-/// What a beat number becomes; by the number, from 1.
+/// The new number of each beat, indexed by its old one, from 1.
 using BeatNumbers = std::vector<std::int32_t>;
 
 template <class Visit>
@@ -39,7 +39,7 @@ void RenumberSteps(SongState& song, const BeatNumbers& numbers)
     });
 }
 
-/// Takes the name from every beat that equals an earlier one and turns its steps to that one.
+/// Clears the name of every beat that equals an earlier one and points its steps to that one.
 void MergeEqualBeats(SongState& song)
 {
     std::unordered_map<std::string, std::int32_t> firstBeats;
@@ -68,7 +68,7 @@ void ClearUnusedNames(SongState& song)
             At(song.SongBeats, i).Name.clear();
 }
 
-/// Drops the beats without a name; a step that points at one points at none then.
+/// Drops the beats without a name; steps that point to one then point to none.
 void DropNamelessBeats(SongState& song)
 {
     std::vector<Beat> kept(1);

@@ -23,7 +23,7 @@ void SetTuneBeat(Tune& tune, std::int32_t beatIndex)
         At(tune.Steps, i).BeatIndex = beatIndex;
 }
 
-/// The song's head, and behind it its tracks; `readMusic` reads what a music track holds besides its cells.
+/// Reads the song's head and then its tracks; `readMusic` reads what a music track has besides its cells.
 template <class ReadMusic>
 void ReadOldSong(LongsReader& data, SongState& song, ReadMusic readMusic)
 {
@@ -40,7 +40,7 @@ void ReadOldSong(LongsReader& data, SongState& song, ReadMusic readMusic)
     }
 }
 
-/// The place of the track's beat in the song's list; 0 where the track has none.
+/// The place of the track's beat in the song's list; 0 if the track has none.
 std::int32_t ReadBeat11(LongsReader& data, SongState& song)
 {
     if (data.Get() != 1)
@@ -80,7 +80,7 @@ void Load_Song_V11(LongsReader& data, SongState& song)
         if (data.Get() == 1)
             ReadTune11(data, tune);
         else
-            LoadStarFile(tune); // the file names none, so that 16 silent steps come of it
+            LoadStarFile(tune); // the file names none, so this makes 16 silent steps
         SetTuneBeat(tune, beatIndex);
     });
 }

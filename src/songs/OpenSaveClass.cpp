@@ -22,7 +22,7 @@ namespace {
 
 using SongLoader = void (*)(LongsReader&, SongState&);
 
-/// The reader of a file's version; none for a version that this program does not know.
+/// The reader for a file's version; none if this program does not know the version.
 SongLoader LoaderOf(ByteSource& source)
 {
     const float version = FileVersion(source);
@@ -35,7 +35,7 @@ SongLoader LoaderOf(ByteSource& source)
     return nullptr;
 }
 
-/// The song of a file; one without tracks where it cannot be read, which was told then.
+/// The song in a file; one without tracks if it cannot be read, after a message.
 SongState ReadSong(ByteSource& source, SongLoader loadVersion)
 {
     try {
@@ -53,7 +53,7 @@ SongState ReadSong(ByteSource& source, SongLoader loadVersion)
     return {};
 }
 
-/// Leaves a song without tracks, which has no file of its own: whatever is saved in its place would be another song.
+/// Leaves a song without tracks and without its own file: anything saved in its place would be another song.
 void FailLoading(SongState& song)
 {
     song.TrackCount = 0;
@@ -69,7 +69,7 @@ void OpenSaveClass::Load_Song(const fs::path& path)
     try {
         const fs::path found = FindFile(path);
         const fs::path& file = found.empty() ? path : found;
-        const FileMark mark = MarkOf(file); // before the reading: what is changed meanwhile was not read
+        const FileMark mark = MarkOf(file); // before reading: later changes were not read
         FileSource source(file);
         const SongLoader loadVersion = LoaderOf(source);
         SongState song = loadVersion ? ReadSong(source, loadVersion) : SongState();

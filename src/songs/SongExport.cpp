@@ -38,13 +38,13 @@ constexpr const char* kNotTaken = "Failed Writing to WMA file";
 constexpr const char* kNotClosed = "Failed Closing WMA writer";
 constexpr std::int32_t kBlockSeconds = 10;
 
-/// The end of an export that `line1` explains.
+/// The end of an export, explained by `line1`.
 ExportOutcome Refused(const char* line1, std::string line2 = {})
 {
     return {.Line1 = line1, .Line2 = std::move(line2)};
 }
 
-/// Fills the list of codecs. The message of a failure; nothing where the list is filled.
+/// Fills the list of codecs. Returns the message of a failure, otherwise nothing.
 std::optional<ExportOutcome> GetWmaCodecList(WmaEncoder& encoder)
 {
     try {
@@ -63,8 +63,8 @@ std::optional<ExportOutcome> GetWmaCodecList(WmaEncoder& encoder)
     }
 }
 
-/// Chooses the format of exports, once. The end of the export where there is none: no format of that kind is told by
-/// the missing file alone.
+/// Chooses the format of exports, once. Returns the end of the export if there is none; only the missing file then
+/// tells the user so.
 std::optional<ExportOutcome> SelectWmaCodec(WmaEncoder& encoder)
 {
     WmaChoice& choice = Shared().Wma;
@@ -101,7 +101,7 @@ WmaTags SongTags()
             .Description = std::string(kProductName) + " Song"};
 }
 
-/// The message of a wave that the encoder does not take.
+/// The message for a wave that the encoder does not accept.
 std::optional<ExportOutcome> RefusedFormat(const WaveData& wave)
 {
     if (wave.Bits != 16)
@@ -113,8 +113,8 @@ std::optional<ExportOutcome> RefusedFormat(const WaveData& wave)
     return std::nullopt;
 }
 
-/// Hands a wave's frames to `take` as bytes, at most `blockFrames` at a time, and shows how far it is. False where
-/// `take` was false.
+/// Passes a wave's frames to `take` as bytes, at most `blockFrames` at a time, and shows the progress. Returns false if
+/// `take` does.
 template <class Take>
 bool TakeBlocks(const WaveData& wave, std::int32_t blockFrames, Take take)
 {
@@ -133,7 +133,7 @@ bool TakeBlocks(const WaveData& wave, std::int32_t blockFrames, Take take)
     return true;
 }
 
-/// The message of what fails while a WMA file is written; null where all is well.
+/// Writes a WMA file. Returns the message of a failure, otherwise null.
 const char* EncodeWave(WmaEncoder& encoder, Replacement& target, const WaveData& wave)
 {
     const std::unique_ptr<WmaFile> file = encoder.Open(
@@ -144,13 +144,13 @@ const char* EncodeWave(WmaEncoder& encoder, Replacement& target, const WaveData&
     const bool taken = TakeBlocks(wave, wave.Rate * kBlockSeconds,
                                   [&file](std::span<const std::byte> block) { return file->Write(block); });
     if (!taken) {
-        static_cast<void>(file->Close()); // the handle is released; the file is given up
+        static_cast<void>(file->Close()); // releases the handle; the file is abandoned
         return kNotTaken;
     }
     return file->Close() ? nullptr : kNotClosed;
 }
 
-/// Whether a whole file came into its target's place. Throws `RunTimeError` where the disk refuses it.
+/// Returns whether a complete file replaced its target. Throws `RunTimeError` if the disk refuses it.
 ExportEnd PutInPlace(Replacement& file)
 {
     try {
@@ -208,7 +208,7 @@ ExportOutcome WriteWmaFile(const WaveData& wave, const fs::path& path)
             return Refused(told);
         failure = kNotClosed;
         return wave.Length > 0 ? ExportOutcome{.End = PutInPlace(*file)} : ExportOutcome{};
-    } catch (const std::exception&) { // of the disk, or of memory
+    } catch (const std::exception&) { // from the disk or memory
         return Refused(failure);
     }
 }

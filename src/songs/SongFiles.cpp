@@ -21,14 +21,14 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// True where a file, a folder or a link stands already, whatever the case of its letters.
+/// True if a file, a folder or a link already exists, in any letter case.
 bool IsTaken(const fs::path& path)
 {
     std::error_code error;
     return fs::exists(fs::symlink_status(path, error)) || FileExists(path);
 }
 
-/// Where a song of another name goes in the song's folder.
+/// The path for a song with another name in the song's folder.
 fs::path FreePlaceBeside(const SongFile& song, std::string_view newName)
 {
     fs::path place = NamedFile(song.Path.parent_path() / "", newName, kSongExtension);
@@ -92,7 +92,7 @@ void RenameSong(const SongFile& song, std::string_view newName)
 
 void DeleteSong(const SongFile& song)
 {
-    // Asked by its exact name: the look-up without regard to case could find another song in place of one that is gone.
+    // Checks the exact name: ignoring case could find another song instead of one that is gone.
     std::error_code error;
     if (fs::exists(song.Path, error) && !DeleteFile(song.Path))
         throw RunTimeError("The file " + PathText(song.Path) + " could not be deleted.");

@@ -26,7 +26,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kNoteExtension = ".Kept";
-constexpr std::size_t kMostTitleBytes = 200; // of the 255 that a file's name may have
+constexpr std::size_t kMostTitleBytes = 200; // of the 255 allowed in a file name
 
 std::size_t NumberOf(const LongsWriter& data)
 {
@@ -38,7 +38,7 @@ std::size_t NumberOf(const LongsWriter& data)
     return number;
 }
 
-/// "Rain kept", "Rain kept 2", ...: a title that no file can have gives way.
+/// "Rain kept", "Rain kept 2", ...: a title that cannot be a file name is replaced.
 std::string KeptName(std::string_view title, int number)
 {
     std::string name = SafeFileName(CharactersInBytes(Trim(title), kMostTitleBytes));
@@ -47,7 +47,7 @@ std::string KeptName(std::string_view title, int number)
     return name + " kept" + (number == 1 ? std::string() : " " + std::to_string(number));
 }
 
-/// Writes a file of the first name that is free, and returns that name.
+/// Writes a file under the first free name and returns that name.
 std::string WriteUnderFreeName(std::string_view title, const LongsWriter& data)
 {
     for (int number = 1;; ++number) {
@@ -58,7 +58,7 @@ std::string WriteUnderFreeName(std::string_view title, const LongsWriter& data)
     }
 }
 
-/// A hidden file of the song's name, so that two programs that end at once write two notes.
+/// A hidden file with the song's name, so two programs that end at once write two notes.
 void NoteForNextStart(const std::string& name)
 {
     TheServices().files->ReplaceFile(NamedFile(Shared().UserSongs, "." + name, kNoteExtension), {}, Flush::Yes);
@@ -70,7 +70,7 @@ std::string SongKeeper::KeepUnsavedSong()
 {
     if (!Shared().Song.SongChanged || Shared().Song.TrackCount < 1)
         return {};
-    // A copy: work that waits for its next event may count on the song's beats as they are.
+    // A copy: work that waits for its next event may rely on the song's current beats.
     SongState song = Shared().Song;
     Compact_Song_Beats(song);
     const LongsWriter data = Write_Song_Data(song);

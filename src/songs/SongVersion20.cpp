@@ -21,7 +21,7 @@ namespace {
 constexpr std::int64_t kBeatElements = kTextElements + 1;
 constexpr std::int64_t kStepElements20 = kStepEntryElements + 1;
 
-/// Reads one song. Beats and tunes that are kept outside are read once each, however often the song names them.
+/// Reads one song. Beats and tunes kept outside it are read once each, however often the song names them.
 class SongReader20 {
 public:
     SongReader20(LongsReader& array, SongState& filled) : data(array), song(filled) {}

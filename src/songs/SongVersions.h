@@ -7,21 +7,21 @@
 namespace sprout {
 
 // The song file's versions; `OpenSaveClass` chooses between them. Each reader fills an empty song from the file's
-// array, which stands on its element 1, and throws `RunTimeError` for what cannot be there.
+// array, which is at element 1, and throws `RunTimeError` if the data is invalid.
 
-/// Beats stand ahead of the tracks, each tune inside or in the Tunes folder.
+/// Beats come before the tracks; each tune is inside the file or in the Tunes folder.
 void Load_Song_V20(LongsReader& data, SongState& song);
 
-/// Each track brings its one beat and its tune, or names them.
+/// Each track contains its one beat and its tune, or their names.
 void Load_Song_V11(LongsReader& data, SongState& song);
 
-/// Each track names a beat of the Beats folder and a star of the Stars folder.
+/// Each track names a beat in the Beats folder and a star in the Stars folder.
 void Load_Song_V10(LongsReader& data, SongState& song);
 
 /// The array of a song in version 2.
 [[nodiscard]] LongsWriter Write_Song_Data(const SongState& song);
 
-/// Makes equal beats one, drops beats that no step of a music track uses, and renumbers the steps.
+/// Merges equal beats, drops beats that no step of a music track uses, and renumbers the steps.
 void Compact_Song_Beats(SongState& song);
 
 } // namespace sprout

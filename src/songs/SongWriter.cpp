@@ -36,7 +36,7 @@ void WriteTune(LongsWriter& data, const Tune& tune)
 void WriteTrack(LongsWriter& data, const Track& track, std::int32_t songCells)
 {
     data.Put(track.TrackType);
-    // As many as the head tells, whatever the array holds: one too few and nothing behind it could be read again.
+    // As many as the head says, whatever the array holds: with one too few, nothing after it could be read back.
     const auto held = static_cast<std::int64_t>(track.Painted.size());
     for (std::int32_t cell = 1; cell <= songCells; ++cell)
         data.Put(cell < held ? At(track.Painted, cell) : 0);

@@ -12,8 +12,8 @@
 
 namespace sprout {
 
-/// The codecs of an encoder's list of formats (`WmaEncoder::FormatList`). A line that is no format leaves its row of
-/// the arrays empty; numbers are read as far as they are numbers.
+/// The codecs in an encoder's list of formats (`WmaEncoder::FormatList`). A line that is not a format leaves its row in
+/// the arrays empty; of each number, the valid prefix counts.
 [[nodiscard]] std::vector<WmaCodec> ParseWmaCodecs(std::string_view list);
 
 /// A codec and one of its formats, both counted from 0.
@@ -23,7 +23,7 @@ struct WmaFormatPlace {
     friend bool operator==(const WmaFormatPlace&, const WmaFormatPlace&) = default;
 };
 
-/// The first Windows Media Audio format of 64 kbit/s, 44,100 Hz, stereo, 16 bits; nothing where there is none.
+/// The first Windows Media Audio format of 64 kbit/s, 44,100 Hz, stereo, 16 bits; nothing if there is none.
 [[nodiscard]] std::optional<WmaFormatPlace> FindWmaFormat(std::span<const WmaCodec> codecs);
 
 } // namespace sprout

@@ -40,7 +40,7 @@ bool IsKnownFormat(const WaveFields& fields)
            IsKnownBits(fields.Bits);
 }
 
-/// False where another reader makes more of the file than `LoadWaveFile`, which has words of its own for the rest.
+/// False if another reader makes more of the file than `LoadWaveFile`, which has its own messages for the rest.
 bool LoadsAsItIs(ByteSource& source)
 {
     if (!IsRiffWave(source))
@@ -53,7 +53,7 @@ bool LoadsAsItIs(ByteSource& source)
     return data == 0 || ReadWaveDataSize(source, data) > 0;
 }
 
-/// The question for a file that cannot be read is left to `LoadWaveFile` as well.
+/// A file that cannot be read is also left to `LoadWaveFile`.
 bool WantsConversion(const fs::path& file)
 {
     try {

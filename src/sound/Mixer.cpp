@@ -22,22 +22,22 @@ namespace {
 
 using Samples = std::span<const std::int16_t>;
 
-constexpr std::size_t kBlockFrames = 8192; // two accumulators of it stay in the second-level cache
+constexpr std::size_t kBlockFrames = 8192; // two accumulators of this size fit into the second-level cache
 constexpr std::size_t kChunkFrames = 16 * kBlockFrames;
-constexpr std::size_t kMostUncheckedSums = 65535; // so many samples cannot leave the 32 bits
+constexpr std::size_t kMostUncheckedSums = 65535; // this many samples cannot exceed 32 bits
 
 struct Accumulators {
     std::array<std::int32_t, kBlockFrames> left;
     std::array<std::int32_t, kBlockFrames> right;
 };
 
-/// The samples of a wave; none in a silent one.
+/// The samples of a wave; none if it is silent.
 struct StereoFrames {
     Samples left;
     Samples right;
 };
 
-/// A wave that sounds, at its place: frames counted from 0.
+/// A placed wave that sounds; frames are counted from 0.
 struct Sounding {
     std::size_t begin;
     std::size_t end;
@@ -72,7 +72,7 @@ bool NeedsWork(const WaveData& wave, std::int32_t pan)
     return wave.Bits != Shared().BitsPerSample || wave.Rate != Shared().SampleRate || pan != 0;
 }
 
-/// Brings the waves from index 1 on into the program's format; those that need arithmetic share the cores.
+/// Converts the waves from index 1 on to the program's format; those that need arithmetic share the cores.
 void ConvertWaves(std::vector<WaveData>& waves, std::int32_t pan)
 {
     std::vector<WaveData*> costly;
@@ -126,7 +126,7 @@ std::int32_t TotalLength(const std::vector<Sounding>& soundings)
     return static_cast<std::int32_t>(total);
 }
 
-/// The soundings that touch frames `begin` to `end`, in their order.
+/// The soundings that overlap frames `begin` to `end`, in their order.
 template <class Soundings>
 std::vector<Sounding> Overlapping(const Soundings& soundings, std::size_t begin, std::size_t end)
 {
@@ -149,7 +149,7 @@ void AddScaled(std::span<std::int32_t> sums, Samples samples, double gain)
         sums[i] = RoundHalfEven(gain * samples[i] + sums[i]);
 }
 
-/// Stores the clipped sums. A clip above 100 percent may leave values that 16 bits cannot hold.
+/// Stores the clipped sums. A clip above 100 percent may leave values that do not fit into 16 bits.
 void Store(std::span<const std::int32_t> sums, ClipLimits limits, std::int16_t* samples)
 {
     std::int32_t lost = 0;
@@ -163,7 +163,7 @@ void Store(std::span<const std::int32_t> sums, ClipLimits limits, std::int16_t* 
         throw RunTimeError("A sample does not fit into 16 bits.");
 }
 
-/// One mix: what sounds, and where it goes.
+/// One mix: its sounds and their target.
 class Mix {
 public:
     Mix(std::vector<Sounding> placed, std::int32_t gainPercent, ClipLimits clipLimits)
@@ -174,7 +174,7 @@ public:
     {
     }
 
-    /// The mixed wave. Every piece of the time line is summed on its own, so that the pieces share the cores and the
+    /// The mixed wave. Each piece of the time line is summed separately, so that the pieces share the cores and the
     /// sums stay in the cache.
     WaveData Render()
     {

@@ -9,7 +9,7 @@
 
 namespace sprout {
 
-/// One sounding of a wave on the mixer's time line.
+/// One occurrence of a wave on the mixer's time line.
 struct WaveFilePlacement {
     std::int32_t Offset = 0;    ///< frames from the start of the result, >= 0; 0 puts the first frame on frame 1
     std::int32_t WaveIndex = 0; ///< into the waves
@@ -17,12 +17,12 @@ struct WaveFilePlacement {
 
 /// Sums `placements` of `waves` on one time line and clips once.
 ///
-/// waves: any format, by index; index 0 may be unused, and is mixed as it stands. Waves from 1 on are brought into the
-/// program's format first. gain, pan, clip: percent; clip 100 is full scale (-32768..32767).
-/// Returns a stereo wave in the program's format; `Length` is the greatest Offset + `Length` of a wave that sounds, 0
-/// if none does. The result does not depend on the number of cores. Cost: one pass over every placed frame; memory 4
-/// bytes a result frame and a fixed block a core. Throws `RunTimeError` where a sum leaves the 32-bit numbers, a place
-/// or a wave is none, or the result would be longer than `kLongestWaveFrames`; std::bad_alloc.
+/// waves: any format, by index; index 0 may be unused and is mixed as it is. Waves from 1 on are first converted to the
+/// program's format. gain, pan, clip: percent; clip 100 is full scale (-32768..32767).
+/// Returns a stereo wave in the program's format; its `Length` is the greatest Offset + `Length` of a wave that sounds,
+/// 0 if none does. The result does not depend on the number of cores. Cost: one pass over every placed frame; memory: 4
+/// bytes per result frame and a fixed block per core. Throws `RunTimeError` if a sum exceeds 32 bits, a placement or a
+/// wave is invalid, or the result would be longer than `kLongestWaveFrames`; std::bad_alloc.
 [[nodiscard]] WaveData MixWaves(std::vector<WaveData> waves, std::span<const WaveFilePlacement> placements,
                                 std::int32_t gain, std::int32_t pan, std::int32_t clip);
 

@@ -29,16 +29,16 @@ bool NothingWritten()
     return PlayShared().PlayBuffer.size() <= kWaveHeadBytes;
 }
 
-/// Writes `wave` into the play buffer with a tail behind it.
+/// Writes `wave` into the play buffer, followed by a tail.
 void FillPlayBuffer(const WaveData& wave, std::int32_t tailFrames)
 {
     CheckFrames(wave);
     PlayModState& play = PlayShared();
     const std::int32_t frameBytes = FrameBytes(wave);
     const double frames = static_cast<double>(wave.Length) + tailFrames;
-    // The head tells its sizes in 32 bits.
+    // The sizes in the head have 32 bits.
     const std::int32_t fileBytes = RoundHalfEven(frames * frameBytes + kWaveHeadBytes);
-    // The tail is not cleared: what an earlier, longer play left there sounds again.
+    // The tail is not cleared: whatever an earlier, longer play left there sounds again.
     play.PlayBuffer.reserve(static_cast<std::size_t>(fileBytes));
     play.PlayBuffer.resize(static_cast<std::size_t>(fileBytes));
     auto head = WaveHead(wave);
@@ -149,7 +149,7 @@ PlayResult PlayDllClass::WriteWaveMemo(const WaveData& wave, PlayNow playNow, Lo
         Raise(ErrorText(error), "Play Wave error");
         SendStatus("Failed to play");
         if (dynamic_cast<const std::bad_alloc*>(&error))
-            throw; // the sound is well, so the user is told
+            throw; // the sound itself is fine, so the user is told
     }
     return result;
 }

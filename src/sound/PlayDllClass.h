@@ -14,18 +14,18 @@ namespace sprout {
 
 enum class PlayNow { No, Yes };
 
-/// What became of a wave given to the player.
+/// The outcome for a wave given to the player.
 enum class PlayResult {
     Started,
-    Kept,     ///< it stands in the play buffer and was not to be played
-    NoDevice, ///< it stands in the play buffer, and no device took it
-    Refused   ///< empty, of an unknown format, or spoiled
+    Kept,     ///< it is in the play buffer; no play was requested
+    NoDevice, ///< it is in the play buffer, but no device accepted it
+    Refused   ///< empty, in an unknown format, or damaged
 };
 
-/// The player: fills the shared play buffer with a wave as a whole WAV file and plays it.
+/// The player: fills the shared play buffer with a wave as a complete WAV file and plays it.
 ///
-/// A failure raises `MsgBoxOb` with its words and a title, and the operation ends. No operation throws, except
-/// `WriteWaveMemo` where memory runs out. All calls come from the interface thread.
+/// A failure raises `MsgBoxOb` with its text and a title, and ends the operation. No operation throws, except
+/// `WriteWaveMemo` if memory runs out. All calls come from the interface thread.
 class PlayDllClass {
 public:
     PlayDllClass() = default;
@@ -33,13 +33,14 @@ public:
     PlayDllClass& operator=(const PlayDllClass&) = delete;
     ~PlayDllClass() = default;
 
-    /// Statuses (prompt "S2"), the end of every play call (prompt "S1") and failures; nobody has to listen.
+    /// Statuses (prompt "S2"), the end of every play call (prompt "S1") and failures; a listener is optional.
     MsgBoxObEvent MsgBoxOb;
 
-    /// Releases the sound output and, for a window handle above 0, readies it anew and sets the argument to 1.
+    /// Releases the sound output. If the window handle is above 0, prepares the output again and sets the argument to
+    /// 1.
     void DxObj(std::int32_t& windowHandle);
-    /// The last wave played, as the 32-bit words of a WAV file, the last of them filled up with zero bytes; a single 0
-    /// where nothing was played.
+    /// The last wave played, as the 32-bit words of a WAV file, the last word padded with zero bytes; a single 0 if
+    /// nothing was played.
     [[nodiscard]] std::vector<std::int32_t> GetLastPlayedStream() const;
     void StopPlay();
     void PlayContinue();
@@ -47,11 +48,11 @@ public:
     void PlayReplay();
     void UpdatePlayPosition();
     void PlayPause();
-    /// Fills the play buffer with `wave` and plays it. Behind a wave that does not loop stand 50 ms more, which hold
-    /// what an earlier, longer play left there. Throws std::bad_alloc behind the event and the status of a failure.
+    /// Fills the play buffer with `wave` and plays it. A wave that does not loop is followed by another 50 ms, with
+    /// whatever an earlier, longer play left there. Throws std::bad_alloc after the event and the status of a failure.
     PlayResult WriteWaveMemo(const WaveData& wave, PlayNow playNow, Loop loop);
 
-    /// What the sound output raises: a prompt of "S2" needs nothing, any other one is shown with its title.
+    /// Raised by the sound output: the prompt "S2" needs no action, any other one is shown with its title.
     void PlayDx9Cls_MsgBoxOb(std::string_view prompt, std::string_view title) const;
 
 private:

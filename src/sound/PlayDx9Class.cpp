@@ -27,9 +27,9 @@ bool PlayDx9Class::PlayMe(Loop loop)
     try {
         return PlayBufferOnDevice(loop);
     } catch (const std::bad_alloc&) {
-        throw; // the device is well
+        throw; // the device is fine
     } catch (const std::exception&) {
-        // The caller tells of it in its own words.
+        // The caller reports it in its own words.
         return false;
     }
 }

@@ -9,10 +9,10 @@
 
 namespace sprout {
 
-/// Tells of a play: a message and its title. The prompt "S2" marks the title as a mere status.
+/// Reports on a play: a message and its title. The prompt "S2" marks the title as just a status.
 using MsgBoxObEvent = std::function<void(std::string_view prompt, std::string_view title)>;
 
-/// Plays the shared play buffer through the machine's sound output and keeps the shared play state.
+/// Plays the shared play buffer on the machine's sound output and maintains the shared play state.
 class PlayDx9Class {
 public:
     /// msgBoxOb: receives the statuses.
@@ -22,21 +22,21 @@ public:
     /// Stops the sound, without a status.
     ~PlayDx9Class();
 
-    /// Stops the sound in play and plays the buffer from its beginning. False where no device could be opened. Throws
+    /// Stops the current sound and plays the buffer from its beginning. False if no device could be opened. Throws
     /// std::bad_alloc.
     [[nodiscard]] bool PlayMe(Loop loop);
-    /// Goes on where `PlayPause` stopped, looping as the last play was asked to.
+    /// Resumes where `PlayPause` stopped, looping as requested by the last play.
     void PlayContinue();
     /// Does nothing: only a new play fills the device's copy of the buffer.
     void PlayReplay();
     /// Changes looping; a stopped state becomes a playing one until the next `UpdatePlayPosition`.
     void LetLooping(Loop loop);
-    /// Asks the device where it is; a sound that has ended or was stopped gives `PlayState` 0 and `PlayCursor` 0.
+    /// Asks the device for its position; a sound that has ended or was stopped sets `PlayState` and `PlayCursor` to 0.
     void UpdatePlayPosition();
     void PlayPause();
     void StopPlay();
-    /// Keeps the window that sounds belong to. The device itself is opened by the first play, and again by the play
-    /// that follows a failure, so that a device plugged in later sounds.
+    /// Stores the window that sounds belong to. The first play opens the device, and so does each play after a failure,
+    /// so a device plugged in later is found.
     void PutONDx9Ds(std::int32_t windowHandle);
 
 private:

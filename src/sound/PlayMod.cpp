@@ -68,7 +68,7 @@ bool HasBegun()
     return PlayShared().PlayState != PlayState::Stopped;
 }
 
-/// Status and timer of a play that has begun.
+/// Sets status and timer for a play that has begun.
 void ShowOnMainWindow(std::string_view status)
 {
     if (!HasBegun())
@@ -150,7 +150,7 @@ void PlayWaveTrack(const WaveData& wave, std::int32_t track, std::int32_t startC
         return;
     play.PlayStartPos = startCell;
     play.PlayTempo = Shared().Song.Tempo;
-    // No timer will find the end of a play that has not begun, and hover play waits for the 0.
+    // No timer detects the end of a play that has not begun, and hover play waits for the 0.
     const auto settle = [&play] { play.PlayingTrack = HasBegun() ? play.PlayingTrack : 0; };
     try {
         Play(wave, PlayKind::SongOrTrack, track, loop);
@@ -170,7 +170,7 @@ void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view 
         ShowOnMainWindow(status);
         showTune = HasBegun() || result == PlayResult::NoDevice;
     }
-    // A chosen tune is shown on a machine without a sound device too.
+    // A chosen tune is also shown on a machine without a sound device.
     if (showTune)
         TheServices().playDisplay->UpdateThisTune();
 }
@@ -183,7 +183,7 @@ std::int32_t CellInPlay(const PlayModState& play)
 std::int32_t StepInPlay(const PlayModState& play, std::int32_t tempo, std::int32_t stepCount)
 {
     const double step = std::floor(SecondsInPlay(play) / CellSeconds(tempo)) + 1;
-    // Written so that what is no number, of a tempo of 0, is the first step.
+    // Written so that NaN, from a tempo of 0, gives the first step.
     return step > 1 ? static_cast<std::int32_t>(std::min(step, static_cast<double>(stepCount))) : 1;
 }
 

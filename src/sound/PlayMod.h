@@ -10,36 +10,35 @@
 
 namespace sprout {
 
-/// The one player, made at its first use.
+/// The only player, created at its first use.
 [[nodiscard]] PlayDllClass& Player();
 
-/// Releases the player and its device; must come before the services go.
+/// Releases the player and its device; must be called before the services are destroyed.
 void ReleasePlayer();
 
-/// Switches the sound output on or off and stores the result in `SoundDriver`. A failure is told in a message.
+/// Switches the sound output on or off and stores the result in `SoundDriver`. A failure is shown in a message.
 void SetSoundDriver(bool enable);
 
-// The play calls cut off the sound in play. With `SoundDriver` 0 they do nothing, save where told. When the play has
-// begun they show their status and switch on the main window's timer.
+// The play calls interrupt the current sound. If `SoundDriver` is 0 they do nothing, unless stated otherwise. Once the
+// play has begun they show their status and start the main window's timer.
 
-/// Plays a wave that belongs to no track. While the tutorial plays, the main window is left alone.
+/// Plays a wave that belongs to no track. While the tutorial plays, the main window stays unchanged.
 void PlayWaveStatus(const WaveData& wave, std::string_view status, Loop loop);
 
-/// Plays a wave of a kind: "Playing Recorded" for a recording, "Playing" otherwise.
+/// Plays a wave of some kind: "Playing Recorded" for a recording, "Playing" otherwise.
 void PlayWaveKind(const WaveData& wave, PlayKind kind, Loop loop);
 
-/// Plays the sound of a track, or of the whole song (`kWholeSong`), that starts at `startCell`. `PlayingTrack` returns
-/// to 0 where the play did not begin.
+/// Plays the sound of a track or of the whole song (`kWholeSong`), which starts at `startCell`. `PlayingTrack` returns
+/// to 0 if the play did not begin.
 void PlayWaveTrack(const WaveData& wave, std::int32_t track, std::int32_t startCell, Loop loop);
 
-/// Plays a wave behind `delaySeconds` (>= 0) of silence and lets the tune window show its tune; it does so without a
-/// device too.
+/// Plays a wave after `delaySeconds` (>= 0) of silence and lets the tune window show its tune, even without a device.
 void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view status, Loop loop);
 
-/// The cell of the song or track that is heard. Throws `RunTimeError` where that is no 32-bit number.
+/// The cell of the song or track that is heard. Throws `RunTimeError` if it is not a 32-bit number.
 [[nodiscard]] std::int32_t CellInPlay(const PlayModState& play);
 
-/// The step of a tune that is heard, 1 to `stepCount`. tempo: cells a minute.
+/// The step of a tune that is heard, 1 to `stepCount`. tempo: cells per minute.
 [[nodiscard]] std::int32_t StepInPlay(const PlayModState& play, std::int32_t tempo, std::int32_t stepCount);
 
 } // namespace sprout

@@ -9,8 +9,8 @@
 
 namespace sprout {
 
-/// The result of render(), an empty wave where it fails. Where memory runs out the sound itself is well: std::bad_alloc
-/// passes, so that the user is told and the sound is rendered when it is asked for again.
+/// The result of render(), or an empty wave if it fails. If memory runs out, the sound itself is fine: std::bad_alloc
+/// passes through, so the user is told and the next request renders the sound again.
 template <class Render>
 WaveData QuietRender(Render render)
 {

@@ -5,10 +5,10 @@
 
 namespace sprout {
 
-/// Bounds the threads of every render as long as it lives. Renders give the same samples with any number.
+/// Limits the threads of every render during its lifetime. Renders give the same samples with any number.
 class RenderThreads {
 public:
-    /// most: 1 or more, or 0 for one a core.
+    /// most: 1 or more, or 0 for one per core.
     explicit RenderThreads(std::size_t most) : before(bound) { bound = most; }
     RenderThreads(const RenderThreads&) = delete;
     RenderThreads& operator=(const RenderThreads&) = delete;

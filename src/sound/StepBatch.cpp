@@ -21,7 +21,7 @@ namespace sprout {
 
 namespace {
 
-/// A step at any volume but 100 is limited to this share of full scale.
+/// A step at any volume except 100 is limited to this share of full scale.
 constexpr std::int32_t kScaledStepClip = 80;
 constexpr std::int32_t kUnchangedVolume = 100;
 
@@ -149,7 +149,7 @@ void StepBatch::RenderMissing()
     };
     const auto progress = [](std::size_t done, std::size_t total) { TheServices().screen->ShowProgress(done, total); };
     ParallelFor(missing.size(), work, progress, RenderThreads::Most());
-    // A failed stretch is tried again next time.
+    // A failed stretch is retried next time.
     for (const std::size_t place : missing)
         if (!sounds[place].error && sounds[place].wave.Length > 0)
             TheStepCache().Keep(sounds[place].key, sounds[place].wave);

@@ -18,25 +18,26 @@ enum class BeatSource {
     OwnBeat ///< the step's `StepBeat`
 };
 
-/// What `StepWaveValid` becomes in a step that takes the sound of an equal one.
+/// The value of `StepWaveValid` in a step that copies the sound of an equal one.
 enum class CopiedStep { Valid, StaysAsItIs };
 
-/// Steps that are rendered together: equal sounds once, all that is new on all cores, the outcome as if the steps were
-/// done one after the other.
+/// Steps that are rendered together: equal sounds only once, new ones on all cores. The result is the same as if the
+/// steps were rendered one by one.
 ///
-/// `Add...` loads beats that are not loaded yet and shows their messages, in the order of the steps; the steps stay
-/// where they are until `Render` has filled them. Interface thread only.
+/// `Add...` loads beats that are not loaded yet and shows their messages, in the order of the steps; the steps must
+/// stay in place until `Render` has filled them. Interface thread only.
 class StepBatch {
 public:
     /// Takes the steps of a tune that are on and not valid; a step equal to an earlier valid one copies its sound. A
-    /// failure, as of a tune with fewer steps than it tells, ends the adding, and `Render` throws it in its turn.
+    /// failure, such as a tune with fewer steps than its count, ends the adding; `Render` throws it when its turn
+    /// comes.
     void AddTune(Tune& tune, BeatSource source, CopiedStep copies);
 
-    /// Takes one step, whatever its flags.
+    /// Takes one step, regardless of its flags.
     void AddStep(TuneStep& step, BeatSource source);
 
-    /// Renders what was added: fills `StepWave`, sets `StepWaveValid`. Throws what failed first in the order of the
-    /// steps; those before it are filled.
+    /// Renders everything added: fills `StepWave`, sets `StepWaveValid`. Throws the first failure in the order of the
+    /// steps; the steps before it are filled.
     void Render();
 
 private:
@@ -62,7 +63,7 @@ private:
     void HandOut() const;
 
     std::vector<Sound> sounds;
-    std::vector<std::size_t> missing; // sounds that are to be rendered
+    std::vector<std::size_t> missing; // sounds still to be rendered
     std::unordered_map<StepKey, std::size_t, StepKeyHash> places;
     std::vector<Planned> planned;
     std::exception_ptr addError;

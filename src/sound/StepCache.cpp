@@ -8,7 +8,7 @@ namespace sprout {
 
 namespace {
 
-constexpr std::size_t kEntryBytes = 512; // the entry, its key once more and the nodes of the maps, generously
+constexpr std::size_t kEntryBytes = 512; // the entry, its second key and the map nodes, generously
 
 std::size_t BlockBytes(const Channel& channel)
 {

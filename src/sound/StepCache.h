@@ -12,8 +12,8 @@ namespace sprout {
 
 /// Everything that the sound of a step depends on.
 ///
-/// Sources are equal when they share their samples' blocks, not when their samples are alike. The key holds its
-/// source, so that no other sound can come to lie in the same block.
+/// Sources are equal if they share their sample blocks, not if their samples are the same. The key holds its source, so
+/// no other sound can end up in the same block.
 struct StepKey {
     WaveData Source;
     float PitchFactor = 1;
@@ -27,25 +27,25 @@ struct StepKeyHash {
     [[nodiscard]] std::size_t operator()(const StepKey& key) const;
 };
 
-/// Rendered sounds of steps, so that equal steps of any tune or track are stretched once.
+/// Rendered sounds of steps, so that equal steps of any tune or track are stretched only once.
 ///
-/// Bounded in bytes, the sources that its keys keep alive included, a block that several share counted once; what was
-/// not used for longest goes first. Renders give the same samples with and without it. Interface thread only.
+/// Its size in bytes is limited, including the sources that its keys keep alive; a block shared by several counts once.
+/// The least recently used is evicted first. Renders give the same samples with and without it. Interface thread only.
 class StepCache {
 public:
     static constexpr std::size_t kMostBytes = std::size_t{64} << 20;
 
     explicit StepCache(std::size_t bytes = kMostBytes) : mostBytes(bytes) {}
 
-    /// The sound of an equal step, or null. Valid until the cache is changed.
+    /// The sound of an equal step, or null. Valid until the cache changes.
     [[nodiscard]] const WaveData* Find(const StepKey& key);
 
-    /// Keeps a sound, unless it is larger than the bound. An equal step's sound is replaced.
+    /// Stores a sound, unless it is larger than the limit. Replaces the sound of an equal step.
     void Keep(const StepKey& key, const WaveData& sound);
 
     void Clear();
 
-    /// Bounds the cache anew; 0 keeps nothing.
+    /// Sets a new limit; 0 stores nothing.
     void SetMostBytes(std::size_t bytes);
     [[nodiscard]] std::size_t MostBytes() const { return mostBytes; }
 
@@ -66,12 +66,12 @@ private:
 
     std::size_t mostBytes;
     std::size_t bytesHeld = 0;
-    Entries sounds; // used last comes first
+    Entries sounds; // most recently used first
     std::unordered_map<StepKey, Entries::iterator, StepKeyHash> index;
     std::unordered_map<const void*, std::size_t> holders; // of each block
 };
 
-/// The one that all renders share.
+/// The cache that all renders share.
 [[nodiscard]] StepCache& TheStepCache();
 
 } // namespace sprout

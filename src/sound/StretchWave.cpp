@@ -16,8 +16,8 @@ namespace sprout {
 
 namespace {
 
-constexpr std::int32_t kShortestTouched = 3;     // fewer frames pass through
-constexpr std::int32_t kShortestStretched = 512; // fewer come out silent
+constexpr std::int32_t kShortestTouched = 3;     // fewer frames stay unchanged
+constexpr std::int32_t kShortestStretched = 512; // fewer give silence
 constexpr double kLowestFactor = 0.5;
 constexpr double kHighestFactor = 2.0;
 
@@ -36,7 +36,7 @@ std::int16_t ShiftDown(std::int16_t sample)
     return static_cast<std::int16_t>(std::min(RoundHalfEven(sample / 256.0), 127));
 }
 
-/// The samples of one channel stretched, as 16-bit samples; nothing where the service fails.
+/// The stretched samples of one channel, in 16 bits; nothing if the service fails.
 std::optional<Channel> CallService(std::span<const std::int16_t> samples, std::int32_t rate, float pitchFactor,
                                    float durationFactor)
 {
@@ -63,10 +63,10 @@ std::optional<Channel> StretchChannel(const WaveData& wave, const Channel& chann
     return stretched;
 }
 
-/// Adds the right channel to a result whose left one stands.
+/// Adds the right channel to a result that has its left one.
 void StretchRight(WaveData& result, const WaveData& wave, float pitchFactor, float durationFactor)
 {
-    // The same samples give the same result: a mono sound in two channels is stretched once.
+    // The same samples give the same result, so a mono sound in two channels is stretched once.
     if (wave.WavR == wave.WavL) {
         result.WavR = result.WavL;
         return;

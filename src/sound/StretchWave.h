@@ -7,9 +7,9 @@
 
 namespace sprout {
 
-/// Changes pitch and duration of a wave by the stretch service, channel by channel. Factors 0.5 to 2.
+/// Changes pitch and duration of a wave with the stretch service, channel by channel. Factors 0.5 to 2.
 ///
-/// Fewer than 3 frames pass unchanged; 3 to 511, or a failing service, give a silent wave of length 0. May be called
+/// Fewer than 3 frames stay unchanged; 3 to 511, or a failing service, give a silent wave of length 0. May be called
 /// from several threads at once.
 [[nodiscard]] WaveData StretchWave(const WaveData& wave, float pitchFactor, float durationFactor);
 

@@ -25,13 +25,13 @@ constexpr std::int32_t kTrackClip = 85;
 constexpr std::int32_t kSongClip = 100;
 constexpr std::int32_t kUnsetPosition = -1;
 
-/// What one mix is made of; waves count from 1.
+/// The input of one mix; waves count from 1.
 struct MixInput {
     std::vector<WaveData> waves = std::vector<WaveData>(1);
     std::vector<WaveFilePlacement> placements;
 };
 
-/// The place on the time line of a sound at `cell`, the line beginning at cell `origin`.
+/// The position of a sound at `cell` on a time line that begins at cell `origin`.
 std::int32_t OffsetOf(std::int32_t cell, std::int32_t origin)
 {
     return CellOffset(cell, origin, Shared().Song.Tempo, Shared().SampleRate);
@@ -52,7 +52,7 @@ std::int32_t FirstPaintedCell(const Track& track)
     return FindFirstPainted(track, cells);
 }
 
-/// Calls sound(cell, step) for every cell that sounds a step: each painted run begins the tune anew.
+/// Calls sound(cell, step) for every cell that sounds a step; the tune restarts at each painted run.
 template <class Sound>
 void RunTuneAlongPaint(const Track& track, Sound sound)
 {
@@ -78,7 +78,7 @@ std::size_t CountSoundingCells(const Track& track)
     return count;
 }
 
-/// Adds the steps of a track, whose sounds stand in `StepWave`, and their places.
+/// Adds the steps of a track, whose sounds are in `StepWave`, and their positions.
 void AddTuneTrack(MixInput& input, const Track& track, std::int32_t origin)
 {
     const auto base = static_cast<std::int32_t>(input.waves.size()) - 1;
@@ -139,7 +139,7 @@ private:
     /// The run ended before its wave.
     void EndRun()
     {
-        // The cut counts in frames of the program's rate, whatever the wave's.
+        // The cut is counted in frames at the program's rate, whatever the wave's.
         const std::int32_t length = OffsetOf(cellCount, 0);
         if (length < 0 || OffsetOf(runStart, track.FirstPainted) > kLongestWaveFrames - length)
             throw RunTimeError("The sound is too long.");
@@ -152,14 +152,14 @@ private:
         cellCount = 0;
     }
 
-    /// Index of the wave of this length, made if there is none.
+    /// Index of the wave with this length, created if there is none.
     std::int32_t CutTo(std::int32_t length)
     {
         const auto last = static_cast<std::int32_t>(input.waves.size()) - 1;
         for (std::int32_t index = last; index >= 1; --index)
             if (At(input.waves, index).Length == length)
                 return index;
-        // The length alone cuts a wave for the mixer, and its samples are not copied.
+        // For the mixer, the length alone cuts a wave; its samples are not copied.
         WaveData cut = wave;
         cut.Length = length;
         if (length > wave.Length) {
@@ -176,13 +176,13 @@ private:
     double cellSeconds;
     float waveSeconds = 0;
     MixInput input;
-    std::int32_t cellCount = 0; // of the wave that runs now
+    std::int32_t cellCount = 0; // of the current wave
     std::int32_t runStart = 0;
 };
 
 WaveData RenderAudio(Track& track)
 {
-    // FirstPainted keeps an old value then, and the song's mix counts it.
+    // FirstPainted then keeps its old value, which the song's mix uses.
     if (track.TrackAudio.Length <= 0)
         return EmptyWave();
     track.FirstPainted = FirstPaintedCell(track);
@@ -204,7 +204,7 @@ void RenderTrack(std::int32_t trackNumber, Render render)
     track.TrackRenderValid = true;
 }
 
-/// The tracks that take part in the song's mix, and how much they bring.
+/// The tracks in the song's mix, and how much they contribute.
 class SongParts {
 public:
     /// Finds the first painted cells and renders audio tracks.
@@ -252,7 +252,7 @@ private:
         return true;
     }
 
-    /// A track without paint takes part too: its first cell of 0 moves the song's start.
+    /// A track without paint also takes part: its first cell of 0 moves the song's start.
     bool TakeAudio(const Track& track, std::int32_t number)
     {
         RenderAudioTrack(number);
@@ -280,7 +280,7 @@ WaveData MixParts(SongState& song)
     return parts.Silent() ? EmptyWave() : parts.MixAll(song.SongFirstPos);
 }
 
-/// First frame of the wave that belongs to `cell`; nothing where that is no 32-bit number.
+/// First frame of the wave that belongs to `cell`; nothing if it is not a 32-bit number.
 std::optional<std::int32_t> FrameOfCell(const WaveData& wave, std::int32_t origin, std::int32_t cell,
                                         std::int32_t tempo)
 {
@@ -326,7 +326,7 @@ std::optional<PlayFrom> CutFromCell(const WaveData& wave, std::int32_t origin, s
     const std::optional<std::int32_t> frame = FrameOfCell(wave, origin, cell, tempo);
     if (!frame || *frame < 0 || *frame >= wave.Length || !HoldsItsFrames(wave))
         return std::nullopt;
-    // At an absurd tempo the place may round to 0, where no frame is.
+    // At an absurd tempo the position may round to 0, where there is no frame.
     return PlayFrom{CutWaveSlice(wave, std::max(*frame, 1), wave.Length), cell};
 }
 

@@ -52,7 +52,7 @@ WaveData MixCycle(const Tune& tune)
         if (step.OnPos == 1)
             placements.push_back({CellOffset(number, 1, tempo, rate), number});
     }
-    // The silent frame behind the last cell makes the wave a whole cycle long, however short the last sound is.
+    // The silent frame after the last cell extends the wave to a whole cycle, however short the last sound is.
     placements.push_back({CellOffset(tune.StepCount, 0, tempo, rate), 0});
     return MixWaves(std::move(waves), placements, 100, 0, kCycleClip);
 }

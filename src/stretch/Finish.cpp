@@ -13,7 +13,7 @@ namespace {
 constexpr double kSmallestOffset = 64;
 constexpr int kQuietStart = 64;
 
-/// From 0 at `step` 0 towards 1 at `steps`, as a raised cosine: it arrives at silence without a corner.
+/// From 0 at `step` 0 towards 1 at `steps`, as a raised cosine, so that it reaches silence without a corner.
 float FadeGain(Index step, Index steps)
 {
     const double way = static_cast<double>(step) / static_cast<double>(steps);

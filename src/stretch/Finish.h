@@ -12,14 +12,14 @@ namespace sprout::stretch {
 /// The samples as floats in the same units, without their offset (the mean) if that is above 64 units.
 [[nodiscard]] std::vector<float> ToFloats(std::span<const std::int16_t> samples);
 
-/// Fades the last 2 ms out, since a stretched sound can end on a click, and the first eight samples in if the sound
-/// that it came from begins near zero, which `startsQuietly` tells.
+/// Fades out the last 2 ms, because a stretched sound can end with a click, and fades in the first eight samples if
+/// `startsQuietly`: the original sound begins near zero.
 void FadeEnds(std::span<float> sound, bool startsQuietly, const Sizes& sizes);
 
-/// Whether the first sample is so small that a fade in hides nothing of the attack.
+/// Whether the first sample is so quiet that a fade-in does not hide the attack.
 [[nodiscard]] bool StartsQuietly(std::span<const std::int16_t> samples);
 
-/// Rounded to 16 bits; what is too loud is cut off at full scale and never wraps round.
+/// Rounded to 16 bits; louder samples are clipped at full scale and never wrap around.
 [[nodiscard]] std::vector<std::int16_t> ToSamples(std::span<const float> sound);
 
 } // namespace sprout::stretch

@@ -10,7 +10,7 @@ constexpr Index kHopsBefore = 10;
 constexpr Index kHopsApart = 12;
 constexpr float kRise = 3;
 constexpr float kShareOfLargest = 1e-3F;
-// The stroke begins where this share of its hop's energy has come.
+// The stroke begins where this share of its hop's energy is reached.
 constexpr float kShareOfHop = 0.02F;
 
 float SecondDifference(std::span<const float> sound, Index at)
@@ -39,7 +39,7 @@ std::vector<float> HopEnergies(std::span<const float> sound, Index hop)
     return energies;
 }
 
-/// Where in the hop from `first` on, which holds `energy`, the stroke begins.
+/// The start of the stroke in the hop from `first` on, which has `energy`.
 Index RefineOnset(std::span<const float> sound, Index first, float energy, const Sizes& sizes)
 {
     const Index end = std::min<Index>(first + sizes.onsetHop, std::ssize(sound));

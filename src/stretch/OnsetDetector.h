@@ -8,11 +8,11 @@
 
 namespace sprout::stretch {
 
-/// Places where an attack begins, ascending.
+/// Positions where an attack begins, ascending.
 ///
 /// An attack is where the energy of the second difference, which favours the high frequencies of a stroke, exceeds
-/// three times what it was in each of the ten hops before and a thousandth of the sound's largest; two of them lie at
-/// least twelve hops apart. Exact to `sizes.onsetGrain` samples. Cost: one pass over the sound.
+/// three times its value in each of the ten hops before and a thousandth of the sound's maximum; attacks are at least
+/// twelve hops apart. Accurate to `sizes.onsetGrain` samples. Cost: one pass over the sound.
 [[nodiscard]] std::vector<Index> FindOnsets(std::span<const float> sound, const Sizes& sizes);
 
 } // namespace sprout::stretch

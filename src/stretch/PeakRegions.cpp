@@ -21,7 +21,7 @@ bool IsHidden(float weak, float strong, Index distance)
     return weak * cube * cube < kSkirt * strong;
 }
 
-/// Appends a peak at `bin`, unless the skirt of the one before hides it; drops those before that it hides itself.
+/// Appends a peak at `bin`, unless the skirt of the previous one hides it; drops previous peaks that it hides.
 void AddPeak(std::span<const float> power, Index bin, std::vector<PeakRegion>& regions)
 {
     const auto powerAt = [power](Index at) { return power[static_cast<std::size_t>(at)]; };

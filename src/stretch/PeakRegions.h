@@ -19,11 +19,11 @@ struct PeakRegion {
 
 /// Divides the power spectrum of a block under a Hann window, transformed at 4/3 of its length.
 ///
-/// A peak is a bin above two neighbours on each side that is not a side lobe of a stronger one: those belong to their
-/// main lobe, and turned on their own they would drift apart from it. A border is the smallest bin between two peaks.
-/// The regions cover the spectrum without a gap; a spectrum without a peak gives none.
+/// A peak is a bin above two neighbours on each side that is not a side lobe of a stronger one: side lobes belong to
+/// their main lobe and would drift away from it if turned on their own. A border is the smallest bin between two peaks.
+/// The regions cover the spectrum without a gap; a spectrum without a peak has none.
 ///
-/// regions: receives the result; what it held is lost, its memory is used again.
+/// regions: receives the result; its old content is lost, its memory is reused.
 void FindPeakRegions(std::span<const float> power, std::vector<PeakRegion>& regions);
 
 } // namespace sprout::stretch

@@ -9,7 +9,7 @@ namespace {
 
 constexpr double kLargestVerbatimShare = 0.3;
 
-/// The first slice also keeps what lies before an onset that is too early for a slice of its own.
+/// The first slice also keeps the part before an onset that is too early for its own slice.
 Index VerbatimLength(const Slice& slice, Index quiet, const Sizes& sizes)
 {
     const Index wanted = sizes.attack + std::min(quiet, sizes.longestQuiet);

@@ -8,7 +8,7 @@
 
 namespace sprout::stretch {
 
-/// A part of a sound that is stretched alone, so that nothing of its end smears into the attack behind it.
+/// A part of a sound that is stretched alone, so that its end does not smear into the attack after it.
 struct Slice {
     Index inFirst = 0;
     Index inCount = 0;
@@ -21,8 +21,8 @@ struct Slice {
 
 /// Cuts a sound of `inCount` samples, to be stretched to `outCount`, ahead of its onsets (ascending).
 ///
-/// The slices cover both lengths without a gap, and each onset that has a slice lands at round(onset x stretch).
-/// Onsets too near to the start, to the end or to the slice before get none.
+/// The slices cover both lengths without a gap, and each onset that has a slice lands at round(onset x stretch). Onsets
+/// too close to the start, to the end or to the previous slice get none.
 [[nodiscard]] std::vector<Slice> CutSlices(std::span<const Index> onsets, Index inCount, Index outCount,
                                            const Sizes& sizes);
 

@@ -31,9 +31,9 @@ void AddBand(std::span<const float> sound, const TimeMap& map, Index window, con
     vocoder.AddStretched(sound, map, result);
 }
 
-/// Puts the attack back as it was: the frames behind it overlap it and shift its stroke a little.
+/// Restores the original attack: the frames after it overlap it and shift its stroke a little.
 ///
-/// The vocoder keeps the phases of the tones through the attack, so that the two fade into each other unnoticed.
+/// The vocoder keeps the phases of the tones through the attack, so the two cross-fade unnoticed.
 void RestoreAttack(std::span<const float> sound, Index verbatim, std::span<float> result)
 {
     const Index kept = verbatim / 2;
@@ -44,7 +44,7 @@ void RestoreAttack(std::span<const float> sound, Index verbatim, std::span<float
     }
 }
 
-/// The stretched slice, `tail` samples longer than it lasts: they fade out under the next one.
+/// The stretched slice plus `tail` samples, which fade out under the next one.
 std::vector<float> StretchSlice(std::span<const float> sound, const Slice& slice, Index tail, const Sizes& sizes)
 {
     const std::span<const float> part =

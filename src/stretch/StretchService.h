@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// The program's own engine for pitch and duration; keeps no state, so one serves every thread.
+/// The program's own engine for pitch and duration. It has no state, so all threads can share one.
 [[nodiscard]] std::unique_ptr<Stretch> MakeStretch();
 
 } // namespace sprout

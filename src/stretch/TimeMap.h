@@ -5,13 +5,14 @@
 
 namespace sprout::stretch {
 
-/// Which moment of a slice is heard at a moment of its result: the attack one to one, the rest at an even pace.
+/// Maps moments of a slice's result to moments of the slice: the attack one to one, the rest at a constant pace.
 class TimeMap {
 public:
-    /// verbatim: samples from the start that keep their place, fewer than both counts.
+    /// verbatim: samples at the start that keep their place, fewer than both counts.
     TimeMap(Index verbatim, Index inCount, Index outCount);
 
-    /// Input sample for output sample `out`; goes on evenly beyond the end, and one to one before the start.
+    /// Input sample for output sample `out`; continues at the same pace beyond the end, and one to one before the
+    /// start.
     [[nodiscard]] Index operator()(Index out) const;
 
 private:

@@ -24,8 +24,8 @@ struct WeightedFlatness {
     double weights = 0;
 };
 
-/// Adds the flatness of one band. One logarithm serves the whole geometric mean: sixteen powers of 16-bit sound
-/// multiply to 1e251 at most.
+/// Adds the flatness of one band. One logarithm is enough for the whole geometric mean: the product of sixteen powers
+/// of 16-bit sound is at most 1e251.
 void AddBand(WeightedFlatness& total, std::span<const FftBin> band)
 {
     double product = 1;
@@ -54,7 +54,7 @@ double FlatnessDb(std::span<const float> sound, const Sizes& sizes)
     const Index topBin = static_cast<Index>(kTopHz * static_cast<double>(size) / sizes.nominalRate);
     const Index end = std::min(topBin, fft.Bins() - 1);
 
-    // The middle of each of as many even parts as there are frames: no long sound costs more than a few transforms.
+    // The middle of each of `frames` equal parts: a long sound costs only a few transforms.
     const Index frames = std::clamp<Index>(std::ssize(sound) / size, 1, kMostFrames);
     WeightedFlatness total;
     for (Index frame = 0; frame < frames; ++frame) {

@@ -12,7 +12,7 @@ namespace sprout::stretch {
 namespace {
 
 constexpr Index kOverlap = 4;
-// Where the windows add up to less than this, nothing of the sound lies under them.
+// If the windows add up to less than this, there is no sound under them.
 constexpr float kLeastWeight = 1e-4F;
 
 // The operators of std::complex look for infinities; these do not and are several times as fast.
@@ -21,7 +21,7 @@ FftBin Times(FftBin a, FftBin b)
     return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
 }
 
-/// The direction of a / b, or none where either is nothing.
+/// The direction of a / b, or no turn if either is zero.
 FftBin DirectionBetween(FftBin a, FftBin b)
 {
     const FftBin product = Times(a, std::conj(b));
@@ -72,7 +72,7 @@ Vocoder::Vocoder(Index window, std::vector<float> binGains)
     assert(std::ssize(gains) == fft.Bins());
     for (Analysis& analysis : analyses)
         analysis.bins.resize(last.size());
-    // Two more than are used: a peak near the upper end needs its neighbours.
+    // Two more than used: a peak near the upper end needs its neighbours.
     power.resize(static_cast<std::size_t>(std::min(usedBins + 2, fft.Bins())));
 }
 
@@ -90,7 +90,7 @@ const std::vector<FftBin>& Vocoder::Analyse(std::span<const float> sound, Index 
     return analysis.bins;
 }
 
-/// Makes `last` the spectrum `now`, each peak turned on from `last` as far as it turned from `before` to `now`.
+/// Sets `last` to the spectrum `now`, each peak turned from `last` as far as it turned from `before` to `now`.
 void Vocoder::Turn(const std::vector<FftBin>& now, const std::vector<FftBin>& before)
 {
     for (std::size_t bin = 0; bin < power.size(); ++bin)
@@ -110,7 +110,7 @@ void Vocoder::Turn(const std::vector<FftBin>& now, const std::vector<FftBin>& be
 
 /// Adds the frame in `last`, analysed at `from`, to the sums around `at`.
 ///
-/// Only what lies inside the sound counts as weight: at its ends the frames would otherwise pull the level down.
+/// Only the part inside the sound counts as weight; otherwise the frames would lower the level at its ends.
 void Vocoder::OverlapAdd(std::span<const float> sound, Index from, Index at)
 {
     for (std::size_t bin = 0; bin < static_cast<std::size_t>(usedBins); ++bin)

@@ -14,7 +14,7 @@ namespace sprout {
 
 namespace {
 
-/// The one window, from its first opening on.
+/// The only tune window, once it was opened.
 QPointer<TuneFrm2>& TheTuneFrm2()
 {
     static QPointer<TuneFrm2> window;

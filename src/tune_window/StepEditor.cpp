@@ -45,13 +45,13 @@ constexpr QPoint kNotePianoPlace{8, 118};
 constexpr QSize kPianoCursorSize{32, 32};
 constexpr QPoint kPianoCursorTip{9, 3};
 constexpr std::chrono::milliseconds kPlayMarksInterval{40};
-constexpr std::int32_t kMostFocusSteps = 256; // as many as a person's tune can have; a stranger's file may hold more
+constexpr std::int32_t kMostFocusSteps = 256; // the most that a user's tune can have; a foreign file may contain more
 
 constexpr ButtonRow kChangeAllRow{"ChangeAllBtn", "Change All",
                                   "Change All button, use it to choose one instrument for all steps", Plate::Word,
                                   kDeepLeaf};
 
-/// The numbers of steps that can be picked; -1 asks for any.
+/// The step counts to pick from; -1 asks for another number.
 struct StepNosRow {
     const char* caption;
     std::int32_t steps;
@@ -63,7 +63,7 @@ constexpr std::array kStepNos{
     StepNosRow{"64 Steps", 64}, StepNosRow{"Other...!", kOtherSteps},
 };
 
-/// Turning the wheel over the box must not change the tune, closing its list must not close the window.
+/// Turning the wheel over the box must not change the tune; closing its list must not close the window.
 class StepNosBox : public QComboBox {
 public:
     explicit StepNosBox(QWidget* parent) : QComboBox(parent) { KeepClosingKeys(*this); }
@@ -216,7 +216,7 @@ const std::string& StepEditor::NameForPeople(const std::string& beat)
 
 void StepEditor::SyncStepCombo()
 {
-    // A number that is none of the list's own stands before them for as long as the tune has it.
+    // A count that is not in the list is shown above it while the tune has that count.
     if (StepNosCmb->count() > static_cast<int>(kStepNos.size()))
         StepNosCmb->removeItem(0);
     const std::int32_t count = Shared().CurrentTune.StepCount;
@@ -291,7 +291,7 @@ StepFocus* StepEditor::MakeStepFocus(std::int32_t step)
 
 void StepEditor::RunOnStep(std::int32_t step, const std::function<void()>& command)
 {
-    // A tune that is not shown yet may have fewer steps than the one that is.
+    // A tune that is not shown yet may have fewer steps than the visible one.
     if (step <= Shared().CurrentTune.StepCount)
         Guarded(command);
 }
@@ -311,7 +311,7 @@ void StepEditor::ShowEdited()
 {
     Q_EMIT TuneEdited();
     DrawTuneSteps();
-    // What sounds may have to be rendered first; what was clicked is seen before that.
+    // The sound may have to be rendered first; show the click before that.
     surface->repaint();
 }
 
@@ -399,7 +399,7 @@ void StepEditor::TickPlayPos()
         return HidePlayMarks();
     LastPlayStep = StepInPlay(play, Shared().Song.Tempo, tune.StepCount);
     PlayingStepImg->show();
-    // The mark of an on-step stays until the next one is struck.
+    // The mark of an on-step stays until the next on-step plays.
     if (At(tune.Steps, LastPlayStep).OnPos == 1) {
         lastOnStep = LastPlayStep;
         PlayingOnStepImg->show();

@@ -31,25 +31,25 @@ class StepFocus;
 class TunFramPic;
 
 /// The editing half of the tune window: `CurrentTune` as a row of step columns (`TunFramPic`) with its scroll bar, the
-/// number of steps, "Change All" and the marks of the step that plays.
+/// number of steps, "Change All" and the marks of the playing step.
 class StepEditor : public QWidget {
     Q_OBJECT
 
 public:
     explicit StepEditor(QWidget* parent);
 
-    /// Shows `CurrentTune` from its first step.
+    /// Shows `CurrentTune`, starting at its first step.
     void UpdateThisTune();
 
-    /// Plays `CurrentTune`, rendered if it must be, behind `leadIn` (>= 0) seconds of silence, and follows it with the
-    /// play marks.
+    /// Plays `CurrentTune` after `leadIn` (>= 0) seconds of silence, rendering it first if needed, and follows it with
+    /// the play marks.
     void PlayCurrentTune(float leadIn);
 
-    /// Follows the sound in play with the play marks.
+    /// Makes the play marks follow the current sound.
     void EnablePlayPosTimer();
     void HidePlayMarks();
 
-    /// How an instrument is chosen: as `ChooseBeat` of the beat window.
+    /// How an instrument is chosen, like `ChooseBeat` of the beat window.
     using BeatChooser = std::function<bool(std::string& name)>;
     void SetBeatChooser(BeatChooser chooser) { chooseBeat = std::move(chooser); }
 
@@ -115,7 +115,7 @@ private:
     void PlayBeat(std::int32_t step);
     void TickPlayPos();
 
-    std::map<std::string, std::string> namesForPeople; ///< of the beats met in the tune; the folder is asked once each
+    std::map<std::string, std::string> namesForPeople; ///< of the tune's beats; each is looked up in the folder once
 
     TunFramPic* surface = nullptr;
     QWidget* DummyDuration = nullptr;
@@ -130,14 +130,14 @@ private:
     QTimer PlayPosTimer;
     HintWatcher hints{this};
     std::vector<StepFocus*> stepFocus{nullptr}; ///< by step, from 1
-    std::int32_t tabStep = 1;                   ///< the Tab key stops at this step alone, the one that was reached last
+    std::int32_t tabStep = 1;                   ///< the only step that the Tab key stops at: the last one reached
     BeatChooser chooseBeat;
     QCursor pianoCursor;
 
     std::int32_t StepsLeft = kStepsLeftAtStart;
     bool ScrollGuard2 = false; ///< the program is setting `TunFramHScroll`
     bool DurationDragging = false;
-    std::int32_t handleStep = 0; ///< whose bar `DummyDuration` stands on
+    std::int32_t handleStep = 0; ///< the step whose bar `DummyDuration` is on
     std::int32_t DragStartX = 0;
     QPoint iconDown{-1, -1}; ///< where the mouse went down on the icon row; elsewhere if it did not
     std::int32_t LastPlayStep = 1;

@@ -95,7 +95,7 @@ void StepEditor::ReleaseSurface(QPoint place, Qt::MouseButton button)
 
 void StepEditor::MoveOnSurface(QPoint place, Qt::MouseButtons held)
 {
-    // A message that came up on the way has taken the release.
+    // A message that appeared meanwhile has received the release.
     if (held == Qt::NoButton)
         DurationDragging = false;
     if (DurationDragging)
@@ -152,7 +152,7 @@ void StepEditor::DragTo(QPoint place)
 bool StepEditor::StretchBar(std::int32_t step, std::int32_t pixels)
 {
     Tune& tune = Shared().CurrentTune;
-    // No flag is cleared: the step sounds as it was rendered last.
+    // Clears no flag: the step sounds as it was last rendered.
     if (step > tune.StepCount || !DragDuration(At(tune.Steps, step), pixels))
         return false;
     DrawTuneSteps();
@@ -163,13 +163,13 @@ bool StepEditor::StretchBar(std::int32_t step, std::int32_t pixels)
 void StepEditor::PressStepKey(std::int32_t step, QKeyEvent& event)
 {
     event.accept();
-    // A key that is held down would render, or delete, again and again.
+    // A held key would render, or delete, again and again.
     if (event.isAutoRepeat() && !IsArrow(event.key()))
         return;
     switch (event.key()) {
     case Qt::Key_Space:
         ToggleLamp(step);
-        return BringIntoView(step); // playing has brought step 1 back
+        return BringIntoView(step); // playing has scrolled back to step 1
     case Qt::Key_Home:
         return WalkTo(1);
     case Qt::Key_End:
@@ -249,7 +249,7 @@ void StepEditor::ChooseStepBeat(std::int32_t step)
         ChangeStepBeat(tune, step, name);
         Q_EMIT TuneEdited();
     }
-    DrawTuneSteps(); // which raises the icon
+    DrawTuneSteps(); // this also raises the icon
 }
 
 void StepEditor::OpenStepMenu(std::int32_t step, QPoint place)

@@ -16,7 +16,7 @@ namespace {
 
 constexpr int kRingTop = 16;
 constexpr int kRingBottom = 292;
-constexpr int kRingBeside = 3; ///< of the column
+constexpr int kRingBeside = 3; ///< beyond the column
 constexpr int kRingWidth = 3;
 constexpr qreal kRingRadius = 6;
 
@@ -62,7 +62,7 @@ void StepFocus::keyPressEvent(QKeyEvent* event)
 
 void StepFocus::keyReleaseEvent(QKeyEvent* event)
 {
-    event->ignore(); // the press has done it
+    event->ignore(); // the key press has already done it
 }
 
 void StepFocus::contextMenuEvent(QContextMenuEvent* /*event*/)

@@ -10,18 +10,17 @@
 
 namespace sprout {
 
-/// A step as the keyboard and a screen reader meet it: a button that is checked while the step is on. The mouse goes
-/// past it to the surface below, which draws the step; here only the ring of the focus is drawn.
+/// A step as the keyboard and screen readers see it: a button that is checked while the step is on. The mouse passes
+/// through to the surface below, which draws the step; only the focus ring is drawn here.
 class StepFocus : public QAbstractButton {
     Q_OBJECT
 
 public:
     StepFocus(std::int32_t step, QWidget* surface);
 
-    /// Takes the step's name and state, and its place. beat: its beat's name for people. stepsLeft: left edge of
-    /// step 1.
+    /// Updates the step's name, state and position. beat: display name of its beat. stepsLeft: left edge of step 1.
     void ShowStep(const TuneStep& step, std::string_view beat, std::int32_t stepsLeft);
-    /// Makes it the one step that the Tab key stops at, or one that only the arrow keys reach.
+    /// Makes it the only step that the Tab key stops at, or one that only the arrow keys reach.
     void SetTabStop(bool isTabStop) { setFocusPolicy(isTabStop ? Qt::TabFocus : Qt::ClickFocus); }
 
 Q_SIGNALS:

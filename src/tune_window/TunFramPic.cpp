@@ -26,13 +26,13 @@ constexpr int kLampWidth = 30;
 constexpr int kLampHeight = 16;
 constexpr int kStripEndWidth = 4;
 constexpr int kStripHeight = 38;
-constexpr int kNumberInset = 2; ///< of the figures' upper edge
+constexpr int kNumberInset = 2; ///< of the digits' upper edge
 constexpr int kBeatIconSide = 32;
-constexpr int kWheelStep = 120; ///< eighths of a degree a notch
+constexpr int kWheelStep = 120; ///< eighths of a degree per notch
 constexpr QColor kFrameLight{0xFF, 0xFF, 0xFF};
 constexpr QColor kFrameShade{0x80, 0x80, 0x80};
 
-/// Tells which steps have a beat without a file; each name is looked up once.
+/// Reports steps whose beat has no file; each name is looked up once.
 class MissingBeats {
 public:
     bool IsMissing(const Beat& beat)
@@ -49,7 +49,7 @@ private:
     std::map<std::string, bool> missing;
 };
 
-/// The pixel that a position lies in, at any pixel ratio.
+/// The pixel that contains a position, at any pixel ratio.
 QPoint PixelOf(QPointF position)
 {
     return {static_cast<int>(std::floor(position.x())), static_cast<int>(std::floor(position.y()))};
@@ -102,7 +102,7 @@ void TunFramPic::paintEvent(QPaintEvent* event)
     const QRect area = event->rect();
     QPainter painter(this);
     painter.setFont(HintFont());
-    // Icons are enlarged pixel by pixel where that comes out even.
+    // At whole pixel ratios icons are enlarged pixel by pixel.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
     painter.fillRect(area, kPaper);
     PaintStrip(painter, area);
@@ -119,7 +119,7 @@ void TunFramPic::paintEvent(QPaintEvent* event)
 
 void TunFramPic::ForColumnsIn(const QRect& area, const std::function<void(std::int32_t)>& paint) const
 {
-    // A column reaches a little over its left edge and into the next one's place.
+    // A column extends slightly over its left edge and into the next column.
     const std::int32_t first = std::max((area.left() - stepsLeft) / kStepPitch, 1);
     const std::int32_t last = std::min((area.right() - stepsLeft) / kStepPitch + 2, StepCount());
     for (std::int32_t step = first; step <= last; ++step)
@@ -139,7 +139,7 @@ void TunFramPic::PaintLamp(QPainter& painter, std::int32_t step) const
 {
     const int x = StepLeft(step, stepsLeft);
     painter.drawPixmap(x, kLampTop, Art(At(columns, step).on ? "StpOnPic" : "StpOffPic", kLampWidth, kLampHeight));
-    // The line of the font has room above its figures, which begin at the place itself.
+    // The font's line has room above its digits, which start exactly at the position.
     const int baseline = kNumberTop + kNumberInset + painter.fontMetrics().capHeight();
     painter.setPen(kBark);
     painter.drawText(x, baseline, QString::number(step));
@@ -171,7 +171,7 @@ void TunFramPic::PaintFrame(QPainter& painter, std::int32_t step) const
 
 void TunFramPic::PaintKeys(QPainter& painter, std::int32_t step) const
 {
-    // The key of the beat's own pitch, the lowest one of the upper octave, stands out.
+    // The key for the beat's own pitch, the lowest one of the upper octave, is highlighted.
     const int x = StepLeft(step, stepsLeft);
     painter.drawPixmap(x, kUpperOctaveTop, Art("KeysPicOwnPitch", kOctaveWidth, kOctaveHeight));
     painter.drawPixmap(x, kLowerOctaveTop, Art("KeysPic", kOctaveWidth, kOctaveHeight));
@@ -179,7 +179,7 @@ void TunFramPic::PaintKeys(QPainter& painter, std::int32_t step) const
 
 void TunFramPic::PaintBars(QPainter& painter, const QRect& area) const
 {
-    // From the last to the first: a bar that reaches into the next columns lies over theirs.
+    // From last to first: a bar that reaches into the next columns is drawn over theirs.
     for (std::int32_t step = StepCount(); step >= 1; --step) {
         const DurationBar& bar = At(bars, step);
         const bool isSeen = bar.left <= area.right() && bar.right >= area.left();
@@ -191,7 +191,7 @@ void TunFramPic::PaintBars(QPainter& painter, const QRect& area) const
 void TunFramPic::PaintBar(QPainter& painter, const DurationBar& bar, std::int32_t middle) const
 {
     painter.drawPixmap(bar.left, bar.top, Art("DurationLeft", kDurationLeftWidth, kBarHeight));
-    // A file may hold a bar of any length.
+    // A file may contain a bar of any length.
     const int shown = std::min(middle, std::max(width() - bar.left, 0));
     if (shown > 0)
         painter.drawPixmap(QRect(bar.left + kDurationLeftWidth, bar.top, shown, kBarHeight),

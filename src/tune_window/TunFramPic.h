@@ -13,28 +13,28 @@
 
 namespace sprout {
 
-/// The surface of the step editor: draws the columns of a tune as they were when it was last asked to, and passes the
-/// mouse on in its own pixels.
+/// The surface of the step editor: draws a tune's columns as of the last request, and passes on mouse events in its own
+/// pixels.
 class TunFramPic : public QWidget {
     Q_OBJECT
 
 public:
     explicit TunFramPic(QWidget* parent);
 
-    /// Takes a tune's columns to draw from now on. stepsLeft: left edge of step 1.
+    /// Sets the tune whose columns are drawn from now on. stepsLeft: left edge of step 1.
     void DrawTuneSteps(const Tune& tune, std::int32_t stepsLeft);
 
-    /// Shows the icon of a step pushed in, until the next drawing.
+    /// Shows a step's icon pressed, until the next drawing.
     void DrawIconPressed(std::int32_t step);
 
-    /// The bars as drawn, from 1; those of off-steps are all 0.
+    /// The bars as drawn, from 1; all values of off-steps are 0.
     [[nodiscard]] const std::vector<DurationBar>& DurationBars() const { return bars; }
 
 Q_SIGNALS:
     void Pressed(QPoint place, Qt::MouseButton button);
     void Moved(QPoint place, Qt::MouseButtons held);
     void Released(QPoint place, Qt::MouseButton button);
-    void Wheeled(int pixels); ///< to the right, to the left if below 0
+    void Wheeled(int pixels); ///< to the right, or to the left if negative
     void Resized();
 
 protected:
@@ -46,7 +46,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    /// What is drawn of a step.
+    /// What is drawn for a step.
     struct Column {
         bool on = false;
         bool beatIsMissing = false;
@@ -68,10 +68,10 @@ private:
     std::vector<DurationBar> bars = std::vector<DurationBar>(1);
     std::vector<std::int32_t> middles = std::vector<std::int32_t>(1); ///< widths of the bars' middles
     std::int32_t stepsLeft = kStepsLeftAtStart;
-    std::int32_t pressedStep = 0; ///< whose icon is pushed in
+    std::int32_t pressedStep = 0; ///< the step whose icon is pressed
 };
 
-/// An artwork that stands on a window and takes no mouse.
+/// An artwork in a window that ignores the mouse.
 class ArtImage : public QWidget {
     Q_OBJECT
 

@@ -35,7 +35,7 @@ void PutAt(QWidget& widget, const PlanBox& box)
     widget.setGeometry(box.x, box.y, box.width, box.height);
 }
 
-/// A label's text, its end left out where it has no room.
+/// Shows a text; its end is cut off if it does not fit.
 void SetFittingText(QLabel& label, const QString& text)
 {
     label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
@@ -45,7 +45,7 @@ void SetFittingText(QLabel& label, const QString& text)
 
 } // namespace
 
-/// A button and what its click does.
+/// A button and its click handler.
 struct TuneFrm2::CommandRow {
     ButtonRow button;
     Command command = nullptr;
@@ -94,7 +94,7 @@ void TuneFrm2::MakeChosenTune()
 
 void TuneFrm2::MakeButtons()
 {
-    // The first one is the one that Enter presses.
+    // Enter presses the first one.
     const std::array rows{
         CommandRow{{"OkBtn", "OK", "Click Ok after choosing and/or editing a tune", Plate::Word, kDeepLeaf},
                    &TuneFrm2::OkBtn},
@@ -181,7 +181,7 @@ void TuneFrm2::Open()
     TakeTuneTable();
     ShowAllPic->SetTopRow(1);
     showsEditorsTune = true;
-    editor->UpdateThisTune(); // no tune of the table may take its place
+    editor->UpdateThisTune(); // no tune of the table may replace it
     Guarded([this] { FindChosenTune(); });
     ShowAllPic->BringIntoView(SelectedTune);
     ShowAllPic->setFocus();
@@ -309,7 +309,7 @@ void TuneFrm2::reject()
 
 void TuneFrm2::HearByKey(const QKeyEvent& event)
 {
-    if (!event.isAutoRepeat()) // held down it would start the tune again and again
+    if (!event.isAutoRepeat()) // holding the key must not restart the tune again and again
         Guarded([this] { TestPlayBtn(); });
 }
 
@@ -323,7 +323,7 @@ void TuneFrm2::keyPressEvent(QKeyEvent* event)
 
 bool TuneFrm2::eventFilter(QObject* watched, QEvent* event)
 {
-    // In the grid the blank hears the tune as it stands now, edits and all.
+    // In the grid, Space plays the current tune including its edits.
     if (watched == ShowAllPic && event->type() == QEvent::KeyPress &&
         static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
         HearByKey(static_cast<QKeyEvent&>(*event));

@@ -21,7 +21,7 @@ class PictureGridPic;
 class StepEditor;
 class TunePicture;
 
-/// The window in which the tune of a track is chosen, from the grid of all tunes, and edited. What is edited is
+/// The window for choosing a track's tune from the grid of all tunes and for editing it. The edited tune is
 /// `CurrentTune`.
 class TuneFrm2 : public BandedForm {
     Q_OBJECT
@@ -31,27 +31,27 @@ public:
 
     std::string OriginalTuneName; ///< of the tune when the window opened
     std::string ChosenTuneName;   ///< to select when the window opens
-    bool OkPressed = false;       ///< the window was left with OK
+    bool OkPressed = false;       ///< the user left the window with OK
     bool TuneChanged = false;     ///< the track must take `CurrentTune`
     bool NewTuneMode = false;     ///< nothing is chosen at first; read once by `RefreshShowAllPic`
 
     /// Fits the window to its screen and shows it modally, scrolled to its first tunes.
     void Open();
 
-    /// Sizes the window for a screen with this much room.
+    /// Sizes the window for this much screen space.
     void FitTo(QSize room);
 
-    /// Selects the tune of the name `ChosenTuneName` and draws the grid. A name that no tune of the grid has selects
-    /// nothing; without a name the first tune is chosen and plays.
+    /// Selects the tune named `ChosenTuneName` and draws the grid. If no tune of the grid has that name, nothing is
+    /// selected; if the name is empty, the first tune is chosen and plays.
     void FindChosenTune();
 
-    /// Draws the grid. Where nothing was chosen yet, the first tune is chosen and plays.
+    /// Draws the grid. If nothing was chosen yet, the first tune is chosen and plays.
     void RefreshShowAllPic();
 
     /// Shows `CurrentTune` in the labels and in the editor.
     void UpdateThisTune();
 
-    /// Takes the tunes of `TuneTable` into the grid.
+    /// Copies the tunes of `TuneTable` into the grid.
     void TakeTuneTable();
 
     /// Acts as `CancelBtn`.
@@ -64,7 +64,7 @@ protected:
 private:
     using Command = void (TuneFrm2::*)();
     static constexpr std::int32_t kNothingChosen = -1;
-    static constexpr int kDeleteItem = 4; ///< in `MoveMnu`, behind the moves
+    static constexpr int kDeleteItem = 4; ///< in `MoveMnu`, after the moves
     struct CommandRow;
 
     void MakeGrid();
@@ -106,9 +106,9 @@ private:
     void SaveUnder(const TuneNames& names);
     void TakePicture(const std::filesystem::path& file);
 
-    Tune ChosenTune;               ///< copy of the chosen entry of `TuneTable`, whole once it was played
-    std::int32_t SelectedTune = 0; ///< into `TuneTable`; below 1 nothing is chosen
-    /// From the opening until a picture of the grid is chosen: what is shown and heard is the editor's tune.
+    Tune ChosenTune;               ///< copy of the chosen entry of `TuneTable`, complete once played
+    std::int32_t SelectedTune = 0; ///< index in `TuneTable`; below 1 nothing is chosen
+    /// From opening until a picture of the grid is chosen: the editor's tune is shown and played.
     bool showsEditorsTune = false;
 
     PictureGridPic* ShowAllPic = nullptr;

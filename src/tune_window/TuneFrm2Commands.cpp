@@ -176,7 +176,7 @@ void TuneFrm2::SaveUnder(const TuneNames& names)
     Shared().CurrentTune.CreatedBy = names.CreatedBy;
     ShowNames(names.Name, names.CreatedBy);
     ReadTunesAgain();
-    // The last one, whatever place the saved tune has.
+    // The last one, wherever the saved tune is.
     SelectedTune = Shared().TuneTableCount;
     ChosenTune = Shared().CurrentTune;
     RefreshShowAllPic();

@@ -8,17 +8,17 @@
 
 namespace sprout {
 
-/// Asks what a tune is to be saved under. The name can always be that of a file.
+/// Asks for the names to save a tune under. The name is always a valid file name.
 class TuneNameFrm : public BandedForm {
     Q_OBJECT
 
 public:
     TuneNameFrm(QWidget* parent, const TuneNames& names);
 
-    /// The form was left with `OkBtn`.
+    /// The user left the form with `OkBtn`.
     bool NameOk = false;
 
-    /// The texts of the boxes as they stand.
+    /// The current texts of the boxes.
     [[nodiscard]] TuneNames Names() const;
 
 private:

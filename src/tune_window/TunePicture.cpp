@@ -27,7 +27,7 @@ TunePicture::TunePicture(QWidget* parent) : QAbstractButton(parent)
 void TunePicture::SetPicture(const sprout::Picture& picture)
 {
     shown = picture;
-    // As a tune file keeps it: the top left of a larger picture.
+    // As in a tune file: only the top left of a larger picture.
     image = picture.IsNothing() ? QImage() : ToImage(PictureFromColumns(PictureColumns(picture)));
     update();
 }

@@ -8,14 +8,14 @@
 
 namespace sprout {
 
-/// The picture of a tune in a white frame, to click on. It is drawn as large as whole multiples of its pixels fit.
+/// A clickable tune picture in a white frame, drawn at the largest whole multiple of its pixels that fits.
 class TunePicture : public QAbstractButton {
     Q_OBJECT
 
 public:
     explicit TunePicture(QWidget* parent);
 
-    /// No picture clears it.
+    /// An empty picture clears it.
     void SetPicture(const sprout::Picture& picture);
     [[nodiscard]] const sprout::Picture& Picture() const { return shown; }
 

@@ -30,7 +30,7 @@ void KeepSound(const Tune& tune, const fs::path& path)
     try {
         TunOpnSavClass().Save_Tune(path);
     } catch (const RunTimeError&) {
-        return; // it is rendered again when it is chosen again
+        return; // it is rendered again the next time it is chosen
     }
 }
 
@@ -61,7 +61,7 @@ void MakeNewTune(Tune& tune)
     tune.CreatedBy = "Me";
     tune.Name = "New";
     MakeStepsOff(tune);
-    tune.TuneWave = WaveData(); // or a file that is saved at once would carry the sound of another tune
+    tune.TuneWave = WaveData(); // or a file saved at once would contain the sound of another tune
     tune.TuneWaveValid = false;
 }
 
@@ -77,7 +77,7 @@ void LoadChosenTune(Tune& chosenTune)
     bool keep = wasReadWhole && !Shared().SongBeatsInside && CacheIsMissing(path);
     if (!chosenTune.TuneWaveValid) {
         RenderTuneCycle(chosenTune);
-        // A failed render has no length; a file that kept it would be silent for ever.
+        // A failed render has no length; storing it would silence the file for ever.
         keep = wasReadWhole && chosenTune.TuneWave.Length > 0;
     }
     if (keep)

@@ -27,7 +27,7 @@ constexpr std::int32_t kMostSteps = 256;
 constexpr std::int32_t kMostPitchShift = 64;
 constexpr std::int32_t kMostVolume = 1000;
 
-/// The list of a key, one text a step; `fallback` for each step where the key is missing.
+/// The list for a key, one text per step; `fallback` for every step if the key is missing.
 std::vector<std::string> StepTexts(const IniFile& ini, std::string_view key, char separator, std::string_view fallback,
                                    std::int32_t stepCount)
 {
@@ -56,7 +56,7 @@ std::int32_t ReadStepCount(const IniFile& ini)
     return count > kMostSteps ? kMostSteps : count;
 }
 
-/// Steps without a sound, a length and a loudness.
+/// Steps without sound, length or loudness.
 void MakeBareSteps(Tune& tune, std::int32_t count)
 {
     TuneStep bare;
@@ -66,7 +66,7 @@ void MakeBareSteps(Tune& tune, std::int32_t count)
     tune.StepCount = count;
 }
 
-/// What a tune and a star of the old form have in common.
+/// Reads what tunes and stars of the old form have in common.
 void ReadStepCycle(const IniFile& ini, Tune& tune)
 {
     MakeBareSteps(tune, ReadStepCount(ini));
@@ -79,7 +79,7 @@ void ReadStepCycle(const IniFile& ini, Tune& tune)
         step.OnPos = on[i] != 0 ? 1 : 0;
         if (pitch[i] >= -kMostPitchShift && pitch[i] <= kMostPitchShift)
             step.PitchShift = pitch[i];
-        step.Duration = duration[i]; // no limit: old tunes may hold any length
+        step.Duration = duration[i]; // no limit: old tunes may have any length
         if (volume[i] >= 0 && volume[i] <= kMostVolume)
             step.Volume = volume[i];
     }

@@ -41,7 +41,7 @@ const auto& DrawFrom(const Pool& pool, const RandomNumber& next)
     return pool[static_cast<std::size_t>(Draw(next, static_cast<std::int32_t>(pool.size())))];
 }
 
-/// One number is drawn also where there is no picture.
+/// One number is drawn even if there is no picture.
 Picture DrawPicture(const RandomNumber& next)
 {
     const std::vector<std::string> names = NamesInFolder(Shared().UserStars, kPictureExtension);
@@ -77,7 +77,7 @@ bool IsShort(const std::string& beatName)
     return !error && bytes < kShortBeatBytes;
 }
 
-/// Draws until a short beat is met; where none is short, the first draw decides, or there would be no end.
+/// Draws until a short beat comes up; if none is short, the first draw counts, or the loop would never end.
 const std::string& DrawShortBeat(const std::vector<std::string>& names, bool hasShort, const RandomNumber& next)
 {
     const std::string* name = &DrawFrom(names, next);
@@ -137,7 +137,7 @@ void DrawSteps(Tune& tune, const RandomNumber& next)
     }
 }
 
-/// A step sounds on over the gap behind it.
+/// A step keeps sounding through the gap after it.
 void SetDurations(Tune& tune)
 {
     const auto isOn = [&tune](std::int32_t step) { return step > tune.StepCount || At(tune.Steps, step).OnPos == 1; };
@@ -155,7 +155,7 @@ RandomSequence RandomSequence::FromClock()
 
 float RandomSequence::operator()()
 {
-    // 24 bits are what a float holds, so that no number is rounded up to 1.
+    // A float holds 24 bits, so no number is rounded up to 1.
     return static_cast<float>(generator() >> 8) / static_cast<float>(1U << 24);
 }
 

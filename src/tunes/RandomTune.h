@@ -11,7 +11,7 @@ namespace sprout {
 /// Gives the next number of a random sequence, 0 <= r < 1.
 using RandomNumber = std::function<float()>;
 
-/// A random sequence that begins anew.
+/// A random sequence that starts from the beginning.
 class RandomSequence {
 public:
     explicit RandomSequence(std::uint32_t seed) : generator(seed) {}
@@ -25,9 +25,8 @@ private:
     std::mt19937 generator;
 };
 
-/// Makes up a tune from the folders of beats and stars: name, author, picture, steps. Its sound is stale then. The
-/// order of the draws is part of the rule, so that one sequence always gives one tune. Unreadable files are told in
-/// messages.
+/// Creates a tune from the folders of beats and stars: name, author, picture, steps. Its sound is then stale. The order
+/// of the draws is fixed, so the same sequence always gives the same tune. Messages report unreadable files.
 void MakeRandomTune(Tune& tune, const RandomNumber& next);
 
 } // namespace sprout

@@ -20,7 +20,7 @@ fs::path CachePath(const fs::path& tunePath)
     return tunePath.native() + "Cache";
 }
 
-/// Opens a file for writing without emptying it; makes it where it is missing.
+/// Opens a file for writing without emptying it; creates it if it is missing.
 bool OpenKept(std::filebuf& file, const fs::path& path)
 {
     return file.open(path, std::ios::in | std::ios::out | std::ios::binary) ||
@@ -59,7 +59,7 @@ void ReadTuneCache(Tune& tune, const fs::path& path)
         tune.TuneWave = data.GetWave();
         tune.TuneWaveValid = true;
     } catch (const RunTimeError&) {
-        return; // the tune is rendered afresh when it is played
+        return; // the tune is rendered again when it is played
     }
 }
 

@@ -8,31 +8,31 @@
 
 namespace sprout {
 
-/// What a tune is saved under.
+/// The names that a tune is saved under.
 struct TuneNames {
     std::string Name;
     std::string CreatedBy;
     friend bool operator==(const TuneNames&, const TuneNames&) = default;
 };
 
-/// What the boxes hold when a tune is to be saved: nothing for an original, so that a changed one cannot pass as the
-/// maker's, unless originals may be edited.
+/// Initial content of the boxes when a tune is saved. Empty for an original, unless originals may be edited, so that a
+/// changed one cannot pass as the maker's.
 [[nodiscard]] TuneNames NamesToOffer(const Tune& tune, bool allowEditOriginal);
 
-/// The names without blanks at their ends.
+/// The names without leading and trailing blanks.
 [[nodiscard]] TuneNames Trimmed(const TuneNames& names);
 
-/// What is said to one who left out a name; empty for names that are there.
+/// What to tell a user who left out a name; empty if nothing is missing.
 [[nodiscard]] std::string_view WhatIsMissing(const TuneNames& names);
 
-/// True where the file of that name holds a tune of the maker's. Overwrites `TuneClipboard`.
+/// True if the file with that name is one of the maker's tunes. Overwrites `TuneClipboard`.
 [[nodiscard]] bool IsNameOfOriginal(std::string_view name);
 
-/// Saves a tune under its `Name`. A file whose name differs in letter case only is replaced by it. Throws
-/// `RunTimeError`; what was there before stands then.
+/// Saves a tune under its `Name`. Replaces a file whose name differs only in letter case. Throws `RunTimeError`; the
+/// old file then stays.
 void SaveTuneFile(const Tune& tune);
 
-/// Deletes the files of a tune. What cannot be deleted stays.
+/// Deletes the files of a tune, as far as possible.
 void DeleteTuneFiles(std::string_view name);
 
 } // namespace sprout

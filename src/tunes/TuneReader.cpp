@@ -54,7 +54,7 @@ void ReadBeatEntry(LongsReader& data, Beat& beat)
 
 void ReadBeats(LongsReader& data, Tune& tune)
 {
-    // First on-step of each name as the file tells it; a beat that is not found loses its name on the way.
+    // First on-step for each name in the file; a beat that is not found loses its name on the way.
     std::unordered_map<std::string, std::int32_t> firstSteps;
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
         TuneStep& step = At(tune.Steps, i);

@@ -73,7 +73,7 @@ bool IsInTuneTable(std::int32_t index)
 
 std::int32_t FindInTuneTable(std::string_view name)
 {
-    // An entry that could not be read has no name; it is not what is looked for.
+    // An entry that could not be read has an empty name, which must not match.
     for (std::int32_t i = 1; i <= Shared().TuneTableCount && !name.empty(); ++i)
         if (EqualIgnoringCase(At(Shared().TuneTable, i).Name, name))
             return i;

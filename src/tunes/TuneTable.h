@@ -11,26 +11,26 @@
 
 namespace sprout {
 
-/// The file of a tune in `UserTunes`; empty, which names no file, for a name that can have none.
+/// The file of a tune in `UserTunes`; empty, which names no file, if the name cannot have one.
 [[nodiscard]] std::filesystem::path TuneFile(std::string_view name);
 
-/// The file that holds the order of the tunes in `UserTunes`.
+/// The file with the order of the tunes in `UserTunes`.
 [[nodiscard]] std::filesystem::path TuneIndexFile();
 
-/// Names by their places in the index; names of one place keep their order.
+/// The names sorted by their places in the index; names with the same place keep their order.
 [[nodiscard]] std::vector<std::string> InTuneOrder(std::vector<std::string> names, const FolderOrder& index);
 
-/// Reads the heads of all tunes of `UserTunes` into `TuneTable`, under the working sign. A tune that cannot be read is
-/// told in a message and leaves an empty entry.
+/// Reads the heads of all tunes in `UserTunes` into `TuneTable`, under the working sign. A tune that cannot be read is
+/// reported in a message and leaves an empty entry.
 void ReadTuneTable();
 
 /// Writes the order of `TuneTable` to the index.
 void SaveTuneOrder();
 
-/// True for an index of `TuneTable` that holds a tune; below 1 nothing is chosen.
+/// True if an index of `TuneTable` has a tune; below 1 nothing is chosen.
 [[nodiscard]] bool IsInTuneTable(std::int32_t index);
 
-/// The first tune of that name in any letter case; 0 where there is none, and for an empty name.
+/// The first tune with that name in any letter case; 0 if there is none or the name is empty.
 [[nodiscard]] std::int32_t FindInTuneTable(std::string_view name);
 
 } // namespace sprout

@@ -28,7 +28,7 @@ void WriteBeatNames(LongsWriter& data, const Tune& tune)
 
 void WriteBeatEntries(LongsWriter& data, const Tune& tune)
 {
-    // Names are equal when they are written alike: the reader knows no more of them.
+    // Names are equal if they are stored alike: the reader cannot tell them apart.
     std::unordered_set<std::string> written;
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
         const TuneStep& step = At(tune.Steps, i);
@@ -50,7 +50,7 @@ LongsWriter Write_Tune_Data(const Tune& tune)
     WriteBeatNames(data, tune);
     WriteBeatEntries(data, tune);
     data.Put(Shared().SongBeatsInside ? 1 : 0);
-    // Whether the sound is that of the steps is not asked: a tune that was not rendered again plays its old sound.
+    // Does not check that the sound matches the steps: a tune that was not rendered again plays its old sound.
     if (Shared().SongBeatsInside)
         data.PutWave(tune.TuneWave);
     data.PutLastIndex();

@@ -60,7 +60,7 @@ QSize DevicePixels(QSize size, qreal pixelRatio)
     return (QSizeF(size) * pixelRatio).toSize();
 }
 
-/// Artworks that are drawn before they are asked for.
+/// Artworks that are drawn before they are requested.
 class ArtworkAhead {
 public:
     ArtworkAhead() = default;
@@ -79,7 +79,7 @@ public:
         worker = std::thread([this] { DrawWaiting(); });
     }
 
-    /// The artwork, an empty image where the caller has to draw it.
+    /// Returns the artwork; an empty image if the caller must draw it.
     QImage Take(const QString& key)
     {
         std::unique_lock lock(mutex);
@@ -88,7 +88,7 @@ public:
         return drawn.take(key);
     }
 
-    /// Draws nothing more than what is just being drawn.
+    /// Finishes the artwork that is being drawn and drops the rest.
     void End()
     {
         {
@@ -123,7 +123,7 @@ private:
     }
 
     std::thread worker;
-    std::mutex mutex; // of what follows
+    std::mutex mutex; // protects the members below
     std::condition_variable isDrawn;
     std::deque<Order> waiting;
     QString beingDrawn;
@@ -136,7 +136,7 @@ ArtworkAhead& TheArtworkAhead()
     return ahead;
 }
 
-/// Drawing uses tables of Qt that may go before anything static of ours: it ends with the application.
+/// Drawing uses Qt tables that may be destroyed before our statics, so it ends with the application.
 void EndArtworkAhead()
 {
     TheArtworkAhead().End();

@@ -13,13 +13,13 @@
 
 namespace sprout {
 
-/// An artwork at a size in logical pixels, drawn sharp for a screen's pixel ratio. Each is drawn once and kept.
+/// An artwork at a size in logical pixels, drawn sharply for a screen's pixel ratio. Each one is drawn once and kept.
 ///
-/// name: path below art/ without its ending, "buttons/PlayAllBtn"; an unknown name gives an empty pixmap.
-/// inPlaceOfDeepLeaf: takes the place of that one colour, for plates that come in several.
+/// name: path below art/ without the file extension, e.g. "buttons/PlayAllBtn"; an unknown name gives an empty pixmap.
+/// inPlaceOfDeepLeaf: replaces that one colour, for plates that come in several colours.
 [[nodiscard]] QPixmap Artwork(const QString& name, QSize size, qreal pixelRatio, const QColor& inPlaceOfDeepLeaf = {});
 
-/// What `Artwork` is asked for.
+/// The arguments of a call of `Artwork`.
 struct WantedArtwork {
     QString name;
     QSize size;
@@ -28,14 +28,14 @@ struct WantedArtwork {
 };
 [[nodiscard]] QPixmap Artwork(const WantedArtwork& wanted);
 
-/// Draws artworks in a thread of its own while the program goes on. `Artwork` takes what is drawn, waits for the one
-/// that is just being drawn, and draws the others itself.
+/// Draws artworks in a background thread. `Artwork` takes what is finished, waits for the one that is being drawn, and
+/// draws the others itself.
 void DrawArtworkAhead(const std::vector<WantedArtwork>& wanted);
 
-/// A 32 x 32 artwork as a picture of the song, opaque on white.
+/// A 32 x 32 artwork as a song picture, opaque on white.
 [[nodiscard]] Picture ArtworkPicture(const QString& name);
 
-/// A picture of the song for drawing.
+/// A song picture, converted for drawing.
 [[nodiscard]] QImage ToImage(const Picture& picture);
 
 } // namespace sprout

@@ -40,7 +40,7 @@ QPainterPath Outline(const QRectF& rect)
     return path;
 }
 
-/// An X server may have no compositor, and then shows black where a window lets through.
+/// An X server without a compositor shows transparent parts of a window as black.
 bool CornersNeedMask()
 {
     return QGuiApplication::platformName() == QStringLiteral("xcb");

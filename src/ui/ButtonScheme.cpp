@@ -107,7 +107,7 @@ void ButtonScheme::RefreshButtons()
 
 bool ButtonScheme::eventFilter(QObject* watched, QEvent* event)
 {
-    // A key can open a form while the mouse holds a button, which would then not see itself released.
+    // A key can open a form while a mouse button is held; the held button would then miss its release.
     if (event->type() == QEvent::WindowBlocked)
         LetGo();
     return QObject::eventFilter(watched, event);

@@ -16,18 +16,18 @@ namespace sprout {
 
 enum class AllOffTimer { OffAtFirst, OnAtOnce };
 
-/// The image buttons of one window: it makes them from rows of a table, moves their faces, shows their hints, and lets
-/// a raised button fall back after five seconds without a move over a button (`ButtonAllOffTimer`).
+/// The image buttons of one window. It creates them from table rows, switches their faces, shows their hints, and
+/// lowers a raised button after five seconds without a move over a button (`ButtonAllOffTimer`).
 class ButtonScheme : public QObject {
     Q_OBJECT
 
 public:
     ButtonScheme(QWidget& window, AllOffTimer timer);
 
-    /// Makes a button of the window; the click runs `onClick`.
+    /// Adds a button to the window; a click runs `onClick`.
     ImageButton& AddButton(const ButtonRow& row, std::function<void()> onClick);
 
-    /// The button of a name that was added.
+    /// The added button with this name.
     [[nodiscard]] ImageButton& Button(std::string_view name) const;
 
     void InitButtons();

@@ -11,7 +11,7 @@ namespace sprout {
 /// The four faces of an image button; `None` is shown before the first refresh.
 enum class ButtonFace : std::int32_t { None = 0, Normal = 1, Raised = 2, Pressed = 3, PressedOn = 4 };
 
-/// The word that stands for a face in the names of artwork.
+/// The word for a face in artwork names.
 [[nodiscard]] std::string_view FaceName(ButtonFace face);
 
 struct ButtonState {
@@ -20,8 +20,8 @@ struct ButtonState {
     ButtonFace Shown = ButtonFace::None;
 };
 
-/// The state machine of a window's image buttons, which are numbered from 1 in the order of their table. A button in
-/// `PressedOn` is set and cleared by code alone and keeps its face under hover and press.
+/// The state machine of a window's image buttons, numbered from 1 in table order. Only code sets and clears
+/// `PressedOn`; a button in that face keeps it under hover and press.
 class ButtonStates {
 public:
     /// Returns the new button's number.
@@ -30,8 +30,8 @@ public:
     /// All buttons want their normal face, and none is shown yet.
     void InitButtons();
 
-    void ButtonHover(int button); ///< nothing while a mouse button is held
-    void ButtonsOff();            ///< what is raised falls back
+    void ButtonHover(int button); ///< does nothing while a mouse button is held
+    void ButtonsOff();            ///< lowers every raised button
     void ButtonPress(int button);
     void ButtonRelease(int button);
     void SetWanted(int button, ButtonFace face);

@@ -6,7 +6,7 @@
 
 namespace sprout {
 
-/// On Wayland a window can neither place nor drag itself: the desktop does it when it is asked.
+/// On Wayland a window cannot place or drag itself: the desktop does it on request.
 [[nodiscard]] inline bool DesktopPlacesWindows()
 {
     return QGuiApplication::platformName().startsWith(QStringLiteral("wayland"));

@@ -8,20 +8,20 @@ class QWidget;
 
 namespace sprout {
 
-/// The window that a question belongs to: the modal one that waits, else the active one. Never the help, whose closing
-/// would take the question along; null where there is no other.
+/// The window that a question belongs to: the open modal window, else the active one. Null if there is none. Never the
+/// help, because closing it would also close the question.
 [[nodiscard]] QWidget* WindowInFront();
 
-// Modal questions and messages in the program's own forms, shown from the window that is in front. A blank title stands
-// for the program's name; one blank is put before every title.
+// Modal questions and messages in the program's own forms, shown from the front window. A blank title means the
+// program's name; every title gets one leading blank.
 
-/// A message with OK, of one line if `line2` is blank.
+/// Shows a message with OK; it has one line if `line2` is blank.
 void ShowMessage(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
 
-/// Asks whether something may be deleted or overwritten; 1 for yes, else 0. No has the focus at first.
+/// Asks whether to delete or overwrite something; 1 for yes, else 0. No has the initial focus.
 [[nodiscard]] int AskYesNo(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
 
-/// Asks for a text that starts as `defaultText`; empty if it is cancelled.
+/// Asks for a text, starting with `defaultText`; empty if cancelled.
 [[nodiscard]] std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2 = {},
                                   std::string_view title = {});
 

@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Those that stand for the dialog now; the last one answers.
+/// The current stand-ins for the dialog; the last one answers.
 std::vector<FileChooserStandIn::Answer>& StandIns()
 {
     static std::vector<FileChooserStandIn::Answer> answers;
@@ -36,11 +36,11 @@ QString& LastShownFolder()
     return folder;
 }
 
-/// The dialogs of some desktops tell letter case: each letter stands for both.
+/// Some desktops' dialogs are case-sensitive, so each letter matches both cases.
 QString InAnyCase(std::string_view pattern)
 {
     if (pattern == "*.*")
-        return QStringLiteral("*"); // names without a dot too
+        return QStringLiteral("*"); // also names without a dot
     QString any;
     for (const QChar letter : QtText(pattern)) {
         if (letter.isLetter())
@@ -80,7 +80,7 @@ QString MusicFolderShown()
     return QDir(music).exists() ? music : DocumentsFolderShown();
 }
 
-/// The folder to begin in: the one asked for, else the one last shown, else `otherwise`.
+/// The initial folder: the requested one, else the last one shown, else `otherwise`.
 QString FirstShownFolder(const fs::path& wanted, const QString& otherwise)
 {
     QString folder = QFile::decodeName(wanted.c_str());
@@ -101,7 +101,7 @@ void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
         dialog.selectFile(QtText(question.FileName));
 }
 
-/// A drag from a list onto a folder would move a file, which nobody means to do who chooses one.
+/// Dragging from a list onto a folder would move a file, which nobody wants when choosing one.
 void ForbidDrags(const QFileDialog& dialog)
 {
     for (auto* list : dialog.findChildren<QAbstractItemView*>()) {

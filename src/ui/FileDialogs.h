@@ -8,25 +8,24 @@
 
 namespace sprout {
 
-/// What the desktop's dialog for choosing a file is asked for.
+/// What the desktop's file dialog should show.
 struct FileQuestion {
     std::string Title;
-    std::filesystem::path Folder; ///< shown at first; empty: the one last shown
+    std::filesystem::path Folder; ///< shown at first; empty: the last one shown
     std::string FileName;         ///< offered at first
-    std::string DefaultExtension; ///< without its dot
-    std::string Filter;           ///< name|patterns|name|patterns, the patterns joined by semicolons
-    int FilterIndex = 1;          ///< of the filter selected at first, counted from 1
+    std::string DefaultExtension; ///< without the dot
+    std::string Filter;           ///< name|patterns|name|patterns, patterns separated by semicolons
+    int FilterIndex = 1;          ///< the filter selected at first, counted from 1
 };
 
-/// Asks for a file that exists; nothing if the question was cancelled.
+/// Asks for an existing file; nothing if cancelled.
 [[nodiscard]] std::optional<std::filesystem::path> ChooseFileToOpen(const FileQuestion& question);
 
-/// Asks where a file is to be saved, in a folder that is there; nothing if the question was cancelled. What stands
-/// there already is the caller's to ask about. Begins in the folder asked for, else in the one last shown, else in the
-/// user's music folder.
+/// Asks where to save a file, in an existing folder; nothing if cancelled. The caller must ask before overwriting.
+/// Starts in the requested folder, else in the last one shown, else in the user's music folder.
 [[nodiscard]] std::optional<std::filesystem::path> ChooseFileToSave(const FileQuestion& question);
 
-/// Takes the place of the desktop's dialog, as long as it lives: who cannot click a dialog of the desktop answers here.
+/// Replaces the desktop's dialog while it lives, for callers that cannot click a desktop dialog.
 class FileChooserStandIn {
 public:
     using Answer = std::function<std::optional<std::filesystem::path>(const FileQuestion&)>;

@@ -9,10 +9,10 @@
 
 namespace sprout {
 
-/// Runs what an event asks for. Qt cannot carry an exception through its event loop: the user is told of it in a plain
-/// box, and the event ends. Returns whether it went well.
+/// Runs the operation of an event. Qt cannot carry an exception through its event loop, so the error is shown to the
+/// user in a plain box and the event ends. Returns whether it succeeded.
 ///
-/// beforeTold: ends what would ask for the same again while the box is open.
+/// beforeTold: stops whatever would trigger the same operation again while the box is open.
 template <class Operation, class Preparation>
 bool Guarded(Operation operation, Preparation beforeTold)
 {

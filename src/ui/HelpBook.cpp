@@ -14,7 +14,7 @@ constexpr qreal kGlyphShare = 0.86;
 constexpr qreal kGlyphShareOfWord = 0.6;
 constexpr int kPageMargin = 12;
 
-/// The number or the two numbers behind a picture's name.
+/// The one or two numbers after a picture's name.
 QSize SizeOf(const QUrl& name)
 {
     const QStringList sides = name.query().split(QLatin1Char('x'));
@@ -41,7 +41,7 @@ QPixmap OnToolPlate(const QString& button, QSize size, qreal pixelRatio)
     return picture;
 }
 
-/// name: of the glyph and its plate's colour, "WordCopy-1F6FA8".
+/// name: of the glyph and its plate's colour, e.g. "WordCopy-1F6FA8".
 QPixmap OnWordPlate(const QString& name, QSize size, qreal pixelRatio)
 {
     const QStringList parts = name.split(QLatin1Char('-'));

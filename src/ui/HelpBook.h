@@ -5,11 +5,11 @@
 
 namespace sprout {
 
-/// Shows pages of the help book, with the program's own pictures in them.
+/// Shows pages of the help book, including the program's own pictures.
 ///
-/// A page names an artwork as "art:buttons/OpenBtn?48", a tool button with its plate as "tool:OpenBtn?48", a glyph of a
-/// word button on a plate of some colour as "word:WordCopy-1F6FA8?48"; the number is the width and height in logical
-/// pixels, "64x32" both.
+/// A page names an artwork as "art:buttons/OpenBtn?48", a tool button with its plate as "tool:OpenBtn?48", a word
+/// button's glyph on a coloured plate as "word:WordCopy-1F6FA8?48". The number is both width and height in logical
+/// pixels; "64x32" gives them separately.
 class HelpBook : public QTextBrowser {
     Q_OBJECT
 

@@ -26,7 +26,7 @@ constexpr QSize kWidestHelp{760, 600};
 constexpr QSize kLeastHelp{600, 400};
 constexpr int kScreenEdge = 20;
 constexpr int kHelpMargin = 14;
-constexpr int kPagesWidth = 224; ///< room for every title beside a scroll bar
+constexpr int kPagesWidth = 224; ///< fits every title beside a scroll bar
 constexpr int kPageIconSide = 32;
 constexpr int kButtonRowHeight = 44;
 
@@ -53,7 +53,7 @@ QUrl PageUrl(const HelpPage& page)
     return QUrl(QStringLiteral("qrc:/help/%1.html").arg(QLatin1String(page.file)));
 }
 
-/// The page's picture, which a selected line shows as it is.
+/// The page's picture; a selected line shows it unchanged.
 QIcon PageIcon(const HelpPage& page)
 {
     const QPixmap picture =
@@ -69,7 +69,7 @@ QPointer<HelpFrm>& OpenHelp()
     return help;
 }
 
-/// The window that stays when all forms before it have closed.
+/// The window that remains when all forms in front of it have closed.
 QWidget* BaseOf(QWidget* window)
 {
     while (window && window->isModal())
@@ -82,7 +82,7 @@ QWidget* BaseOf(QWidget* window)
 void ShowHelp()
 {
     QPointer<HelpFrm>& help = OpenHelp();
-    if (!help || help->isHidden()) { // a closed one goes by itself
+    if (!help || help->isHidden()) { // a closed one deletes itself
         help = new HelpFrm;
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, help, [] { delete OpenHelp(); });
         help->show();
@@ -105,7 +105,7 @@ HelpFrm::HelpFrm()
     ShowPage(0);
     BookTxt->setFocus();
     qApp->installEventFilter(this);
-    // The desktop learns of it when the window is shown.
+    // The desktop learns about it when the window is shown.
     winId();
     StandBelowItsWindow();
 }
@@ -148,7 +148,7 @@ void HelpFrm::PlaceControls()
     const int bookLeft = 2 * kHelpMargin + kPagesWidth;
     BookTxt->setGeometry({BodyPoint(bookLeft, kHelpMargin), QSize(size.width() - bookLeft - kHelpMargin, bookHeight)});
     PlaceButtons(size.width(), bookHeight + 2 * kHelpMargin);
-    // At the screen's edge, so that it covers little of what is asked about.
+    // At the screen's edge, to cover little of what the user asks about.
     move(std::max(screenRect.right() - width() - kScreenEdge, screenRect.left()), screenRect.top() + kScreenEdge);
 }
 
@@ -159,7 +159,7 @@ void HelpFrm::ShowPage(int row)
         BookTxt->setSource(PageUrl(page));
 }
 
-/// Marks the page that the book shows, whichever way it came there.
+/// Marks the page that the book shows, however it was reached.
 void HelpFrm::MarkPage(const QUrl& source)
 {
     const QUrl shown = source.adjusted(QUrl::RemoveFragment);
@@ -184,8 +184,8 @@ bool HelpFrm::eventFilter(QObject* watched, QEvent* event)
     return BandedForm::eventFilter(watched, event);
 }
 
-/// What stands below a window is kept in front of it. A modal window blocks all others: the help goes below it, as long
-/// as it waits, so that it can be read and closed; then back below the window that it was called from.
+/// Keeps the help in front of its transient parent. A modal window blocks all others, so the help belongs to it while
+/// it is open and can be read and closed; afterwards it goes back to the window that opened it.
 void HelpFrm::StandBelowItsWindow()
 {
     QWidget* const modal = QApplication::activeModalWidget();

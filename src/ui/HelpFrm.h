@@ -11,12 +11,12 @@ namespace sprout {
 
 class HelpBook;
 
-/// Opens the help book at its first page, in a window of its own that stays open beside the others. Called again, it
-/// brings that window to the front.
+/// Opens the help book at its first page, in a window of its own that stays open beside the others. If it is already
+/// open, it comes to the front.
 void ShowHelp();
 
-/// The window of the help book, in front of the window that it was called from: a list of its pages, the page that is
-/// read, and the way back. It is not modal and can be used while a modal window waits.
+/// The help book's window, in front of the window that opened it: a list of pages, the current page, and a back button.
+/// It is not modal and stays usable while a modal window is open.
 class HelpFrm : public BandedForm {
     Q_OBJECT
 
@@ -38,7 +38,7 @@ private:
     void MarkPage(const QUrl& source);
     void StandBelowItsWindow();
 
-    QPointer<QWidget> opener; ///< not modal: the window that it was called from, or whose forms
+    QPointer<QWidget> opener; ///< never modal: the window that opened it, or whose form did
     QListWidget* PagesLst;
     HelpBook* BookTxt;
     ImageButton* BackBtn = nullptr;

@@ -55,7 +55,7 @@ constexpr std::array kMainWindowHints{
     HintRow{"TrackTuneBtn", "Tune button, Click to choose a tune, keep mouse over it to play"},
 };
 
-/// Qt passes a move that a widget does not want on to what it lies on, which must not take it for its own.
+/// Qt passes an ignored move event on to the parent widget, which must not treat it as its own.
 bool IsMeantForAnother(const QWidget& widget, const QMouseEvent& move)
 {
     const QWidget* under = widget.childAt(move.position().toPoint());
@@ -83,7 +83,7 @@ bool HidesStatusLine(const QWidget& window)
            window.frameGeometry().intersects(QRect(status->mapToGlobal(QPoint()), status->size()));
 }
 
-/// Where the pointer was when the hint was shown.
+/// The pointer position when the hint was shown.
 std::optional<QPoint>& HintPoint()
 {
     static std::optional<QPoint> point;
@@ -126,8 +126,8 @@ void ShowHintOfFocus(const QWidget& widget, const QFocusEvent& event)
 {
     if (event.reason() != Qt::TabFocusReason && event.reason() != Qt::BacktabFocusReason)
         return;
-    // A dialog that opens tells its first control that it was tabbed to before it has the focus; the hint that stands
-    // belongs to the dialog's question.
+    // An opening dialog sends its first control a Tab focus event before it has the focus; the current hint belongs to
+    // the dialog's question.
     if (event.lostFocus())
         ShowHint({});
     else if (widget.hasFocus())

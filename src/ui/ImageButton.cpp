@@ -32,8 +32,8 @@ QString PlateName(Plate plate, ButtonFace face)
     return QStringLiteral("plates/%1%2").arg(QLatin1String(shape), QtText(FaceName(face)));
 }
 
-/// A word plate of any width: left and right half of the square artwork at the ends, its middle column stretched
-/// between them. Put together in whole device pixels, so that no seam shows at any scale.
+/// A word plate of any width: the left and right halves of the square artwork at the ends, with its middle column
+/// stretched between them. Composed in whole device pixels, which avoids seams at any scale.
 QPixmap WordPlate(const QPixmap& square, QSize size)
 {
     const qreal ratio = square.devicePixelRatio();
@@ -70,7 +70,7 @@ ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal,
         setToolTip(text());
     setFont(ButtonFont());
     setMouseTracking(true);
-    // The pointer leaves the focus where it is, so that a text box keeps the caret while a button is clicked.
+    // The pointer does not move the focus: a text box keeps the caret while a button is clicked.
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover, false);
     resize(ImageButton::sizeHint());
@@ -135,7 +135,7 @@ WantedArtwork ImageButton::GlyphArtwork() const
 {
     if (plate == Plate::Word)
         return {glyph, QSize(kGlyphSide, kGlyphSide), devicePixelRatioF()};
-    // The tool plates' rim stays free, so that the ring of a button that is on shows all around.
+    // The rim of the tool plates stays free, so the ring of an active button is visible all around.
     const qreal share = plate == Plate::Tool ? kGlyphShareOfTool : 1;
     return {glyph, (QSizeF(size()) * share).toSize(), devicePixelRatioF()};
 }
@@ -182,7 +182,7 @@ void ImageButton::PaintFocus(QPainter& painter) const
         painter.drawRoundedRect(inside, 9, 9);
         return;
     }
-    // Light beside dark, so that one of them stands out on every ground.
+    // Light next to dark, so that one of them is visible on any background.
     const QRectF edge = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
     const qreal corner = std::min(edge.width(), edge.height()) / 4;
     painter.setPen(QPen(Qt::white, 3));
@@ -201,7 +201,7 @@ void ImageButton::mouseMoveEvent(QMouseEvent* event)
 {
     scheme.ButtonHover(*this);
     QAbstractButton::mouseMoveEvent(event);
-    event->accept(); // what lies below has a hint of its own
+    event->accept(); // the widget below has a hint of its own
 }
 
 void ImageButton::mousePressEvent(QMouseEvent* event)
@@ -220,7 +220,7 @@ void ImageButton::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         QAbstractButton::keyPressEvent(event);
-    else if (!event->isAutoRepeat()) // a key held down would answer the question that its first press brings up
+    else if (!event->isAutoRepeat()) // a held key would answer the question that its first press opens
         click();
 }
 

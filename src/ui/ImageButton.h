@@ -13,21 +13,21 @@ namespace sprout {
 
 class ButtonScheme;
 
-/// What a button's picture is laid on.
+/// The background of a button's picture.
 enum class Plate { Tool, Word, Title };
 
 /// A row of a window's button table.
 struct ButtonRow {
-    const char* name = "";       ///< the control's name, and that of its picture
+    const char* name = "";       ///< name of the control and of its picture
     const char* spokenName = ""; ///< what a screen reader says; on a word plate the word itself
     const char* hint = "";       ///< for the status line
     Plate plate = Plate::Tool;
     QColor plateColour{}; ///< of a word plate
     const char* glyph =
-        nullptr; ///< a word plate's picture before the word; elsewhere in place of the one named after the button
+        nullptr; ///< a word plate's picture before the word; elsewhere replaces the picture named after the button
 };
 
-/// A button that is a picture: a plate in one of four faces and a glyph or a word on it.
+/// A button that is a picture: a plate in one of four faces with a glyph or a word on it.
 class ImageButton : public QAbstractButton {
     Q_OBJECT
 
@@ -41,7 +41,7 @@ public:
     [[nodiscard]] QString Hint() const { return hint; }
     void SetHint(const QString& text);
 
-    /// The artworks that it is painted with as it is now.
+    /// The artworks needed to paint the button in its current state.
     [[nodiscard]] std::vector<WantedArtwork> Artworks() const;
 
     [[nodiscard]] QSize sizeHint() const override;

@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// Tells, in a message, that what a button is for cannot be done yet. buttonName: the control's name; one that is not
-/// known shows nothing.
+/// Shows a message that a button's function is not available yet. buttonName: the control's name; an unknown one shows
+/// nothing.
 void ShowLaterCommand(std::string_view buttonName);
 
 } // namespace sprout

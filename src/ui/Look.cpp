@@ -77,7 +77,7 @@ void ApplyLook(QApplication& application)
     QApplication::setStyle(QStringLiteral("Fusion"));
     QApplication::setPalette(ProgramPalette());
     QApplication::setFont(LabelFont());
-    QApplication::setLayoutDirection(Qt::LeftToRight); // as time runs on the tracks, whatever the system's language
+    QApplication::setLayoutDirection(Qt::LeftToRight); // like time on the tracks, in every system language
     application.setStyleSheet(StyleSheet());
 }
 

@@ -15,8 +15,8 @@ namespace sprout {
 /// 20 px bold, for the song's title.
 [[nodiscard]] QFont TitleFont();
 
-/// Gives an application the program's font, colours and the look of the widgets that it does not draw itself. Called
-/// once, before the first window.
+/// Gives the application the program's font, colours and the look of Qt's own widgets. Call it once, before the first
+/// window.
 void ApplyLook(QApplication& application);
 
 } // namespace sprout

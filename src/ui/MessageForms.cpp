@@ -27,9 +27,9 @@ constexpr int kAboveButtons = 14;
 constexpr int kLeastMessageWidth = 230;
 constexpr int kLeastQuestionWidth = 250;
 constexpr int kLeastThreeButtonsWidth = 300; // the form is 316 wide
-constexpr int kNotePadding = 8;              // with the margin it keeps the text well clear of the form's edge
+constexpr int kNotePadding = 8;              // with the margin it keeps the text away from the form's edge
 constexpr double kWidestShareOfScreen = 0.8;
-constexpr int kWidestNote = 816; // what a small screen has room for; longer lines are hard to read
+constexpr int kWidestNote = 816; // fits a small screen; longer lines are hard to read
 
 constexpr int kIconSide = 40;
 constexpr int kTwipsOfAPixel = 15;
@@ -244,7 +244,7 @@ void SongTitleFrm::ClickOk()
         ShowMessage("Please enter the Song Title.");
         return;
     }
-    // Only another case of the open song's own title may name a file that is there.
+    // The name of an existing file is only allowed if it is the open song's own title in another case.
     if (!EqualIgnoringCase(name, Shared().Song.SongTitle) &&
         FileExists(NamedFile(Shared().UserSongs, name, kSongExtension))) {
         ShowMessage("A song with this name already exists.", "Please type another name.");

@@ -12,18 +12,18 @@
 
 namespace sprout {
 
-/// A form of one to three notes above a row of buttons, as wide as its widest note, and no narrower than a least width.
+/// A form with one to three notes above a row of buttons, as wide as its widest note but not below a minimum width.
 class NotesForm : public BandedForm {
     Q_OBJECT
 
 protected:
     NotesForm(QWidget* parent, int leastNoteWidth);
 
-    /// Adds a note below those that stand already.
+    /// Adds a note below the existing ones.
     void AddNote(const char* name, std::string_view text);
-    /// Adds an artwork in the place of a note.
+    /// Adds an artwork instead of a note.
     void AddPicture(const char* artwork);
-    /// Sizes the form to its notes and places the buttons that were added.
+    /// Sizes the form to its notes and places its buttons.
     void SizeToNotes();
 
 private:
@@ -31,10 +31,10 @@ private:
     std::vector<QLabel*> notes;
 };
 
-/// How wide a note may be on a screen that leaves so much room; a longer one goes on in the next line.
+/// The maximum width of a note on a screen of this width; longer notes wrap.
 [[nodiscard]] int WidestNote(int screenWidth);
 
-/// A message of one line. `Result` 1 for OK.
+/// A one-line message. `Result` is 1 for OK.
 class Msg1BtnFrm : public NotesForm {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ public:
     Msg1BtnFrm(QWidget* parent, std::string_view note);
 };
 
-/// A message of two lines. `Result` 1 for OK.
+/// A two-line message. `Result` is 1 for OK.
 class Msg1Btn2NoteFrm : public NotesForm {
     Q_OBJECT
 
@@ -50,7 +50,7 @@ public:
     Msg1Btn2NoteFrm(QWidget* parent, std::string_view note1, std::string_view note2);
 };
 
-/// A question. `Result` 1 yes, 0 no.
+/// A question. `Result` is 1 for yes, 0 for no.
 class MsgYesNoFrm : public NotesForm {
     Q_OBJECT
 
@@ -58,7 +58,7 @@ public:
     MsgYesNoFrm(QWidget* parent, std::string_view note1, std::string_view note2);
 };
 
-/// Asks where an audio track comes from. `Result` 1 recording, 2 wave file, 0 cancel.
+/// Asks where an audio track comes from. `Result` is 1 for recording, 2 for wave file, 0 for cancel.
 class Msg3BtnFrm : public NotesForm {
     Q_OBJECT
 
@@ -66,7 +66,7 @@ public:
     Msg3BtnFrm(QWidget* parent, std::string_view note);
 };
 
-/// Asks about unsaved changes. `Result` 2 yes, 1 no, 0 cancel.
+/// Asks about unsaved changes. `Result` is 2 for yes, 1 for no, 0 for cancel.
 class SaveConfirmFrm : public NotesForm {
     Q_OBJECT
 
@@ -74,7 +74,7 @@ public:
     SaveConfirmFrm(QWidget* parent, std::string_view songName);
 };
 
-/// The plain message box: untitled or titled, text of any number of lines. `Result` 1 for OK.
+/// The plain message box: with or without a title, text of any number of lines. `Result` is 1 for OK.
 class PlainBoxFrm : public NotesForm {
     Q_OBJECT
 
@@ -82,7 +82,7 @@ public:
     PlainBoxFrm(QWidget* parent, std::string_view text, MessageIcon icon);
 };
 
-/// Asks for a text. `Result` 1 OK, 0 cancel.
+/// Asks for a text. `Result` is 1 for OK, 0 for cancel.
 class InputBoxFrm : public BandedForm {
     Q_OBJECT
 
@@ -95,7 +95,7 @@ private:
     QLineEdit* InputTxt;
 };
 
-/// Asks for the song's title and author. The title can always be a file name. `Result` 1 OK, 0 cancel.
+/// Asks for the song's title and author. The title is always a valid file name. `Result` is 1 for OK, 0 for cancel.
 class SongTitleFrm : public BandedForm {
     Q_OBJECT
 
@@ -113,7 +113,7 @@ private:
     QLineEdit* CreatedTxt;
 };
 
-/// Puts "_" in place of each of `forbidden` in what stands in a box now and in what comes into it; the caret stays.
+/// Replaces each `forbidden` character in a box with "_", in the current text and in later input; the caret stays.
 void ForbidCharacters(QLineEdit& box, const QString& forbidden);
 
 } // namespace sprout

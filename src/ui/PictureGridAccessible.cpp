@@ -15,7 +15,7 @@ namespace sprout {
 
 namespace {
 
-/// One picture. It knows its place only, so that it outlives changes of the grid.
+/// One picture. It knows only its index, so it survives changes of the grid.
 class PictureAccessible : public QAccessibleInterface {
 public:
     PictureAccessible(PictureGridPic& owner, int ordinal) : grid(&owner), index(ordinal) {}
@@ -115,7 +115,7 @@ protected:
 private:
     [[nodiscard]] PictureGridPic& Grid() const { return *static_cast<PictureGridPic*>(widget()); }
 
-    mutable std::unordered_map<int, QAccessible::Id> items; ///< by place from 0; made when they are asked for
+    mutable std::unordered_map<int, QAccessible::Id> items; ///< by place from 0; created on request
 };
 
 QAccessibleInterface* MakeGridAccessible(const QString& /*className*/, QObject* object)
@@ -128,7 +128,7 @@ QAccessibleInterface* MakeGridAccessible(const QString& /*className*/, QObject* 
 
 void InstallPictureGridAccessible()
 {
-    QAccessible::installFactory(MakeGridAccessible); // one that is installed is not installed again
+    QAccessible::installFactory(MakeGridAccessible); // installing it again has no effect
 }
 
 void TellChosenPicture(PictureGridPic& grid)

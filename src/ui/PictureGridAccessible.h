@@ -5,11 +5,11 @@ namespace sprout {
 
 class PictureGridPic;
 
-/// Shows every grid of pictures to screen readers as a list, whose items have the names of the pictures. Called more
-/// than once, it does nothing more.
+/// Shows every picture grid to screen readers as a list whose items are named after the pictures. Further calls do
+/// nothing.
 void InstallPictureGridAccessible();
 
-/// Lets screen readers name the chosen picture of a grid that has the focus.
+/// Makes screen readers announce the chosen picture of a grid that has the focus.
 void TellChosenPicture(PictureGridPic& grid);
 
 } // namespace sprout

@@ -27,8 +27,8 @@ namespace {
 
 constexpr int kSelectionSide = kPictureSide + 2 * kGridInset;
 constexpr int kFrameOutOfSight = -kSelectionSide - kGridInset;
-constexpr int kGridEdge = 2;   // keeps the margins of the last column and row as wide as those of the first
-constexpr int kGridAround = 5; // from the grid to the outside of the frame around it
+constexpr int kGridEdge = 2;   // makes the margins of the last column and row as wide as those of the first
+constexpr int kGridAround = 5; // from the grid to the outer edge of its frame
 constexpr int kGridScrollWidth = 18;
 constexpr int kGridLineLeft = 10;
 constexpr int kGridLineHeight = 28;
@@ -40,7 +40,7 @@ QSize GridSize(int columns, int rows)
     return {columns * kGridCell + kGridEdge, rows * kGridCell + kGridEdge};
 }
 
-/// A large picture is made small once and not at every drawing.
+/// Shrinks a large picture once instead of at every drawing.
 QImage GridImage(const Picture& picture)
 {
     QImage image = ToImage(picture);
@@ -49,7 +49,7 @@ QImage GridImage(const Picture& picture)
     return image.scaled(kMostGridImageSide, kMostGridImageSide, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
-/// The pixels of a small picture stay sharp where each of them covers whole pixels of the screen.
+/// The pixels of a small picture stay sharp if each of them covers whole screen pixels.
 bool NeedsSmoothing(const QImage& image, qreal pixelRatio)
 {
     const qreal side = kPictureSide * pixelRatio;
@@ -273,7 +273,7 @@ void PictureGridPic::mousePressEvent(QMouseEvent* event)
     Q_EMIT Pressed(HitTestGrid(Grid(), at.x(), at.y()), event->button(), event->globalPosition().toPoint());
 }
 
-/// Between the two presses the selection frame comes to lie over the picture.
+/// Between the two presses the selection frame appears over the picture.
 void PictureGridPic::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const QPoint at = event->position().toPoint();
@@ -291,7 +291,7 @@ void PictureGridPic::mouseMoveEvent(QMouseEvent* event)
     Q_EMIT Hovered(index);
 }
 
-/// A press on the selection frame counts as one on its middle.
+/// A press on the selection frame counts as a press on its middle.
 bool PictureGridPic::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != blinkSelectImg)
@@ -340,11 +340,11 @@ void PictureGridPic::keyPressEvent(QKeyEvent* event)
         event->key() == Qt::Key_Menu || (event->key() == Qt::Key_F10 && event->modifiers().testFlag(Qt::ShiftModifier));
     if (event->key() != Qt::Key_Space && !asksForMenu)
         return QWidget::keyPressEvent(event);
-    if (!event->isAutoRepeat()) // held down it would start the sound again and again
+    if (!event->isAutoRepeat()) // holding the key must not restart the sound again and again
         PressSelected(asksForMenu ? Qt::RightButton : Qt::LeftButton);
 }
 
-/// The menu key arrives as a key press too, the right mouse button as a mouse press.
+/// The menu key also arrives as a key press, the right mouse button as a mouse press.
 void PictureGridPic::contextMenuEvent(QContextMenuEvent* event)
 {
     event->accept();

@@ -17,25 +17,25 @@
 
 namespace sprout {
 
-/// Borders of the pictures that came with the program and of the user's own.
+/// Border colours of the pictures that came with the program and of the user's own.
 inline constexpr QColor kOriginalBorder{0x00, 0x00, 0xFF};
 inline constexpr QColor kUserBorder{0xC0, 0x00, 0x00};
 
 /// One picture of a grid.
 struct GridEntry {
-    sprout::Picture Picture; ///< of any size; shown as 32 x 32
+    sprout::Picture Picture; ///< of any size; shown at 32 x 32
     std::string Name;        ///< for the tool tip and the screen reader
     bool Original = false;
 };
 
-/// The frame around the chosen picture (`BlinkSelectImg`): one of two artworks in turn.
+/// The frame around the chosen picture (`BlinkSelectImg`), alternating between two artworks.
 class SelectionFrame : public QWidget {
     Q_OBJECT
 
 public:
     explicit SelectionFrame(QWidget* parent);
 
-    /// Shows the artwork 0 or 1 of `BlinkSelectBakImg`.
+    /// Shows artwork 0 or 1 of `BlinkSelectBakImg`.
     void ShowPhase(int phase);
     [[nodiscard]] int Phase() const { return phase; }
 
@@ -46,29 +46,29 @@ private:
     int phase = 0;
 };
 
-/// A grid of pictures to choose from, with the scroll bar `VScroll1` at its right. It draws what it is told and reports
-/// what the user does; the choice itself is the window's.
+/// A grid of pictures to choose from, with the scroll bar `VScroll1` on its right. It draws its entries and reports
+/// what the user does; the window makes the choice.
 class PictureGridPic : public QWidget {
     Q_OBJECT
 
 public:
-    /// parent: the window, in which the scroll bar and the frame around both lie too.
+    /// parent: the window, which also holds the scroll bar and the frame around both.
     PictureGridPic(int columns, QWidget* parent);
 
-    /// Lays out the grid with its scroll bar and the frame around both, whose top left is `frameAt`. rows: in view.
-    /// Returns the place that is taken.
+    /// Lays out the grid, its scroll bar and the frame around both, with the top left of the frame at `frameAt`. rows:
+    /// visible rows. Returns the occupied area.
     QRect PlaceAt(QPoint frameAt, int rows);
 
-    /// Size of the frame around a grid and its scroll bar.
+    /// Size of the frame around a grid with its scroll bar.
     [[nodiscard]] static QSize FrameSize(int columns, int rows);
 
-    /// Replaces the pictures; the first one has the index 1. The top row and the choice stay as they are.
+    /// Replaces the pictures; the first one has index 1. The top row and the choice stay as they are.
     void SetEntries(const std::vector<GridEntry>& newEntries);
     [[nodiscard]] int Count() const { return static_cast<int>(entries.size()); }
     /// index: 1 to the count.
     [[nodiscard]] const GridEntry& Entry(int index) const { return entries[static_cast<std::size_t>(index - 1)].entry; }
 
-    /// The chosen picture; one outside 1 to the count is none.
+    /// Sets the chosen picture; an index outside 1 to the count means none.
     void SetSelected(int index);
     [[nodiscard]] int Selected() const { return selected; }
 
@@ -76,17 +76,17 @@ public:
     void SetTopRow(int row);
     [[nodiscard]] int TopRow() const { return topRow; }
 
-    /// Scrolls as little as it takes to show the whole picture. index: 1 to the count; others do nothing.
+    /// Scrolls as little as needed to show the whole picture. index: 1 to the count; others do nothing.
     void BringIntoView(int index);
 
-    /// What stands in an empty grid.
+    /// Sets the text of an empty grid.
     void SetLines(const QStringList& lines);
 
-    /// Puts the selection frame around the chosen picture and lets it blink, or out of sight, and sets the range of the
-    /// scroll bar. Call it after a change of the above.
+    /// Puts the blinking selection frame around the chosen picture or hides it, and sets the scroll bar's range. Call
+    /// it after changing any of the above.
     void RefreshShowAllPic();
 
-    /// The grid's numbers for the rules.
+    /// The grid's numbers, as input for the rules.
     [[nodiscard]] PictureGrid Grid() const;
 
     [[nodiscard]] SelectionFrame& BlinkSelectImg() { return *blinkSelectImg; }
@@ -98,14 +98,14 @@ public Q_SLOTS:
     void Blink();
 
 Q_SIGNALS:
-    /// A mouse button went down on a picture, or on none: index 0. Arrow keys and the blank press the left button, the
-    /// menu key the right one. at: on the screen, where a menu is to open.
+    /// A mouse button was pressed on a picture, or on none (index 0). Arrow keys and Space count as the left button,
+    /// the menu key as the right one. at: on the screen, where a menu should open.
     void Pressed(int index, Qt::MouseButton button, QPoint at);
-    /// The left button went down twice on a picture.
+    /// A picture was double-clicked with the left button.
     void DoubleClicked();
-    /// The Delete key, while a picture is chosen.
+    /// The Delete key was pressed while a picture is chosen.
     void DeleteWanted();
-    /// The pointer moved over a picture, or over none: index 0.
+    /// The pointer moved over a picture, or over none (index 0).
     void Hovered(int index);
     /// The user scrolled.
     void Scrolled(int topRow);
@@ -126,7 +126,7 @@ protected:
 private:
     struct Shown {
         GridEntry entry;
-        QImage image; ///< made when it is first drawn
+        QImage image; ///< created when first drawn
     };
 
     void MakeFrameAround();
@@ -146,7 +146,7 @@ private:
     int selected = 0;
     int topRow = 1;
     int blinkPhase = 0;
-    bool scrollGuard = false; ///< `VScroll1` is being set by the program
+    bool scrollGuard = false; ///< the program is setting `VScroll1`
     QStringList lines;
     QFrame* frame;
     QScrollBar* vScroll1;

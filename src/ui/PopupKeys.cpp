@@ -21,7 +21,7 @@ bool ClosesTheList(const QKeyEvent& event)
     }
 }
 
-/// Puts off what Qt's own filter of the list does at the search for a shortcut until the key itself arrives.
+/// Qt's own filter of the list acts during the shortcut search; this delays it until the key itself arrives.
 class ClosingKeys : public QObject {
 public:
     explicit ClosingKeys(QAbstractItemView& list) : QObject(&list) { list.installEventFilter(this); }

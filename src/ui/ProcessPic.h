@@ -7,16 +7,16 @@
 
 namespace sprout {
 
-/// The working sign: a sprout that grows with the work, in the middle of the window that it belongs to.
+/// The busy sign: a sprout that grows with the work, in the middle of its window.
 class ProcessPic : public QWidget {
     Q_OBJECT
 
 public:
     explicit ProcessPic(QWidget* parent);
 
-    /// Shows the sign and draws it at once, since no event is handled while the work goes on.
+    /// Shows the sign and draws it at once, because no events are handled during the work.
     void Appear();
-    /// The work done, in pieces; draws when a twentieth more is done.
+    /// Reports the work done so far; redraws after every further twentieth.
     void ShowProgress(std::size_t done, std::size_t total);
 
 protected:

@@ -3,8 +3,8 @@
 
 namespace sprout {
 
-/// Draws the four pictures that the program itself holds, each a picture of its own: that of a track without a tune and
-/// the other half of its blinking, that of a missing picture file, and that of a new tune.
+/// Draws the program's four built-in pictures, each a separate picture: a track without a tune, its other blink phase,
+/// a missing picture file, and a new tune.
 void MakeProgramPictures();
 
 } // namespace sprout

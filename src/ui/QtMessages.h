@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// The plain message box, in the program's own look.
+/// The plain message box in the program's own look.
 class QtMessages : public Messages {
 public:
     void MessageBox(std::string_view title, std::string_view text, MessageIcon icon) override;

@@ -18,7 +18,7 @@ constexpr int kBlinkMs = 50;
 constexpr int kWorkFormAfterMs = 500;
 constexpr int kEventsEveryMs = 20;
 
-/// Lets no timer of other windows tick, as long as it lives.
+/// Suppresses timer ticks of other windows while it lives.
 class TimersWait : public QObject {
 public:
     TimersWait() { qApp->installEventFilter(this); }
@@ -43,7 +43,7 @@ void QtScreen::RestorePointer()
     UpdateHourglass();
 }
 
-/// Nothing is to be pointed at before the window has appeared; the button of a work form is.
+/// The hourglass waits for the window to appear, and hides for a work form, whose button needs a normal pointer.
 void QtScreen::UpdateHourglass()
 {
     const bool wanted = hourglasses > 0 && !workFrm && WindowHasAppeared();

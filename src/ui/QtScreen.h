@@ -14,14 +14,14 @@
 
 namespace sprout {
 
-/// Hourglass, working sign and the blinking of tracks without a tune. Before the main window has given its sign and its
-/// timer, their calls do nothing but are counted.
+/// The hourglass, the busy sign and the blinking of tracks without a tune. Until the main window has passed its sign
+/// and its timer, calls are only counted.
 ///
-/// Of stoppable work that lasts, a `WorkFrm` shows the progress. It has its events while the work tells how far it is;
-/// the timers of the other windows wait meanwhile, since they would meet a song that is being rendered.
+/// A `WorkFrm` shows the progress of long stoppable work. It handles its events whenever the work reports progress. The
+/// timers of other windows wait meanwhile, because they would meet a song that is being rendered.
 ///
-/// Work that goes on while the desktop has not yet put the new main window on the screen lets it appear, if the work is
-/// not done in the blink of an eye. Before it has appeared there is nothing to point at, and the hourglass waits.
+/// If work takes longer than the blink of an eye before the desktop has shown the new main window, it lets the window
+/// appear. Until then there is nothing to point at, and the hourglass waits.
 class QtScreen : public Screen {
 public:
     void ShowHourglass() override;
@@ -34,9 +34,9 @@ public:
     void EndStoppable() override;
     void EnableTuneNotFilledTimer() override;
 
-    /// The main window's working sign; it may go before the screen does.
+    /// Sets the main window's busy sign; it may be destroyed before the screen.
     void SetProcessPic(ProcessPic* sign);
-    /// What enables the main window's `TuneNotFilledTimer`. A request that came before is met at once.
+    /// Sets what enables the main window's `TuneNotFilledTimer`. An earlier request is carried out at once.
     void SetTuneNotFilledTimer(std::function<void()> enableTimer);
 
 private:

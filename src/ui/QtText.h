@@ -8,7 +8,7 @@
 
 namespace sprout {
 
-/// Text in memory is UTF-8; Qt shows it.
+/// Converts UTF-8 text to a Qt string.
 [[nodiscard]] inline QString QtText(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));

@@ -7,8 +7,8 @@
 
 namespace sprout {
 
-/// A name as the tip of a control, letter by letter: names come from files of strangers, and a tip would read one that
-/// looks like rich text as such, pictures and all.
+/// A name as a tool tip, always plain text: names come from untrusted files, and a tool tip would render one that looks
+/// like rich text, including pictures.
 [[nodiscard]] QString QtTip(std::string_view name);
 
 } // namespace sprout

@@ -70,7 +70,7 @@ void SliderPointer::mouseMoveEvent(QMouseEvent* event)
     PutAt(slider.Dragged(left, event->position().x(), downX));
     const std::int32_t percent = slider.PercentAt(left);
     setValue(percent);
-    // Also where the value stays: what was shown before may lie beyond the slider.
+    // Even if the value stays the same: the value shown before may lie outside the slider's range.
     slide(percent);
 }
 
@@ -80,13 +80,13 @@ void SliderPointer::mouseReleaseEvent(QMouseEvent* event)
         EndDrag();
 }
 
-/// A wheel turned in passing changes nothing.
+/// Turning the wheel in passing changes nothing.
 void SliderPointer::wheelEvent(QWheelEvent* event)
 {
     event->ignore();
 }
 
-/// A window that opens during a drag gets the release in place of the pointer.
+/// A window that opens during a drag receives the release instead of the pointer.
 void SliderPointer::focusOutEvent(QFocusEvent* event)
 {
     EndDrag();
@@ -108,14 +108,14 @@ void SliderPointer::PaintFocus(QPainter& painter) const
 {
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF edge = QRectF(rect()).adjusted(1.5, 1.5, -1.5, -1.5);
-    // Light beside dark, so that one of them stands out on every ground.
+    // Light next to dark, so that one of them is visible on any background.
     for (const QPen& pen : {QPen(Qt::white, 3), QPen(kLink, 2)}) {
         painter.setPen(pen);
         painter.drawRoundedRect(edge, 8, 8);
     }
 }
 
-/// What a key or a screen reader sets; a drag tells of itself.
+/// Handles values set by a key or a screen reader; a drag reports its own.
 void SliderPointer::TakeValue(int percent)
 {
     if (!isDragged && percent != shown)

@@ -13,28 +13,29 @@ namespace sprout {
 /// The look and the range of a slider's pointer.
 struct PointerLook {
     const char* artwork = ""; ///< path below art/
-    QSize size;               ///< of the pointer with the frame of its focus
+    QSize size;               ///< of the pointer including its focus frame
     QSize picture;            ///< inside that frame
     std::int32_t lowest = 0;  ///< percent
     std::int32_t highest = 100;
 };
 
-/// A pointer, which stands for its whole slider: it is dragged, takes the keys and tells its value to screen readers.
+/// A pointer that acts for its whole slider: it can be dragged, handles the keys and reports its value to screen
+/// readers.
 class SliderPointer : public QAbstractSlider {
     Q_OBJECT
 
 public:
     using Told = std::function<void(std::int32_t percent)>;
 
-    /// onSlide: told each value of a drag; onChoose: told the value that a drag, a key or a screen reader left.
+    /// onSlide: gets each value of a drag; onChoose: gets the final value set by a drag, a key or a screen reader.
     SliderPointer(QWidget* parent, const PointerLook& look, Told onSlide, Told onChoose);
 
     void ShowPercent(std::int32_t percent);
 
-    /// The slot in which the pointer moves, in the parent's coordinates.
+    /// Sets the slot that the pointer moves in, in the parent's coordinates.
     void SetSlot(int left, int widthPx);
 
-    /// Chooses the percentage that brings the pointer's middle next to `x` of the parent.
+    /// Chooses the percentage that puts the pointer's middle closest to `x` of the parent.
     void ChooseAt(double x);
 
     [[nodiscard]] bool IsDragged() const { return isDragged; }

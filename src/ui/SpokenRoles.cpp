@@ -46,7 +46,7 @@ QAccessibleInterface* MakeSpoken(const QString& /*className*/, QObject* object)
     return role.isValid() ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt())) : nullptr;
 }
 
-/// Qt keeps the interface that was asked for first, and a running screen reader asks as soon as there is a name.
+/// Qt keeps the first interface it creates, and a running screen reader requests one as soon as there is a name.
 void MakeAnew(QWidget& widget)
 {
     if (QAccessibleInterface* kept = QAccessible::queryAccessibleInterface(&widget))
@@ -57,7 +57,7 @@ void MakeAnew(QWidget& widget)
 
 void SetSpokenRole(QWidget& widget, QAccessible::Role role)
 {
-    QAccessible::installFactory(MakeSpoken); // one that is installed is not installed again
+    QAccessible::installFactory(MakeSpoken); // installing it again has no effect
     widget.setProperty(kRoleProperty, static_cast<int>(role));
     MakeAnew(widget);
 }

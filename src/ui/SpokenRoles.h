@@ -7,10 +7,10 @@
 
 namespace sprout {
 
-/// Tells screen readers what a widget is for which Qt knows no more than an area.
+/// Gives a widget that Qt treats as a plain area a role for screen readers.
 void SetSpokenRole(QWidget& widget, QAccessible::Role role);
 
-/// Makes a button one of several of which one is chosen, for screen readers: its click stays its own affair.
+/// Presents a button to screen readers as one of several exclusive choices. Its click behaviour does not change.
 void SetSpokenChoice(QAbstractButton& button, bool chosen);
 
 } // namespace sprout

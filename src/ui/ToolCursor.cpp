@@ -17,7 +17,7 @@ constexpr QSize kPointerSize{32, 32};
 
 struct ToolTip {
     std::string_view button;
-    QPoint tip; ///< of the picture at the pointer's size
+    QPoint tip; ///< in the picture, at the pointer's size
 };
 
 constexpr std::array kToolTips{

@@ -7,8 +7,8 @@
 
 namespace sprout {
 
-/// The pointer of a tool: the picture of the tool's button alone, 32 pixels, its hot spot at the tip. button:
-/// `BrushBtn`, `EraserBtn` or `PlayToolBtn`; any other gives the default pointer.
+/// The mouse pointer of a tool: the tool button's picture without its plate, 32 pixels, with the hot spot at the tip.
+/// button: `BrushBtn`, `EraserBtn` or `PlayToolBtn`; any other gives the default pointer.
 [[nodiscard]] QCursor ToolCursor(std::string_view button, qreal pixelRatio);
 
 } // namespace sprout

@@ -20,7 +20,7 @@ bool WindowMover::AskForMove(QWidget& window)
 void WindowMover::Press(const QWidget& window, const QMouseEvent& event)
 {
     holding = event.button() == Qt::LeftButton;
-    // In places on the screen: a place inside the window is stale while the server still moves the window.
+    // In screen coordinates: window coordinates are stale while the server is still moving the window.
     pressedAt = event.globalPosition().toPoint();
     inWindow = pressedAt - window.pos();
 }

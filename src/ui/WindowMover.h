@@ -11,10 +11,10 @@
 
 namespace sprout {
 
-/// Moves a window without a system frame by the part of it that the left button holds.
+/// Moves a window without a system frame, following the point that the left button holds.
 class WindowMover {
 public:
-    /// Asks the desktop to move a window with the pointer; false where it does not.
+    /// Asks the desktop to move a window with the pointer; returns false if it refuses.
     using Ask = std::function<bool(QWidget& window)>;
 
     explicit WindowMover(bool asksDesktop = DesktopPlacesWindows(), Ask askDesktop = AskForMove);

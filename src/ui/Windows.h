@@ -13,10 +13,11 @@ class QWidget;
 
 namespace sprout {
 
-/// The sound files that a song can be saved as.
+/// The sound file formats that a song can be saved as.
 enum class SoundFileKind { Wav, Wma };
 
-/// What one window opens of another. The program fills it; this one opens nothing, as if the user cancelled everything.
+/// The windows that one window can open. The program provides them; this default opens nothing, as if the user
+/// cancelled.
 class Windows {
 public:
     Windows() = default;
@@ -24,43 +25,43 @@ public:
     Windows& operator=(const Windows&) = delete;
     virtual ~Windows() = default;
 
-    /// Lets the user choose and edit the tune of a track. newFlag: whether the window shows no choice at first; on
-    /// return, whether it was left with OK. Returns whether the tune or its picture was changed.
+    /// Lets the user choose and edit a track's tune. newFlag: whether the window shows no choice at first; on return,
+    /// whether the user left it with OK. Returns whether the tune or its picture was changed.
     [[nodiscard]] virtual bool OpenTuneWindow(Tune& /*tune*/, bool& /*newFlag*/) { return false; }
-    /// Lets the tune window, if it is open, show the tune under edit.
+    /// If the tune window is open, makes it show the tune being edited.
     virtual void UpdateThisTune() {}
 
-    /// Lets the user choose an instrument. name: the one to start from, the chosen one on return. Returns false, with
-    /// the name as it was, where none was chosen.
+    /// Lets the user choose an instrument. name: the initial one; on return the chosen one. Returns false and keeps the
+    /// name if none was chosen.
     [[nodiscard]] virtual bool ChooseBeat(std::string& /*name*/) { return false; }
 
-    /// Records; nothing where that was cancelled or could not begin, which the window has told.
+    /// Records a sound; nothing if that was cancelled or could not start, which the window has already reported.
     [[nodiscard]] virtual std::optional<WaveData> RecordSound() { return std::nullopt; }
-    /// Lets the user edit the sound of a track. Returns whether it was changed.
+    /// Lets the user edit a track's sound. Returns whether it was changed.
     [[nodiscard]] virtual bool EditTrack(std::int32_t /*track*/) { return false; }
-    /// Lets the audio editor, if it is open, show what is heard.
+    /// If the audio editor is open, makes it show the play position.
     virtual void UpdatePlayPointer() {}
 
-    /// The name of the song that the user wants to open; nothing where the window was left without OK.
+    /// The name of the song to open; nothing if the user left the window without OK.
     [[nodiscard]] virtual std::optional<std::string> ChooseSongToOpen(QWidget& /*owner*/) { return std::nullopt; }
-    /// The name to save the song under, which is offered at first; nothing where the window was left without OK.
+    /// The name to save the song under, starting with `name`; nothing if the user left the window without OK.
     [[nodiscard]] virtual std::optional<std::string> ChooseNameToSave(QWidget& /*owner*/, std::string_view /*name*/)
     {
         return std::nullopt;
     }
 
-    /// Asks for a file and saves the shared song there as a sound. Returns whether the song window is to hide.
+    /// Asks for a file and saves the shared song there as a sound. Returns whether the song window should hide.
     [[nodiscard]] virtual bool SaveSongAsSound(SoundFileKind /*kind*/) { return false; }
-    /// Mails the shared song, with all its messages. A mail program starts while the windows live on.
+    /// Mails the shared song and shows all related messages. A mail program starts while the windows stay responsive.
     virtual void EmailSong() {}
-    /// The program ends: nobody waits for a mail program any more.
+    /// Called when the program ends: stops waiting for a mail program.
     virtual void StopEmailSong() {}
 };
 
 /// The program's windows.
 [[nodiscard]] Windows& TheWindows();
 
-/// Makes `windows` the program's, as long as this lives.
+/// Installs `windows` as the program's windows while this object lives.
 class ProvidedWindows {
 public:
     explicit ProvidedWindows(Windows& windows);

@@ -52,7 +52,7 @@ WorkFrm::WorkFrm(QWidget* parent, std::string_view what)
     StopBtn = &AddWordButton({"StopBtn", "Stop", "Stop button, nothing is saved then", Plate::Word, kCoral},
                              [this] { AskForEnd(); });
     PlaceButtons(kWorkFormWidth, kStopTop);
-    setFocus(); // a key that was meant for the window before must not stop anything
+    setFocus(); // a key meant for the previous window must not stop anything
     ShowStage(what);
 }
 
@@ -76,7 +76,7 @@ void WorkFrm::reject()
 
 void WorkFrm::keyPressEvent(QKeyEvent* event)
 {
-    // Enter is what was pressed to begin the work.
+    // Enter was pressed to start the work.
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         BandedForm::keyPressEvent(event);
 }

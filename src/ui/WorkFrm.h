@@ -10,22 +10,22 @@
 
 namespace sprout {
 
-/// Stands in front of all windows while long work is done: what is being done, how far it is, and a button that asks
-/// for its end. It is shown without an event loop of its own; whoever works lets it have its events.
+/// Stays in front of all windows during long work and shows what is being done, the progress, and a stop button. It has
+/// no event loop of its own; the code that does the work lets it process events.
 class WorkFrm : public BandedForm {
     Q_OBJECT
 
 public:
     WorkFrm(QWidget* parent, std::string_view what);
 
-    /// What is being done now, with the bar at its beginning.
+    /// Shows what is being done now and resets the bar.
     void ShowStage(std::string_view what);
-    /// The work done, in pieces.
+    /// Shows the work done so far.
     void ShowShare(std::size_t done, std::size_t total);
 
     [[nodiscard]] bool StopWanted() const { return stopWanted; }
 
-    /// Asks for the end, as the button does.
+    /// Asks to stop, like the button.
     void reject() override;
 
 protected:

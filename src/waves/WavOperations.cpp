@@ -29,12 +29,12 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Samples go to and from files as they lie in memory.
+// Files store samples exactly as memory does.
 static_assert(std::endian::native == std::endian::little);
 
 constexpr std::string_view kNoMemory = "There is not enough memory.";
 
-/// What ends a load with a message of its own.
+/// Ends a load with its own message.
 struct Refusal {
     std::string title;
     std::string text;
@@ -57,7 +57,7 @@ WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::stri
     return wave;
 }
 
-/// All sample bytes that the wave's length asks for; those that the file lacks are zero.
+/// All sample bytes for the wave's length; those missing in the file are zero.
 std::vector<std::byte> ReadSampleBytes(ByteSource& source, const WaveData& wave, std::uint64_t begin)
 {
     if (wave.Length < 0)
@@ -89,7 +89,7 @@ Channel Deinterleave(std::span<const std::byte> bytes, const WaveData& wave, std
     return channel;
 }
 
-/// name: how the messages call the file.
+/// name: the file's name in messages.
 WaveData ReadWave(const fs::path& path, const std::string& name, ReadSamples samples)
 {
     FileSource source(path);
@@ -108,7 +108,7 @@ WaveData ReadWave(const fs::path& path, const std::string& name, ReadSamples sam
     return wave;
 }
 
-/// Writes what a WAV file holds, and stops at the first failure.
+/// Writes the parts of a WAV file and stops at the first failure.
 class WaveWriter {
 public:
     explicit WaveWriter(const fs::path& path) : file(path, std::ios::binary | std::ios::trunc)

@@ -32,7 +32,7 @@ void PackWords(std::span<const std::int16_t> samples, std::size_t step, std::byt
     }
 }
 
-/// Both channels in one pass: the four bytes of a frame become one store, several times as fast as two passes.
+/// Both channels in one pass: one store per frame of four bytes, several times as fast as two passes.
 void PackStereoWords(std::span<const std::int16_t> left, std::span<const std::int16_t> right, std::byte* out)
 {
     for (std::size_t i = 0; i < left.size(); ++i) {

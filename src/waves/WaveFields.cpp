@@ -54,7 +54,7 @@ std::uint64_t FindWaveData(ByteSource& source)
     std::array<char, 4> window{};
     const std::uint64_t size = source.Size();
     ByteCursor cursor(source, kSearchByte, size);
-    // A name is looked at as long as at least one byte follows it.
+    // A name is examined if at least one byte follows it.
     for (std::uint64_t read = kSearchByte; read + 1 < size; ++read) {
         std::byte letter{};
         cursor.Read({&letter, 1});

@@ -7,10 +7,10 @@
 
 namespace sprout {
 
-/// Bytes of the shortest WAV file: a head of 44 and at least one of sound.
+/// Bytes of the shortest WAV file: a head of 44 and at least one byte of sound.
 inline constexpr std::uint64_t kSmallestWave = 45;
 
-/// What the head of a WAV file tells at its fixed places, whatever stands there.
+/// The fields at fixed places in the head of a WAV file, whatever their content.
 struct WaveFields {
     std::int32_t FormatTag = 0; ///< 1 for PCM
     std::int32_t Channels = 0;
@@ -18,13 +18,13 @@ struct WaveFields {
     std::int32_t Bits = 0;
 };
 
-/// The fields of a source of at least `kSmallestWave` bytes. Of the channels and bits the low byte counts alone.
+/// The fields of a source of at least `kSmallestWave` bytes. Only the low byte of the channels and bits counts.
 [[nodiscard]] WaveFields ReadWaveFields(ByteSource& source);
 
-/// Byte of the "data", in any letter case, that begins the sound; 0 where there is none.
+/// Position of the "data", in any letter case, where the sound begins; 0 if there is none.
 [[nodiscard]] std::uint64_t FindWaveData(ByteSource& source);
 
-/// The size that stands behind the "data" at byte `place`. Throws `RunTimeError` where the file ends before.
+/// The size after the "data" at byte `place`. Throws `RunTimeError` if the file ends too early.
 [[nodiscard]] std::int32_t ReadWaveDataSize(ByteSource& source, std::uint64_t place);
 
 } // namespace sprout

@@ -16,7 +16,7 @@ namespace {
 constexpr double kLowest16 = std::numeric_limits<std::int16_t>::min();
 constexpr double kHighest16 = std::numeric_limits<std::int16_t>::max();
 
-/// What samples are clipped to.
+/// The range that samples are clipped to.
 struct ClipRange {
     double low;
     double high;
@@ -32,21 +32,21 @@ double Clip(double value, ClipRange range)
     return value > range.high ? range.high : value < range.low ? range.low : value;
 }
 
-/// `RoundHalfEven` of a value within the 16 bits. Adding 1.5 x 2^52 leaves no fraction bits, so that the sum itself is
-/// rounded; unlike a library call the loops around it become vector code on every machine.
+/// `RoundHalfEven` of a value within 16 bits. Adding 1.5 x 2^52 leaves no fraction bits, so the sum itself is rounded;
+/// unlike with a library call, the loops around it become vector code on every machine.
 std::int16_t RoundSample(double value)
 {
     constexpr double noFraction = 6755399441055744.0;
     return static_cast<std::int16_t>(static_cast<std::int32_t>((value + noFraction) - noFraction));
 }
 
-/// Limits are whole numbers, so clipping before the rounding gives what clipping after it does.
+/// Limits are whole numbers, so clipping before rounding gives the same as clipping after it.
 std::int16_t RoundAndClip(double value, ClipRange range)
 {
     return RoundSample(Clip(value, range));
 }
 
-/// A channel of `length` frames, frame i made by make(i), i counting from 0.
+/// A channel of `length` frames; make(i) creates frame i, counted from 0.
 template <class Make>
 Channel MakeChannel(std::size_t length, Make make)
 {
@@ -59,7 +59,7 @@ Channel MakeChannel(std::size_t length, Make make)
     return channel;
 }
 
-/// Replaces the channels of a wave by convert(frames) of each. Equal channels stay one block.
+/// Replaces each channel of a wave with convert(frames). Channels that share a block still share one.
 template <class Convert>
 void ConvertBoth(WaveData& wave, Convert convert)
 {
@@ -75,7 +75,7 @@ Channel WidenSamples(std::span<const std::int16_t> samples)
 {
     int widest = 0;
     for (const std::int16_t sample : samples)
-        widest |= (sample + 128) & ~255; // stays 0 as long as all lie within -128..127
+        widest |= (sample + 128) & ~255; // stays 0 if all are within -128..127
     if (widest != 0)
         throw RunTimeError("A sample does not fit into 8 bits.");
     return MakeChannel(samples.size(),
@@ -119,8 +119,8 @@ double CurveMiddle(double from, double to, double rise, double fall)
     return 0.125 * from + 0.375 * control1 + 0.375 * control2 + 0.125 * to;
 }
 
-/// The old samples become the even frames, the curve's middles the odd ones. Element 0 repeats the first sample, and
-/// the first middle lies between those two.
+/// The old samples become the even frames, the middles of the curve the odd ones. Element 0 repeats the first sample,
+/// and the first middle lies between those two.
 Channel DoubleSamples(std::span<const std::int16_t> samples, ClipRange range)
 {
     const std::size_t count = samples.size();
@@ -165,7 +165,7 @@ void ConvertRate(WaveData& wave, std::int32_t targetRate, ClipRange range)
         Halve(wave);
 }
 
-/// 0.75 of the channels' sum, which is made in 16 bits.
+/// 0.75 times the sum of the channels, which must fit into 16 bits.
 Channel FoldChannels(const WaveData& wave)
 {
     const auto left = FramesOf(wave.WavL, wave.Length);

@@ -118,7 +118,7 @@ TEST(ByteCursor, ReadsNumbersInLittleEndianOrder)
     ByteCursor cursor(source, 0, source.Size());
     EXPECT_EQ(cursor.ReadInt32(), static_cast<std::int32_t>(0x84030201));
     EXPECT_THROW(static_cast<void>(cursor.ReadInt32()), RunTimeError);
-    EXPECT_EQ(cursor.Left(), 1U); // what failed has moved nothing
+    EXPECT_EQ(cursor.Left(), 1U); // the failure moved nothing
 }
 
 TEST(ByteCursor, KeepsWithinThePartThatItWasGiven)

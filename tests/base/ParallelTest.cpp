@@ -61,7 +61,7 @@ TEST(ParallelFor, LeavesTheRestWhereTheProgressThrows)
     }
 }
 
-/// Lets no thread start: each would need more memory than there are addresses.
+/// Prevents threads from starting: each would need more memory than there are addresses.
 class NoMoreThreads {
 public:
     NoMoreThreads()

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::uint32_t kWhite = 0xFFFFFF;
 
-/// A picture of which each pixel is 1 + x + 256 y.
+/// A picture in which each pixel is 1 + x + 256 y.
 Picture Counting(int width, int height)
 {
     std::vector<std::uint32_t> pixels;

@@ -18,13 +18,13 @@ TEST(LowerCase, KnowsLettersOfAllAlphabets)
     EXPECT_EQ(LowerCase("ABZ[é"), "abz[é");
     EXPECT_EQ(LowerCase("ÉÄ"), "éä");
     EXPECT_EQ(LowerCase("ЖΩ"), "жω");
-    EXPECT_EQ(LowerCase("\xC9\xFF"), "\xC9\xFF"); // no UTF-8
+    EXPECT_EQ(LowerCase("\xC9\xFF"), "\xC9\xFF"); // not UTF-8
 }
 
 TEST(BeginsIgnoringCase, ComparesLettersAndNotBytes)
 {
     EXPECT_TRUE(BeginsIgnoringCase("Élan", "éL"));
-    EXPECT_TRUE(BeginsIgnoringCase("ẞa", "ß")); // three bytes against two
+    EXPECT_TRUE(BeginsIgnoringCase("ẞa", "ß")); // three bytes compared with two
     EXPECT_FALSE(BeginsIgnoringCase("a", "ab"));
     EXPECT_TRUE(BeginsIgnoringCase("a", ""));
 }

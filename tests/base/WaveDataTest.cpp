@@ -46,7 +46,7 @@ TEST(Channel, CopiesShareUntilOneIsChanged)
     EXPECT_EQ(a[2], 2);
     const void* before = a.Identity();
     a.Change()[2] = 8;
-    EXPECT_EQ(a.Identity(), before); // alone, so nothing is copied
+    EXPECT_EQ(a.Identity(), before); // it is the only one, so nothing is copied
 }
 
 TEST(Channel, WritesElementZeroOfAnEmptyOne)

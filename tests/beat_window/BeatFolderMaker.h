@@ -32,13 +32,13 @@ inline std::string IndexText()
     return ReadBytes(Shared().UserBeats / "TqBeats.ini");
 }
 
-/// An index that protects nothing, as after a first use of an empty folder.
+/// An index that protects nothing, as after the first use of an empty folder.
 inline void ProtectNothing()
 {
     WriteBytes(Shared().UserBeats / "TqBeats.ini", "[General]\r\nProtectedNos=0\r\nProtected=1\r\n");
 }
 
-/// Names of all files in `UserBeats` but the index, sorted, each followed by a blank.
+/// The names of all files in `UserBeats` except the index, sorted, each followed by a space.
 inline std::string FilesOfUserBeats()
 {
     std::set<std::string> names;

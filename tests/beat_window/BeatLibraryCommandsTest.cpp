@@ -24,7 +24,7 @@ using testing::IsEmpty;
 
 constexpr const char* kAddHint = "Choose a wav file and small (32x32) bmp picture file";
 
-/// Beats that can be changed: the index protects nothing but "original".
+/// Beats that can be changed: the index protects only "original".
 class LibraryCommandsTest : public BeatWindowTest {
 protected:
     LibraryCommandsTest()
@@ -39,7 +39,7 @@ protected:
 
     fs::path Chosen(const std::string& name) const { return services.folder.Path() / name; }
 
-    /// Sounds of other kinds become this one.
+    /// All other sound formats are converted to this wave.
     void ConvertTo(const WaveData& wave)
     {
         SaveWaveFile(wave, Chosen("converted.wav"));
@@ -330,7 +330,7 @@ TEST_F(AddBeatTest, NeverProtectsANewBeat)
     EXPECT_TRUE(Grid().Entry(1).Original);
 }
 
-/// A .gif of 1 x 1 red pixel.
+/// A .gif of one red pixel.
 const QByteArray& GifBytes()
 {
     static const QByteArray bytes =

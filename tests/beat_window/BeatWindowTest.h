@@ -25,7 +25,7 @@
 
 namespace sprout {
 
-/// The beat window on a folder of beats of the test's own.
+/// The beat window on the test's own folder of beats.
 class BeatWindowTest : public PlayTest {
 protected:
     BeatWindowTest()
@@ -35,7 +35,7 @@ protected:
     }
     ~BeatWindowTest() override { SetStatusLbl(nullptr); }
 
-    /// Opens the window as its caller does, but goes on. name: a copy, since it may be that of the window that goes.
+    /// Opens the window as its caller does, but returns at once. name: a copy, since it may be the old window's.
     BeatWindow& Open(std::string name = "")
     {
         window = std::make_unique<BeatWindow>(nullptr);
@@ -54,7 +54,7 @@ protected:
     PictureGridPic& Grid() const { return Control<PictureGridPic>("ShowAllPic"); }
     std::string TextOf(const char* label) const { return Control<QLabel>(label).text().toStdString(); }
 
-    /// The middle of a picture of the grid.
+    /// The middle of a picture in the grid.
     QPoint PlaceOf(int index) const
     {
         const GridPlace place = PlaceInGrid(Grid().Grid(), index);

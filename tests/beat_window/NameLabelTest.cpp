@@ -18,7 +18,7 @@ protected:
         return label.grab().toImage();
     }
 
-    /// The part of the label that letters cover; a part of the height is looked at.
+    /// The part of the label that letters cover, in a range of its height.
     static QRect Ink(const QImage& image, int top, int height)
     {
         QRect ink;

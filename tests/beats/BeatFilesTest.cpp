@@ -256,7 +256,7 @@ TEST_F(BeatFilesTest, FindsAsOneWhatFilesWriteAlike)
     tune.StepCount = 1;
     tune.Steps[1].OnPos = 1;
     tune.Steps[1].StepBeat = song.SongBeats[1];
-    tune.Steps[1].StepBeat.Name = "caf\xE9"; // a name in the code page, as a foreign file system may hold it
+    tune.Steps[1].StepBeat.Name = "caf\xE9"; // a name in the code page, as a foreign file system may have it
     MergeTuneBeats(song, tune);
     EXPECT_EQ(tune.Steps[1].BeatIndex, 1);
     EXPECT_EQ(song.SongBeatCount, 1);

@@ -95,7 +95,7 @@ TEST(FileHead, TakesItsTimeFromSourceDateEpochWhereItIsSet)
     ::setenv("SOURCE_DATE_EPOCH", "soon", 1);
     const std::string wrong = FileHead("TqSng", " Sprout Song File");
     ::unsetenv("SOURCE_DATE_EPOCH");
-    // The machine's zone may move hours and minutes, and the day by one.
+    // The machine's time zone may change hours and minutes, and the day by one.
     EXPECT_NE(head.find("-Sep-2020/"), std::string::npos) << head;
     EXPECT_NE(head.find(":40\r\n"), std::string::npos) << head;
     EXPECT_EQ(head, again);

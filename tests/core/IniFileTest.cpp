@@ -121,7 +121,7 @@ TEST_F(IniOnDisk, WritesABlankSectionAsGeneral)
 {
     PutIniValue(" ", "b", "1", Path());
     EXPECT_EQ(ReadBytes(Path()), "[General]\r\nb=1\r\n");
-    EXPECT_EQ(GetIniValue("", "b", "none", Path()), "none"); // reading defaults no section
+    EXPECT_EQ(GetIniValue("", "b", "none", Path()), "none"); // when reading, no section is the default
 }
 
 TEST_F(IniOnDisk, RemovesTheSectionOfABlankKey)
@@ -132,7 +132,7 @@ TEST_F(IniOnDisk, RemovesTheSectionOfABlankKey)
     EXPECT_EQ(ReadBytes(Path()), "[c]\r\nd=2\r\n");
 }
 
-/// Notes how often a file is replaced.
+/// Counts how often a file is replaced.
 class CountedFiles : public PosixFiles {
 public:
     void ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush) override
@@ -166,7 +166,7 @@ TEST_F(IniOnDisk, LeavesAFileAloneThatSaysTheSameAlready)
     EXPECT_EQ(files.replaced, 1);
     PutIniValue("a", "b", "2", Path());
     EXPECT_EQ(files.replaced, 2);
-    PutIniValue("a", "none", "", Path()); // an empty value differs from none
+    PutIniValue("a", "none", "", Path()); // an empty value is not the same as none
     EXPECT_EQ(files.replaced, 3);
 }
 
@@ -213,7 +213,7 @@ TEST_F(IniOnDisk, NeitherReadsNorReplacesAFileAboveFourMegabytes)
     EXPECT_EQ(GetIniValue("a", "b", "none", Path()), "none");
     PutIniValue("a", "c", "2", Path());
     EXPECT_EQ(fs::file_size(Path()), kMostIniBytes + 1);
-    fs::resize_file(Path(), 5'000'000'000); // a file of holes
+    fs::resize_file(Path(), 5'000'000'000); // a sparse file
     EXPECT_EQ(GetIniValue("a", "b", "none", Path()), "none");
 }
 

@@ -97,7 +97,7 @@ TEST_F(Paths, EndTheSearchWhereANameCannotBeAskedFor)
     EXPECT_EQ(NewTempFileName(tooLong), Shared().TempFolder / ("TqkTmp1." + tooLong));
 }
 
-/// A machine with room on the volume of the temporary folder alone.
+/// A machine with free space only on the volume of the temporary folder.
 class NamedRoom : public FakeMachine {
 public:
     [[nodiscard]] std::uint64_t FreeBytes(const fs::path& path) const override

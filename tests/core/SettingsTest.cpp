@@ -79,7 +79,7 @@ TEST_F(Settings, AFileThatItsUserMayNotWriteIsNotReplaced)
     EXPECT_EQ(GetSetting("s", "k", ""), "1");
 }
 
-/// Counts how often a file is asked for, and can say that it is the one it was.
+/// Can pretend that a file has not changed.
 class StillFiles : public PosixFiles {
 public:
     [[nodiscard]] std::optional<FileFacts> FactsOf(const std::filesystem::path& file) const override

@@ -132,7 +132,7 @@ TEST_F(SongModel, TurnsTempoIntoPercentAndBack)
     EXPECT_EQ(TempoPercent(100000), 200);
     EXPECT_EQ(TempoPercent(324), 101);   // 101.25
     EXPECT_EQ(TempoPercent(325), 102);   // 101.5625
-    EXPECT_EQ(TempoPercent(328), 102);   // 102.5 goes to the even one
+    EXPECT_EQ(TempoPercent(328), 102);   // 102.5 rounds to even
     EXPECT_EQ(TempoPercent(344), 108);   // 107.5
     EXPECT_EQ(TempoOfPercent(101), 323); // 323.2
     EXPECT_EQ(TempoOfPercent(102), 326); // 326.4
@@ -147,7 +147,7 @@ TEST_F(SongModel, MeasuresTheWholeGrid)
     EXPECT_EQ(SongSeconds(160), 480);
     EXPECT_EQ(SongSeconds(640), 120);
     EXPECT_EQ(SongSeconds(333), 231); // 230.63
-    EXPECT_EQ(SongSeconds(30720), 2); // 2.5 goes to the even one
+    EXPECT_EQ(SongSeconds(30720), 2); // 2.5 rounds to even
     EXPECT_THROW(static_cast<void>(SongSeconds(0)), RunTimeError);
 }
 
@@ -166,13 +166,13 @@ TEST_F(SongModel, CountsTheCellsOfAnAudioWaveAtTheReferenceTempo)
     WaveData audio;
     audio.Length = 44100 * 3;
     EXPECT_EQ(AudioCycleCells(audio), 16);
-    audio.Rate = 16; // three frames a cell
+    audio.Rate = 16; // three frames per cell
     for (const auto& [length, cells] :
          {std::pair(4, 1), std::pair(5, 2), std::pair(6, 2), std::pair(7, 2), std::pair(8, 3), std::pair(1, 1)}) {
         audio.Length = length;
         EXPECT_EQ(AudioCycleCells(audio), cells) << length;
     }
-    audio.Rate = 32; // six: a half goes to the even number
+    audio.Rate = 32; // six: a half rounds to even
     for (const auto& [length, cells] : {std::pair(3, 1), std::pair(9, 2), std::pair(15, 2), std::pair(21, 4)}) {
         audio.Length = length;
         EXPECT_EQ(AudioCycleCells(audio), cells) << length;
@@ -191,7 +191,7 @@ TEST_F(SongModel, CountsTheCellsOfAnAudioWaveAtTheReferenceTempo)
 TEST_F(SongModel, FindsTheFirstCellThatHoldsOne)
 {
     Track track;
-    track.Painted = {1, 0, 2, 1, 1}; // element 0 is no cell, 2 is as good as 0
+    track.Painted = {1, 0, 2, 1, 1}; // element 0 is not a cell, 2 counts as 0
     EXPECT_EQ(FindFirstPainted(track, 4), 3);
     EXPECT_EQ(FindFirstPainted(track, 2), 0);
     track.Painted = {1, 2};

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A desk of the test's own: an X server with a window manager, a mouse and a keyboard, a sound server, and the program
-installed in a folder of its own with a home of its own.
+"""A desk for one test: an X server with a window manager, a mouse and a keyboard, a sound server, and the program,
+installed in its own folder with its own home.
 
-Controls are found by their names, which the running program tells through the plug-in of the folder widgets/; all that
-is done to them comes from the mouse and the keyboard of the X server.
+Controls are found by their names, which the running program reports through the plug-in in the folder widgets/;
+everything done to them comes from the mouse and the keyboard of the X server.
 """
 import json
 import os
@@ -19,7 +19,7 @@ PRODUCT = "Tonquill Sprout Painter"
 
 
 class Screen:
-    """An X server on a free display, and openbox on it."""
+    """An X server on a free display, with openbox."""
 
     def __init__(self, folder, processes, size="1920x1080"):
         self.size = tuple(map(int, size.split("x")))
@@ -27,7 +27,7 @@ class Screen:
         own = os.path.join(folder, "screen")
         os.makedirs(own)
         readable, writable = os.pipe()
-        # -fbdir: what the screen shows can be read from a file, without asking the server.
+        # -fbdir: the contents of the screen can be read from a file without asking the server.
         self.server = processes.start(
             ["Xvfb", "-displayfd", str(writable), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset",
              "-fbdir", own], pass_fds=(writable,), stderr=self.log)
@@ -43,7 +43,7 @@ class Screen:
         wait_for("the window manager", lambda: "window id" in self.property("_NET_SUPPORTING_WM_CHECK"))
 
     def ask(self, *command):
-        """Runs a client of the server and gives what it prints; nothing where it fails."""
+        """Runs a client of the server and returns what it prints; an empty string if it fails."""
         return subprocess.run(command, env=self.environment, text=True, stdout=subprocess.PIPE, stderr=self.log,
                               check=False).stdout
 
@@ -55,7 +55,7 @@ class Screen:
                        check=True)
 
     def shows(self, window):
-        """Whether the server shows a window, told by the program, and shows it where the program says."""
+        """Whether the server shows a window that the program reported, at the place that the program reported."""
         told = self.ask("xwininfo", "-id", str(window.told["id"]))
         place = [int(number) for number in re.findall(r"(?:Absolute upper-left [XY]|Width|Height): +(-?\d+)", told)]
         return place == [window.x, window.y, window.width, window.height] and "Map State: IsViewable" in told
@@ -75,7 +75,7 @@ class Mouse:
         self.screen.xdotool("mousemove", *place, "click", "--repeat", times, "--delay", 60, 1)
 
     def drag(self, places):
-        """Presses at the first place, moves through all of them and lets go at the last."""
+        """Presses at the first place, moves through all of them and releases at the last."""
         words = []
         for place in places:
             words += ["mousemove", *place]
@@ -89,7 +89,7 @@ class Keyboard:
         self.screen = screen
 
     def press(self, *keys):
-        """Presses keys one after the other, such as "Return" or "ctrl+o"."""
+        """Presses keys one after the other, for example "Return" or "ctrl+o"."""
         self.screen.xdotool("key", "--delay", 20, *keys)
 
     def type(self, text):
@@ -102,7 +102,7 @@ class Keyboard:
 
 
 class Widget:
-    """A control as it was when the program was asked."""
+    """A control as it was when the program reported it."""
 
     def __init__(self, told):
         self.told = told
@@ -110,7 +110,7 @@ class Widget:
         self.x, self.y, self.width, self.height = (told[key] for key in ("x", "y", "width", "height"))
 
     def at(self, x, y):
-        """A place on the screen, from one inside."""
+        """The place on the screen of a point inside the control."""
         return self.x + x, self.y + y
 
     @property
@@ -118,7 +118,7 @@ class Widget:
         return self.at(self.width // 2, self.height // 2)
 
     def item(self, text):
-        """The middle of the row with a text, or None."""
+        """The middle of the row with this text, or None."""
         for row in self.told.get("items", []):
             if row["text"] == text:
                 return row["x"] + min(row["width"] // 2, 60), row["y"] + row["height"] // 2
@@ -134,7 +134,7 @@ class Widget:
 
 
 class Program:
-    """The program as it was started."""
+    """One run of the program."""
 
     def __init__(self, desk, environment, name="program"):
         self.desk = desk
@@ -147,7 +147,7 @@ class Program:
                                                 cwd=desk.folder, stdout=errors, stderr=errors)
 
     def report(self, seconds=60):
-        """All that the program shows, asked of it by the plug-in; it answers when it waits for its user."""
+        """Everything the program shows, reported by the plug-in; it answers when the program waits for its user."""
         with socket.socket(socket.AF_UNIX) as connection:
             connection.settimeout(seconds)
             connection.connect(self.socket)
@@ -175,13 +175,13 @@ class Program:
         return [Widget(told) for told in report["widgets"]] if report else []
 
     def find(self, name, text=None, form=None):
-        """The visible control of a name, or None. form: the kind of the window that it is in."""
+        """The visible control with this name, or None. form: the kind of the window that it is in."""
         widgets = self.widgets()
         windows = [widget for widget in widgets if "id" in widget.told]
         for widget in widgets:
             window = windows[widget.told["window"]]
             if widget.name == name and text in (None, widget.text) and form in (None, window.kind):
-                # A new window is not yet where its manager will put it.
+                # A new window is not yet at the place that the window manager will give it.
                 return widget if self.desk.screen.shows(window) else None
         return None
 
@@ -200,13 +200,13 @@ class Program:
                  lambda: not any(widget.kind == kind for widget in self.widgets()), seconds)
 
     def to_front(self, kind):
-        """Brings one of its windows to the front of all programs'."""
+        """Brings one of the program's windows in front of all others."""
         screen, number = self.desk.screen, self.wait_for_window(kind).told["id"]
         screen.ask("wmctrl", "-i", "-a", hex(number))
         wait_for(f"the window {kind} in front", lambda: self.desk.window_in_front() == number)
 
     def texts(self):
-        """All that stands written in the program's windows."""
+        """All texts in the program's windows."""
         return [widget.text for widget in self.widgets() if widget.text]
 
     def click(self, name, form=None):
@@ -257,7 +257,7 @@ class Desk:
         self.renders = 0
 
     def install(self):
-        """The program is where its executable is: settings are written beside it."""
+        """The program gets its own folder, because it writes its settings beside its executable."""
         os.mkdir(self.program_folder)
         self.executable = os.path.join(self.program_folder, "sprout-painter")
         built = os.path.join(self.build, "bin")
@@ -290,8 +290,8 @@ class Desk:
         return environment
 
     def start(self, seconds=30, name="program", **changes):
-        """Starts the program and gives it once its window waits for its user. name: tells programs that run at once
-        apart."""
+        """Starts the program and returns it once its window waits for its user. name: distinguishes programs that run
+        at once."""
         program = Program(self, self.environment(**changes), name)
         program.wait_for_window("MainFrm", seconds)
         return program
@@ -300,7 +300,7 @@ class Desk:
         return os.path.join(self.songs, name + ".TqSng")
 
     def render(self, song, *options):
-        """The frames of a song file's mix, or of the part that the options name, made by the command-line tool."""
+        """The frames of a song's mix, or of the part that the options select, made by the command-line tool."""
         return self.rendered("render", song, *options)
 
     def cycle(self, tune, tempo):
@@ -317,14 +317,14 @@ class Desk:
         return read_wave(wave)
 
     def info(self, song):
-        """What the command-line tool tells of a song."""
+        """What the command-line tool reports about a song or tune."""
         tool = os.path.join(self.build, "bin", "sprout-song")
         told = subprocess.run([tool, "info", "--json", song, "--user-root", self.user_root], text=True,
                               stdout=subprocess.PIPE, check=True).stdout
         return json.loads(told)
 
     def close_window(self, window):
-        """Lets the window manager close a window, as its menu does."""
+        """Makes the window manager close a window, as its menu does."""
         self.screen.ask("wmctrl", "-i", "-c", hex(window.told["id"]))
 
     def windows(self):
@@ -332,6 +332,6 @@ class Desk:
         return [int(number, 16) for number in re.findall(r"0x[0-9a-f]+", self.screen.property("_NET_CLIENT_LIST"))]
 
     def window_in_front(self):
-        """The number of the window that has the keyboard."""
+        """The number of the window that has the keyboard focus."""
         told = re.search(r"0x[0-9a-f]+", self.screen.property("_NET_ACTIVE_WINDOW"))
         return int(told.group(), 16) if told else None

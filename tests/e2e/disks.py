@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Small disks of a test's own, in a mount namespace that only the test sees and that needs no right to mount."""
+"""Small disks for a test, in a mount namespace that only the test sees. No right to mount is needed."""
 import os
 import subprocess
 import sys
@@ -12,7 +12,7 @@ INSIDE = "SPROUT_OWN_MOUNTS"
 
 
 class Disk:
-    """A small file system in memory. size: as mount takes it."""
+    """A small file system in memory. size: as for mount."""
 
     def __init__(self, folder, size):
         self.folder = folder
@@ -24,7 +24,7 @@ class Disk:
 
 
 def enter_own_mounts():
-    """Runs this script again where it may mount; what it mounts goes with it. Ends it as skipped where nobody may."""
+    """Runs this script again where it may mount; its mounts vanish with it. If nobody may mount, it ends as skipped."""
     if os.environ.get(INSIDE) == "1":
         return
     into = ["unshare", *([] if os.geteuid() == 0 else ["--map-root-user"]), "--mount"]
@@ -44,7 +44,7 @@ def unmount_below(folder):
 
 
 def run_cases(name, cases, run):
-    """Calls run(case, folder, processes) for each case, in a scratch folder of its own."""
+    """Calls run(case, folder, processes) for each case, each in its own scratch folder."""
     for case in cases:
         began = time.monotonic()
 
@@ -52,7 +52,7 @@ def run_cases(name, cases, run):
             try:
                 run(case, folder, processes)
             finally:
-                processes.end()  # what still runs holds its disk
+                processes.end()  # a process that still runs keeps its disk busy
                 unmount_below(folder)
 
         in_scratch_folder(name, scene)

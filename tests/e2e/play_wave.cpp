@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// play_wave FILE.wav: plays the file each time a line comes on standard input, and tells of it on standard output:
-// "begun" or "failed", then "ended". Ends at the end of its input.
+// play_wave FILE.wav: plays the file for each line on standard input and reports on standard output: "begun" or
+// "failed", then "ended". Ends at the end of its input.
 #include <chrono>
 #include <iostream>
 #include <string>

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Starting programs, waiting for facts, and the sentence that tells what failed."""
+"""Starts programs, waits for conditions, and reports failures in a sentence."""
 import os
 import shutil
 import signal
@@ -10,11 +10,11 @@ import time
 
 
 class Failure(Exception):
-    """A fact that does not hold; its text ends the sentence "Failed: "."""
+    """A condition that does not hold; its text completes the sentence "Failed: "."""
 
 
 def wait_for(what, condition, seconds=15):
-    """Waits until the condition gives something true, and returns that."""
+    """Waits until the condition returns something true, and returns that."""
     end = time.monotonic() + seconds
     while True:
         fact = condition()
@@ -31,7 +31,7 @@ def expect(fact, sentence):
 
 
 class Processes:
-    """Ends all that it started, the last first. None outlives the test, even where that is killed."""
+    """Ends everything that it started, the last first. Nothing outlives the test, even if the test is killed."""
 
     def __init__(self):
         self.started = []
@@ -49,11 +49,11 @@ class Processes:
 
 
 def in_scratch_folder(name, run):
-    """Calls run(folder, processes) and tidies up behind it; a failure ends the program with its sentence and with what
-    was written to the file "log"."""
+    """Calls run(folder, processes) and cleans up afterwards; a failure ends the program with its sentence and the
+    contents of the file "log"."""
     folder = tempfile.mkdtemp(prefix=f"sprout-{name}-")
     processes = Processes()
-    # Stopped from outside, it tidies up too.
+    # Clean up too when stopped from outside.
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
         run(folder, processes)

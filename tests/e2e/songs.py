@@ -57,7 +57,7 @@ class SongFile:
             cursor.place += PICTURE
 
     def skip_track(self, cursor):
-        """Gives the place of the track's first cell."""
+        """Returns the place of the track's first cell."""
         kind = cursor.number()
         place = cursor.place
         cursor.place += self.cells
@@ -78,7 +78,7 @@ class SongFile:
             cursor.place += 5 * steps + 1
 
     def track_cells(self, track):
-        """The cells of a track, both counted from 1: element 0 is nothing."""
+        """The cells of a track, both counted from 1: element 0 is None."""
         place = self.tracks[track - 1]
         return [None, *self.elements[place:place + self.cells]]
 
@@ -102,7 +102,7 @@ class SongFile:
 
 
 def without_time(path):
-    """The bytes of a song or tune file but for the line that tells when it was written."""
+    """The bytes of a song or tune file without the line that says when it was written."""
     with open(path, "rb") as file:
         data = file.read()
     begin = data.index(b"\r\nTime=") + 2

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A real sound server with one device, and what is recorded of it."""
+"""A real sound server with one device, and recordings of it."""
 import fcntl
 import os
 import signal
@@ -14,13 +14,13 @@ LOUDSPEAKER = os.path.join(HERE, "loudspeaker")
 RATE = 44100
 FRAME_BYTES = 4
 TAIL_FRAMES = RATE // 20
-# Frames that a recording is searched for to find where a sound begins in it.
+# A recording is searched for this many frames to find where a sound begins.
 SEARCHED_FRAMES = 512
 SILENCE = "silence"
 
 
 def write_wave(path, data):
-    """data: stereo frames of 16 bits, as bytes."""
+    """data: 16-bit stereo frames, as bytes."""
     head = struct.pack("<4sI8sIHHIIHH4sI", b"RIFF", len(data) + 36, b"WAVEfmt ", 16, 1, 2, RATE, RATE * FRAME_BYTES,
                        FRAME_BYTES, 16, b"data", len(data))
     with open(path, "wb") as file:
@@ -28,7 +28,7 @@ def write_wave(path, data):
 
 
 def read_wave(path):
-    """The frames of a WAV file as this project writes it, stereo of 16 bits, as bytes."""
+    """The frames of a WAV file written by this project, 16-bit stereo, as bytes."""
     with open(path, "rb") as file:
         head = file.read(44)
         data = file.read()
@@ -39,7 +39,7 @@ def read_wave(path):
 
 
 class SoundServer:
-    """A server of the test's own in a folder. Its environment is what its clients need."""
+    """A private server in a folder. Its clients need its environment."""
 
     def __init__(self, folder, processes):
         self.processes = processes
@@ -55,7 +55,7 @@ class SoundServer:
         leaks = os.path.join(folder, "leaks")
         with open(leaks, "w", encoding="utf-8") as file:
             file.write("leak:libpulse\nleak:libSDL2\nleak:libdbus-1\n")
-        # The libraries' own leaks are not the player's, in a build with a sanitizer.
+        # In a build with a sanitizer, the libraries' own leaks are not the player's.
         self.environment["LSAN_OPTIONS"] = f"suppressions={leaks}:print_suppressions=0"
         self.log = open(os.path.join(folder, "log"), "a", encoding="utf-8")
         self.recordings = 0
@@ -67,13 +67,13 @@ class SoundServer:
         wait_for("the sound server", self.answers)
         if os.path.exists(self.pipe):  # not with PipeWire
             with open(self.pipe, "rb", buffering=0) as pipe:
-                # The smallest pipe there is: the device is never far ahead of what was taken.
+                # The smallest possible pipe: the device is never far ahead of what was read.
                 fcntl.fcntl(pipe, fcntl.F_SETPIPE_SZ, 4096)
-                # A process of its own: nothing that the test does may hold it up.
+                # A separate process, so nothing in the test can delay it.
                 self.processes.start([LOUDSPEAKER, str(RATE * FRAME_BYTES)], stdin=pipe)
-            # It stays the one that programs play to, also when a microphone brings a device of its own.
+            # It stays the default device, even when a microphone brings its own device.
             subprocess.run(["pactl", "set-default-sink", "out"], env=self.environment, check=True)
-            # A device of this kind takes nothing, and nothing can be recorded of it, unless something plays.
+            # A device of this kind takes nothing, and nothing can be recorded from it, unless something plays.
             self.processes.start(["pacat", "--raw", "-d", "out", "--client-name=" + SILENCE, "/dev/zero"],
                                  env=self.environment, stderr=self.log)
 
@@ -89,23 +89,23 @@ class SoundServer:
         os.remove(self.socket)
 
     def plays_nothing(self):
-        """Whether no program has the device open, be it for silence."""
+        """Whether no program has the device open, not even to play silence."""
         inputs = subprocess.run(["pactl", "list", "sink-inputs"], env=self.environment, capture_output=True,
                                 text=True, check=True)
         return inputs.stdout.count("Sink Input #") == inputs.stdout.count(f'application.name = "{SILENCE}"')
 
     def plug_in_microphone(self, name="voice"):
-        """A microphone that hears what is played into it."""
+        """Returns a microphone that hears what is played into it."""
         return Microphone(self, name)
 
     def record(self):
-        """Starts a recording and gives it once something arrives."""
+        """Starts a recording and returns it once something arrives."""
         self.recordings += 1
         return Recording(self, os.path.join(self.folder, f"recording{self.recordings}.raw"))
 
 
 class Microphone:
-    """A source of the server's that hears what is played into a device of its own."""
+    """A source of the server that hears what is played into a device of its own."""
 
     def __init__(self, server, name):
         self.server, self.sink = server, name + "-in"
@@ -119,13 +119,13 @@ class Microphone:
                        check=True)
 
     def hear(self, frames):
-        """Plays frames, as bytes, into the microphone, and returns when they were heard."""
+        """Plays frames, as bytes, into the microphone, and returns when they have been heard."""
         subprocess.run(["pacat", "--playback", "--raw", "--format=s16le", f"--rate={RATE}", "--channels=2",
                         "-d", self.sink], env=self.server.environment, input=frames, stderr=self.server.log, check=True)
 
 
 class Recording:
-    """What the device plays from its making on."""
+    """What the device plays from the start of the recording on."""
 
     def __init__(self, server, path):
         self.path = path
@@ -149,15 +149,15 @@ class Recording:
         return any(self.frames().strip(b"\0"))
 
     def is_quiet(self, seconds):
-        """Whether that much silence was recorded last."""
+        """Whether the last `seconds` of the recording are silent."""
         size = int(seconds * RATE) * FRAME_BYTES
         frames = self.frames()
         return len(frames) >= size and not any(frames[-size:])
 
     def expect_wave(self, wave, seconds=15, first=True):
-        """Waits until the whole wave was recorded, and holds each of its samples against the recording. wave: frames
-        as bytes. Its own silent start cannot be told from the silence before it and is left out. first: nothing else
-        may have sounded before it."""
+        """Waits until the whole wave was recorded, and compares each of its samples with the recording. wave: frames as
+        bytes. Its silent start is left out, since it cannot be told from the silence before it. first: nothing else may
+        sound before it."""
         wanted = without_silent_start(wave)
         expect(len(wanted) >= SEARCHED_FRAMES * FRAME_BYTES, "there is nothing to hear in the expected wave")
         length = len(wanted) / FRAME_BYTES / RATE
@@ -184,7 +184,7 @@ def find_frames(data, wanted):
 
 
 def first_difference(one, other):
-    """The first frame in which two sounds of one length differ."""
+    """The first frame in which two sounds of the same length differ."""
     low, high = 0, len(one)
     while high - low > FRAME_BYTES:
         middle = (low + high) // 2 // FRAME_BYTES * FRAME_BYTES

@@ -11,7 +11,7 @@ namespace sprout {
 
 namespace {
 
-constexpr std::int32_t kSlowestRendered = 100; // cells a minute; slower songs are long, not odd
+constexpr std::int32_t kSlowestRendered = 100; // cells a minute; slower songs are only long, not unusual
 constexpr std::int32_t kMostTracks = 4;
 
 SharedState StateWithOneBeat()

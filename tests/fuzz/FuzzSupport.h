@@ -10,8 +10,8 @@
 
 namespace sprout {
 
-/// One input's run: a fresh shared state over fake services and folders that all inputs share, since making them takes
-/// longer than reading a file. The user folder holds one beat, so that names can find something.
+/// The run of one input: a fresh shared state. All inputs share the fake services and folders, since making those takes
+/// longer than reading a file. The user folder holds one beat, so names can be found.
 class FuzzRun {
 public:
     FuzzRun();
@@ -20,8 +20,8 @@ public:
     std::filesystem::path Write(const std::filesystem::path& path, const std::uint8_t* data, std::size_t size) const;
 };
 
-/// Plays what was loaded: the mix, each track and each cycle, as far as the result stays within a minute or so.
-/// Whatever a file says, a render must end.
+/// Plays what was loaded: the mix, each track and each cycle, unless the result is longer than about a minute.
+/// Whatever a file contains, a render must end.
 void RenderLoadedSong();
 
 } // namespace sprout

@@ -2,7 +2,7 @@
 #include "fuzz/FuzzSupport.h"
 #include "songs/OpenSaveClass.h"
 
-// All three versions: the head tells which it is.
+// All three versions: the head says which one it is.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace sprout;

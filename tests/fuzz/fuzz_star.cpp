@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     try {
         LoadStarFile(star);
     } catch (const RunTimeError&) {
-        return 0; // a number that is none goes to the caller
+        return 0; // an invalid number is reported to the caller
     }
     return 0;
 }

@@ -3,7 +3,7 @@
 #include "sound/TuneRender.h"
 #include "tunes/TunOpnSavClass.h"
 
-// Both forms: the file itself tells which it is.
+// Both forms: the file itself says which one it is.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     using namespace sprout;

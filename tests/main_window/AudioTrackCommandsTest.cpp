@@ -40,7 +40,7 @@ class AudioTrackCommandsTest : public CommandsTest {
 protected:
     enum class Choice { Recording, File, Cancel };
 
-    /// Clicks the button and answers its question; a file is chosen if one is given.
+    /// Clicks the button and answers its question; if a file is given it is chosen.
     void AddTrack(Choice choice, const std::optional<fs::path>& file = std::nullopt)
     {
         const char* const answer[] = {"StartRecordingBtn", "ChooseWavFileBtn", "CancelBtn"};
@@ -67,7 +67,7 @@ protected:
 
     [[nodiscard]] fs::path In(const char* name) const { return services.folder.Path() / name; }
 
-    /// A WAV file of a head alone that promises frames of one byte at 11,025 Hz.
+    /// A WAV file with only a head, which promises frames of one byte at 11,025 Hz.
     [[nodiscard]] fs::path Promise(const char* name, std::uint32_t bytes) const
     {
         SaveWaveFile(WaveOf(10), In(name));
@@ -160,7 +160,7 @@ TEST_F(AudioTrackCommandsTest, BelievesNoHeadThatLies)
 {
     AddFile(Promise("TooMuch.wav", 121 * 11025));
     EXPECT_THAT(told, ElementsAre(kTooLong));
-    // What is streamed is converted; where it cannot be, the head counts.
+    // Streamed files are converted; if that fails, the head counts.
     AddFile(Promise("Nothing.wav", 0));
     EXPECT_THAT(told, ElementsAre("No wave Data found in file|"));
     AddFile(Promise("Streamed.wav", 0xFFFFFFFF));
@@ -290,7 +290,7 @@ TEST_F(AudioTrackCommandsTest, DrawsTheRowAnewWhereTheSoundWasChanged)
     const QColor unpainted = shown();
     for (const bool wasChanged : {false, true}) {
         audioEditor = [&](std::int32_t) {
-            Paint(2, 1, 10); // so that the row looks otherwise once it is drawn
+            Paint(2, 1, 10); // so the row looks different once it is drawn
             return wasChanged;
         };
         Hover(2, 30);

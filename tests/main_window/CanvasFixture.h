@@ -23,8 +23,7 @@
 
 namespace sprout {
 
-/// A canvas whose painting surface is 600 x 300, on a song of two empty music tracks; it keeps what the canvas asks
-/// for.
+/// A canvas whose painting surface is 600 x 300, on a song with two empty music tracks; the canvas's requests are kept.
 class CanvasFixture : public testing::Test {
 protected:
     static constexpr int kPicWidth = 600;
@@ -32,7 +31,7 @@ protected:
 
     CanvasFixture()
     {
-        QCursor::setPos(790, 790); // beside the window, so that the first move is one
+        QCursor::setPos(790, 790); // beside the window, so the first move is a real one
         SetStatusLbl(&statusLbl);
         MakeProgramPictures();
         NewSong();
@@ -45,7 +44,7 @@ protected:
         QApplication::processEvents();
     }
 
-    // The mouse of the next test has no button down.
+    // In the next test no mouse button is down.
     ~CanvasFixture() override
     {
         for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton})
@@ -98,7 +97,7 @@ protected:
     QScrollBar& Scroll(const char* name) const { return *window.findChild<QScrollBar*>(QString::fromLatin1(name)); }
     bool IsShown(const char* name) const { return Part(name).isVisible(); }
 
-    /// What a surface shows now, with the widgets on it.
+    /// What a surface shows now, including the widgets on it.
     static QImage Shown(QWidget& part) { return part.grab().toImage().convertToFormat(QImage::Format_RGB32); }
     static QColor ColourAt(QWidget& part, int x, int y) { return Shown(part).pixelColor(x, y); }
 

@@ -26,7 +26,7 @@
 
 namespace sprout {
 
-/// What the next modal form says; it is answered with a button. No form: no lines.
+/// What the next modal form says; it is answered with a button. If no form comes there are no lines.
 class NextForm {
 public:
     explicit NextForm(const char* button = "OkBtn")
@@ -51,7 +51,7 @@ private:
     QTimer whenShown;
 };
 
-/// The transport and track commands on a real canvas, with a fake sound output. The song has three music tracks whose
+/// The transport and track commands on a real canvas with a fake sound output. In the three music tracks of the song,
 /// steps 1 and 2 sound; nothing is painted.
 class CommandsTest : public testing::Test {
 protected:
@@ -73,7 +73,7 @@ protected:
         SetStatusLbl(&statusLbl);
         soundStatusLbl.setText(QStringLiteral("Ready"));
         MakeCanvas();
-        // From here on the ticks come from the tests.
+        // From here on the tests make the ticks.
         transport.SetWindow(*canvas, soundStatusLbl);
         Timer("TrackTitlePlayTimer").stop();
     }
@@ -121,10 +121,10 @@ protected:
     }
     [[nodiscard]] bool MarkerShown(const char* name) const { return !Part(name).isHidden(); }
 
-    /// Rests the pointer on a place of a track's row in the title strip.
+    /// Rests the pointer on a point in a track's row of the title strip.
     void Hover(std::int32_t number, int x, int y = 20) const
     {
-        // A move to where the pointer is already is none.
+        // A move to the pointer's current place would not count.
         QTest::mouseMove(&Part("TrackTitlePic"), QPoint(1, 1));
         QTest::mouseMove(&Part("TrackTitlePic"), QPoint(x, RowTop(canvas->View(), number) + y));
     }
@@ -139,7 +139,7 @@ protected:
     {
         return testing::Value(sound.calls, testing::Contains(testing::HasSubstr("Start")));
     }
-    /// Frames that the device got, without the tail.
+    /// The frames that the device got, without the tail.
     [[nodiscard]] std::int32_t FramesPlayed() const
     {
         return static_cast<std::int32_t>(sound.pcm.size()) / 4 - (sound.pcm.empty() ? 0 : 2205);
@@ -162,7 +162,7 @@ protected:
     // What the user does in the tune window.
     std::function<bool(Tune&, bool&)> tuneWindow = [](Tune&, bool&) { return false; };
     int tuneWindowsOpened = 0;
-    // And in the windows of the child's own sound.
+    // And in the windows for the child's own sound.
     std::function<std::optional<WaveData>()> recordingWindow = [] { return std::nullopt; };
     std::function<bool(std::int32_t)> audioEditor = [](std::int32_t) { return false; };
 

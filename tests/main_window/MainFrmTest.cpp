@@ -21,7 +21,7 @@ namespace {
 
 class MainFrmTest : public MainWindowTest {
 protected:
-    /// Moves the mouse over the middle of a control and returns the hint that stands then.
+    /// Moves the mouse over the middle of a control and returns the hint shown then.
     [[nodiscard]] std::string HintOver(const char* name) const
     {
         QWidget& control = Control(name);
@@ -29,7 +29,7 @@ protected:
         return TextOf("StatusLbl");
     }
 
-    /// Moves the mouse over a place where nothing lies on the control: in the window that is above the status frame.
+    /// Moves the mouse over an empty place of the control; in the window, that is above the status frame.
     static void MoveOverGround(QWidget& ground)
     {
         const QPoint place = ground.isWindow() ? QPoint(100, ground.height() - 41) : QPoint(3, ground.height() - 3);
@@ -48,7 +48,7 @@ struct Hint {
     const char* text;
 };
 
-/// Where the mouse must be in the title strip for a button to come up.
+/// Where the mouse must be in the title strip for a button to appear.
 struct StripPoint {
     const char* control;
     int x;
@@ -102,7 +102,7 @@ TEST_F(MainFrmTest, HasItsButtonsInTheOrderOfTheTable)
 TEST_F(MainFrmTest, TellsWhatEachControlIsFor)
 {
     for (const Hint& hint : kHints) {
-        // Those of a track come up where the mouse is.
+        // The buttons of a track appear under the mouse.
         for (const StripPoint& button :
              {StripPoint{"TrackTuneBtn", 30}, StripPoint{"TrackDeleteBtn", 76}, StripPoint{"TrackPlayBtn", 115}})
             if (std::string_view(hint.control) == button.control)
@@ -306,7 +306,7 @@ TEST_F(MainFrmTest, ShowsTheAuthorAtEveryWidthAndADoubleClickOnItChangesIt)
         window->UpdateSongTitle();
         ASSERT_TRUE(Control("SngCreateLbl").isVisible()) << width;
         ASSERT_GE(Control("SngCreateLbl").width(), 40) << width;
-        ASSERT_NE(TextOf("SngCreateLbl").substr(0, 1), "\xE2") << width; // not the dots alone
+        ASSERT_NE(TextOf("SngCreateLbl").substr(0, 1), "\xE2") << width; // not only the dots
     }
     window->resize(1000, 640);
     QString asked;
@@ -483,7 +483,7 @@ TEST_F(MainFrmTest, ComesUpWithTheSaveQuestionWhereItIsClosedMinimized)
 
 TEST_F(MainFrmTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
 {
-    // Before it is shown: where the pointer rests on a button, the timer runs then.
+    // Not shown yet: in a shown window the timer runs if the pointer rests on a button.
     window.reset();
     window = std::make_unique<MainFrm>(transport);
     const auto* timer = window->findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"));
@@ -533,7 +533,7 @@ TEST_F(MainFrmTest, TellsWhetherThereIsASoundDevice)
     EXPECT_EQ(TextOf("SoundStatusLbl"), "Device Failed:");
 }
 
-/// The reddest and the darkest colours of a control's picture.
+/// Returns true if a control's picture has a pixel of this colour.
 bool HasPixel(QWidget& control, const QColor& colour)
 {
     const QImage picture = control.grab().toImage();

@@ -47,7 +47,7 @@ protected:
         PlayShared() = PlayModState();
     }
 
-    /// Makes the window anew, from what the settings file holds.
+    /// Makes the window again from the settings file.
     void Open()
     {
         window.reset();
@@ -59,7 +59,7 @@ protected:
         Activate();
     }
 
-    /// Keys reach the shortcuts of the active window only.
+    /// Keys reach only the shortcuts of the active window.
     void Activate()
     {
         window->activateWindow();
@@ -85,7 +85,7 @@ protected:
         return window->findChild<ImageButton*>(QString::fromLatin1(name))->Face();
     }
 
-    /// Presses a point of a control, drags by some pixels of the screen and lets go.
+    /// Presses a point of a control, drags by some pixels of the screen and releases.
     static void Drag(QWidget& control, QPoint from, QPoint by)
     {
         const QPointF start = control.mapToGlobal(from);
@@ -95,10 +95,10 @@ protected:
         Send(control, QEvent::MouseButtonRelease, start + by, Qt::NoButton);
     }
 
-    /// Sends one mouse event at a point of the screen.
+    /// Sends a mouse event at a point of the screen.
     static void Send(QWidget& control, QEvent::Type type, QPointF onScreen, Qt::MouseButtons held)
     {
-        // Hints follow the pointer itself, not moves that windows are sent when they open.
+        // Hints follow the pointer itself, not the moves that windows get when they open.
         QCursor::setPos(onScreen.toPoint());
         const QPointF local = onScreen - control.mapToGlobal(QPointF(0, 0));
         const Qt::MouseButton button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
@@ -111,7 +111,7 @@ protected:
         return Shared().UserSongs / (std::string(name) + ".TqSng");
     }
 
-    /// Puts a song of some tracks and a tempo into the user's songs; the open song stays.
+    /// Adds a song with a name and a tempo to the user's songs; the open song stays.
     void PutSong(std::string_view name, std::int32_t tempo) const
     {
         const SongState kept = Song();
@@ -133,7 +133,7 @@ struct ShownMessage {
     QString line2;
 };
 
-/// Notes the message that comes next and closes it.
+/// Keeps the next message and closes it.
 inline void NoteNextMessage(ShownMessage& message, std::function<void()> then = {})
 {
     WithNextForm([&message, then = std::move(then)](BandedForm& form) {

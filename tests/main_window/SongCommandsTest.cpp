@@ -16,7 +16,7 @@ constexpr std::int32_t kQuickTempo = 400;
 
 class SongCommandsTest : public MainWindowTest {
 protected:
-    /// Chooses a song in the song window that comes next, once `before` is done.
+    /// Chooses a song in the next song window, after running `before`.
     static void ChooseNextSong(const char* name, std::function<void()> before = {})
     {
         WithNextForm([name, before = std::move(before)](BandedForm& form) {
@@ -30,20 +30,20 @@ protected:
         });
     }
 
-    /// Types a name into the song window that comes next and clicks OK; `message` is what is told then.
+    /// Types a name into the next song window and clicks OK; `message` is what the program says then.
     static void SaveNextAs(const char* name, ShownMessage& message)
     {
         WithNextForm([name, &message](BandedForm& form) {
             auto* box = form.findChild<QLineEdit*>(QStringLiteral("SongNameTxt"));
             EXPECT_EQ(box->text().toStdString(), Song().SongTitle);
             box->setText(QString::fromLatin1(name));
-            // The message comes when the song window has gone.
+            // The message appears after the song window has closed.
             NoteNextMessage(message);
             Click(form, "OkBtn");
         });
     }
 
-    /// Answers the title form that comes next.
+    /// Answers the next title form.
     void ChangeNextTitle(const char* name, const char* author, const char* button = "OkBtn") const
     {
         WithNextForm([this, name, author, button](BandedForm& form) {
@@ -165,7 +165,7 @@ TEST_F(SongCommandsTest, NewSavesOverTheSongsOwnFileAfterYesWithoutAQuestion)
 
 TEST_F(SongCommandsTest, YesOpensTheSaveWindowWhereTheSongWouldTakeTheFileOfAnother)
 {
-    PutSong("Untitled", kQuickTempo); // yesterday's
+    PutSong("Untitled", kQuickTempo); // an older one
     Song().SongChanged = true;
     QString second;
     WithNextForm([&second](BandedForm& question) {

@@ -29,7 +29,7 @@ protected:
         window.show();
     }
 
-    /// All that a tempo makes stale is fresh.
+    /// Makes everything fresh that a new tempo makes stale.
     void Freshen() const
     {
         song.SongMixValid = true;
@@ -127,7 +127,7 @@ TEST_F(TempoBarTest, ShowsTheDurationOfADragAlsoWhereTheTempoLayBeyondTheSlider)
     bar->UpdateTempoSliderValue();
     ASSERT_EQ(Text("SngDurLbl"), QStringLiteral("24 sec"));
     Press();
-    DragBy(20); // the pointer stands at the slot's end already
+    DragBy(20); // the pointer is already at the slot's end
     EXPECT_EQ(Text("TempoLbl"), QStringLiteral("200%"));
     EXPECT_EQ(Text("SngDurLbl"), QStringLiteral("120 sec"));
     EXPECT_EQ(song.Tempo, 3200);
@@ -194,7 +194,7 @@ TEST_F(TempoBarTest, AClickOnTheSlotMovesThePointerThere)
 {
     QWidget& slot = Control("TempoSliderImg");
     const auto click = [&slot](int x) { QTest::mouseClick(&slot, Qt::LeftButton, {}, QPoint(x, 2)); };
-    click(17 + 75); // the pointer is 34 wide, and one percent one pixel
+    click(17 + 75); // the pointer is 34 pixels wide, and one percent is one pixel
     EXPECT_EQ(song.Tempo, 400);
     EXPECT_EQ(Text("TempoLbl"), QStringLiteral("125%"));
     EXPECT_EQ(pointer().x(), 75);

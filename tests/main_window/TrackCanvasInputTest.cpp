@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The canvas under mouse, wheel and keys.
+// The canvas with mouse, wheel and keys.
 #include <gmock/gmock.h>
 
 #include <QWheelEvent>
@@ -23,14 +23,14 @@ protected:
     {
         const QPointF at(5, 5);
         QWheelEvent turn(at, part.mapToGlobal(at), {}, eighths, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
-        QSpontaneKeyEvent::setSpontaneous(&turn); // a wheel of the program's own goes to no parent
+        QSpontaneKeyEvent::setSpontaneous(&turn); // an event sent by the program itself would not reach the parents
         qApp->notify(&part, &turn);
     }
 
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&Pic(), key, modifiers); }
 };
 
-// At cell c's left edge the pointer is on c.
+// At the left edge of cell c the pointer is on c.
 
 TEST_F(TrackCanvasInputTest, TheCellUnderThePointerIsRounded)
 {
@@ -163,7 +163,7 @@ TEST_F(TrackCanvasInputTest, ADragBesideTheSurfaceGoesOnToTheSongsEnds)
 {
     Scroll("TrackHScroll").setValue(1075);
     Press(InRow(CellX(1100, 1075), 1));
-    MoveTo(InRow(kPicWidth + 300, 1)); // no hit, cell 1375
+    MoveTo(InRow(kPicWidth + 300, 1)); // not a hit, cell 1375
     EXPECT_THAT(Painted(1, 1100, 1280), Each(1));
     EXPECT_EQ(cellText, "");
     Release(InRow(kPicWidth + 300, 1));
@@ -220,7 +220,7 @@ TEST_F(TrackCanvasInputTest, TheWheelScrollsByRowsAndWithShiftSideways)
     TurnWheel({-120, 0});
     EXPECT_EQ(canvas->View().FirstCell, 17);
     EXPECT_EQ(canvas->View().FirstTrack, 2);
-    for (int i = 0; i < 4; ++i) // a fine wheel: a row in four turns
+    for (int i = 0; i < 4; ++i) // a high-resolution wheel: one row takes four turns
         TurnWheel({0, -30});
     EXPECT_EQ(canvas->View().FirstTrack, 3);
 }
@@ -288,7 +288,7 @@ TEST_F(TrackCanvasInputTest, KeysMoveTheCellCursorAndPaint)
     Key(Qt::Key_Return);
     EXPECT_THAT(Painted(2, 1, 3), ElementsAre(0, 1, 0));
     EXPECT_EQ(Pic().accessibleName(), QStringLiteral("Track 2, cell 2, painted"));
-    // A stroke from there, taken back by a cell.
+    // A stroke from there, taken back by one cell.
     const auto both = Qt::ControlModifier | Qt::ShiftModifier;
     for (int i = 0; i < 4; ++i)
         QTest::keyPress(&Pic(), Qt::Key_Right, both);

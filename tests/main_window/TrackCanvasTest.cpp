@@ -19,17 +19,17 @@ using testing::ElementsAre;
 
 class TrackCanvasTest : public CanvasFixture {};
 
-/// Collects what is drawn anew on a widget.
+/// Collects the regions that are redrawn on a widget.
 class PaintWatch : public QObject {
 public:
     explicit PaintWatch(QWidget& watched) : widget(watched)
     {
-        static_cast<void>(widget.grab()); // labels lay themselves out when they are drawn first
+        static_cast<void>(widget.grab()); // labels do their layout when they are first drawn
         DrawNow();
         widget.installEventFilter(this);
     }
 
-    /// What was drawn since the last call, and what is waiting for it.
+    /// What was drawn since the last call, including what is still pending.
     QRegion Drawn()
     {
         DrawNow();
@@ -63,7 +63,7 @@ bool HasColourIn(const QImage& image, const QRect& place, const QColor& colour)
     return false;
 }
 
-/// The box around the pixels of a place that `isInk` tells.
+/// The bounding box of the pixels for which `isInk` is true.
 template <class IsInk>
 QRect InkIn(const QRect& place, IsInk isInk)
 {
@@ -124,7 +124,7 @@ TEST_F(TrackCanvasTest, GivesTrack9Tile10Track10Tile1AndTrack11Tile2)
         const QImage tile = Artwork(QStringLiteral("tiles/Tile%1").arg(number), QSize(64, 32), 1)
                                 .toImage()
                                 .convertToFormat(QImage::Format_RGB32);
-        // Inside the black marks: without the edges and the starts of the cycles of 16 cells.
+        // Inside the black marks: without the edges and the starts of the 16-cell cycles.
         const QRect inside(2, 6, 44, 20);
         EXPECT_EQ(shown.copy(inside.translated(64, RowY(row) + 7)), tile.copy(inside)) << "row " << row;
     };
@@ -221,7 +221,7 @@ TEST_F(TrackCanvasTest, LabelsTheSecondsUpTo480AtHalfTheTempo)
 {
     Scroll("TrackHScroll").setValue(Scroll("TrackHScroll").maximum());
     const std::int32_t firstCell = canvas->View().FirstCell;
-    // Where cell 1281 would stand: 240 seconds at the reference tempo.
+    // Where cell 1281 would be: 240 seconds at the reference tempo.
     const QRect label(CellX(1281, firstCell), 0, 24, 14);
     const QImage at240 = Shown(Pic()).copy(label);
     Song().Tempo = 160;
@@ -254,7 +254,7 @@ TEST_F(TrackCanvasTest, WritesTheNumberOfATrackAheadOfItsPicture)
 {
     SetTracks(110);
     QFont small = ButtonFont();
-    small.setPixelSize(12); // a third digit would reach into the picture
+    small.setPixelSize(12); // a third digit would overlap the picture
     const auto expectNumber = [this](std::int32_t track, int left, const QFont& font) {
         Scroll("TrackVScroll").setValue(track);
         const QImage shown = Shown(Strip());
@@ -272,7 +272,7 @@ TEST_F(TrackCanvasTest, WritesTheNumberOfATrackAheadOfItsPicture)
 TEST_F(TrackCanvasTest, LaysThePictureOfTheTimeBandFivePixelsToTheLeft)
 {
     Song().Tempo = 0;                          // no seconds
-    canvas->resize(140 + 3900 + 18, 300 + 18); // so wide that its end is seen
+    canvas->resize(140 + 3900 + 18, 300 + 18); // so wide that the end of the song is visible
     QImage band(3900, 17, QImage::Format_RGB32);
     band.fill(kPaper);
     QPainter(&band).drawPixmap(-5, 2, Artwork(QStringLiteral("pictures/TimeSlide"), QSize(3850, 15), 1));
@@ -285,7 +285,7 @@ TEST_F(TrackCanvasTest, StandsTheSecondsOnTheFootOfTheBand)
     Song().Tempo = 0; // none
     canvas->DrawTrackTop();
     const QImage without = Shown(Pic());
-    const QRect aroundFive(72, 0, 40, 17); // five seconds stand 80 pixels behind the start
+    const QRect aroundFive(72, 0, 40, 17); // five seconds are 80 pixels after the start
     const int top = 17 - QFontMetrics(HintFont()).height();
     EXPECT_EQ(InkIn(aroundFive,
                     [&](int x, int y) {
@@ -380,7 +380,7 @@ TEST_F(TrackCanvasTest, ShowsAfterAStrokeWhatAWholeRedrawShows)
     Release(InRow(90, 1));
     const QImage shown = Shown(Pic());
     canvas->DrawTracksAll();
-    MoveTo(InRow(90, 1)); // the redraw hides the cell cursor
+    MoveTo(InRow(90, 1)); // redrawing hides the cell cursor
     EXPECT_EQ(Shown(Pic()), shown);
 }
 
@@ -390,7 +390,7 @@ TEST_F(TrackCanvasTest, SetsTheScrollBarsByTheRowsAndCells)
     EXPECT_EQ(Scroll("TrackVScroll").minimum(), 1);
     EXPECT_EQ(Scroll("TrackHScroll").minimum(), 1);
     EXPECT_EQ(Scroll("TrackHScroll").maximum(), 1280 - 200 + 10);
-    SetTracks(4); // six rows fit, three of them are kept free
+    SetTracks(4); // six rows fit, but three of them are kept free
     EXPECT_FALSE(Scroll("TrackVScroll").isEnabled());
     SetTracks(5);
     EXPECT_TRUE(Scroll("TrackVScroll").isEnabled());

@@ -22,7 +22,7 @@ protected:
 
     void PlaySomething() { PlayWaveStatus(CountingWave(100), "Playing", Loop::No); }
     void HoverDeleteButton(std::int32_t number) const { Hover(number, 75); }
-    /// What both surfaces show. The first drawing keeps nothing, so that a second one is needed to see what is stale.
+    /// What both surfaces show. The first drawing keeps nothing, so only a second one shows what is stale.
     [[nodiscard]] std::pair<QImage, QImage> Shown() const
     {
         const auto grab = [this](const char* name) {
@@ -31,7 +31,7 @@ protected:
         };
         return {grab("TrackTitlePic"), grab("TrackPic")};
     }
-    /// Whether a redraw of everything changes nothing.
+    /// Returns true if redrawing everything changes nothing.
     [[nodiscard]] bool ShowsTheSongAsItIs() const
     {
         const auto shown = Shown();
@@ -62,7 +62,7 @@ TEST_F(TrackCommandsTest, AddsATrackWithTheChosenTune)
     EXPECT_FALSE(song.Tracks[4].TrackRenderValid);
     EXPECT_TRUE(song.Tracks[3].TrackRenderValid);
     EXPECT_TRUE(Marked());
-    EXPECT_EQ(Part("TrackAddBtn").y(), 4 * 46 + 30); // the rows were drawn anew
+    EXPECT_EQ(Part("TrackAddBtn").y(), 4 * 46 + 30); // the rows were redrawn
 }
 
 TEST_F(TrackCommandsTest, ACancelledAddTakesTheTrackAwayAndMarksTheSong)
@@ -233,7 +233,7 @@ TEST_F(TrackCommandsTest, TheRowShowsATuneThatWasChosen)
     const auto before = Shown();
     tuneWindow = [](Tune& tune, bool&) {
         tune.Picture = Shared().BlankStarPic;
-        tune.StepCount = 8; // another cycle
+        tune.StepCount = 8; // a different cycle
         return true;
     };
     HoverPicture(2);
@@ -265,7 +265,7 @@ TEST_F(TrackCommandsTest, ACancelledTuneWindowRendersATuneThatIsNotRenderedAndMa
     EXPECT_GT(song.Tracks[2].TrackTune.TuneWave.Length, 0);
     EXPECT_TRUE(song.Tracks[2].TrackRenderValid);
     EXPECT_TRUE(Unmarked());
-    // One that is rendered stays as it is.
+    // A rendered one does not change.
     song.Tracks[2].TrackTune.TuneWave = WaveData();
     HoverPicture(2);
     tracks->TrackTuneBtn();

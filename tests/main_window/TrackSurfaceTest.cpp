@@ -80,7 +80,7 @@ TEST(SurfacePainter, RepeatsTheBitsOfAPictureAtTwiceTheSize)
     EXPECT_EQ(canvas.pixelColor(1, 0), QColor(Qt::white));
 }
 
-/// A surface with a dot in a corner, which counts how often it is drawn.
+/// A surface with a dot in a corner; counts how often it is drawn.
 class DottedSurface : public TrackSurface {
 public:
     DottedSurface() : TrackSurface("Surface", Qt::green, nullptr)

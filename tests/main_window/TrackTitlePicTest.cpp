@@ -85,7 +85,7 @@ TEST_F(TrackTitlePicTest, FloatsDeleteAndPlayInTheirRangesAlone)
     }
     EXPECT_EQ(Part("TrackDeleteBtn").geometry(), QRect(70, RowY(1) + 15, 14, 16));
     for (const QPoint& at : {QPoint(70, 20), QPoint(84, 20), QPoint(75, 14), QPoint(75, 31)}) {
-        Hover(62, 5); // the button itself takes the pointer's moves while it floats
+        Hover(62, 5); // while the button floats, it gets the pointer's moves itself
         Hover(at.x(), RowY(1) + at.y());
         EXPECT_THAT(Floating(), IsEmpty()) << at.x() << "," << at.y();
     }
@@ -130,7 +130,7 @@ TEST_F(TrackTitlePicTest, HideTrackButtonsAndAWholeRedrawHideTheButtons)
 TEST_F(TrackTitlePicTest, APressShowsWhatItWouldPressWhereARedrawHidTheButtons)
 {
     Hover(117, RowY(1) + 20);
-    canvas->DrawTracksAll(); // as behind a scroll or a deleted track, with the pointer at rest
+    canvas->DrawTracksAll(); // as after scrolling or deleting a track, with the pointer at rest
     ASSERT_THAT(Floating(), IsEmpty());
     QTest::mouseClick(&Strip(), Qt::LeftButton, {}, QPoint(117, RowY(2) + 20));
     EXPECT_THAT(Floating(), ElementsAre("TrackPlayBtn"));
@@ -163,7 +163,7 @@ TEST_F(TrackTitlePicTest, TheTuneButtonTellsTheTunesNameAndLetsItPlay)
     TrackOf(1).TrackTune.Name = "Bambu";
     QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(12, 10));
     EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("Bambu"));
-    TrackOf(1).TrackTune.Name = "<b>Bold</b>"; // a name, and no way to write it
+    TrackOf(1).TrackTune.Name = "<b>Bold</b>"; // a name, not markup
     QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(13, 10));
     EXPECT_EQ(Part("TrackTuneBtn").toolTip(), QStringLiteral("<p>&lt;b&gt;Bold&lt;/b&gt;</p>"));
     Hover(40, RowY(2) + 20);
@@ -223,8 +223,8 @@ TEST_F(TrackTitlePicTest, TheHeadingsExplainThemselvesWhenClicked)
     expectMessage("Label5", "Click on the Tune button below this.", [this] { Click(window, "Label5"); });
     expectMessage("Label5", "Click on the Tune button below this.",
                   [this] { QTest::keyClick(&Part("Label5"), Qt::Key_Return); });
-    RepeatKey(Part("Label5"), Qt::Key_Return); // brings up no message that this test would have to close
-    // Above the columns that they name.
+    RepeatKey(Part("Label5"), Qt::Key_Return); // shows no message, which this test would have to close
+    // They are above the columns that they name.
     EXPECT_EQ(Part("Label1").accessibleName(), QStringLiteral("Play"));
     EXPECT_EQ(Part("Label5").accessibleName(), QStringLiteral("Tune"));
     EXPECT_EQ(Part("Label5").accessibleDescription(), QStringLiteral("Click on the Tune button below this."));
@@ -253,7 +253,7 @@ TEST_F(TrackTitlePicTest, KeysChooseARowAndItsButtonAndPressIt)
     EXPECT_THAT(asked, ElementsAre("TrackAudioBtn", "TrackTuneBtn"));
     QTest::keyClick(&Strip(), Qt::Key_Escape);
     EXPECT_THAT(Floating(), IsEmpty());
-    QTest::keyClick(&Strip(), Qt::Key_Return); // shows it again first
+    QTest::keyClick(&Strip(), Qt::Key_Return); // first shows it again
     EXPECT_THAT(Floating(), ElementsAre("TrackTuneBtn"));
     EXPECT_EQ(asked.size(), 2U);
 }

@@ -100,7 +100,7 @@ TEST_F(TransportTest, TheFirstPlayWithoutASoundDeviceSaysWhatCanBeDone)
     EXPECT_THAT(first.lines, ElementsAre("I cannot find a loudspeaker to play your music on.",
                                          "Plug in headphones or a loudspeaker and press play again. Or ask a "
                                          "grown-up."));
-    transport.PlayAllBtn(); // once: a second message would wait here for ever
+    transport.PlayAllBtn(); // once: a second message would wait here forever
     HoverPlayButton(1);
     transport.TrackPlayBtn();
     EXPECT_FALSE(MarkerShown("PlayPosImg0"));
@@ -147,7 +147,7 @@ TEST_F(TransportTest, PlaysTheSongFromACellByAClickOnTheTimeBand)
     QTest::mouseClick(&Part("TrackPic"), Qt::LeftButton, {}, QPoint(CellLeft(canvas->View(), 6), 5));
     EXPECT_EQ(play.PlayStartPos, 6);
     EXPECT_EQ(play.PlayingTrack, kWholeSong);
-    EXPECT_EQ(FramesPlayed(), song.SongMix.Length - 8269 + 1); // 0.1875 s, and that frame itself
+    EXPECT_EQ(FramesPlayed(), song.SongMix.Length - 8269 + 1); // 0.1875 s, and the frame itself
     EXPECT_EQ(Status(), "Playing All");
 }
 
@@ -216,7 +216,7 @@ TEST_F(TransportTest, PlaysAnAudioTrackAlone)
     Paint(2, 7, 8);
     HoverPlayButton(2);
     transport.TrackPlayBtn();
-    EXPECT_EQ(FramesPlayed(), 8269 + 5000); // once a cell
+    EXPECT_EQ(FramesPlayed(), 8269 + 5000); // once per cell
 }
 
 TEST_F(TransportTest, AsksForAStepOrPaintAndPlaysNoTrack)
@@ -396,7 +396,7 @@ TEST_F(TransportTest, AScrollSidewaysOrAStrokeEndsTheFollowingOfAPlay)
         transport.PlayStopBtn();
     }
     canvas->ShowFromStart();
-    transport.PlayAllBtn(); // for that play only
+    transport.PlayAllBtn(); // only for that play
     sound.place.Cursor = 8269 * 400;
     Tick("PlayPosTimer");
     EXPECT_EQ(canvas->View().FirstCell, 404);
@@ -433,7 +433,7 @@ TEST_F(TransportTest, FindsTheEndOfASoundByItself)
     sound.place.Playing = false;
     Tick("PlayPosTimer");
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
-    EXPECT_EQ(Part("PlayPosImg0").x(), CellLeft(canvas->View(), 7)); // not back at the start for a moment
+    EXPECT_EQ(Part("PlayPosImg0").x(), CellLeft(canvas->View(), 7)); // not even briefly back at the start
     Tick("PlayPosTimer");
     EXPECT_FALSE(MarkerShown("PlayPosImg0"));
     EXPECT_EQ(Status(), "Done");
@@ -487,7 +487,7 @@ TEST_F(TransportTest, PlaysTheTuneUnderThePointerAgainAndAgain)
         EXPECT_TRUE(song.Tracks[2].TrackTune.TuneWaveValid);
         EXPECT_EQ(FramesPlayed(), song.Tracks[2].TrackTune.TuneWave.Length);
         EXPECT_EQ(Status(), "Playing Star");
-        EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 4000); // 16 steps of 0.1875 s and a second
+        EXPECT_EQ(Timer("TrackTitlePlayTimer").interval(), 4000); // 16 steps of 0.1875 s plus a second
         EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive());
     }
     EXPECT_EQ(services.screen.processPicsShown, 1);
@@ -526,7 +526,7 @@ TEST_F(TransportTest, PlaysTheTuneOfABrushStroke)
     tune.TuneWave = CountingWave(500);
     tune.TuneWaveValid = true;
     QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
-    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive()); // the press enables it
+    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive()); // the press starts it
     Tick("TrackTitlePlayTimer");
     EXPECT_EQ(FramesPlayed(), 500);
     EXPECT_EQ(Status(), "Playing Star");

@@ -23,7 +23,7 @@ using testing::IsEmpty;
 
 constexpr const char* kNoSelection = "Make a selection on the waveform|(by mouse drag) to adjust volume or delete.|";
 
-/// A song with a music track and an audio track of 16,000 frames, and the editor opened on the second one. The picture
+/// A song with a music track and an audio track of 16,000 frames, and the editor opened on the audio track. The picture
 /// is 736 pixels wide.
 class AudioEditFrmTest : public PlayTest {
 protected:
@@ -76,14 +76,14 @@ protected:
         QTest::mouseRelease(&Pic(), Qt::LeftButton, {}, {to, 30});
     }
 
-    /// What the track's sound is after OK.
+    /// The track's sound after OK.
     const WaveData& Taken()
     {
         Click("OkBtn");
         return Audio();
     }
 
-    /// The picture's pixels in the selection's colour, "left-right", in the top row.
+    /// The pixels of the picture's top row that have the selection's colour, as "left-right".
     std::string Boxed()
     {
         const QImage image = Pic().Draw(1);
@@ -261,7 +261,7 @@ TEST_F(AudioEditFrmTest, CutsTheSelectedPartOutAndSelectsNothing)
     EXPECT_EQ(play.PlayState, PlayState::Playing);
     const WaveData& left = Taken();
     EXPECT_EQ(play.PlayLength, left.Length);
-    EXPECT_EQ(left.Length, 16000 - left.WavL[1] + 1); // the counting wave tells where the cut was
+    EXPECT_EQ(left.Length, 16000 - left.WavL[1] + 1); // the counting wave shows where the cut was
     EXPECT_NEAR(left.Length, 8000, 22);
     EXPECT_EQ(left.WavR[left.Length], -16000);
 }
@@ -352,7 +352,7 @@ TEST_F(AudioEditFrmTest, NeverShowsFewerSamplesThanPixels)
     QTest::keyClick(&Pic(), Qt::Key_Home);
     for (int i = 0; i < 10; ++i)
         Click("ZoomInBtn");
-    // A pixel, a sample: the arrow moves by one.
+    // One pixel per sample: the arrow moves by one.
     for (int i = 0; i < 50; ++i)
         QTest::keyClick(&Pic(), Qt::Key_Right, Qt::ShiftModifier);
     EXPECT_EQ(Boxed(), "0-50");
@@ -371,7 +371,7 @@ TEST_F(AudioEditFrmTest, ScrollsFromWhereTheViewStands)
     Bar().setValue(51);
     const QImage twice = Pic().Draw(1);
     Bar().setValue(50);
-    EXPECT_NE(Pic().Draw(1), once); // the same value is another place now
+    EXPECT_NE(Pic().Draw(1), once); // the same value now means another place
 }
 
 TEST_F(AudioEditFrmTest, ScrollsOnceForAThumbThatIsLetGo)

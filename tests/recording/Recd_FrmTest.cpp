@@ -36,7 +36,7 @@ protected:
     }
     ~RecdFrmTest() override { Recd() = {}; }
 
-    /// Records, and does `steps` once the window stands; one that they leave open is closed.
+    /// Records, and runs `steps` once the window is open; if they leave it open, it is closed.
     void Record(const std::function<void()>& steps)
     {
         form->InitilizeForm();
@@ -57,7 +57,7 @@ protected:
         QApplication::sendEvent(&timer, &tick);
     }
 
-    /// The capture tells this much, and the window looks.
+    /// The capture reports this status, and the window checks it.
     void Tell(CaptureState state, std::int64_t blocks, CaptureEnd end = CaptureEnd::None)
     {
         capture.status.State = state;
@@ -89,7 +89,7 @@ protected:
 TEST_F(RecdFrmTest, HasTheProgramsNameInItsTitle)
 {
     EXPECT_EQ(form->windowTitle(), QStringLiteral("Tonquill Sprout Painter - Record Audio"));
-    form->show(); // before that there is no room for it
+    form->show(); // until then there is no room for it
     EXPECT_EQ(Text("CaptionLbl"), " Tonquill Sprout Painter - Record Audio");
 }
 
@@ -296,7 +296,7 @@ TEST_F(RecdFrmTest, StaysOpenWhereTheRecordingCannotBeReadAndLeavesNoVoiceBehind
     public:
         void Stop() override
         {
-            isKeeping = false; // from here on the files are the window's
+            isKeeping = false; // from here on the files belong to the window
             std::filesystem::remove(files.first);
             std::filesystem::create_symlink("/proc/self/mem", files.first);
         }
@@ -324,7 +324,7 @@ TEST_F(RecdFrmTest, TellsThatTheRecordingFailedAndShowsAllTheSame)
     form->InitilizeForm();
     ASSERT_TRUE(form->InitilizeDriver());
     bool isShown = false;
-    QTimer::singleShot(0, form.get(), [this, &isShown] { // runs while the message stands
+    QTimer::singleShot(0, form.get(), [this, &isShown] { // runs while the message is open
         QTimer::singleShot(0, form.get(), [this, &isShown] {
             Tick("CaptureTimer");
             isShown = form->isVisible();
@@ -454,7 +454,7 @@ TEST_F(RecdFrmTest, SaysFailedWhereThereIsNoMixerAndRecordsAllTheSame)
 
 TEST_F(RecdFrmTest, SelectsTheSourceThatIsChosen)
 {
-    capture.sources->Sources.insert(capture.sources->Sources.begin(), {" ", 1}); // has no line
+    capture.sources->Sources.insert(capture.sources->Sources.begin(), {" ", 1}); // it gets no line
     capture.sources->Selected = 1;
     form = std::make_unique<Recd_Frm>(nullptr);
     capture.calls.clear();

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 
 using Samples = std::vector<std::int16_t>;
 
-/// The elements of a channel from 0 on.
+/// The elements of a channel, starting at 0.
 Samples Elements(const Channel& channel)
 {
     Samples elements;
@@ -120,7 +120,7 @@ TEST_F(RecdModTest, KeepsArraysAndFilesWhereTheRightFileCannotBeRead)
 {
     Recd().RecdWavL = Channel(3);
     WriteBytes(left, "abcdef");
-    // A plain file by its kind, whose bytes cannot be read.
+    // It looks like a regular file, but its bytes cannot be read.
     fs::create_symlink("/proc/self/mem", right);
     EXPECT_THROW(Load(), RunTimeError);
     EXPECT_EQ(Recd().RecdWavL.UpperBound(), 3);
@@ -128,7 +128,7 @@ TEST_F(RecdModTest, KeepsArraysAndFilesWhereTheRightFileCannotBeRead)
     EXPECT_TRUE(fs::exists(left));
 }
 
-/// Gives a file another size when memory for a long sound is asked for: when its length is known, before it is read.
+/// Resizes a file when memory for a long sound is allocated: after its length is known, before it is read.
 class ResizingMemory : public MemoryWatch {
 public:
     ResizingMemory(const fs::path& file, std::uintmax_t newSize)
@@ -161,7 +161,7 @@ TEST_F(RecdModTest, ReadsNoMoreOfAFileThatGrowsWhileItIsRead)
     EXPECT_EQ(Recd().RecdLength, 2'499'999);
     EXPECT_EQ(Recd().RecdWavL.UpperBound(), 2'499'999);
     EXPECT_EQ(Recd().RecdWavL[2'499'999], 0x6161);
-    Recd() = {}; // its memory goes back to where it came from
+    Recd() = {}; // returns its memory to where it came from
 }
 
 TEST_F(RecdModTest, AllocatesNoMoreThanTheSamples)
@@ -205,7 +205,7 @@ TEST_F(RecdModTest, HandsOverOneBlockForTwoEqualChannels)
 
 TEST_F(RecdModTest, HandsOverAnEmptyWaveWhereNothingWasRecorded)
 {
-    WriteBytes(left, std::string("\1\0", 2)); // the sample that every wave loses
+    WriteBytes(left, std::string("\1\0", 2)); // the one sample that every wave loses
     Load();
     EXPECT_EQ(Recd().RecdLength, 0);
     EXPECT_EQ(TakeRecordedWave(), WaveData());

@@ -20,7 +20,7 @@ using testing::ElementsAre;
 
 constexpr QSize kSize{101, 65};
 
-/// A picture of 101 x 65 pixels: samples of a wave of 100 are a pixel apart, the zero line is row 32.
+/// A picture of 101 x 65 pixels: the samples of a wave of 100 are one pixel apart, the zero line is row 32.
 class WavePicTest : public testing::Test {
 protected:
     WavePicTest()
@@ -47,7 +47,7 @@ protected:
         pic.Show(DrawWaveform(wave, pic.ScaleSize(), view));
     }
 
-    /// The pixel as it stands on the screen.
+    /// The pixel as it appears on the screen.
     [[nodiscard]] QColor Pixel(int x, int y) { return pic.grab().toImage().pixelColor(x, y); }
 
     static QColor Back() { return ColourOf(Shared().WaveColours.NormalBackColor); }
@@ -228,7 +228,7 @@ TEST_F(WavePicTest, CountsAButtonAsUpWhereThePictureIsHidden)
     QTest::mousePress(&pic, Qt::LeftButton, {}, {20, 20});
     window.hide();
     EXPECT_THAT(noted, ElementsAre("press 20", "release 20"));
-    QTest::mouseRelease(&pic, Qt::LeftButton, {}, {20, 20}); // or the tests behind this one begin with it down
+    QTest::mouseRelease(&pic, Qt::LeftButton, {}, {20, 20}); // or the next tests would begin with it down
 }
 
 TEST_F(WavePicTest, ReportsTheKeysOfTheCursor)

@@ -43,7 +43,7 @@ protected:
     [[nodiscard]] fs::path MailedFile() const { return Shared().TempFolder / "private1/Zumi_ 1.wma"; }
     [[nodiscard]] std::string Hint() const { return statusLbl.text().toStdString(); }
 
-    /// The lines of the next message, which is closed with OK.
+    /// Notes the lines of the next message and closes it with OK.
     void NoteNextMessage()
     {
         WithNextForm([this](BandedForm& form) { NoteMessage(form); });
@@ -55,7 +55,7 @@ protected:
         Click(form, "OkBtn");
     }
 
-    /// Clicks, and lets everything come to its end.
+    /// Clicks and waits until everything has ended.
     void EmailToTheEnd()
     {
         command->EmailBtn();
@@ -63,7 +63,7 @@ protected:
     }
     [[nodiscard]] bool IsAtRest() const { return !command->IsUnderWay(); }
 
-    /// Answers the message that comes some time later.
+    /// Answers a message that comes some time later.
     void NoteMessageWhenItComes()
     {
         QObject::connect(&look, &QTimer::timeout, &look, [this] {
@@ -161,7 +161,7 @@ TEST_F(EmailSongTest, TellsWhyNoFileCouldBeWritten)
     EXPECT_EQ(Hint(), "");
     EXPECT_TRUE(mail.messages.empty());
     EXPECT_FALSE(fs::exists(MailedFile().parent_path()));
-    EXPECT_EQ(services.screen.stages.back(), ""); // the progress had gone before
+    EXPECT_EQ(services.screen.stages.back(), ""); // the progress was already gone
 }
 
 TEST_F(EmailSongTest, LeavesNothingOnAFullDisk)
@@ -194,13 +194,13 @@ TEST_F(EmailSongTest, LeavesNothingWhereTheUserStopsTheWriting)
     EXPECT_TRUE(services.messages.shown.empty());
     EXPECT_EQ(Hint(), "");
     EXPECT_EQ(services.screen.stages.back(), "");
-    EXPECT_TRUE(song.SongMixValid); // that was done before
+    EXPECT_TRUE(song.SongMixValid); // that was already done
 }
 
 TEST_F(EmailSongTest, LeavesNothingWhereTheUserStopsTheMixing)
 {
     Shared().TestTone = CountingWave(1000);
-    At(song.Tracks, 1).TrackTune.Steps[1].OnPos = 1; // without a beat, it sounds the test tone
+    At(song.Tracks, 1).TrackTune.Steps[1].OnPos = 1; // without a beat it plays the test tone
     At(song.Tracks, 1).Painted[1] = 1;
     song.SongMixValid = false;
     services.screen.progressesBeforeStop = 0;
@@ -248,7 +248,7 @@ TEST_F(EmailSongTest, WaitsWithItsMessageUntilAnotherFormIsAnswered)
     BandedForm other(nullptr);
     WithNextForm([&](BandedForm& form) {
         command->EmailBtn();
-        // The hand-over ends, and its end is looked at, while the form waits.
+        // The hand-over ends, and its end is noticed, while the form waits.
         EXPECT_TRUE(QTest::qWaitFor([this] { return command->findChild<QTimer*>()->isActive(); }, kLongestWait));
         cameBefore = QApplication::activeModalWidget() != &form;
         NoteMessageWhenItComes();

@@ -32,7 +32,7 @@ constexpr const char* kWavSaved = "Good! Your song is saved as audio (.wav) file
 constexpr const char* kWavFailed = "Failed to save the song as audio (.wav) file.";
 constexpr const char* kWmaFailed = "Failed to save the song as audio (.wma) file.";
 
-/// The song "Zumi", mixed already, a folder to save it to, and somebody who answers dialogs and messages.
+/// The mixed song "Zumi", a folder to save it to, and answers for dialogs and messages.
 class SaveSongAsSoundTest : public testing::Test {
 protected:
     SaveSongAsSoundTest()
@@ -57,7 +57,7 @@ protected:
         Shared().Song.SongMixValid = true;
     }
 
-    /// A song of one cell that sounds, not mixed yet.
+    /// A song with one sounding cell, not mixed yet.
     static void GiveOnePaintedStep()
     {
         NewSong();
@@ -71,8 +71,8 @@ protected:
         song.SongMixValid = false;
     }
 
-    /// Saves under the files that the dialog is answered with, one after the other; none cancels it. Messages and
-    /// questions are answered with `buttons`, else with OK. Returns whether the song window is to hide.
+    /// Saves; the dialogs are answered with these files in turn, and cancelled when there are no more. Messages and
+    /// questions are answered with `buttons`, otherwise with OK. Returns whether the song window should hide.
     bool Save(SoundFileKind kind, std::vector<fs::path> chosen, std::vector<std::string> buttons = {})
     {
         questions.clear();

@@ -34,7 +34,7 @@ struct Told {
     }
 };
 
-/// Songs in a folder of their own, the song "Zumi" open, and a status line.
+/// Songs in their own folder, with "Zumi" open, and a status line.
 class SongSelFrmTest : public testing::Test {
 protected:
     SongSelFrmTest()
@@ -88,7 +88,7 @@ protected:
         return selected.isEmpty() ? QString() : selected.front()->text();
     }
 
-    /// Clicks a button of the window, and another of the message or question that comes then.
+    /// Clicks a button of the window, and another one of the message or question that follows.
     Told ClickAndAnswer(const char* button, const char* answer)
     {
         Told told;
@@ -261,7 +261,7 @@ TEST_F(SongSelFrmTest, ArrowsTypingAndEnterOpenASong)
     EXPECT_EQ(Selected(), QStringLiteral("Rain"));
     QTest::keyClicks(&List(), QStringLiteral("zu"));
     EXPECT_EQ(Selected(), QStringLiteral("Zumi"));
-    QTest::keyClick(&List(), Qt::Key_Down); // the last line stays, and the focus with it
+    QTest::keyClick(&List(), Qt::Key_Down); // the last line keeps the selection and the focus
     EXPECT_EQ(Selected(), QStringLiteral("Zumi"));
     EXPECT_TRUE(List().hasFocus());
     QTest::keyClick(&List(), Qt::Key_Return);
@@ -575,7 +575,7 @@ TEST_F(SongSelFrmTest, ARenamedSongIsSelectedUnderItsNewName)
     EXPECT_EQ(Selected(), QStringLiteral("Ape"));
     EXPECT_EQ(ReadBytes(songFolder / "Ape.TqSng"), "Zumi");
     EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
-    Rename(QStringLiteral("Sky")); // behind another
+    Rename(QStringLiteral("Sky")); // sorted after the other one
     EXPECT_EQ(Selected(), QStringLiteral("Sky"));
 }
 

@@ -13,7 +13,7 @@ namespace {
 
 using Numbers = std::vector<std::int32_t>;
 
-/// A song of the given beats (name, stamp) and one music track whose steps use the given numbers.
+/// A song with the given beats (name, stamp) and one music track whose steps use the given beat numbers.
 SongState MakeSong(std::initializer_list<std::pair<const char*, const char*>> beats, const Numbers& used)
 {
     SongState song;
@@ -90,7 +90,7 @@ TEST(CompactSongBeats, DoesNotAskTracksThatAreNotMusic)
         song.Tracks[1].TrackType = type;
         Compact_Song_Beats(song);
         EXPECT_EQ(song.SongBeatCount, 0);
-        EXPECT_EQ(Used(song), (Numbers{1})); // its steps are no music and stay
+        EXPECT_EQ(Used(song), (Numbers{1})); // its steps are not music and stay
     }
 }
 

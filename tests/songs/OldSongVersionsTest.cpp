@@ -17,7 +17,7 @@ protected:
                    "[StepCycle]\r\nNumberOfSteps=3\r\nOnPos=1,0,1\r\nVolume=90,90,90\r\n");
     }
 
-    /// Loads the array cut behind each of its elements, and with each of them lying.
+    /// Loads the array truncated after each element, and with a wrong value in each element.
     void ExpectToSurvive(const HandArray& array, const std::string& version)
     {
         const Elements elements = array.Elements();
@@ -193,7 +193,7 @@ TEST_F(OldSongVersionsTest, Version11RefusesStepsThatTheFileCannotHold)
 {
     HandArray array;
     array.Add({1, 0, 320}).Text("s").Text("a").Add({0}).Add({0}).Add({1}).Text("T").Text("").Text("").Picture(0);
-    array.Add({3}).Many(1, 8); // of the nine elements that three steps take
+    array.Add({3}).Many(1, 8); // three steps would take nine elements
     LoadArray(array, "1.1");
     EXPECT_EQ(Told(),
               (std::vector<std::string>{"Error Loading File|The file is damaged: it promises more than it holds.",

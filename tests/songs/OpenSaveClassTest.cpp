@@ -15,7 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 using Texts = std::vector<std::string>;
 
-/// A song of one audio track of two cells.
+/// A song with one audio track of two cells.
 HandArray SmallArray()
 {
     HandArray array;
@@ -31,7 +31,7 @@ protected:
         Shared().Song.SongTitle = "Before";
     }
 
-    /// The song that was open stands, but for its tracks.
+    /// The open song stays, except for its tracks.
     static void ExpectFailed()
     {
         EXPECT_EQ(Shared().Song.TrackCount, 0);
@@ -178,7 +178,7 @@ TEST_F(OpenSaveClassTest, TooMuchSoundForOneFileLeavesTheOldOne)
     WaveData wave;
     wave.Channels = 1;
     wave.Length = 1 << 26;
-    wave.WavL = Channel::Unfilled(wave.Length); // shared by all tracks, and never read
+    wave.WavL = Channel::Unfilled(wave.Length); // shared by all tracks and never read
     SongState& song = Shared().Song;
     song.TrackCount = 64;
     song.Tracks.assign(65, Track());
@@ -286,7 +286,7 @@ TEST_F(OpenSaveClassTest, AFolderThatHasGoneIsMadeAgain)
     EXPECT_TRUE(fs::exists(Path()));
 }
 
-/// Notes how it was asked to write, and writes nothing.
+/// Keeps how it was asked to write, and writes nothing.
 class NotedFiles : public Files {
 public:
     void ReplaceFile(const fs::path&, std::span<const std::span<const std::byte>>, Flush flush) override

@@ -33,7 +33,7 @@ void MakeSong(const std::string& author, std::int32_t length)
     track.TrackAudio.WavL = track.TrackAudio.WavR = Channel(length);
 }
 
-/// A song file without the moment of its save, which its head tells.
+/// A song file without the time of its save, which its head contains.
 std::string WithoutTime(std::string bytes)
 {
     const auto time = bytes.find("Time=");
@@ -59,7 +59,7 @@ protected:
 
     [[nodiscard]] fs::path Path() const { return Shared().UserSongs / "Mine.TqSng"; }
 
-    /// False where the caller was told of a failure.
+    /// Returns false if the caller got an error.
     bool Save()
     {
         MakeSong("New", 40000);

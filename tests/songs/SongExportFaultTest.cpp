@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Whatever fails in an export, the target holds the old file or the new one, and nobody is told what is not so.
+// Whatever fails in an export, the target holds the old file or the new one, and the user is told the truth.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 using WriteSound = ExportOutcome (*)(const WaveData& wave, const fs::path& path);
 
-/// Both exports, the WMA file by the true encoder: it goes back to its head at the end.
+/// Both exports. The WMA file comes from the real encoder, which returns to the head at the end.
 class ExportSong : public testing::TestWithParam<WriteSound> {
 protected:
     ExportSong()

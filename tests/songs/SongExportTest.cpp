@@ -47,7 +47,7 @@ std::string ThisYear()
     return year;
 }
 
-/// Exports go to a folder of their own in which an old file stands.
+/// Exports go to a private folder that holds an old file.
 class Export : public testing::Test {
 protected:
     Export()
@@ -67,7 +67,7 @@ protected:
         return names;
     }
 
-    /// The old file as it was, and nothing beside it.
+    /// The old file is unchanged, with nothing beside it.
     void ExpectOldFile() const
     {
         EXPECT_EQ(ReadBytes(Path()), "old");
@@ -277,7 +277,7 @@ TEST_F(WmaExport, MakesNoFileOfAWaveWithoutSamples)
 TEST_F(WmaExport, LeavesTheOldFileWhereItIsStopped)
 {
     const WaveData wave = LevelWave(1000000, 5);
-    for (const int progresses : {0, 1, 2}) { // the last of them behind the last sample
+    for (const int progresses : {0, 1, 2}) { // the last one is after the last sample
         fake.screen.progressesBeforeStop = progresses;
         EXPECT_THROW(static_cast<void>(Write(wave)), WorkStopped);
         ExpectOldFile();

@@ -14,14 +14,14 @@
 
 namespace sprout {
 
-/// Songs on the disk and the shared song.
+/// Songs on disk and the shared song.
 class SongFilesTest : public testing::Test {
 protected:
     [[nodiscard]] static std::filesystem::path Path() { return Shared().UserSongs / "Song.TqSng"; }
 
     static SongState& LoadBytes(const std::string& bytes)
     {
-        std::filesystem::remove(Path()); // a file that is emptied and written again waits for the disk
+        std::filesystem::remove(Path()); // emptying and rewriting a file would wait for the disk
         WriteBytes(Path(), bytes);
         OpenSaveClass().Load_Song(Path());
         return Shared().Song;
@@ -38,7 +38,7 @@ protected:
         return ReadBytes(Path());
     }
 
-    /// The messages so far, each as its title, a bar and its text.
+    /// The messages so far, each as title, bar and text.
     [[nodiscard]] std::vector<std::string> Told() const
     {
         std::vector<std::string> told;

@@ -31,7 +31,7 @@ protected:
         return names;
     }
 
-    /// Every entry of the folder, hidden ones too.
+    /// The number of entries in the folder, including hidden ones.
     [[nodiscard]] std::size_t Entries() const
     {
         return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
@@ -169,7 +169,7 @@ TEST_F(SongFilesTest, DeletingASongThatIsGoneLeavesOneOfAnotherCase)
 
 TEST_F(SongFilesTest, DeletingAFileThatStaysIsAnError)
 {
-    EXPECT_THROW(DeleteSong({"version", "/proc/version"}), RunTimeError); // nobody can delete that
+    EXPECT_THROW(DeleteSong({"version", "/proc/version"}), RunTimeError); // nobody can delete that file
 }
 
 } // namespace

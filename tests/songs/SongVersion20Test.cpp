@@ -87,7 +87,7 @@ TEST_F(SongVersion20Test, ASongWithoutBeatsGoesStraightToItsTracks)
     song.SongTitle = "";
     song.SongCreatedBy = "";
     song.Tracks[2].Painted[1] = 2;
-    song.Tracks[2].Painted[0] = 99; // belongs to no cell and never goes into a file
+    song.Tracks[2].Painted[0] = 99; // belongs to no cell and is never saved
     const Elements array = ArrayOf(SaveBytes());
     HandArray expected;
     expected.Add({2, 0, 1280, 320}).Add({1, 0}).Add({1, 0});
@@ -228,7 +228,7 @@ TEST_F(SongVersion20Test, ASmallFileCanAskForLittleMemoryOnly)
 TEST_F(SongVersion20Test, AFileCutAnywhereFails)
 {
     const std::string bytes = FileOf("TqSng", "2", MakeArray().Elements());
-    constexpr std::size_t stride = 13; // meets every byte of an element; the head and the texts are cut at each byte
+    constexpr std::size_t stride = 13; // reaches every byte of an element; the head and the texts are cut at each byte
     for (std::size_t size = 0; size < bytes.size() - 9; size += size < 200 ? 1 : stride) {
         services.messages.shown.clear();
         EXPECT_EQ(LoadBytes(bytes.substr(0, size)).TrackCount, 0) << size;

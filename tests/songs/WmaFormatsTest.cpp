@@ -80,7 +80,7 @@ TEST(FindWmaFormat, RoundsTheBitRateToThousands)
     const Place found = WmaFormatPlace{0, 0};
     const std::string name = "Windows Media Audio 2";
     EXPECT_EQ(PlaceIn(name + FormatLine("63499")), std::nullopt);
-    EXPECT_EQ(PlaceIn(name + FormatLine("63500")), found); // a tie goes to the even number
+    EXPECT_EQ(PlaceIn(name + FormatLine("63500")), found); // a tie rounds to even
     EXPECT_EQ(PlaceIn(name + FormatLine("64499")), found);
     EXPECT_EQ(PlaceIn(name + FormatLine("64500")), found);
     EXPECT_EQ(PlaceIn(name + FormatLine("64501")), std::nullopt);

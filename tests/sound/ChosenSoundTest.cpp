@@ -30,7 +30,7 @@ protected:
 
     fs::path In(const std::string& name) const { return services.folder.Path() / name; }
 
-    /// A WAV file of four frames, in which `bytes` stand at `place`.
+    /// A WAV file of four frames with `bytes` at `place`.
     fs::path Wave(std::size_t place = 0, const std::string& bytes = "") const
     {
         SaveWaveFile(RampWave(4), In("chosen.wav"));

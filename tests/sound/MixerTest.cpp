@@ -72,7 +72,7 @@ TEST(MixWaves, AClipAboveFullScaleLetsNoSumLeaveThe16Bits)
 
 TEST(MixWaves, RoundsAfterEveryPlacementInItsOrder)
 {
-    // Half of 1 onto 0 goes to 0, half of 1 onto 1 to 2: the order decides.
+    // Half of 1 on top of 0 gives 0, half of 1 on top of 1 gives 2: the order matters.
     const auto waves = From1({LevelWave(1, 1), LevelWave(1, 2)});
     EXPECT_EQ(MixWaves(waves, Placements{{0, 1}, {0, 2}}, 50, 0, 100), LevelWave(1, 1));
     EXPECT_EQ(MixWaves(waves, Placements{{0, 2}, {0, 1}}, 50, 0, 100), LevelWave(1, 2));
@@ -129,7 +129,7 @@ TEST(MixWaves, ASumBeyond32BitsIsARunTimeError)
     EXPECT_EQ(MixWaves(waves, places, 100, 0, 100), LevelWave(1, -32768));
     places.push_back({0, 1});
     EXPECT_THROW(static_cast<void>(MixWaves(waves, places, 100, 0, 100)), RunTimeError);
-    // What comes before a sound of the other sign counts.
+    // The sum before a sound of the opposite sign counts.
     places.back().WaveIndex = 2;
     EXPECT_EQ(MixWaves(waves, places, 100, 0, 100), LevelWave(1, -32768));
 }

@@ -46,7 +46,7 @@ TEST_F(PlayDllTest, DxObjWith0StopsAndReleasesTheDevice)
     EXPECT_EQ(driver, 0);
     EXPECT_EQ(sound.open, 0);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
-    play.PlayState = PlayState::Paused; // also where there is none to release
+    play.PlayState = PlayState::Paused; // even if there is nothing to release
     Player().DxObj(driver);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
 }
@@ -90,7 +90,7 @@ TEST_F(PlayDllTest, ALoopedPlayHasNoTail)
     EXPECT_EQ(Samples(play), Bytes({7, 0, 8, 0}));
 }
 
-// Wanted: nothing clears the tail.
+// Intended: nothing clears the tail.
 TEST_F(PlayDllTest, TheTailHoldsWhatALongerPlayLeftThere)
 {
     Player().WriteWaveMemo(MonoWave(8, 11025, std::vector<std::int16_t>(1000, 5)), PlayNow::No, Loop::No);
@@ -170,7 +170,7 @@ TEST_F(PlayDllTest, WithoutADeviceAPlayTellsItsFailureAndItsEnd)
     Listen();
     EXPECT_EQ(Player().WriteWaveMemo(CountingWave(1), PlayNow::Yes, Loop::Yes), PlayResult::NoDevice);
     EXPECT_EQ(raised, Calls({"S2|Writing to Play Buffer", "S2|Play Failed", kPlayFailedBox, "S1|"}));
-    // Looping is told to a play that has begun alone, or its state would rise.
+    // Looping is set only for a play that has begun; otherwise its state would rise.
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
 }
 

@@ -12,7 +12,7 @@ namespace {
 
 using Calls = std::vector<std::string>;
 
-/// The class alone, with a play buffer of two frames of stereo words.
+/// The class by itself, with a play buffer of two frames of stereo words.
 class PlayDx9Test : public PlayTest {
 protected:
     PlayDx9Test()
@@ -155,7 +155,7 @@ TEST_F(PlayDx9Test, LetLoopingChangesASoundInPlay)
     EXPECT_EQ(play.PlayState, PlayState::Playing);
 }
 
-// Wanted: the next look at the position puts it right.
+// Intended: the next position update corrects it.
 TEST_F(PlayDx9Test, LetLoopingRaisesAStoppedStateUntilTheNextUpdate)
 {
     backEnd.LetLooping(Loop::Yes);

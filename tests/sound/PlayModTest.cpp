@@ -267,7 +267,7 @@ TEST(CellInPlay, CountsCellsAtTheTempoOfThePlayFromItsStart)
 {
     PlayModState play;
     play.PlayBufRate = 44100;
-    play.PlayTempo = 320; // 8268.75 frames a cell
+    play.PlayTempo = 320; // 8268.75 frames per cell
     play.PlayStartPos = 5;
     play.PlayCursor = 1;
     EXPECT_EQ(CellInPlay(play), 5);

@@ -12,7 +12,7 @@
 
 namespace sprout {
 
-/// A stereo wave in the program's format: left 1, 2, 3 ..., right the same below zero.
+/// A stereo wave in the program's format: left 1, 2, 3 ..., right the same values negated.
 inline WaveData CountingWave(std::int32_t length)
 {
     WaveData wave;
@@ -61,7 +61,7 @@ protected:
         PlayShared() = PlayModState();
     }
 
-    /// Notes what the player raises from now on, as "prompt|title".
+    /// Keeps what the player raises from now on, as "prompt|title".
     void Listen()
     {
         Player().MsgBoxOb = [this](std::string_view prompt, std::string_view title) {

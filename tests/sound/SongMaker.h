@@ -11,10 +11,10 @@
 
 namespace sprout {
 
-inline constexpr std::int32_t kCellFrames = 11025; // of the slow tempo below, exactly
+inline constexpr std::int32_t kCellFrames = 11025; // exact at the slow tempo below
 inline constexpr std::int32_t kSlowTempo = 240;
 
-/// Adds a loaded beat to the shared song; its index.
+/// Adds a loaded beat to the shared song and returns its index.
 inline std::int32_t AddBeat(const WaveData& sound, const std::string& name = "Beat")
 {
     SongState& song = Shared().Song;
@@ -35,7 +35,7 @@ inline Tune MakeTune(std::int32_t count)
     return tune;
 }
 
-/// Switches a step on with a beat of the song.
+/// Switches on a step with a beat of the song.
 inline TuneStep& SetStep(Tune& tune, std::int32_t number, std::int32_t beatIndex)
 {
     TuneStep& step = At(tune.Steps, number);
@@ -72,7 +72,7 @@ inline Track& TrackAt(std::int32_t number)
     return At(Shared().Song.Tracks, number);
 }
 
-/// Paints cells `first` to `last` with a value.
+/// Sets cells `first` to `last` to a value.
 inline void Paint(std::int32_t track, std::int32_t first, std::int32_t last, std::int32_t value = 1)
 {
     for (std::int32_t cell = first; cell <= last; ++cell)

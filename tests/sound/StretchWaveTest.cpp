@@ -111,7 +111,7 @@ TEST_F(StretchWaveTest, EightBitSamplesAreShiftedUpAndBack)
     EXPECT_EQ(result.Bits, 8);
 }
 
-/// Answers as it is told to.
+/// Returns what the test has set.
 class OddStretch : public Stretch {
 public:
     [[nodiscard]] std::vector<std::int16_t> Change(std::span<const std::int16_t> samples, std::int32_t /*rate*/,
@@ -124,7 +124,7 @@ public:
         return std::vector<std::int16_t>(static_cast<std::size_t>(count), given);
     }
 
-    std::int32_t told = 0; // 0: as many as came and the first one's value more
+    std::int32_t told = 0; // 0: the number of input samples plus the value of the first one
     std::int16_t given = 9;
     std::int16_t refusedSample = 0;
     mutable std::int16_t heard = 0;

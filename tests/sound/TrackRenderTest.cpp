@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::int32_t kBeatFrames = 600;
 
-/// A song at a tempo at which a cell is a whole number of frames.
+/// A song with a tempo at which a cell is a whole number of frames.
 class SongTest : public testing::Test {
 protected:
     SongTest()
@@ -35,7 +35,7 @@ protected:
         TheStepCache().Clear();
     }
 
-    /// A track whose step k of `steps` sounds the level k.
+    /// A track of `steps` steps, of which step k sounds the level k.
     static std::int32_t AddNumberedTrack(std::int32_t steps)
     {
         Tune tune = MakeTune(steps);
@@ -44,7 +44,7 @@ protected:
         return AddTuneTrack(tune);
     }
 
-    /// What sounds at the beginning of each of `cells` cells.
+    /// The level at the beginning of each of `cells` cells.
     static SampleList LevelsAtCells(const WaveData& wave, std::int32_t cells)
     {
         SampleList levels;
@@ -113,7 +113,7 @@ TEST_F(RenderTuneTrackTest, AStepThatIsOffTakesItsCellInSilence)
     const std::int32_t track = AddNumberedTrack(3);
     At(TrackAt(track).TrackTune.Steps, 1).OnPos = 0;
     At(TrackAt(track).TrackTune.Steps, 3).OnPos = 2;
-    At(TrackAt(track).TrackTune.Steps, 3).StepWave = LevelWave(kBeatFrames, 9); // of the time when it was on
+    At(TrackAt(track).TrackTune.Steps, 3).StepWave = LevelWave(kBeatFrames, 9); // from when it was on
     Paint(track, 1, 6);
     RenderTuneTrack(track);
     EXPECT_EQ(LevelsAtCells(TrackAt(track).TrackRender, 6), (SampleList{0, 2, 0, 0, 2, 0}));
@@ -205,7 +205,7 @@ TEST_F(RenderTuneTrackTest, DoublingTheTempoHalvesTheDistanceAndKeepsTheSteps)
     const WaveData& fast = TrackAt(track).TrackRender;
     EXPECT_EQ(services.stretch.Calls().size(), calls);
     for (std::int32_t k = 0; k < 4; ++k) {
-        const std::int32_t begin = CellOffset(k, 0, 2 * kSlowTempo, 44100); // 5512.5 a cell, ties to even
+        const std::int32_t begin = CellOffset(k, 0, 2 * kSlowTempo, 44100); // 5512.5 per cell, ties to even
         EXPECT_EQ(fast.WavL[begin + 1], k + 1);
         EXPECT_EQ(fast.WavL[begin + kBeatFrames], slow.WavL[k * kCellFrames + kBeatFrames]);
         EXPECT_EQ(fast.WavL[begin], 0);
@@ -213,7 +213,7 @@ TEST_F(RenderTuneTrackTest, DoublingTheTempoHalvesTheDistanceAndKeepsTheSteps)
     EXPECT_EQ(fast.Length, CellOffset(3, 0, 2 * kSlowTempo, 44100) + kBeatFrames);
 }
 
-/// What a damaged file may leave in a track.
+/// Damage that a broken file may leave in a track.
 void Spoil(std::int32_t how, Track& track)
 {
     SongState& song = Shared().Song;
@@ -379,7 +379,7 @@ TEST_F(RenderAudioTrackTest, ARunThatReachesTheEndOfTheSongUnfinishedIsSilent)
 
 TEST_F(RenderAudioTrackTest, CellsAndWaveAreComparedInSinglePrecision)
 {
-    // 0.2 s of either; as single numbers they are equal, beside a double the single number is larger.
+    // 0.2 s each; as floats they are equal, but compared with a double the float is larger.
     Shared().Song.Tempo = 300;
     const std::int32_t track = AddAudioTrack(LevelWave(8820, 5));
     Paint(track, 1280, 1280);
@@ -393,7 +393,7 @@ TEST_F(RenderAudioTrackTest, CutsCountInFramesOfTheProgramsRateWhateverTheWaves)
     const std::int32_t track = AddAudioTrack(low);
     Paint(track, 1, 1);
     RenderAudioTrack(track);
-    // One cell's frames are taken from the wave before it is brought to four times as many.
+    // The frames of one cell are cut from the wave before it is converted to four times as many.
     EXPECT_EQ(TrackAt(track).TrackRender, LevelWave(4 * kCellFrames, 5));
     TrackAt(track).TrackRenderValid = false;
     Paint(track, 1, 3);
@@ -470,7 +470,7 @@ TEST_F(MixSongTest, TakesAudioTracksAsTheyWereRendered)
     MixSong();
     EXPECT_EQ(LevelsAtCells(Shared().Song.SongMix, 2), (SampleList{1, 27852}));
     EXPECT_TRUE(TrackAt(audio).TrackRenderValid);
-    // A valid render stays.
+    // A valid render is kept.
     TrackAt(audio).TrackRender = LevelWave(10, 7);
     Shared().Song.SongMixValid = false;
     MixSong();
@@ -636,7 +636,7 @@ TEST(CutFromCell, TakesTheWaveFromTheCellsFrameOn)
     const WaveData wave = RampWave(4 * kCellFrames);
     const auto cut = CutFromCell(wave, 10, 12, kSlowTempo);
     ASSERT_TRUE(cut);
-    // The numbers count frames from 1, so the cut begins one frame before the cell's own first.
+    // Frames are numbered from 1, so the cut begins one frame before the cell's first frame.
     EXPECT_EQ(cut->Wave, CutWaveSlice(wave, 2 * kCellFrames, 4 * kCellFrames));
     EXPECT_EQ(cut->StartCell, 12);
 }

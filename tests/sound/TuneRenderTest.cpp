@@ -299,7 +299,7 @@ TEST_F(TuneRenderTest, AValidStepKeepsItsWaveAndLendsItToEqualOnes)
     SetStep(tune, 2, 0);
     At(tune.Steps, 1).StepWave = LevelWave(2, 77);
     At(tune.Steps, 1).StepWaveValid = true;
-    At(tune.Steps, 3).StepWave = LevelWave(2, 88); // off: silent all the same
+    At(tune.Steps, 3).StepWave = LevelWave(2, 88); // off, therefore silent
     At(tune.Steps, 3).StepWaveValid = true;
     RenderStarCycle(tune);
     EXPECT_EQ(Calls(), 0u);
@@ -324,7 +324,7 @@ TEST_F(TuneRenderTest, OnlyTheValue1IsOn)
 {
     Tune tune = MakeTune(1);
     SetStep(tune, 1, 0).OnPos = 2;
-    At(tune.Steps, 1).StepWave = LevelWave(2, 77); // of the time when it was on
+    At(tune.Steps, 1).StepWave = LevelWave(2, 77); // from when it was on
     RenderStarCycle(tune);
     EXPECT_EQ(Calls(), 0u);
     EXPECT_FALSE(tune.Steps[1].StepWaveValid);
@@ -447,11 +447,11 @@ TEST_F(TuneRenderTest, AStepOfATrackThatCopiesDoesNotBecomeValid)
     EXPECT_TRUE(tune.Steps[1].StepWaveValid);
     EXPECT_FALSE(tune.Steps[3].StepWaveValid);
     EXPECT_EQ(tune.Steps[3].StepWave, LevelWave(600, 5));
-    // The search is made again the next time.
+    // The search is repeated the next time.
     At(tune.Steps, 1).StepWave = LevelWave(2, 6);
     RenderTrackSteps(tune);
     EXPECT_EQ(tune.Steps[3].StepWave, LevelWave(2, 6));
-    // An invalid copy lends nothing: without the first step the third is rendered itself.
+    // An invalid copy is not reused: without the first step the third is rendered itself.
     At(tune.Steps, 1).OnPos = 0;
     RenderTrackSteps(tune);
     EXPECT_TRUE(tune.Steps[3].StepWaveValid);
@@ -472,7 +472,7 @@ TEST_F(TuneRenderTest, EqualStepsOfSeveralTunesAreStretchedOnce)
     EXPECT_EQ(services.screen.lastProgress, (std::pair<std::size_t, std::size_t>(1, 1)));
 }
 
-/// A tune of many different steps and a few equal ones.
+/// A tune with many different steps and a few equal ones.
 Tune ManySteps()
 {
     Tune tune = MakeTune(40);

@@ -31,14 +31,14 @@ inline WaveData StereoWave(const SampleList& left, const SampleList& right, std:
     return wave;
 }
 
-/// A stereo wave of one value.
+/// A stereo wave with one value.
 inline WaveData LevelWave(std::int32_t length, std::int16_t value)
 {
     return StereoWave(SampleList(static_cast<std::size_t>(length), value),
                       SampleList(static_cast<std::size_t>(length), value));
 }
 
-/// A stereo wave whose frames can be told apart; the channels differ.
+/// A stereo wave in which all frames and both channels differ.
 inline WaveData RampWave(std::int32_t length, std::int32_t seed = 1)
 {
     SampleList left, right;

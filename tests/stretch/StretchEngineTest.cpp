@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::int32_t kRate = 44100;
 
-/// First sample that is louder than a tenth of the loudest.
+/// The first sample that is louder than a tenth of the loudest.
 Index AttackOf(const std::vector<std::int16_t>& sound)
 {
     int loudest = 0;

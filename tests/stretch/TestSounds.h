@@ -10,7 +10,7 @@
 
 namespace sprout {
 
-/// `count` samples of a sine; `hz` at 44,100 samples a second.
+/// `count` samples of a sine; `hz` assumes 44,100 samples a second.
 inline std::vector<float> SineFloats(std::size_t count, double hz, double peak = 16000, double rate = 44100)
 {
     std::vector<float> sound(count);
@@ -19,7 +19,7 @@ inline std::vector<float> SineFloats(std::size_t count, double hz, double peak =
     return sound;
 }
 
-/// White noise, the same at every run.
+/// White noise, the same in every run.
 inline std::vector<float> NoiseFloats(std::size_t count, double peak = 8000)
 {
     std::minstd_rand random(7);
@@ -42,7 +42,7 @@ inline std::vector<std::int16_t> SineSamples(std::size_t count, double hz, doubl
     return Rounded(SineFloats(count, hz, peak, rate));
 }
 
-/// A stroke: silence up to `at`, then a tone that decays within 100 ms.
+/// A struck note: silence up to `at`, then a tone that decays within 100 ms.
 inline std::vector<float> StruckFloats(std::size_t count, std::size_t at, double hz = 880)
 {
     std::vector<float> sound(count);
@@ -54,7 +54,7 @@ inline std::vector<float> StruckFloats(std::size_t count, std::size_t at, double
     return sound;
 }
 
-/// Level of one frequency in a part of a sound: the amplitude of that sine.
+/// The level of one frequency in part of a sound: the amplitude of that sine.
 template <typename Sample>
 double LevelAt(std::span<const Sample> sound, double hz, double rate = 44100)
 {

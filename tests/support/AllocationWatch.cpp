@@ -32,7 +32,7 @@ void* operator new[](std::size_t size)
     return Allocate(size);
 }
 
-// The library's own takes the memory of a sort from elsewhere, and would have it freed here.
+// The library's own version gets the memory of a sort from elsewhere, but it would be freed here.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept
 {
     try {

@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// Notes the largest single piece of memory that anybody asks `new` for, as long as it lives. One at a time.
+/// While it lives, notes the largest single block that anyone requests from `new`. Only one may live at a time.
 class AllocationWatch {
 public:
     AllocationWatch();

@@ -13,25 +13,25 @@ namespace sprout {
 
 inline constexpr int kRampLap = 30000;
 
-/// A sound of which each frame is known by its samples. The left sample of frame n, counted from 0, runs up and begins
-/// again; the right one is the number of the lap. Neither is ever 0.
+/// A sound whose samples identify each frame. The left sample of frame n, counted from 0, rises and starts again; the
+/// right one is the number of the lap. Neither is ever 0.
 [[nodiscard]] std::string RampBytes(int frames, int firstLap = 1);
 
-/// What was captured in two files.
+/// The contents of two captured files.
 struct CapturedRamp {
     std::vector<std::int16_t> left;
     std::vector<std::int16_t> right;
 
-    /// The number of each frame of a ramp that begins with the lap `firstLap`; -1: silence, -2: a foreign one.
+    /// The number of each frame of a ramp that begins with the lap `firstLap`; -1: silence, -2: not from this ramp.
     [[nodiscard]] std::vector<int> Numbers(int firstLap = 1) const;
 };
 
 [[nodiscard]] CapturedRamp ReadCaptured(const std::filesystem::path& left, const std::filesystem::path& right);
 
-/// The frames without the silence ahead and behind.
+/// The frames without the silence before and after them.
 [[nodiscard]] std::vector<int> Sounded(const std::vector<int>& numbers);
 
-/// Whether each frame follows the one before.
+/// Returns true if each frame follows the one before.
 [[nodiscard]] bool IsGapless(const std::vector<int>& numbers);
 
 } // namespace sprout

@@ -6,8 +6,8 @@
 
 namespace sprout {
 
-/// True as soon as `condition` holds, which is asked as often as the windows ask; false if it does not come true in
-/// time.
+/// Returns true as soon as `condition` holds, which is checked as often as the windows check; false if that takes too
+/// long.
 template <class Condition>
 [[nodiscard]] bool Comes(Condition condition)
 {

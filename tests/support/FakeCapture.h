@@ -13,8 +13,8 @@
 
 namespace sprout {
 
-/// A microphone whose state, level and sources are set by hand, and that notes what it is asked. Its files hold the
-/// samples that are set, from the stop on.
+/// A microphone that logs its calls; the test sets its state, level and sources. When it stops, its files get the
+/// samples that are set.
 class FakeCapture : public SoundCapture {
 public:
     [[nodiscard]] CaptureOpening Open() override
@@ -81,7 +81,7 @@ public:
     std::vector<std::int16_t> leftSamples;
     std::vector<std::int16_t> rightSamples;
 
-    std::vector<std::string> calls; ///< all but the questions for status, peaks and changes
+    std::vector<std::string> calls; ///< all but the queries of status, peaks and changes
     std::vector<std::filesystem::path> cleaned;
     std::pair<std::filesystem::path, std::filesystem::path> files; ///< of the last start: left and right
     bool isKeeping = false;

@@ -14,7 +14,7 @@
 
 namespace sprout {
 
-/// A mail program that notes the messages it is handed. It may take its time until it is let go on.
+/// A mail program that keeps the messages it gets. It can be made to wait for `GoOn`.
 class FakeMail : public Mail {
 public:
     [[nodiscard]] bool HandOver(const MailMessage& message, std::stop_token stop) override
@@ -28,7 +28,7 @@ public:
         return starts;
     }
 
-    /// Returns once a message came.
+    /// Returns once a message has arrived.
     void WaitForMessage()
     {
         std::unique_lock lock(mutex);
@@ -41,7 +41,7 @@ public:
         mayGoOn.notify_all();
     }
 
-    // To be set before the first message, to be read behind the last.
+    // Set these before the first message; read them after the last.
     bool starts = true;
     bool throws = false;
     bool takesItsTime = false;
@@ -54,7 +54,7 @@ private:
     std::condition_variable isAsked;
 };
 
-/// Makes folders named by their number, and notes what it is asked.
+/// Makes numbered folders and logs its calls.
 class FakePrivateFolders : public PrivateFolders {
 public:
     [[nodiscard]] std::filesystem::path MakeFolder(const std::filesystem::path& parent) override

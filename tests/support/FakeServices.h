@@ -71,7 +71,7 @@ public:
     int processPicsShown = 0;
     std::pair<std::size_t, std::size_t> lastProgress;
     bool tuneNotFilledTimer = false;
-    std::vector<std::string> stages; ///< of stoppable work, blank at its end
+    std::vector<std::string> stages; ///< of stoppable work, empty at its end
     int progressesBeforeStop = -1;   ///< below 0: nobody stops the work
 };
 
@@ -101,11 +101,11 @@ public:
     std::filesystem::path documents;
     std::vector<std::string> opened;
     std::vector<SoundControl> soundControls;
-    std::vector<std::string> missingControls; ///< names of programs that are looked for and not there
+    std::vector<std::string> missingControls; ///< names of programs that were searched for and not found
 };
 
-/// Reads each picture file as one of a single colour, the number of bytes in the file; a file that begins with "bad" is
-/// none.
+/// Reads each picture file as one colour: the number of bytes in the file. A file that begins with "bad" is not a
+/// picture.
 class FakePictureFiles : public PictureFiles {
 public:
     [[nodiscard]] Picture LoadPicture(const std::filesystem::path& path) const override;
@@ -113,8 +113,8 @@ public:
     void SavePicture(const Picture& picture, const std::filesystem::path& path) const override;
 };
 
-/// A stretch whose results can be told by hand: the length follows the duration, and each sample is the input's at the
-/// same share of it. Counts its calls.
+/// A stretch with predictable results: the length is multiplied by the duration factor, and each sample is the input's
+/// at the same relative place. Counts its calls.
 class FakeStretch : public Stretch {
 public:
     [[nodiscard]] std::vector<std::int16_t> Change(std::span<const std::int16_t> samples, std::int32_t rate,
@@ -135,7 +135,7 @@ private:
     mutable std::vector<Call> calls;
 };
 
-/// Gives every test fresh services, a fresh shared state and folders of its own.
+/// Gives each test fresh services, a fresh shared state and its own folders.
 class FakeServices {
 public:
     FakeServices();

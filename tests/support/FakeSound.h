@@ -12,7 +12,7 @@
 
 namespace sprout {
 
-/// A sound output that notes every call and answers as the test tells.
+/// A sound output that logs every call and answers as the test has set.
 class FakeSoundOutput : public SoundOutput {
 public:
     [[nodiscard]] std::int32_t SoundDeviceCount() override { return deviceCount; }
@@ -20,10 +20,10 @@ public:
                                    std::int32_t bufferBytes) override;
 
     std::int32_t deviceCount = 1;
-    bool opens = true;        // `Open` gives a handle
+    bool opens = true;        // `Open` returns a handle
     bool memoryFails = false; // `Load` throws
     bool driverFails = false; // `Stop`, `Start` and `Place` throw
-    SoundPlace place;         // what `Place` tells
+    SoundPlace place;         // what `Place` returns
 
     std::vector<std::string> calls; // such as "Start 2 Beginning loop", with the number of the object
     std::vector<std::byte> pcm;     // what the last `Load` got
@@ -34,7 +34,7 @@ public:
     int open = 0;    // alive now
 };
 
-/// Notes what the windows would show.
+/// Keeps what the windows would show.
 class FakePlayDisplay : public PlayDisplay {
 public:
     [[nodiscard]] std::int32_t MainWindowHandle() const override;

@@ -14,7 +14,7 @@
 
 namespace sprout {
 
-/// A reader that makes the same wave of every sound and notes what it is asked.
+/// A reader that converts every sound to the same wave and logs its calls.
 class FakeSoundReader : public SoundReader {
 public:
     [[nodiscard]] Converted Convert(const std::filesystem::path& sound, std::int32_t mostSeconds, TooLong tooLong,
@@ -37,7 +37,7 @@ public:
     };
     std::vector<Call> calls;
     Conversion outcome = Conversion::Unreadable;
-    std::string wave; ///< bytes of the WAV file that comes out
+    std::string wave; ///< the bytes of the resulting WAV file
 
 private:
     class Wave : public ConvertedWave {

@@ -13,7 +13,7 @@
 
 namespace sprout {
 
-/// An encoder that notes what it is asked and writes the bytes as they come. Each of its steps can fail.
+/// An encoder that logs its calls and writes the bytes unchanged. Each of its steps can fail.
 class FakeWmaEncoder : public WmaEncoder {
 public:
     [[nodiscard]] bool Load() override
@@ -38,7 +38,7 @@ public:
 
     bool isThere = true;
     std::string list = "Windows Media Audio 2\r\n64 kbit/s\n64000\n44100\n2\n16";
-    std::optional<std::int32_t> listLength; ///< told in place of the true one
+    std::optional<std::int32_t> listLength; ///< returned instead of the real one
     bool listFails = false;
     bool openFails = false;
     int writesThatGoWell = 1000000;
@@ -48,7 +48,7 @@ public:
     int lists = 0;
     std::vector<WmaFormat> formats;
     std::vector<WmaTags> tags;
-    std::vector<std::size_t> writes; ///< bytes of each
+    std::vector<std::size_t> writes; ///< the number of bytes in each
     int closes = 0;
 
 private:

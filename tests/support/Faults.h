@@ -6,8 +6,8 @@
 
 namespace sprout {
 
-/// The system calls of a file's replacement and of a folder's copy, which a program linked with `--wrap` for each of
-/// them can let fail.
+/// The system calls of replacing a file and copying a folder. A program linked with `--wrap` for each of them can make
+/// them fail.
 enum class SystemCall { Open, Writev, Fchmod, Fsync, Close, Rename, Lseek, Fstat, Read, Write, Mkdir, Futimens };
 inline constexpr std::size_t kSystemCalls = 12;
 inline constexpr std::array<const char*, kSystemCalls> kCallNames = {
@@ -16,14 +16,14 @@ inline constexpr std::array<const char*, kSystemCalls> kCallNames = {
 enum class Fault {
     None,
     FailOnce,    // the nth call
-    FailForGood, // the nth call and all behind it
-    Short,       // writev takes 1000 bytes at most
-    Nothing,     // writev takes no byte
+    FailForGood, // the nth call and all later ones
+    Short,       // writev takes at most 1000 bytes
+    Nothing,     // writev takes no bytes
     KillBefore,  // the program ends instead of the nth call
-    KillAfter    // the program ends behind it
+    KillAfter    // the program ends after it
 };
 
-/// Exit code of a program that a fault ended.
+/// The exit code of a program that was ended by a fault.
 inline constexpr int kKilled = 42;
 
 struct Faults {
@@ -31,10 +31,10 @@ struct Faults {
     int nth = 0;
     Fault fault = Fault::None;
     int error = 0;
-    std::array<int, kSystemCalls> calls{}; // made since the faults were set
+    std::array<int, kSystemCalls> calls{}; // since the faults were set
 };
 
-/// What happens to the calls of the running test.
+/// The faults that apply to the calls of the running test.
 Faults& TheFaults();
 
 } // namespace sprout

@@ -28,7 +28,7 @@ HandArray& HandArray::Text(std::string_view bytes)
 {
     if (bytes.empty())
         return Add({1, 0});
-    // length / 4 + 2, rounded half to even: what is added to the quotient, by the remainder and the quotient's parity
+    // length / 4 + 2, rounded half to even: the remainder and the quotient's parity give what is added to the quotient
     const auto length = static_cast<std::int32_t>(bytes.size());
     const std::int32_t quotient = length / 4;
     const bool up = length % 4 == 3 || (length % 4 == 2 && quotient % 2 == 1);

@@ -12,7 +12,7 @@
 
 namespace sprout {
 
-/// A folder "installed/Beats" with three files, one of them in a folder of its own, and a place for its copy.
+/// A folder "installed/Beats" with three files, one of them in a subfolder, and a place for its copy.
 class InstalledBeats {
 public:
     InstalledBeats()
@@ -34,7 +34,7 @@ public:
         return PosixFolderCopies().FillFolder(Source(), Target(), [](std::size_t, std::size_t) {});
     }
 
-    /// All plain files of a folder and of those in it, by their path from there.
+    /// All regular files of a folder and its subfolders, by their relative path.
     static std::map<std::string, std::string> FilesIn(const std::filesystem::path& root)
     {
         std::map<std::string, std::string> files;
@@ -48,7 +48,7 @@ public:
     [[nodiscard]] std::map<std::string, std::string> Installed() const { return FilesIn(Source()); }
     [[nodiscard]] std::map<std::string, std::string> Filled() const { return FilesIn(Target()); }
 
-    /// What lies in the user's folder, sorted.
+    /// The names in the user's folder, sorted.
     [[nodiscard]] std::vector<std::string> NamesOfUser() const
     {
         std::vector<std::string> names;

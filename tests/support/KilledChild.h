@@ -11,15 +11,15 @@
 
 namespace sprout {
 
-/// Of the calls to be killed at, one in so many. A sanitizer makes calls of its own, and each call costs it more.
+/// The step between the calls that are killed. A sanitizer makes calls of its own and slows down each call.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
 inline constexpr int kKillStep = 11;
 #else
 inline constexpr int kKillStep = 1;
 #endif
 
-/// Runs `work` in a child process and kills it in place of its system call number `nth`, counted from 1. False where
-/// it came to its end before.
+/// Runs `work` in a child process and kills it instead of its system call number `nth`, counted from 1. Returns false
+/// if it ended before that call.
 template <class Work>
 bool KilledAtSystemCall(int nth, Work work)
 {
@@ -33,7 +33,7 @@ bool KilledAtSystemCall(int nth, Work work)
     int status = 0;
     EXPECT_EQ(::waitpid(child, &status, 0), child);
     EXPECT_TRUE(WIFSTOPPED(status)) << "the child cannot be traced";
-    // A traced child stops at each call and again behind it.
+    // A traced child stops before each call and again after it.
     for (int stop = 1; stop < 2 * nth; ++stop) {
         ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
         EXPECT_EQ(::waitpid(child, &status, 0), child);
@@ -47,7 +47,7 @@ bool KilledAtSystemCall(int nth, Work work)
     return true;
 }
 
-/// Runs `work` in child processes at the same time and waits until all have ended well.
+/// Runs `work` in several child processes at the same time and waits until all have succeeded.
 template <class Work>
 void RunAtOnce(int count, Work work)
 {

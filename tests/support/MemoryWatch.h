@@ -9,7 +9,7 @@
 
 namespace sprout {
 
-/// The default memory resource while it lives: counts what long sounds take, and lets a test act at that moment.
+/// The default memory resource while it lives: counts the blocks of long sounds, and lets a test act at each of them.
 class MemoryWatch : public std::pmr::memory_resource {
 public:
     explicit MemoryWatch(std::function<void()> taken = [] {})

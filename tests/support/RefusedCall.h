@@ -12,8 +12,8 @@
 
 namespace sprout {
 
-/// Lets a system call of the running process fail with an error from here on, whoever makes it. For child processes:
-/// nothing takes it back.
+/// From now on, a system call of this process fails with an error, whoever makes it. Only for child processes: it
+/// cannot be undone.
 inline bool RefuseCall(unsigned call, unsigned error)
 {
     std::array program = {sock_filter BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
@@ -24,7 +24,7 @@ inline bool RefuseCall(unsigned call, unsigned error)
     return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && ::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &filter) == 0;
 }
 
-/// Whether `work` is true in a child process.
+/// Returns true if `work` returns true in a child process.
 template <class Work>
 bool HoldsInChild(Work work)
 {

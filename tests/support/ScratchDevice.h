@@ -10,8 +10,8 @@
 
 namespace sprout {
 
-/// Makes a device of the test's own at `path`: one that swallows what is written, as the machine's /dev/null does,
-/// which no test may touch. Where only root may make devices it is a pipe.
+/// Makes a device for the test at `path` that swallows what is written, like the machine's /dev/null, which no test may
+/// touch. If only root may make devices it is a pipe.
 inline void MakeScratchDevice(const std::filesystem::path& path)
 {
     constexpr unsigned kMemoryDevices = 1;
@@ -21,7 +21,7 @@ inline void MakeScratchDevice(const std::filesystem::path& path)
     ASSERT_TRUE(isMade);
 }
 
-/// True while that device stands there.
+/// Returns true while that device exists.
 [[nodiscard]] inline bool IsScratchDevice(const std::filesystem::path& path)
 {
     const std::filesystem::file_type type = std::filesystem::symlink_status(path).type();

@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// The disk takes no file above a size, as long as it lives.
+/// While it lives, no file can grow beyond a size.
 class SmallDisk {
 public:
     explicit SmallDisk(rlim_t mostBytes)

@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// An empty folder of its own for a test, removed with all that it holds.
+/// An empty folder for one test, removed with everything in it.
 class TestFolder {
 public:
     TestFolder();
@@ -24,7 +24,7 @@ private:
 [[nodiscard]] std::string ReadBytes(const std::filesystem::path& path);
 void WriteBytes(const std::filesystem::path& path, std::string_view bytes);
 
-/// Sets a file's last-write time to a moment of 2020, `seconds` after its first.
+/// Sets a file's last-write time to `seconds` after the beginning of 2020.
 void SetWrittenIn2020(const std::filesystem::path& path, int seconds);
 
 } // namespace sprout

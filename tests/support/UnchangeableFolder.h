@@ -12,8 +12,8 @@
 
 namespace sprout {
 
-/// A folder in which nothing can be made, replaced or deleted as long as it lives, not by root either, who lays down
-/// the right to all files, protected ones too.
+/// While it lives, nothing can be made, replaced or deleted in the folder. This holds for root too, who gives up the
+/// right to access protected files.
 class UnchangeableFolder {
 public:
     explicit UnchangeableFolder(const std::filesystem::path& lockedFolder) : folder(lockedFolder)

@@ -24,7 +24,7 @@ namespace {
 
 using nlohmann::json;
 
-constexpr std::int32_t kAudioFrames = 8000; // a little less than a cell at the reference tempo
+constexpr std::int32_t kAudioFrames = 8000; // slightly less than a cell at the reference tempo
 
 WaveData Ramp(std::int32_t frames)
 {
@@ -58,7 +58,7 @@ protected:
         return json::parse(out.str());
     }
 
-    /// Runs `work` with services and a shared state of its own.
+    /// Runs `work` with its own services and shared state.
     template <class Work>
     static void WithEngine(Work work)
     {
@@ -72,7 +72,7 @@ protected:
         WithEngine([&] { SaveWaveFile(Ramp(frames), At(name)); });
     }
 
-    /// A song with one audio track that is painted in two cells with a gap.
+    /// A song with one audio track, painted in two cells with a gap between them.
     void SaveAudioSong(const std::string& name) const
     {
         WithEngine([&] {
@@ -230,7 +230,7 @@ TEST_F(SproutSong, RendersTheSliceFromACell)
 {
     SaveAudioSong("a.TqSng");
     EXPECT_EQ(Run({"render", At("a.TqSng"), At("late.wav"), "--from", "7"}), kDone);
-    // The slice begins with the frame whose number is the offset, 16538: the last before the second sound.
+    // The slice begins with the frame whose number is the offset, 16538: the last one before the second sound.
     const WaveData late = LoadWave("late.wav");
     EXPECT_EQ(late.Length, kAudioFrames + 1);
     EXPECT_EQ(late.WavL[2], 1);
@@ -253,7 +253,7 @@ TEST_F(SproutSong, RendersACycleAtATempo)
     WriteBytes(At("Lumo.TqTun"), "[StepCycle]\r\nNumberOfSteps=4\r\nOnPos=1,0,0,0\r\nVolume=100,100,100,100\r\n"
                                  "Instruments=|||\r\n");
     EXPECT_EQ(Run({"cycle", At("Lumo.TqTun"), At("cycle.wav")}), kDone);
-    EXPECT_EQ(LoadWave("cycle.wav").Length, 4 * 33075 / 4 + 1); // four cells of 0.1875 s and one frame
+    EXPECT_EQ(LoadWave("cycle.wav").Length, 4 * 33075 / 4 + 1); // four cells of 0.1875 s plus one frame
     EXPECT_EQ(Run({"cycle", At("Lumo.TqTun"), At("cycle.wav"), "--tempo", "160"}), kDone);
     EXPECT_EQ(LoadWave("cycle.wav").Length, 2 * 33075 + 1);
 }
@@ -413,7 +413,7 @@ TEST_F(SproutSong, TellsOfAWmaFileThatIsDamaged)
     EXPECT_EQ(Run({"info", At("bad.wma")}), kFailed);
 }
 
-/// Takes nothing and says that there is no memory.
+/// Accepts nothing and reports that there is no memory.
 class NoMemoryBuffer : public std::streambuf {
 protected:
     int_type overflow(int_type) override { throw std::bad_alloc(); }
@@ -469,7 +469,7 @@ TEST_F(SproutSong, RefusesAnOldTuneAboveFourMegabytes)
 {
     WriteBytes(At("Big.TqTun"), "[General]\r\nCreatedBy=Ada\r\n");
     EXPECT_EQ(Run({"info", At("Big.TqTun")}), 0);
-    std::filesystem::resize_file(At("Big.TqTun"), 5'000'000'000); // a file of holes
+    std::filesystem::resize_file(At("Big.TqTun"), 5'000'000'000); // a sparse file
     EXPECT_EQ(Run({"info", At("Big.TqTun")}), 1);
     EXPECT_NE(err.str().find("is too large for a tune."), std::string::npos) << err.str();
 }

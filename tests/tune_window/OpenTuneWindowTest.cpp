@@ -104,7 +104,7 @@ TEST_F(OpenTuneWindowTest, UntilAPictureIsChosenTheEditorsTuneIsHeardAndShown)
         GridOf(window).VScroll1().setValue(1);
         window.RefreshShowAllPic();
         ExpectShown(window, "Tune 02", "Eve", 1);
-        PressTune(window, 2, Qt::RightButton); // its menu is for the file
+        PressTune(window, 2, Qt::RightButton); // its menu belongs to the file
         PartOf<QMenu>(window, "PopPosiMnu").close();
         EXPECT_EQ(TextOf(window, "CreatedByLbl"), "By: Ann");
         Click(window, "TunePic");

@@ -18,7 +18,7 @@ protected:
         QTest::keyClick(&StepButton(step), key, modifiers);
     }
 
-    /// The number of the step that has the focus; 0 for none.
+    /// The number of the step that has the focus, or 0.
     [[nodiscard]] std::int32_t FocusedStep() const
     {
         const QWidget* const focus = window.focusWidget();

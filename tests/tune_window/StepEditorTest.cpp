@@ -262,7 +262,7 @@ TEST_F(PointerTest, LosesItsToolTipWithTheNextDrawing)
     EXPECT_EQ(Surface().toolTip(), QString());
 }
 
-/// The point of a bar's handle.
+/// A point on a bar's handle.
 QPoint HandleOf(const DurationBar& bar)
 {
     return {bar.handleX + 3, bar.handleY + 3};
@@ -356,7 +356,7 @@ TEST_F(BarTest, OfTheEarlierStepComesFirstWhereTwoLieOverEachOther)
     EXPECT_EQ(Handle().pos(), QPoint(first.handleX, first.handleY));
 }
 
-/// Lets the menu that opens next look at itself, and then picks an item of it, or none.
+/// Runs `steps` with the menu that opens next, and then closes it.
 void WithStepMenu(const QWidget& editor, const std::function<void(QMenu&)>& steps)
 {
     QTimer::singleShot(0, &editor, [&editor, steps] {
@@ -366,7 +366,7 @@ void WithStepMenu(const QWidget& editor, const std::function<void(QMenu&)>& step
     });
 }
 
-/// Picks an item as a click does.
+/// Picks an item like a click.
 void Pick(QMenu& menu, const char* caption)
 {
     for (QAction* const action : menu.actions())
@@ -447,7 +447,7 @@ TEST_F(StepNosCmbTest, ShowsANumberThatIsNotInItsListBeforeTheOthers)
     EXPECT_EQ(StepNos().itemText(1), QStringLiteral("8 Steps"));
 }
 
-/// The place of a number of steps in the list; -1 is "Other...!".
+/// The index of a number of steps in the list; -1 is "Other...!".
 int PlaceOfSteps(const QComboBox& box, int steps)
 {
     return box.findText(steps < 0 ? QStringLiteral("Other...!") : QStringLiteral("%1 Steps").arg(steps));
@@ -596,7 +596,7 @@ TEST_F(ChangeAllBtnTest, AsksForStepsFirst)
     EXPECT_TRUE(chooserGot.empty());
 }
 
-/// Lets the play-position timer tick.
+/// Makes the play-position timer tick.
 void Tick(const StepEditor& editor)
 {
     auto* const timer = editor.findChild<QTimer*>(QStringLiteral("PlayPosTimer"));

@@ -34,7 +34,7 @@ public:
     StepEditor* editor = nullptr;
 };
 
-/// A step editor on a window that is shown, with a tune whose steps 1, 2 and 4 of 4 are on.
+/// A step editor in a visible window, with a tune of 4 steps, of which 1, 2 and 4 are on.
 class StepEditorTest : public PlayTest {
 protected:
     StepEditorTest()
@@ -48,13 +48,13 @@ protected:
         editor.SetBeatChooser([this](std::string& name) { return AnswerChooser(name); });
         QObject::connect(&editor, &StepEditor::TuneEdited, &editor, [this] { ++edits; });
         window.show();
-        QApplication::setActiveWindow(&window); // only an active one hands out the focus
+        QApplication::setActiveWindow(&window); // only an active window gives away the focus
         editor.UpdateThisTune();
         editorDisplay.editor = &editor;
         edits = 0;
     }
 
-    /// A cycle of steps that are on and rendered: step i sounds for 600 + i frames.
+    /// A cycle of steps that are all on and rendered: step i sounds for 600 + i frames.
     void MakeTune(std::int32_t steps)
     {
         tune = Tune();
@@ -93,7 +93,7 @@ protected:
     }
     [[nodiscard]] QComboBox& StepNos() const { return Find<QComboBox>("StepNosCmb"); }
 
-    /// A point in a step's column of a surface that is not scrolled.
+    /// A point in a step's column of an unscrolled surface.
     [[nodiscard]] static QPoint In(std::int32_t step, std::int32_t y, std::int32_t dx = 15)
     {
         return {StepLeft(step, kStepsLeftAtStart) + dx, y};
@@ -105,7 +105,7 @@ protected:
     void MoveTo(QPoint place) const { QTest::mouseMove(&Surface(), place); }
     [[nodiscard]] std::string Hint() const { return statusLbl.text().toStdString(); }
 
-    /// Frames of the last sound played, its lead-in among them.
+    /// The frames of the last sound played, including its lead-in.
     [[nodiscard]] std::int32_t Played() const { return play.PlayLength; }
     [[nodiscard]] bool HasPlayed() const { return !sound.pcm.empty(); }
 
@@ -129,7 +129,7 @@ protected:
     StepEditor editor{&window};
     int edits = 0;
     std::vector<std::string> chooserGot;
-    std::optional<std::string> chosenBeat; ///< what the chooser answers; nothing: it is cancelled
+    std::optional<std::string> chosenBeat; ///< what the chooser returns; nothing: it is cancelled
     std::function<void()> whileChoosing;
 };
 

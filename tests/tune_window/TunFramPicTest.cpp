@@ -12,7 +12,7 @@ namespace {
 
 class TunFramPicTest : public StepEditorTest {
 protected:
-    /// The artwork as it must stand on the surface.
+    /// The artwork as it must appear on the surface.
     static QImage ArtOf(const char* name, QSize size)
     {
         return Artwork(QStringLiteral("pictures/") + QString::fromLatin1(name), size, 1).toImage();

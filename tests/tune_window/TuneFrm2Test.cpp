@@ -63,7 +63,7 @@ TEST_F(TuneFrm2Test, ALeftPressOnATuneChoosesAndPlaysIt)
         EXPECT_EQ(Played(), kLeadInFrames + 9);
         EXPECT_EQ(PlayShared().PlayState, PlayState::Playing);
         EXPECT_EQ(TextOf(window, "TuneNameLbl"), "Tune 03");
-        // The sound has begun, so the editor shows the tune, and the author stands without a word before it.
+        // The sound has begun, so the editor shows the tune, and no word stands before the author.
         EXPECT_EQ(TextOf(window, "CreatedByLbl"), "Tonquill");
         EXPECT_TRUE(GridOf(window).BlinkSelectedTimer().isActive());
         EXPECT_EQ(GridOf(window).BlinkSelectImg().toolTip(), QStringLiteral("Tune 03"));
@@ -80,7 +80,7 @@ TEST_F(TuneFrm2Test, OriginalsHaveABlueBorderAndTheUsersTunesARedOne)
         EXPECT_EQ(grid.pixelColor(44, 20), QColor(0, 0, 255));
         EXPECT_EQ(grid.pixelColor(84, 20), QColor(0xC0, 0, 0));
         EXPECT_EQ(grid.pixelColor(84, 2), QColor(Qt::white));
-        // The colours of a picture are kept as blue, green, red.
+        // Pictures store their colours as blue, green, red.
         EXPECT_EQ(grid.pixelColor(60, 20), QColor(0x30, 0x20, 0x10));
     });
 }
@@ -423,7 +423,7 @@ TEST_F(TuneFrm2Test, CancelStopsThePlayerAndForgetsTheChoice)
         EXPECT_EQ(PlayShared().PlayState, PlayState::Stopped);
         EXPECT_EQ(statusLbl.text(), QString());
     });
-    // Whatever was chosen, the next opening is on its track's tune.
+    // Whatever was chosen before, the window opens with the tune of its track.
     tune.Name = "Tune 01";
     Open([](TuneFrm2& window) { EXPECT_EQ(GridOf(window).Selected(), 1); });
 }
@@ -674,7 +674,7 @@ class ChangePicBtnTest : public TuneFrm2Test {
 protected:
     ChangePicBtnTest() { MakeTuneFiles(1); }
 
-    /// Clicks the button; the desktop's dialog answers with a file.
+    /// Clicks the button; the desktop's dialog returns a file.
     void ChangePicture(std::optional<fs::path> answer, const std::function<void(TuneFrm2&)>& then)
     {
         const FileChooserStandIn standIn([this, answer](const FileQuestion& asked) {
@@ -753,7 +753,7 @@ TEST_F(ChangePicBtnTest, AFileThatIsNoPictureIsToldAndThePictureStays)
 
 class SaveTuneBtnTest : public TuneFrm2Test {
 protected:
-    /// Fills the next form for the names and leaves it with a button; what stood in its boxes is kept.
+    /// Fills in the next form for names and leaves it with a button; the previous texts of its boxes are kept.
     void AnswerNames(const char* name, const char* author, std::function<void()> before = {},
                      const char* button = "OkBtn")
     {

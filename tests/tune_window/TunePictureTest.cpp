@@ -14,7 +14,7 @@ namespace {
 constexpr std::uint32_t kRed = 0x0000FF;
 constexpr std::uint32_t kGreen = 0x00FF00;
 
-/// Red, and green right of its first 32 columns.
+/// Red in the first 32 columns, green in the others.
 Picture WidePicture(int width)
 {
     std::vector<std::uint32_t> pixels;

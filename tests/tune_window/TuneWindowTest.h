@@ -28,10 +28,10 @@
 
 namespace sprout {
 
-/// Frames of the silence ahead of a chosen tune.
+/// The frames of silence before a chosen tune.
 inline constexpr std::int32_t kLeadInFrames = 33075;
 
-/// A part of the tune window, and what it shows, by name.
+/// A part of the tune window, by name.
 template <class Widget = QWidget>
 Widget& PartOf(const QWidget& window, const char* name)
 {
@@ -48,7 +48,7 @@ inline PictureGridPic& GridOf(const QWidget& window)
     return PartOf<PictureGridPic>(window, "ShowAllPic");
 }
 
-/// Presses a mouse button on a tune of the grid, or on the selection frame where it stands around it.
+/// Presses a mouse button on a tune in the grid, or on the selection frame if it is around that tune.
 inline void PressTune(const QWidget& window, std::int32_t index, Qt::MouseButton button = Qt::LeftButton)
 {
     PictureGridPic& grid = GridOf(window);
@@ -63,10 +63,10 @@ inline QAction& MenuItem(const QWidget& window, int index)
     return *PartOf<QMenu>(window, "PopPosiMnu").actions().at(index < 4 ? index : index + 1);
 }
 
-/// Fresh services, a player that plays into nothing, and a status line. The tune window goes with each test.
+/// Fresh services, a player without a device, and a status line. The tune window is closed after each test.
 class TuneWindowTest : public testing::Test {
 protected:
-    /// The window shows the tune under edit, as the main window lets it.
+    /// Makes the window show the tune being edited, as the main window does.
     class Display : public FakePlayDisplay {
     public:
         void UpdateThisTune() override
@@ -92,7 +92,7 @@ protected:
         PlayShared() = PlayModState();
     }
 
-    /// The tune window, if it was opened; with it go the windows that belong to it.
+    /// The tune window, if it was opened; its child windows are deleted with it.
     static QWidget* TheWindow()
     {
         for (QWidget* window : QApplication::topLevelWidgets())
@@ -116,7 +116,7 @@ protected:
         return changed;
     }
 
-    /// What stands on the first and second note of the next message, which is answered with a button.
+    /// Keeps the first and second note of the next message and answers it with a button.
     void AnswerNext(const char* button)
     {
         WithNextForm([this, button](BandedForm& form) {
@@ -129,7 +129,7 @@ protected:
         });
     }
 
-    /// Frames of the sound that was played last, the silence ahead of it included; 0 when nothing was.
+    /// The frames of the last sound played, including the silence before it; 0 if there was none.
     [[nodiscard]] static std::int32_t Played() { return PlayShared().PlayLength; }
     static void ForgetPlay() { PlayShared().PlayLength = 0; }
 

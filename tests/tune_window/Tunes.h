@@ -11,7 +11,7 @@
 
 namespace sprout {
 
-/// Two steps, the first one on with a beat of its own; the tune is rendered, as `samples` frames of the value 9.
+/// Two steps, the first one on with its own beat; the tune is rendered as `samples` frames of the value 9.
 inline Tune PlainTune(const std::string& name, const std::string& author, int samples = 4)
 {
     Tune tune;
@@ -27,14 +27,14 @@ inline Tune PlainTune(const std::string& name, const std::string& author, int sa
     return tune;
 }
 
-/// Writes the file of a tune to `UserTunes`.
+/// Writes a tune to a file in `UserTunes`.
 inline void MakeTuneFile(const Tune& tune)
 {
     Shared().TuneClipboard = tune;
     TunOpnSavClass(Flush::No).Save_Tune(Shared().UserTunes / (tune.Name + ".TqTun"));
 }
 
-/// Writes a tune whose file holds no sound, as it is kept while songs do not carry their beats.
+/// Writes a tune whose file holds no sound, as it is saved while songs do not include their beats.
 inline void MakeSilentTuneFile(const Tune& tune)
 {
     HandArray array;
@@ -44,7 +44,7 @@ inline void MakeSilentTuneFile(const Tune& tune)
     WriteBytes(Shared().UserTunes / (tune.Name + ".TqTun"), FileOf("TqTun", "2", array.Elements()));
 }
 
-/// "Tune 01", "Tune 02", ... of the user's.
+/// The user's "Tune 01", "Tune 02", ...
 inline std::string NumberedTune(int number)
 {
     std::string digits = std::to_string(number);

@@ -19,7 +19,7 @@ class ChosenTuneTest : public testing::Test {
 protected:
     [[nodiscard]] static fs::path File(const char* name = "Rain.TqTun") { return Shared().UserTunes / name; }
 
-    /// The entry that the table holds of a tune.
+    /// The table's entry for a tune.
     static Tune Entry(const char* name = "Rain")
     {
         Tune tune;

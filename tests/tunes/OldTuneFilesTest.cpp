@@ -52,7 +52,7 @@ TEST_F(OldTuneFilesTest, ReadsEveryKeyOfATune)
     ASSERT_EQ(tune.Steps.size(), 4U);
     EXPECT_EQ(tune.Steps[1].OnPos, 1);
     EXPECT_EQ(tune.Steps[2].OnPos, 0);
-    EXPECT_EQ(tune.Steps[3].OnPos, 1); // any value but 0 is on
+    EXPECT_EQ(tune.Steps[3].OnPos, 1); // any value except 0 is on
     EXPECT_EQ(tune.Steps[1].PitchShift, -64);
     EXPECT_EQ(tune.Steps[2].PitchShift, 64);
     EXPECT_EQ(tune.Steps[2].Duration, 300);
@@ -167,7 +167,7 @@ TEST_F(OldTuneFilesTest, ReadsAStar)
     EXPECT_EQ(star.Picture.Pixel(0, 0), 5U);
     ASSERT_EQ(star.StepCount, 2);
     EXPECT_EQ(star.Steps[2].OnPos, 1);
-    EXPECT_EQ(star.Steps[2].StepBeat.Name, ""); // a star brings no beats
+    EXPECT_EQ(star.Steps[2].StepBeat.Name, ""); // a star has no beats
 }
 
 TEST_F(OldTuneFilesTest, AStarBringsItsOwnAuthorAndNoSoundOfTheTuneBefore)

@@ -19,7 +19,7 @@
 namespace sprout {
 namespace {
 
-/// Numbers for a tune by hand; asking for more than there are fails the test.
+/// Numbers for a tune, set by hand; requesting more of them fails the test.
 class HandNumbers {
 public:
     HandNumbers(std::initializer_list<double> given) : numbers(given) {}
@@ -65,14 +65,14 @@ protected:
         WriteBytes(Shared().UserStars / name, std::string(bytes, 'p'));
     }
 
-    /// A tune of 8 steps by hand: picture, 8 steps, two pitches (-6 and 6), one beat; then all steps are drawn on.
+    /// A tune of 8 steps by hand: picture, 8 steps, two pitches (-6 and 6), one beat; then all steps are drawn as on.
     void DrawEightSteps(double pictureNumber, double firstBeatNumber)
     {
         numbers.assign({pictureNumber, 0.0, 0.0, 0.0, 0.999, 0.0, firstBeatNumber});
         Make();
     }
 
-    /// Draws the given numbers, and then 0.5 without end.
+    /// Draws the set numbers, and then 0.5 endlessly.
     void Make()
     {
         used = 0;
@@ -233,7 +233,7 @@ TEST_F(RandomTuneTest, GivesOffStepsABeatAndAPitchToo)
     EXPECT_EQ(tune.Steps[2].PitchShift, 6);
 }
 
-/// The duration that the rule tells for a step.
+/// The duration that the rule gives a step.
 std::int32_t ToldDuration(const std::string& lamps, std::size_t step)
 {
     const auto isOff = [&lamps](std::size_t place) { return place <= lamps.size() && lamps[place - 1] == '.'; };
@@ -242,7 +242,7 @@ std::int32_t ToldDuration(const std::string& lamps, std::size_t step)
     return isOff(step + 2) ? 200 : 150;
 }
 
-/// What 10,000 tunes of one seed hold.
+/// What is counted in 10,000 tunes of one seed.
 struct Counts {
     std::map<std::int32_t, int> stepCounts;
     std::map<std::int32_t, int> pitches;
@@ -336,7 +336,7 @@ void ExpectToldShares(const Counts& counts)
         EXPECT_NEAR(count, kTunes / 6.0, 0.01 * kTunes) << name;
 }
 
-// One test, so that the tunes are made once.
+// One test, so the tunes are made only once.
 TEST(TenThousandRandomTunes, HoldToTheRule)
 {
     const Counts counts = CountManyTunes();

@@ -43,7 +43,7 @@ Tune MakeTune()
     return tune;
 }
 
-/// What `MakeTune` must look like in a file that carries its beats.
+/// `MakeTune` as it must look in a file that includes its beats.
 HandArray MakeArray()
 {
     HandArray array;
@@ -62,7 +62,7 @@ protected:
 
     const Tune& LoadBytes(const std::string& bytes, TuneLoad mode = TuneLoad::All)
     {
-        fs::remove(Path()); // a file that is emptied and written again waits for the disk
+        fs::remove(Path()); // emptying and rewriting a file would wait for the disk
         WriteBytes(Path(), bytes);
         TunOpnSavClass().Load_Tune(Path(), mode);
         return Shared().TuneClipboard;
@@ -155,7 +155,7 @@ TEST_F(TunOpnSavClassTest, AStepOfAnyValueBut1BringsNoBeat)
     tune.Steps[1].OnPos = 2;
     tune.Steps[1].StepBeat = MakeBeat("Ghost", 4);
     Elements expected = MakeArray().Elements();
-    expected[1 + 4 + 4 + 1024 + 1] = 2; // behind name, author, picture and step count
+    expected[1 + 4 + 4 + 1024 + 1] = 2; // after name, author, picture and step count
     EXPECT_EQ(ArrayOf(SaveBytes(tune)), expected);
     TunOpnSavClass().Load_Tune(Path());
     const TuneStep& step = Shared().TuneClipboard.Steps[1];
@@ -171,7 +171,7 @@ TEST_F(TunOpnSavClassTest, NamesInAnyAlphabetComeBack)
     Tune tune = MakeTune();
     tune.CreatedBy = "\xE9\x9B\xA8";
     tune.Steps[2].StepBeat.Name = "Caf\xC3\xA9";
-    tune.Steps[3].StepBeat.Name = "Caf\xE9"; // another form of what is written alike
+    tune.Steps[3].StepBeat.Name = "Caf\xE9"; // another encoding of the same text
     tune.Steps[4].StepBeat.Name = "\xD0\xB1\xD0\xB0\xD1\x81";
     SaveBytes(tune);
     TunOpnSavClass().Load_Tune(Path());
@@ -307,7 +307,7 @@ TEST_F(TunOpnSavClassTest, KeepsWhatWasReadBeforeAnError)
 TEST_F(TunOpnSavClassTest, AFileCutAnywhereTellsOrLoadsButNeverBreaks)
 {
     const std::string bytes = FileOf("TqTun", "2", MakeArray().Elements());
-    constexpr std::size_t stride = 13; // meets every byte of an element; the head and the texts are cut at each byte
+    constexpr std::size_t stride = 13; // reaches every byte of an element; the head and the texts are cut at each byte
     for (std::size_t size = 0; size < bytes.size(); size += size < 200 ? 1 : stride) {
         services.messages.shown.clear();
         const Tune& tune = LoadBytes(bytes.substr(0, size));

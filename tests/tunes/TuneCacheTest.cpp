@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A tune saved without its sound, which stands in the cache beside it.
+/// A tune saved without its sound, which is in the cache beside it.
 class TuneCacheTest : public testing::Test {
 protected:
     TuneCacheTest()
@@ -48,7 +48,7 @@ TEST_F(TuneCacheTest, HoldsTheTunesStampAndItsSoundWithoutAHead)
     HandArray array;
     array.Text(FileStamp(TunePath())).Add({6, 16, 1, 44100, 3, 0x00080007, 9});
     EXPECT_EQ(ElementsOf(ReadBytes(CachePath())), array.Elements());
-    EXPECT_EQ(ArrayOf(ReadBytes(TunePath())).back(), 0); // no sound in the tune itself
+    EXPECT_EQ(ArrayOf(ReadBytes(TunePath())).back(), 0); // there is no sound in the tune itself
 }
 
 TEST_F(TuneCacheTest, GivesTheTuneItsSoundBack)

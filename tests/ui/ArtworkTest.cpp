@@ -41,7 +41,7 @@ TEST(Artwork, IsTheSameWhereItIsDrawnAhead)
     const QPixmap taken = Artwork(ahead);
     EXPECT_EQ(taken.size(), QSize(114, 114));
     EXPECT_EQ(taken.devicePixelRatio(), 2);
-    // Drawn at another ratio it is asked for by another key, and so drawn here.
+    // At another ratio the key is different, so this one is drawn here.
     QImage drawnHere = Artwork(ahead.name, QSize(114, 114), 1, ahead.inPlaceOfDeepLeaf).toImage();
     drawnHere.setDevicePixelRatio(2);
     EXPECT_EQ(taken.toImage(), drawnHere);
@@ -144,7 +144,7 @@ TEST(ApplyLook, ShowsAllTextInTheFontThatIsCompiledIn)
     EXPECT_TRUE(QFontInfo(TitleFont()).bold());
 }
 
-/// Contrast of two colours by the formula of WCAG 2.1.
+/// The contrast of two colours by the formula of WCAG 2.1.
 double Contrast(const QColor& a, const QColor& b)
 {
     const auto luminance = [](const QColor& colour) {

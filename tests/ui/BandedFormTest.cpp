@@ -17,7 +17,7 @@ void Send(QWidget& widget, QEvent::Type type, QPoint inside, QPoint onScreen)
     QApplication::sendEvent(&widget, &event);
 }
 
-// A server that still moves the window tells places inside it that count from where it was.
+// While the server is still moving the window, it reports positions relative to the old place.
 TEST(BandedForm, FollowsThePointerWhileTheServerLagsBehind)
 {
     Msg1BtnFrm form(nullptr, "A note");

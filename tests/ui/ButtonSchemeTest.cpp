@@ -13,7 +13,7 @@
 namespace sprout {
 namespace {
 
-/// Three buttons, of which `clicks` counts the first's clicks, and a status line.
+/// Three buttons, with the first one's clicks counted in `clicks`, and a status line.
 class ButtonSchemeTest : public testing::Test {
 protected:
     ButtonSchemeTest()
@@ -122,7 +122,7 @@ TEST_F(ButtonSchemeTest, AKeyHeldDownClicksOnce)
 TEST_F(ButtonSchemeTest, AReleaseStartsTheFiveSeconds)
 {
     QTest::mousePress(&play, Qt::LeftButton);
-    scheme.ButtonHover(stop); // counts for nothing while a button is held
+    scheme.ButtonHover(stop); // has no effect while a button is held
     EXPECT_FALSE(Timer().isActive());
     QTest::mouseRelease(&play, Qt::LeftButton);
     EXPECT_TRUE(Timer().isActive());

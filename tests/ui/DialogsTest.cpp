@@ -20,7 +20,7 @@ struct Seen {
     QString caption;
 };
 
-/// Notes which form comes next and with what caption, and clicks a button of it.
+/// Keeps which form comes next and its caption, and clicks one of its buttons.
 void ClickNext(Seen& seen, const char* button)
 {
     WithNextForm([&seen, button](BandedForm& form) {
@@ -103,7 +103,7 @@ TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
     WithNextForm([](BandedForm& form) {
         auto* box = form.findChild<QLineEdit*>(QStringLiteral("InputTxt"));
         EXPECT_EQ(box->text(), QStringLiteral("Zumi"));
-        QTest::keyClicks(box, QStringLiteral("Rain")); // what stood there is selected and gives way
+        QTest::keyClicks(box, QStringLiteral("Rain")); // the old text is selected and is replaced
         Click(form, "OkBtn");
     });
     EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "Rain");

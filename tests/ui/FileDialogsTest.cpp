@@ -26,7 +26,7 @@ protected:
     ChooseFileToOpenTest() { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
     ~ChooseFileToOpenTest() override { QApplication::setAttribute(Qt::AA_DontUseNativeDialogs, false); }
 
-    /// Asks, and runs `steps` with the dialog that stands then.
+    /// Asks, and runs `steps` with the dialog that opens.
     static std::optional<std::filesystem::path> Ask(const FileQuestion& question,
                                                     std::function<void(QFileDialog&)> steps)
     {
@@ -52,7 +52,7 @@ protected:
     FakeServices services;
 };
 
-/// The same for a file that is to be saved.
+/// The same for saving a file.
 class ChooseFileToSaveTest : public ChooseFileToOpenTest {
 protected:
     ChooseFileToSaveTest() { choose = ChooseFileToSave; }
@@ -96,7 +96,7 @@ TEST_F(ChooseFileToOpenTest, RefusesAFileThatIsNotThere)
     EXPECT_EQ(Ask(Question(),
                   [&missing](QFileDialog& dialog) {
                       dialog.selectFile(missing);
-                      QTimer::singleShot(0, qApp, [] { // the dialog tells of it in a box
+                      QTimer::singleShot(0, qApp, [] { // the dialog reports it in a box
                           if (auto* box = QApplication::activeModalWidget())
                               box->close();
                       });

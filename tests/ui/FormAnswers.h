@@ -15,8 +15,8 @@
 
 namespace sprout {
 
-/// Answers the messages and questions that come one after the other with a button each, and notes their lines and the
-/// hint that stood then, joined by bars.
+/// Answers successive messages and questions with one button each, and keeps their lines and the hint shown then,
+/// joined by bars.
 class FormAnswers : public QObject {
 public:
     FormAnswers(QLabel& hints, std::vector<std::string> names) : statusLbl(hints), buttons(std::move(names))
@@ -28,7 +28,7 @@ public:
     {
         auto* form = qobject_cast<BandedForm*>(watched);
         if (event->type() == QEvent::Show && form && IsQuestion(*form)) {
-            // The pointer may move over the form as soon as it stands.
+            // The pointer may move over the form as soon as it is shown.
             hint = statusLbl.text().toStdString();
             QTimer::singleShot(0, form, [this, form] { Answer(*form); });
         }
@@ -36,8 +36,8 @@ public:
     }
 
     std::vector<std::string> seen;
-    QString caption; ///< of the last form, as it stands in its band
-    QString typed;   ///< into a box, before its button is clicked
+    QString caption; ///< of the last form, as its band shows it
+    QString typed;   ///< typed into a box before its button is clicked
 
 private:
     static bool IsQuestion(BandedForm& form)

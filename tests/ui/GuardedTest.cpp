@@ -12,7 +12,7 @@
 namespace sprout {
 namespace {
 
-/// Notes the order in which things happen.
+/// Keeps the order in which things happen.
 class GuardedTest : public testing::Test {
 protected:
     class NotedMessages : public Messages {

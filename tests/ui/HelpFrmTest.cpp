@@ -24,7 +24,7 @@ HelpFrm* OpenedHelp()
     return nullptr;
 }
 
-/// Clicks as the user does: through the window, which a modal one may block.
+/// Clicks like the user: through the window, which a modal one may block.
 void ClickThroughWindow(QWidget& widget, QPoint point)
 {
     QWidget* top = widget.window();
@@ -157,7 +157,7 @@ TEST_F(HelpFrmTest, IsOneWindowHoweverOftenItIsCalled)
     HelpFrm& help = Open();
     ClickPage(help, 2);
     EXPECT_EQ(&Open(), &help);
-    EXPECT_EQ(Shown(help), QStringLiteral("Playing")); // who reads is left where they are
+    EXPECT_EQ(Shown(help), QStringLiteral("Playing")); // the reader stays on the same page
 }
 
 TEST_F(HelpFrmTest, EscapeAndCloseEndItAndItRemembersNothing)

@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 const fs::path kSource = (fs::path(SPROUT_TEST_SUPPORT) / ".." / "..").lexically_normal();
 const std::string kInGeneral = "<h1>Keys</h1>";
 
-/// The heading of the page under which the keys of a source file are told, if not under the first.
+/// The heading of the page that explains the keys of a source file, if it is not the first one.
 const std::map<std::string, std::string> kHeadings{
     {"src/main_window/TrackCanvasInput.cpp", "<h2>On the tracks</h2>"},
     {"src/main_window/TrackTitlePic.cpp", "<h2>At the names of the tracks</h2>"},
@@ -31,7 +31,7 @@ const std::map<std::string, std::string> kHeadings{
     {"src/ui/HelpFrm.cpp", "<h2>In this help</h2>"},
 };
 
-/// What the page calls a key of that name.
+/// What the page calls the key of that name.
 std::string WordOf(const std::string& key)
 {
     static const std::map<std::string, std::string> words{
@@ -43,7 +43,7 @@ std::string WordOf(const std::string& key)
     return word == words.end() ? "<b>" + key + "</b>" : word->second;
 }
 
-/// Each key that a source file names.
+/// Each key named in a source file.
 std::set<std::string> KeysOf(const fs::path& source)
 {
     static const std::regex name("Qt::Key_(\\w+)|QKeySequence::(\\w+)");
@@ -67,7 +67,7 @@ TEST(HelpOfKeys, TellsEveryKeyThatAWindowTakes)
     std::size_t checked = 0;
     for (const fs::directory_entry& entry : fs::recursive_directory_iterator(kSource / "src")) {
         const std::string file = entry.path().lexically_relative(kSource).string();
-        // The keys that close an open list are the toolkit's own.
+        // The keys that close an open list belong to the toolkit.
         if (entry.path().extension() != ".cpp" || file == "src/ui/PopupKeys.cpp")
             continue;
         const auto heading = kHeadings.find(file);

@@ -16,7 +16,7 @@ QWidget& Part(QWidget& form, const char* name)
     return *form.findChild<QWidget*>(QString::fromLatin1(name));
 }
 
-/// Shows a form, clicks a button of it, and returns the result.
+/// Shows a form, clicks one of its buttons, and returns the result.
 int ResultOf(BandedForm& form, const char* button)
 {
     WithNextForm([button](BandedForm& shown) { Click(shown, button); });

@@ -12,7 +12,7 @@
 
 namespace sprout {
 
-/// Runs `steps` with the form that is shown modally next, once it stands.
+/// Runs `steps` with the next modal form once it is shown.
 inline void WithNextForm(std::function<void(BandedForm&)> steps)
 {
     QTimer::singleShot(0, qApp, [steps = std::move(steps)] {
@@ -22,14 +22,14 @@ inline void WithNextForm(std::function<void(BandedForm&)> steps)
     });
 }
 
-/// Sends what a key that is held down sends again and again.
+/// Sends the repeated event of a key that is held down.
 inline void RepeatKey(QWidget& control, Qt::Key key)
 {
     QKeyEvent again(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
     QApplication::sendEvent(&control, &again);
 }
 
-/// Clicks a control of a window by its name.
+/// Clicks a control in a window by its name.
 inline void Click(QWidget& window, const char* name)
 {
     QTest::mouseClick(window.findChild<QWidget*>(QString::fromLatin1(name)), Qt::LeftButton);

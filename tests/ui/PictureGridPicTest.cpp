@@ -30,7 +30,7 @@ std::vector<GridEntry> Entries(int count)
     return entries;
 }
 
-/// A window with a grid of 12 columns and five rows in view.
+/// A window with a grid of 12 columns and five visible rows.
 class PictureGridPicTest : public testing::Test {
 protected:
     explicit PictureGridPicTest(int count = 100)

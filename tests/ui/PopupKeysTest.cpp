@@ -12,7 +12,7 @@
 namespace sprout {
 namespace {
 
-/// A box of three in a form, its list open; the keyboard is the form's, as under Wayland.
+/// A box with three entries in a form, with its list open; the form has the keyboard, as under Wayland.
 struct OpenList {
     Msg1BtnFrm form{nullptr, "A note"};
     QComboBox box{&form};

@@ -25,7 +25,7 @@ TEST(QtScreen, ShowsTheHourglassAsOftenAsItIsAskedTo)
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
 
-/// A main window that the desktop has been asked to show and has not yet shown.
+/// A main window that the desktop has been asked to show but has not shown yet.
 class ScreenOfNewWindow : public testing::Test {
 protected:
     ScreenOfNewWindow()

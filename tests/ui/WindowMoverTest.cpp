@@ -13,7 +13,7 @@ QMouseEvent At(QEvent::Type type, QPoint onScreen, Qt::MouseButton button = Qt::
     return {type, onScreen, onScreen, button, button, Qt::NoModifier};
 }
 
-/// A mover of a desktop that places windows itself, and how often that was asked.
+/// A mover for a desktop that places windows itself; counts how often that was requested.
 struct AskingMover {
     int asked = 0;
     bool willing = true;

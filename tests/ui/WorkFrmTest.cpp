@@ -68,7 +68,7 @@ TEST(WorkFrm, DoesNotTakeTheKeyThatBeganTheWorkForAStop)
     EXPECT_TRUE(form.StopWanted());
 }
 
-/// Stoppable work on a screen, which goes on until something is so or far too much time has passed.
+/// Stoppable work on a screen, which goes on until a condition holds or far too much time has passed.
 class StoppableWorkTest : public testing::Test {
 protected:
     template <class Done>
@@ -107,7 +107,7 @@ TEST_F(StoppableWorkTest, EndsWhenTheButtonIsClicked)
     Click(*ShownWork(), "StopBtn");
     EXPECT_THROW(screen.ShowProgress(1, 2), WorkStopped);
     screen.EndStoppable();
-    screen.ShowProgress(1, 2); // what comes later is no stopped work
+    screen.ShowProgress(1, 2); // later work was not stopped
 }
 
 TEST_F(StoppableWorkTest, LetsNoOtherTimerTick)

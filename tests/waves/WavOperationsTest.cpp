@@ -33,7 +33,7 @@ struct Format {
     std::uint32_t bits = 16;
 };
 
-/// RIFF head and format chunk, 36 bytes.
+/// The RIFF head and the format chunk, 36 bytes.
 std::string Head(const Format& format, std::uint32_t dataSize)
 {
     const std::uint32_t align = format.channels * format.bits / 8;
@@ -436,7 +436,7 @@ TEST(CutWaveSlice, ThrowsForFramesOutside)
     EXPECT_THROW(static_cast<void>(CutWaveSlice(wave, -2147483647, 2147483647)), RunTimeError);
 }
 
-/// The test tone's formula, frame by frame.
+/// The formula of the test tone, frame by frame.
 SampleList ToneByTheBook(std::int32_t frames, double rate, double amplitude)
 {
     const double turn = 6.28318530717958;
@@ -461,7 +461,7 @@ TEST_F(WavFile, TheTestToneIsItsFormulaSampleBySample)
     EXPECT_EQ(tone.Length, 8820);
     EXPECT_EQ(ListOf(tone.WavL), ToneByTheBook(8820, 44100, 22937));
     EXPECT_EQ(tone.WavL[1], 0);
-    EXPECT_EQ(tone.WavL[2], 2121); // sin(2 pi 650 / 44100) of the amplitude, two frames of 8820 faded
+    EXPECT_EQ(tone.WavL[2], 2121); // the amplitude times sin(2 pi 650 / 44100); two of 8820 frames faded
     EXPECT_TRUE(tone.WavR == tone.WavL);
     EXPECT_EQ(tone.Channels, 2);
 }

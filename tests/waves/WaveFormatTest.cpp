@@ -36,7 +36,7 @@ TEST(ConvertWaveChannels, MonoBecomesStereoWithoutACopyOfTheSamples)
 
 TEST(ConvertWaveChannels, StereoToMonoTakesThreeQuartersOfTheSum)
 {
-    // 0.75 x 2 = 1.5 and 0.75 x 6 = 4.5 go to the even neighbour.
+    // 0.75 x 2 = 1.5 and 0.75 x 6 = 4.5 round to even.
     const WaveData mono = ConvertWaveChannels(StereoWave({100, 1, 3, -1}, {200, 1, 3, -1}), 1);
     EXPECT_EQ(mono.Channels, 1);
     EXPECT_EQ(ListOf(mono.WavL), (SampleList{225, 2, 4, -2}));
@@ -130,8 +130,8 @@ TEST(ConvertWaveFormat, HalvesByDroppingEverySecondSample)
 TEST(ConvertWaveFormat, ConvertsBitsBeforeTheRate)
 {
     const WaveData up = ConvertWaveFormat(MonoWave({1, 2, 1}, 22050, 8), 0, 0);
-    EXPECT_EQ(up.WavL[3], 403); // 384 + 0.075 x (256 - 0), which 8 bits would have rounded to a multiple of 256
-    // 127.6 becomes 128, which nothing clips; what lies between two of them is clipped.
+    EXPECT_EQ(up.WavL[3], 403); // 384 + 0.075 x (256 - 0); 8 bits would have rounded it to a multiple of 256
+    // 127.6 becomes 128, which is not clipped; the values interpolated between two of them are clipped.
     const WaveData down = ConvertWaveFormat(MonoWave({32666, 32666, 32666}, 22050), 44100, 8);
     EXPECT_EQ(ListOf(down.WavL), (SampleList{127, 128, 127, 128, 127, 128}));
 }
@@ -140,9 +140,9 @@ TEST(ConvertWaveFormat, DoublesAlongTheCurve)
 {
     const WaveData twice = ConvertWaveFormat(MonoWave({1000, 2000, -500, 0}, 22050), 0, 0);
     // Before 1000, which element 0 repeats: 1000 + 0.075 x (0 - (2000 - 1000)) = 925.
-    // Between 1000 and 2000: 1500 + 0.075 x ((2000 - 1000) - (-500 - 1000)) = 1687.5, to the even 1688.
-    // Between 2000 and -500: 750 + 0.075 x ((-500 - 1000) - (0 - 2000)) = 787.5, to the even 788.
-    // At the end b is the last difference: -250 + 0.075 x ((0 - 2000) - (0 + 500)) = -437.5, to the even -438.
+    // Between 1000 and 2000: 1500 + 0.075 x ((2000 - 1000) - (-500 - 1000)) = 1687.5, rounded to even: 1688.
+    // Between 2000 and -500: 750 + 0.075 x ((-500 - 1000) - (0 - 2000)) = 787.5, rounded to even: 788.
+    // At the end b is the last difference: -250 + 0.075 x ((0 - 2000) - (0 + 500)) = -437.5, rounded to even: -438.
     EXPECT_EQ(ListOf(twice.WavL), (SampleList{925, 1000, 1688, 2000, 788, -500, -438, 0}));
     EXPECT_EQ(twice.WavL[0], 1000);
 }
@@ -164,7 +164,7 @@ TEST(ConvertWaveFormat, DoublingClipsToTheTargetBits)
     EXPECT_EQ(small.Bits, 8);
 }
 
-/// The doubler's steps one after the other, on elements that count from 0.
+/// The steps of the doubler one after the other, on elements counted from 0.
 std::vector<double> DoubledByTheBook(const SampleList& samples)
 {
     const auto half = static_cast<int>(samples.size());
@@ -249,7 +249,7 @@ TEST(ApplyWavePan, MakesMonoStereoAndLeavesItInTheMiddleAtZero)
 
 TEST(ApplyWavePan, HoldsTheFactorInSinglePrecision)
 {
-    // 5 x 0.7f = 3.4999999, which a double's tie would take to 4.
+    // 5 x 0.7f = 3.4999999; as a double it would be a tie that rounds to 4.
     EXPECT_EQ(ApplyWavePan(StereoWave({5}, {0}), 70), StereoWave({2}, {3}));
 }
 
@@ -277,7 +277,7 @@ TEST(ScaleWaveVolume, AClipOfZeroIsFullScaleAndEightBitsHaveTheirOwnLimits)
 
 TEST(ScaleWaveVolume, HoldsTheFactorInSinglePrecision)
 {
-    // As a float 0.7 is a little below 0.7: 5 x 0.7f = 3.4999999 and not the tie 3.5, which would go to 4.
+    // The float 0.7 is slightly below 0.7: 5 x 0.7f = 3.4999999, not the tie 3.5, which would round to 4.
     EXPECT_EQ(ListOf(ScaleWaveVolume(MonoWave({5}), 70, 100).WavL), (SampleList{3}));
 }
 

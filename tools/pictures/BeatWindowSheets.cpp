@@ -38,7 +38,7 @@ void SaveWindow(QWidget& window, const QString& path)
         std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
 }
 
-/// A wave of no sound, 0.5 s at 11,025 Hz.
+/// A silent wave, 0.5 s at 11,025 Hz.
 void WriteQuietWave(const QString& path)
 {
     constexpr int bytes = 11025 / 2;

@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// Draws the beat window into a folder: without a beat, with the beats of the installed library, if it stands beside
-/// the program, and with 300 beats.
+/// Draws the beat window into a folder: without a beat, with the beats of the installed library, if it is beside the
+/// program, and with 300 beats.
 void DrawBeatWindowSheets(const QString& folder);
 
 } // namespace sprout

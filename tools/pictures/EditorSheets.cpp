@@ -20,7 +20,7 @@ constexpr std::int32_t kSungSeconds = 6;
 constexpr int kKeysToStart = 60;
 constexpr int kKeysToEnd = 160;
 
-/// What singing looks like: tones that swell and fade, some louder than others, the right channel softer.
+/// Looks like singing: tones that swell and fade, some louder than others, the right channel softer.
 WaveData SungSound()
 {
     WaveData wave;

@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// Draws the audio editor with nothing, a place and a part selected, into a folder.
+/// Draws the audio editor into a folder, with nothing, a position and a range selected.
 void DrawEditorSheets(const QString& folder);
 
 } // namespace sprout

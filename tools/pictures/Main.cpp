@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Draws sheets of all buttons, artworks and dialogs, as they look on a screen of a given scale.
+// Draws sheets of all buttons, artworks and dialogs as they look on a screen with a given scale.
 #include <QApplication>
 #include <QCryptographicHash>
 #include <QDir>
@@ -201,7 +201,7 @@ private:
 /// Lays pictures in rows on one sheet.
 class FormSheet {
 public:
-    /// Shows the widget first, so that it has its focus.
+    /// Shows the widget first to give it its focus.
     void Add(QWidget& widget)
     {
         widget.show();
@@ -320,7 +320,7 @@ constexpr const char* kUsage = "usage: sprout-pictures SCALE FOLDER [SONG]\n"
                                "scale 2; or the\nmain window alone; or tells a hash of each picture's pixels, its size "
                                "and its name.\n";
 
-/// Prints a line of the picture; false where it cannot be read.
+/// Prints a line about the picture; returns false if it cannot be read.
 bool TellPixels(const QString& path)
 {
     const QImage image = QImage(path).convertToFormat(QImage::Format_ARGB32);

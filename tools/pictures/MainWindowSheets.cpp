@@ -34,7 +34,7 @@ namespace {
 constexpr QSize kUsualSize{800, 600};
 constexpr QSize kWholeScreen{1280, 800};
 
-/// Keeps what would be told, where nobody could read or close it.
+/// Keeps each message instead of showing it because nobody could read or close it.
 class KeptMessages : public Messages {
 public:
     void MessageBox(std::string_view /*title*/, std::string_view text, MessageIcon /*icon*/) override { kept = text; }
@@ -44,10 +44,10 @@ private:
     std::string kept;
 };
 
-/// A main window without a sound device, in a folder of its own.
+/// A main window without a sound device, in its own folder.
 class ShownWindow {
 public:
-    /// Throws where the song cannot be read whole.
+    /// Throws if the song cannot be read completely.
     explicit ShownWindow(const QString& songPath)
     {
         Services& services = TheServices();
@@ -88,7 +88,7 @@ public:
         window->UpdateSongTitle();
     }
 
-    /// Draws the window, which takes a size first.
+    /// Resizes the window and draws it.
     bool Draw(const QString& picturePath, QSize size = kUsualSize)
     {
         window->resize(size);
@@ -127,7 +127,7 @@ private:
     std::unique_ptr<MainFrm> window;
 };
 
-/// Gives the shared song so many tracks, its own again and again.
+/// Gives the shared song this many tracks by repeating its own.
 void SetTrackCount(std::int32_t count)
 {
     SongState& song = Shared().Song;

@@ -5,11 +5,11 @@
 
 namespace sprout {
 
-/// Draws the main window with a song, as it looks on a screen of 1280 x 800, into a picture file. Returns whether that
-/// worked; a failure is told on the error stream.
+/// Draws the main window with a song, as it looks on a screen of 1280 x 800, into a picture file. Returns true if that
+/// worked; reports a failure on the error stream.
 [[nodiscard]] bool DrawMainWindow(const QString& songPath, const QString& picturePath);
 
-/// Draws the main window in its sizes and states with a song's tracks into a folder.
+/// Draws the main window with a song's tracks in all sizes and states into a folder.
 void DrawMainWindowSheets(const QString& songPath, const QString& folder);
 
 } // namespace sprout

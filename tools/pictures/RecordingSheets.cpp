@@ -17,7 +17,7 @@ namespace sprout {
 
 namespace {
 
-/// A capture that tells what it is told.
+/// A capture that reports what it is given.
 class DrawnCapture : public SoundCapture {
 public:
     [[nodiscard]] CaptureOpening Open() override { return CaptureOpening::Ready; }

@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// Draws the recording window in the states of a capture into a folder.
+/// Draws the recording window into a folder, in all states of a capture.
 void DrawRecordingSheets(const QString& folder);
 
 } // namespace sprout

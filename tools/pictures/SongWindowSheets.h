@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// Draws the song window in its modes with few and many songs, the About box and the help book into a folder.
+/// Draws the song window in its modes with few and many songs, the About box and the help book, into a folder.
 void DrawSongWindowSheets(const QString& folder);
 
 } // namespace sprout

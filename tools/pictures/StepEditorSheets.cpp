@@ -35,7 +35,7 @@ void SaveAs(QWidget& widget, const QString& folder, const QString& name)
         std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
 }
 
-/// A tune with some steps off, all pitches and lengths of any kind.
+/// A tune with some steps off, all pitches and various lengths.
 void FillCurrentTune(std::int32_t steps)
 {
     constexpr std::array durations{100, 70, 0, 200, 150, 5};

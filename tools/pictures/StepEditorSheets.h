@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// Draws the step editor with tunes of 2 to 64 steps, with bars of all lengths, marks of missing beats and of the step
-/// in play, and its menu, and saves them in `folder`.
+/// Draws the step editor with tunes of 2 to 64 steps, bars of all lengths, marks of missing beats and of the playing
+/// step, and its menu, and saves the pictures in `folder`.
 void DrawStepEditorSheets(const QString& folder);
 
 } // namespace sprout

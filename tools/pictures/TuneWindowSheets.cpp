@@ -50,7 +50,7 @@ public:
     [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& /*target*/) const override { return false; }
 };
 
-/// There is no main window; the tune window shows its tune.
+/// Stands in for the main window, which does not exist here; the tune window shows its tune.
 class TuneDisplay : public PlayDisplay {
 public:
     [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
@@ -80,7 +80,7 @@ void FillTuneTable(std::int32_t count)
     }
 }
 
-/// Opens the window with what `TuneTable` holds and draws it.
+/// Opens the window with the content of `TuneTable` and draws it.
 void DrawOpened(const std::function<void(TuneFrm2&)>& draw)
 {
     QTimer::singleShot(0, qApp, [&draw] {

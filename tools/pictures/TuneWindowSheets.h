@@ -6,7 +6,7 @@
 namespace sprout {
 
 /// Draws the tune window on small and large screens, without tunes, with those of the library beside the program and
-/// with 200, its menu and the form that asks for a tune's name, and saves them in `folder`.
+/// with 200, its menu and the form that asks for a tune's name, and saves the pictures in `folder`.
 void DrawTuneWindowSheets(const QString& folder);
 
 } // namespace sprout

@@ -17,12 +17,12 @@ namespace sprout {
 
 namespace {
 
-constexpr double kHeardDb = -37;           // against the peak: what is softer before a sound is no part of it
+constexpr double kHeardDb = -37;           // against the peak: softer samples before a sound are not part of it
 constexpr std::ptrdiff_t kLeadFrames = 44; // kept before that, and faded in
-// Levelling moves the onset a little: this keeps it well within the latest.
+// Levelling moves the onset a little; this keeps it well below the limit.
 constexpr auto kMostFramesToOnset = static_cast<std::ptrdiff_t>(0.8 * kLatestOnsetSeconds * kRate);
 
-/// Takes away what lies below 25 Hz.
+/// Removes everything below 25 Hz.
 void CutLowest(std::vector<double>& sound)
 {
     const double pole = std::exp(-2 * std::numbers::pi * 25 / kRate);
@@ -34,7 +34,7 @@ void CutLowest(std::vector<double>& sound)
     }
 }
 
-/// Takes what is left of the mean away under a bow that is nothing at both ends.
+/// Removes the rest of the mean, weighted by a curve that is zero at both ends.
 void CutOffset(std::vector<double>& sound)
 {
     const double rest = Offset(sound);
@@ -58,7 +58,7 @@ void CutBeginning(std::vector<double>& sound, std::ptrdiff_t frames, std::ptrdif
         sound[static_cast<std::size_t>(i)] *= static_cast<double>(i) / static_cast<double>(lead);
 }
 
-/// Cuts what comes before the sound and what is too soft behind the end.
+/// Cuts what precedes the sound and what is too soft at its end.
 void Trim(std::vector<double>& sound)
 {
     const double level = std::pow(10.0, (PeakDb(sound) + kHeardDb) / 20);
@@ -70,7 +70,7 @@ void Trim(std::vector<double>& sound)
     sound.erase(last.base(), sound.end());
 }
 
-/// Cuts as much of a slow beginning as brings the onset near.
+/// Cuts a slow beginning so far that the onset is early enough.
 void BringOnsetNear(std::vector<double>& sound)
 {
     const double level = std::pow(10.0, PeakDb(sound) / 20) * kOnsetShare;
@@ -81,7 +81,7 @@ void BringOnsetNear(std::vector<double>& sound)
 
 void FadeOut(std::vector<double>& sound)
 {
-    // The last two fifths, 30 ms at least.
+    // The last two fifths, but at least 30 ms.
     const std::size_t frames = std::min(sound.size(), std::max<std::size_t>(sound.size() * 2 / 5, 1323));
     for (std::size_t i = 0; i < frames; ++i) {
         const double place = static_cast<double>(i + 1) / static_cast<double>(frames);
@@ -90,7 +90,7 @@ void FadeOut(std::vector<double>& sound)
     }
 }
 
-/// Brings the sound to a loudness as far as its peak may go, and holds back single peaks that stand in the way.
+/// Brings the sound to a loudness, as far as the highest allowed peak permits, and compresses single peaks in the way.
 void Level(std::vector<double>& sound, double loudnessDb)
 {
     const double wantedDb = loudnessDb - LoudestDb(sound);
@@ -136,7 +136,7 @@ std::vector<double> BeatSounds::Raw(const BeatRecipe& recipe, double cents)
     note.Key = recipe.Key;
     note.Velocity = recipe.Velocity;
     note.HeldSeconds = recipe.HeldSeconds;
-    // Slow strokes lose up to this at their beginning.
+    // Slow strokes lose up to this much at their beginning.
     note.Seconds = recipe.Seconds + 0.2;
     note.Cents = cents;
     return font->Play(note);
@@ -146,7 +146,7 @@ WaveData BeatSounds::Make(const BeatRecipe& recipe, const BeatFamily& family)
 {
     double cents = 0;
     std::vector<double> sound = Raw(recipe, cents);
-    // Played notes are a little off, and the second measure is nearer than the first.
+    // Played notes are a little off, and the second measurement is closer than the first.
     for (int turn = 0; recipe.Pitched && turn < 2; ++turn) {
         Trim(sound);
         cents -= CentsOff(sound, recipe.Key);

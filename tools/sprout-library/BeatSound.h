@@ -11,24 +11,24 @@
 
 namespace sprout {
 
-// What every beat of the library keeps to; the check of a finished library asks for the same.
+// Limits for every beat of the library; the check of a finished library uses the same.
 inline constexpr double kLongestBeatOfLibrarySeconds = 3;
 inline constexpr double kHighestBeatPeakDb = -6;
 inline constexpr double kLowestBeatPeakDb = -12;
 inline constexpr double kMostCentsOff = 5;
 inline constexpr double kMostLoudnessOffFamilyDb = 3;
 inline constexpr double kLatestOnsetSeconds = 0.005;
-inline constexpr double kOnsetShare = 0.02; ///< of the peak: here a sound has begun
-inline constexpr double kEndDb = -60;       ///< what the last 5 ms stay below
+inline constexpr double kOnsetShare = 0.02; ///< share of the peak at which a sound has begun
+inline constexpr double kEndDb = -60;       ///< the last 5 ms stay below this
 inline constexpr double kMostOffset = 0.001;
 
-/// Makes the sounds of beats. The sound font is loaded at the first use.
+/// Makes the sounds of beats. The sound font is loaded on first use.
 class BeatSounds {
 public:
     explicit BeatSounds(std::filesystem::path fontFile) : file(std::move(fontFile)) {}
 
-    /// A mono wave at 44,100 Hz, 16 bits: in tune, begun at once, faded out, at its family's loudness as far as the
-    /// peak may go. Throws `RunTimeError`.
+    /// A mono wave at 44,100 Hz, 16 bits: in tune, starts at once, faded out, at its family's loudness as far as the
+    /// highest allowed peak permits. Throws `RunTimeError`.
     [[nodiscard]] WaveData Make(const BeatRecipe& recipe, const BeatFamily& family);
 
 private:

@@ -14,21 +14,21 @@ struct BeatRecipe {
     std::string Name;
     std::string Sound;    ///< "bank:program" of the sound font, counted from 0; bank 128 holds drum kits; or "own:NAME"
     int Key = 60;         ///< MIDI key; in a drum kit the key of the drum
-    bool Pitched = false; ///< `Key` is what a listener hears
+    bool Pitched = false; ///< true if a listener hears `Key`
     int Velocity = 100;
     double HeldSeconds = 0;
-    double Seconds = 0; ///< longest length of the result
+    double Seconds = 0; ///< maximum length of the result
     std::string Glyph;  ///< base name of the drawing under art/beats/
 
     /// The letter before the underscore.
     [[nodiscard]] char Family() const { return Name.front(); }
 };
 
-/// What beats of one family have in common.
+/// What the beats of one family have in common.
 struct BeatFamily {
     char Letter = 0;
     std::string Words;
-    std::uint32_t HighColour = 0; ///< ground of the pictures, 0x00RRGGBB
+    std::uint32_t HighColour = 0; ///< background of the pictures, 0x00RRGGBB
     std::uint32_t PlainColour = 0;
     std::uint32_t LowColour = 0;
     double LoudnessDb = 0; ///< K-weighted level of the loudest 100 ms, LUFS

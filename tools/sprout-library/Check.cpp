@@ -32,7 +32,7 @@ namespace {
 constexpr double kMostAlike = 0.85;
 constexpr double kMostClash = 0.15;
 constexpr double kMostMedianClash = 0.08;
-constexpr std::uintmax_t kShortBeatBytes = 80000; // what the random tune draws from
+constexpr std::uintmax_t kShortBeatBytes = 80000; // the random tune only draws from shorter ones
 constexpr double kLeastShortBeats = 0.6;
 
 std::string Number(double value, int decimals)
@@ -91,7 +91,7 @@ bool Clashes(std::int32_t semitones)
     return apart == 1 || apart == 2 || apart == 6 || apart == 10 || apart == 11;
 }
 
-/// Collects what breaks a rule.
+/// Collects the broken rules.
 class Report {
 public:
     explicit Report(std::ostream& stream) : out(stream) {}

@@ -20,8 +20,8 @@ struct BeatFacts {
     double OnsetSeconds = 0;
     double EndDb = 0;
     double Offset = 0;
-    int Key = 0;              ///< the C on which it stands; 0 where it has no pitch
-    double CentsOff = 0;      ///< against that key
+    int Key = 0;              ///< the C that it is tuned to; 0 if it has no pitch
+    double CentsOff = 0;      ///< deviation from that key
     std::uintmax_t Bytes = 0; ///< of its .wav
 };
 
@@ -37,19 +37,19 @@ struct SongFacts {
 
 [[nodiscard]] BeatFacts MeasureBeat(const std::string& name, const WaveData& wave);
 
-/// Measures the shared song; mixes it where it is not mixed yet.
+/// Measures the shared song; mixes it first if necessary.
 [[nodiscard]] SongFacts MeasureSong(const std::string& name);
 
-/// Share of clashing intervals in a song whose steps are rendered: of all pairs of pitched sounds that are heard at one
-/// time, each weighted by how long, those whose pitches are 1, 2, 6, 10 or 11 semitones apart, whatever the octave.
-/// Pitched beats of the library stand on C, so that a step's shift is its pitch.
+/// Share of clashing intervals in a song whose steps are rendered. It counts all pairs of pitched sounds that are heard
+/// at the same time, weighted by duration; a pair clashes if its pitches are 1, 2, 6, 10 or 11 semitones apart, in any
+/// octave. All pitched beats of the library are on C, so a step's shift is its pitch.
 [[nodiscard]] double ClashShare(const SongState& song);
 
 /// True for beats whose family has a pitch: all but drums and fun sounds.
 [[nodiscard]] bool IsPitched(const std::string& beatName);
 
-/// Measures all beats, tunes and songs of a library that lies in `folder`, prints what was found and what breaks a
-/// rule. Returns the count of broken rules.
+/// Measures all beats, tunes and songs of the library in `folder`, prints the results and the broken rules. Returns the
+/// number of broken rules.
 int CheckLibrary(const std::filesystem::path& folder, std::ostream& out);
 
 } // namespace sprout

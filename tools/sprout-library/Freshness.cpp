@@ -59,7 +59,7 @@ bool Freshness::IsFresh(const std::vector<std::filesystem::path>& files, const s
         const auto known = before.find(name);
         fresh = fresh && known != before.end() && known->second == fingerprint && FileExists(root / file);
     }
-    // From here on files differ from what is remembered: a run that stops half-way must not be believed later.
+    // From here on the files differ from the saved list: a later run must not trust one that stopped half-way.
     if (!fresh)
         DeleteFile(root / kMemoryName);
     return fresh;

@@ -10,10 +10,10 @@
 
 namespace sprout {
 
-/// A number that stands for everything that goes into a file: FNV-1a of 64 bits.
+/// A hash of everything that goes into a file: FNV-1a of 64 bits.
 class Fingerprint {
 public:
-    /// Each text counts with its length, so that two texts are not one.
+    /// Also hashes the length of each text, so two texts differ from their concatenation.
     Fingerprint& Add(std::string_view bytes);
     Fingerprint& AddFile(const std::filesystem::path& file);
     [[nodiscard]] std::string Text() const;
@@ -22,17 +22,17 @@ private:
     std::uint64_t value = 0xCBF29CE484222325;
 };
 
-/// Remembers of what each file of a folder tree was made, so that only what changed is made again.
+/// Remembers what each file of a folder tree was made of, so only changed files are made again.
 class Freshness {
 public:
-    /// root: the tree; what is remembered lies in a hidden file there.
+    /// root: the tree; a hidden file there remembers everything.
     explicit Freshness(std::filesystem::path root);
 
-    /// True when all `files`, given below the root, are there and were made of the same things. Notes them as wanted.
-    /// Where it is not so, everything is forgotten until `Finish`.
+    /// True if all `files`, given relative to the root, exist and were made of the same things. Notes them as wanted.
+    /// If it returns false, everything is forgotten until `Finish`.
     [[nodiscard]] bool IsFresh(const std::vector<std::filesystem::path>& files, const std::string& fingerprint);
 
-    /// Deletes what was made before and is wanted no more, and remembers the rest. To be called when all was made.
+    /// Deletes files that were made before and are no longer wanted, and remembers the rest. Call it when all are made.
     void Finish() const;
 
 private:

@@ -81,7 +81,7 @@ private:
     void MakeSongs();
     [[nodiscard]] Fingerprint TunePrint(const std::string& name) const;
 
-    /// Gives a finished file of the tree its time, and stops where the engine told of a failure.
+    /// Sets the time of a finished file of the tree; throws if the engine reported a failure.
     void Finished(const fs::path& file)
     {
         const auto time = std::chrono::sys_seconds(std::chrono::seconds(places.Time));
@@ -97,7 +97,7 @@ private:
     BeatSounds sounds;
     Freshness freshness;
     Fingerprint base;
-    Fingerprint allBeats; // tunes are made again with any beat: they are few, and a look into each is not shorter
+    Fingerprint allBeats; // any changed beat remakes all tunes: they are few, and checking each is not faster
 };
 
 Picture Maker::BeatPicture(const BeatRecipe& recipe, const BeatFamily& family) const
@@ -148,7 +148,7 @@ Fingerprint Maker::TunePrint(const std::string& name) const
     return print.AddFile(texts / "tunes" / (name + ".ini")).AddFile(art / "tunes" / (name + ".svg"));
 }
 
-/// The text is a tune file of the old form: it is read beside its picture as such, and saved in the current form.
+/// The text is a tune file of the old form: it is loaded beside its picture and saved in the current form.
 void Maker::MakeTune(const std::string& name)
 {
     const fs::path tune = fs::path("Tunes") / (name + ".TqTun");

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Runs TOOL on SOURCE to make OUTPUT. The files made get the time of the last commit to their sources, so that the same
-# sources give the same bytes on every day; SOURCE_DATE_EPOCH, where it is set, says otherwise.
+# Runs TOOL on SOURCE to make OUTPUT. The generated files get the time of the last commit to their sources, so the same
+# sources give the same bytes on any day; SOURCE_DATE_EPOCH overrides that time if it is set.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
     execute_process(COMMAND git log -1 --format=%ct -- library art/beats art/tunes art/stars
                     WORKING_DIRECTORY ${SOURCE} OUTPUT_VARIABLE time OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double kLoudnessOffset = -0.691; // of BS.1770: a 997 Hz sine at full scale reads -3.01
 
-constexpr std::size_t kPitchFrames = 4096; // long enough to tell cents, short enough to follow a vibrato
+constexpr std::size_t kPitchFrames = 4096; // long enough to resolve cents, short enough to follow a vibrato
 constexpr int kPartials = 4;
 constexpr int kLowestC = 24;
 constexpr int kHighestC = 108;
@@ -21,7 +21,7 @@ struct Biquad {
     double b0, b1, b2, a1, a2;
 };
 
-/// The first filter: a shelf that lifts what a head lifts.
+/// The first filter: a shelf that models the effect of the head.
 Biquad HeadShelf()
 {
     constexpr double frequency = 1681.974450955533, gainDb = 3.999843853973347, q = 0.7071752369554196;
@@ -33,7 +33,7 @@ Biquad HeadShelf()
             2 * (k * k - 1) / a0, (1 - k / q + k * k) / a0};
 }
 
-/// The second filter: what is too low to count.
+/// The second filter: removes what is too low to count.
 Biquad LowCut()
 {
     constexpr double frequency = 38.13547087602444, q = 0.5003270373238773;
@@ -53,7 +53,7 @@ void Filter(const Biquad& f, std::vector<double>& sound)
     }
 }
 
-/// Mean squares of windows of `length` frames, `step` apart; a shorter sound is one window, filled up with silence.
+/// Mean squares of windows of `length` frames, `step` apart; a shorter sound is one window, padded with silence.
 std::vector<double> Powers(std::span<const double> sound, std::size_t length, std::size_t step)
 {
     std::vector<double> sums(sound.size() + 1);
@@ -67,7 +67,7 @@ std::vector<double> Powers(std::span<const double> sound, std::size_t length, st
     return powers;
 }
 
-/// The sum of both channels' K-weighted powers; a mono wave sounds from both sides.
+/// The sum of the K-weighted powers of both channels; a mono wave counts for both sides.
 std::vector<double> StereoPowers(const WaveData& wave, std::size_t length, std::size_t step)
 {
     std::vector<double> powers = Powers(KWeighted(Samples(wave.WavL)), length, step);
@@ -95,7 +95,7 @@ double MeanAbove(std::span<const double> powers, double gateDb)
     return count > 0 ? sum / count : 0;
 }
 
-/// Normalised autocorrelation of the whole sound at a lag of whole frames.
+/// Normalised autocorrelation of the whole sound at a lag in whole frames.
 double Correlation(std::span<const double> sound, std::size_t lag)
 {
     double product = 0, power = 0;
@@ -119,10 +119,10 @@ double PowerAt(std::span<const double> sound, double frequency)
     return last * last + before * before - turn * last * before;
 }
 
-/// Top of the spectrum of a windowed part near a frequency.
+/// The spectral peak of a windowed part near a frequency.
 struct Top {
     double Cents = 0;
-    double Power = 0; ///< 0 where there is no top
+    double Power = 0; ///< 0 if there is no peak
 };
 
 Top TopOfSpectrum(std::span<const double> windowed, double frequency)
@@ -139,7 +139,7 @@ Top TopOfSpectrum(std::span<const double> windowed, double frequency)
     }
     if (most <= 0 || std::abs(place) >= reachCents)
         return {};
-    // A windowed sine is a parabola in the logarithm, near its top.
+    // Near its peak, the logarithm of a windowed sine is a parabola.
     const double before = std::log(power(place - fineCents)), at = std::log(most);
     const double behind = std::log(power(place + fineCents));
     const double bow = before - 2 * at + behind;
@@ -147,7 +147,7 @@ Top TopOfSpectrum(std::span<const double> windowed, double frequency)
     return {place + fineCents * std::clamp(step, -coarseCents / fineCents, coarseCents / fineCents), most};
 }
 
-/// The correlation at a lag, if it stands out against lags an eighth away; else 0.
+/// The correlation at a lag if it stands out against lags an eighth away; otherwise 0.
 double TopNear(std::span<const double> sound, double lag)
 {
     const auto at = [&](double ratio) {
@@ -162,7 +162,7 @@ double PeriodOf(int key)
     return kRate / (440 * std::pow(2.0, (key - 69) / 12.0));
 }
 
-/// What matters is where most of the sound is: its loud first half second, behind the noise of the stroke.
+/// The part that holds most of the sound: its loud first half second, after the noise of the stroke.
 std::span<const double> Body(std::span<const double> sound)
 {
     const auto from = std::min<std::size_t>(sound.size() / 4, 2205);
@@ -230,8 +230,8 @@ Loud LoudestSecond(const WaveData& wave)
 
 int SoundingC(std::span<const double> sound)
 {
-    // The shortest period that repeats nearly as well as the best: multiples of a period repeat too. Lags far below a
-    // period are like the sound as well, but no top stands there.
+    // Takes the shortest period that repeats nearly as well as the best, because multiples of a period repeat too. Lags
+    // far below a period correlate as well, but have no peak.
     const std::span<const double> body = Body(sound);
     double most = 0;
     int found = 0;

@@ -21,11 +21,11 @@ inline constexpr double kSilenceDb = -200;
 /// Constant part of the sound against full scale.
 [[nodiscard]] double Offset(std::span<const double> sound);
 
-/// The sound as the ear weighs it: the two filters of ITU-R BS.1770, worked out for 44,100 Hz.
+/// The sound as the ear weighs it: the two filters of ITU-R BS.1770, computed for 44,100 Hz.
 [[nodiscard]] std::vector<double> KWeighted(std::span<const double> sound);
 /// K-weighted level of the loudest 100 ms, LUFS of a mono sound.
 [[nodiscard]] double LoudestDb(std::span<const double> sound);
-/// Integrated loudness of a wave in the program's format, LUFS, gated as ITU-R BS.1770 tells.
+/// Integrated loudness of a wave in the program's format, LUFS, gated according to ITU-R BS.1770.
 [[nodiscard]] double LoudnessDb(const WaveData& wave);
 
 /// A level and where it begins.
@@ -34,16 +34,16 @@ struct Loud {
     double Seconds = 0;     ///< from the start
 };
 
-/// The loudest second of a wave in the program's format, to a tenth of a second.
+/// The loudest second of a wave in the program's format, located to a tenth of a second.
 [[nodiscard]] Loud LoudestSecond(const WaveData& wave);
 
-/// Cents by which the sound's pitch differs from that of `key`; looked for within 80 cents.
+/// Cents by which the sound's pitch differs from that of `key`; searches within 80 cents.
 ///
-/// The mean, weighted by power, of where the first four partials have the tops of their spectra in frames of 93 ms of
-/// the sound's first half second.
+/// It is the mean, weighted by power, of the spectral peaks of the first four partials in frames of 93 ms of the
+/// sound's first half second.
 [[nodiscard]] double CentsOff(std::span<const double> sound, int key);
 
-/// The MIDI key of that C, from C1 to C7, on which the sound stands; 0 where it stands on none.
+/// The MIDI key of the C, from C1 to C7, that the sound is tuned to; 0 if there is none.
 [[nodiscard]] int SoundingC(std::span<const double> sound);
 
 } // namespace sprout

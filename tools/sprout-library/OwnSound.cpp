@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kTwoPi = 2 * std::numbers::pi;
 
-/// What a sound is made of at one moment; a fresh one for every sound.
+/// The state of a sound at one moment; every sound gets a new one.
 struct Moment {
     double seconds = 0; ///< since the start
     double length = 0;
@@ -27,7 +27,7 @@ struct Moment {
 
     [[nodiscard]] double Place() const { return seconds / length; }
     [[nodiscard]] double Sine() const { return std::sin(kTwoPi * phase); }
-    /// Moves the main oscillator on at a frequency.
+    /// Advances the main oscillator at a frequency.
     void Turn(double frequency) { phase += frequency / kRate; }
     /// Noise from -1 to 1, the same in every run.
     double Noise()

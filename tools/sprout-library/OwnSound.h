@@ -6,7 +6,7 @@
 
 namespace sprout {
 
-/// A sound that no instrument makes, worked out at 44,100 Hz, full scale about 1. key: MIDI key, where the sound has a
+/// A sound that no instrument makes, computed at 44,100 Hz, full scale about 1. key: MIDI key, if the sound has a
 /// pitch. Throws `RunTimeError` for an unknown name.
 [[nodiscard]] std::vector<double> OwnSound(std::string_view name, int key, double seconds);
 

@@ -19,11 +19,11 @@ struct SongTextTrack {
     std::vector<CellRun> Runs;
 };
 
-/// A song as it is written down in library/songs/.
+/// A song as written in library/songs/.
 struct SongText {
     std::string Title; ///< the file's base name
     std::string CreatedBy;
-    std::int32_t Tempo = 0; ///< cells a minute
+    std::int32_t Tempo = 0; ///< cells per minute
     std::vector<SongTextTrack> Tracks;
 };
 
@@ -35,7 +35,7 @@ struct SongText {
 /// where BARS are runs such as "1-4, 9-12", counted in bars. Throws `RunTimeError`.
 [[nodiscard]] SongText ReadSongText(const std::filesystem::path& file);
 
-/// Makes the shared song of a text, with tunes from `UserTunes`. Throws `RunTimeError` for a tune that is not there.
+/// Makes the shared song from a text, with tunes from `UserTunes`. Throws `RunTimeError` if a tune is missing.
 void BuildSong(const SongText& text);
 
 } // namespace sprout

@@ -15,7 +15,7 @@ namespace sprout {
 namespace {
 
 constexpr int kChannel = 0;
-// The synthesiser works in blocks of 64 frames; whole blocks only let every note begin at the start of one.
+// The synthesiser works in blocks of 64 frames; rendering only whole blocks lets every note begin at the start of one.
 constexpr int kBlockFrames = 64;
 constexpr int kBendCentre = 8192;
 constexpr double kBendRangeCents = 200;

@@ -18,16 +18,16 @@ struct FontNote {
     double Cents = 0;   ///< shift of the tuning, -200..200
 };
 
-/// A sound font's player. The same note gives the same samples, whatever was played before.
+/// Plays a sound font. The same note always gives the same samples, whatever was played before.
 class SoundFont {
 public:
-    /// Throws `RunTimeError` where the font cannot be loaded.
+    /// Throws `RunTimeError` if the font cannot be loaded.
     explicit SoundFont(const std::filesystem::path& file);
     SoundFont(const SoundFont&) = delete;
     SoundFont& operator=(const SoundFont&) = delete;
     ~SoundFont();
 
-    /// The mono sound of a note at 44,100 Hz, full scale 1. Throws `RunTimeError` for a program that the font has not.
+    /// The mono sound of a note at 44,100 Hz, full scale 1. Throws `RunTimeError` if the font lacks the program.
     [[nodiscard]] std::vector<double> Play(const FontNote& note);
 
 private:

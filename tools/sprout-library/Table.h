@@ -8,7 +8,7 @@
 
 namespace sprout {
 
-/// One line of a table: its cells without blanks at their ends, and where it stands.
+/// One line of a table: its cells without leading and trailing blanks, and its position.
 struct TableRow {
     std::vector<std::string> cells;
     std::filesystem::path file;
@@ -18,11 +18,11 @@ struct TableRow {
     [[nodiscard]] std::string Place() const;
 };
 
-/// Reads a UTF-8 text of cells parted by vertical bars; empty lines and lines that begin with "#" are left out.
-/// Throws `RunTimeError` where the file cannot be read or a row has fewer than `least` or more than `most` cells.
+/// Reads a UTF-8 text of cells separated by vertical bars; skips empty lines and lines that begin with "#".
+/// Throws `RunTimeError` if the file cannot be read or a row has fewer than `least` or more than `most` cells.
 [[nodiscard]] std::vector<TableRow> ReadTable(const std::filesystem::path& file, std::size_t least, std::size_t most);
 
-/// The number that a cell holds, within `least` and `most`. Throws `RunTimeError` for anything else.
+/// The number in a cell, from `least` to `most`. Throws `RunTimeError` for anything else.
 [[nodiscard]] double CellNumber(const TableRow& row, std::size_t cell, double least, double most);
 
 /// The bytes of a file. Throws `RunTimeError`.

@@ -34,7 +34,7 @@ constexpr std::string_view kHelp = "Makes and measures the library of beats, tun
                                    "  sprout-library --measure WAV       length, peak and loudness of a sound\n"
                                    "SOUNDFONT names the sound font, SOURCE_DATE_EPOCH the time of the files made.\n";
 constexpr const char* kSoundFont = "/usr/share/sounds/sf2/FluidR3_GM.sf2";
-// Where nobody tells a time: the first second of 2024.
+// Used if no time is given: the first second of 2024.
 constexpr std::int64_t kFallbackTime = 1704067200;
 
 std::int64_t SourceTime()
@@ -49,7 +49,7 @@ std::int64_t SourceTime()
 int Make(Session& session, const std::string& source, const std::string& output)
 {
     const char* font = std::getenv("SOUNDFONT");
-    // The engine's clock and the times of the files are one.
+    // The engine's clock and the files use the same time.
     const std::int64_t time = SourceTime();
     ::setenv("SOURCE_DATE_EPOCH", std::to_string(time).c_str(), 1);
     MakeLibrary(session, {source, font ? font : kSoundFont, output, time});

@@ -11,7 +11,7 @@
 
 namespace sprout {
 
-/// The words of the command line were wrong; `what()` says which.
+/// The command line is wrong; `what()` says how.
 class UsageError : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -23,10 +23,10 @@ struct OptionRule {
     bool takesValue = false;
 };
 
-/// The words behind a command, sorted into options and the rest.
+/// The words after a command, sorted into options and the rest.
 class Arguments {
 public:
-    /// Throws `UsageError` for an unknown option, one given twice or one without its value. "--" ends the options.
+    /// Throws `UsageError` if an option is unknown, is given twice or lacks its value. "--" ends the options.
     Arguments(const std::vector<std::string>& words, const std::vector<OptionRule>& rules);
 
     [[nodiscard]] const std::vector<std::string>& Words() const { return words; }
@@ -35,7 +35,7 @@ public:
     /// A whole number from `least` to `most`. Throws `UsageError` for anything else.
     [[nodiscard]] std::optional<std::int32_t> Number(std::string_view option, std::int32_t least,
                                                      std::int32_t most) const;
-    /// Throws `UsageError` unless there are just `count` words.
+    /// Throws `UsageError` unless there are exactly `count` words.
     void RequireWords(std::size_t count, std::string_view names) const;
 
 private:

@@ -12,10 +12,10 @@ namespace sprout {
 /// One command of the tool.
 struct Command {
     std::string_view name;
-    std::string_view words;                  ///< what stands behind the name
+    std::string_view words;                  ///< what follows the name
     std::string_view help;                   ///< one line
-    std::vector<OptionRule> options;         ///< beside those of all commands
-    bool (*run)(Session&, const Arguments&); ///< true when all was done; throws `UsageError`
+    std::vector<OptionRule> options;         ///< in addition to those of all commands
+    bool (*run)(Session&, const Arguments&); ///< returns true if everything was done; throws `UsageError`
 };
 
 /// All commands, in the order of the help.

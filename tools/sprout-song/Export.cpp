@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Songs become sound files, several at a time, each in a process of its own: the engine has one open song, and a song
-// that ends its process does not end the others.
+// Turns songs into sound files, several at a time, each in its own process: the engine has only one open song, and a
+// song that crashes its process does not affect the others.
 #include <poll.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -57,8 +57,8 @@ struct Job {
     fs::path target;
 };
 
-/// The file that each song becomes: beside it or in `folder`, under its name. Throws `UsageError` where two would be
-/// one.
+/// The target file of each song: beside it or in `folder`, under its name. Throws `UsageError` if two songs have the
+/// same target.
 std::vector<Job> PlanJobs(const std::vector<std::string>& songs, const fs::path& folder, const std::string& extension)
 {
     std::vector<Job> jobs;
@@ -86,7 +86,7 @@ void TellOutcome(Session& session, const ExportOutcome& outcome, const Job& job,
                                        : "The file " + PathText(job.target) + " could not be written.");
 }
 
-/// Returns whether the song is a sound file now.
+/// Returns true if the song was exported.
 bool ExportSong(Session& session, const Job& job, const SoundKind& kind)
 {
     if (!LoadSong(session, job.song)) {
@@ -106,7 +106,7 @@ bool ExportSong(Session& session, const Job& job, const SoundKind& kind)
     return outcome.End == ExportEnd::Written;
 }
 
-/// The whole life of a process that exports one song. What it has to say goes into the pipe.
+/// The whole life of a process that exports one song. It writes its messages into the pipe.
 [[noreturn]] void LiveAsChild(const Job& job, const SoundKind& kind, std::size_t threads, int pipe)
 {
     bool done = false;
@@ -125,10 +125,10 @@ bool ExportSong(Session& session, const Job& job, const SoundKind& kind)
             break;
         written += count > 0 ? static_cast<std::size_t>(count) : 0;
     }
-    ::_exit(done ? EXIT_SUCCESS : EXIT_FAILURE); // the parent's objects are the parent's
+    ::_exit(done ? EXIT_SUCCESS : EXIT_FAILURE); // does not destroy the parent's objects
 }
 
-/// A song on its way.
+/// A song that is being exported.
 struct Running {
     const Job* job;
     pid_t process;
@@ -154,7 +154,7 @@ Running Start(const Job& job, const SoundKind& kind, std::size_t threads)
     return {&job, process, ends[0], {}};
 }
 
-/// Reads what a process has said; false once it has ended.
+/// Reads the output of a process; returns false once it has ended.
 bool Listen(Running& running)
 {
     char piece[4096];
@@ -164,7 +164,7 @@ bool Listen(Running& running)
     return count > 0 || (count < 0 && errno == EINTR);
 }
 
-/// Returns whether the process ended well. What it said, and how it ended otherwise, is told.
+/// Returns true if the process succeeded. Reports its output and the signal that ended it, if any.
 bool TakeLeave(Session& session, const Running& running)
 {
     ::close(running.pipe);
@@ -180,7 +180,7 @@ bool TakeLeave(Session& session, const Running& running)
     return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
-/// Exports all songs, as many at a time as there are cores.
+/// Exports all songs, one per core at a time.
 class Exports {
 public:
     Exports(Session& ownSession, const std::vector<Job>& allJobs, const SoundKind& soundKind)
@@ -191,7 +191,7 @@ public:
     {
     }
 
-    /// Returns the count of songs that were exported.
+    /// Returns the number of exported songs.
     std::size_t Run()
     {
         StoppableWork work("Exporting songs");

@@ -21,7 +21,7 @@ Facts BeatFacts(const Beat& beat)
     return facts;
 }
 
-/// Runs of painted cells, each as its first and last.
+/// Runs of painted cells, each as its first and last cell.
 Facts PaintedRuns(const Track& track)
 {
     Facts runs = Facts::array();

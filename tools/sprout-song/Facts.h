@@ -9,7 +9,7 @@
 
 namespace sprout {
 
-// What `sprout-song info` tells of each record, keys in the order in which a person reads them.
+// What `sprout-song info` shows of each record, with the keys in reading order.
 
 using Facts = nlohmann::ordered_json;
 

@@ -15,7 +15,7 @@ namespace sprout {
 
 namespace {
 
-/// The facts of a file of a known kind; null where it could not be loaded.
+/// The facts of a file of a known kind; null if it cannot be loaded.
 Facts LoadFacts(Session& session, FileKind kind, const std::filesystem::path& path)
 {
     switch (kind) {
@@ -53,7 +53,7 @@ std::string Plain(const Facts& value)
                              : PrintableJson(value.dump(-1, ' ', false, Facts::error_handler_t::replace));
 }
 
-/// Facts for a person: one indented line a fact, short objects on one line.
+/// Facts for a person: one indented line per fact, short objects on one line.
 void PrintFacts(std::ostream& out, const Facts& facts, const std::string& indent)
 {
     for (const auto& [name, value] : facts.items()) {
@@ -78,7 +78,7 @@ void PrintFacts(std::ostream& out, const Facts& facts, const std::string& indent
     }
 }
 
-/// Why a path is not of any kind.
+/// Why a path is of no known kind.
 std::string WhyUnknown(const std::string& path)
 {
     std::error_code error;

@@ -33,7 +33,7 @@ constexpr std::array kKinds = {
     KindMark{FileKind::Star, "star", ".TqSta", "TqSta"}, KindMark{FileKind::Wave, "wave", ".wav", "RIFF"},
     KindMark{FileKind::Wma, "wma", ".wma", "\x30\x26\xB2\x75\x8E"}};
 
-/// The engine takes a missing file for an empty one; a person who named it wants to know.
+/// Reports missing files: the engine treats them as empty, but the user who named one wants to know.
 bool IsThere(Session& session, const fs::path& path, std::string_view title)
 {
     std::error_code error;

@@ -16,10 +16,10 @@ enum class FileKind { Song, Tune, Star, Wave, Wma };
 
 [[nodiscard]] std::string_view KindName(FileKind kind);
 
-/// The kind of a file by its extension, or, where that tells nothing, by its first bytes.
+/// The kind of a file by its extension or, if that is unknown, by its first bytes.
 [[nodiscard]] std::optional<FileKind> KindOfFile(const std::filesystem::path& path);
 
-// Each loads a file into the shared state and tells of every failure; false where there is nothing to work on.
+// Each loads a file into the shared state and reports every failure; returns false if there is nothing to work on.
 
 bool LoadSong(Session& session, const std::filesystem::path& path);
 /// Into `TuneClipboard`.
@@ -30,7 +30,7 @@ std::optional<WaveData> LoadWave(Session& session, const std::filesystem::path& 
 
 std::optional<SoundFacts> LoadSoundFacts(Session& session, const std::filesystem::path& path);
 
-/// Writes a wave; false where a message came.
+/// Writes a wave; returns false if a message was shown.
 bool SaveWave(Session& session, const WaveData& wave, const std::filesystem::path& path);
 
 } // namespace sprout

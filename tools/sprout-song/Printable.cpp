@@ -17,7 +17,7 @@ bool Continues(std::string_view text, std::size_t place)
     return place < text.size() && (Byte(text, place) & 0xC0) == 0x80;
 }
 
-/// Bytes of the UTF-8 character at `place`; 0 where there is none.
+/// Number of bytes of the UTF-8 character at `place`; 0 if there is none.
 std::size_t CharacterBytes(std::string_view text, std::size_t place)
 {
     const unsigned first = Byte(text, place);
@@ -84,7 +84,7 @@ std::string PrintableLines(std::string_view text)
 
 std::string PrintableJson(std::string_view json)
 {
-    // Those below the blank stand escaped already, and line ends between the facts are JSON's own.
+    // Those below the blank are already escaped, and line ends between the facts belong to JSON.
     std::string shown;
     for (std::size_t place = 0; place < json.size();) {
         const std::size_t bytes = CharacterBytes(json, place);

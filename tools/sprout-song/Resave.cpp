@@ -16,7 +16,7 @@ namespace sprout {
 
 namespace {
 
-/// A saved tune counts as rendered, so one that brings no sound, as the old form does, is rendered first.
+/// A saved tune counts as rendered, so a tune that comes without a sound, as in the old form, is rendered first.
 void SaveTune(const std::filesystem::path& path)
 {
     Tune& tune = Shared().TuneClipboard;

@@ -19,7 +19,7 @@
 
 namespace sprout {
 
-/// Writes each message as a line "TITLE: TEXT", and keeps it.
+/// Writes each message as a line "TITLE: TEXT" and keeps it.
 class ToolMessages : public Messages {
 public:
     struct Message {
@@ -41,10 +41,10 @@ private:
 /// Whether a person watches a terminal.
 enum class Watched { No, Yes };
 
-/// Of the standard error.
+/// The same for the standard error stream.
 [[nodiscard]] Watched StandardErrorIsWatched();
 
-/// Draws a progress line for long work where a person watches.
+/// Draws a progress line for long work if a person watches.
 class ToolScreen : public Screen {
 public:
     ToolScreen(std::ostream& stream, Watched isWatched) : err(stream), watched(isWatched) {}
@@ -66,7 +66,7 @@ private:
 /// The services and the shared state of one command.
 class Session {
 public:
-    /// userRoot: where Beats, Tunes, Stars and Songs lie; empty for the user's own folder.
+    /// userRoot: the folder with Beats, Tunes, Stars and Songs; empty for the user's own folder.
     Session(std::ostream& out, std::ostream& err, const std::filesystem::path& userRoot, bool beatsOutside,
             Watched watched);
     Session(const Session&) = delete;
@@ -76,9 +76,9 @@ public:
     std::ostream& out;
     ToolMessages messages;
 
-    /// Tells of a failure of the tool's own.
+    /// Reports a failure of the tool itself.
     void Fail(std::string_view title, std::string_view text) { messages.MessageBox(title, text); }
-    /// True when no message came since the session, or the count, began.
+    /// True if no message was shown since the session, or the count, began.
     [[nodiscard]] bool NoMessageSince(std::size_t count) const { return messages.Shown().size() == count; }
 
 private:

@@ -26,7 +26,7 @@ namespace {
 constexpr std::int32_t kSlowestTempo = 10;
 constexpr std::int32_t kFastestTempo = 10000;
 
-/// A rendering and the cell that its first frame belongs to.
+/// A rendered wave and the cell that its first frame belongs to.
 struct Rendering {
     WaveData wave;
     std::int32_t origin = 0;
@@ -54,7 +54,7 @@ bool StretchOne(Session& session, const fs::path& in, float pitch, float duratio
     return wave && SaveWave(session, StretchWave(*wave, pitch, duration), out);
 }
 
-/// One line of a list: in, pitch, duration, out, parted by blanks.
+/// One line of a list: in, pitch, duration, out, separated by blanks.
 bool StretchLine(Session& session, const std::string& line, const std::string& place)
 {
     std::istringstream words(line);

@@ -50,7 +50,7 @@ std::vector<OptionRule> KnownOptions(const Command* command)
     return options;
 }
 
-/// What failed, for one who reads only that.
+/// A summary of the failures, for someone who reads only that.
 std::string JoinedWords(const std::vector<std::string>& words)
 {
     std::string joined;
@@ -61,7 +61,7 @@ std::string JoinedWords(const std::vector<std::string>& words)
 
 int Run(const std::vector<std::string>& words, std::ostream& out, std::ostream& err)
 {
-    // The command is the first word that is no option; options of all commands may stand ahead of it.
+    // The command is the first word that is no option; options of all commands may precede it.
     auto place = words.begin();
     while (place != words.end() && place->starts_with("--"))
         place += *place == "--user-root" && place + 1 != words.end() ? 2 : 1;

@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// What a command ends with, as the shell sees it.
+/// The exit status of a command, as the shell sees it.
 enum ExitCode : int { kDone = 0, kFailed = 1, kWrongUsage = 2 };
 
 /// Runs one command of the companion tool. arguments: without the program's name. Facts go to `out`, every message to

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout-read-sound MOST_FRAMES cut|refuse: decodes the sound file on the standard input into a WAV file on the
-// standard output. A program of its own, so that a damaged file takes nobody's song along.
+// sprout-read-sound MOST_FRAMES cut|refuse: decodes the sound file on standard input into a WAV file on standard
+// output. A separate program, so that a damaged file costs nobody their song.
 #include <unistd.h>
 
 #include <charconv>
@@ -56,6 +56,6 @@ DecodeStatus ReadSound(std::span<char*> words)
 
 int main(int argc, char** argv)
 {
-    // Nothing is tidied up behind a decoder that may have gone astray.
+    // There is no cleanup after a decoder that may have gone wrong.
     ::_exit(static_cast<int>(sprout::ReadSound({argv, static_cast<std::size_t>(argc)})));
 }

@@ -9,7 +9,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kMeterLength{200};
 
-/// Begun pieces count too: a hole of one frame is a hole.
+/// Partial pieces count too: a hole of one frame is a hole.
 std::int64_t PiecesOf(std::int64_t frames)
 {
     constexpr auto pieceFrames = static_cast<std::int64_t>(kMeterPieceFrames);

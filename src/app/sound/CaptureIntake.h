@@ -12,7 +12,7 @@
 
 namespace sprout {
 
-/// Takes what a source gives: counts and meters it, and hands it on while it is kept.
+/// Takes audio from a source: counts and meters it, and passes it on while it is being kept.
 class CaptureIntake : public CaptureSink {
 public:
     using Clock = std::chrono::steady_clock;
@@ -20,20 +20,20 @@ public:
     struct Facts {
         std::int64_t Pieces = 0;     ///< of 20 ms
         std::int64_t LostPieces = 0; ///< of 20 ms
-        Clock::time_point LastSound; ///< that is not exactly zero
+        Clock::time_point LastSound; ///< not exactly zero
         Clock::time_point LastTaken;
     };
 
     /// Forgets everything.
     void Reset();
-    /// keeper: gets what comes from now on; null: nothing is kept.
+    /// keeper: receives everything from now on; null: nothing is kept.
     void KeepIn(CaptureWriter* keeper);
 
     void Take(std::span<const std::byte> frames) override;
     void TakeHole(std::int64_t frames) override;
 
     [[nodiscard]] Facts Counted() const;
-    /// All is 0 where nothing came for 0.2 s.
+    /// The levels are 0 if nothing has arrived for 0.2 s.
     [[nodiscard]] CapturePeaks Peaks() const;
 
 private:

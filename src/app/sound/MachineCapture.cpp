@@ -28,7 +28,7 @@ CaptureSource* MachineCapture::ChooseSource()
     const ServerAnswer answer = server.AskServer();
     if (answer == ServerAnswer::Yes)
         return &server;
-    // SDL would wait for a silent server without a limit.
+    // SDL would wait for a silent server without limit.
     return answer == ServerAnswer::No ? &device : nullptr;
 }
 
@@ -39,7 +39,7 @@ CaptureOpening MachineCapture::Open()
     if (!source)
         return CaptureOpening::Failed;
     CaptureOpening opening = source->Open(intake);
-    // The server's failure may be how its end is known.
+    // A failure may be the first sign that the server is gone.
     if (opening == CaptureOpening::Failed && source == &server && server.AskServer() == ServerAnswer::No) {
         source = &device;
         opening = source->Open(intake);
@@ -97,13 +97,13 @@ void MachineCapture::LetFilesGo()
     isGone = false;
 }
 
-/// The disk takes the space of deleted files back when they are closed, and a child waits for that after a long take.
+/// The disk reclaims the space of deleted files when they are closed; after a long take a child would wait for that.
 void MachineCapture::CloseFiles()
 try {
     if (files)
         closer = std::jthread([closed = std::move(files)]() mutable { closed.reset(); });
 } catch (const std::exception&) {
-    return; // no thread can be started, and what it would have closed is closed
+    return; // no thread can be started; the files are already closed
 }
 
 SourceState MachineCapture::LookAtSource()

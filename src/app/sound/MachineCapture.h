@@ -13,8 +13,8 @@
 
 namespace sprout {
 
-/// The machine's sound capture: from the sound server where there is one, through SDL where there is none or where the
-/// user named SDL's way to the device (see `MachineSound`). Nothing is loaded before the first question to it.
+/// The machine's sound capture: from the sound server if there is one, otherwise through SDL, also if the user has
+/// chosen SDL's way to the device (see `MachineSound`). Nothing is loaded before the first query.
 class MachineCapture : public SoundCapture {
 public:
     explicit MachineCapture(const CaptureLimits& captureLimits = {}) : limits(captureLimits) {}
@@ -33,14 +33,14 @@ public:
     void SelectSource(std::int32_t index) override;
     void SetVolume(std::int32_t index, std::int32_t volume) override;
 
-    /// Works in a thread of its own, which this object's end stops.
+    /// Works in a separate thread, which stops when this object is destroyed.
     void DeleteLeftFiles(const std::filesystem::path& folder) override;
 
 private:
-    /// Null where a server is there and does not answer.
+    /// Null if there is a server that does not answer.
     [[nodiscard]] CaptureSource* ChooseSource();
     [[nodiscard]] CaptureState StateOf(SourceState sourceState, const CaptureIntake::Facts& facts) const;
-    /// Notes where the source went while it was captured.
+    /// Notes if the source disappeared during capture.
     SourceState LookAtSource();
     void LetFilesGo();
     void CloseFiles();
@@ -49,7 +49,7 @@ private:
     CaptureIntake intake;
     PulseCapture server;
     SdlCapture device;
-    CaptureSource* source = nullptr; // the one asked last
+    CaptureSource* source = nullptr; // the one last used
 
     std::unique_ptr<CaptureFiles> files;
     std::unique_ptr<CaptureWriter> writer;

@@ -11,7 +11,7 @@ namespace sprout {
 
 namespace {
 
-/// `handle`, or an empty one where it is none of a `Sound`: what one output opened means nothing to the other.
+/// `handle`, or an empty one if it is not a `Sound`: a handle of one output means nothing to the other.
 template <class Sound>
 SoundHandle KeepIf(SoundHandle handle)
 {
@@ -54,7 +54,7 @@ std::int32_t MachineSound::CountDevices()
     const ServerAnswer answer = AskServer();
     if (answer == ServerAnswer::Yes)
         return server.SoundDeviceCount();
-    // SDL would wait for a silent server without a limit.
+    // SDL would wait for a silent server without limit.
     return answer == ServerAnswer::No ? device.SoundDeviceCount() : 0;
 }
 
@@ -69,7 +69,7 @@ SoundHandle MachineSound::Open(SoundHandle old, std::int32_t windowHandle, const
         if (sound)
             return sound;
         old = nullptr;
-        answer = AskServer(); // its failure may be how its end is known
+        answer = AskServer(); // a failure may be the first sign that the server is gone
     }
     if (answer == ServerAnswer::No)
         return device.Open(KeepIf<SdlSound>(std::move(old)), windowHandle, format, bufferBytes);

@@ -10,19 +10,19 @@
 
 namespace sprout {
 
-/// True where the variable SDL_AUDIODRIVER, with which a user chooses SDL's way to the device, is set.
+/// True if the variable SDL_AUDIODRIVER, which selects SDL's way to the device, is set by the user.
 [[nodiscard]] bool UserChoseSdl();
 
-/// The machine's sound output: the sound server where there is one, SDL where there is none.
+/// The machine's sound output: the sound server if there is one, otherwise SDL.
 ///
-/// A server is looked for with each question and each device that is opened, so that one that comes later is found. The
-/// variable SDL_AUDIODRIVER, with which a user chooses SDL's way to the device, chooses SDL too.
+/// Each query and each opening of a device looks for a server, so one that starts later is found. If the user sets the
+/// variable SDL_AUDIODRIVER, which selects SDL's way to the device, SDL is used.
 class MachineSound : public SoundOutput {
 public:
     /// restRound: see the two outputs.
     explicit MachineSound(std::chrono::milliseconds restRound = std::chrono::seconds(1));
 
-    /// Counts the devices in a thread of its own, for the first `SoundDeviceCount`: the program starts meanwhile.
+    /// Counts the devices in a separate thread for the first `SoundDeviceCount`, while the program starts.
     void CountAhead();
 
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
@@ -35,7 +35,7 @@ private:
 
     PulseSoundOutput server;
     SdlSoundOutput device;
-    std::future<std::int32_t> countAhead; // goes first: it uses both
+    std::future<std::int32_t> countAhead; // declared last, so destroyed first: it uses both
 };
 
 } // namespace sprout

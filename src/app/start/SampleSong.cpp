@@ -44,7 +44,7 @@ int StartsSoFar()
     return static_cast<int>(std::clamp<double>(starts, 0, kFirstStarts));
 }
 
-/// Counts this start, as long as it matters.
+/// Counts this start, as long as the count matters.
 bool IsFirstStart()
 {
     const int starts = StartsSoFar();
@@ -60,7 +60,7 @@ bool IsFirstStart()
     return true;
 }
 
-/// Takes the place of the messages as long as it lives, and shows none.
+/// Replaces the message service during its lifetime and shows nothing.
 class NoMessages : public Messages {
 public:
     NoMessages() : before(std::exchange(TheServices().messages, this)) {}
@@ -74,7 +74,7 @@ private:
     Messages* before;
 };
 
-/// False, with the song as it was, where the file holds none that can be read.
+/// False, with the song unchanged, if the file has no readable song.
 bool LoadQuietly(const fs::path& file)
 {
     SongState before = Shared().Song;

@@ -35,7 +35,7 @@ constexpr std::string_view kGeneral = "General";
 
 using Step = void (*)();
 
-/// Runs a step. Nothing that goes wrong in it ends the start: the program is of use without it.
+/// Runs a step. A failure in it does not end the start: the program is useful without it.
 void GoOnAfter(Step step)
 {
     try {
@@ -52,8 +52,8 @@ void MakeFolderIfMissing(const fs::path& folder)
         fs::create_directory(folder, error);
 }
 
-/// All facts are written in one go: each write waits for the disk. The machine has no DirectX, so the question for its
-/// version always fails.
+/// All facts are written in one step, because each write waits for the disk. The machine has no DirectX, so the query
+/// for its version always fails.
 void ProbeMachine()
 {
     const MemoryStatus memory = TheServices().machine->GlobalMemoryStatus();
@@ -84,7 +84,7 @@ void SetSoundFormat()
     shared.Channels = 2;
 }
 
-/// One file stands for all that is installed with the program.
+/// One file represents everything that is installed with the program.
 void TestSupportFiles()
 {
     const fs::path file = Shared().ProgramFolder / "Sprout" / "Beats" / "G_Acoustic Guitar High.wav";
@@ -125,7 +125,7 @@ void FindDocumentsFolder()
     Shared().DocumentsFolder = documents;
 }
 
-/// Without a documents folder the root lies in that of the file system, not in whatever folder is the current one.
+/// Without a documents folder, the user root is in the root of the file system, not in the current folder.
 void SetUserFolders()
 {
     const fs::path::string_type separator(1, fs::path::preferred_separator);
@@ -133,8 +133,8 @@ void SetUserFolders()
     MakeFolderIfMissing(Shared().UserRoot);
 }
 
-/// A user who has deleted every file of a folder gets the installed ones back. One who stops the copy gets them at the
-/// next start.
+/// If a user has deleted every file in a folder, the installed ones come back; if the user stops the copy, they come at
+/// the next start.
 void FillUserFolders()
 {
     const SharedState& shared = Shared();
@@ -149,13 +149,13 @@ void FillUserFolders()
     }
 }
 
-/// Last, for the start does not wait for it.
+/// Last, because the start does not wait for it.
 void DeleteLeftMails()
 {
     TheServices().privateFolders->DeleteLeftFolders(Shared().TempFolder);
 }
 
-/// What a child said stays on no machine where the program did not end as it should.
+/// A child's recordings must not stay on a machine after the program has ended abnormally.
 void DeleteLeftRecordings()
 {
     TheServices().capture->DeleteLeftFiles(Shared().TempFolder);
@@ -174,7 +174,7 @@ std::int32_t SoundMemoryLimit(std::uint64_t totalBytes)
 
 void RunStartUp()
 {
-    // The new song comes before the user's folders are known, so its name is free in the current folder only.
+    // The new song is created before the user's folders are known, so its name is only free in the current folder.
     constexpr Step steps[] = {FindTempFolder,   ProbeMachine,       SetInstallFolders,   SetSoundFormat,
                               TestSupportFiles, MakeInstallFolders, KeepTestTone,        NewSong,
                               KeepWaveColours,  SetDemoImages,      FindDocumentsFolder, SetUserFolders,
@@ -185,7 +185,7 @@ void RunStartUp()
 
 void ReadOptionFlags()
 {
-    // One option is told by its opposite.
+    // One option is stored as its opposite.
     GoOnAfter([] { Shared().SongBeatsInside = !IsSetToOne("SongBeatsOutside"); });
     GoOnAfter([] { Shared().AllowEditOriginal = IsSetToOne("AllowEditOriginal"); });
 }

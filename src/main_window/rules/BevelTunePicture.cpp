@@ -15,7 +15,7 @@ enum class Shade { Darken, Lighten };
 
 struct Shading {
     Shade shade;
-    double share; ///< of the component, or of what it lacks to white, that is left
+    double share; ///< the share that is left of the component, or of its distance to white
 };
 
 struct WorkSurface {
@@ -41,7 +41,7 @@ void ShadePixel(WorkSurface& surface, int x, int y, const Shading& shading)
     pixel = shaded;
 }
 
-/// A row and then a column, each from `first` to the size less `margin`.
+/// Shades a row and then a column, each from `first` to the size minus `margin`.
 void ShadeLines(WorkSurface& surface, int row, int column, int first, int margin, const Shading& shading)
 {
     if (row >= 0 && row < surface.height)

@@ -6,7 +6,7 @@
 namespace sprout {
 
 /// A picture with a raised edge: its two outer lines are lightened at the top and left and darkened at the bottom and
-/// right. Where lines cross, a pixel is shaded by each. A picture of any size; nothing stays nothing.
+/// right. Where lines cross, both shade the pixel. Takes a picture of any size; an empty one stays empty.
 [[nodiscard]] Picture BevelTunePicture(const Picture& picture);
 
 } // namespace sprout

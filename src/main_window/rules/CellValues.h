@@ -5,12 +5,12 @@
 
 namespace sprout {
 
-// What a cell of `Painted` holds: the number of the tool that wrote it, or 0 if none did. Only the first counts as
-// painted.
+// What a cell of `Painted` holds: the number of the tool that wrote it, or 0 if none did. Only the brush's number
+// counts as painted.
 inline constexpr std::int32_t kPaintedCell = 1;
 inline constexpr std::int32_t kErasedCell = 2;
 
-/// Cells that the time band and the cell cursor show as a group.
+/// The number of cells that the time band and the cell cursor show as a group.
 inline constexpr std::int32_t kCellsOfAGroup = 8;
 
 } // namespace sprout

@@ -14,10 +14,10 @@ constexpr std::int32_t kSmallTool = 40;
 constexpr std::int32_t kToolsApart = 6;
 constexpr std::int32_t kGroupsApart = 12;
 constexpr std::int32_t kBarMargin = 8;
-constexpr std::int32_t kBarTop = 8; ///< of the tools of the one row
+constexpr std::int32_t kBarTop = 8; ///< of the tools in the single row
 constexpr std::int32_t kSongLine = 28;
 constexpr std::int32_t kTempoLine = 36;
-constexpr std::int32_t kTempoWidth = 312; ///< what the tempo bar asks for
+constexpr std::int32_t kTempoWidth = 312; ///< what the tempo bar needs
 constexpr std::int32_t kTightTempoWidth = 126;
 constexpr std::int32_t kTightTempoHeight = 53; ///< with its labels below the slot
 constexpr std::int32_t kTightBarHeight = 80;
@@ -39,7 +39,7 @@ ToolGroup SongTools(EmailTool email)
     return ToolGroup(kSongTools).first(kSongTools.size() - (email == EmailTool::Hidden ? 1 : 0));
 }
 
-/// Sets tools side by side, from the left or towards it.
+/// Places tools side by side, starting or ending at an edge.
 class ToolRow {
 public:
     ToolRow(ControlBarPlaces& barPlaces, std::int32_t toolSide, std::int32_t rowTop)
@@ -47,7 +47,7 @@ public:
     {
     }
 
-    /// Sets a group at `left` and returns the left edge of what stands behind it.
+    /// Places a group at `left` and returns the left edge of the next group.
     std::int32_t Group(std::int32_t left, ToolGroup group) const
     {
         for (const BarTool tool : group) {
@@ -57,7 +57,7 @@ public:
         return left - kToolsApart + kGroupsApart;
     }
 
-    /// Sets a group so that it ends at `right` and returns the right edge of what stands before it.
+    /// Places a group that ends at `right` and returns the right edge of the group before it.
     std::int32_t GroupBefore(std::int32_t right, ToolGroup group) const
     {
         const auto count = static_cast<std::int32_t>(group.size());
@@ -72,7 +72,7 @@ private:
     std::int32_t top;
 };
 
-/// Room that the tools of one row leave between them.
+/// The room between the tools of a single row.
 BarPlace RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t top, EmailTool email)
 {
     const ToolRow row(places, kTool, top);
@@ -93,7 +93,7 @@ void OneRow(ControlBarPlaces& places, const BarPlace& room)
     places.height = kTool + 2 * kBarTop;
 }
 
-/// The row is a little higher, for the tempo's labels stand below its slot.
+/// The row is a little higher, because the tempo's labels are below its slot.
 void OneTightRow(ControlBarPlaces& places, std::int32_t width, EmailTool email)
 {
     const BarPlace room = RoomInOneRow(places, width, (kTightBarHeight - kTool) / 2, email);

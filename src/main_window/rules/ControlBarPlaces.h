@@ -25,10 +25,10 @@ enum class BarTool : std::size_t {
 };
 inline constexpr std::size_t kBarTools = 13;
 
-/// Whether the song can be mailed. The tools close up where `BarTool::Email` is missing.
+/// Whether the song can be mailed. Without `BarTool::Email` the other tools close the gap.
 enum class EmailTool { Shown, Hidden };
 
-/// A rectangle of the bar in logical pixels.
+/// A rectangle in the bar, in logical pixels.
 struct BarPlace {
     std::int32_t left = 0;
     std::int32_t top = 0;
@@ -37,20 +37,20 @@ struct BarPlace {
     friend bool operator==(const BarPlace&, const BarPlace&) = default;
 };
 
-/// Where the parts of the control bar stand.
+/// The positions of the control bar's parts.
 struct ControlBarPlaces {
     std::int32_t height = 0;
     std::array<BarPlace, kBarTools> tools; ///< squares, by `BarTool`; empty: hidden
     BarPlace song;                         ///< the song's title and its author
-    bool songInOneLine = false;            ///< the author stands behind the title, else below it
-    BarPlace tempo;                        ///< as low as one line, or with room for labels below the slot
+    bool songInOneLine = false;            ///< the author is to the right of the title, else below it
+    BarPlace tempo;                        ///< one line high, or with room for labels below the slot
 };
 
-/// Lays the control bar out in a width: one row where title and tempo find room between the tools, if need be a short
-/// one; else two, of smaller tools in the narrowest windows. Tools of one group stand 6 px apart, groups 12 px.
+/// Lays out the control bar for a width: one row if title and tempo fit between the tools, if necessary shortened; else
+/// two, with smaller tools in the narrowest windows. Tools in a group are 6 px apart, groups 12 px.
 [[nodiscard]] ControlBarPlaces PlaceControlBar(std::int32_t width, EmailTool email = EmailTool::Shown);
 
-/// Widths that the parts of the song's line ask for, each caption with the gap behind it.
+/// Widths that the parts of the song's line need; each caption includes the gap after it.
 struct SongLineNeeds {
     std::int32_t titleCaption = 0;
     std::int32_t title = 0;
@@ -58,19 +58,19 @@ struct SongLineNeeds {
     std::int32_t author = 0;
 };
 
-/// Where the parts of the song's line stand, from the line's left edge.
+/// Positions of the parts of the song's line, from the line's left edge.
 struct SongLine {
-    bool hasCaption = false;       ///< the title's; it stands at the left edge
+    bool hasCaption = false;       ///< the title's caption; it is at the left edge
     bool hasAuthorCaption = false; ///< before the author
     std::int32_t titleLeft = 0;
     std::int32_t titleWidth = 0;
     std::int32_t authorCaptionLeft = 0;
     std::int32_t authorLeft = 0;
-    std::int32_t authorWidth = 0; ///< all that is left behind the title
+    std::int32_t authorWidth = 0; ///< everything left after the title
 };
 
-/// Fits title and author into one line. Where both have no room, the title is cut first and then the author; a short
-/// line goes without the title's caption, the shortest without the author's too, and both names share what it has.
+/// Fits title and author into one line. If there is not enough room for both, the title is cut first, then the author.
+/// A short line drops the title's caption, the shortest also the author's; both names then share its width.
 [[nodiscard]] SongLine FitSongLine(const SongLineNeeds& needs, std::int32_t room);
 
 } // namespace sprout

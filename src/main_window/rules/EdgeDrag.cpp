@@ -16,7 +16,7 @@ struct Span {
     std::int32_t extent = 0;
 };
 
-/// nearEdge, farEdge: which of the two ends is held.
+/// nearEdge, farEdge: which end is held.
 Span GripSpan(bool nearEdge, bool farEdge, std::int32_t grip, std::int32_t extent)
 {
     if (nearEdge)

@@ -8,7 +8,7 @@
 
 namespace sprout {
 
-/// Edges of a window by which it is resized; a corner is two of them.
+/// The edges of a window that resize it; a corner is two of them.
 struct WindowEdges {
     bool left = false;
     bool top = false;
@@ -27,15 +27,16 @@ inline constexpr std::array<WindowEdges, 8> kWindowGrips{{{true, false, false, f
                                                           {true, false, false, true},
                                                           {false, false, true, true}}};
 
-/// The smallest size that a drag leaves, in logical pixels.
+/// The minimum window size when dragging, in logical pixels.
 inline constexpr std::int32_t kLeastWindowWidth = 533;
 inline constexpr std::int32_t kLeastWindowHeight = 200;
 
-/// Where the grip of some edges lies in a window of that size: 6 px wide along the sides, 10 px square at the corners.
+/// Position of the grip for some edges of a window of this size: 6 px wide along the sides, 10 px square at the
+/// corners.
 [[nodiscard]] WindowPlace GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t height);
 
-/// The place of a window whose edges were dragged by (dx, dy) from where they stood in `start`. An edge stops where the
-/// window would get smaller than it may; the others stay.
+/// The position of a window whose edges were dragged by (dx, dy) from their position in `start`. An edge stops at the
+/// minimum window size; the other edges stay.
 [[nodiscard]] WindowPlace DraggedByEdges(const WindowPlace& start, const WindowEdges& edges, std::int32_t dx,
                                          std::int32_t dy);
 

@@ -26,19 +26,19 @@ std::int32_t EndLineLeft(const PaintedRun& run, std::int32_t cycleCells, const T
 {
     if ((run.lastCell - run.firstCell + 1) % cycleCells == 0)
         return RunEnd(run, view) - 1;
-    // Without the first cell in view: the line of a run that ends inside a cycle does not follow the scroll bar.
+    // Independent of the first cell in view: the end line of a run that ends inside a cycle does not scroll.
     return run.lastCell * kCellWidth;
 }
 
-/// Where the run's second cycle starts, or the first one behind it in view: a run of any length costs no more ticks
-/// than the view shows.
+/// Start of the run's second cycle, or of the first later one in view: even a very long run costs no more ticks than
+/// the view shows.
 std::int64_t SecondCycle(const PaintedRun& run, std::int32_t cycleCells, const TrackView& view)
 {
     const std::int32_t cyclesAhead = std::max(view.FirstCell - run.firstCell - 1, 0) / cycleCells;
     return run.firstCell + std::int64_t{cycleCells} * (cyclesAhead + 1);
 }
 
-/// First cell behind the run that starts at `cell`.
+/// The first cell after the run that starts at `cell`.
 std::int32_t CellBehindRun(const Track& track, std::int32_t cell, std::int32_t songCells)
 {
     while (cell <= songCells && At(track.Painted, cell) == kPaintedCell)

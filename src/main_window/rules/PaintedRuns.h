@@ -9,7 +9,7 @@
 
 namespace sprout {
 
-/// A maximal stretch of painted cells, both ends included; the last one is cut to the view.
+/// A maximal run of painted cells, both ends included; the last one is cut off at the view.
 struct PaintedRun {
     std::int32_t firstCell = 0;
     std::int32_t lastCell = 0;
@@ -25,7 +25,7 @@ struct PixelRect {
     friend bool operator==(const PixelRect&, const PixelRect&) = default;
 };
 
-/// Where a tile is laid: from x on, `width` of its pixels.
+/// Where a tile is drawn: at x, with `width` of its pixels.
 struct TilePlace {
     std::int32_t x = 0;
     std::int32_t width = 0;
@@ -33,17 +33,18 @@ struct TilePlace {
 };
 
 /// The runs of a track that reach into the view, from the left. A run that begins before the view keeps its first cell,
-/// since its marks count from there.
+/// because its marks are counted from there.
 [[nodiscard]] std::vector<PaintedRun> VisibleRuns(const Track& track, std::int32_t songCells, const TrackView& view);
 
-/// Cells after which a track's marks repeat: the tune's steps, or the audio at the reference tempo; at least 1.
+/// Number of cells after which a track's marks repeat: the tune's steps, or the audio at the reference tempo; at least
+/// 1.
 [[nodiscard]] std::int32_t CycleCells(const Track& track);
 
-/// Tiles of `tileWidth` pixels laid edge to edge along a run. The last one is cut to the run's end; those that end left
-/// of the view are left out.
+/// Tiles of `tileWidth` pixels, edge to edge along a run. The last one is cut to the run's end; tiles that end left of
+/// the view are skipped.
 [[nodiscard]] std::vector<TilePlace> RunTiles(const PaintedRun& run, const TrackView& view, std::int32_t tileWidth);
 
-/// The black marks of a run in the row of `rowTop`: its edges, the starts of its cycles and its end.
+/// The black marks of a run in the row at `rowTop`: its edges, the starts of its cycles and its end.
 [[nodiscard]] std::vector<PixelRect> RunMarks(const PaintedRun& run, std::int32_t cycleCells, const TrackView& view,
                                               std::int32_t rowTop);
 

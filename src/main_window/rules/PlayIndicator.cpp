@@ -10,7 +10,7 @@ namespace sprout {
 
 namespace {
 
-/// Beyond every surface, and its pixels are still a number.
+/// Beyond every surface, but its pixel position still fits a number.
 constexpr std::int32_t kFarthestCell = 1'000'000;
 
 PlayIndicator IndicatorAt(std::int32_t cell, const PlayModState& play, const TrackView& view)

@@ -98,7 +98,7 @@ bool Stroke::PaintCell(Track& track, std::int32_t cell)
 
 bool Stroke::TakeBackCell(Track& track, std::int32_t cell)
 {
-    // Equality is meant: 1 and 1 was painted by this stroke, 1 and 0 before it; a cell that was never touched, 0 and 0,
+    // The equality is intended: 1 and 1 was painted by this stroke, 1 and 0 before it. An untouched cell, 0 and 0,
     // becomes 2, which looks the same and counts as a change.
     if (At(track.Painted, cell) != At(dragCells, cell))
         return false;

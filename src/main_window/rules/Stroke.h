@@ -9,36 +9,36 @@
 
 namespace sprout {
 
-/// The three tools; the brush's and the eraser's numbers are what they write into a track's cells.
+/// The three tools; brush and eraser write their numbers into a track's cells.
 enum class Tool : std::int32_t { Brush = 1, Eraser = 2, PlayTool = 3 };
 
-/// What a press of the left button on the painting surface asks for.
+/// What a left-button press on the painting surface should do.
 enum class PressAction { Nothing, BeginStroke, PlaySongFrom, PlayTrackFrom };
 
-/// Decides a press by the tool and what lies under the pointer.
+/// Decides what a press does, from the tool and what is under the pointer.
 [[nodiscard]] PressAction ActionOfPress(Tool tool, const TrackHit& hit);
 
-/// A stroke of the brush or the eraser, from a press on a track to the release. A stroke of the brush is taken back,
-/// cell by cell, as the pointer goes back.
+/// A stroke of the brush or the eraser, from a press on a track to the release. When the pointer goes back, a brush
+/// stroke is undone cell by cell.
 class Stroke {
 public:
-    /// Writes the tool's number into the pressed cell. Only a press that changes its cell makes the mix stale and the
-    /// song changed. hit: a hit on a track. Returns whether the cell changed.
+    /// Writes the tool's number into the pressed cell. Only a press that changes its cell makes the mix stale and marks
+    /// the song as changed. hit: a hit on a track. Returns whether the cell changed.
     bool Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t x, std::int32_t y);
 
-    /// Draws on to `cell`, which may lie outside the song. Only the track's own render becomes stale, since the press
-    /// has told the rest. Returns whether a cell's value changed. Nothing happens while no stroke goes on, with the
-    /// play tool, or where the track is gone.
+    /// Continues to `cell`, which may lie outside the song. Only the track's own render becomes stale, because the
+    /// press has marked the rest. Returns whether a cell's value changed. Does nothing if no stroke is in progress,
+    /// with the play tool, or if the track no longer exists.
     bool MoveTo(SongState& song, Tool tool, std::int32_t cell);
 
-    /// What the stroke painted is kept until the next one begins.
+    /// Ends the stroke. What it painted is remembered until the next one begins.
     void End() { dragging = false; }
 
     [[nodiscard]] bool Dragging() const { return dragging; }
     [[nodiscard]] std::int32_t DragTrack() const { return dragTrack; }
     [[nodiscard]] std::int32_t DragStart() const { return dragStart; }
     [[nodiscard]] std::int32_t DownX() const { return downX; }
-    /// While dragging, every move counts as one at this height, so that a stroke stays on its row.
+    /// While dragging, every move counts as one at this height, which keeps a stroke on its row.
     [[nodiscard]] std::int32_t DownY() const { return downY; }
 
 private:
@@ -53,9 +53,9 @@ private:
     std::int32_t downY = 0;
     std::int32_t dragTrack = 0;
     std::int32_t dragStart = 0;
-    std::int32_t dragMax = 0;                                           ///< farthest cell to the right
-    std::int32_t dragMin = 0;                                           ///< and to the left
-    std::vector<std::int32_t> dragCells = std::vector<std::int32_t>(1); ///< 1 for what this stroke painted
+    std::int32_t dragMax = 0;                                           ///< rightmost cell reached
+    std::int32_t dragMin = 0;                                           ///< leftmost cell reached
+    std::vector<std::int32_t> dragCells = std::vector<std::int32_t>(1); ///< 1 for cells that this stroke painted
 };
 
 } // namespace sprout

@@ -11,11 +11,11 @@ namespace sprout {
 /// "100%".
 [[nodiscard]] std::string TempoLabel(std::int32_t percent);
 
-/// The whole grid's duration, "240 sec". A tempo of 0 has none and gives "0 sec".
+/// The whole grid's duration, e.g. "240 sec". A tempo of 0 gives "0 sec".
 [[nodiscard]] std::string DurationLabel(std::int32_t tempo);
 
-/// Takes the tempo of a percentage. Nothing happens where the song has it already; else all renders are stale and the
-/// shared song is changed. Returns whether it was taken.
+/// Sets the song's tempo to a percentage. If the tempo changes, all renders become stale and the shared song is marked
+/// as changed. Returns whether it changed.
 bool SetTempoPercent(std::int32_t percent);
 
 } // namespace sprout

@@ -22,7 +22,7 @@ bool AnyTrackIsPainted(const SongState& song, std::int32_t cell)
     return false;
 }
 
-/// A label at or ahead of the first one in view, so that a song of any length costs no more than its view.
+/// A label at or before the first one in view, so that a long song costs no more than its view.
 std::int64_t LabelAheadOf(const TrackView& view, double cellSeconds)
 {
     const double secondsAhead = (view.FirstCell - 1 + kLabelsBeforeTheBand / kCellWidth) * cellSeconds;

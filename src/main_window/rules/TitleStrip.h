@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-// Places in a row of the title strip; heights count from the row's top.
+// Positions in a row of the title strip; heights count from the row's top.
 
 inline constexpr std::int32_t kTrackPictureLeft = 24;
 inline constexpr std::int32_t kTrackNumberTop = 13;
@@ -19,7 +19,7 @@ inline constexpr std::int32_t kPlayPicTop = 7;
 /// Left edge of a track's number.
 [[nodiscard]] std::int32_t TrackNumberLeft(std::int32_t track);
 
-/// The buttons that float over a row while the pointer rests there.
+/// The buttons that float over a row while the pointer is there.
 struct FloatingButtons {
     std::int32_t HoverTrack = 0; ///< track under the pointer, 0 for none
     bool TrackTuneBtn = false;
@@ -30,11 +30,11 @@ struct FloatingButtons {
     std::int32_t deleteButtonTop = 0;
     std::int32_t playButtonTop = 0;
 
-    /// Any of them is visible.
+    /// True if any of them is visible.
     [[nodiscard]] bool OverlayShown() const;
 };
 
-/// What floats while the pointer is at (x, y) of the strip. track: that of `TitleStripTrack`; isAudio: its kind.
+/// What floats when the pointer is at (x, y) of the strip. track: the result of `TitleStripTrack`; isAudio: its kind.
 [[nodiscard]] FloatingButtons HoverTitleStrip(const TrackView& view, std::int32_t track, bool isAudio, std::int32_t x,
                                               std::int32_t y);
 

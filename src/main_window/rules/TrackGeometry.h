@@ -9,7 +9,7 @@
 namespace sprout {
 
 // The two surfaces of the track canvas, in logical pixels from their top left: the title strip and the painting
-// surface, which share the rows. Rows and cells are numbered from 1, as in the song.
+// surface, which share the rows. As in the song, rows and cells are numbered from 1.
 
 inline constexpr std::int32_t kCellWidth = 3;
 inline constexpr std::int32_t kRowHeight = 46;
@@ -29,53 +29,53 @@ struct TrackView {
     std::int32_t titlePicHeight = 0; ///< of the title strip
 };
 
-/// Top of a track's row, also of one that is not in view.
+/// Top of a track's row, even if it is not in view.
 [[nodiscard]] std::int32_t RowTop(const TrackView& view, std::int32_t track);
 
 /// Left edge of a cell, negative for cells before the view.
 [[nodiscard]] std::int32_t CellLeft(const TrackView& view, std::int32_t cell);
 
-/// Rows that fit, by the height of the title strip alone.
+/// The number of rows that fit, by the height of the title strip alone.
 [[nodiscard]] std::int32_t VisibleRows(const TrackView& view);
 
-/// True for the rows that are drawn. The last one may begin up to a row below the surface.
+/// True for rows that are drawn. The last one may start up to one row below the surface.
 [[nodiscard]] bool RowIsVisible(const TrackView& view, std::int32_t track);
 
-/// Cell under the x of a pointer. The division rounds, so the right half of a cell's last pixel is the next cell's.
+/// The cell at the pointer's x. The division rounds, so the right half of a cell's last pixel belongs to the next cell.
 [[nodiscard]] std::int32_t CellAt(const TrackView& view, std::int32_t x);
 
-/// The last cell that reaches into the surface, also beyond the song's end.
+/// The last cell that reaches into the surface, even if it is beyond the song's end.
 [[nodiscard]] std::int32_t LastVisibleCell(const TrackView& view);
 
-/// What lies under the pointer.
+/// What is under the pointer.
 struct TrackHit {
-    std::int32_t track = 0; ///< `kWholeSong` on the time band; without a hit it may be any number
-    std::int32_t cell = 0;  ///< without a hit it may lie outside the song
+    std::int32_t track = 0; ///< `kWholeSong` on the time band; any number without a hit
+    std::int32_t cell = 0;  ///< may be outside the song without a hit
     bool hit = false;
 };
 
-/// Finds track and cell at a point of the painting surface. A drag that leaves the surface goes on with the cell
-/// computed here although there is no hit.
+/// Finds the track and cell at a point of the painting surface. A drag that leaves the surface continues with the cell
+/// computed here, although there is no hit.
 [[nodiscard]] TrackHit HitTestTrack(const TrackView& view, std::int32_t trackCount, std::int32_t songCells,
                                     std::int32_t x, std::int32_t y);
 
-/// The track at a height of the title strip, 0 for none; the time band is none.
+/// The track at a height of the title strip; 0 for none and for the time band.
 [[nodiscard]] std::int32_t TitleStripTrack(const TrackView& view, std::int32_t trackCount, std::int32_t y);
 
-/// `view` with its first track within 1..`trackCount` and its first cell at 1 or behind.
+/// `view` with its first track within 1..`trackCount` and its first cell at least 1.
 [[nodiscard]] TrackView ClampedView(TrackView view, std::int32_t trackCount);
 
-/// A scroll bar that begins at 1.
+/// A scroll bar that starts at 1.
 struct ScrollRange {
     bool enabled = true;
     std::int32_t maximum = 1;
     friend bool operator==(const ScrollRange&, const ScrollRange&) = default;
 };
 
-/// The vertical bar. A disabled one goes back to 1.
+/// The vertical bar. If disabled, it goes back to 1.
 [[nodiscard]] ScrollRange TrackScrollRange(const TrackView& view, std::int32_t trackCount);
 
-/// The horizontal bar: it ends ten cells behind the song.
+/// The horizontal bar: it ends ten cells after the song.
 [[nodiscard]] ScrollRange CellScrollRange(const TrackView& view, std::int32_t songCells);
 
 /// Distance between the left edges of the two buttons that add a track.
@@ -87,30 +87,30 @@ inline constexpr std::int32_t kAddButtonsApart = 55;
 /// Side of those buttons.
 inline constexpr std::int32_t kAddButtonSide = 48;
 
-/// The least scrolled `FirstTrack`, from that of the view on, with which the last row and those buttons are in view;
-/// the last row alone where the surface is too low for both.
+/// The smallest `FirstTrack`, not below the view's, that shows the last row and those buttons; or only the last row if
+/// the surface is too low for both.
 [[nodiscard]] std::int32_t FirstTrackForAdded(const TrackView& view, std::int32_t trackCount);
 
-/// Breadth of the canvas's scroll bars.
+/// Width of the canvas's scroll bars.
 inline constexpr std::int32_t kScrollBarBreadth = 18;
 
-/// True where a canvas of this height shows a whole row above its scroll bar.
+/// True if a canvas of this height shows a whole row above its scroll bar.
 [[nodiscard]] bool CanvasShowsARow(std::int32_t canvasHeight);
 
-/// Height of the meadow on the lower edge of the painting surface.
+/// Height of the meadow at the lower edge of the painting surface.
 inline constexpr std::int32_t kMeadowHeight = 80;
 
-/// Top of the meadow; it grows only where it stays clear of the rows.
+/// Top of the meadow; it is drawn only if it stays clear of the rows.
 [[nodiscard]] std::optional<std::int32_t> MeadowTop(const TrackView& view, std::int32_t trackCount);
 
 /// Height of the hills behind the meadow.
 inline constexpr std::int32_t kHillsHeight = 240;
 
-/// Top of the hills, which rise only where they fill no more than two thirds of what the rows leave free.
+/// Top of the hills; they are drawn only if they fill at most two thirds of the space below the rows.
 [[nodiscard]] std::optional<std::int32_t> HillsTop(const TrackView& view, std::int32_t trackCount);
 
 inline constexpr std::int32_t kMusicTiles = 10;
-/// Which of the row tiles paints a track: 0 for audio, 1 to 10 for music by the track's number.
+/// Which row tile paints a track: 0 for audio, 1 to 10 for music by the track's number.
 [[nodiscard]] std::int32_t TileNumber(bool isAudio, std::int32_t track);
 
 } // namespace sprout

@@ -9,25 +9,25 @@
 
 namespace sprout {
 
-// Edits of the shared song's list of tracks.
+// Changes to the shared song's list of tracks.
 
-/// Adds an empty music track behind the others and returns its number.
+/// Appends an empty music track and returns its number.
 std::int32_t AddMusicTrack();
 
-/// Ends adding it: a track whose tune was given no name is taken away again. The song counts as changed either way.
+/// Finishes adding it: removes the track again if its tune has no name. The song counts as changed either way.
 void EndAddMusicTrack();
 
-/// Adds an audio track of a wave, which nothing is painted on, behind the others.
+/// Appends an audio track with a wave; nothing is painted on it.
 void AddAudioTrack(WaveData wave);
 
-/// Takes a track away; those behind it move up by one. The only track is emptied instead, which changes neither mix nor
-/// song mark. trackNumber: 1..`TrackCount`.
+/// Deletes a track; those after it move up by one. The only track is cleared instead, which does not affect the mix or
+/// the song's changed flag. trackNumber: 1..`TrackCount`.
 void DeleteTrack(std::int32_t trackNumber);
 
-/// Notes that a track has another tune.
+/// Records that a track has another tune.
 void MarkTuneChosen(std::int32_t trackNumber);
 
-/// Swaps the two pictures of every track without a chosen tune. Returns the tracks that look different now.
+/// Swaps the two pictures of every track without a chosen tune. Returns the tracks that changed.
 std::vector<std::int32_t> BlinkTunesNotFilled();
 
 } // namespace sprout

@@ -21,7 +21,7 @@ inline constexpr std::int32_t kCellCursorHeight = 32;
 
 enum class PointerImage { Default, ToolCursor, PlayTool };
 
-/// Place and colour of the cell cursor.
+/// Position and colour of the cell cursor.
 struct CellCursor {
     std::int32_t x = 0;
     std::int32_t y = 0;
@@ -33,14 +33,14 @@ struct CellCursor {
 struct TrackPointer {
     PointerImage image = PointerImage::Default;
     std::string_view hint;
-    std::string TrackMouPosLbl;           ///< the cell's number, or nothing
-    std::optional<CellCursor> cellCursor; ///< nothing: hidden
+    std::string TrackMouPosLbl;           ///< the cell's number, or empty
+    std::optional<CellCursor> cellCursor; ///< empty: hidden
 };
 
-/// Looks for a pointer that moved. dragTrack: track of the stroke that goes on, 0 for none.
+/// What to show after a pointer move. dragTrack: track of the current stroke, 0 for none.
 [[nodiscard]] TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::int32_t dragTrack);
 
-/// A cell for a screen reader: "Track 2, cell 14, painted". track: 0 for the time band.
+/// Describes a cell for screen readers: "Track 2, cell 14, painted". track: 0 for the time band.
 [[nodiscard]] std::string CellInWords(const SongState& song, std::int32_t track, std::int32_t cell);
 
 } // namespace sprout

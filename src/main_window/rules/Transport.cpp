@@ -49,7 +49,7 @@ bool IsPaintedFrom(const Track& track, std::int32_t songCells, std::int32_t cell
     return false;
 }
 
-/// A second behind what lasts `seconds`. A length that is no number counts as none.
+/// One second after something that lasts `seconds`. A length that is not a number counts as none.
 std::int32_t RepeatAfter(double seconds)
 {
     try {

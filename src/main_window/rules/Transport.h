@@ -15,32 +15,32 @@ struct TwoLines {
     friend bool operator==(const TwoLines&, const TwoLines&) = default;
 };
 
-/// What a command that plays finds out first.
+/// What a play command checks first.
 struct PlayCheck {
-    TwoLines message; ///< to be shown; none if its first line is empty
+    TwoLines message; ///< to show; none if its first line is empty
     bool goesOn = true;
 };
 
-/// Before the whole song is played: is there a tune or an audio, and is anything painted? Without a tune the command
-/// goes on behind its message.
+/// Before playing the whole song: is there a tune or an audio, and is anything painted? Without a tune the command
+/// continues after its message.
 [[nodiscard]] PlayCheck CheckSong(const SongState& song);
 
-/// The same before it is played from a cell. From five tracks on nothing is checked.
+/// The same before playing from a cell. With five tracks or more nothing is checked.
 [[nodiscard]] PlayCheck CheckSongFromCell(const SongState& song);
 
-/// Before a track is played alone: does a step of its tune sound, and is it painted?
+/// Before playing one track: does a step of its tune sound, and is the track painted?
 [[nodiscard]] PlayCheck CheckTrack(const Track& track, std::int32_t songCells);
 
-/// Before it is played from a cell: is it painted there or to the right of it?
+/// Before playing a track from a cell: is it painted there or to the right of it?
 [[nodiscard]] PlayCheck CheckTrackFromCell(const Track& track, std::int32_t songCells, std::int32_t cell);
 
-/// Milliseconds until a hovered tune sounds again: its cycle and a second. length: frames of the rendered cycle.
+/// Milliseconds until a hovered tune plays again: its cycle plus one second. length: frames of the rendered cycle.
 [[nodiscard]] std::int32_t TuneHoverInterval(std::int32_t length, std::int32_t stepCount, std::int32_t tempo);
 
 /// The same for a hovered audio.
 [[nodiscard]] std::int32_t AudioHoverInterval(const WaveData& audio);
 
-/// Milliseconds between two looks for a hover or a stroke.
+/// Milliseconds between two checks for a hover or a stroke.
 inline constexpr std::int32_t kHoverWaitInterval = 200;
 
 } // namespace sprout

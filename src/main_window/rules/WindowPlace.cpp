@@ -46,8 +46,8 @@ double Offset(double setting, double extent, double screen)
     return setting > screen ? screen * kShareOfScreen : setting;
 }
 
-/// An offset of which at least half of the extent can be seen; else one that shows all of it: the screen may be a
-/// smaller one than that of the last run.
+/// An offset that leaves at least half of the extent visible; else one that shows all of it. The screen may be smaller
+/// than in the last run.
 double InSight(double offset, double extent, double screen)
 {
     return screen - offset < extent / 2 ? screen - extent : offset;

@@ -7,10 +7,10 @@
 
 namespace sprout {
 
-/// Twips, the unit of the settings file, in a logical pixel.
+/// Twips, the unit of the settings file, per logical pixel.
 inline constexpr std::int32_t kTwipsOfAPixel = 15;
 
-/// Place of the main window, in logical pixels.
+/// Position and size of the main window, in logical pixels.
 struct WindowPlace {
     std::int32_t left = 0;
     std::int32_t top = 0;
@@ -19,16 +19,16 @@ struct WindowPlace {
     friend bool operator==(const WindowPlace&, const WindowPlace&) = default;
 };
 
-/// The place that the settings `Size` and `Position` give on a screen of these sizes in pixels. Each is a pair of
-/// twips; -1 is not set, a missing or damaged number is 0. A window that would lie off the screen by more than half its
-/// width or height is brought back whole.
+/// The window's position from the settings `Size` and `Position`, on a screen of this size in pixels. Each setting is a
+/// pair of twips; -1 means not set, a missing or damaged number counts as 0. A window that would be off the screen by
+/// more than half its width or height is moved back completely.
 [[nodiscard]] WindowPlace PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
                                             std::int32_t screenHeight);
 
-/// True when the setting `WindowState` asks for a maximised window.
+/// True if the setting `WindowState` asks for a maximised window.
 [[nodiscard]] bool IsMaximizedSetting(std::string_view windowState);
 
-/// A pair of pixels as the settings hold it: twips, joined by a comma.
+/// A pair of pixels in the format of the settings: twips, joined by a comma.
 [[nodiscard]] std::string PairOfTwips(std::int32_t firstPx, std::int32_t secondPx);
 
 } // namespace sprout

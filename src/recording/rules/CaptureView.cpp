@@ -13,7 +13,7 @@ constexpr double kSilentSeconds = 2;
 constexpr std::string_view kPausedMark = " [P]";
 constexpr std::string_view kSilentWords = " - I cannot hear you";
 
-/// A capture that is not running hears nobody, and nobody wonders.
+/// Silence is not reported while a capture is not running.
 bool IsSilent(const CaptureStatus& now)
 {
     return now.State != CaptureState::Stopped && now.SilentSeconds >= kSilentSeconds;
@@ -49,7 +49,7 @@ bool CaptureView::Update(const CaptureStatus& now, const CapturePeaks& peaks)
 {
     const bool isSilent = IsSilent(now);
     const bool isNewState = lastState != now.State;
-    // Silence is told too where no more pieces come.
+    // Silence is reported even if no more pieces come.
     if (!isNewState && lastPieces == now.Pieces && lastSilent == isSilent)
         return false;
     elapsed = static_cast<float>(static_cast<double>(kBlockSeconds) * static_cast<double>(now.Blocks));
@@ -72,7 +72,7 @@ void CaptureView::UpdateText(const CaptureStatus& now, bool isNewState)
     if (isNewState && now.State == CaptureState::Recording)
         stateText = "Now Recording";
     const bool hasRun = lastState == CaptureState::Recording || lastState == CaptureState::Paused;
-    // One that ended between its start and the first look at it has run as well.
+    // A capture that ended between its start and the first update has run as well.
     const bool endsNow = now.State == CaptureState::Stopped && (hasRun || now.End != CaptureEnd::None);
     if (endsNow && isKeeping) {
         stateText = "Recording Done";

@@ -10,7 +10,7 @@
 
 namespace sprout {
 
-/// Seconds of a block that a capture counts.
+/// Seconds in one counted block of a capture.
 inline constexpr float kBlockSeconds = 0.2F;
 
 /// Colours of a meter's bar, 0x00BBGGRR.
@@ -21,18 +21,18 @@ inline constexpr std::int32_t kIdleBarColour = 0xFF0000;
 struct MeterView {
     std::int32_t Peak = 0;    ///< 0 to 32767
     std::int32_t Loudest = 0; ///< of the last second
-    bool Overloaded = false;  ///< three samples in a row stood at full scale, until the capture ends
+    bool Overloaded = false;  ///< three samples in a row were at full scale; kept until the capture ends
     friend bool operator==(const MeterView&, const MeterView&) = default;
 };
 
-/// What the recording window shows of a capture, and what it remembers between two looks at it.
+/// What the recording window shows of a capture, and what it remembers between two updates.
 class CaptureView {
 public:
-    /// The keeping has begun. The status stays blank until the first frame is kept.
+    /// Recording has started. The status stays blank until the first frame is kept.
     void Start();
-    /// Takes what the capture tells now. False where nothing new has come, and so nothing is to be drawn.
+    /// Takes the current state of the capture. Returns false if nothing is new and nothing needs drawing.
     bool Update(const CaptureStatus& status, const CapturePeaks& peaks);
-    /// The keeping was ended by the user.
+    /// The user has stopped recording.
     void Stop();
 
     [[nodiscard]] const std::string& Duration() const { return duration; }
@@ -40,9 +40,9 @@ public:
     [[nodiscard]] std::int32_t BarColour() const { return barColour; }
     [[nodiscard]] const MeterView& Left() const { return left; }
     [[nodiscard]] const MeterView& Right() const { return right; }
-    /// Seconds that were recorded.
+    /// Seconds recorded so far.
     [[nodiscard]] float Elapsed() const { return elapsed; }
-    /// True from `Start` until the keeping ends, by the user or by itself.
+    /// True from `Start` until recording stops, by the user or by itself.
     [[nodiscard]] bool IsKeeping() const { return isKeeping; }
 
 private:
@@ -54,7 +54,7 @@ private:
     std::int64_t lastPieces = 0;
     bool lastSilent = false;
     std::string duration;
-    std::string stateText; ///< the status without what is added to it
+    std::string stateText; ///< the status without its additions
     std::string status;
     std::int32_t barColour = kIdleBarColour;
     MeterView left;

@@ -6,22 +6,22 @@
 
 namespace sprout {
 
-/// The greatest peak that a sample of `bits` can have.
+/// The highest peak that a sample of `bits` can have.
 [[nodiscard]] std::int32_t PeakMaximum(std::int32_t bits);
 
-/// A level meter of `height` rows, filled from its lower edge.
+/// A level meter of `height` rows, filled from the bottom.
 struct Meter {
     std::int32_t height = 0;      ///< pixels
     std::int32_t peakMaximum = 1; ///< above 0
 
-    /// The uppermost row of the bar, from 0; `height` where the bar is empty. A peak beyond the range is held to it.
+    /// The top row of the bar, from 0; `height` if the bar is empty. Peaks out of range are clamped.
     [[nodiscard]] std::int32_t BarTop(std::int32_t peak) const;
 };
 
 /// Remembers the loudest peak of the last second.
 class LoudestOfSecond {
 public:
-    /// Notes a peak after so many pieces of 20 ms, and returns the loudest of the last 50 of them.
+    /// Records a peak at `pieces` pieces of 20 ms, and returns the loudest of the last 50 pieces.
     std::int32_t Note(std::int64_t pieces, std::int32_t peak);
 
 private:
@@ -29,7 +29,7 @@ private:
         std::int64_t pieces = 0;
         std::int32_t peak = 0;
     };
-    std::deque<Noted> noted; ///< each louder than those behind it
+    std::deque<Noted> noted; ///< each louder than the ones behind it
 };
 
 /// Filled columns of a progress bar of `width`; all of them from `limitSeconds` on.

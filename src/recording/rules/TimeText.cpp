@@ -15,14 +15,14 @@ constexpr double kMinute = 60;
 constexpr double kHour = 3600;
 constexpr std::int32_t kHundred = 100;
 
-/// Two digits at least.
+/// At least two digits.
 std::string TwoDigits(std::int32_t number)
 {
     const std::string digits = std::to_string(number);
     return digits.size() < 2 ? "0" + digits : digits;
 }
 
-/// The whole number at or below a value. Throws `RunTimeError` for what is no 32-bit number.
+/// The whole number at or below a value. Throws `RunTimeError` if it is not a 32-bit number.
 std::int32_t Floor(double value)
 {
     return RoundHalfEven(std::floor(value));

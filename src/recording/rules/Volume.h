@@ -10,10 +10,10 @@
 
 namespace sprout {
 
-/// Percent of a recording volume of 0 to 65535, which is 100 %; what is beyond is held to 0 and 100.
+/// A recording volume of 0 to 65535 (100 %) as a percentage, clamped to 0 to 100.
 [[nodiscard]] std::int32_t VolumePercent(std::int32_t value);
 
-/// The volume that stands for a percentage.
+/// The volume for a percentage.
 [[nodiscard]] std::int32_t VolumeOfPercent(std::int32_t percent);
 
 /// A line of the list of sources.
@@ -25,14 +25,14 @@ struct SourceLine {
 
 /// What the list of sources shows.
 struct SourceLines {
-    std::vector<SourceLine> Lines; ///< none where the machine's sources cannot be told
-    std::int32_t Selected = -1;    ///< line that is selected; -1 where its source has no line
+    std::vector<SourceLine> Lines; ///< empty if the machine's sources are unknown
+    std::int32_t Selected = -1;    ///< the selected line; -1 if its source has no line
     std::int32_t SourceIndex = -1; ///< of the selected source in the machine's list
     std::int32_t Volume = 0;       ///< of the selected source
 };
 
-/// The sources that have a name, at most 50 and as many as have their whole names in 3200 bytes. No lines where there
-/// is no list, no selected source or no name.
+/// The sources that have a name: at most 50, and only as many as fit with whole names into 3200 bytes. No lines if
+/// there is no list, no selected source or no name.
 [[nodiscard]] SourceLines LinesOfSources(const std::optional<SoundSources>& sources);
 
 } // namespace sprout

@@ -12,8 +12,8 @@ namespace {
 constexpr float kLouder = 1.25F;
 constexpr float kSofter = 0.8F;
 
-/// Added to a float below 2^22, 1.5 x 2^23 rounds it to the nearest whole number, halves to the even one, and leaves
-/// that number in the low bits: one plain addition, which the compiler can do for several samples at once.
+/// Adding 1.5 x 2^23 to a float below 2^22 rounds it to the nearest whole number, halves to even, and leaves that
+/// number in the low bits: one plain addition, which the compiler can vectorise.
 constexpr float kRounder = 12582912.0F;
 
 struct SampleLimits {
@@ -49,7 +49,7 @@ void ChangeVolume(VolumeChange change, std::int32_t first, std::int32_t last, Wa
     const SampleLimits limits = wave.Bits == 8 ? SampleLimits{-128, 127} : SampleLimits{-32768, 32767};
     const auto begin = static_cast<std::size_t>(first);
     const auto count = static_cast<std::size_t>(last - first) + 1;
-    // Both channels first: where the memory for one is missing, no sample has changed.
+    // Get both channels first: if memory runs out for one, no sample has changed.
     const std::span<std::int16_t> left = wave.WavL.Change();
     const std::span<std::int16_t> right = wave.Channels == 2 ? wave.WavR.Change() : std::span<std::int16_t>();
     Scale(left.subspan(begin, count), factor, limits);

@@ -17,27 +17,27 @@ struct WavePoint {
     friend bool operator==(const WavePoint&, const WavePoint&) = default;
 };
 
-/// What shows the selection: a dashed line for a single sample, a box for more.
+/// How the selection is shown: a dashed line for a single sample, a box for more.
 enum class SelectionMark { None, Line, Box };
 
-/// All that a picture of a wave shows, in the order in which it is drawn, without a copy of the samples. Each point of
-/// a pass is joined with the one before by a line that has both its ends; the first point is a line of length 0.
+/// Everything that a picture of a wave shows, in drawing order, without a copy of the samples. Each point of a pass is
+/// joined to the one before by a line that includes both ends; the first point is a line of length 0.
 struct WaveDrawing {
     WavePicSize Size;
-    bool HasWave = false; ///< otherwise the picture is its background alone
+    bool HasWave = false; ///< otherwise the picture is only its background
     SelectionMark Mark = SelectionMark::None;
     double MarkLeft = 0;  ///< x of the line, or of the box's left edge
-    double MarkRight = 0; ///< x of the box's right edge, which belongs to it
+    double MarkRight = 0; ///< x of the box's right edge, inclusive
     double CentreY = 0;   ///< row of the centre line
     std::vector<WavePoint> Left;
     std::vector<WavePoint> Right; ///< drawn over the left pass; empty for one channel
 };
 
-/// Places the view for a picture and tells what the picture shows. One sample is looked at for each point.
+/// Places the view for a picture and returns what the picture shows. Reads one sample per point.
 [[nodiscard]] WaveDrawing DrawWaveform(const WaveData& wave, WavePicSize size, WaveView& view);
 
-/// The device pixel at a place in logical pixels: rounded to nearest, halves to the even number. ratio: device pixels a
-/// logical one.
+/// The device pixel for a position in logical pixels: rounded to nearest, halves to even. ratio: device pixels per
+/// logical pixel.
 [[nodiscard]] std::int32_t DevicePixel(double place, double ratio);
 
 } // namespace sprout

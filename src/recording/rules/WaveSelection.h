@@ -8,10 +8,10 @@
 
 namespace sprout {
 
-/// Whether there is a selection that can be edited: two samples at least, all of them in a wave of this length.
+/// Whether there is a selection that can be edited: at least two samples, all within a wave of this length.
 [[nodiscard]] bool SelectionIsValid(const WaveView& view, std::int32_t length);
 
-/// A selection as it is dragged: from the sample where the mouse went down, and where the band stands meanwhile.
+/// A drag in progress: where the mouse went down.
 struct WaveDrag {
     std::int32_t Anchor = 0; ///< pixel at which it began
 };
@@ -22,20 +22,20 @@ struct WaveBand {
     std::int32_t Width = 1;
 };
 
-// The mouse at `x` pixels, of a picture `width` wide. Close to an edge it counts as on the edge, so that the first and
-// the last sample are easy to catch.
+// The mouse at `x` pixels in a picture `width` wide. Close to an edge it counts as on the edge, which makes the first
+// and the last sample easy to catch.
 
-/// Mouse down: the one sample there is selected. Returns where the drag begins.
+/// Mouse down: selects the one sample there. Returns where the drag begins.
 WaveDrag PressWave(double x, std::int32_t width, std::int32_t length, WaveView& view);
 
-/// The band of a press, one pixel wide, and of a drag that has come to `x`.
+/// The band of a press, one pixel wide, and of a drag that has reached `x`.
 [[nodiscard]] WaveBand PressedBand(double x, std::int32_t width);
 [[nodiscard]] WaveBand DraggedBand(const WaveDrag& drag, double x, std::int32_t width);
 
-/// Mouse up: selects what lies between, to the left as to the right.
+/// Mouse up: selects what lies between, in either direction.
 void ReleaseWave(double x, std::int32_t width, std::int32_t length, WaveView& view);
 
-/// The place that keys move, and the other end of what they select. 0 as long as there is none.
+/// The position that keys move, and the other end of the key selection. 0 while there is none.
 struct WaveCursor {
     std::int32_t Place = 0;
     std::int32_t Other = 0;
@@ -44,16 +44,16 @@ struct WaveCursor {
 enum class WaveMove { Left, Right, FarLeft, FarRight, Home, End };
 enum class WaveKeep { Cursor, Selection };
 
-/// Moves the cursor by a pixel, by `kFarPixels`, or to an end of the wave, and brings it into view. keep: `Selection`
-/// selects from where the cursor stood.
+/// Moves the cursor by a pixel, by `kFarPixels`, or to an end of the wave, and scrolls it into view. keep: `Selection`
+/// selects from the cursor's old position.
 inline constexpr std::int32_t kFarPixels = 20;
 void MoveCursor(WaveMove move, WaveKeep keep, std::int32_t length, WaveCursor& cursor, WaveView& view);
 
 /// Selects the whole wave.
 void SelectWave(std::int32_t length, WaveCursor& cursor, WaveView& view);
 
-/// The selection in words, "1.2 to 3.4 seconds"; a single sample is "1.2 seconds", none "Nothing is selected". rate:
-/// frames a second.
+/// The selection in words, "1.2 to 3.4 seconds"; "1.2 seconds" for a single sample, "Nothing is selected" for none.
+/// rate: frames per second.
 [[nodiscard]] std::string SpokenSelection(const WaveView& view, std::int32_t rate);
 
 } // namespace sprout

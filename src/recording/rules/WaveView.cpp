@@ -16,7 +16,7 @@ constexpr double kUnitsOf16Bits = 65536;
 constexpr double kUnitsOf8Bits = 256;
 constexpr double kZoomFactor = 1.2;
 
-/// The rounded value, held to a range; `high` where that is below `low`.
+/// The rounded value, clamped to a range; `high` if it is below `low`.
 std::int32_t RoundedWithin(double value, std::int32_t low, std::int32_t high)
 {
     return RoundHalfEven(std::min(std::max(value, static_cast<double>(low)), static_cast<double>(high)));

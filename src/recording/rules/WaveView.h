@@ -13,26 +13,26 @@ struct WavePicSize {
     std::int32_t Height = 0;
 };
 
-/// What part of a wave is in view, and what of it is selected. Samples count from 1.
+/// Which part of a wave is in view, and which part is selected. Samples count from 1.
 struct WaveView {
     std::int32_t First = 1;          ///< first sample in view
     std::int32_t Span = 0;           ///< samples in view
     bool FitAll = false;             ///< the next drawing shows the whole wave
-    double XScale = 1.0;             ///< pixels a sample
-    double YScale = 0;               ///< pixels a sample unit
+    double XScale = 1.0;             ///< pixels per sample
+    double YScale = 0;               ///< pixels per sample unit
     double CentreY = 0;              ///< row of the zero line
     std::int32_t SelectionStart = 0; ///< first selected sample, 0 if none
     std::int32_t SelectionEnd = 0;   ///< last selected sample, 0 if none
 };
 
-/// Fits a view to a wave and a picture as each drawing begins: span, first sample, scales, and no selection beyond the
-/// wave. A wave of length 0 leaves the view as it is. size: a width below 2 counts as 2. Returns the last sample in
-/// view, 0 for a wave of length 0.
+/// Fits a view to a wave and a picture at the start of each drawing: span, first sample, scales, and no selection
+/// beyond the wave. A wave of length 0 leaves the view unchanged. size: a width below 2 counts as 2. Returns the last
+/// sample in view, 0 for a wave of length 0.
 ///
 /// A wave of fewer than 10 samples is drawn with a span of 10 the first time and with its own length from then on.
 std::int32_t PlaceWaveView(const WaveData& wave, WavePicSize size, WaveView& view);
 
-/// Samples from one drawn sample to the next, >= 1: those between them are not looked at.
+/// Samples from one drawn sample to the next, >= 1; those between are skipped.
 [[nodiscard]] std::int32_t WaveStep(const WaveView& view);
 
 /// Pixels from the left edge of the picture to a sample.
@@ -41,22 +41,22 @@ std::int32_t PlaceWaveView(const WaveData& wave, WavePicSize size, WaveView& vie
     return (static_cast<double>(sample) - view.First) * view.XScale;
 }
 
-/// The sample at `x` pixels, held to 1 to `length`; 0 where that is 0.
+/// The sample at `x` pixels, clamped to 1 to `length`; 0 if `length` is 0.
 [[nodiscard]] std::int32_t SampleOfPixel(const WaveView& view, double x, std::int32_t length);
 
 enum class WaveZoom { In = 0, Out = 1 };
 
-/// Shows a sixth less or a fifth more samples, never fewer than the picture has pixels. scroll: value of the scroll
-/// bar, 0 to 100. The view is placed at the next drawing.
+/// Shows a sixth fewer or a fifth more samples, but never fewer than the picture has pixels. scroll: value of the
+/// scroll bar, 0 to 100. The next drawing places the view.
 void ZoomWave(WaveZoom which, std::int32_t length, std::int32_t width, std::int32_t scroll, WaveView& view);
 
-/// Moves the view to the place that the scroll bar tells. scroll: 0 to 100.
+/// Moves the view to the scroll bar's position. scroll: 0 to 100.
 ///
-/// What 100 percent are is counted from the sample that is first in view now and not from the wave's beginning. That is
-/// wanted: moves of the bar, one after the other, walk on from where the view stands.
+/// The 100 percent are counted from the first sample in view, not from the start of the wave. This is intended:
+/// successive moves of the bar continue from the current view.
 void ScrollWave(std::int32_t length, std::int32_t scroll, WaveView& view);
 
-/// Left edge of the play marker for the sample that is heard, `kMarkerOutOfSight` where it is not in the picture.
+/// Left edge of the play marker for the current sample, `kMarkerOutOfSight` if it is not in the picture.
 inline constexpr std::int32_t kMarkerOutOfSight = -2;
 [[nodiscard]] std::int32_t PlayMarkerLeft(const WaveView& view, std::int32_t position, std::int32_t width);
 

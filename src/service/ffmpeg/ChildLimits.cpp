@@ -17,7 +17,7 @@ constexpr rlim_t kMoreMemory = rlim_t{64} << 20;
 constexpr rlim_t kProcessorSeconds = 15;
 constexpr rlim_t kStandardFiles = 3;
 
-/// Bytes of writable memory that the process has of its own, as RLIMIT_DATA counts them; 0 where they are not told.
+/// Bytes of private writable memory of the process, as counted by RLIMIT_DATA; 0 if unknown.
 rlim_t OwnMemory()
 {
     std::ifstream facts("/proc/self/status");

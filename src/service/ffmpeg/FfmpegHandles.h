@@ -7,11 +7,11 @@
 
 namespace sprout {
 
-/// Gives FFmpeg's objects back. The libraries must be there.
+/// Frees FFmpeg's objects. The libraries must be loaded.
 struct FfmpegFree {
     void operator()(AVIOContext* io) const
     {
-        Ffmpeg().Freep(&io->buffer); // which FFmpeg may have made anew
+        Ffmpeg().Freep(&io->buffer); // which FFmpeg may have reallocated
         Ffmpeg().IoContextFree(&io);
     }
     void operator()(AVFormatContext* format) const { Ffmpeg().FormatFreeContext(format); }
@@ -27,7 +27,7 @@ using ReadCall = int (*)(void* self, std::uint8_t* bytes, int count);
 using WriteCall = int (*)(void* self, std::uint8_t* bytes, int count);
 using SeekCall = std::int64_t (*)(void* self, std::int64_t offset, int whence);
 
-/// A stream of bytes on calls of our own, which get `self`; null where memory is short. write: null for one to read.
+/// A byte stream on our own callbacks, which get `self`; null if memory runs out. write: null for a stream to read.
 [[nodiscard]] inline FfmpegOwned<AVIOContext> MakeFfmpegIo(void* self, ReadCall read, WriteCall write, SeekCall seek)
 {
     constexpr int bufferBytes = 32768;

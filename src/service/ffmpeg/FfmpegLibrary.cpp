@@ -9,7 +9,7 @@ namespace sprout {
 
 namespace {
 
-/// A library of the release that the headers belong to: another one has other records.
+/// A library of the release that the headers belong to: others have different structures.
 class Library {
 public:
     Library(const char* name, int version)

@@ -16,8 +16,8 @@ extern "C" {
 
 namespace sprout {
 
-/// FFmpeg's calls for writing and reading sounds, by their own names without `av` and its kin. The libraries come with
-/// the first question to them and not with the program: they bring 130 more.
+/// FFmpeg's calls for writing and reading sounds, by their own names without `av` and similar prefixes. The libraries
+/// are loaded at first use, not at program start: they load 130 more.
 struct FfmpegLibrary {
     // libavutil
     decltype(&av_log_set_level) LogSetLevel = nullptr;
@@ -80,12 +80,11 @@ struct FfmpegLibrary {
     decltype(&swr_get_out_samples) ResampleGetOutSamples = nullptr;
     decltype(&swr_free) ResampleFree = nullptr;
 
-    /// Without the libraries no other call may be made.
+    /// If the libraries are missing, no other call may be made.
     [[nodiscard]] bool IsThere() const { return LogSetLevel != nullptr; }
 };
 
-/// The libraries, which are loaded once and stay; they say nothing on the standard error. May be called from any
-/// thread.
+/// The libraries. They are loaded once, stay loaded and print nothing on standard error. May be called from any thread.
 [[nodiscard]] const FfmpegLibrary& Ffmpeg();
 
 } // namespace sprout

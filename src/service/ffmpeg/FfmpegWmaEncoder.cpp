@@ -23,14 +23,14 @@ constexpr std::int32_t kWmaBits = 16;
 constexpr std::size_t kSampleFrameBytes = 4; // of both channels
 constexpr std::size_t kMostTagCharacters = 4096;
 
-/// The end of FFmpeg's output. A failure of the file stays: whatever comes behind it fails too.
+/// Where FFmpeg's output goes. A failure of the file is final: all later calls fail too.
 class WmaTarget {
 public:
     explicit WmaTarget(Replacement& replacement) : file(replacement) {}
 
     [[nodiscard]] bool Failed() const { return failed; }
 
-    // What FFmpeg calls; no exception may pass its frames.
+    // FFmpeg's callbacks; no exception may pass through FFmpeg.
     static int Write(void* self, std::uint8_t* bytes, int count) noexcept
     {
         WmaTarget& target = *static_cast<WmaTarget*>(self);
@@ -50,7 +50,7 @@ private:
         try {
             work();
         } catch (const std::exception&) {
-            failed = true; // the caller is told by what it called
+            failed = true; // the caller learns of it from FFmpeg's result
         }
         return !failed;
     }
@@ -68,7 +68,7 @@ private:
     {
         if (whence == AVSEEK_SIZE)
             return size;
-        if (whence != SEEK_SET || offset < 0) // FFmpeg counts from the begin
+        if (whence != SEEK_SET || offset < 0) // FFmpeg counts from the start
             return AVERROR(EINVAL);
         if (!Try([&] { file.MoveTo(static_cast<std::uint64_t>(offset)); }))
             return AVERROR(EIO);
@@ -83,8 +83,8 @@ private:
 
 /// The encoder and the file around its packets.
 ///
-/// A decoder gives nothing of the first frame and leaves out the second; of the last one it keeps the half that the
-/// next would complete. So a frame of silence stands in front of the sound and one behind it.
+/// A decoder outputs nothing for the first frame and drops the second; of the last one it keeps the half that the next
+/// would complete. So one frame of silence goes before the sound and one after it.
 class FfmpegWmaFile : public WmaFile {
 public:
     FfmpegWmaFile(Replacement& replacement, std::int32_t bitRate)
@@ -110,7 +110,7 @@ private:
     void EncodeWaiting();
     void Encode(const AVFrame* sound);
     void WritePacket();
-    /// Notes a failure of FFmpeg's or of the file's; true where there is none.
+    /// Notes a failure of FFmpeg or of the file; returns true if there is none.
     bool Check(int result) { return goesWell = goesWell && result >= 0 && !target.Failed(); }
 
     WmaTarget target;
@@ -119,11 +119,11 @@ private:
     FfmpegOwned<AVCodecContext> encoder;
     FfmpegOwned<AVFrame> frame;
     FfmpegOwned<AVPacket> packet;
-    AVStream* stream = nullptr;     // of the container
+    AVStream* stream = nullptr;     // the container's
     std::vector<std::byte> waiting; // for the rest of their frame
     std::size_t frameBytes = 0;
     bool begun = false;
-    bool goesWell = false; // until the first failure and until the end
+    bool goesWell = false; // until the first failure or the end
 };
 
 bool FfmpegWmaFile::OpenEncoder(std::int32_t bitRate)
@@ -151,7 +151,7 @@ bool FfmpegWmaFile::MakeContainer()
         return false;
     container.reset(made);
     container->pb = io.get();
-    container->flags |= AVFMT_FLAG_CUSTOM_IO | AVFMT_FLAG_BITEXACT; // no name of a release, no moment of the making
+    container->flags |= AVFMT_FLAG_CUSTOM_IO | AVFMT_FLAG_BITEXACT; // no release name, no creation time
     stream = Ffmpeg().FormatNewStream(container.get(), nullptr);
     if (!stream)
         return false;
@@ -177,7 +177,7 @@ void FfmpegWmaFile::SetTag(const char* key, const std::string& text)
 {
     if (text.empty())
         return;
-    // A text that is not UTF-8 would end at its first wrong byte, and the container has 16 bits for a text's length.
+    // A text that is not UTF-8 would end at its first bad byte, and the container stores a text's length in 16 bits.
     const std::string utf8 = TextFromStored(text);
     const std::string kept(FirstCharacters(utf8, kMostTagCharacters));
     Check(Ffmpeg().DictSet(&container->metadata, key, kept.c_str(), 0));
@@ -190,10 +190,10 @@ void FfmpegWmaFile::SetTags(const WmaTags& tags)
     SetTag("copyright", tags.Copyright);
     SetTag("rating", tags.Rating);
     SetTag("comment", tags.Description);
-    SetTag("WM/Year", tags.Year); // "date" would not be found by players
+    SetTag("WM/Year", tags.Year); // players would not find "date"
 }
 
-/// The head, and the frame of silence that players leave out.
+/// Writes the header and the frame of silence that players leave out.
 void FfmpegWmaFile::Begin()
 {
     begun = true;
@@ -201,7 +201,7 @@ void FfmpegWmaFile::Begin()
         EncodeWaiting();
 }
 
-/// Encodes a frame of what waits, filled up with silence.
+/// Encodes a frame of the waiting samples, padded with silence.
 void FfmpegWmaFile::EncodeWaiting()
 {
     if (!Check(Ffmpeg().FrameMakeWritable(frame.get())))
@@ -224,7 +224,7 @@ void FfmpegWmaFile::EncodeWaiting()
     frame->pts += frame->nb_samples;
 }
 
-/// sound: null ends the encoder's work.
+/// sound: null flushes the encoder.
 void FfmpegWmaFile::Encode(const AVFrame* sound)
 {
     if (!Check(Ffmpeg().SendFrame(encoder.get(), sound)))

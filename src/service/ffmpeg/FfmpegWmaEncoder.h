@@ -5,14 +5,14 @@
 
 namespace sprout {
 
-/// `WmaEncoder` on FFmpeg, whose libraries come with `Load` and stay. A file is encoded within its calls, without
+/// `WmaEncoder` on FFmpeg, whose libraries are loaded by `Load` and stay loaded. Encodes within its calls, without
 /// threads.
 class FfmpegWmaEncoder : public WmaEncoder {
 public:
     [[nodiscard]] bool Load() override;
     [[nodiscard]] std::int32_t FormatListLength() override;
     [[nodiscard]] std::optional<std::string> FormatList() override;
-    /// Null also where the format is not in the list.
+    /// Also null if the format is not in the list.
     [[nodiscard]] std::unique_ptr<WmaFile> Open(Replacement& target, const WmaFormat& format) override;
 };
 

@@ -29,10 +29,10 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr mode_t kOwnerOnly = 0600;
-constexpr int kMostTries = 100; // other programs that make files of the same names at the same time
+constexpr int kMostTries = 100; // if other programs create files of the same names at the same time
 constexpr int kPollMs = 20;
 
-/// An open file descriptor, or none below 0.
+/// An open file descriptor, or none if below 0.
 class Descriptor {
 public:
     explicit Descriptor(int opened) : number(opened) {}
@@ -57,15 +57,14 @@ private:
     throw RunTimeError("The sound could not be converted: " + std::generic_category().message(error) + ".");
 }
 
-/// A pipe or a device would be waited for.
+/// Reading a pipe or a device could block.
 bool IsPlainFile(const Descriptor& file)
 {
     struct stat facts {};
     return file.Number() >= 0 && ::fstat(file.Number(), &facts) == 0 && S_ISREG(facts.st_mode);
 }
 
-/// A new temporary file. It is locked as long as it is there, so that no other running program takes it for a stale
-/// one.
+/// A new temporary file. It stays locked while it exists, so no other running program takes it for a stale one.
 class TemporaryWave : public ConvertedWave {
 public:
     explicit TemporaryWave(const SoundChild::NewFile& newFile) : file(Create(newFile)) {}
@@ -96,12 +95,12 @@ int TemporaryWave::Create(const SoundChild::NewFile& newFile)
         const bool isHeld = ::flock(opened, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
         if (!isHeld && ::fstat(opened, &facts) == 0 && facts.st_nlink > 0)
             return opened;
-        ::close(opened); // another program took it for a stale one in the moment before the lock
+        ::close(opened); // just before the lock another program took it for a stale one
     }
     FailToWrite(EEXIST);
 }
 
-/// What the child gets: both files, none of the program's own, and every signal as it comes.
+/// What the child gets: both files, none of the program's others, and default signal handling.
 class SpawnOrders {
 public:
     SpawnOrders(int from, int to)
@@ -142,7 +141,7 @@ pid_t Spawn(const fs::path& program, int from, int to, std::int64_t mostFrames, 
     return error == 0 ? child : -1;
 }
 
-/// A running child, which ends with the object at the latest.
+/// A running child, which ends with this object at the latest.
 class Child {
 public:
     explicit Child(pid_t spawned) : pid(spawned), end(static_cast<int>(::syscall(SYS_pidfd_open, spawned, 0))) {}
@@ -156,10 +155,10 @@ public:
         }
     }
 
-    /// Waits a moment for the end. What the child ended with: nothing while it runs, below 0 if it was ended.
+    /// Waits a moment for the end. Returns the child's exit status; nothing while it runs, below 0 if it was killed.
     std::optional<int> WaitAMoment()
     {
-        pollfd watched = {end.Number(), POLLIN, 0}; // without a descriptor it is a pause
+        pollfd watched = {end.Number(), POLLIN, 0}; // without a descriptor this just pauses
         ::poll(&watched, 1, kPollMs);
         return Reap(WNOHANG);
     }

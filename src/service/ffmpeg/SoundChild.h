@@ -9,14 +9,14 @@
 
 namespace sprout {
 
-/// Reads sounds in a child process with limits of its own, which runs `sprout-read-sound`: whatever a damaged file does
-/// there, the program goes on.
+/// Reads sounds in a child process with its own limits, which runs `sprout-read-sound`: whatever a damaged file does
+/// there, the program continues.
 class SoundChild : public SoundReader {
 public:
-    /// Gives a path for a temporary WAV file at which nothing lies.
+    /// Returns a path for a temporary WAV file at which nothing exists.
     using NewFile = std::function<std::filesystem::path()>;
 
-    /// program: the path of `sprout-read-sound`. longest: after so long the child is ended.
+    /// program: the path of `sprout-read-sound`. longest: the child is ended after this time.
     SoundChild(std::filesystem::path program, NewFile newFile,
                std::chrono::milliseconds longest = std::chrono::seconds(20));
 

@@ -14,11 +14,11 @@ namespace sprout {
 
 namespace {
 
-constexpr std::int64_t kFilterFrames = 16384; // more than waits in the filters
-constexpr int kLowestRate = 1000;             // what a sound needs; a rate of 1 would make hours of a block
+constexpr std::int64_t kFilterFrames = 16384; // more than the filters hold back
+constexpr int kLowestRate = 1000;             // no real sound is below it; a rate of 1 would turn a block into hours
 constexpr int kHighestRate = 768000;
 
-/// `frames` of one rate as frames of the decoded one, to the nearest.
+/// `frames` of another rate as frames of the decoded rate, rounded to nearest.
 std::int64_t DecodedFrames(std::int64_t frames, int rate)
 {
     return (frames * kDecodedRate * 2 + rate) / (std::int64_t{2} * rate);
@@ -33,7 +33,7 @@ SoundConverter::Format SoundConverter::FormatOf(const AVFrame& frame)
             layout.order == AV_CHANNEL_ORDER_NATIVE ? layout.u.mask : 0};
 }
 
-/// best: by soxr, which not every build of the libraries has. Null where it cannot be made.
+/// best: with soxr, which not every build of the libraries has. Null if it cannot be created.
 SoundConverter::Resampler SoundConverter::MakeResampler(bool best) const
 {
     AVChannelLayout from{};
@@ -48,7 +48,7 @@ SoundConverter::Resampler SoundConverter::MakeResampler(bool best) const
     Ffmpeg().ResampleAllocSetOpts(&context, &to, AV_SAMPLE_FMT_S16, kDecodedRate, &from,
                                   static_cast<AVSampleFormat>(format.Samples), format.Rate, 0, nullptr);
     Resampler made(context);
-    // Left to itself it filters samples of 16 bits in 16 bits, which costs 9 dB.
+    // By default it filters 16-bit samples in 16 bits, which costs 9 dB.
     if (!made || Ffmpeg().OptSet(made.get(), "internal_sample_fmt", "fltp", 0) < 0 ||
         (best && Ffmpeg().OptSet(made.get(), "resampler", "soxr", 0) < 0) || Ffmpeg().ResampleInit(made.get()) < 0)
         return nullptr;
@@ -71,10 +71,10 @@ void SoundConverter::TakeFormat(const Format& wanted)
     framesOut = 0;
 }
 
-/// Puts `count` frames in, none to empty the filters, and hands on what comes out.
+/// Puts `count` frames in, none to flush the filters, and passes on what comes out.
 void SoundConverter::Convert(const std::uint8_t** samples, int count, std::int64_t mostFrames)
 {
-    // What found no room would wait inside, and soxr cannot be emptied while it does.
+    // Output that did not fit would stay inside, and soxr cannot be flushed then.
     const std::int64_t room = DecodedFrames(count, format.Rate) + kFilterFrames;
     block.resize(std::max(block.size(), static_cast<std::size_t>(room * sink.Channels())));
     auto* out = reinterpret_cast<std::uint8_t*>(block.data());
@@ -108,7 +108,7 @@ void SoundConverter::Finish()
     const std::int64_t wanted = DecodedFrames(framesIn, format.Rate);
     Convert(nullptr, 0, std::max(wanted, framesOut));
     const std::int64_t lacking = std::min(wanted - framesOut, kFilterFrames);
-    if (lacking > 0) { // a filter may keep its last frame
+    if (lacking > 0) { // a filter may hold back its last frame
         std::fill(block.begin(), block.end(), std::int16_t{0});
         sink.Put(std::span(block).first(static_cast<std::size_t>(lacking * sink.Channels())));
     }

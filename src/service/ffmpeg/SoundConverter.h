@@ -10,17 +10,17 @@
 
 namespace sprout {
 
-/// Brings decoded frames to 44,100 Hz, 16 bits and one or two channels. FFmpeg's libraries are there.
+/// Converts decoded frames to 44,100 Hz, 16 bits and one or two channels. FFmpeg's libraries must be loaded.
 ///
-/// The first frame comes out as the first, and as many frames as went in times the ratio of the rates, rounded to the
-/// nearest. A sound may change its format on the way; its first frame tells whether mono comes out.
+/// The first frame in is the first frame out. The number of frames out is the number in times the ratio of the rates,
+/// rounded to nearest. A sound may change its format midway; its first frame decides whether the output is mono.
 class SoundConverter {
 public:
     explicit SoundConverter(WaveSink& wave) : sink(wave) {}
 
-    /// Throws `RunTimeError` for a format that cannot be converted. Once the sink is overfull, nothing more is done.
+    /// Throws `RunTimeError` if a format cannot be converted. Does nothing once the sink is overfull.
     void Put(const AVFrame& frame);
-    /// What still waits in the filters.
+    /// Writes what is still in the filters.
     void Finish();
 
 private:
@@ -29,12 +29,12 @@ private:
     };
     using Resampler = std::unique_ptr<SwrContext, Freed>;
 
-    /// What a resampler is made for.
+    /// The input format of a resampler.
     struct Format {
         int Samples = AV_SAMPLE_FMT_NONE;
         int Rate = 0;
         int Channels = 0;
-        std::uint64_t Speakers = 0; ///< one bit each; 0: the usual ones for so many channels
+        std::uint64_t Speakers = 0; ///< one bit each; 0: the default ones for this many channels
         friend bool operator==(const Format&, const Format&) = default;
     };
 
@@ -46,7 +46,7 @@ private:
     WaveSink& sink;
     Resampler resampler;
     Format format;
-    std::int64_t framesIn = 0; // in the present format
+    std::int64_t framesIn = 0; // in the current format
     std::int64_t framesOut = 0;
     std::vector<std::int16_t> block;
 };

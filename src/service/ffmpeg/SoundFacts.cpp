@@ -15,19 +15,19 @@ namespace sprout {
 
 namespace {
 
-/// The file as FFmpeg sees it: behind the bytes that a head may have, all reads end.
+/// The file as FFmpeg sees it: reads end after the bytes that a header may have.
 class HeadSource {
 public:
     explicit HeadSource(const std::filesystem::path& path) : file(path) {}
 
-    // What FFmpeg calls; no exception may pass its frames.
+    // FFmpeg's callbacks; no exception may pass through FFmpeg.
     static int Read(void* self, std::uint8_t* bytes, int count) noexcept
     {
         HeadSource& head = *static_cast<HeadSource*>(self);
         try {
             return head.ReadNext(std::as_writable_bytes(std::span(bytes, static_cast<std::size_t>(count))));
         } catch (const std::exception&) {
-            return AVERROR(EIO); // FFmpeg's call fails then, and that is told
+            return AVERROR(EIO); // FFmpeg's call then fails, and that is reported
         }
     }
     static std::int64_t Seek(void* self, std::int64_t offset, int whence) noexcept
@@ -53,7 +53,7 @@ private:
     {
         if (whence == AVSEEK_SIZE)
             return static_cast<std::int64_t>(file.Size());
-        if (whence != SEEK_SET || offset < 0) // FFmpeg counts from the begin
+        if (whence != SEEK_SET || offset < 0) // FFmpeg counts from the start
             return AVERROR(EINVAL);
         place = static_cast<std::uint64_t>(offset);
         return offset;
@@ -63,20 +63,20 @@ private:
     std::uint64_t place = 0;
 };
 
-/// An open container, which is closed and not only freed.
+/// Closes an open container instead of only freeing it.
 struct CloseInput {
     void operator()(AVFormatContext* container) const { Ffmpeg().FormatCloseInput(&container); }
 };
 using Input = std::unique_ptr<AVFormatContext, CloseInput>;
 
-/// The container of the bytes behind `io`; null where it is no WMA file.
+/// The container of the bytes behind `io`; null if it is not a WMA file.
 Input OpenHead(AVIOContext& io)
 {
     AVFormatContext* container = Ffmpeg().FormatAllocContext();
     if (!container)
         return nullptr;
     container->pb = &io;
-    // No other kind of file is let in: some kinds lead to further files and to the network.
+    // No other kind of file is allowed: some kinds lead to further files and to the network.
     AVDictionary* options = nullptr;
     Ffmpeg().DictSet(&options, "format_whitelist", "asf", 0);
     const int result = Ffmpeg().FormatOpenInput(&container, "", nullptr, &options); // frees the container if it fails

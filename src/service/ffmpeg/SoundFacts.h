@@ -7,12 +7,12 @@
 
 namespace sprout {
 
-/// What a WMA file tells of itself. Texts are UTF-8, and blank where the file has none.
+/// The metadata of a WMA file. Texts are UTF-8, and blank if the file has none.
 struct SoundFacts {
-    std::string Container;     ///< FFmpeg's short name of the file's kind
-    std::string Codec;         ///< and of the sound's
-    std::int64_t BitRate = 0;  ///< bits a second of the sound
-    std::int32_t Rate = 0;     ///< frames a second
+    std::string Container;     ///< FFmpeg's short name of the file format
+    std::string Codec;         ///< and of the sound's codec
+    std::int64_t BitRate = 0;  ///< bits per second of the sound
+    std::int32_t Rate = 0;     ///< frames per second
     std::int32_t Channels = 0; ///< 1 or more
     double Seconds = 0;        ///< to the end of the last packet
 
@@ -23,8 +23,8 @@ struct SoundFacts {
     std::string Comment;
 };
 
-/// Reads the head of a WMA file, at most its first megabyte. Throws `RunTimeError` with a plain sentence for any other
-/// file, one that is damaged or cut short, and where FFmpeg's libraries are missing.
+/// Reads the header of a WMA file, at most its first megabyte. Throws `RunTimeError` with a plain sentence if the file
+/// is of another kind, damaged or cut short, or if FFmpeg's libraries are missing.
 [[nodiscard]] SoundFacts ReadSoundFacts(const std::filesystem::path& path);
 
 } // namespace sprout

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kIoBytes = 32768;
 
-/// Files that children have: sounds, and videos for their sound. None of these kinds leads to other files.
+/// Files that children have: sounds, and videos for their sound. None of these formats refers to other files.
 constexpr const char* kFormats =
     "aac,ac3,aiff,amr,ape,asf,au,avi,caf,eac3,flac,flv,matroska,mov,mp3,mpeg,mpegts,ogg,tta,"
     "voc,w64,wav,wv";
@@ -54,7 +54,7 @@ int OpenNothing(AVFormatContext* /*format*/, AVIOContext** /*io*/, const char* /
     return AVERROR(EPERM);
 }
 
-/// A film's pictures would be decoded too, if only to learn their size.
+/// A film's pictures would otherwise be decoded too, just to learn their size.
 std::string AudioDecoders()
 {
     std::string names;
@@ -65,7 +65,7 @@ std::string AudioDecoders()
     return names;
 }
 
-/// Takes an answer of FFmpeg's: below 0 is a failure.
+/// Checks a result of FFmpeg: below 0 is a failure.
 void Check(int answer)
 {
     if (answer == AVERROR(ENOMEM))
@@ -95,7 +95,7 @@ AVIOContext* MakeIo(int& descriptor)
 
 void SoundInput::FreedIo::operator()(AVIOContext* context) const
 {
-    Ffmpeg().Freep(static_cast<void*>(&context->buffer)); // not always the one that it was made with
+    Ffmpeg().Freep(static_cast<void*>(&context->buffer)); // not always the one it was created with
     Ffmpeg().IoContextFree(&context);
 }
 
@@ -114,7 +114,7 @@ void SoundInput::OpenFormat()
     AVDictionary* options = nullptr;
     Ffmpeg().DictSet(&options, "format_whitelist", kFormats, 0);
     Ffmpeg().DictSet(&options, "codec_whitelist", AudioDecoders().c_str(), 0);
-    const int opened = Ffmpeg().FormatOpenInput(&context, "", nullptr, &options); // frees the context where it fails
+    const int opened = Ffmpeg().FormatOpenInput(&context, "", nullptr, &options); // frees the context if it fails
     Ffmpeg().DictFree(&options);
     Check(opened);
     format.reset(context);
@@ -143,7 +143,7 @@ void SoundInput::OpenCodec()
     Check(Ffmpeg().CodecOpen(codec.get(), decoder, nullptr));
 }
 
-/// Gives the decoder one packet more, or the word that there are none; false where it has had that.
+/// Sends the decoder the next packet, or the end-of-stream signal; returns false if that was already sent.
 bool SoundInput::SendPacket()
 {
     if (isDraining)
@@ -153,7 +153,7 @@ bool SoundInput::SendPacket()
         Ffmpeg().PacketUnref(packet.get());
         read = Ffmpeg().FormatReadFrame(format.get(), packet.get());
     }
-    isDraining = read < 0; // a file that breaks off ends there
+    isDraining = read < 0; // a truncated file ends there
     const int sent = Ffmpeg().SendPacket(codec.get(), isDraining ? nullptr : packet.get());
     Ffmpeg().PacketUnref(packet.get());
     if (sent == AVERROR(ENOMEM))

@@ -7,14 +7,14 @@
 
 namespace sprout {
 
-/// The first audio stream of a file, decoded frame by frame. FFmpeg's libraries are there.
+/// The first audio stream of a file, decoded frame by frame. FFmpeg's libraries must be loaded.
 class SoundInput {
 public:
     /// descriptor: a plain file, which outlives the input. No other file is opened, whatever this one asks for. Throws
-    /// `RunTimeError` where it holds no sound that can be decoded.
+    /// `RunTimeError` if it holds no sound that can be decoded.
     explicit SoundInput(int descriptor);
 
-    /// The next frame, until the following call; null at the end. What cannot be decoded is passed over.
+    /// The next frame, valid until the next call; null at the end. What cannot be decoded is skipped.
     [[nodiscard]] const AVFrame* Next();
 
 private:

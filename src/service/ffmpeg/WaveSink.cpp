@@ -17,7 +17,7 @@ namespace sprout {
 
 namespace {
 
-// Samples and head go to the file as they lie in memory.
+// Samples and header are written to the file as they are in memory.
 static_assert(std::endian::native == std::endian::little);
 
 constexpr std::size_t kBlockSamples = 32768;

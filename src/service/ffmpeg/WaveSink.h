@@ -9,30 +9,30 @@
 
 namespace sprout {
 
-/// Thrown where a decoded sound cannot be written.
+/// Thrown if a decoded sound cannot be written.
 class NotWritten : public RunTimeError {
 public:
     using RunTimeError::RunTimeError;
 };
 
-/// A WAV file of 44,100 Hz and 16 bits that is written from its begin to its end. Throws `NotWritten`.
+/// A WAV file of 44,100 Hz and 16 bits that is written from start to end. Throws `NotWritten`.
 class WaveSink {
 public:
-    /// descriptor: an empty file, open for writing, which outlives the sink. mostFrames: what comes behind is dropped.
+    /// descriptor: an empty file, open for writing, which outlives the sink. mostFrames: further frames are dropped.
     WaveSink(int descriptor, std::int64_t mostFrames) : file(descriptor), most(mostFrames) {}
 
-    /// Before the first frames. count: 1 or 2.
+    /// Call before the first frames. count: 1 or 2.
     void SetChannels(int count) { channels = count; }
     [[nodiscard]] int Channels() const { return channels; }
 
     /// Takes whole frames, interleaved.
     void Put(std::span<const std::int16_t> samples);
-    /// Frames that were taken.
+    /// Frames taken so far.
     [[nodiscard]] std::int64_t Frames() const { return frames; }
-    /// True when more frames came than it takes.
+    /// True if more frames came than it takes.
     [[nodiscard]] bool IsOverfull() const { return isOverfull; }
 
-    /// Writes what is left, and the head; the last call.
+    /// Writes what is left, and the header; the last call.
     void Finish();
 
 private:

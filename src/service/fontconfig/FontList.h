@@ -5,9 +5,9 @@
 
 namespace sprout {
 
-/// Reads the machine's fontconfig settings and its list of fonts in a thread of its own, where there is one to be had.
-/// Qt reads them with its first font and waits some ms for them; called before `QApplication` is made, this hides them
-/// behind its connection to the display. A machine without them is Qt's to deal with.
+/// Reads the machine's fontconfig settings and its list of fonts in a separate thread, if one can be started. Qt reads
+/// them with its first font, which takes some ms; if this is called before `QApplication` is created, that time is
+/// hidden behind Qt's connection to the display. If they are missing, Qt deals with it.
 [[nodiscard]] std::future<void> ReadFontListAhead();
 
 } // namespace sprout

@@ -20,9 +20,9 @@ namespace {
 
 constexpr mode_t kCaptureFileMode = 0600;
 constexpr int kTries = 3;
-constexpr std::int64_t kFramesBetweenLooks = 8820; // at the disk
+constexpr std::int64_t kFramesBetweenLooks = 8820; // at the free disk space
 
-/// "TqkTmp12.WavL" and its kin.
+/// "TqkTmp12.WavL" and the like.
 bool IsCaptureFile(std::string_view name)
 {
     constexpr std::string_view front = "TqkTmp";
@@ -59,7 +59,7 @@ CaptureFiles::OneFile CaptureFiles::MakeFile(const fs::path& path)
             break;
         if (TakeLock(file.Number()) != Lock::Held && Names(path, file.Number()))
             return {path, std::move(file), {}};
-        // Another program that starts took it for a left one in the moment before the lock.
+        // Another program that is starting took it for a leftover just before the lock.
     }
     return {path, Descriptor(-1), {}};
 }
@@ -130,13 +130,13 @@ bool CaptureFiles::DiskIsFull() const
 {
     struct statvfs disk {};
     if (::fstatvfs(left.file.Number(), &disk) != 0)
-        return false; // the next write tells
+        return false; // the next write will tell
     return static_cast<std::uint64_t>(disk.f_bavail) * disk.f_frsize < limits.leastFreeBytes;
 }
 
 void CaptureFiles::CutToWholeFrames() const
 {
-    // A reader finds as many samples in one as in the other, if it cannot be cut too: it reads the shorter length.
+    // Even if cutting fails, a reader still finds equal channels: it reads the shorter length.
     const auto bytes = static_cast<off_t>(frames) * static_cast<off_t>(sizeof(std::int16_t));
     static_cast<void>(::ftruncate(left.file.Number(), bytes) + ::ftruncate(right.file.Number(), bytes));
 }

@@ -12,8 +12,8 @@ namespace {
 
 constexpr std::size_t kSamplesAtATime = 16384;
 
-/// The signal of a file that may not grow would end the program; so the write fails. All others go to the threads that
-/// wait for them.
+/// The signal for a file that may not grow would end the program; with it blocked the write just fails. The other
+/// signals go to the threads that wait for them.
 void BlockSignals()
 {
     sigset_t all;

@@ -34,9 +34,9 @@ public:
     }
 
     [[nodiscard]] int Number() const { return number; }
-    /// Closes now; 0 or the error. Either way the descriptor is gone.
+    /// Closes now; returns 0 or the error. Either way the descriptor is gone.
     int Close() { return ::close(std::exchange(number, -1)) == 0 ? 0 : errno; }
-    /// Leaves the closing to somebody else.
+    /// Leaves closing it to someone else.
     int Release() { return std::exchange(number, -1); }
 
 private:
@@ -65,7 +65,7 @@ inline Lock TakeLock(int descriptor)
 
 enum class Naming { This, Another, Unknown };
 
-/// Whether `path` names the open file. `Unknown`: the system does not tell.
+/// Whether `path` names the open file. `Unknown`: the system does not report it.
 inline Naming NamingOf(const std::filesystem::path& path, int descriptor)
 {
     struct stat open {};
@@ -77,8 +77,8 @@ inline Naming NamingOf(const std::filesystem::path& path, int descriptor)
     return open.st_dev == named.st_dev && open.st_ino == named.st_ino ? Naming::This : Naming::Another;
 }
 
-/// True while `path` is known to name the open file. Who holds the lock alone may delete or move it, so that under the
-/// lock the answer stays true.
+/// True while `path` is known to name the open file. Only the holder of the lock may delete or move it, so the answer
+/// stays true under the lock.
 inline bool Names(const std::filesystem::path& path, int descriptor)
 {
     return NamingOf(path, descriptor) == Naming::This;

@@ -22,7 +22,7 @@ extern "C" void TellEndSignal(int /*signal*/)
 {
     const int error = errno;
     const char byte = 0;
-    // A full pipe says already what one more byte would say.
+    // A full pipe already says what one more byte would say.
     static_cast<void>(::write(pipeOfSignals.load(), &byte, 1) == 1);
     errno = error;
 }

@@ -7,7 +7,7 @@ namespace sprout {
 
 namespace {
 
-constexpr int kMostTries = 100; // of a file that others delete each time
+constexpr int kMostTries = 100; // if others keep deleting the file
 
 } // namespace
 
@@ -20,7 +20,7 @@ FileLock::~FileLock()
 Lock FileLock::Try()
 {
     for (int i = 0; i < kMostTries; ++i) {
-        // Some file systems lock only what is open for writing.
+        // Some file systems lock only files that are open for writing.
         Descriptor opened(Uninterrupted(
             [&] { return ::open(path.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, kOwnerOnly); }));
         if (opened.Number() < 0)
@@ -34,7 +34,7 @@ Lock FileLock::Try()
             file = std::move(opened);
             return lock;
         }
-        // The holder before deleted the file in the moment ahead of the lock.
+        // The previous holder deleted the file just before the lock.
     }
     return Lock::Unknown;
 }

@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// A hidden file that running programs hold one after the other. Its holder deletes it at the end.
+/// A hidden file that running programs hold in turn. Its holder deletes it at the end.
 class FileLock {
 public:
     explicit FileLock(std::filesystem::path lockFile) : path(std::move(lockFile)) {}
@@ -15,8 +15,8 @@ public:
     FileLock& operator=(const FileLock&) = delete;
     ~FileLock();
 
-    /// Takes the lock, if no other program holds it, for as long as the object lives. `Unknown`: the file cannot be
-    /// made, or the file system has no locks.
+    /// Takes the lock for this object's lifetime if no other program holds it. `Unknown`: the file cannot be created,
+    /// or the file system has no locks.
     Lock Try();
 
 private:

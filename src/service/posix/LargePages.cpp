@@ -16,7 +16,7 @@ void LargePages::UseFromNowOn()
 void* LargePages::do_allocate(std::size_t bytes, std::size_t alignment)
 {
     void* const memory = ::operator new (bytes, std::align_val_t{alignment});
-    // A kernel without large pages refuses; the small ones do as well.
+    // A kernel without large pages refuses; small ones are fine too.
     if (bytes >= alignment)
         static_cast<void>(::madvise(memory, bytes / alignment * alignment, MADV_HUGEPAGE));
     return memory;

@@ -6,8 +6,8 @@
 
 namespace sprout {
 
-/// Memory that asks the kernel for large pages, as many as fit into a block that is aligned to their size, so that a
-/// long sound is soon there. Any thread.
+/// Memory that asks the kernel for large pages, as many as fit into a block aligned to their size; long sounds are then
+/// ready sooner. Any thread.
 class LargePages : public std::pmr::memory_resource {
 public:
     /// Makes it the default memory resource until the program ends.

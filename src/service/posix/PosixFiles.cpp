@@ -45,8 +45,8 @@ bool MayWrite(const fs::path& path)
     return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
 }
 
-/// A new hidden file beside a target. It is locked as long as it is written, so that no other running program takes it
-/// for a stale one, and it is deleted unless it was moved over the target.
+/// A new hidden file beside a target. It is locked while it is written, so no other running program takes it for a
+/// stale one, and it is deleted unless it was moved over the target.
 class FileBeside {
 public:
     explicit FileBeside(const fs::path& target) : wanted(target), file(Create()) {}
@@ -58,7 +58,7 @@ public:
             ::unlink(path.c_str());
     }
 
-    /// Throws `NotReplaced` where what stands at the target is not to be replaced.
+    /// Throws `NotReplaced` if the existing target must not be replaced.
     void RequireTarget() const;
     void Write(std::span<const std::span<const std::byte>> pieces);
     void MoveTo(std::uint64_t place);
@@ -75,7 +75,7 @@ private:
     fs::path wanted;
     fs::path path;
     Descriptor file;
-    Descriptor lock{-1}; // of the file while it is closed and moved
+    Descriptor lock{-1}; // of the file while it is being closed and moved
     bool moved = false;
 };
 
@@ -99,10 +99,10 @@ int FileBeside::Create()
             Fail(wanted, errno);
         if (opened < 0)
             continue;
-        // A system that does not tell the names of an open file has made it all the same.
+        // A system that does not report the names of open files has still created it.
         if (TakeLock(opened) != Lock::Held && NamingOf(path, opened) != Naming::Another)
             return opened;
-        ::close(opened); // another program took it for a stale one in the moment before the lock
+        ::close(opened); // just before the lock another program took it for a stale one
     }
     Fail(wanted, EEXIST);
 }
@@ -125,14 +125,14 @@ void FileBeside::Write(std::span<const std::span<const std::byte>> pieces)
 {
     std::vector<iovec> blocks;
     for (const std::span<const std::byte> piece : pieces)
-        if (!piece.empty()) // writev takes pointers to what it will not change
+        if (!piece.empty()) // writev takes pointers to non-const data, but does not change it
             blocks.push_back({const_cast<std::byte*>(piece.data()), piece.size()});
     constexpr std::size_t mostBlocks = 512;
     for (std::size_t first = 0; first < blocks.size();) {
         const auto count = static_cast<int>(std::min(blocks.size() - first, mostBlocks));
         const ssize_t written = ::writev(file.Number(), &blocks[first], count);
         if (written == 0)
-            Fail(wanted, EIO); // a disk that takes nothing and tells no reason would be asked for ever
+            Fail(wanted, EIO); // a disk that accepts nothing and gives no reason would cause an endless loop
         if (written < 0 && errno != EINTR)
             Fail(wanted, errno);
         if (written > 0)
@@ -157,8 +157,8 @@ void FileBeside::RequireTarget() const
         Fail<NotReplaced>(wanted, errno);
 }
 
-/// The mode of the file that is replaced, or what a new file gets. Where it cannot be set the file is good all the
-/// same, and its user's alone.
+/// Sets the mode of the replaced file, or the default mode of a new file. If that fails, the file is still good, but
+/// private to its user.
 void FileBeside::TakeMode()
 {
     struct stat facts {};
@@ -179,7 +179,7 @@ void FileBeside::FlushToDisk()
         Fail(wanted, errno);
 }
 
-/// The close tells what the writes could not; until the rename the lock stands on.
+/// Closing reports errors that the writes could not; the lock stays until the rename.
 void FileBeside::CloseUnderLock()
 {
     lock = Descriptor(::dup(file.Number()));
@@ -197,7 +197,7 @@ void FileBeside::MoveOver()
     moved = true;
 }
 
-/// False where something has the name.
+/// Returns false if the name is taken.
 bool FileBeside::MoveToFreeName()
 {
     CloseUnderLock();
@@ -206,7 +206,7 @@ bool FileBeside::MoveToFreeName()
         moved = true;
         return true;
     }
-    // Not every file system knows such a rename. A second name does the same; the first one goes with this object.
+    // Not every file system supports such a rename. A second name does the same; the first goes with this object.
     if (errno == EINVAL && Uninterrupted([&] { return ::link(path.c_str(), wanted.c_str()); }) == 0)
         return true;
     if (errno != EEXIST)
@@ -223,7 +223,7 @@ void FileBeside::FailToReplace() const
     Fail(wanted, error);
 }
 
-/// Lets the folder's entry reach the disk. Some file systems cannot; the rename itself has succeeded.
+/// Flushes the folder's entry to disk. Some file systems cannot; the rename itself has succeeded.
 void FlushFolder(const fs::path& target)
 {
     const Descriptor opened(::open(FolderOf(target).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -275,7 +275,7 @@ std::int64_t Nanoseconds(const timespec& time)
 
 void PosixFiles::ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush)
 {
-    std::error_code error; // where the folder cannot be made, the file cannot
+    std::error_code error; // if the folder cannot be created, nor can the file
     fs::create_directory(FolderOf(ThroughLinks(target)), error);
     PosixReplacement replacement(target);
     replacement.WriteAll(pieces);

@@ -31,7 +31,7 @@ constexpr std::chrono::milliseconds kBetweenTries(10);
     throw std::system_error(error, std::generic_category());
 }
 
-/// The names beside a target that its filling works under. What begins with a dot is no file of the user's.
+/// The names beside a target that are used while filling it. Names that begin with a dot are not the user's files.
 struct Places {
     explicit Places(const fs::path& wanted)
         : target(ThroughLinks(wanted.has_filename() ? wanted : wanted.parent_path())),
@@ -44,8 +44,8 @@ struct Places {
 
     fs::path target;
     fs::path parent;
-    fs::path copy;  ///< in the works; worth nothing when its program has ended
-    fs::path whole; ///< a whole copy, whose entries move to the target one by one
+    fs::path copy;  ///< in progress; worthless once its program has ended
+    fs::path whole; ///< a complete copy, whose entries move to the target one by one
     fs::path lock;
 };
 
@@ -55,14 +55,14 @@ bool Exists(const fs::path& path)
     return fs::exists(fs::symlink_status(path, error));
 }
 
-/// A folder's file, or a folder within it, by its path from there.
+/// A file or folder within a folder, by its path relative to that folder.
 struct TreeEntry {
     fs::path path;
     bool isFolder = false;
 };
 
 struct Tree {
-    std::vector<TreeEntry> entries; ///< each folder ahead of what it holds
+    std::vector<TreeEntry> entries; ///< each folder before its contents
     std::size_t files = 0;
     std::vector<LeftOutFile> leftOut;
 };
@@ -89,7 +89,7 @@ void ListTree(const fs::path& source, const fs::path& within, Tree& tree)
     tree.leftOut.push_back({source / within, error.message()});
 }
 
-/// A name that this disk cannot hold is that file's own trouble; any other failure meets the files behind it too.
+/// A name that this disk cannot hold affects only that file; any other failure would also hit the next files.
 bool IsOfTheName(int error)
 {
     return error == ENAMETOOLONG || error == EINVAL || error == EILSEQ;
@@ -105,7 +105,7 @@ void WriteAll(int file, std::span<const std::byte> bytes)
     while (!bytes.empty()) {
         const ssize_t written = ::write(file, bytes.data(), bytes.size());
         if (written == 0)
-            Fail(EIO); // a disk that takes nothing and tells no reason would be asked for ever
+            Fail(EIO); // a disk that accepts nothing and gives no reason would cause an endless loop
         if (written < 0 && errno != EINTR)
             Fail(errno);
         if (written > 0)
@@ -113,7 +113,7 @@ void WriteAll(int file, std::span<const std::byte> bytes)
     }
 }
 
-/// 0, or the error that the source tells. Throws what the copy tells.
+/// Returns 0, or the error of reading the source. Throws the errors of writing the copy.
 int CopyBytes(int source, int copy, std::span<std::byte> block)
 {
     for (;;) {
@@ -127,7 +127,7 @@ int CopyBytes(int source, int copy, std::span<std::byte> block)
     }
 }
 
-/// Copies one file, without a flush. 0, or the error for which it is left out.
+/// Copies one file, without a flush. Returns 0, or the error for which it is left out.
 int CopyFile(const fs::path& source, const fs::path& copy, std::span<std::byte> block)
 {
     const Descriptor from(Uninterrupted([&] { return ::open(source.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }));
@@ -145,7 +145,7 @@ int CopyFile(const fs::path& source, const fs::path& copy, std::span<std::byte> 
         ::unlink(copy.c_str());
         return error;
     }
-    // Tunes and songs know their beats by these times. A disk that cannot keep them holds beats all the same.
+    // Tunes and songs identify their beats by these times. If the disk cannot keep them, the beats are still usable.
     struct stat facts {};
     if (::fstat(from.Number(), &facts) == 0) {
         const std::array times = {facts.st_atim, facts.st_mtim};
@@ -163,7 +163,7 @@ void FlushPath(const fs::path& path)
         Fail(errno);
 }
 
-/// Lets the names in a folder reach the disk. Some file systems cannot.
+/// Flushes the names in a folder to disk. Some file systems cannot.
 void FlushNames(const fs::path& folder)
 {
     const Descriptor opened(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -183,8 +183,8 @@ void Rename(const fs::path& from, const fs::path& to)
         Fail(errno);
 }
 
-/// Moves what `from` holds to `to`, where nothing of that name stands, and deletes the rest with `from`. The last thing
-/// to go is `from` itself, so that one that was interrupted can be taken up.
+/// Moves the contents of `from` to `to`, unless the name already exists there, and deletes the rest with `from`. `from`
+/// itself goes last, so an interrupted move can be resumed.
 void MoveEntries(const fs::path& from, const fs::path& to)
 {
     for (const fs::directory_entry& entry : EntriesOfFolder(from)) {
@@ -197,7 +197,7 @@ void MoveEntries(const fs::path& from, const fs::path& to)
     fs::remove_all(from);
 }
 
-/// A copy in the works; taken away unless it was put in place.
+/// A copy in progress; deleted unless it was put in place.
 class FolderCopy {
 public:
     FolderCopy(const fs::path& from, const Places& ownPlaces, const FolderCopies::Progress& ownProgress)
@@ -226,7 +226,7 @@ public:
 
     void PutInPlace()
     {
-        // The rename takes the place of nothing and of an empty folder.
+        // The rename works if the target is missing or an empty folder.
         if (::rename(places.copy.c_str(), places.target.c_str()) != 0) {
             if (errno != ENOTEMPTY && errno != EEXIST)
                 Fail(errno);
@@ -258,7 +258,7 @@ private:
         }
     }
 
-    /// Behind all copies: the disk takes many files at once in a fraction of the time that one after the other needs.
+    /// After all copies: flushing many files together takes a fraction of the time of flushing each in turn.
     void FlushAll()
     {
         for (const TreeEntry& entry : tree.entries) {
@@ -274,7 +274,7 @@ private:
 
     void ShowOneMore()
     {
-        progress(shown++, 2 * tree.files); // each file is copied, and later flushed
+        progress(shown++, 2 * tree.files); // each file is copied, and flushed later
     }
 
     const fs::path& source;
@@ -283,11 +283,11 @@ private:
     Tree tree;
     std::size_t copied = 0;
     std::size_t shown = 0;
-    int lastError = EACCES; // of what was left out
+    int lastError = EACCES; // for what was left out
     bool placed = false;
 };
 
-/// Where the file system has no locks the filling goes on without.
+/// If the file system has no locks, filling continues without one.
 void WaitForOthers(FileLock& lock, const FolderCopies::Progress& progress)
 {
     while (lock.Try() == Lock::Held) {

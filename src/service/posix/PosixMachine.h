@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// What the lines of `/proc/meminfo` tell: `MemAvailable` is what programs can get, more than what lies free.
+/// Reads the lines of `/proc/meminfo`. `MemAvailable` is what programs can get, which is more than what is free.
 [[nodiscard]] MemoryStatus ReadMemoryStatus(std::istream& facts);
 
 /// `Machine` on Linux.

@@ -40,7 +40,7 @@ Descriptor OpenFolder(int parent, const char* name)
 std::vector<std::string> NamesIn(int folder, std::string_view prefix, const std::stop_token& stop)
 {
     std::vector<std::string> names;
-    Descriptor again = OpenFolder(folder, "."); // reading moves the place of the descriptor that is read
+    Descriptor again = OpenFolder(folder, "."); // reading moves the position of the descriptor
     const std::unique_ptr<DIR, CloseListing> listing(again.Number() < 0 ? nullptr : ::fdopendir(again.Number()));
     if (!listing)
         return names;
@@ -53,15 +53,16 @@ std::vector<std::string> NamesIn(int folder, std::string_view prefix, const std:
     return names;
 }
 
-/// Deletes a folder and all in it that is no folder. Where something stays, the folder stays.
+/// Deletes a folder and everything in it except folders. If something stays, the folder stays.
 void DeleteWithFiles(int parent, const char* name, int folder)
 {
     for (const std::string& file : NamesIn(folder, "", {}))
-        ::unlinkat(folder, file.c_str(), 0); // refuses folders, and takes a link for what it is
+        ::unlinkat(folder, file.c_str(), 0); // refuses folders, and deletes a link itself
     ::unlinkat(parent, name, AT_REMOVEDIR);
 }
 
-/// True where the user's own folder was last changed more than a day ago. A time to come tells of a clock that was set.
+/// True if it is the user's own folder and was last changed more than a day ago. A time in the future means that the
+/// clock was set.
 bool IsLeft(int folder)
 {
     struct stat facts {};
@@ -78,7 +79,7 @@ fs::path PosixPrivateFolders::MakeFolder(const fs::path& parent)
         throw RunTimeError("No folder could be made in " + parent.native() + ": " +
                            std::generic_category().message(errno) + ".");
     Descriptor lock = OpenFolder(AT_FDCWD, pattern.c_str());
-    // A file system without locks has no left folders deleted either.
+    // Without locks in the file system, leftover folders are not deleted either.
     static_cast<void>(TakeLock(lock.Number()));
     held.push_back({pattern, std::move(lock)});
     return pattern;
@@ -106,7 +107,7 @@ void PosixPrivateFolders::DeleteLeftFolders(const fs::path& parent)
 
 void DeleteLeftPrivateFolders(const fs::path& parent, const std::stop_token& stop)
 {
-    // The parent may be named by a link, as /tmp is on some machines.
+    // The parent may be a link, as /tmp is on some machines.
     const Descriptor folder(Uninterrupted([&] { return ::open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
     if (folder.Number() < 0)
         return;

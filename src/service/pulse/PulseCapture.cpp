@@ -11,7 +11,7 @@ namespace sprout {
 
 namespace {
 
-/// PipeWire begins some streams with silence or with a hole: 50 ms.
+/// PipeWire starts some streams with silence or with a hole: 50 ms.
 constexpr std::int64_t kUnsureFrames = 2205;
 
 } // namespace
@@ -31,7 +31,7 @@ ServerAnswer PulseCapture::Connect(Lock& lock, Time deadline)
 {
     if (connection.Stands())
         return ServerAnswer::Yes;
-    stream.reset(); // of the connection that is gone
+    stream.reset(); // of the lost connection
     const ServerAnswer answer = connection.Connect(lock, deadline);
     if (answer == ServerAnswer::Yes)
         FollowSources();
@@ -57,7 +57,7 @@ CaptureOpening PulseCapture::Open(CaptureSink& captureSink)
     Close();
     const Time deadline = ServerDeadline();
     const CaptureOpening opening = OpenOnce(captureSink, deadline);
-    // Of a server that was started anew only the first failure tells that the connection to the old one is gone.
+    // After a server restart, only the first failure reveals that the old connection is gone.
     return opening == CaptureOpening::Failed ? OpenOnce(captureSink, deadline) : opening;
 }
 

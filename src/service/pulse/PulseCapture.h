@@ -15,13 +15,13 @@ namespace sprout {
 
 /// Capture from the sound server that the environment names, PulseAudio or PipeWire.
 ///
-/// What an output plays is never recorded, though a server without a microphone calls it the default source.
+/// Never records what an output plays, even though a server without a microphone calls that the default source.
 class PulseCapture : public CaptureSource {
 public:
     PulseCapture() = default;
     ~PulseCapture() override;
 
-    /// Whether there is a server, to which it then is connected.
+    /// Whether there is a server; connects to it if so.
     [[nodiscard]] ServerAnswer AskServer();
 
     [[nodiscard]] CaptureOpening Open(CaptureSink& captureSink) override;
@@ -29,7 +29,7 @@ public:
     [[nodiscard]] SourceState State() override;
     [[nodiscard]] std::optional<SoundSources> ListSources() override;
     [[nodiscard]] std::uint64_t SourceChanges() override;
-    /// The stream so far goes on until the other one runs, and stays where the other one does not open.
+    /// The current stream continues until the other one runs, and stays if the other one does not open.
     void SelectSource(std::int32_t index) override;
     void SetVolume(std::int32_t index, std::int32_t volume) override;
 
@@ -46,7 +46,7 @@ private:
     PulseConnection connection;
     std::unique_ptr<PulseCaptureStream> stream;
     CaptureSink* sink = nullptr;
-    std::string chosen; // name of the source that the user chose; blank: none so far
+    std::string chosen; // name of the source that the user chose; blank: none yet
     std::vector<PulseSource> listed;
     bool isPipeWire = false;
     std::uint64_t changes = 0;

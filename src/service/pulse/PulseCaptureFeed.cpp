@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t kFrameBytes = 4;
 constexpr double kFramesASecond = 44100;
-constexpr std::int64_t kLongestGap = 22050; // what lasts longer was a pause
+constexpr std::int64_t kLongestGap = 22050; // anything longer was a pause
 
 } // namespace
 
@@ -41,7 +41,7 @@ void PulseCaptureFeed::Take(const void* data, std::size_t bytes, Clock::time_poi
     if (!sink || out == frames)
         return;
     if (!data) {
-        if (!hasGap) // the gap reaches to the next frame, and this hole lies in it
+        if (!hasGap) // the gap reaches to the next frame and includes this hole
             sink->TakeHole(frames - out);
         return;
     }

@@ -46,7 +46,7 @@ bool PulseCaptureStream::Open(const std::string& name, std::int64_t framesToSkip
     const auto isDecided = [this] { return Pulse().StreamGetState(stream) != PA_STREAM_CREATING; };
     if (!connection.WaitFor(lock, deadline, isDecided) || State() == SourceState::Gone)
         return false;
-    // A source that went at that moment would have left its stream to another one.
+    // If the source disappeared just then, its stream may have been moved to another one.
     const char* const opened = Pulse().StreamGetDeviceName(stream);
     return opened && name == opened;
 }

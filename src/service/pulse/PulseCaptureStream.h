@@ -12,10 +12,10 @@ struct pa_stream;
 
 namespace sprout {
 
-/// A stream from one source, which never moves to another by itself. It runs from the opening to the end: a stream that
-/// was held up may bring stale frames afterwards.
+/// A stream from one source, which never moves to another by itself. It runs from `Open` to the destructor: a stream
+/// that was held up may deliver stale frames afterwards.
 ///
-/// All calls, the making and the end too, are made with the connection's mutex locked.
+/// All calls, including constructor and destructor, are made with the connection's mutex locked.
 class PulseCaptureStream {
 public:
     explicit PulseCaptureStream(PulseConnection& server) : connection(server) {}
@@ -23,10 +23,10 @@ public:
     PulseCaptureStream& operator=(const PulseCaptureStream&) = delete;
     ~PulseCaptureStream();
 
-    /// Opens the source of that name. Waits until `deadline` at most. framesToSkip: are thrown away at the beginning.
+    /// Opens the source of that name. Waits until `deadline` at most. framesToSkip: are thrown away at the start.
     [[nodiscard]] bool Open(const std::string& name, std::int64_t framesToSkip, PulseConnection::Lock& lock,
                             PulseConnection::Time deadline);
-    /// From now on what comes goes to `captureSink`, see `PulseCaptureFeed`.
+    /// Sends what comes from now on to `captureSink`, see `PulseCaptureFeed`.
     void GiveTo(CaptureSink& captureSink, const PulseCaptureStream* follows)
     {
         feed.GiveTo(captureSink, follows ? &follows->feed : nullptr);

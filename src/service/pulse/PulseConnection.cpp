@@ -13,7 +13,7 @@ namespace sprout {
 
 namespace {
 
-/// Lets the other threads work while the loop waits.
+/// Lets other threads work while the loop waits.
 int PollUnlocked(pollfd* files, unsigned long count, int timeout, void* mutex)
 {
     static_cast<std::mutex*>(mutex)->unlock();
@@ -22,7 +22,7 @@ int PollUnlocked(pollfd* files, unsigned long count, int timeout, void* mutex)
     return ready;
 }
 
-/// A list of sinks that arrives.
+/// Counts an arriving list of sinks.
 struct SinkCount {
     PulseConnection& connection;
     std::int32_t count = 0;

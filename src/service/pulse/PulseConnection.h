@@ -14,27 +14,27 @@ struct pa_operation;
 
 namespace sprout {
 
-/// What a question to the sound server comes to.
+/// The outcome of a question to the sound server.
 enum class ServerAnswer {
     Yes,
-    No,      ///< there is no server, or no library to speak to it
-    Silence, ///< somebody is there and did not answer in time
+    No,      ///< there is no server, or no library to talk to it
+    Silence, ///< something is there but did not answer in time
 };
 
-/// No call waits longer for a server that does not answer: the window stands still meanwhile.
+/// No call waits longer for a server that does not answer: the window freezes meanwhile.
 inline constexpr std::chrono::milliseconds kServerPatience{800};
 
-/// Until when a call that begins now waits for the server.
+/// The deadline for a call to the server that begins now.
 [[nodiscard]] inline std::chrono::steady_clock::time_point ServerDeadline()
 {
     return std::chrono::steady_clock::now() + kServerPatience;
 }
 
-/// The connection to the sound server, PulseAudio or PipeWire, and the thread that reads what the server tells.
+/// The connection to the sound server, PulseAudio or PipeWire, and the thread that reads what the server sends.
 ///
-/// libpulse's own thread waits without a limit and locks what no tool sees; so this is libpulse's plain loop in a
-/// thread that waits with the mutex unlocked. All calls of libpulse are made with `Mutex()` locked, and what the loop
-/// calls is called with it locked. The thread sleeps while the server tells nothing.
+/// libpulse's own thread waits without a limit and uses locks that no tool sees, so this runs libpulse's plain loop in
+/// a thread that waits with the mutex unlocked. All calls of libpulse are made with `Mutex()` locked, and the loop's
+/// callbacks run with it locked. The thread sleeps while the server is silent.
 class PulseConnection {
 public:
     using Lock = std::unique_lock<std::mutex>;
@@ -47,24 +47,24 @@ public:
 
     [[nodiscard]] std::mutex& Mutex() { return mutex; }
 
-    /// Connects to the server that the environment names, unless that is done. Waits until `deadline` at most.
+    /// Connects to the server that the environment names, unless connected. Waits until `deadline` at most.
     [[nodiscard]] ServerAnswer Connect(Lock& lock, Time deadline);
-    /// Output devices of the server; 0 where it does not answer in time.
+    /// Output devices of the server; 0 if it does not answer in time.
     [[nodiscard]] std::int32_t CountSinks(Lock& lock, Time deadline);
-    /// Whether there is a connection, as far as it is known.
+    /// Whether there is a connection, as far as is known.
     [[nodiscard]] bool Stands() const;
-    /// Of a connection that stands.
+    /// Call only while the connection stands.
     [[nodiscard]] pa_context* Context() const { return context; }
     [[nodiscard]] pa_mainloop_api& Api() const;
 
-    /// Waits until `condition` holds, which is looked at after each `Notify`. False if it did not hold in time.
+    /// Waits until `condition` holds; it is checked after each `Notify`. Returns false if it did not hold in time.
     template <class Condition>
     [[nodiscard]] bool WaitFor(Lock& lock, Time deadline, Condition condition)
     {
         return changed.wait_until(lock, deadline, condition);
     }
-    /// Waits until the answer to `question`, which may be null, is whole, and lets it go: nothing of it comes later.
-    /// False if it did not come whole in time.
+    /// Waits until the answer to `question`, which may be null, is complete, then releases it: nothing of it comes
+    /// later. Returns false if it was not complete in time.
     [[nodiscard]] bool WaitForAnswer(Lock& lock, Time deadline, pa_operation* question, const bool& isWhole);
     void Notify() { changed.notify_all(); }
 

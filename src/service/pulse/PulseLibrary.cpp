@@ -9,7 +9,7 @@ namespace {
 
 constexpr const char* kLibraryFile = "libpulse.so.0";
 
-/// Finds calls one after the other, and remembers whether one was missing.
+/// Looks up calls one by one, and remembers whether any was missing.
 class Finder {
 public:
     explicit Finder(void* openLibrary) : library(openLibrary) {}

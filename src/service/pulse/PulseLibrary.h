@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// libpulse's calls for playing and recording. The library comes with the first question to it and not with the
-/// program: it brings twenty more, for which the first picture of the window need not wait.
+/// libpulse's calls for playing and recording. The library is loaded at first use, not at program start: it loads
+/// twenty more, which would delay the first picture of the window.
 struct PulseLibrary {
     decltype(&pa_rtclock_now) RtClockNow = nullptr;
 
@@ -60,14 +60,14 @@ struct PulseLibrary {
     decltype(&pa_stream_is_suspended) StreamIsSuspended = nullptr;
     decltype(&pa_stream_get_device_name) StreamGetDeviceName = nullptr;
 
-    /// Without the library no other call may be made.
+    /// If the library is missing, no other call may be made.
     [[nodiscard]] bool IsThere() const { return RtClockNow != nullptr; }
 };
 
-/// The library, which is loaded once and stays. May be called from any thread.
+/// The library, which is loaded once and stays loaded. May be called from any thread.
 [[nodiscard]] const PulseLibrary& Pulse();
 
-/// Lets a question go on for whose answer nobody waits. May be null.
+/// Lets a question continue although nobody waits for its answer. May be null.
 void Forget(pa_operation* question);
 
 } // namespace sprout

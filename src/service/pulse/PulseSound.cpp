@@ -16,14 +16,13 @@ using std::chrono::microseconds;
 using std::chrono::milliseconds;
 using std::chrono::nanoseconds;
 
-/// What the server holds: this program may be late by as much.
+/// What the server holds: this program may be late by that much.
 constexpr milliseconds kQueued{500};
-/// What the device is given at a time; a stop and the beginning of the next sound wait for it.
+/// What the device is given at a time; a stop and the start of the next sound wait for it.
 constexpr milliseconds kGivenAtATime{10};
-/// The way of a change to the server, beside what the device was given already.
+/// The time that a change takes to the server, besides what the device has already been given.
 constexpr milliseconds kWayOfAChange{10};
-/// For how long a sound is taken to go on as the server last told where its end is concerned: the device may have stood
-/// still since.
+/// For how long the server's last report is trusted to detect a sound's end: the device may have stalled since.
 constexpr milliseconds kTrustedAtEnd{50};
 constexpr int kRoundsBeforeRest = 3;
 
@@ -36,7 +35,7 @@ nanoseconds AgeOf(const timeval& time)
 {
     const auto since1970 = std::chrono::system_clock::now().time_since_epoch();
     const auto age = since1970 - std::chrono::seconds(time.tv_sec) - microseconds(time.tv_usec);
-    // The clock may have been set meanwhile.
+    // The clock may have been set in between.
     return std::clamp<nanoseconds>(age, nanoseconds(0), std::chrono::seconds(1));
 }
 
@@ -94,7 +93,7 @@ bool PulseSound::Open(Lock& lock, Time deadline)
         return false;
     ListenToStream();
     constexpr auto kServersChoice = static_cast<std::uint32_t>(-1);
-    // Without a pre-buffer the stream runs on through what comes too late, and so keeps time.
+    // Without a pre-buffer the stream continues despite late data, and so keeps time.
     const pa_buffer_attr queued{kServersChoice, static_cast<std::uint32_t>(Bytes(kQueued)), 0,
                                 static_cast<std::uint32_t>(Bytes(kGivenAtATime)), kServersChoice};
     const auto flags = static_cast<pa_stream_flags_t>(PA_STREAM_START_CORKED | PA_STREAM_EARLY_REQUESTS |
@@ -191,7 +190,7 @@ bool PulseSound::AskWhere(Answer answer)
         this);
     if (operation)
         questions.push_back({operation, answer});
-    else // too many wait at a server that stands still; the next play opens a new stream
+    else // too many wait at a server that hangs; the next play opens a new stream
         Close();
     return operation != nullptr;
 }
@@ -229,7 +228,7 @@ void PulseSound::OnBegun()
 
 void PulseSound::OnStopped()
 {
-    // What the device has taken is heard to its end, and what it gave back is heard when the sound goes on.
+    // What the device has taken is heard to its end; what it gave back is heard when the sound continues.
     if (takenAtPlace0)
         place = std::max<std::int64_t>(0, Pulse().StreamGetTimingInfo(stream)->read_index - *takenAtPlace0);
 }
@@ -380,7 +379,7 @@ void PulseSound::End()
 {
     playing = false;
     holdsQueue = false;
-    // Some servers are still giving the last frames to the device when they tell that these are heard.
+    // Some servers report the last frames as heard while they are still giving them to the device.
     tail = After<&PulseSound::OnTailHeard>(tailTime);
 }
 

@@ -19,32 +19,31 @@ struct pa_time_event;
 
 namespace sprout {
 
-/// A sound on a stream of its own at the server.
+/// A sound on its own stream at the server.
 ///
-/// The server holds half a second of it, so that this program may be late, and asks the device for 10 ms at a time. A
-/// stop takes the stream out of what the device is given next and leaves the queue where it is, so that the sound goes
-/// on without a lost or a repeated frame; a new beginning throws the queue away.
+/// The server holds half a second of it, so this program may be late, and asks the device for 10 ms at a time. Stopping
+/// takes the stream out of what the device is given next and keeps the queue, so the sound later continues without a
+/// lost or repeated frame; starting from the beginning discards the queue.
 ///
-/// The stream is closed when nothing was played for a while, and opened again by the next play: at rest nothing runs.
+/// The stream is closed when nothing was played for a while, and reopened by the next play: nothing runs at rest.
 class PulseSound : public SoundObject {
 public:
     using Time = PulseConnection::Time;
 
-    /// restRound: how often is looked whether the stream is still needed; after three looks in vain it is closed.
-    /// tail: for how long the stream runs on, silently, behind the end of a sound.
+    /// restRound: how often to check whether the stream is still needed; it is closed after three checks without use.
+    /// tail: how long the stream runs on, silently, after the end of a sound.
     PulseSound(PulseConnection& server, const SoundFormat& format, std::chrono::milliseconds restRound,
                std::chrono::milliseconds tail);
     ~PulseSound() override;
 
-    /// Connects and opens the stream, unless that is done. Waits until `deadline` at most. False where it is not to be
-    /// had.
+    /// Connects and opens the stream, if necessary. Waits until `deadline` at most. Returns false if this fails.
     [[nodiscard]] bool Wake(Time deadline);
-    /// It has this format, and its stream is there or rests.
+    /// It has this format, and its stream is alive or at rest.
     [[nodiscard]] bool IsAliveIn(const SoundFormat& wanted);
-    /// Length of the sound that is loaded next.
+    /// Length of the next sound to load.
     void SetSize(std::int32_t bufferBytes) { soundBytes = static_cast<std::size_t>(std::max(0, bufferBytes)); }
 
-    /// When the server told that the device takes frames, after the last start from the beginning.
+    /// When the server reported that the device takes frames, after the last start from the beginning.
     [[nodiscard]] std::optional<Time> FirstTaken();
 
     void Load(std::span<const std::byte> pcm) override;
@@ -61,7 +60,7 @@ private:
         Answer answer = nullptr; // null: nobody waits for it any more
     };
 
-    // What the server tells.
+    // What the server reports.
     void OnState();
     void OnStarted();
     void OnTimingInfo();
@@ -80,7 +79,7 @@ private:
     [[nodiscard]] pa_time_event* After(std::chrono::milliseconds time);
     void EndRounds();
     void EndTail();
-    /// False if the server has not answered for so long that the stream was closed.
+    /// Returns false if the server has been silent for so long that the stream was closed.
     [[nodiscard]] bool AskWhere(Answer answer);
     void ForgetQuestions();
     void CancelQuestions();
@@ -93,7 +92,7 @@ private:
     [[nodiscard]] std::int64_t FirstPlaceNotGiven() const;
     void StopStream();
     void End();
-    /// Brings the place up to now, and ends the sound once its end was heard.
+    /// Updates the place, and ends the sound once its end was heard.
     void Follow();
     [[nodiscard]] std::int64_t Bytes(std::chrono::nanoseconds time) const;
 
@@ -102,26 +101,26 @@ private:
     const std::chrono::milliseconds tailTime;
     std::size_t soundBytes = 0;
 
-    // The connection's mutex guards what follows. The queue's sound is changed without it, while nothing plays.
+    // The connection's mutex guards the following. The queue's sound is changed without it, while nothing plays.
     SoundQueue queue;
     pa_stream* stream = nullptr;     // none at rest
     pa_time_event* rounds = nullptr; // while there is a stream
-    pa_time_event* tail = nullptr;   // while the stream runs on behind an end
-    std::deque<Question> questions;  // on their way to the server, which answers in their order
+    pa_time_event* tail = nullptr;   // while the stream runs on after an end
+    std::deque<Question> questions;  // on their way to the server, which answers in order
     int silentRounds = 0;
     bool used = false; // since the last round
 
     bool playing = false;
-    bool holdsQueue = false; // the server's queue goes on at the place
+    bool holdsQueue = false; // the server's queue continues at the place
     std::int64_t place = 0;  // heard so far; it never goes back
-    // The server counts the bytes that the device took from the stream.
+    // The server counts the bytes that the device has taken from the stream.
     std::optional<std::int64_t> takenAtPlace0;
     std::optional<std::int64_t> takenAtStart;
     struct Heard {
         Time time;
         std::int64_t place = 0;
     };
-    std::optional<Heard> heard; // what the server last told
+    std::optional<Heard> heard; // what the server last reported
     std::optional<Time> firstTaken;
 };
 

@@ -30,7 +30,7 @@ SoundHandle PulseSoundOutput::Open(SoundHandle old, std::int32_t, const SoundFor
     const auto deadline = ServerDeadline();
     std::unique_ptr<PulseSound> sound(static_cast<PulseSound*>(old.release()));
     bool isAwake = sound && sound->IsAliveIn(format) && sound->Wake(deadline);
-    // Twice: of a server that was started anew only the first failure tells that the connection to the old one is gone.
+    // Twice: after a server restart, only the first failure reveals that the old connection is gone.
     for (int tries = 0; tries < 2 && !isAwake; ++tries) {
         sound.reset();
         sound = std::make_unique<PulseSound>(connection, format, restRound, tail);

@@ -10,20 +10,20 @@ namespace sprout {
 
 /// Sound output through the sound server that the environment names, PulseAudio or PipeWire.
 ///
-/// It connects with the first question to it, and anew where the connection is gone, so that a server that came later
-/// is found. No call waits longer than `kServerPatience` for a server that does not answer.
+/// It connects at first use, and reconnects if the connection is gone, so a server that started later is found. No call
+/// waits longer than `kServerPatience` for a server that does not answer.
 class PulseSoundOutput : public SoundOutput {
 public:
-    /// restRound: a stream on which nothing was played for three to four of these is closed until the next play.
-    /// tail: for how long the stream runs on behind the end of a sound; less than what is queued, which is silence.
+    /// restRound: a stream unused for three to four of these is closed until the next play. tail: how long the stream
+    /// runs on after the end of a sound; less than what is queued, which is silence.
     explicit PulseSoundOutput(std::chrono::milliseconds restRound = std::chrono::seconds(1),
                               std::chrono::milliseconds tail = std::chrono::milliseconds(100));
 
-    /// Whether there is a server, to which it then is connected.
+    /// Whether there is a server; connects to it if so.
     [[nodiscard]] ServerAnswer AskServer();
 
     [[nodiscard]] std::int32_t SoundDeviceCount() override;
-    /// Keeps the stream of `old`, which must come from here, where it is alive and has the same format.
+    /// Keeps the stream of `old`, which must come from here, if it is alive and has the same format.
     [[nodiscard]] SoundHandle Open(SoundHandle old, std::int32_t windowHandle, const SoundFormat& format,
                                    std::int32_t bufferBytes) override;
 

@@ -18,7 +18,7 @@ constexpr std::size_t kMostListed = 50;
 constexpr std::size_t kListBytes = 3200;
 constexpr double kFullVolume = 65535;
 
-/// What arrives of an answer.
+/// What has arrived of an answer.
 struct Answer {
     PulseConnection& connection;
     PulseSources sources;
@@ -70,7 +70,7 @@ std::uint32_t Loudest(const PulseSource& source)
     return source.Volumes.empty() ? 0 : *std::max_element(source.Volumes.begin(), source.Volumes.end());
 }
 
-/// The source of that name that is no monitor; null where there is none.
+/// The source of that name that is not a monitor; null if there is none.
 const PulseSource* Find(const PulseSources& sources, std::string_view name)
 {
     const auto found = std::find_if(sources.Sources.begin(), sources.Sources.end(), [&](const PulseSource& source) {
@@ -85,7 +85,7 @@ std::optional<PulseSources> AskForSources(PulseConnection& connection, PulseConn
                                           PulseConnection::Time deadline)
 {
     Answer answer{connection, {}};
-    // The server answers in the order of the questions.
+    // The server answers questions in order.
     pa_operation* const server = Pulse().ContextGetServerInfo(connection.Context(), OnServer, &answer);
     pa_operation* const list = Pulse().ContextGetSourceInfoList(connection.Context(), OnSource, &answer);
     const bool isWhole = connection.WaitForAnswer(lock, deadline, list, answer.isWhole);

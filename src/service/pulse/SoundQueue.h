@@ -10,26 +10,26 @@
 
 namespace sprout {
 
-/// What goes to a server's queue: the passes of a sound one after the other, and silence behind the end of the last.
+/// What goes to a server's queue: the passes of a sound one after the other, then silence after the last.
 ///
-/// Places are bytes since the beginning of the first pass, at whole frames.
+/// Places are bytes since the start of the first pass, at whole frames.
 class SoundQueue {
 public:
     explicit SoundQueue(const SoundFormat& format) : sound(format) {}
 
     /// See `PcmSound`.
     void Load(std::span<const std::byte> pcm, std::size_t soundBytes) { sound.Load(pcm, soundBytes); }
-    /// What is filled next is what belongs at `place`; the pass that reaches or holds it is the last without a loop.
+    /// The next fill continues at `place`. Without a loop, the pass that contains it or ends there is the last.
     void Start(std::int64_t place, Loop loop);
-    /// Fills `out` with what follows.
+    /// Fills `out` with the next bytes.
     void Fill(std::span<std::byte> out);
-    /// Lets the sound go on after its end, or end with a whole pass. place: the first one that may still be changed;
-    /// a sound that ends before it ends, and a loop plays the pass to its end in which it lies.
-    /// Returns how many bytes filled last are now others; they are filled again next.
+    /// Makes the sound continue after its end, or end with a whole pass. place: the first one that may still be
+    /// changed; a sound that ends before it still ends, and a loop plays the pass that contains it to the end. Returns
+    /// how many of the last filled bytes are now different; they are filled again next.
     [[nodiscard]] std::size_t SetLooping(Loop loop, std::int64_t place);
 
     [[nodiscard]] bool EndsBy(std::int64_t place) const { return place >= end; }
-    /// The end of the last pass; the greatest number in a loop.
+    /// The end of the last pass; the greatest number for a loop.
     [[nodiscard]] std::int64_t End() const { return end; }
     [[nodiscard]] std::int64_t Filled() const { return filled; }
     /// The place as a frame of its pass; the last frame at the end.

@@ -23,7 +23,7 @@ namespace sprout {
 namespace {
 
 constexpr int kMostPixelsASide = 4096;
-constexpr qint64 kMostFileBytes = 80'000'000; // a .bmp of the largest size at 32 bits a pixel, and some
+constexpr qint64 kMostFileBytes = 80'000'000; // a .bmp of the largest size at 32 bits per pixel, and some more
 
 QString QtPath(const std::filesystem::path& path)
 {
@@ -35,7 +35,7 @@ std::uint32_t ToBgr(QRgb colour)
     return static_cast<std::uint32_t>(qBlue(colour) << 16 | qGreen(colour) << 8 | qRed(colour));
 }
 
-/// An image that was asked for with a width. Qt gives an empty one where it has no memory.
+/// Passes on a requested image of this width. Qt returns an empty one if it has no memory.
 QImage Allocated(QImage image, int width)
 {
     if (image.isNull() && width > 0)
@@ -43,7 +43,7 @@ QImage Allocated(QImage image, int width)
     return image;
 }
 
-/// What is seen through lies on white.
+/// Puts transparent pixels on white.
 QImage Opaque(const QImage& image)
 {
     if (!image.hasAlphaChannel())
@@ -70,29 +70,29 @@ std::int64_t Number(const QByteArray& bytes, int place, int count)
     return static_cast<std::int64_t>(value);
 }
 
-/// Pixels of a .bmp without compression stand in whole lines behind its head.
+/// Pixels of an uncompressed .bmp are stored in whole lines after its header.
 bool IsCutBmp(const QByteArray& bytes, QSize size)
 {
     constexpr int headBytes = 54;
-    constexpr std::int64_t oldHead = 12; // of a kind that knows no compression
+    constexpr std::int64_t oldHead = 12; // of a kind without compression
     if (bytes.size() < headBytes)
         return true;
     const bool old = Number(bytes, 14, 4) == oldHead;
     const std::int64_t compression = old ? 0 : Number(bytes, 30, 4);
     if (compression == 1 || compression == 2)
-        return false; // run lengths end by themselves
+        return false; // run lengths mark their own end
     const std::int64_t bits = Number(bytes, old ? 24 : 28, 2);
     const std::int64_t lineBytes = (size.width() * bits + 31) / 32 * 4;
     return Number(bytes, 10, 4) + lineBytes * std::abs(size.height()) > bytes.size();
 }
 
-/// The last scan of a .jpg is followed by the end mark; inside a scan neither mark can stand.
+/// The end mark follows the last scan of a .jpg; inside a scan neither mark can occur.
 bool IsCutJpg(const QByteArray& bytes)
 {
     return bytes.lastIndexOf(QByteArray("\xFF\xD9", 2)) < bytes.lastIndexOf(QByteArray("\xFF\xDA", 2));
 }
 
-/// True for a picture whose end is missing; the readers would fill it up with a colour and say nothing.
+/// True for a picture whose end is missing; the readers would silently fill it with a colour.
 bool IsCut(const QByteArray& bytes, const QByteArray& kind, QSize size)
 {
     if (kind == "bmp")
@@ -110,7 +110,7 @@ QImage ReadImage(QByteArray bytes, const std::filesystem::path& path)
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::ReadOnly);
     QImageReader reader(&buffer);
-    const QByteArray kind = reader.format(); // by the content, whatever the file is called
+    const QByteArray kind = reader.format(); // by content, whatever the file name
     const QSize size = reader.size();
     if (std::abs(size.width()) > kMostPixelsASide || std::abs(size.height()) > kMostPixelsASide)
         throw RunTimeError("The picture " + path.native() + " is too large.");

@@ -5,7 +5,7 @@
 
 namespace sprout {
 
-/// `PictureFiles` on Qt's image readers. Works without a display and without an application object.
+/// `PictureFiles` on Qt's image readers. Needs neither a display nor an application object.
 class QtPictureFiles : public PictureFiles {
 public:
     [[nodiscard]] Picture LoadPicture(const std::filesystem::path& path) const override;

@@ -25,13 +25,13 @@ CaptureOpening SdlCapture::Open(CaptureSink& captureSink)
     audioRuns = StartSdlAudio();
     const CaptureOpening opening = audioRuns ? OpenDevice() : CaptureOpening::Failed;
     if (opening != CaptureOpening::Ready)
-        Close(); // the next opening starts SDL's audio anew, and finds a device that came later
+        Close(); // the next opening restarts SDL's audio and finds a device that came later
     return opening;
 }
 
 CaptureOpening SdlCapture::OpenDevice()
 {
-    // A list that cannot be made (below 0) is not an empty one.
+    // A list that cannot be read (below 0) is not an empty one.
     if (Sdl().GetNumAudioDevices(1) == 0)
         return CaptureOpening::NoMicrophone;
     SDL_AudioSpec wanted{};
@@ -52,7 +52,7 @@ CaptureOpening SdlCapture::OpenDevice()
 void SdlCapture::Close()
 {
     if (device != 0)
-        Sdl().CloseAudioDevice(device); // its thread, which looks at the number, has ended then
+        Sdl().CloseAudioDevice(device); // this ends its thread, which reads the number
     device = 0;
     if (std::exchange(audioRuns, false))
         Sdl().QuitSubSystem(SDL_INIT_AUDIO);
@@ -71,7 +71,7 @@ SourceState SdlCapture::State()
 void SdlCapture::OnFrames(void* self, std::uint8_t* frames, int bytes)
 {
     const auto* capture = static_cast<const SdlCapture*>(self);
-    if (capture->IsThere()) // SDL goes on with silence where a device is gone
+    if (capture->IsThere()) // SDL continues with silence if the device is gone
         capture->sink->Take({reinterpret_cast<const std::byte*>(frames), static_cast<std::size_t>(bytes)});
 }
 

@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// The machine's default microphone through SDL, which leaves out what an output plays. It tells no sources.
+/// The machine's default microphone through SDL, which leaves out what an output plays. It lists no sources.
 class SdlCapture : public CaptureSource {
 public:
     SdlCapture() = default;
@@ -28,7 +28,7 @@ private:
     static void OnFrames(void* self, std::uint8_t* frames, int bytes);
 
     CaptureSink* sink = nullptr;
-    std::uint32_t device = 0; // of SDL; 0 where none is open
+    std::uint32_t device = 0; // SDL's number; 0 if none is open
     bool audioRuns = false;
 };
 

@@ -14,7 +14,7 @@ namespace {
 
 constexpr const char* kLibraryFile = "libSDL2-2.0.so.0";
 
-/// Finds a call; false where the library lacks it.
+/// Finds a call; returns false if the library lacks it.
 template <class Call>
 bool Find(void* library, const char* name, Call& call)
 {
@@ -48,15 +48,15 @@ const SdlLibrary& Sdl()
 
 bool StartSdlAudio()
 {
-    static std::mutex mutex; // devices are counted in a thread of its own
+    static std::mutex mutex; // devices are counted in a separate thread
     const std::lock_guard lock(mutex);
     if (!Sdl().IsThere())
         return false;
-    // Ctrl-C goes on ending the program.
+    // Ctrl-C must still end the program.
     Sdl().SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
     Sdl().SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, std::string(kProductName).c_str());
     const bool starts = Sdl().InitSubSystem(SDL_INIT_AUDIO) == 0;
-    // Nobody fetches these: the state of the open device tells the same.
+    // Nobody fetches these events: the open device's state says the same.
     Sdl().EventState(SDL_AUDIODEVICEADDED, SDL_IGNORE);
     Sdl().EventState(SDL_AUDIODEVICEREMOVED, SDL_IGNORE);
     return starts;

@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// SDL's calls for sound. The library comes with the first question to it and not with the program: it brings thirty
-/// more, for which the first picture of the window need not wait.
+/// SDL's calls for sound. The library is loaded at first use, not at program start: it loads thirty more, which would
+/// delay the first picture of the window.
 struct SdlLibrary {
     decltype(&SDL_SetHint) SetHint = nullptr;
     decltype(&SDL_EventState) EventState = nullptr;
@@ -18,15 +18,15 @@ struct SdlLibrary {
     decltype(&SDL_GetAudioDeviceStatus) GetAudioDeviceStatus = nullptr;
     decltype(&SDL_CloseAudioDevice) CloseAudioDevice = nullptr;
 
-    /// Without the library no other call may be made.
+    /// If the library is missing, no other call may be made.
     [[nodiscard]] bool IsThere() const { return CloseAudioDevice != nullptr; }
 };
 
-/// The library, which is loaded once and stays. May be called from any thread.
+/// The library, which is loaded once and stays loaded. May be called from any thread.
 [[nodiscard]] const SdlLibrary& Sdl();
 
-/// Starts SDL's audio once more; each start that succeeds wants a `QuitSubSystem` of its own. False where it does not
-/// start, or where there is no library.
+/// Starts SDL's audio once more; each successful start needs its own `QuitSubSystem`. Returns false if it does not
+/// start, or if there is no library.
 [[nodiscard]] bool StartSdlAudio();
 
 } // namespace sprout

@@ -10,8 +10,8 @@ namespace sprout {
 
 namespace {
 
-/// Frames that the device asks for at a time at 44,100 Hz, 12 ms: what a stop has to wait for, once in the device's
-/// thread and once in its queue.
+/// Frames per request of the device at 44,100 Hz, 12 ms. A stop has to wait for this twice: in the device's thread and
+/// in its queue.
 constexpr std::int32_t kFramesAsked = 512;
 
 std::int32_t FramesAsked(const SoundFormat& format)

@@ -16,23 +16,23 @@
 
 namespace sprout {
 
-/// A sound on a device of its own.
+/// A sound on its own device.
 ///
-/// An open device takes its samples all the time, silence too. So it is closed when nothing was played for a while, and
-/// opened again by the next play: at rest nothing runs.
+/// An open device takes samples all the time, even silence. So it is closed when nothing was played for a while, and
+/// reopened by the next play: nothing runs at rest.
 class SdlSound : public SoundObject {
 public:
-    /// restRound: how often is looked whether the device is still needed; after three looks in vain it is closed.
+    /// restRound: how often to check whether the device is still needed; it is closed after three checks without use.
     SdlSound(const SoundFormat& format, std::chrono::milliseconds restRound);
     ~SdlSound() override;
 
-    /// Opens the default device, unless it is open. False where there is none.
+    /// Opens the default device, unless it is open. Returns false if there is none.
     [[nodiscard]] bool Wake();
-    /// It has this format, and its device is there or rests.
+    /// It has this format, and its device is alive or at rest.
     [[nodiscard]] bool IsAliveIn(const SoundFormat& wanted);
     /// It has this format, and its device is open.
     [[nodiscard]] bool IsOpenIn(const SoundFormat& wanted);
-    /// Length of the sound that is loaded next.
+    /// Length of the next sound to load.
     void SetSize(std::int32_t bufferBytes) { soundBytes = static_cast<std::size_t>(std::max(0, bufferBytes)); }
 
     /// See `PcmFeed`.
@@ -49,7 +49,7 @@ private:
     void Close();
     void WatchForRest();
     void EndWatch();
-    /// True when the sound server or the device went away. SDL goes on asking for samples, and nobody hears them.
+    /// True if the sound server or the device is gone. SDL keeps asking for samples then, but nobody hears them.
     [[nodiscard]] bool IsLost() const;
 
     const SoundFormat format;
@@ -57,11 +57,11 @@ private:
     PcmFeed feed;
     std::size_t soundBytes = 0;
 
-    std::thread watch; // while the device is open, and ended after it has closed it
+    std::thread watch; // runs while the device is open, and ends after closing it
     std::condition_variable watchEnds;
-    std::mutex mutex;         // of what follows
-    std::uint32_t device = 0; // of SDL; 0 at rest
-    bool used = false;        // since the last look
+    std::mutex mutex;         // guards the following
+    std::uint32_t device = 0; // SDL's number; 0 at rest
+    bool used = false;        // since the last check
     bool watchIsEnding = false;
 };
 

@@ -14,8 +14,8 @@ namespace {
 
 std::unique_ptr<SdlSound> OpenSound(const SoundFormat& format, std::chrono::milliseconds restRound)
 {
-    // ALSA, which SDL falls back on, complains on the standard error of every device that is not there. A list that
-    // cannot be made (below 0) is not an empty one.
+    // ALSA, SDL's fallback, complains on standard error about every missing device. A list that cannot be read (below
+    // 0) is not an empty one.
     if (Sdl().GetNumAudioDevices(0) == 0)
         return nullptr;
     auto sound = std::make_unique<SdlSound>(format, restRound);

@@ -21,13 +21,13 @@ namespace {
 
 constexpr std::chrono::milliseconds kBetweenLooks{20};
 
-/// Where a new program's standard streams lead to.
+/// Where a new program's standard streams go.
 class StreamActions {
 public:
     explicit StreamActions(int output)
     {
         ::posix_spawn_file_actions_init(&actions);
-        // First: where one of our own standard streams is closed, the output may have its number.
+        // This comes first: if one of our own standard streams is closed, the output may have its number.
         if (output >= 0)
             ::posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
         else
@@ -43,7 +43,7 @@ public:
     posix_spawn_file_actions_t actions{};
 };
 
-/// A session of its own, and signals as a program expects them.
+/// A new session, and signals as a program expects them.
 class SessionAttributes {
 public:
     SessionAttributes()
@@ -96,7 +96,7 @@ ChildProcess::~ChildProcess()
     try {
         std::thread([id = id] { WaitForEnd(id); }).detach(); // a mail program may outlive this one
     } catch (const std::system_error&) {
-        return; // without a thread the ended program is forgotten when this one ends
+        return; // without a thread the ended program is reaped when this one ends
     }
 }
 
@@ -134,7 +134,7 @@ void ChildProcess::Kill()
 {
     if (id == 0)
         return;
-    ::kill(-id, SIGKILL); // the session's group has its number
+    ::kill(-id, SIGKILL); // the session's process group has this number
     status = WaitForEnd(std::exchange(id, 0));
 }
 

@@ -12,27 +12,27 @@
 
 namespace sprout {
 
-/// A program that was started in a session of its own, without a terminal and with none of our files. One that still
-/// runs when the object goes runs on, and leaves no zombie when it ends.
+/// A program started in its own session, without a terminal and without any of our files. If it still runs when this
+/// object is destroyed, it keeps running and leaves no zombie when it ends.
 class ChildProcess {
 public:
-    /// Starts a program, looked for on the PATH, without a shell. words: the program and its arguments, at least one.
-    /// output: the descriptor that takes what it writes to its standard output; below 0: nobody does. What it writes to
-    /// its standard error is lost. Nothing where it cannot be started.
+    /// Starts a program, found on the PATH, without a shell. words: the program and its arguments, at least one.
+    /// output: the descriptor for its standard output; below 0: discarded. Its standard error is discarded. Returns
+    /// nothing if it cannot be started.
     [[nodiscard]] static std::optional<ChildProcess> Start(std::vector<std::string> words, int output = -1);
 
     ChildProcess(ChildProcess&& other) noexcept : id(std::exchange(other.id, 0)), status(other.status) {}
     ChildProcess& operator=(ChildProcess&&) = delete;
     ~ChildProcess();
 
-    /// Waits until the program has ended; false where it has not within `limit`, or where `stop` asks to wait no
+    /// Waits until the program has ended; returns false if it has not within `limit`, or if `stop` asks to wait no
     /// longer.
     [[nodiscard]] bool EndsWithin(std::chrono::milliseconds limit, const std::stop_token& stop);
 
-    /// True once the program has ended by itself and without a complaint.
+    /// True once the program has ended by itself and successfully.
     [[nodiscard]] bool Succeeded() const;
 
-    /// Ends the program and those that it started.
+    /// Kills the program and those that it started.
     void Kill();
 
 private:

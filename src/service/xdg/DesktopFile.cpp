@@ -21,7 +21,7 @@ std::string_view WithoutBlanks(std::string_view text)
     return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// A value of the file with its escapes resolved.
+/// A value from the file with its escapes resolved.
 std::string Unescaped(std::string_view value)
 {
     constexpr std::string_view escapes = "sntr\\";
@@ -52,7 +52,7 @@ std::map<std::string, std::string, std::less<>> EntryValues(std::string_view tex
     return values;
 }
 
-/// Takes a command line apart, character by character.
+/// Splits a command line, character by character.
 class ExecReader {
 public:
     explicit ExecReader(std::string_view exec) : rest(exec) {}
@@ -97,7 +97,7 @@ private:
         }
     }
 
-    /// A percent sign and the letter behind it are a code.
+    /// A percent sign and the letter after it are a code.
     void Add(char c)
     {
         if (c != '%')

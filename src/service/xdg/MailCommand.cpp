@@ -33,7 +33,7 @@ std::string Encoded(std::string_view text, std::string_view kept)
     return encoded;
 }
 
-/// CR LF becomes LF, and a zero byte, which would end an argument, is dropped.
+/// Turns CR LF into LF and drops zero bytes, which would end an argument.
 std::string PlainText(std::string_view text)
 {
     std::string plain;
@@ -50,7 +50,7 @@ bool NamesThunderbird(std::string_view name)
     return std::any_of(kin.begin(), kin.end(), [&](std::string_view one) { return lower.find(one) != lower.npos; });
 }
 
-/// True for a word that names Thunderbird as a program, as Flatpak's and env's are behind their own.
+/// True for a word that names Thunderbird as a program, even after Flatpak's or env's own words.
 bool IsThunderbirdWord(std::string_view word)
 {
     const bool isProgram = !word.starts_with('-') && word.find('=') == std::string_view::npos;

@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The value between the quotes of a line NAME="value", its backslashes resolved.
+/// The value between the quotes of a line NAME="value", with its backslashes resolved.
 std::string QuotedValue(std::string_view line)
 {
     std::string value;
@@ -37,9 +37,9 @@ std::string QuotedValue(std::string_view line)
 
 /// A program that shows the desktop's volumes.
 struct ControlProgram {
-    std::string_view desktop; ///< as XDG_CURRENT_DESKTOP names it; empty: runs on any
+    std::string_view desktop; ///< as named by XDG_CURRENT_DESKTOP; empty: runs on any
     const char* program;
-    const char* argument; ///< empty: it takes the number of the tab that is shown first
+    const char* argument; ///< empty: it takes the number of the tab to show first
 };
 
 constexpr std::array kControlPrograms{
@@ -52,7 +52,7 @@ constexpr std::array kControlPrograms{
     ControlProgram{"X-Cinnamon", "cinnamon-settings", "sound"},
 };
 
-/// Of output devices and of input devices.
+/// The tab of output devices or input devices.
 const char* TabOf(SoundControl control)
 {
     return control == SoundControl::Play ? "3" : "4";
@@ -111,7 +111,7 @@ void XdgDesktop::OpenWithShell(std::string_view target)
     std::string argument(target);
     if (argument.empty() || argument.front() == '-') // would be taken for an option
         return;
-    // In the background of a shell that ends at once: the opened program is nobody's child, and nothing waits for it.
+    // In the background of a shell that exits at once: the opened program is not our child, and nothing waits for it.
     std::string shell = "/bin/sh";
     std::string option = "-c";
     std::string script = "\"$0\" \"$1\" >/dev/null 2>&1 &";

@@ -28,7 +28,7 @@ struct CloseFile {
 };
 using File = std::unique_ptr<std::FILE, CloseFile>;
 
-/// A file in memory, which no child inherits by accident. Null where there is none to be had.
+/// A file in memory, which no child inherits by accident. Null if none can be created.
 File MemoryFile()
 {
     const int descriptor = ::memfd_create("answer", MFD_CLOEXEC);
@@ -38,7 +38,7 @@ File MemoryFile()
     return file;
 }
 
-/// The beginning of what was written into a file.
+/// The start of what was written to a file.
 std::string Written(std::FILE& file)
 {
     std::array<char, 4096> bytes{};
@@ -47,7 +47,7 @@ std::string Written(std::FILE& file)
     return {bytes.data(), count};
 }
 
-/// The id of the program that opens mail addresses; empty where there is none or the desktop does not tell in time.
+/// The id of the program that opens mail addresses; empty if there is none or the desktop does not answer in time.
 std::string AskForMailProgram(std::chrono::milliseconds limit, const std::stop_token& stop)
 {
     const File answer = MemoryFile();
@@ -61,12 +61,12 @@ std::string AskForMailProgram(std::chrono::milliseconds limit, const std::stop_t
         question->Kill();
         return {};
     }
-    // Some desktops name several, the one that counts first.
+    // Some desktops name several; the first one counts.
     const std::string text = Written(*answer);
     return std::string(Trim(text.substr(0, text.find_first_of(";\r\n"))));
 }
 
-/// Looks for `rest` of an id in a folder of .desktop files and those below it.
+/// Looks for `rest` of an id in a folder of .desktop files and its subfolders.
 fs::path FindBelow(const fs::path& folder, std::string_view rest)
 {
     std::error_code error;

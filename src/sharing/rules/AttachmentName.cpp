@@ -26,7 +26,7 @@ std::string AttachmentName(std::string_view songTitle)
     for (char& c : name)
         if (IsControl(c) || c == '|')
             c = '_';
-    // Windows takes no blank at the end of a name.
+    // Windows allows no blank at the end of a name.
     return std::string(Trim(CharactersInBytes(Trim(name), kMostBytes))) + std::string(kWmaExtension);
 }
 

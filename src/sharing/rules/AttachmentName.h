@@ -6,9 +6,9 @@
 
 namespace sprout {
 
-/// The file name under which a friend gets a song: its title and ".wma". What the file systems of other machines refuse
-/// becomes "_" or, at the ends, is dropped. A title of more than 200 bytes is cut between two characters; one that
-/// names nothing becomes "Song".
+/// The file name under which a friend gets a song: its title and ".wma". Characters that other file systems refuse
+/// become "_" or, at the ends, are dropped. A title of more than 200 bytes is cut between two characters; a title of
+/// only dots and blanks becomes "Song".
 [[nodiscard]] std::string AttachmentName(std::string_view songTitle);
 
 } // namespace sprout

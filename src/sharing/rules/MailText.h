@@ -6,10 +6,10 @@
 
 namespace sprout {
 
-/// The subject of a mail that brings a song.
+/// The subject of a mail with a song.
 [[nodiscard]] std::string MailSubject(std::string_view songTitle);
 
-/// The text of a mail that brings a song, in lines that end in CR LF; the last one is the author.
+/// The text of a mail with a song, in lines that end in CR LF; the last line is the author.
 [[nodiscard]] std::string MailBody(std::string_view songTitle, std::string_view createdBy);
 
 } // namespace sprout

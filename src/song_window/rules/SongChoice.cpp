@@ -55,7 +55,7 @@ NameDecision DecideName(SongSelMode mode, std::string_view name, std::span<const
 {
     if (Trim(name).empty())
         return NameDecision::AskForName;
-    // What lies in the folder counts when a song is saved: the list may be older.
+    // When a song is saved, the folder itself is checked: the list may be out of date.
     const bool takesNothing =
         mode == SongSelMode::Save ? MayReplaceUnasked(PlaceOfSong(name)) : FindSong(songs, name) == nullptr;
     return takesNothing ? NameDecision::Accept : NameDecision::AskToOverwrite;

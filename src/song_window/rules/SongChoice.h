@@ -30,14 +30,14 @@ struct SongSelLayout {
 
 [[nodiscard]] const SongSelLayout& LayoutOf(SongSelMode mode);
 
-/// What OK has to do with a name that was typed.
+/// What OK must do with a typed name.
 enum class NameDecision { AskForName, Accept, AskToOverwrite };
 
-/// name: as typed. songs: those that are listed. A song is saved over its own unchanged file unasked, whatever else
-/// has that name or its title.
+/// name: as typed. songs: the listed ones. A song is saved over its own unchanged file without asking, even if another
+/// song has that name or its title.
 [[nodiscard]] NameDecision DecideName(SongSelMode mode, std::string_view name, std::span<const SongFile> songs);
 
-/// Row to select after the list was made anew, -1 for none. row: the one that was selected; count: songs now.
+/// The row to select after the list was rebuilt, -1 for none. row: the previously selected one; count: songs now.
 [[nodiscard]] int RowAfterChange(int row, int count);
 
 } // namespace sprout

@@ -20,7 +20,7 @@ struct KeyRows {
 constexpr std::int32_t kFirstColumn = 1;
 constexpr std::int32_t kLastColumn = 28;
 constexpr std::int32_t kLastBlackColumn = 18;
-constexpr std::int32_t kFirstFreeColumn = 20; ///< beside the black keys
+constexpr std::int32_t kFirstFreeColumn = 20; ///< next to the black keys
 
 constexpr KeyRows Wide(std::int32_t key, std::int32_t firstRow, std::int32_t lastRow)
 {

@@ -15,7 +15,7 @@ constexpr std::int32_t kFarthestPitch = 64;
 constexpr std::int32_t kMostPercent = 200;
 constexpr double kPercentAPixel = 5;
 
-/// What every edit but the drag of a bar does.
+/// Common to every edit except dragging a bar.
 void ClearSound(Tune& tune, std::int32_t step)
 {
     At(tune.Steps, step).StepWaveValid = false;
@@ -106,7 +106,7 @@ void ChangeStepCount(Tune& tune, std::int32_t count)
     const std::int32_t before = tune.StepCount;
     tune.StepCount = count;
     tune.Steps.resize(static_cast<std::size_t>(count) + 1);
-    // A new step may copy one that is new itself.
+    // A new step may copy another new one.
     if (before > 0)
         for (std::int32_t step = before + 1; step <= count; ++step)
             At(tune.Steps, step) = At(tune.Steps, step - before);

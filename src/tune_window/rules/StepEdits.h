@@ -11,48 +11,48 @@
 namespace sprout {
 
 // Edits of the tune in the editor. Steps are numbered from 1; each edit clears the validity flags of what it makes
-// stale and says whether it changed something. Whoever asks tells the window that its tune was changed.
+// stale and reports whether it changed something. The caller tells the window that its tune was changed.
 
 inline constexpr std::int32_t kFewestSteps = 2;
 inline constexpr std::int32_t kMostSteps = 64;
 
-/// Silence before a tune that an edit plays, in seconds.
+/// Silence before a tune that is played after an edit, in seconds.
 inline constexpr float kEditLeadIn = 0.75F;
 
-/// Switches a step on or off. What is neither 0 nor 1 counts as on.
+/// Switches a step on or off. Any value other than 0 and 1 counts as on.
 void ToggleStep(Tune& tune, std::int32_t step);
 
-/// What a click on a key of an on-step asks for.
+/// What a click on a key of an on-step does.
 struct KeyClick {
-    bool changed = false; ///< the pitch
+    bool changed = false; ///< whether the pitch changed
     bool plays = false;
     friend bool operator==(const KeyClick&, const KeyClick&) = default;
 };
 
-/// A click on a key. pitch: the key's; nothing where no key was hit. A step with a pitch beyond 64, as only a file can
-/// hold, is left alone altogether.
+/// Handles a click on a key. pitch: the key's; nothing if no key was hit. A step with a pitch beyond 64, which only a
+/// file can contain, is left unchanged.
 KeyClick ClickKey(Tune& tune, std::int32_t step, std::optional<std::int32_t> pitch);
 
-/// Moves a step's pitch along the keyboard, from the key that shows it.
+/// Moves a step's pitch along the keyboard, starting from the key that shows it.
 KeyClick MovePitch(Tune& tune, std::int32_t step, std::int32_t keys);
 
-/// A click on a place of the strip. Returns whether the value changed.
+/// Handles a click in a place of the strip. Returns whether the value changed.
 bool ClickStrip(Tune& tune, std::int32_t step, StripPlace place, std::int32_t value);
 
-/// Draws the end of a step's bar by `pixels`. What was rendered stays valid: while dragging, the step sounds as it was
-/// rendered last. Returns whether the duration changed.
+/// Drags the end of a step's bar by `pixels`. What was rendered stays valid: during a drag the step sounds as it was
+/// last rendered. Returns whether the duration changed.
 bool DragDuration(TuneStep& step, double pixels);
 
-/// Gives a step the named beat, and a copy of it to every later step without one.
+/// Sets the beat of a step by name, and copies it to every later step without a beat.
 void ChangeStepBeat(Tune& tune, std::int32_t step, std::string_view name);
 
-/// Gives all steps, on or off, the named beat. The tune has at least one step.
+/// Sets the beat of all steps, on or off, by name. The tune has at least one step.
 void ChangeAllBeats(Tune& tune, std::string_view name);
 
-/// The number of steps that was typed; nothing for what is none that the editor takes.
+/// The typed number of steps; nothing if the editor does not accept it.
 [[nodiscard]] std::optional<std::int32_t> TypedStepCount(std::string_view answer);
 
-/// Makes the cycle `count` steps long: a longer one repeats what is there, a shorter one loses its end.
+/// Makes the cycle `count` steps long: a longer one repeats the existing steps, a shorter one loses its end.
 void ChangeStepCount(Tune& tune, std::int32_t count);
 
 } // namespace sprout

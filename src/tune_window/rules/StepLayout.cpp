@@ -11,7 +11,7 @@ namespace sprout {
 
 namespace {
 
-/// Rows of a zone; neither end belongs to it.
+/// Rows of a zone, both ends excluded.
 struct ZoneRows {
     StepZone zone;
     std::int32_t above;
@@ -29,7 +29,7 @@ constexpr std::array kZones{
 constexpr std::int32_t kPlaceWidth = 2; ///< of the places in the strip
 constexpr double kStripPercent = 200;
 constexpr double kStripRows = 7;
-constexpr double kSurfaceLeftFree = 0.8; ///< share of the surface that steps fill at the end of the scroll
+constexpr double kSurfaceLeftFree = 0.8; ///< share of the surface that steps fill at the end of scrolling
 constexpr std::int32_t kLeastScroll = 10;
 
 } // namespace
@@ -43,7 +43,7 @@ std::int32_t StepAt(std::int32_t x, std::int32_t stepsLeft, std::int32_t stepCou
 {
     const std::int32_t inRow = x - stepsLeft;
     const std::int32_t step = inRow / kStepPitch + 1;
-    const std::int32_t inColumn = inRow % kStepPitch; // not above 0 left of the first column
+    const std::int32_t inColumn = inRow % kStepPitch; // 0 or below left of the first column
     return step <= stepCount && inColumn > 0 && inColumn < kStepHitWidth ? step : 0;
 }
 
@@ -84,7 +84,7 @@ DurationBar BarOfStep(std::int32_t step, std::int32_t stepsLeft, std::int32_t pi
                              KeyMarkY[static_cast<std::size_t>(place.key)];
     const std::int32_t left = StepLeft(step, stepsLeft) + kBarInset;
     const std::int32_t middle = BarMiddle(duration);
-    // A middle of one pixel lies below the cap.
+    // A middle of one pixel is hidden by the cap.
     const std::int32_t end = left + kDurationLeftWidth + (middle > 1 ? middle : 0);
     return {end, top, left, top, end + kDurationRightWidth, top + kBarHeight - 1};
 }

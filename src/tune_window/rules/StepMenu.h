@@ -9,7 +9,7 @@
 
 namespace sprout {
 
-/// The items of a step's menu, by their places in it.
+/// The items of a step's menu, by their positions in it.
 enum class StepMoveMnu : std::int32_t {
     MoveAllToLeft = 0,
     MoveAllToRight = 1,
@@ -19,7 +19,7 @@ enum class StepMoveMnu : std::int32_t {
     DeleteStep = 7,
 };
 
-/// A place in the menu; a separator has no caption.
+/// A row of the menu; a separator has no caption.
 struct StepMenuRow {
     StepMoveMnu item{};
     std::string_view caption;
@@ -36,10 +36,10 @@ inline constexpr std::array kStepMenu{
     StepMenuRow{StepMoveMnu::DeleteStep, "Delete Step"},
 };
 
-/// Only a step that is on can be moved alone.
+/// Only a step that is on can be moved on its own.
 [[nodiscard]] bool StepMenuItemEnabled(StepMoveMnu item, const TuneStep& step);
 
-/// Why an item was refused; all blank where it was carried out.
+/// Why an item was refused; all blank if it was carried out.
 struct StepMenuRefusal {
     std::string_view line1;
     std::string_view line2;
@@ -47,8 +47,8 @@ struct StepMenuRefusal {
     [[nodiscard]] bool IsRefusal() const { return !line1.empty(); }
 };
 
-/// Carries out an item on a step, 1 to `StepCount`. Steps are moved as whole records, so that what is rendered moves
-/// along; the tune's own sound becomes stale. A refused item changes nothing.
+/// Applies an item to a step, 1 to `StepCount`. Steps move as whole records, so their rendered sound moves with them;
+/// the tune's own sound becomes stale. A refused item changes nothing.
 StepMenuRefusal ApplyStepMenu(Tune& tune, std::int32_t step, StepMoveMnu item);
 
 } // namespace sprout

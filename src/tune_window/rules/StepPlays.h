@@ -5,14 +5,14 @@
 
 namespace sprout {
 
-/// Plays a step's sound, rendered if it must be. A step that renders to nothing stays silent, and is rendered again
-/// next time.
+/// Plays a step's sound, rendering it first if needed. A step that renders to nothing stays silent and is rendered
+/// again next time.
 void PlayStepSound(TuneStep& step);
 
-/// Plays the beat of a step as it is in its file.
+/// Plays a step's beat as it is in its file.
 void PlayStepBeat(TuneStep& step);
 
-/// Plays a tune, rendered if it must be, behind `leadInSeconds` of silence.
+/// Plays a tune after `leadInSeconds` of silence, rendering it first if needed.
 void PlayEditedTune(Tune& tune, float leadInSeconds);
 
 } // namespace sprout

@@ -17,14 +17,14 @@ struct StepPointer {
     StepCursor cursor = StepCursor::Normal;
     std::string_view hint;
     std::string_view toolTip;
-    std::string beat; ///< in place of a tool tip: the beat whose name it shows
+    std::string beat; ///< instead of a tool tip: the beat whose name to show
     friend bool operator==(const StepPointer&, const StepPointer&) = default;
 };
 
-/// Looks for a pointer that moved to a point.
+/// What to show after the pointer moved to a point.
 [[nodiscard]] StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int32_t x, std::int32_t y);
 
-/// A step in words: "Step 3, on, Piano High, pitch 4". beat: its beat's name for people, empty where it has none.
+/// Describes a step: "Step 3, on, Piano High, pitch 4". beat: display name of its beat, empty if it has none.
 [[nodiscard]] std::string StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat);
 
 } // namespace sprout

@@ -16,8 +16,8 @@ constexpr int kPanelWidth = 392;
 constexpr int kRoundButton = 48;
 constexpr int kWordWidth = 104;
 constexpr int kWordHeight = 44;
-constexpr int kSmallPic = 44; ///< the picture in its own size and its rim
-constexpr int kLargePic = 76; ///< twice its size
+constexpr int kSmallPic = 44; ///< the picture at its own size plus its rim
+constexpr int kLargePic = 76; ///< twice the picture's size plus its rim
 constexpr int kTuneNameHeight = 30;
 constexpr int kAuthorHeight = 24;
 constexpr std::int32_t kFewestRows = 2;
@@ -37,7 +37,7 @@ std::int32_t TuneGridRows(const TuneWindowNeeds& needs, int besideRows)
                             .fewestRows = kFewestRows});
 }
 
-/// Picture at the left, name above author beside it.
+/// Picture on the left, name above author next to it.
 void PlaceTune(TuneWindowPlan& plan, int x, int y, int pictureSide, int width)
 {
     plan.tunePic = {x, y, pictureSide, pictureSide};
@@ -55,7 +55,7 @@ void PlaceTools(TuneWindowPlan& plan, int x, int y)
     }
 }
 
-/// OK and Cancel, ending at a right and a lower edge.
+/// Places OK and Cancel against a right and a lower edge.
 void PlaceAnswers(TuneWindowPlan& plan, int right, int bottom)
 {
     plan.cancelBtn = {right - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
@@ -105,7 +105,7 @@ TuneWindowPlan PlanTuneWindow(const TuneWindowNeeds& needs)
     if (needs.screenWidth < WideWindow(needs))
         return PlanNarrow(needs);
     TuneWindowPlan plan = PlanWide(needs);
-    // A panel needs the height of some rows; where they have no room, the buttons stand in a row.
+    // A panel needs the height of several rows; if they do not fit, the buttons are in a row.
     return plan.gridRows < kFewestRowsBesidePanel ? PlanNarrow(needs) : plan;
 }
 

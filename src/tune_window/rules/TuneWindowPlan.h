@@ -6,10 +6,10 @@
 
 namespace sprout {
 
-/// Tunes in a row of the grid.
+/// Tunes in each row of the grid.
 inline constexpr std::int32_t kTuneColumns = 18;
 
-/// A place in a window, in logical pixels.
+/// A rectangle in a window, in logical pixels.
 struct PlanBox {
     int x = 0;
     int y = 0;
@@ -21,25 +21,25 @@ struct PlanBox {
     friend bool operator==(const PlanBox&, const PlanBox&) = default;
 };
 
-/// What the tune window has to find room for, in logical pixels.
+/// What the tune window needs space for, in logical pixels.
 struct TuneWindowNeeds {
-    int screenWidth = 0; ///< room for the window
+    int screenWidth = 0; ///< space for the window
     int screenHeight = 0;
-    int bandHeight = 0;      ///< of the window's title
-    int gridWidth = 0;       ///< with frame and scroll bar
-    int gridFrameHeight = 0; ///< that is no row
+    int bandHeight = 0;      ///< of the window's title band
+    int gridWidth = 0;       ///< including frame and scroll bar
+    int gridFrameHeight = 0; ///< the part that is not rows
     int editorHeight = 0;
     std::int32_t tunes = 0;
 };
 
-/// Where the parts of the tune window stand.
+/// Positions of the parts of the tune window.
 ///
-/// A wide screen has the chosen tune and the buttons beside the grid, a narrow one between grid and editor.
+/// On a wide screen the chosen tune and the buttons are beside the grid, on a narrow one between grid and editor.
 struct TuneWindowPlan {
     int width = 0;
     int height = 0;
     std::int32_t gridRows = 0;
-    PlanBox grid; ///< with frame and scroll bar
+    PlanBox grid; ///< including frame and scroll bar
     PlanBox tunePic;
     PlanBox tuneNameLbl;
     PlanBox createdByLbl;
@@ -49,8 +49,7 @@ struct TuneWindowPlan {
     PlanBox editor;
 };
 
-/// The grid gets a row more than the tunes fill, so that nothing is to scroll, as far as the screen has room; at least
-/// two.
+/// The grid gets one row more than the tunes fill, which avoids scrolling, if the screen has room; at least two rows.
 [[nodiscard]] TuneWindowPlan PlanTuneWindow(const TuneWindowNeeds& needs);
 
 } // namespace sprout

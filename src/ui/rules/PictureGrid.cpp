@@ -21,13 +21,13 @@ std::int32_t GridRowCount(const PictureGrid& grid)
     return (grid.count + grid.columns - 1) / grid.columns;
 }
 
-/// Rows that are drawn at once, at least one.
+/// Rows that are visible at once, at least one.
 std::int32_t GridRowsInView(const PictureGrid& grid)
 {
     return std::max((grid.heightPx - kGridInset - kPictureSide) / kGridCell + 1, 1);
 }
 
-/// The cell that a place of one axis lies in, from 0; -1 between the pictures.
+/// The cell at a position on one axis, from 0; -1 between the pictures.
 std::int32_t GridCellAt(std::int32_t place)
 {
     const std::int32_t inside = place - kGridInset;
@@ -54,7 +54,7 @@ bool IsInGridView(const PictureGrid& grid, std::int32_t index)
 
 std::int32_t HitTestGrid(const PictureGrid& grid, std::int32_t x, std::int32_t y)
 {
-    // Rows above the surface are told from those in it only by their number, so the count begins at the first row.
+    // Rows above the surface differ from visible ones only by their number, so counting starts at the first row.
     const std::int32_t row = GridCellAt(y + (grid.topRow - 1) * kGridCell);
     const std::int32_t column = GridCellAt(x);
     if (row < 0 || column < 0 || column >= grid.columns)

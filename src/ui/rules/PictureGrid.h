@@ -7,7 +7,7 @@
 
 namespace sprout {
 
-/// Side of a grid's cell in pixels, and how far inside it the 32 x 32 picture lies.
+/// Side of a grid cell in pixels, and how far inside it the 32 x 32 picture lies.
 inline constexpr std::int32_t kGridCell = 40;
 inline constexpr std::int32_t kGridInset = 5;
 
@@ -33,46 +33,46 @@ struct GridScroll {
     friend bool operator==(const GridScroll&, const GridScroll&) = default;
 };
 
-/// Where a picture lies, also of one that is not in view. index: from 1.
+/// Where a picture lies, even if it is out of view. index: from 1.
 [[nodiscard]] GridPlace PlaceInGrid(const PictureGrid& grid, std::int32_t index);
 
-/// True for the pictures that stand in the surface with their whole height.
+/// True if the whole height of a picture is in view.
 [[nodiscard]] bool IsInGridView(const PictureGrid& grid, std::int32_t index);
 
 /// The last picture at a point, its right and lower edges included; 0 for none. Pictures out of view count too.
 [[nodiscard]] std::int32_t HitTestGrid(const PictureGrid& grid, std::int32_t x, std::int32_t y);
 
-/// The range of the scroll bar: rows less those that fit, the last of which stays free.
+/// The range of the scroll bar: the total rows minus those that fit, not counting the last one that fits.
 [[nodiscard]] GridScroll GridScrollRange(const PictureGrid& grid);
 
-/// What a grid has to find room for.
+/// What a grid needs space for.
 struct GridRoom {
     std::int32_t count = 0; ///< pictures
     std::int32_t columns = 1;
-    std::int32_t wantedRows = 1; ///< at least, where there is room
+    std::int32_t wantedRows = 1; ///< at least, if there is room
     std::int32_t roomPx = 0;     ///< height for the rows
-    std::int32_t fewestRows = 1; ///< even where there is no room
+    std::int32_t fewestRows = 1; ///< even without room
 };
 
-/// Rows that show all pictures, and one more: a grid that is filled to its last row can be scrolled.
+/// The rows that show all pictures, plus one: a grid that is filled to its last row can be scrolled.
 [[nodiscard]] std::int32_t FittingGridRows(const GridRoom& room);
 
-/// What the menu of a grid does to the chosen picture, in the order of its items.
+/// What the grid's menu does to the chosen picture, in menu order.
 enum class GridMove : std::int32_t { Up = 0, Down = 1, Left = 2, Right = 3 };
 inline constexpr std::array<std::string_view, 4> kGridMoveCaptions{"Move Up", "Move Down", "Move Left", "Move Right"};
 
-/// The place that the chosen one of `count` pictures moves to; 0 where it cannot go.
+/// Where the chosen one of `count` pictures moves to; 0 if it cannot move.
 [[nodiscard]] std::int32_t GridMoveTarget(GridMove move, std::int32_t selected, std::int32_t count,
                                           std::int32_t columns);
 
 /// Where the keyboard can go from a picture.
 enum class GridStep { Left, Right, Up, Down, PageUp, PageDown, First, Last };
 
-/// The picture that a step from `index` leads to, itself where the grid ends; from 0, which is none, the first one.
-/// 0 where the grid is empty.
+/// The picture that a step from `index` leads to; `index` itself at the end of the grid. From 0 (none) it is the first
+/// one. 0 if the grid is empty.
 [[nodiscard]] std::int32_t NeighbourInGrid(const PictureGrid& grid, std::int32_t index, GridStep step);
 
-/// The top row with which a picture is in view, as near to the present one as can be.
+/// The top row that brings a picture into view, as close to the current one as possible.
 [[nodiscard]] std::int32_t TopRowShowing(const PictureGrid& grid, std::int32_t index);
 
 } // namespace sprout

@@ -5,8 +5,8 @@
 
 namespace sprout {
 
-/// A slot with a pointer that stands for a percentage, in pixels. The pointer's left edge is kept unrounded, so that a
-/// percentage comes back from its place as it was.
+/// A slot with a pointer that stands for a percentage, in pixels. The pointer's left edge is not rounded, so converting
+/// a percentage to a position and back is exact.
 struct Slider {
     double slotLeft = 0;
     double slotWidth = 0;
@@ -17,10 +17,10 @@ struct Slider {
     /// Left edge of the pointer at a percentage.
     [[nodiscard]] double LeftOf(std::int32_t percent) const;
 
-    /// Percentage at a left edge, `lowest` to `highest`.
+    /// Percentage for a left edge, `lowest` to `highest`.
     [[nodiscard]] std::int32_t PercentAt(double left) const;
 
-    /// Left edge after a drag that began at `downX` of the pointer and has reached `x` of it; stays in the slot.
+    /// Left edge after a drag from `downX` inside the pointer to `x` inside it; stays in the slot.
     [[nodiscard]] double Dragged(double left, double x, std::int32_t downX) const;
 };
 

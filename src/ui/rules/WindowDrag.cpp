@@ -7,8 +7,8 @@ WindowDrag WindowDragAt(bool desktopPlaces, std::int32_t awayPx, std::int32_t dr
 {
     if (!desktopPlaces)
         return WindowDrag::MoveItself;
-    // The desktop takes the pointer over. Asked at the press, it may hold the window to the pointer for good where the
-    // button is up before the question arrives, and a double click may lose its second press.
+    // The desktop takes over the pointer. If it is asked at the press, the window may stick to the pointer when the
+    // button is released before the request arrives, and a double click may lose its second press.
     return awayPx < dragDistancePx ? WindowDrag::Wait : WindowDrag::AskDesktop;
 }
 

@@ -11,7 +11,7 @@
 namespace sprout {
 namespace {
 
-/// So many frames that hold 100 and -200.
+/// `count` frames that hold 100 and -200.
 std::vector<std::byte> Frames(std::size_t count)
 {
     std::vector<std::int16_t> samples;
@@ -42,7 +42,7 @@ TEST(CaptureIntake, AHoleIsCountedAndSilenceStandsInItsPlace)
     CaptureIntake intake;
     {
         CaptureWriter writer(*files);
-        intake.Take(Frames(5)); // ahead of the keeping
+        intake.Take(Frames(5)); // before it keeps anything
         intake.KeepIn(&writer);
         intake.Take(Frames(2));
         intake.TakeHole(3);

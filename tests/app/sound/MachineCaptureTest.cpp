@@ -28,14 +28,14 @@ namespace {
 namespace fs = std::filesystem;
 using Clock = std::chrono::steady_clock;
 
-/// A microphone at a server of the test's own, and a capture.
+/// A capture, and a microphone at a private server.
 class MachineCaptureTest : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(server.Start()); }
 
     void Plug(const std::string& name) { ASSERT_TRUE(server.AddMicrophone(name)); }
 
-    /// Plays a ramp into the microphone until it is heard whole.
+    /// Plays a ramp into the microphone until all of it is heard.
     std::future<std::string> Play(const std::string& sink, int frames, int firstLap = 1)
     {
         const fs::path file = folder.Path() / ("ramp" + sink);
@@ -261,7 +261,7 @@ TEST_F(MachineCaptureTest, OnlyAVolumeAboveZeroUnmutesASource)
     };
     ASSERT_TRUE(server.Does({"set-source-mute", "mic1-mic", "1"}));
     const auto turnsTo = [this](std::int32_t volume) {
-        return Comes([&] { return Volume("mic1-for-people") == volume; }); // a server may tell of it later
+        return Comes([&] { return Volume("mic1-for-people") == volume; }); // a server may report it later
     };
     capture.SetVolume(IndexOf("mic1-for-people"), 0);
     EXPECT_TRUE(turnsTo(0));
@@ -277,7 +277,7 @@ TEST_F(MachineCaptureTest, OnlyAVolumeAboveZeroUnmutesASource)
 TEST_F(MachineCaptureTest, AVolumeChangedFromOutsideIsSeen)
 {
     Plug("mic1");
-    EXPECT_EQ(Volume("mic1-for-people"), 65535); // the list is told before the opening
+    EXPECT_EQ(Volume("mic1-for-people"), 65535); // the list is available before the opening
     const std::uint64_t changes = capture.SourceChanges();
     ASSERT_TRUE(server.Does({"set-source-volume", "mic1-mic", "50%"}));
     EXPECT_TRUE(Comes([&] { return capture.SourceChanges() != changes; }));
@@ -391,7 +391,7 @@ TEST_F(MachineCaptureTest, AStoppedCaptureIsLockedUntilTheRelease)
     EXPECT_TRUE(fs::exists(left));
     EXPECT_TRUE(fs::exists(right));
     capture.Release();
-    EXPECT_TRUE(Comes([this] { // the files are closed behind the call
+    EXPECT_TRUE(Comes([this] { // the files are closed after the call
         DeleteLeftCaptureFiles(folder.Path());
         return !fs::exists(left) && !fs::exists(right);
     }));
@@ -521,7 +521,7 @@ TEST_F(MachineCaptureTest, WhatAKilledProgramRecordedIsDeletedByTheNextStart)
     EXPECT_TRUE(Comes([&] { return !fs::exists(left) && !fs::exists(right); }));
 }
 
-/// A machine without a server, on which SDL captures what stands in a file.
+/// A machine without a server, where SDL captures the contents of a file.
 class SdlMachineCaptureTest : public ::testing::Test {
 protected:
     SdlMachineCaptureTest()

@@ -26,7 +26,7 @@ bool IsOfSdl(const SoundHandle& sound)
     return dynamic_cast<SdlSound*>(sound.get()) != nullptr;
 }
 
-/// A machine on which SDL finds a device of its own, without the user having named one.
+/// A machine on which SDL finds a device without the user having named one.
 class MachineSoundTest : public ::testing::Test {
 protected:
     MachineSoundTest() { Sdl().SetHint("SDL_AUDIODRIVER", "dummy"); }
@@ -89,7 +89,7 @@ TEST_F(MachineSoundTest, AServerThatDiesLeavesSdlAndOneThatComesIsFoundWithTheNe
     server.Kill();
     const auto latest = std::chrono::steady_clock::now() + std::chrono::seconds(30);
     while (!IsOfSdl(sound) && std::chrono::steady_clock::now() < latest)
-        sound = Opened(std::move(sound)); // that the server is gone is not known at once
+        sound = Opened(std::move(sound)); // it is not known at once that the server is gone
     ASSERT_TRUE(IsOfSdl(sound));
     ASSERT_TRUE(server.Start());
     const SoundObject* const device = sound.get();

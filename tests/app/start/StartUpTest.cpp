@@ -189,7 +189,7 @@ TEST_F(StartUp, TellsAFailedCopyAndGoesOnWithTheNext)
 
 TEST_F(StartUp, IsWholeAfterAKillOfTheOneBefore)
 {
-    // Each seventh call: a start makes hundreds, and those of a copy are met one by one in its own test.
+    // Every seventh call: a start makes hundreds, and those of a copy are tested one by one elsewhere.
     constexpr int step = 7 * kKillStep;
     const auto start = [] { RunStartUp(); };
     for (int call = 1; KilledAtSystemCall(call, start); call += step) {
@@ -353,7 +353,7 @@ TEST_F(StartUp, ReadsTheOptionsInTheirOppositeSenses)
     }
 }
 
-/// Fails the first time that it is asked.
+/// Fails at the first call.
 class FilesThatFailOnce : public PosixFiles {
 public:
     [[nodiscard]] std::optional<FileFacts> FactsOf(const fs::path& file) const override

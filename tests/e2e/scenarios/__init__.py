@@ -1,12 +1,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""What a user does at the desk, and what must come of it. Each scenario is a function of a desk."""
+"""What a user does at the desk, and what must happen then. Each scenario is a function that takes a desk."""
 import importlib
 
 MODULES = ("playing", "saving", "starting", "window", "tunes", "sharing", "recording", "memory")
 
 
 def all_scenarios():
-    """Name and function of each, in order."""
+    """The name and function of each, in order."""
     found = {}
     for name in MODULES:
         module = importlib.import_module(f"scenarios.{name}")
@@ -17,7 +17,7 @@ def all_scenarios():
 
 
 def scenario(**desk_options):
-    """Marks a scenario. desk_options: what its desk is like, see `Desk`."""
+    """Marks a scenario. desk_options: the options of its desk, see `Desk`."""
     def mark(function):
         function.desk_options = desk_options
         return function

@@ -9,7 +9,7 @@ from scenarios.sharing import save_as_sound
 from scenarios.steps import close, expect_recording_of, give_short_song, open_song, play, SHORT_SONG
 from scenarios.tunes import click_step, leave_tune_window, ICON_Y, LAMP_Y
 
-# What the program may take beside its open windows.
+# The memory that the program may use beyond what its open windows need.
 ROOM = 120 << 20
 LONG_SONGS = ("Zumi", "Parade", "Sunny Street")
 WHOLE_SONG = 1280
@@ -17,7 +17,7 @@ MESSAGES = ("Msg1BtnFrm", "Msg1Btn2NoteFrm", "PlainBoxFrm")
 
 
 def address_space(program):
-    """How much of it the program has, in bytes."""
+    """The size of the program's address space, in bytes."""
     with open(f"/proc/{program.process.pid}/status", encoding="ascii") as status:
         return next(int(line.split()[1]) << 10 for line in status if line.startswith("VmSize:"))
 
@@ -38,7 +38,7 @@ def open_all_windows(desk, program):
 
 
 def play_or_hear_why_not(program):
-    """Presses Play All and waits until it sounds, or until a message tells what is wrong, which is closed."""
+    """Presses Play All and waits until it sounds or a message says what is wrong; the message is closed."""
     program.click("PlayAllBtn")
 
     def answer():
@@ -52,7 +52,7 @@ def play_or_hear_why_not(program):
 
 @scenario()
 def LittleMemory(desk):
-    """With 120 MB beside what its windows need, the program opens, plays and saves, or says why it cannot and goes on."""
+    """With 120 MB above what its windows need, the program opens, plays and saves, or says why not and goes on."""
     give_short_song(desk)
     for song in LONG_SONGS:
         give_short_song(desk, song, WHOLE_SONG, song)

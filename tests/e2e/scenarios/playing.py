@@ -13,7 +13,7 @@ from scenarios.steps import (cell_place, close, expect_recording_of, expect_rend
 
 @scenario()
 def PlayWholeSong(desk):
-    """A library song, chosen in the song window, is heard sample for sample; the marker runs along and disappears."""
+    """A library song, chosen in the song window, is heard sample for sample; the marker moves along and disappears."""
     program = desk.start()
     open_song(program, "Parade")
     open_song(program, "Zumi")
@@ -29,7 +29,7 @@ def PlayWholeSong(desk):
 
 @scenario()
 def PlayShortSong(desk, times=2):
-    """A song played again and again is heard sample for sample each time."""
+    """A song played repeatedly is heard sample for sample each time."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -42,7 +42,7 @@ def PlayShortSong(desk, times=2):
 
 @scenario()
 def PaintAndPlay(desk):
-    """What the mouse paints and erases is what is heard and what is saved."""
+    """What the mouse paints and erases is heard and saved."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -59,7 +59,7 @@ def PaintAndPlay(desk):
 
 @scenario()
 def TakeStrokeBack(desk):
-    """A stroke that is dragged back leaves what was painted before it."""
+    """Dragging a stroke back restores what was painted before it."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -77,7 +77,7 @@ def TakeStrokeBack(desk):
 
 @scenario()
 def ChangeTempo(desk):
-    """The dragged slider changes what is heard, shown and saved."""
+    """Dragging the slider changes what is heard, shown and saved."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -97,7 +97,7 @@ def ChangeTempo(desk):
 
 @scenario()
 def SoundServerDies(desk):
-    """A sound server that dies ends the play; when it is back, the next play is heard whole."""
+    """If the sound server dies the play ends; when it is back, the next play is heard completely."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -113,7 +113,7 @@ def SoundServerDies(desk):
 
 @scenario()
 def StopAndPlayFromCell(desk):
-    """Stop is heard at once, and a click on the time band plays from there."""
+    """Stop takes effect at once, and a click on the time band plays from there."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -133,7 +133,7 @@ def StopAndPlayFromCell(desk):
 
 @scenario()
 def HearTracks(desk):
-    """A pointer that rests on the picture of a tune lets it sound; the button beside it plays the track."""
+    """Resting the pointer on a tune's picture plays the tune; the button beside it plays the track."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -157,7 +157,7 @@ def HearTracks(desk):
 
 
 def PaintWhilePlaying(desk, seconds=300):
-    """A long song is heard whole while strokes are painted all the time: they wait for the next play."""
+    """A long song is heard completely while strokes are painted all the time: they wait for the next play."""
     give_short_song(desk, cells=608, name="Long")
     program = desk.start()
     open_song(program, "Long")

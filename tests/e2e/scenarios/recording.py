@@ -9,11 +9,11 @@ from scenarios import scenario
 from scenarios.steps import cell_place, close, expect_recording_of, play, save_song, stop, ROW_HEIGHT, ROW_MIDDLE
 
 SECONDS = 1.5
-AUDIO_TRACK = 3  # behind the two of a new song
+AUDIO_TRACK = 3  # after the two of a new song
 
 
 def ramp(seconds=SECONDS):
-    """Frames of which no two in a row are alike: the frame's number, from 1, over both channels."""
+    """Frames that all differ from the one before: the frame's number, from 1, spread over both channels."""
     frames = bytearray()
     for number in range(1, int(seconds * RATE) + 1):
         frames += struct.pack("<hh", number % 181 - 90, (number // 181) % 20000 + 1)
@@ -37,7 +37,7 @@ def new_song(program):
 
 
 def paint_voice(desk, program):
-    """Paints the audio track, over the whole length of what was recorded."""
+    """Paints the audio track over the whole length of the recording."""
     canvas = program.wait_for("TrackPic")
     program.click("BrushBtn")
     desk.mouse.drag([cell_place(canvas, AUDIO_TRACK, cell) for cell in range(1, 140)])
@@ -53,7 +53,7 @@ def expect_no_voice_left(desk):
 
 
 def expect_voice(desk, song, wanted):
-    """The frames that were played into the microphone are on the painted track. Gives all that sounds there."""
+    """The frames that were played into the microphone are on the painted track. Returns all that sounds there."""
     told = desk.info(song)["song"]["tracks"]
     expect(len(told) == AUDIO_TRACK and told[-1]["audio"], "there is no audio track")
     heard = track_frames(desk, song, AUDIO_TRACK)
@@ -68,7 +68,7 @@ def track_frames(desk, song, track):
 
 @scenario()
 def RecordEditAndPlay(desk):
-    """A child's voice becomes a track, sample for sample; edited and painted it is heard as it is saved."""
+    """A child's voice becomes a track, sample for sample; edited and painted, it is heard as it is saved."""
     microphone = desk.sound.plug_in_microphone()
     program = desk.start()
     new_song(program)
@@ -82,7 +82,7 @@ def RecordEditAndPlay(desk):
     painted = SongFile(desk.song("Voice")).painted(AUDIO_TRACK)
     expect(painted[:139] == list(range(1, 140)), "the track is painted otherwise")
 
-    # Everything louder, by a quarter.
+    # Everything a quarter louder.
     strip = program.wait_for("TrackTitlePic")
     desk.mouse.move(strip.at(40, (AUDIO_TRACK - 1) * ROW_HEIGHT + ROW_MIDDLE))
     program.click("TrackAudioBtn")
@@ -97,7 +97,7 @@ def RecordEditAndPlay(desk):
     loudest = max(memoryview(louder).cast("h"))
     expect(loudest == round(1.25 * max(memoryview(heard).cast("h"))), f"the loudest sample is {loudest} now")
 
-    stop(desk, program)  # the editor let its sound be heard
+    stop(desk, program)  # the editor has played its sound
     recording = play(desk, program)
     wait_for("the sound", recording.sounds)
     expect_recording_of(desk, program, recording, desk.song("Voice"))
@@ -107,7 +107,7 @@ def RecordEditAndPlay(desk):
 
 @scenario()
 def RecordWithoutMicrophone(desk):
-    """Where no microphone is, the child is told, and the computer's own sound is never recorded."""
+    """Without a microphone the child is told, and the computer's own sound is never recorded."""
     program = desk.start()
     program.click("TrackAddRecBtn")
     program.click("StartRecordingBtn", form="Msg3BtnFrm")
@@ -122,7 +122,7 @@ def RecordWithoutMicrophone(desk):
 
 @scenario()
 def TwoProgramsRecord(desk):
-    """Two children record at once, each with a program: each gets the whole sound and no file of the other's."""
+    """Two children record at once with two programs: each gets the whole sound and none of the other's files."""
     microphone = desk.sound.plug_in_microphone()
     programs = {name: desk.start(name=name) for name in ("Anna", "Ben")}
     for program in programs.values():
@@ -135,7 +135,7 @@ def TwoProgramsRecord(desk):
     for name, program in programs.items():
         program.to_front("Recd_Frm")
         finish_recording(program)
-        program.to_front("MainFrm")  # with the form the other program's window came to the front
+        program.to_front("MainFrm")  # the form also brought the other program's window to the front
         paint_voice(desk, program)
         save_song(program, name)
         expect_voice(desk, desk.song(name), wanted)
@@ -145,7 +145,7 @@ def TwoProgramsRecord(desk):
 
 @scenario()
 def KillWhileRecording(desk):
-    """A program that is killed while it records leaves its files to the next start, which deletes them."""
+    """A program that is killed while it records leaves its files; the next start deletes them."""
     desk.sound.plug_in_microphone()
     program = desk.start()
     start_recording(program)

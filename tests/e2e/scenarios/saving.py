@@ -32,7 +32,7 @@ def SaveUnderNewName(desk):
 
 @scenario()
 def AskBeforeClosing(desk):
-    """A changed song is asked about: cancel stays, no forgets, yes saves."""
+    """Closing asks about a changed song: cancel stays, no discards, yes saves."""
     give_short_song(desk)
     program = desk.start()
     open_song(program, SHORT_SONG)
@@ -61,7 +61,7 @@ def AskBeforeClosing(desk):
 
 @scenario()
 def KeepTheSongAtTheSystemsEnd(desk):
-    """A song that was not saved when the system ended the program is kept beside the others; the next start tells so."""
+    """If the system ends the program, an unsaved song is kept beside the others; the next start says so."""
     give_short_song(desk)
     for number, ending in enumerate((signal.SIGTERM, signal.SIGHUP)):
         kept = SHORT_SONG + (" kept" if number == 0 else " kept 2")
@@ -92,7 +92,7 @@ def KeepTheSongAtTheSystemsEnd(desk):
 
 
 def go_to(desk, program, name):
-    """Presses the tabulator until a control has the focus."""
+    """Presses Tab until a control has the focus."""
     def focused():
         if program.wait_for(name).told["focus"]:
             return True
@@ -103,7 +103,7 @@ def go_to(desk, program, name):
 
 @scenario()
 def UseKeysAlone(desk):
-    """Without a mouse a song is opened, painted, heard, saved and left."""
+    """A song is opened, painted, heard, saved and closed without a mouse."""
     give_short_song(desk)
     program = desk.start()
     desk.keyboard.press("ctrl+o")

@@ -18,7 +18,7 @@ BUTTONS = {"wav": "SavWavBtn", "wma": "SavWmaBtn"}
 
 
 def choose_file(program, path):
-    """Types a path into the dialog for a file."""
+    """Types a path into the file dialog."""
     program.wait_for_window("QFileDialog")
     program.type_into("fileNameEdit", path)
     program.desk.keyboard.press("Return")
@@ -30,7 +30,7 @@ def choose_file(program, path):
 
 
 def save_as_sound(program, kind, path):
-    """Saves under a path, whose extension the program adds."""
+    """Saves under a path; the program adds the extension."""
     program.click("SaveBtn")
     program.click(BUTTONS[kind], form="SongSelFrm")
     choose_file(program, os.path.splitext(path)[0])
@@ -41,14 +41,14 @@ def save_as_sound(program, kind, path):
 
 
 def probe(path, *entries):
-    """What ffprobe tells of a file, by entry."""
+    """What ffprobe reports about a file, by entry."""
     told = subprocess.run(["ffprobe", "-v", "error", "-show_entries", ":".join(entries), "-of", "default=nw=1", path],
                           check=True, text=True, stdout=subprocess.PIPE).stdout
     return dict(line.split("=", 1) for line in told.splitlines() if "=" in line)
 
 
 def decode(path):
-    """Its frames as ffmpeg decodes them, stereo of 16 bits."""
+    """The frames of a file as ffmpeg decodes them, in 16-bit stereo."""
     return subprocess.run(["ffmpeg", "-v", "error", "-i", path, "-f", "s16le", "-ac", "2", "-ar", "44100", "-"],
                           check=True, stdout=subprocess.PIPE).stdout
 
@@ -65,7 +65,7 @@ def expect_zumi_as_wma(path, frames):
 
 
 def signal_to_noise(wanted, heard):
-    """In dB, over the frames of `wanted`, a sample in every 16."""
+    """In dB, over the frames of `wanted`, from every 16th sample."""
     pairs = zip(memoryview(wanted).cast("h")[::16], memoryview(heard).cast("h")[::16])
     signal = noise = 1e-9
     for sample, other in pairs:
@@ -99,7 +99,7 @@ class MailDesk:
                             "XDG_DATA_DIRS": os.path.join(self.folder, "share") + ":/usr/share"}
 
     def add_program(self, name, desktop_file, categories):
-        """A program that notes its words, and its desktop file."""
+        """Adds a program that notes its arguments, and its desktop file."""
         program = os.path.join(self.folder, name)
         write_program(program, f'printf "%s\\0" "$@" > {self.noted}.part\nmv {self.noted}.part {self.noted}\n')
         with open(os.path.join(self.applications, desktop_file), "w", encoding="utf-8") as file:
@@ -116,7 +116,7 @@ class MailDesk:
 
 @scenario()
 def TakeSongHome(desk):
-    """Zumi leaves the program as WAV and WMA, the same samples that are rendered, and by mail."""
+    """Zumi leaves the program as WAV and WMA, with the same samples as the rendering, and by mail."""
     mail = MailDesk(desk, "letters.desktop")
     mail.add_program("xdg-email", "letters.desktop", "Network;Email;")
     program = desk.start(**mail.environment)
@@ -148,7 +148,7 @@ def TakeSongHome(desk):
 
 @scenario()
 def StopALongExport(desk):
-    """Work that lasts shows how far it is; its Stop leaves the file of before, and the window goes on."""
+    """Long work shows its progress; its Stop keeps the earlier file, and the window goes on."""
     song = SongFile(os.path.join(desk.program_folder, "Sprout", "Songs", ZUMI + ".TqSng"))
     song.lengthen(SLOWEST_TEMPO)
     os.makedirs(desk.songs)
@@ -176,7 +176,7 @@ def StopALongExport(desk):
 
 @scenario()
 def MailByThunderbirdOrNobody(desk):
-    """Thunderbird gets the song in its own way; where only a web browser takes mails, the song's place is told."""
+    """Thunderbird gets the song in its own way; if only a web browser takes mails, the song's place is shown."""
     mail = MailDesk(desk, "thunderbird.desktop")
     mail.add_program("thunderbird", "thunderbird.desktop", "Network;Email;")
     program = desk.start(**mail.environment)
@@ -207,7 +207,7 @@ def MailByThunderbirdOrNobody(desk):
 
 @scenario()
 def HideTheMail(desk):
-    """A school's setting takes the button of the mail away."""
+    """A setting for schools removes the mail button."""
     with open(desk.settings, "w", encoding="utf-8") as settings:
         settings.write("[General]\nHideEmail=1\n")
     program = desk.start()
@@ -218,7 +218,7 @@ def HideTheMail(desk):
 
 @scenario()
 def MakeBeatsOfOtherSounds(desk):
-    """Recordings of telephones and other players' files become instruments of 44,100 Hz and at most five seconds."""
+    """Recordings from phones and files of other players become instruments of 44,100 Hz and at most five seconds."""
     picture = os.path.join(desk.folder, "face.png")
     subprocess.run(["ffmpeg", "-v", "error", "-f", "lavfi", "-i", "color=red:32x32", "-frames:v", "1", picture], check=True)
     program = desk.start()

@@ -24,7 +24,7 @@ def FirstStart(desk):
 
 @scenario()
 def NoDisplay(desk):
-    """Without a display the program says so in one sentence, and ends with 1."""
+    """Without a display the program says so in one sentence and exits with 1."""
     for display in (None, ":60000"):
         environment = desk.environment(DISPLAY=display, QT_QPA_PLATFORM=None, QT_QPA_GENERIC_PLUGINS=None)
         done = subprocess.run([desk.executable], env=environment, text=True, stdout=subprocess.PIPE,
@@ -36,7 +36,7 @@ def NoDisplay(desk):
 
 @scenario(sound=False)
 def NoSoundServer(desk):
-    """Without a sound device the window says so, and the first play what can be done; songs can be painted and saved."""
+    """Without a sound device the window says so, and the first play says what to do; songs can be painted and saved."""
     give_short_song(desk)
     program = desk.start(ALSA_CONFIG_PATH="/dev/null")  # the machine's own devices do not count
     program.wait_for("SoundStatusLbl", "Device Failed:")
@@ -53,14 +53,14 @@ def NoSoundServer(desk):
 
 
 def expect_to_fit(desk, program, kind, least_buttons):
-    """A window lies on the screen, and none of its buttons is cut or lies over another."""
+    """A window is on the screen, and none of its buttons is cut or overlaps another."""
     program.wait_for_window(kind)
     widgets = program.widgets()
     window = next(widget for widget in widgets if widget.kind == kind)
     width, height = desk.screen.size
     expect(window.x >= 0 and window.y >= 0 and window.x + window.width <= width and
            window.y + window.height <= height, f"{kind} reaches out of the screen: {window.told}")
-    # The track buttons move with the tracks, that of all steps with the steps.
+    # The track buttons move with the tracks, the button of all steps with the steps.
     buttons = [widget for widget in widgets
                if widget.kind == "ImageButton" and widget.told["window"] == window.told["window"] and
                not widget.name.startswith("Track") and widget.name != "ChangeAllBtn"]
@@ -73,7 +73,7 @@ def expect_to_fit(desk, program, kind, least_buttons):
 
 @scenario(screen_size="800x600")
 def SmallScreen(desk):
-    """On a small screen all windows fit, and no button lies over another or outside."""
+    """On a small screen all windows fit, and no button overlaps another or lies outside."""
     give_short_song(desk)
     program = desk.start()
     expect_to_fit(desk, program, "MainFrm", 16)

@@ -11,13 +11,13 @@ FIRST_ROW_TOP = 20
 PAINTED_TOP = 7
 ROW_MIDDLE = FIRST_ROW_TOP + PAINTED_TOP + 16
 
-# Cells of the short song; it is the beginning of a song of the library.
+# The cells of the short song, which is the beginning of a library song.
 SHORT_CELLS = 32
 SHORT_SONG = "Hop"
 
 
 def give_short_song(desk, source="Zumi", cells=SHORT_CELLS, name=SHORT_SONG):
-    """Puts a song of few cells into the user's folder, before the program starts for the first time."""
+    """Puts a song with few cells into the user's folder before the program starts for the first time."""
     song = SongFile(os.path.join(desk.program_folder, "Sprout", "Songs", source + ".TqSng"))
     song.keep_cells(1, cells)
     os.makedirs(desk.songs, exist_ok=True)
@@ -33,7 +33,7 @@ def open_song(program, name):
 
 
 def save_song(program, name=None):
-    """Saves under the present name, or another."""
+    """Saves under the current name, or another."""
     program.click("SaveBtn")
     if name:
         program.type_into("SongNameTxt", name, form="SongSelFrm")
@@ -53,7 +53,7 @@ def close(program):
 
 
 def cell_place(canvas, track, cell):
-    """Where a cell lies on the screen, while the canvas shows the song's beginning."""
+    """Where a cell is on the screen while the canvas shows the song's beginning."""
     return canvas.at((cell - 1) * CELL_WIDTH, (track - 1) * ROW_HEIGHT + ROW_MIDDLE)
 
 
@@ -66,7 +66,7 @@ def stroke(program, track, first, last, tool="BrushBtn"):
 
 
 def play(desk, program):
-    """Presses Play All and gives the recording of what then sounds."""
+    """Presses Play All and returns a recording of what sounds then."""
     recording = desk.sound.record()
     program.click("PlayAllBtn")
     return recording
@@ -79,7 +79,7 @@ def wait_until_quiet(desk):
 
 
 def stop(desk, program):
-    """Presses Stop and waits for silence: a stroke lets its tune sound."""
+    """Presses Stop and waits for silence: a stroke plays its tune."""
     program.click("PlayStopBtn")
     wait_until_quiet(desk)
 
@@ -94,7 +94,7 @@ def expect_recording_of(desk, program, recording, song):
 
 
 def expect_render_of_saved(desk, program, name):
-    """Plays what the window shows, saves it, and finds that what was heard is the saved song."""
+    """Plays what the window shows, saves it, and checks that the saved song is what was heard."""
     recording = play(desk, program)
     wait_for("the sound", recording.sounds)
     save_song(program, name)

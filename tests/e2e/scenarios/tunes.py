@@ -15,7 +15,7 @@ LAMP_Y = 31
 ICON_Y = 95
 UPPER_OCTAVE_TOP = 141
 LOWER_OCTAVE_TOP = 213
-# Rows of white keys inside an octave, and the pitch that they stand for in the upper one.
+# Rows of white keys in an octave, by their pitch in the upper one.
 KEY_ROWS = {0: 70, 4: 45, 7: 28, 11: 3}
 
 
@@ -24,11 +24,11 @@ def grid_place(program, column, row, form):
 
 
 def choose_tune(desk, program, column, row):
-    """Chooses a tune of the grid and gives its name, once the editor shows it."""
+    """Chooses a tune of the grid and returns its name once the editor shows it."""
     before = program.text_of("TuneNameLbl")
     desk.mouse.click(grid_place(program, column, row, "TuneFrm2"))
     wait_for("another tune", lambda: program.text_of("TuneNameLbl") != before)
-    # As long as only the grid shows a tune, its author stands behind a word.
+    # While only the grid shows a tune, a word stands before its author.
     wait_for("the tune in the editor", lambda: not program.text_of("CreatedByLbl").startswith("By: "))
     return program.text_of("TuneNameLbl")
 
@@ -81,8 +81,8 @@ def steps_of(desk, path):
 
 @scenario()
 def MakeSongOfTunes(desk):
-    """Tunes chosen from the grid and changed step by step are heard as they are saved, and stand in the grid at the
-    next start."""
+    """Tunes chosen from the grid and changed step by step are heard as they are saved, and are in the grid at the next
+    start."""
     give_short_song(desk)
     program = desk.start()
     program.wait_for("SngTitleLbl", "Untitled")
@@ -129,7 +129,7 @@ def check_song(desk, plain, on, off, beat):
 
 
 def find_tune_in_grid(desk):
-    """A saved tune stands behind all others."""
+    """A saved tune comes after all others."""
     program = desk.start()
     program.click("TrackAddBtn")
     program.wait_for_window("TuneFrm2")

@@ -17,7 +17,7 @@ NORMAL = (192, 108, 1536, 864)
 
 
 def start_in_normal_place(desk):
-    """The first start shows the window maximised; restored it stands in the middle, four fifths of the screen."""
+    """The first start shows the window maximised; restored, it is in the middle with four fifths of the screen."""
     program = desk.start()
     wait_for_place(program, FULL)
     program.click("RestoreImgBtn")
@@ -27,7 +27,7 @@ def start_in_normal_place(desk):
 
 @scenario()
 def MoveAndResize(desk):
-    """The title band moves the window, an edge resizes it, and the next start finds its place again."""
+    """The title band moves the window, an edge resizes it, and the next start restores its place."""
     give_short_song(desk)
     program = start_in_normal_place(desk)
     x, y, width, height = NORMAL

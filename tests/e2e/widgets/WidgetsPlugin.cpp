@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// A plug-in that Qt itself loads into the program under test, unchanged as it is, where the environment asks for it:
-// it tells where the controls are and what they say. It answers on the interface thread, so that an answer also means
-// that the program waits for its user.
+// A plug-in that reports where the controls are and what they say. Qt loads it into the unchanged program under test if
+// the environment asks for it. It answers on the interface thread, so an answer also means that the program waits for
+// its user.
 #include <QGenericPlugin>
 #include <QJsonDocument>
 #include <QSocketNotifier>
@@ -20,7 +20,7 @@ namespace sprout {
 
 namespace {
 
-/// A socket that listens at a path, -1 where it cannot.
+/// Returns a socket that listens at a path, or -1 if that fails.
 int ListenAt(const std::string& path)
 {
     sockaddr_un address{};
@@ -38,7 +38,7 @@ int ListenAt(const std::string& path)
     return listening;
 }
 
-/// Each connection is one question; the answer is the report.
+/// Each connection is one request; the answer is the report.
 void AnswerNext(int listening)
 {
     const int connection = ::accept4(listening, nullptr, nullptr, SOCK_CLOEXEC);

@@ -14,7 +14,7 @@ BarPlace PlaceOf(const ControlBarPlaces& places, BarTool tool)
     return places.tools[static_cast<std::size_t>(tool)];
 }
 
-/// All places of a bar that are not empty, those of the tools first.
+/// All places of a bar that are not empty, the tools first.
 std::vector<BarPlace> AllPlaces(const ControlBarPlaces& places)
 {
     std::vector<BarPlace> all(places.tools.begin(), places.tools.end());
@@ -29,7 +29,7 @@ std::int32_t Gap(std::int32_t at, std::int32_t extent, std::int32_t otherAt, std
     return at < otherAt ? otherAt - at - extent : at - otherAt - otherExtent;
 }
 
-/// Pixels between two places, negative where they overlap.
+/// The pixels between two places; negative if they overlap.
 std::int32_t Apart(const BarPlace& a, const BarPlace& b)
 {
     return std::max(Gap(a.left, a.width, b.left, b.width), Gap(a.top, a.height, b.top, b.height));
@@ -212,7 +212,7 @@ TEST(FitSongLine, StaysInsideItsRoom)
         for (std::int32_t room = 126; room < 900; ++room) {
             const SongLine line = FitSongLine(needs, room);
             ASSERT_LE(line.titleLeft + line.titleWidth, room);
-            ASSERT_GE(line.authorWidth, std::min(needs.author, 55)) << room; // seen at every width
+            ASSERT_GE(line.authorWidth, std::min(needs.author, 55)) << room; // visible at every width
             ASSERT_EQ(line.authorLeft + line.authorWidth, room);
         }
 }

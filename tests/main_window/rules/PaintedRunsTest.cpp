@@ -27,7 +27,7 @@ Track PaintedTrack(std::initializer_list<PaintedRun> runs)
 TEST(VisibleRuns, FindsEachMaximalStretchOfOnes)
 {
     Track track = PaintedTrack({{2, 4}, {8, 8}});
-    for (const std::int32_t erased : {5, 6}) // looks like never touched, beside a run and alone
+    for (const std::int32_t erased : {5, 6}) // looks as if never touched, beside a run and alone
         At(track.Painted, erased) = 2;
     EXPECT_THAT(VisibleRuns(track, kSongCells, NarrowView()), ElementsAre(PaintedRun{2, 4}, PaintedRun{8, 8}));
 }

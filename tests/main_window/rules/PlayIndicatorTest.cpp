@@ -8,7 +8,7 @@ namespace {
 
 constexpr TrackView kScrolled{2, 11, 600, 300, 300};
 
-/// Cell 31 of a track or of the whole song is heard.
+/// Cell 31 of a track or of the whole song is playing.
 PlayModState At31(std::int32_t track)
 {
     PlayModState play;

@@ -117,7 +117,7 @@ TEST_F(StrokeTest, ThePressedCellIsNeverTakenBack)
 {
     Press(Tool::Brush, 100);
     Move(Tool::Brush, 105);
-    EXPECT_FALSE(Move(Tool::Brush, 100)); // back on the start nothing changes
+    EXPECT_FALSE(Move(Tool::Brush, 100)); // back at the start nothing changes
     ExpectCells(100, 105, 1);
     Move(Tool::Brush, 99);
     EXPECT_EQ(Cell(100), 1);
@@ -136,7 +136,7 @@ TEST_F(StrokeTest, TakingBackTurnsNeverTouchedCellsInto2)
     Press(Tool::Brush, 100);
     Move(Tool::Brush, 104);
     Move(Tool::Brush, 102);
-    At(song.Tracks[2].Painted, 103) = 0; // as if never touched: 0 and 0
+    At(song.Tracks[2].Painted, 103) = 0; // as if it was never touched: 0 and 0
     song.Tracks[2].TrackRenderValid = true;
     EXPECT_TRUE(Move(Tool::Brush, 101));
     EXPECT_EQ(Cell(103), 2);

@@ -68,7 +68,7 @@ TEST(SecondsLabels, KeepsALabelThatBeginsLessThan5PixelsBeforeTheBand)
 {
     const SongState song = EmptySong(1);
     EXPECT_EQ(SecondsLabels(song, {1, 2, 60, 300, 300}).front().seconds, 0); // x = -3
-    EXPECT_EQ(SecondsLabels(song, {1, 3, 80, 300, 300}).front().seconds, 5); // 0 would stand at -6
+    EXPECT_EQ(SecondsLabels(song, {1, 3, 80, 300, 300}).front().seconds, 5); // 0 would be at -6
 }
 
 TEST(SecondsLabels, RunTo480AtHalfTheTempo)
@@ -96,11 +96,11 @@ TEST(SecondsLabels, GoFiveSecondsBeyondTheWholeLengthWhereTheBandHasRoom)
 TEST(SecondsLabels, BeginAtTheViewInASongOfAnyLength)
 {
     SongState song = EmptySong(0);
-    song.Tempo = 1; // a minute a cell
+    song.Tempo = 1; // a cell lasts a minute
     song.SongCells = 2'000'000'000;
     const auto labels = SecondsLabels(song, {1, 1'000'000'001, 6, 300, 300});
     ASSERT_FALSE(labels.empty());
-    EXPECT_LE(labels.size(), 45U); // every quarter of a pixel from -5 to 6
+    EXPECT_LE(labels.size(), 45U); // one every quarter of a pixel from -5 to 6
     EXPECT_NEAR(static_cast<double>(labels.front().seconds), 59'999'999'905.0, 5);
     EXPECT_DOUBLE_EQ(labels.back().x, 6);
 }

@@ -60,7 +60,7 @@ TEST(RowIsVisible, DrawsNothingAboveTheFirstTrack)
 
 TEST(RowIsVisible, ReachesARowBelowTheTitleStrip)
 {
-    // 300 / 46 = 6.52 rounds to 7: rows 0 to 7, of which the last begins at 342.
+    // 300 / 46 = 6.52 rounds to 7: rows 0 to 7, the last of which begins at 342.
     EXPECT_EQ(VisibleRows(ViewFrom()), 7);
     EXPECT_TRUE(RowIsVisible(ViewFrom(), 8));
     EXPECT_FALSE(RowIsVisible(ViewFrom(), 9));
@@ -112,7 +112,7 @@ TEST(HitTestTrack, TakesTheGapBelowTheBandForTheTrackScrolledOutAbove)
 TEST(HitTestTrack, EndsAtTheSurfacesHeightInWholeAndBrokenRows)
 {
     TrackView view = ViewFrom();
-    view.trackPicHeight = 92; // two rows exactly: the row of index 2 is still in reach
+    view.trackPicHeight = 92; // exactly two rows: the row with index 2 can still be hit
     EXPECT_TRUE(HitTestTrack(view, 9, kSongEnd, 0, 20 + 2 * 46).hit);
     EXPECT_FALSE(HitTestTrack(view, 9, kSongEnd, 0, 20 + 3 * 46).hit);
     view.trackPicHeight = 91; // 1.98 rows
@@ -142,7 +142,7 @@ TEST(TitleStripTrack, FindsTheTrackAndNoneOnTheTimeBand)
     EXPECT_EQ(TitleStripTrack(ViewFrom(), 2, 5), 0);
     EXPECT_EQ(TitleStripTrack(ViewFrom(), 2, 70), 2);
     EXPECT_EQ(TitleStripTrack(ViewFrom(), 2, 120), 0);
-    // Behind the song's last cell the strip still has its tracks.
+    // Beyond the song's last cell the strip still has its tracks.
     EXPECT_EQ(TitleStripTrack(ViewFrom(1, 1280), 2, 25), 1);
 }
 
@@ -183,7 +183,7 @@ TEST(FirstTrackForAdded, ScrollsNoFurtherThanTheButtonsBelowTheLastRowNeed)
     EXPECT_EQ(FirstTrackForAdded(view, 4), 1);
     EXPECT_EQ(FirstTrackForAdded(view, 5), 2);
     EXPECT_EQ(FirstTrackForAdded(view, 12), 9);
-    view.FirstTrack = 10; // further than needed stays
+    view.FirstTrack = 10; // a larger value than needed stays
     EXPECT_EQ(FirstTrackForAdded(view, 12), 9);
 }
 

@@ -67,7 +67,7 @@ TEST(CellInWords, SaysTrackCellAndWhetherItIsPainted)
     song.Tracks[2].Painted = {0, 0, kPaintedCell, kErasedCell};
     EXPECT_EQ(CellInWords(song, 2, 2), "Track 2, cell 2, painted");
     EXPECT_EQ(CellInWords(song, 2, 3), "Track 2, cell 3, empty");
-    EXPECT_EQ(CellInWords(song, 2, 900), "Track 2, cell 900, empty"); // beyond what was ever painted
+    EXPECT_EQ(CellInWords(song, 2, 900), "Track 2, cell 900, empty"); // beyond anything ever painted
     EXPECT_EQ(CellInWords(song, 0, 7), "Time, cell 7");
 }
 

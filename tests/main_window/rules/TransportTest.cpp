@@ -105,7 +105,7 @@ TEST(CheckTrackFromCell, GoesOnWherePaintLiesToTheRight)
 TEST(CheckTrackFromCell, TellsAClickBehindAllPaintFromATrackWithoutAny)
 {
     Track track = MusicTrack("Rain", 1);
-    At(track.Painted, 60) = 2; // erased is not painted
+    At(track.Painted, 60) = 2; // erased is not the same as painted
     EXPECT_EQ(CheckTrackFromCell(track, kSongCells, 51).message,
               (TwoLines{"Please paint on the track, after that you can play it.",
                         "Use the paint button and draw on the track."}));

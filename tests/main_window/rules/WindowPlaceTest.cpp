@@ -49,8 +49,8 @@ TEST(PlaceFromSettings, BringsAWindowBackWholeThatWouldLieNearlyOffTheScreen)
 {
     const WindowPlace whole{600, 400, 1000, 600};
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "23900,14900"), whole);
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "24001,15001"), whole); // of a screen that is gone
-    // Half of it in sight is left as it is.
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "24001,15001"), whole); // on a screen that is gone
+    // A place that is half visible is kept.
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10500"), (WindowPlace{1100, 700, 1000, 600}));
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16515,10500"), (WindowPlace{600, 700, 1000, 600}));
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10515"), (WindowPlace{1100, 400, 1000, 600}));

@@ -29,7 +29,7 @@ CaptureStatus Ended(CaptureEnd end, std::int64_t pieces)
     return status;
 }
 
-/// A view whose capture was started.
+/// A view whose capture has started.
 class CaptureViewTest : public testing::Test {
 protected:
     CaptureViewTest() { view.Start(); }

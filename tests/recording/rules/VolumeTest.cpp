@@ -66,7 +66,7 @@ TEST(LinesOfSources, HaveTheirWholeNamesIn3200Bytes)
     const SoundSource longName{std::string(319, 'n'), 5};
     EXPECT_EQ(LinesOfSources(SoundSources{std::vector<SoundSource>(20, longName), 0}).Lines.size(), 10U);
     std::vector<SoundSource> sources(10, longName);
-    sources.back().Name += 'n'; // a byte too long
+    sources.back().Name += 'n'; // one byte too long
     EXPECT_EQ(LinesOfSources(SoundSources{sources, 0}).Lines.size(), 9U);
 }
 

@@ -91,7 +91,7 @@ TEST(ChangeVolume, ComesBackFromSixUpsButNotFromSixDownsOfAQuietSound)
     for (const std::int16_t sample : std::vector<std::int16_t>{3, 7, 50, 999, -4321})
         EXPECT_EQ(SixAndSix(VolumeChange::Up, VolumeChange::Down, sample), sample);
     EXPECT_NE(SixAndSix(VolumeChange::Down, VolumeChange::Up, 50), 50);
-    EXPECT_NE(SixAndSix(VolumeChange::Up, VolumeChange::Down, 30000), 30000); // clipped on its way
+    EXPECT_NE(SixAndSix(VolumeChange::Up, VolumeChange::Down, 30000), 30000); // clipped on the way
 }
 
 TEST(CutSamples, MovesTheTailDownInBothChannels)

@@ -8,7 +8,7 @@
 
 namespace sprout {
 
-/// A mono wave of the program's rate.
+/// A mono wave at the program's sample rate.
 inline WaveData MonoOf(const std::vector<std::int16_t>& samples, std::int32_t bits = 16)
 {
     WaveData wave;
@@ -27,7 +27,7 @@ inline WaveData StereoOf(const std::vector<std::int16_t>& left, const std::vecto
     return wave;
 }
 
-/// A mono wave of silence.
+/// A silent mono wave.
 inline WaveData SilenceOf(std::int32_t length)
 {
     return MonoOf(std::vector<std::int16_t>(static_cast<std::size_t>(length)));

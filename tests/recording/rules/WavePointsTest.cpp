@@ -105,7 +105,7 @@ struct Marked {
     }
 };
 
-/// What is marked where samples 101 to 201 of 1000 are in view, a pixel each.
+/// What is marked if samples 101 to 201 of 1000 are in view, one per pixel.
 Marked MarkOf(std::int32_t start, std::int32_t end)
 {
     WaveView view;

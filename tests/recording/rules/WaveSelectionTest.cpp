@@ -11,7 +11,7 @@ using testing::ElementsAre;
 constexpr std::int32_t kWidth = 101;
 constexpr std::int32_t kLength = 1000;
 
-/// Samples 101 to 301, two of them a pixel.
+/// Samples 101 to 301, two per pixel.
 WaveView View()
 {
     WaveView view;
@@ -78,7 +78,7 @@ TEST(ReleaseWave, SelectsTheSameToTheLeftAsToTheRight)
 
 TEST(ReleaseWave, SelectsTwoNeighboursToTheLeftAsToTheRight)
 {
-    WaveView view; // a pixel a sample
+    WaveView view; // one pixel per sample
     for (const double x : {49, 51}) {
         PressWave(50, kWidth, 100, view);
         ReleaseWave(x, kWidth, 100, view);
@@ -122,7 +122,7 @@ TEST(DraggedBand, ReachesFromTheAnchorToTheMouseAndIsOnePixelWideAtLeast)
     EXPECT_THAT(band(500), ElementsAre(50, 51));
 }
 
-/// A view and its cursor that keys move.
+/// A view and its cursor, moved by keys.
 struct Keys {
     WaveView view = View();
     WaveCursor cursor;

@@ -71,7 +71,7 @@ TEST(PlaceWaveView, MovesTheViewBackFromTheEnd)
     EXPECT_EQ(PlaceAt(1000, -5, 100), (Part{1, 100, 101}));
 }
 
-// Wanted as it is: a short wave gets a span of 10 first, which is above its length at the next drawing.
+// Intended: a short wave first gets a span of 10, which exceeds its length at the next drawing.
 TEST(PlaceWaveView, DrawsAShortWaveWithTenSamplesFirstAndThenWithItsOwnLength)
 {
     for (const std::int32_t length : {1, 2, 9}) {
@@ -208,17 +208,17 @@ TEST(ZoomWave, NeverShowsMoreThanTheWaveNorLessThanThePixels)
 {
     EXPECT_EQ(Zoomed(WaveZoom::Out, 4500, 5000, 100).Span, 5000);
     EXPECT_EQ(Zoomed(WaveZoom::In, 110, 5000, 100).Span, 100);
-    EXPECT_EQ(Zoomed(WaveZoom::In, 60, 50, 100).Span, 100); // the drawing holds it to the length
+    EXPECT_EQ(Zoomed(WaveZoom::In, 60, 50, 100).Span, 100); // drawing limits it to the length
     EXPECT_EQ(Zoomed(WaveZoom::Out, 2000000000, 2100000000, 100).Span, 2100000000);
 }
 
 TEST(ZoomWave, PlacesTheViewByTheScrollBar)
 {
     EXPECT_EQ(Zoomed(WaveZoom::In, 1200, 5001, 100, 50).First, 2500);
-    EXPECT_EQ(Zoomed(WaveZoom::In, 1200, 5001, 100, 0).First, 0); // the drawing makes it 1
+    EXPECT_EQ(Zoomed(WaveZoom::In, 1200, 5001, 100, 0).First, 0); // drawing changes it to 1
 }
 
-// Wanted as it is: the same value of the bar walks on.
+// Intended: the same bar value moves the view again.
 TEST(ScrollWave, CountsFromTheSampleThatIsFirstNow)
 {
     WaveView view;

@@ -30,7 +30,7 @@ bool CanHave(std::size_t bytes)
     return true;
 }
 
-/// True when the question holds in a process with limits.
+/// Returns true if the question is true in a process with limits.
 bool HoldsInAChild(const std::function<bool()>& question)
 {
     const pid_t child = ::fork();
@@ -72,14 +72,14 @@ TEST(ChildLimits, EndTheChildWithItsParent)
     const pid_t parent = ::fork();
     if (parent == 0) {
         if (::fork() == 0) {
-            ::alarm(60); // where it is not ended
+            ::alarm(60); // in case it is not ended
             const bool isLimited = LimitChild(1000) && ::write(pipe[1], "x", 1) == 1;
             while (isLimited)
                 ::pause();
             ::_exit(1);
         }
         char byte = 0;
-        ::_exit(::read(pipe[0], &byte, 1) == 1 ? 0 : 1); // once its own child is limited
+        ::_exit(::read(pipe[0], &byte, 1) == 1 ? 0 : 1); // as soon as its own child is limited
     }
     ::close(pipe[1]);
     int status = -1;

@@ -21,7 +21,7 @@ namespace {
 using testing::HasSubstr;
 using testing::Not;
 
-constexpr std::int32_t kFrame = 2048; // the encoder's
+constexpr std::int32_t kFrame = 2048; // the encoder's frame
 
 /// What a program prints.
 std::string OutputOf(const std::string& command)
@@ -36,7 +36,7 @@ std::string OutputOf(const std::string& command)
     return output;
 }
 
-/// A WMA file on the disk for the programs that read it.
+/// A WMA file on disk for the programs that read it.
 class WmaOnDisk {
 public:
     explicit WmaOnDisk(const std::string& bytes) { WriteBytes(Path(), bytes); }
@@ -51,7 +51,7 @@ public:
         return samples;
     }
 
-    /// What ffprobe tells of `entries`, one line each.
+    /// What ffprobe reports about `entries`, one per line.
     [[nodiscard]] std::string Told(const std::string& entries) const
     {
         return OutputOf("ffprobe -v error -show_entries " + entries + " -of default=noprint_wrappers=1 " +
@@ -81,7 +81,7 @@ double Energy(const Samples& samples, std::size_t first, std::size_t count)
     return sum;
 }
 
-/// How far the decoded sound lies below the noise that the encoding added, in dB; infinite noise where it is short.
+/// The level of the source above the noise that the encoding added, in dB; missing samples count as 0.
 double SignalToNoise(const Samples& source, const Samples& decoded)
 {
     double noise = 0;
@@ -92,7 +92,7 @@ double SignalToNoise(const Samples& source, const Samples& decoded)
     return 10 * std::log10(Energy(source, 0, source.size()) / noise);
 }
 
-/// The shift in frames, to either side, at which the decoded sound is most like its source.
+/// The shift in frames, in either direction, at which the decoded sound is most similar to its source.
 std::int32_t BestShift(const Samples& source, const Samples& decoded)
 {
     constexpr std::int32_t most = kFrame + 10;
@@ -119,7 +119,7 @@ bool ProgramHolds(const std::string& library)
 
 TEST(FfmpegWmaEncoderDeathTest, BringsItsLibrariesWithLoadAndNotBefore)
 {
-    // A program of its own, in which nothing was loaded by another test.
+    // A separate program, in which no other test has loaded anything.
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     const auto load = [] {
         FfmpegWmaEncoder encoder;
@@ -168,7 +168,7 @@ TEST(FfmpegWmaEncoder, GivesEverySampleBackAtItsPlace)
     EXPECT_LT(decoded.size(), source.size() + 2 * 2 * kFrame);
     EXPECT_EQ(BestShift(source, decoded), 0);
     EXPECT_GE(SignalToNoise(source, decoded), 19.5);
-    // Its first and its last frame too.
+    // Including its first and last frames.
     for (std::size_t first = 0; first < source.size(); first += 2 * kFrame)
         EXPECT_GT(Energy(decoded, first, 2 * kFrame), Energy(source, first, 2 * kFrame) / 2) << first / 2;
 }
@@ -223,7 +223,7 @@ TEST(FfmpegWmaEncoder, MakesTheSameBytesOfPiecesOfAnySize)
         EXPECT_TRUE(Encode(bytes, file, piece));
         EXPECT_TRUE(file.bytes == whole) << piece;
     }
-    MemoryFile file; // bytes that are no frame fall away at the end
+    MemoryFile file; // bytes that do not fill a frame are dropped at the end
     EXPECT_TRUE(Encode(bytes.first(bytes.size() - 1), file, bytes.size()));
     EXPECT_TRUE(file.bytes == WmaOf({source.begin(), source.end() - 2}));
 }
@@ -265,7 +265,7 @@ TEST(FfmpegWmaEncoder, LeavesBlankTagsOut)
 TEST(FfmpegWmaEncoder, TellsTheLengthOfTheSong)
 {
     const WmaOnDisk wma(WmaOf(Music(5 * 44100)));
-    // The silence around the sound is four frames at most.
+    // The silence around the sound is at most four frames.
     const std::string told = wma.Told("format=duration");
     ASSERT_THAT(told, HasSubstr("duration="));
     EXPECT_NEAR(std::strtod(told.c_str() + told.find('=') + 1, nullptr), 5.1, 0.1);
@@ -284,7 +284,7 @@ TEST(FfmpegWmaEncoder, NeverTellsThatAFileIsWholeWhenItIsNot)
             file.failsFrom = nth;
             file.failsOnce = once;
             EXPECT_FALSE(Encode(bytes, file, 100000)) << nth;
-            EXPECT_EQ(file.calls, nth); // what failed is not tried again
+            EXPECT_EQ(file.calls, nth); // a failed call is not repeated
         }
     }
 }

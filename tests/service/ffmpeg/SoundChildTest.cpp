@@ -36,13 +36,13 @@ constexpr double kToneHz = 997;
 constexpr double kLevel = 29204.5; // 1 dB below full scale
 constexpr int kSourceRate = 48000;
 
-/// The built program, which lies beside the tests.
+/// The built program, which is beside the tests.
 fs::path Program()
 {
     return fs::read_symlink("/proc/self/exe").parent_path() / "sprout-read-sound";
 }
 
-/// Silence, then the tone.
+/// Silence, followed by the tone.
 Samples ToneBehind(int silentFrames, int toneFrames)
 {
     Samples samples(static_cast<std::size_t>(silentFrames), 0);
@@ -57,7 +57,7 @@ std::string BytesOf(const Samples& samples)
     return {reinterpret_cast<const char*>(samples.data()), samples.size() * 2};
 }
 
-/// What a WAV file with a head of 44 bytes holds.
+/// The contents of a WAV file with a head of 44 bytes.
 struct Heard {
     std::string head;
     int channels = 0;
@@ -84,10 +84,10 @@ std::int32_t NumberAt(const std::string& bytes, std::size_t place)
     return number;
 }
 
-/// The tone, laid over samples so that the least is left of them.
+/// The tone fitted to samples with the smallest remainder.
 struct Fit {
     double level = 0;
-    double sinad = 0; ///< in dB: the tone beside all that is left
+    double sinad = 0; ///< in dB: the tone compared with the remainder
 };
 
 Fit FitTone(const Samples& samples, std::size_t first, std::size_t last)
@@ -111,7 +111,7 @@ class SoundChildTest : public testing::Test {
 protected:
     fs::path In(const std::string& name) const { return services.folder.Path() / name; }
 
-    /// Has the program ffmpeg make a file; `input` and `output` are its own words.
+    /// Makes a file with the program ffmpeg; `input` and `output` are its arguments.
     fs::path Make(const std::string& name, const std::string& input, const std::string& output) const
     {
         const std::string line =
@@ -155,14 +155,14 @@ protected:
     SoundChild child{Program(), NewFile};
 };
 
-/// A way to write a sound, and what it does to it.
+/// A way to write a sound, and its effect on the sound.
 struct Kind {
     std::string name;
     std::string output;
     int channels = 1;
     double level = 1;
-    int moreFrames = 0;  ///< at the end: what the last block of a lossy codec holds more
-    int earlyFrames = 0; ///< at the begin: what is lost there
+    int moreFrames = 0;  ///< at the end: what the last block of a lossy codec adds
+    int earlyFrames = 0; ///< at the beginning: what is lost there
 };
 
 void PrintTo(const Kind& kind, std::ostream* out)
@@ -201,7 +201,7 @@ const Kind kKinds[] = {
     {"a.opus", "-c:a libopus"},
     {"a.flac", ""},
     {"a.m4a", "-c:a aac", 1, 1, 1000},
-    {"a.wma", "-c:a wmav2", 1, 1, 2048, 1882}, // whose first block only starts the decoder
+    {"a.wma", "-c:a wmav2", 1, 1, 2048, 1882}, // its first block only starts the decoder
     {"a.aiff", ""},
     {"a.webm", "-c:a libopus"},
     {"a.mkv", "-c:a libvorbis", 1, 1, 1000},
@@ -321,7 +321,7 @@ double ChildSeconds()
 TEST_F(SoundChildTest, DecodesNoMoreOfAnHourThanIsWanted)
 {
     const std::string minute = ReadBytes(Make("minute.mp3", "-f lavfi -i sine=duration=60", "-b:a 32k -write_xing 0"));
-    std::string hour; // such an mp3 does not tell its length
+    std::string hour; // such an mp3 does not contain its length
     for (int i = 0; i < 60; ++i)
         hour += minute;
     WriteBytes(In("hour.mp3"), hour);
@@ -370,7 +370,7 @@ TEST_F(SoundChildTest, FindsNoSoundInNoiseOrText)
 TEST_F(SoundChildTest, WaitsForNoPipeFolderOrDevice)
 {
     ASSERT_EQ(::mkfifo(In("pipe").c_str(), 0600), 0);
-    const fs::path content = Script("exit 0"); // whatever is in it
+    const fs::path content = Script("exit 0"); // whatever it contains
     for (const fs::path& path : {In("pipe"), services.folder.Path(), fs::path("/dev/zero"), In("missing")})
         EXPECT_EQ(ConvertBy(content, path).Outcome, Conversion::Unreadable) << path;
     ExpectNothingLeft();
@@ -395,7 +395,7 @@ TEST_F(SoundChildTest, HoldsItsTemporaryFileForItsOwnerAlone)
 TEST_F(SoundChildTest, HandsTheChildTheSoundAndTheLimitAndNoOtherFile)
 {
     WriteBytes(In("sound"), "the sound ");
-    const int open = ::dup(STDIN_FILENO); // a library's, which is not closed at an exec
+    const int open = ::dup(STDIN_FILENO); // as a library has it, not closed on exec
     const std::string program =
         "cat; echo \"$@\"; for n in 3 4 5 6 7 8 9; do [ -e /proc/self/fd/$n ] || echo -n $n; done";
     const Converted converted = ConvertBy(Script(program), In("sound"));
@@ -462,7 +462,7 @@ TEST_F(SoundChildTest, TellsOfAFullDisk)
 TEST_F(SoundChildTest, SaysWhereTheLibrariesAreMissing)
 {
     const fs::path sound = MakeFrom(ToneBehind(0, 4800), "a.flac", "");
-    fs::create_directory(In("libraries")); // what is found there first is no library
+    fs::create_directory(In("libraries")); // the files that are found first are not libraries
     for (int version = 50; version < 80; ++version)
         WriteBytes(In("libraries") / ("libavcodec.so." + std::to_string(version)), "");
     const std::string line = "LD_LIBRARY_PATH='" + In("libraries").native() + "' '" + Program().native() +

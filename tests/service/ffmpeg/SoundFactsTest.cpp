@@ -26,7 +26,7 @@ protected:
         return ReadSoundFacts(Path());
     }
 
-    /// False where a sentence told that the file is damaged.
+    /// Returns false if a sentence says that the file is damaged.
     [[nodiscard]] bool IsRead(const std::string& bytes) const
     {
         try {
@@ -111,7 +111,7 @@ TEST_F(SoundFactsOfAFile, AreSentenceOrFactsInADamagedFile)
 
 TEST_F(SoundFactsOfAFile, NeedTheHeadAlone)
 {
-    // Of a file of a gigabyte that ends in nothing: only its head is there.
+    // A file of a gigabyte without an end: only its head is there.
     WriteBytes(Path(), WmaOf(Music(44100)));
     std::filesystem::resize_file(Path(), 1U << 30);
     EXPECT_THROW(static_cast<void>(ReadSoundFacts(Path())), RunTimeError);

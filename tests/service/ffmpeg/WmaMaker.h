@@ -15,9 +15,9 @@
 
 namespace sprout {
 
-using Samples = std::vector<std::int16_t>; // of both channels in turn
+using Samples = std::vector<std::int16_t>; // of both channels, alternating
 
-/// A file in memory whose nth call can fail, and all calls behind it.
+/// A file in memory. Its nth call and all later ones can fail.
 class MemoryFile : public Replacement {
 public:
     void Write(std::span<const std::byte> written) override
@@ -37,7 +37,7 @@ public:
 
     std::string bytes;
     int calls = 0;
-    int failsFrom = 0; ///< 0: none fails
+    int failsFrom = 0; ///< 0: none of them
     bool failsOnce = false;
 
 private:
@@ -53,7 +53,7 @@ private:
 
 inline constexpr double kTwoPi = 6.283185307179586;
 
-/// Plucked tones over a soft chord; the channels differ.
+/// Plucked tones over a soft chord; the two channels differ.
 inline Samples Music(std::int32_t frames)
 {
     Samples samples;
@@ -73,7 +73,7 @@ inline Samples Music(std::int32_t frames)
 
 inline constexpr WmaFormat kUsualFormat = {.Format = 1};
 
-/// Encodes in pieces of `pieceBytes`; what the last calls told.
+/// Encodes in pieces of `pieceBytes`. Returns true if all writes and the close succeed.
 inline bool Encode(std::span<const std::byte> bytes, Replacement& target, std::size_t pieceBytes,
                    const WmaTags& tags = {}, const WmaFormat& format = kUsualFormat)
 {
@@ -91,7 +91,7 @@ inline bool Encode(std::span<const std::byte> bytes, Replacement& target, std::s
     return file->Close() && taken;
 }
 
-/// The bytes of a WMA file of `samples`; blank where it failed.
+/// The bytes of a WMA file of `samples`; empty if that failed.
 inline std::string WmaOf(const Samples& samples, const WmaTags& tags = {}, const WmaFormat& format = kUsualFormat)
 {
     MemoryFile file;

@@ -13,7 +13,7 @@
 namespace sprout {
 namespace {
 
-/// The settings of the machine are back when it ends.
+/// Restores the machine's settings at its end.
 class FontList : public ::testing::Test {
 protected:
     ~FontList() override
@@ -34,7 +34,7 @@ TEST_F(FontList, IsThereBeforeTheFirstFontIsAskedFor)
     FcFini();
     ReadFontListAhead().get();
 
-    // What is asked for now would be read anew, were it not there.
+    // If the list were not there yet, this would read another one.
     unsetenv("FONTCONFIG_FILE");
     FcStrList* const folders = FcConfigGetFontDirs(nullptr);
     const FcChar8* const first = FcStrListNext(folders);

@@ -41,7 +41,7 @@ Samples Read(const fs::path& path)
     return samples;
 }
 
-/// Every second sample from `first` on.
+/// Every second sample, beginning at `first`.
 Samples Half(const Samples& samples, std::size_t first)
 {
     Samples half;
@@ -210,7 +210,7 @@ TEST_F(CaptureWriterTest, FramesWithoutRoomAreTold)
     ASSERT_TRUE(files);
     CaptureWriter writer(*files, 10);
     EXPECT_EQ(writer.Put(Ramp(11)), 11);
-    writer.PutSilence(0); // there is room for some of them
+    writer.PutSilence(0); // there is room for some of it
     writer.Finish();
     EXPECT_GT(files->Frames(), 0);
     EXPECT_EQ(Read(left), Samples(static_cast<std::size_t>(files->Frames())));
@@ -231,7 +231,7 @@ TEST_F(CaptureWriterTest, AnEndByItselfIsToldAndNothingIsKeptBehindIt)
     ExpectHeld(Ramp(100));
 }
 
-/// What a child process answers; it may spoil its own limits. 99: it did not end by itself.
+/// The exit code of a child process, which may ruin its own limits. 99: it did not exit by itself.
 template <class Work>
 int AnswerOfChild(Work work)
 {
@@ -245,7 +245,7 @@ int AnswerOfChild(Work work)
 
 TEST_F(CaptureWriterTest, ADiskThatTakesNoMoreEndsItWithWholeFrames)
 {
-    constexpr rlim_t kMost = 40001; // an odd one: half a sample
+    constexpr rlim_t kMost = 40001; // an odd number: half a sample
     const int answer = AnswerOfChild([&] {
         const rlimit most{kMost, kMost};
         ::setrlimit(RLIMIT_FSIZE, &most);

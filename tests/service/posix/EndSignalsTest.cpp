@@ -11,7 +11,7 @@
 namespace sprout {
 namespace {
 
-/// Bytes that lie in the pipe; they are taken out.
+/// Takes the bytes out of the pipe and counts them.
 ssize_t BytesTold(const EndSignals& signals)
 {
     std::array<char, 16> bytes{};

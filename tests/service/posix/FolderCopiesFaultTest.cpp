@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every system call of a folder's copy fails here once or for good.
+// Each system call of a folder's copy fails here once or permanently.
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -22,7 +22,7 @@ class FolderCopies : public testing::Test {
 protected:
     ~FolderCopies() override { TheFaults() = Faults(); }
 
-    /// What came of a copy under a fault.
+    /// The result of a copy with a fault.
     struct Outcome {
         bool refused = false;
         std::vector<LeftOutFile> leftOut;
@@ -41,7 +41,7 @@ protected:
         return outcome;
     }
 
-    /// The target is whole but for what was told, or not there; the next copy is whole.
+    /// The target is complete except for the reported files, or does not exist; the next copy is complete.
     void ExpectWholeOrNothing(const Outcome& outcome) const
     {
         auto wanted = beats.Installed();

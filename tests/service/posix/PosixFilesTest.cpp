@@ -51,7 +51,7 @@ protected:
     TestFolder folder;
 };
 
-/// Holds a file as another running program would: locks of two openings of a file shut each other out.
+/// Holds a file like another running program: the locks of two openings of a file exclude each other.
 class Holder {
 public:
     explicit Holder(const fs::path& path) : descriptor(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600))
@@ -237,7 +237,7 @@ TEST_F(FilesOnDisk, TellWhatDoesNotGiveWay)
 {
     fs::create_directory(In("folder"));
     EXPECT_THROW(PosixFiles().BeginReplacement(In("folder"))->PutInPlace(Flush::No), NotReplaced);
-    // Here nothing stands in the way: the name itself cannot be.
+    // Here nothing is in the way: the name itself is impossible.
     const auto file = PosixFiles().BeginReplacement(In(std::string(300, 'n')));
     try {
         file->PutInPlace(Flush::No);

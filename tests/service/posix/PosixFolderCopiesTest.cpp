@@ -24,7 +24,7 @@ using Names = std::vector<std::string>;
 
 class FolderCopies : public testing::Test {
 protected:
-    /// Sub-folders and hidden files do not count, so such a folder is filled, and keeps what it holds.
+    /// Subfolders and hidden files do not count, so such a folder is filled, and keeps its contents.
     void MakeTargetWithoutFiles() const
     {
         fs::create_directories(beats.Target() / "sub");

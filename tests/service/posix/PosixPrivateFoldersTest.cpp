@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 constexpr std::time_t kDay = 86400;
 
-/// Sets when a folder, or a link itself, was last changed.
+/// Sets the age of a folder or of a link itself.
 void SetAge(const fs::path& path, std::time_t seconds)
 {
     const std::array<timespec, 2> times{timespec{std::time(nullptr) - seconds, 0},
@@ -34,7 +34,7 @@ void SetAge(const fs::path& path, std::time_t seconds)
 
 class PrivateFoldersTest : public testing::Test {
 protected:
-    /// A folder as a mail of an earlier run left it, with a song in it.
+    /// A folder with a song in it, left behind by a mail of an earlier run.
     [[nodiscard]] fs::path MakeLeft(const std::string& name, std::time_t age = 2 * kDay) const
     {
         const fs::path left = folder.Path() / name;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Every system call of a file's replacement fails here once, for good, half-way, or is the last that the program makes.
+// Each system call of a file's replacement fails here once, permanently or halfway, or is the program's last one.
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 
 const std::string kOld(3000, 'o');
 const std::string kNew(200000, 'n');
-constexpr std::size_t kCallsOfASave = 6; // the first of the list
+constexpr std::size_t kCallsOfASave = 6; // the first ones in the list
 
 class ReplaceFile : public testing::Test {
 protected:
@@ -33,7 +33,7 @@ protected:
 
     [[nodiscard]] fs::path Target() const { return folder.Path() / "song.TqSng"; }
 
-    /// False where the caller was told of a failure.
+    /// Returns false if the caller got an error.
     bool Save(Flush flush = Flush::Yes)
     {
         const auto bytes = std::as_bytes(std::span(kNew));
@@ -58,7 +58,7 @@ protected:
     TestFolder folder;
 };
 
-/// Number of calls of each kind that a save makes.
+/// The number of calls of each kind in a save.
 std::vector<int> CallsOfASave()
 {
     const TestFolder folder;

@@ -18,7 +18,7 @@ using testing::IsEmpty;
 
 constexpr std::size_t kFeedFrameBytes = 4;
 
-/// Notes what it is given: "5 from 1" for five frames of which the first one holds 1, "hole 7" for a hole.
+/// Logs its input: "5 from 1" for five frames, the first of which holds 1; "hole 7" for a hole.
 class NotingSink : public CaptureSink {
 public:
     void Take(std::span<const std::byte> frames) override
@@ -31,7 +31,7 @@ public:
     std::vector<std::string> notes;
 };
 
-/// What a stream of the server brings next: frames, or a hole of so many.
+/// What a server's stream delivers next: frames, or a hole of that size.
 struct Piece {
     std::vector<std::byte> data;
     std::size_t bytes = 0;
@@ -57,7 +57,7 @@ std::deque<Piece>& Waiting()
     return pieces;
 }
 
-/// The library's two calls, as they answer for a stream that holds what waits.
+/// The library's two calls, for a stream that holds the waiting pieces.
 PulseLibrary CallsForWaiting()
 {
     PulseLibrary calls;

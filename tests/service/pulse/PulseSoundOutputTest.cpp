@@ -20,7 +20,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-/// Samples of which no byte is silent, different enough that one frame is not taken for another.
+/// Samples without silent bytes, different enough that no frame can be taken for another.
 Bytes Samples(const SoundFormat& format, int frames, unsigned seed = 1)
 {
     Bytes bytes;
@@ -41,7 +41,7 @@ Bytes Repeated(const Bytes& samples, std::size_t bytes)
     return repeated;
 }
 
-/// Whether two sounds are one, and where they differ.
+/// Whether two sounds are equal, and where they differ.
 ::testing::AssertionResult Same(const Bytes& one, const Bytes& other)
 {
     if (one == other)
@@ -51,14 +51,14 @@ Bytes Repeated(const Bytes& samples, std::size_t bytes)
                                          << differing << " on";
 }
 
-/// What was heard around silence, which the samples do not hold.
+/// What was heard, without the silence, which the samples do not contain.
 Bytes WithoutSilence(Bytes bytes)
 {
     bytes.erase(std::remove(bytes.begin(), bytes.end(), std::byte{0}), bytes.end());
     return bytes;
 }
 
-/// True as soon as `condition` holds; false if it does not come true in time. It asks as often as the windows do.
+/// Returns true as soon as `condition` holds; false if that takes too long. It checks as often as the windows do.
 bool Comes(const std::function<bool()>& condition)
 {
     const auto latest = Clock::now() + std::chrono::seconds(30);
@@ -75,7 +75,7 @@ bool Ends(const SoundHandle& sound)
     return Comes([&] { return !sound->Place().Playing; });
 }
 
-/// A sound of `samples` that is open and silent.
+/// An open, silent sound of `samples`.
 SoundHandle Opened(SoundOutput& output, const SoundFormat& format, const Bytes& samples, SoundHandle old = nullptr)
 {
     SoundHandle sound = output.Open(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
@@ -84,12 +84,12 @@ SoundHandle Opened(SoundOutput& output, const SoundFormat& format, const Bytes& 
     return sound;
 }
 
-/// A server whose device has the program's own format and plays what it was given.
+/// A server whose device has the program's own format and plays what it is given.
 class PulseTest : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(server.Start()); }
 
-    /// A sound of `samples` that plays, and of which something was heard.
+    /// A playing sound of `samples`, part of which was already heard.
     SoundHandle Playing(const Bytes& samples, Loop loop, TestRecording& recording)
     {
         SoundHandle sound = Opened(output, format, samples);
@@ -199,7 +199,7 @@ TEST_F(PulseTest, ALoopHasNoGap)
 TEST_F(PulseTest, ALoopSwitchedOffEndsWithTheHeardPassThoughMoreIsQueued)
 {
     TestRecording recording(server);
-    const Bytes samples = Samples(format, 8820); // 200 ms: two more passes wait at the server
+    const Bytes samples = Samples(format, 8820); // 200 ms: two more passes are queued at the server
     SoundHandle sound = Playing(samples, Loop::Yes, recording);
     ASSERT_TRUE(sound);
     EXPECT_TRUE(recording.Holds(Repeated(samples, samples.size() + 4000)));
@@ -210,7 +210,7 @@ TEST_F(PulseTest, ALoopSwitchedOffEndsWithTheHeardPassThoughMoreIsQueued)
     const Bytes sounded = recording.Sounded();
     EXPECT_TRUE(Same(sounded, Repeated(samples, sounded.size())));
     EXPECT_EQ(sounded.size() % samples.size(), 0U);
-    // This thread may have been held up until the next pass.
+    // This thread may have been delayed until the next pass.
     EXPECT_LE(sounded.size(), (frame < 5000 ? 3 : 4) * samples.size());
 }
 
@@ -228,7 +228,7 @@ TEST_F(PulseTest, ALoopSwitchedOffAndOnAgainHasNoGap)
 TEST_F(PulseTest, LoopingSwitchedOnBehindWhatIsQueuedHasNoGap)
 {
     TestRecording recording(server);
-    const Bytes samples = Samples(format, 10000); // all of it waits at the server, and silence behind it
+    const Bytes samples = Samples(format, 10000); // all of it is queued at the server, followed by silence
     SoundHandle sound = Playing(samples, Loop::No, recording);
     ASSERT_TRUE(sound);
     sound->SetLooping(Loop::Yes);
@@ -257,7 +257,7 @@ TEST_F(PulseTest, PausesLoseNoFrameAndRepeatNone)
         const auto begun = Clock::now();
         sound->Stop();
         const std::int32_t stoppedAt = sound->Place().Cursor;
-        const std::chrono::duration<double> took = Clock::now() - begun; // this thread may have been held up
+        const std::chrono::duration<double> took = Clock::now() - begun; // this thread may have been delayed
         EXPECT_TRUE(recording.Grows(17640));
         EXPECT_NEAR(sound->Place().Cursor, stoppedAt, 2205 + took.count() * 44100);
         sound->Start(StartFrom::WhereItStopped, Loop::No);
@@ -265,7 +265,7 @@ TEST_F(PulseTest, PausesLoseNoFrameAndRepeatNone)
     EXPECT_TRUE(Ends(sound));
     EXPECT_TRUE(recording.Grows(8820));
     const Bytes sounded = recording.Sounded();
-    EXPECT_GT(sounded.size(), samples.size()); // by the pauses
+    EXPECT_GT(sounded.size(), samples.size()); // because of the pauses
     EXPECT_TRUE(Same(WithoutSilence(sounded), samples));
 }
 
@@ -285,7 +285,7 @@ TEST_F(PulseTest, PausesThatAreOverAtOnceLoseNoFrame)
     const Bytes sounded = WithoutSilence(recording.Sounded());
     const auto tail = static_cast<std::ptrdiff_t>(samples.size() / 2);
     EXPECT_TRUE(std::equal(samples.end() - tail, samples.end(), sounded.end() - tail));
-    // The server may give the device anew what it gave it before a pause as short as that.
+    // After such a short pause the server may give the device the same data again.
     EXPECT_GE(sounded.size(), samples.size());
     EXPECT_LT(sounded.size(), samples.size() + kPauses * 2 * 1764);
 }
@@ -411,15 +411,15 @@ TEST_F(PulseTest, TellsWhenTheDeviceTookTheFirstFrame)
     }
 }
 
-/// A device that gives back what it has not played yet, as most cards do. The recording lacks of each beginning what
-/// was given back: it holds the silence that the device did not come to play.
+/// A device that gives back what it has not played yet, as most cards do. In the recording, each beginning lacks what
+/// was given back: there is silence that the device did not get to play.
 class PulseRewindTest : public ::testing::Test {
 protected:
     static constexpr std::size_t kGivenBack = 2 * 1764; // 20 ms
 
     void SetUp() override { ASSERT_TRUE(server.Start()); }
 
-    /// Whether all of the sound but the first moments was heard last.
+    /// Returns true if the end of the recording is the whole sound except its first moments.
     static bool EndsWith(const Bytes& sounded, const Bytes& samples)
     {
         const auto tail = static_cast<std::ptrdiff_t>(samples.size() - kGivenBack);
@@ -486,7 +486,7 @@ TEST_F(PulseRewindTest, APauseIsSilentAndTheSoundGoesOnToItsEnd)
                 3.0 * kGivenBack);
 }
 
-/// Streams that rest after moments.
+/// Streams that soon go to rest.
 class PulseRestTest : public PulseTest {
 protected:
     [[nodiscard]] bool Rests() const
@@ -565,10 +565,10 @@ TEST_F(PulseRestTest, PlaysAndRestsThatMeetHarmNothing)
     }
 }
 
-/// The server comes, goes and stands still.
+/// The server comes, goes and freezes.
 class PulseServerTest : public ::testing::Test {
 protected:
-    /// Waits in vain are over before the window seems to stand still.
+    /// Futile waits end before the window seems frozen.
     static constexpr std::chrono::seconds kBearable{2};
 
     const SoundFormat format;

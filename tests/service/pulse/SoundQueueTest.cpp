@@ -10,7 +10,7 @@ namespace {
 
 using Bytes = std::vector<std::byte>;
 
-// Mono bytes: a byte a frame.
+// Mono bytes: one byte per frame.
 const SoundFormat kByteFormat{1, 11025, 8};
 constexpr auto kSilence = std::byte{0x80};
 

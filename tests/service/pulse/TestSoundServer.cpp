@@ -26,7 +26,7 @@ constexpr std::chrono::seconds kPatience{30};
 constexpr const char* kStarter = SPROUT_TEST_SUPPORT "/sound-server";
 constexpr std::array kVariables{"PULSE_SERVER", "PULSE_RUNTIME_PATH", "PULSE_STATE_PATH", "XDG_RUNTIME_DIR"};
 
-/// Starts a program, which ends with this one at the latest. out: where its standard output goes; -1: nowhere.
+/// Starts a program that ends with this one at the latest. out: where its standard output goes; -1: nowhere.
 pid_t Start(std::vector<std::string> words, int out)
 {
     words.insert(words.begin(), {"setpriv", "--pdeathsig", "KILL"});
@@ -143,7 +143,7 @@ bool TestSoundServer::AddMicrophone(const std::string& name)
 
 std::string TestSoundServer::Play(const std::string& sink, const std::string& file) const
 {
-    // Without a wish of its own it keeps seconds ahead, so that neither it nor the server ever pauses too long.
+    // By default it stays seconds ahead, so neither it nor the server ever pauses too long.
     return Told({"pacat", "-p", "--raw", "--format=s16le", "--rate=44100", "--channels=2", "-d", sink, file});
 }
 

@@ -22,7 +22,7 @@ using Bytes = std::vector<std::byte>;
 
 enum class Rewinds { No, Yes };
 
-/// A sound server of the test's own, with one device that nobody hears; the environment names it as long as it lives.
+/// A private sound server with one silent device. While it lives, the environment names it.
 class TestSoundServer {
 public:
     /// rewinds: whether the device gives back what it has not played yet, as most cards do.
@@ -31,29 +31,29 @@ public:
     TestSoundServer& operator=(const TestSoundServer&) = delete;
     ~TestSoundServer();
 
-    /// False if it does not listen in time.
+    /// Returns false if it does not listen in time.
     [[nodiscard]] bool Start();
     void Kill();
-    /// It stays and does nothing any more.
+    /// The server stays but does nothing any more.
     void Freeze() const;
     void Thaw() const;
 
     [[nodiscard]] const SoundFormat& Format() const { return format; }
-    /// What plays on the device, be it silence, as the server lists it.
+    /// What plays on the device, even if it is silence, as the server lists it.
     [[nodiscard]] std::string Inputs() const;
-    /// Whether something is there to be played that the device is not given.
+    /// Whether something is ready to play that the device does not get.
     [[nodiscard]] bool HasStoppedInput() const;
 
-    /// Runs a program to its end; what it prints, or "no answer" if it fails. May be called from several threads.
+    /// Runs a program to its end and returns its output, or "no answer" if it fails. Several threads may call it.
     [[nodiscard]] std::string Told(const std::vector<std::string>& question) const;
-    /// The same of pactl, of which nothing but success is expected.
+    /// Runs pactl in the same way and returns whether it succeeded.
     [[nodiscard]] bool Does(std::vector<std::string> command) const;
 
-    /// Adds a microphone, which hears what is played on the sink NAME and is called NAME-mic. False if it fails.
+    /// Adds a microphone NAME-mic that hears what is played on the sink NAME. Returns false if that fails.
     [[nodiscard]] bool AddMicrophone(const std::string& name);
-    /// Plays the samples of a file, in the program's own format, on a sink until they are heard. "" if that succeeds.
+    /// Plays the samples of a file, in the program's own format, on a sink until they are heard. "" means success.
     [[nodiscard]] std::string Play(const std::string& sink, const std::string& file) const;
-    /// Takes a microphone away, or puts it back; its sink stays.
+    /// Removes a microphone or puts it back; its sink stays.
     [[nodiscard]] bool PullOut(const std::string& name);
     [[nodiscard]] bool PutBack(const std::string& name);
 
@@ -64,11 +64,11 @@ private:
     TestFolder folder;
     const std::string socket = folder.Path() / "native";
     pid_t process = 0;
-    std::map<std::string, std::string> microphones; // the server's number of each
+    std::map<std::string, std::string> microphones; // the server's number for each
     mutable std::atomic<int> questions = 0;
 };
 
-/// What a server's device plays from the making on.
+/// What a server's device plays from the start of the recording on.
 class TestRecording {
 public:
     explicit TestRecording(const TestSoundServer& server);
@@ -76,20 +76,20 @@ public:
     TestRecording& operator=(const TestRecording&) = delete;
     ~TestRecording();
 
-    /// Waits until `condition` holds for what was recorded so far. False if it does not in time.
+    /// Waits until `condition` holds for the recording so far. Returns false if it does not in time.
     [[nodiscard]] bool Comes(const std::function<bool(const Bytes&)>& condition);
     /// Waits until something is heard.
     [[nodiscard]] bool Sounds();
-    /// Waits until `sound` is heard whole, without a gap.
+    /// Waits until all of `sound` is heard, without a gap.
     [[nodiscard]] bool Holds(const Bytes& sound);
-    /// Waits until that many bytes more are recorded.
+    /// Waits until `bytes` more bytes are recorded.
     [[nodiscard]] bool Grows(std::size_t bytes);
-    /// What was recorded so far, without the silence ahead and behind.
+    /// The recording so far, without the silence before and after it.
     [[nodiscard]] Bytes Sounded();
 
-    /// Called with each piece of the recording, in a thread of its own.
+    /// Called with each piece of the recording, in a separate thread.
     using Listener = std::function<void(const Bytes& piece)>;
-    /// Before the recording sounds.
+    /// Call this before the recording sounds.
     void SetListener(Listener newListener);
 
 private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// No application object is made here, and no display is asked for.
+// Makes no application object and uses no display.
 #include "service/qt/QtPictureFiles.h"
 
 #include <QByteArray>
@@ -29,7 +29,7 @@ class Pictures : public testing::Test {
 protected:
     [[nodiscard]] fs::path In(const std::string& name) const { return folder.Path() / name; }
 
-    /// 40 x 30, each pixel of its own colour.
+    /// 40 x 30, each pixel in a different colour.
     [[nodiscard]] static QImage Drawn()
     {
         QImage image(40, 30, QImage::Format_RGB32);
@@ -87,7 +87,7 @@ TEST_F(Pictures, ReadBmpThatStandsOnItsHead)
     WriteBytes(In("a.bmp"), bytes);
     const Picture picture = files.LoadPicture(In("a.bmp"));
     EXPECT_EQ(picture.Height(), 30);
-    EXPECT_EQ(picture.Pixel(0, 0), 100U << 16 | 232U << 8); // was the lowest line
+    EXPECT_EQ(picture.Pixel(0, 0), 100U << 16 | 232U << 8); // this was the lowest line
 }
 
 TEST_F(Pictures, ReadJpgWhateverTheNameSays)
@@ -137,7 +137,7 @@ TEST_F(Pictures, RefuseAFileThatIsCutAnywhere)
     for (std::size_t size = 0; size < jpg.size(); ++size)
         ExpectNoPicture(jpg.substr(0, size), size);
     const std::string png = ReadBytes(Write("a.png", "PNG"));
-    constexpr std::size_t endMark = 12; // behind the last line
+    constexpr std::size_t endMark = 12; // after the last line
     for (std::size_t size = 0; size < png.size() - endMark; ++size)
         ExpectNoPicture(png.substr(0, size), size);
     const std::string gif = ReadBytes(WriteGif());
@@ -152,7 +152,7 @@ TEST_F(Pictures, RefuseAHugeClaimWithoutRoomForIt)
     ExpectNoPicture(bmp, 0);
     bmp.replace(18, 8, std::string("\x01\x10\0\0\x01\0\0\0", 8)); // 4097 x 1
     ExpectNoPicture(bmp, 1);
-    bmp.replace(18, 8, std::string("\0\x10\0\0\0\x10\0\0", 8)); // 4096 x 4096, which the file does not hold
+    bmp.replace(18, 8, std::string("\0\x10\0\0\0\x10\0\0", 8)); // 4096 x 4096, more than the file holds
     ExpectNoPicture(bmp, 2);
     std::string gif = ReadBytes(WriteGif());
     gif.replace(6, 4, "\xFF\xFF\xFF\xFF");

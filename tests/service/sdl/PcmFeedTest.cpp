@@ -11,7 +11,7 @@ namespace {
 using std::chrono::milliseconds;
 using Bytes = std::vector<std::byte>;
 
-// Mono bytes at 11,025 Hz: a byte a frame, and about 11 frames a millisecond.
+// Mono bytes at 11,025 Hz: one byte per frame, and about 11 frames per millisecond.
 const SoundFormat kByteFormat{1, 11025, 8};
 const PcmFeed::Time kStart(std::chrono::hours(5));
 constexpr auto kSilence = std::byte{0x80};
@@ -249,7 +249,7 @@ TEST(PcmFeed, TheCursorNeverGoesBack)
     feed.Start(StartFrom::Beginning, Loop::No);
     Taken(feed, 512, kStart);
     EXPECT_EQ(feed.PlaceAt(kStart + milliseconds(40)).Cursor, 441);
-    // The device asks late: its clock seems to be behind.
+    // The device asks late: its clock seems to be slow.
     Taken(feed, 512, kStart + milliseconds(60));
     const std::int32_t cursor = feed.PlaceAt(kStart + milliseconds(60)).Cursor;
     EXPECT_NEAR(cursor, 512, 1);
@@ -302,7 +302,7 @@ TEST(PcmFeed, ADeviceThreadTakesWholeSoundsWhileTheyAreReplaced)
         Bytes out(64);
         while (!done) {
             feed.Fill(out, std::chrono::steady_clock::now());
-            // Every sound is one byte over and over, so a request holds at most one sound, and silence behind it.
+            // Each sound repeats one byte, so a request holds at most one sound, followed by silence.
             for (const std::byte byte : out)
                 mixed += byte != out[0] && byte != kSilence;
             sounds += out[0] != kSilence;

@@ -24,7 +24,7 @@ std::byte Silence(const SoundFormat& format)
     return format.Bits == 8 ? std::byte{0x80} : std::byte{0};
 }
 
-/// Samples of which no byte is silent, different enough that one frame is not taken for another.
+/// Samples without silent bytes, different enough that no frame can be taken for another.
 Bytes Samples(const SoundFormat& format, int frames)
 {
     Bytes bytes;
@@ -36,7 +36,7 @@ Bytes Samples(const SoundFormat& format, int frames)
     return bytes;
 }
 
-/// True as soon as `condition` holds; false if it does not come true in time.
+/// Returns true as soon as `condition` holds; false if that takes too long.
 bool Comes(const std::function<bool()>& condition)
 {
     const auto deadline = Clock::now() + std::chrono::seconds(30);
@@ -48,7 +48,7 @@ bool Comes(const std::function<bool()>& condition)
     return true;
 }
 
-/// A sound of `samples` that is open and silent.
+/// An open, silent sound of `samples`.
 SoundHandle Opened(SdlSoundOutput& output, const SoundFormat& format, const Bytes& samples, SoundHandle old = nullptr)
 {
     SoundHandle sound = output.Open(std::move(old), 0, format, static_cast<std::int32_t>(samples.size()));
@@ -63,7 +63,7 @@ protected:
     ~SdlTest() override { unsetenv("SDL_AUDIODRIVER"); }
 };
 
-/// A device that plays at the speed of the clock, and nobody hears it.
+/// A silent device that plays at the speed of the clock.
 class SdlDummyTest : public SdlTest {
 protected:
     SdlDummyTest() : SdlTest("dummy") {}
@@ -99,7 +99,7 @@ protected:
         return {bytes, bytes + text.size()};
     }
 
-    /// What was played, without the silence ahead and behind.
+    /// What was played, without the silence before and after it.
     [[nodiscard]] Bytes Sounded(const SoundFormat& format) const
     {
         const Bytes all = Played();
@@ -296,12 +296,12 @@ TEST_F(SdlDummyTest, SignalsStillEndTheProgram)
     }
 }
 
-/// Devices that rest after moments.
+/// Devices that soon go to rest.
 constexpr std::chrono::milliseconds kShortRound{2};
 
 std::ptrdiff_t ThreadsOfThisProgram()
 {
-    // The thread sanitizer's own thread comes with the program's first and stays.
+    // The thread sanitizer's own thread starts with the program's first thread and stays.
     static const bool oneWasStarted = [] {
         std::thread([] {}).join();
         return true;
@@ -339,7 +339,7 @@ TEST_F(SdlDiskTest, AfterARestTheNextPlayOpensTheDeviceAgain)
         sound->Start(StartFrom::Beginning, Loop::No);
         EXPECT_TRUE(Ends(sound));
         EXPECT_TRUE(Comes([&] { return ThreadsOfThisProgram() == threads; }));
-        EXPECT_EQ(Sounded(format), samples); // of a file that was begun anew
+        EXPECT_EQ(Sounded(format), samples); // in a file that was begun again
     }
 }
 
@@ -407,7 +407,7 @@ TEST_F(SdlNoSoundTest, ListsNoDeviceAndOpensNone)
     EXPECT_FALSE(output.Open(nullptr, 0, SoundFormat(), 4));
 }
 
-/// A machine with ALSA, which SDL falls back on, and without a card.
+/// A machine with ALSA, SDL's fallback, but without a card.
 class SdlAlsaTest : public SdlTest {
 protected:
     SdlAlsaTest() : SdlTest("alsa") {}

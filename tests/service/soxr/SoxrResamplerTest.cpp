@@ -14,11 +14,11 @@
 
 namespace sprout {
 
-// Sanitizers need more address space than there is.
+// Sanitizers would need more address space than there is.
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 
-/// How a child ends that resamples with `extraBytes` more memory than it has: 0 well, 1 with an exception, -1 by a
-/// signal.
+/// The end of a child that resamples with `extraBytes` of memory beyond its own: 0 for success, 1 for an exception,
+/// -1 for a signal.
 int EndWithMemory(rlim_t extraBytes, double pitch)
 {
     const std::vector<float> sound = SineFloats(200'000, 1000);

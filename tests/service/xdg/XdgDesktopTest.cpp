@@ -65,7 +65,7 @@ TEST_F(XdgHome, HasNoDocumentsWhereNoneCanBeMade)
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), fs::path());
 }
 
-/// What stubs of the desktop's programs write into a pipe, waited for without sleeping.
+/// Stubs of the desktop's programs that write into a pipe, so tests wait for them without sleeping.
 class DesktopPrograms : public XdgHome {
 protected:
     DesktopPrograms()
@@ -116,7 +116,7 @@ TEST_F(OpenWithShell, HandsOverNothingThatWouldBeAnOption)
     EXPECT_EQ(Opened(10000), "https://tonquill.example/");
 }
 
-/// Only the stubs can be found.
+/// Only the stubs are found.
 class OpenSoundControl : public DesktopPrograms {
 protected:
     OpenSoundControl()
@@ -152,7 +152,7 @@ TEST_F(OpenSoundControl, OpensTheSoundSettingsOfTheDesktopThatRuns)
 
 TEST_F(OpenSoundControl, NamesWhatWasLookedForWhereNothingIsThere)
 {
-    MakeStub("systemsettings"); // of another desktop
+    MakeStub("systemsettings"); // belongs to another desktop
     EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Play), (Names{"pavucontrol", "pavucontrol-qt"}));
     Set("XDG_CURRENT_DESKTOP", "GNOME");
     EXPECT_EQ(XdgDesktop().OpenSoundControl(SoundControl::Play),

@@ -13,7 +13,7 @@
 
 namespace sprout {
 
-/// A home of its own; the environment comes back afterwards.
+/// A private home; the environment is restored afterwards.
 class XdgHome : public testing::Test {
 protected:
     XdgHome()

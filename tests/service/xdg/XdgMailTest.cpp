@@ -60,7 +60,7 @@ TEST(FindDesktopFile, FindsNoOtherFiles)
         EXPECT_EQ(FindDesktopFile(id, data), fs::path()) << id;
 }
 
-/// A desktop made of stub programs, each of which notes its words.
+/// A desktop of stub programs, each of which notes its arguments.
 class XdgMailTest : public XdgHome {
 protected:
     XdgMailTest()
@@ -74,7 +74,7 @@ protected:
         WriteBytes(message.Attachment, "song");
     }
 
-    /// A program of the desktop that notes its words in NAME.words, each followed by a zero byte, and then does
+    /// A program of the desktop that notes its arguments in NAME.words, each followed by a zero byte, and then runs
     /// `script`.
     void Stub(const std::string& name, const std::string& script = "") const
     {
@@ -91,7 +91,7 @@ protected:
         return words;
     }
 
-    /// Makes a program the one for mail addresses.
+    /// Makes a program the default for mail addresses.
     void Choose(const std::string& id, const std::string& entry) const
     {
         WriteBytes(folder.Path() / "bin/xdg-mime",
@@ -103,7 +103,7 @@ protected:
     void ChooseThunderbird() const { Choose("thunderbird.desktop", "Exec=thunderbird %u\nCategories=Email;\n"); }
     void ChooseOther() const { Choose("other.desktop", "Exec=other %u\n"); }
 
-    /// A stub that tells its number through one pipe and waits for a line from the other.
+    /// A stub that reports its process number through one pipe and waits for a line from the other.
     void WaitingStub(const std::string& name)
     {
         for (const fs::path& pipe : {started, goOn})
@@ -117,7 +117,7 @@ protected:
         ::close(writer);
     }
 
-    /// Waits until a child is no more, not even as a zombie.
+    /// Waits until a child is completely gone, not even a zombie.
     static bool IsForgotten(pid_t id)
     {
         const auto end = std::chrono::steady_clock::now() + milliseconds(60000);
@@ -239,7 +239,7 @@ TEST_F(XdgMailTest, FailsWhereNoProgramIsChosen)
 {
     Stub("xdg-email");
     Stub("xdg-mime");
-    EXPECT_FALSE(HandOver()); // the stub's noise names no program
+    EXPECT_FALSE(HandOver()); // the stub's noise is not the name of a program
     WriteBytes(folder.Path() / "bin/xdg-mime", "#!/bin/sh\n");
     EXPECT_FALSE(HandOver());
     EXPECT_FALSE(fs::exists(Noted("xdg-email")));
@@ -252,7 +252,7 @@ TEST_F(XdgMailTest, FailsWhereTheChosenProgramIsGone)
     fs::remove(folder.Path() / "data/applications/other.desktop");
     EXPECT_FALSE(HandOver());
     ChooseThunderbird();
-    EXPECT_FALSE(HandOver()); // no program of that name
+    EXPECT_FALSE(HandOver()); // there is no program of that name
     EXPECT_FALSE(fs::exists(Noted("xdg-email")));
 }
 
@@ -346,7 +346,7 @@ TEST_F(XdgMailTest, StartsNothingOnceItIsAskedToStop)
 
 TEST_F(XdgMailTest, LetsNoFileAndNoNoiseThrough)
 {
-    // Kept open on purpose, as a careless library would.
+    // Kept open on purpose, as a careless library would do.
     const int ours = ::open(message.Attachment.c_str(), O_RDONLY);
     Stub("xdg-email", "ls -l /proc/$$/fd > '" + (folder.Path() / "files").native() + "'");
     ChooseOther();

@@ -59,7 +59,7 @@ TEST_F(DecideNameTest, SavesASongOverItsOwnFileInAnyCaseUnasked)
 {
     EXPECT_EQ(Saved("Zumi"), NameDecision::Accept);
     EXPECT_EQ(Saved("ZUMI"), NameDecision::Accept);
-    EXPECT_EQ(Saved("Zumi "), NameDecision::Accept); // another name, and free
+    EXPECT_EQ(Saved("Zumi "), NameDecision::Accept); // a different name that is free
 }
 
 TEST_F(DecideNameTest, AsksBeforeItTakesTheNameOfAnotherSong)

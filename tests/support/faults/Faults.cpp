@@ -14,7 +14,7 @@ namespace sprout {
 
 namespace {
 
-/// Counts a call; true where it has to fail, with errno set.
+/// Counts a call. Returns true, with errno set, if it must fail.
 bool Fails(SystemCall call)
 {
     Faults& faults = TheFaults();
@@ -59,7 +59,7 @@ using sprout::Behind;
 using sprout::Fails;
 using sprout::SystemCall;
 
-// The linker leads the calls here and names the true ones __real_.
+// The linker redirects the calls to these and names the real ones __real_.
 extern "C" {
 
 int __real_open(const char* path, int flags, ...);
@@ -113,7 +113,7 @@ int __wrap_fsync(int descriptor)
     return Fails(SystemCall::Fsync) ? -1 : Behind(SystemCall::Fsync, __real_fsync(descriptor));
 }
 
-// A failed close gives its descriptor back all the same.
+// A failed close still releases its descriptor.
 int __wrap_close(int descriptor)
 {
     if (!Fails(SystemCall::Close))

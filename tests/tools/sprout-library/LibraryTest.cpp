@@ -112,7 +112,7 @@ TEST_F(MadeLibrary, HasSongsWhoseBeatsAreThoseOfTheFolder)
     }
 }
 
-/// A song of two tracks that sound together, the second `semitones` above the first.
+/// A song with two tracks that sound together, the second one `semitones` above the first.
 SongState TwoNotes(std::int32_t semitones, const std::string& beat)
 {
     SongState song;

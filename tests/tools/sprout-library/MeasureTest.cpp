@@ -50,7 +50,7 @@ TEST(Offset, IsTheMean)
 
 TEST(LoudnessDb, ReadsTheStandardsReferenceTone)
 {
-    // A 997 Hz sine at full scale in one channel reads -3.01 LUFS, in both channels 3 dB more.
+    // A 997 Hz sine at full scale measures -3.01 LUFS in one channel, and 3 dB more in both.
     EXPECT_NEAR(LoudnessDb(Stereo(Sine(997, 5, 1))), 0.0, 0.05);
     EXPECT_NEAR(LoudnessDb(Stereo(Sine(997, 5, 0.1))), -20.0, 0.05);
 }

@@ -10,8 +10,8 @@
 namespace sprout {
 namespace {
 
-/// The rows of an octave from its top: the key of the columns 1 to 18 and that of the columns 20 to 28, "-" for none.
-/// Keys 10 to 12 are A to C.
+/// The rows of an octave from the top: the key of columns 1 to 18 and that of columns 20 to 28, "-" for none. Keys 10
+/// to 12 are A to C.
 constexpr std::array<std::string_view, kOctaveHeight> kRows{
     "--", "CC", "CC", "CC", "CC", "CC", "-C", "BC", "BC", "B-", "BA", "BA", "BA", "-A", "AA", "AA", "AA", "AA", "-A",
     "9A", "9A", "9-", "98", "98", "98", "-8", "88", "88", "88", "88", "-8", "78", "78", "7-", "76", "76", "76", "-6",
@@ -24,7 +24,7 @@ std::int32_t KeyOfLetter(char letter)
     return letter == '-' ? kNoKey : static_cast<std::int32_t>(kLetters.find(letter));
 }
 
-/// The key of the map at a pixel; a key of both parts has the column between them too.
+/// The key of the map at a pixel; a key that is in both parts also has the column between them.
 std::int32_t ExpectedKey(std::int32_t x, std::int32_t y)
 {
     const std::string_view row = kRows[static_cast<std::size_t>(y)];

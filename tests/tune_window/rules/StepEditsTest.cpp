@@ -17,7 +17,7 @@ class StepEditsTest : public testing::Test {
 protected:
     StepEditsTest() { MakeSteps(4); }
 
-    /// Steps that are on, valid and told apart by their volume.
+    /// Steps that are on and valid, each with a different volume.
     void MakeSteps(std::int32_t count)
     {
         tune.StepCount = count;

@@ -8,7 +8,7 @@
 namespace sprout {
 namespace {
 
-/// A tune whose steps tell where they come from by their volume; "x" is on, "." off, "2" the value 2.
+/// A tune whose steps carry their original place as their volume; "x" is on, "." off, "2" the value 2.
 Tune TuneOf(const std::string& lamps)
 {
     Tune tune;
@@ -23,7 +23,7 @@ Tune TuneOf(const std::string& lamps)
     return tune;
 }
 
-/// Lamps and origins of the steps: "x3" is a step that is on and came from place 3.
+/// The lamps and origins of the steps: "x3" is a step that is on and came from place 3.
 std::string StepsOf(const Tune& tune)
 {
     std::string text;

@@ -14,11 +14,11 @@ protected:
         tune.Steps.resize(4);
         tune.Steps[1].OnPos = 1;
         tune.Steps[1].StepBeat.Name = "P_Piano High";
-        tune.Steps[2].OnPos = 2; // only 1 is on
+        tune.Steps[2].OnPos = 2; // only 1 means on
         tune.Steps[3].OnPos = 1;
     }
 
-    /// What is shown over a place of a column.
+    /// What is shown at a point of a column.
     [[nodiscard]] StepPointer Over(std::int32_t step, std::int32_t y, std::int32_t inColumn = 15) const
     {
         return PointerOverSteps(tune, kStepsLeftAtStart, StepLeft(step, kStepsLeftAtStart) + inColumn, y);

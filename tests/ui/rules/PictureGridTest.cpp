@@ -9,7 +9,7 @@
 namespace sprout {
 namespace {
 
-/// 18 columns and five rows in view.
+/// 18 columns and five visible rows.
 PictureGrid Tunes(std::int32_t count, std::int32_t topRow = 1)
 {
     return {18, count, topRow, 200};

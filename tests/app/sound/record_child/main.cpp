@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// sprout_record_child LEFT RIGHT BLOCKS: records into two files until they hold so many blocks of 0.2 s. Ends with 0,
-// or with 1 where it cannot record, or with 2 where frames were lost.
+// sprout_record_child LEFT RIGHT BLOCKS: records into two files until they hold `BLOCKS` blocks of 0.2 s. Exits with 0,
+// with 1 if it cannot record, or with 2 if frames were lost.
 #include <cstdlib>
 
 #include "app/sound/MachineCapture.h"
