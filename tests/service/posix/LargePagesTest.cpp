@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <limits>
-#include <new>
 
 namespace sprout {
 namespace {
@@ -23,12 +21,6 @@ TEST(LargePages, GivesMemoryOfTheWantedAlignmentThatCanBeUsed)
             EXPECT_EQ(memory[bytes - 1], 'x');
             pages.deallocate(memory, bytes, alignment);
         }
-}
-
-TEST(LargePages, ThrowsWhereThereIsNotEnough)
-{
-    LargePages pages;
-    EXPECT_THROW(static_cast<void>(pages.allocate(std::numeric_limits<std::size_t>::max() / 2, kPage)), std::bad_alloc);
 }
 
 TEST(LargePages, BecomesTheDefault)
