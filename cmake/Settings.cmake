@@ -21,7 +21,7 @@ endif()
 set(CMAKE_CXX_FLAGS_RELEASE "-O3 -DNDEBUG")
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    add_compile_options(-Wno-restrict) # g++ 12 misfires on "text" + string
+    add_compile_options(-Wno-restrict -Wno-stringop-overflow) # g++ 12 misfires on "text" + string
     if(SPROUT_SANITIZE)
         add_compile_options(-Wno-maybe-uninitialized) # with sanitizer checks it also misfires on std::regex
     endif()

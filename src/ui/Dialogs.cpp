@@ -15,7 +15,7 @@ namespace {
 
 std::string Caption(std::string_view title)
 {
-    return " " + std::string(Trim(title).empty() ? kProductName : title);
+    return std::string(" ").append(Trim(title).empty() ? kProductName : title);
 }
 
 } // namespace

@@ -9,7 +9,7 @@ namespace sprout {
 void QtMessages::MessageBox(std::string_view title, std::string_view text, MessageIcon icon)
 {
     PlainBoxFrm form(WindowInFront(), text, icon);
-    form.SetCaption(title.empty() ? std::string() : " " + std::string(title));
+    form.SetCaption(title.empty() ? std::string() : std::string(" ").append(title));
     form.ShowModal();
 }
 
