@@ -5,17 +5,15 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <optional>
 #include <span>
 
 #include "service/SoundOutput.h"
+#include "service/pulse/HeardPlace.h"
 #include "service/pulse/PulseConnection.h"
+#include "service/pulse/PulsePlaybackStream.h"
+#include "service/pulse/PulseTimer.h"
 #include "service/pulse/SoundQueue.h"
-
-struct pa_operation;
-struct pa_stream;
-struct pa_time_event;
 
 namespace sprout {
 
@@ -54,38 +52,20 @@ public:
 
 private:
     using Lock = PulseConnection::Lock;
-    using Answer = void (PulseSound::*)();
-    struct Question {
-        pa_operation* operation = nullptr;
-        Answer answer = nullptr; // null: nobody waits for it any more
-    };
 
-    // What the server reports.
-    void OnState();
+    [[nodiscard]] PulsePlaybackStream::Events StreamEvents();
+    void OnLost();
     void OnStarted();
-    void OnTimingInfo();
-    void OnBegun();
-    void OnStopped();
+    void OnTimed();
     void OnMoreWanted();
+    void OnAnswered(TimingQuestion question, const StreamTiming& timing);
     void OnRound();
     void OnTailHeard();
 
     [[nodiscard]] bool Wake(Lock& lock, Time deadline);
-    [[nodiscard]] bool Open(Lock& lock, Time deadline);
-    void ListenToStream();
     void Close();
-    /// Calls `Call` once after `time`, unless the event is freed before.
-    template <void (PulseSound::*Call)()>
-    [[nodiscard]] pa_time_event* After(std::chrono::milliseconds time);
-    void EndRounds();
-    void EndTail();
     /// Returns false if the server has been silent for so long that the stream was closed.
-    [[nodiscard]] bool AskWhere(Answer answer);
-    void ForgetQuestions();
-    void CancelQuestions();
-    void OnAnswer(bool succeeded);
-    void Write(std::size_t bytes, std::int64_t seek);
-    void Cork(bool corked);
+    [[nodiscard]] bool Ask(TimingQuestion question);
     [[nodiscard]] bool Begin(Loop loop);
     [[nodiscard]] bool GoOn(Loop loop);
     void ChangeLooping(Loop loop, std::int64_t firstPlace);
@@ -94,7 +74,6 @@ private:
     void End();
     /// Updates the place, and ends the sound once its end was heard.
     void Follow();
-    [[nodiscard]] std::int64_t Bytes(std::chrono::nanoseconds time) const;
 
     PulseConnection& connection;
     const std::chrono::milliseconds restRound;
@@ -103,24 +82,15 @@ private:
 
     // The connection's mutex guards the following. The queue's sound is changed without it, while nothing plays.
     SoundQueue queue;
-    pa_stream* stream = nullptr;     // none at rest
-    pa_time_event* rounds = nullptr; // while there is a stream
-    pa_time_event* tail = nullptr;   // while the stream runs on after an end
-    std::deque<Question> questions;  // on their way to the server, which answers in order
+    HeardPlace heard;
+    PulsePlaybackStream stream; // closed at rest
+    PulseTimer rounds;          // while the stream is open
+    PulseTimer tail;            // while the stream runs on after an end
     int silentRounds = 0;
     bool used = false; // since the last round
 
     bool playing = false;
     bool holdsQueue = false; // the server's queue continues at the place
-    std::int64_t place = 0;  // heard so far; it never goes back
-    // The server counts the bytes that the device has taken from the stream.
-    std::optional<std::int64_t> takenAtPlace0;
-    std::optional<std::int64_t> takenAtStart;
-    struct Heard {
-        Time time;
-        std::int64_t place = 0;
-    };
-    std::optional<Heard> heard; // what the server last reported
     std::optional<Time> firstTaken;
 };
 

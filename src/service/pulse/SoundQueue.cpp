@@ -12,6 +12,12 @@ constexpr std::int64_t kNoEnd = std::numeric_limits<std::int64_t>::max();
 
 } // namespace
 
+std::int64_t BytesOf(const SoundFormat& format, std::chrono::nanoseconds time)
+{
+    const double seconds = std::chrono::duration<double>(time).count();
+    return static_cast<std::int64_t>(seconds * format.Rate) * format.FrameBytes();
+}
+
 void SoundQueue::Start(std::int64_t place, Loop loop)
 {
     filled = place;

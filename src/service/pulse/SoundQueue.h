@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <span>
@@ -9,6 +10,9 @@
 #include "service/SoundOutput.h"
 
 namespace sprout {
+
+/// Bytes of whole frames that last `time` in `format`.
+[[nodiscard]] std::int64_t BytesOf(const SoundFormat& format, std::chrono::nanoseconds time);
 
 /// What goes to a server's queue: the passes of a sound one after the other, then silence after the last.
 ///

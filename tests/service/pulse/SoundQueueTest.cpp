@@ -44,6 +44,13 @@ protected:
     SoundQueue queue{kByteFormat};
 };
 
+TEST(BytesOfATime, AreWholeFrames)
+{
+    EXPECT_EQ(BytesOf(SoundFormat{2, 44100, 16}, std::chrono::milliseconds(10)), 441 * 4);
+    EXPECT_EQ(BytesOf(SoundFormat{2, 44100, 16}, std::chrono::microseconds(30)), 4); // one frame and a third
+    EXPECT_EQ(BytesOf(SoundFormat{1, 11025, 8}, std::chrono::seconds(2)), 22050);
+}
+
 TEST_F(SoundQueueTest, SilenceFollowsTheEnd)
 {
     queue.Start(0, Loop::No);
