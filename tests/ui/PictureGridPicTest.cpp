@@ -101,8 +101,8 @@ TEST_F(PictureGridPicTest, PutsTheSelectionFrameInPlaceOfTheBorder)
 TEST_F(PictureGridPicTest, BeginsWithTheFirstFrameAtEveryChoice)
 {
     Choose(3);
-    grid.Blink();
-    grid.Blink();
+    grid.BlinkSelectImg().Blink();
+    grid.BlinkSelectImg().Blink();
     ASSERT_EQ(grid.BlinkSelectImg().Phase(), 1);
     Choose(4);
     EXPECT_EQ(grid.BlinkSelectImg().Phase(), 0);
@@ -114,7 +114,7 @@ TEST_F(PictureGridPicTest, ShowsTheTwoFramesInTurn)
     std::vector<int> phases;
     std::vector<QColor> colours;
     for (int tick = 0; tick < 4; ++tick) {
-        ASSERT_TRUE(QMetaObject::invokeMethod(&grid, "Blink"));
+        ASSERT_TRUE(QMetaObject::invokeMethod(&grid.BlinkSelectImg(), "Blink"));
         phases.push_back(grid.BlinkSelectImg().Phase());
         colours.push_back(PixelAt(10, 2));
     }
