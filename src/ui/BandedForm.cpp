@@ -1,50 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/BandedForm.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
-#include <QPainterPath>
-#include <QRegion>
 #include <QScreen>
 
 #include <algorithm>
 #include <iterator>
 
-#include "ui/Artwork.h"
 #include "ui/HelpFrm.h"
 #include "ui/Look.h"
-#include "ui/Palette.h"
 #include "ui/QtText.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr int kCorner = 12;
-constexpr int kLogoSide = 20;
-constexpr int kLogoLeft = 9;
 constexpr int kCloseBoxSide = 22;
 constexpr int kCloseBoxFromRight = 8;
 constexpr int kBeforeCloseBox = 4;
 constexpr int kBeforeHint = 16;
-constexpr int kVineSide = 44;
 constexpr int kBelowButtons = 12;
 constexpr int kButtonsApart = 12;
-
-QPainterPath Outline(const QRectF& rect)
-{
-    QPainterPath path;
-    path.addRoundedRect(rect, kCorner, kCorner);
-    return path;
-}
-
-/// An X server without a compositor shows transparent parts of a window as black.
-bool CornersNeedMask()
-{
-    return QGuiApplication::platformName() == QStringLiteral("xcb");
-}
 
 } // namespace
 
@@ -54,7 +31,7 @@ BandedForm::BandedForm(QWidget* parent)
       watcher(this),
       captionLbl(new QLabel(this))
 {
-    if (!CornersNeedMask())
+    if (!FormCornersNeedMask())
         setAttribute(Qt::WA_TranslucentBackground);
     captionLbl->setObjectName(QStringLiteral("CaptionLbl"));
     captionLbl->setFont(ButtonFont());
@@ -157,7 +134,7 @@ void BandedForm::PlaceButtons(int width, int top)
         rowWidth += button->width();
         rowHeight = std::max(rowHeight, button->height());
     }
-    const int formWidth = std::max(width, rowWidth + 2 * kCorner);
+    const int formWidth = std::max(width, rowWidth + 2 * kFormCorner);
     resize(formWidth, kBandHeight + top + rowHeight + kBelowButtons);
     int left = (formWidth - rowWidth) / 2;
     for (ImageButton* button : wordButtons) {
@@ -168,50 +145,16 @@ void BandedForm::PlaceButtons(int width, int top)
 
 void BandedForm::paintEvent(QPaintEvent* /*event*/)
 {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF inside = QRectF(rect()).adjusted(1, 1, -1, -1);
-    if (CornersNeedMask())
-        painter.fillRect(rect(), kBark);
-    painter.setClipPath(Outline(inside));
-    painter.fillRect(rect(), kPaper);
-    PaintVine(painter);
-    PaintBand(painter);
-    painter.setClipping(false);
-    painter.setPen(QPen(kBark, 2));
-    painter.drawPath(Outline(inside));
-}
-
-void BandedForm::PaintVine(QPainter& painter) const
-{
-    const QRect vine(width() - kVineSide - 2, height() - kVineSide - 2, kVineSide, kVineSide);
-    const QRect leaves = vine.adjusted(kVineSide / 4, 0, 0, 0);
-    const auto parts = findChildren<const QWidget*>(QString(), Qt::FindDirectChildrenOnly);
-    const bool isCovered = std::any_of(parts.begin(), parts.end(), [&leaves](const QWidget* part) {
-        return !part->isWindow() && !part->isHidden() && part->geometry().intersects(leaves);
-    });
-    if (!isCovered)
-        painter.drawPixmap(vine.topLeft(),
-                           Artwork(QStringLiteral("pictures/FormVine"), vine.size(), devicePixelRatioF()));
-}
-
-void BandedForm::PaintBand(QPainter& painter) const
-{
-    painter.fillRect(QRect(0, 0, width(), kBandHeight), kDeepLeaf);
-    painter.fillRect(QRect(0, kBandHeight - 2, width(), 2), kBark);
-    painter.drawPixmap(
-        kLogoLeft, (kBandHeight - kLogoSide) / 2,
-        Artwork(QStringLiteral("pictures/SproutPaper"), QSize(kLogoSide, kLogoSide), devicePixelRatioF()));
+    PaintBandedForm(*this);
 }
 
 void BandedForm::resizeEvent(QResizeEvent* event)
 {
     QDialog::resizeEvent(event);
-    if (CornersNeedMask())
-        setMask(QRegion(Outline(rect()).toFillPolygon().toPolygon()));
+    if (FormCornersNeedMask())
+        setMask(FormMask(rect()));
     closeBox->move(width() - kCloseBoxSide - kCloseBoxFromRight, 1);
-    const int captionLeft = kLogoLeft + kLogoSide + 2;
-    captionLbl->setGeometry(captionLeft, 0, closeBox->x() - captionLeft - kBeforeCloseBox, kBandHeight - 2);
+    captionLbl->setGeometry(CaptionLeft(), 0, closeBox->x() - CaptionLeft() - kBeforeCloseBox, kBandHeight - 2);
     FitCaption();
 }
 

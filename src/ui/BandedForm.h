@@ -8,14 +8,12 @@
 #include <string_view>
 #include <vector>
 
+#include "ui/BandedFormLook.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Hints.h"
 #include "ui/WindowMover.h"
 
 namespace sprout {
-
-/// Height of a window's title band. Positions inside a form count from its lower edge.
-inline constexpr int kBandHeight = 26;
 
 /// A modal window in the program's own look: no system frame, a leaf-green band with the title and a close box, and a
 /// rounded paper body. Dragging the band moves the window.
@@ -71,8 +69,6 @@ protected:
 
 private:
     void Centre();
-    void PaintBand(QPainter& painter) const;
-    void PaintVine(QPainter& painter) const;
     /// Gives the caption its space in the band, and the hint the rest.
     void FitCaption();
     void FocusNeighbour(int step);
