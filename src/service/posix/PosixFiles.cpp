@@ -3,22 +3,16 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <sys/uio.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
 #include <chrono>
-#include <cstdio>
-#include <string>
 #include <system_error>
 #include <thread>
-#include <vector>
 
-#include "base/Errors.h"
 #include "base/FilePaths.h"
 #include "service/posix/Descriptor.h"
+#include "service/posix/FileBeside.h"
 #include "service/posix/FileLock.h"
 
 namespace sprout {
@@ -26,202 +20,6 @@ namespace sprout {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr int kMostSavesAtOnce = 100; // hidden files of other running programs in one folder
-
-fs::path FolderOf(const fs::path& file)
-{
-    return file.has_parent_path() ? file.parent_path() : fs::path(".");
-}
-
-template <class Error = RunTimeError>
-[[noreturn]] void Fail(const fs::path& path, int error)
-{
-    throw Error("The file " + path.native() + " could not be written: " + std::generic_category().message(error) + ".");
-}
-
-bool MayWrite(const fs::path& path)
-{
-    return ::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0;
-}
-
-/// A new hidden file beside a target. It is locked while it is written, so no other running program takes it for a
-/// stale one, and it is deleted unless it was moved over the target.
-class FileBeside {
-public:
-    explicit FileBeside(const fs::path& target) : wanted(target), file(Create()) {}
-    FileBeside(const FileBeside&) = delete;
-    FileBeside& operator=(const FileBeside&) = delete;
-    ~FileBeside()
-    {
-        if (!moved)
-            ::unlink(path.c_str());
-    }
-
-    /// Throws `NotReplaced` if the existing target must not be replaced.
-    void RequireTarget() const;
-    void Write(std::span<const std::span<const std::byte>> pieces);
-    void MoveTo(std::uint64_t place);
-    void TakeMode();
-    void FlushToDisk();
-    void MoveOver();
-    [[nodiscard]] bool MoveToFreeName();
-
-private:
-    int Create();
-    void CloseUnderLock();
-    [[noreturn]] void FailToReplace() const;
-
-    fs::path wanted;
-    fs::path path;
-    Descriptor file;
-    Descriptor lock{-1}; // of the file while it is being closed and moved
-    bool moved = false;
-};
-
-void DeleteUnlessHeld(const fs::path& path)
-{
-    const Descriptor file(
-        Uninterrupted([&] { return ::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); }));
-    if (file.Number() >= 0 && TakeLock(file.Number()) == Lock::Taken && Names(path, file.Number()))
-        ::unlink(path.c_str());
-}
-
-int FileBeside::Create()
-{
-    const fs::path folder = FolderOf(wanted);
-    for (int n = 1; n <= kMostSavesAtOnce; ++n) {
-        path = folder / (".TqkSave" + std::to_string(n));
-        DeleteUnlessHeld(path);
-        const int opened = Uninterrupted(
-            [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly); });
-        if (opened < 0 && errno != EEXIST)
-            Fail(wanted, errno);
-        if (opened < 0)
-            continue;
-        // A system that does not report the names of open files has still created it.
-        if (TakeLock(opened) != Lock::Held && NamingOf(path, opened) != Naming::Another)
-            return opened;
-        ::close(opened); // just before the lock another program took it for a stale one
-    }
-    Fail(wanted, EEXIST);
-}
-
-/// Drops `count` written bytes from the front of `blocks`.
-void DropFront(std::vector<iovec>& blocks, std::size_t& first, std::size_t count)
-{
-    while (count > 0) {
-        iovec& block = blocks[first];
-        const std::size_t part = std::min(count, block.iov_len);
-        block.iov_base = static_cast<char*>(block.iov_base) + part;
-        block.iov_len -= part;
-        count -= part;
-        if (block.iov_len == 0)
-            ++first;
-    }
-}
-
-void FileBeside::Write(std::span<const std::span<const std::byte>> pieces)
-{
-    std::vector<iovec> blocks;
-    for (const std::span<const std::byte> piece : pieces)
-        if (!piece.empty()) // writev takes pointers to non-const data, but does not change it
-            blocks.push_back({const_cast<std::byte*>(piece.data()), piece.size()});
-    constexpr std::size_t mostBlocks = 512;
-    for (std::size_t first = 0; first < blocks.size();) {
-        const auto count = static_cast<int>(std::min(blocks.size() - first, mostBlocks));
-        const ssize_t written = ::writev(file.Number(), &blocks[first], count);
-        if (written == 0)
-            Fail(wanted, EIO); // a disk that accepts nothing and gives no reason would cause an endless loop
-        if (written < 0 && errno != EINTR)
-            Fail(wanted, errno);
-        if (written > 0)
-            DropFront(blocks, first, static_cast<std::size_t>(written));
-    }
-}
-
-void FileBeside::MoveTo(std::uint64_t place)
-{
-    if (::lseek(file.Number(), static_cast<off_t>(place), SEEK_SET) < 0)
-        Fail(wanted, errno);
-}
-
-void FileBeside::RequireTarget() const
-{
-    struct stat facts {};
-    if (::stat(wanted.c_str(), &facts) != 0)
-        return;
-    if (!S_ISREG(facts.st_mode))
-        throw NotReplaced("The file " + wanted.native() + " could not be written: it is no plain file.");
-    if (!MayWrite(wanted))
-        Fail<NotReplaced>(wanted, errno);
-}
-
-/// Sets the mode of the replaced file, or the default mode of a new file. If that fails, the file is still good, but
-/// private to its user.
-void FileBeside::TakeMode()
-{
-    struct stat facts {};
-    mode_t mode = 0;
-    if (::stat(wanted.c_str(), &facts) == 0) {
-        mode = facts.st_mode & 07777;
-    } else {
-        const mode_t mask = ::umask(0);
-        ::umask(mask);
-        mode = kAllButExecute & ~mask;
-    }
-    Uninterrupted([&] { return ::fchmod(file.Number(), mode); });
-}
-
-void FileBeside::FlushToDisk()
-{
-    if (Uninterrupted([&] { return ::fsync(file.Number()); }) != 0)
-        Fail(wanted, errno);
-}
-
-/// Closing reports errors that the writes could not; the lock stays until the rename.
-void FileBeside::CloseUnderLock()
-{
-    lock = Descriptor(::dup(file.Number()));
-    if (lock.Number() < 0)
-        Fail(wanted, errno);
-    if (const int error = file.Close(); error != 0)
-        Fail(wanted, error);
-}
-
-void FileBeside::MoveOver()
-{
-    CloseUnderLock();
-    if (Uninterrupted([&] { return ::rename(path.c_str(), wanted.c_str()); }) != 0)
-        FailToReplace();
-    moved = true;
-}
-
-/// Returns false if the name is taken.
-bool FileBeside::MoveToFreeName()
-{
-    CloseUnderLock();
-    const auto rename = [&] { return ::renameat2(AT_FDCWD, path.c_str(), AT_FDCWD, wanted.c_str(), RENAME_NOREPLACE); };
-    if (Uninterrupted(rename) == 0) {
-        moved = true;
-        return true;
-    }
-    // Not every file system supports such a rename. A second name does the same; the first goes with this object.
-    if (errno == EINVAL && Uninterrupted([&] { return ::link(path.c_str(), wanted.c_str()); }) == 0)
-        return true;
-    if (errno != EEXIST)
-        Fail(wanted, errno);
-    return false;
-}
-
-void FileBeside::FailToReplace() const
-{
-    const int error = errno;
-    struct stat facts {};
-    if (::lstat(wanted.c_str(), &facts) == 0)
-        Fail<NotReplaced>(wanted, error);
-    Fail(wanted, error);
-}
 
 /// Flushes the folder's entry to disk. Some file systems cannot; the rename itself has succeeded.
 void FlushFolder(const fs::path& target)
