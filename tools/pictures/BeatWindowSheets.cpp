@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "BeatWindowSheets.h"
+#include "pictures/BeatWindowSheets.h"
 
 #include <QApplication>
 #include <QDir>
@@ -7,12 +7,12 @@
 #include <QTemporaryDir>
 
 #include <array>
-#include <cstdio>
 #include <filesystem>
 
 #include "base/FilePaths.h"
 #include "beat_window/BeatWindow.h"
 #include "core/Shared.h"
+#include "pictures/SheetPicture.h"
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
 #include "service/qt/QtPictureFiles.h"
@@ -29,14 +29,6 @@ namespace {
 
 constexpr int kManyBeats = 300;
 constexpr std::array kArtworks{"PlayAllBtn", "BrushBtn", "EraserBtn", "NewBtn", "OpenBtn", "SaveBtn", "DemoBtn"};
-
-void SaveWindow(QWidget& window, const QString& path)
-{
-    window.show();
-    QApplication::processEvents();
-    if (!window.grab().save(path))
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
-}
 
 /// A silent wave, 0.5 s at 11,025 Hz.
 void WriteQuietWave(const QString& path)
@@ -61,12 +53,12 @@ void MakeBeats(const QString& folder, int count)
     }
 }
 
-void DrawBeats(const QString& path, const QString& chosen)
+void DrawBeats(const QString& folder, const QString& name, const QString& chosen)
 {
     BeatWindow window(nullptr);
     window.ChosenBeatName = chosen.toStdString();
     window.LoadBeatFiles();
-    SaveWindow(window, path);
+    ShowAndSaveSheet(window, folder, name);
 }
 
 } // namespace
@@ -85,16 +77,16 @@ void DrawBeatWindowSheets(const QString& folder)
     MakeProgramPictures();
 
     Shared().UserBeats = AsFolder("/home/child/Documents/Tonquill Sprout Painter/Beats");
-    DrawBeats(folder + QStringLiteral("/beats-none.png"), {});
+    DrawBeats(folder, QStringLiteral("beats-none"), {});
     const QTemporaryDir beats;
     Shared().UserBeats = AsFolder(beats.path().toStdString());
     const fs::path library = fs::path(QApplication::applicationDirPath().toStdString()) / "Sprout" / "Beats";
     if (fs::is_directory(library))
         fs::copy(library, fs::path(beats.path().toStdString()));
     fs::remove(Shared().UserBeats / "TqBeats.ini");
-    DrawBeats(folder + QStringLiteral("/beats-library.png"), QStringLiteral("g_acoustic guitar high"));
+    DrawBeats(folder, QStringLiteral("beats-library"), QStringLiteral("g_acoustic guitar high"));
     MakeBeats(beats.path(), kManyBeats);
-    DrawBeats(folder + QStringLiteral("/beats-many.png"), QStringLiteral("beat 003 that the user made"));
+    DrawBeats(folder, QStringLiteral("beats-many"), QStringLiteral("beat 003 that the user made"));
     TheServices() = before;
 }
 

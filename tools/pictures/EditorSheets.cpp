@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "EditorSheets.h"
+#include "pictures/EditorSheets.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <numbers>
 
 #include "core/Shared.h"
+#include "pictures/SheetPicture.h"
 #include "recording/AudioEditFrm.h"
 
 namespace sprout {
@@ -40,14 +40,6 @@ WaveData SungSound()
     return wave;
 }
 
-void SaveEditorPicture(QWidget& window, const QString& folder, const QString& name)
-{
-    window.show();
-    QApplication::processEvents();
-    if (!window.grab().save(QStringLiteral("%1/%2.png").arg(folder, name)))
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(name));
-}
-
 void PressKeys(AudioEditFrm& form, Qt::KeyboardModifiers modifiers, int times)
 {
     for (int i = 0; i < times; ++i) {
@@ -61,12 +53,12 @@ void DrawEditor(const QString& folder, QSize room, const QString& name)
     AudioEditFrm form(nullptr);
     form.FitTo(room);
     form.UpdateFormWithCurrentTrack(1);
-    SaveEditorPicture(form, folder, name);
+    ShowAndSaveSheet(form, folder, name);
     PressKeys(form, Qt::NoModifier, kKeysToStart);
-    SaveEditorPicture(form, folder, name + QStringLiteral("-place"));
+    ShowAndSaveSheet(form, folder, name + QStringLiteral("-place"));
     PressKeys(form, Qt::ShiftModifier, kKeysToEnd);
     form.findChild<QWidget*>(QStringLiteral("HScroll"))->setFocus();
-    SaveEditorPicture(form, folder, name + QStringLiteral("-part"));
+    ShowAndSaveSheet(form, folder, name + QStringLiteral("-part"));
 }
 
 } // namespace

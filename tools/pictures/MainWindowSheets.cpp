@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "MainWindowSheets.h"
+#include "pictures/MainWindowSheets.h"
 
 #include <QApplication>
 #include <QCursor>
@@ -8,7 +8,6 @@
 #include <QTemporaryDir>
 
 #include <array>
-#include <cstdio>
 #include <stdexcept>
 #include <string>
 
@@ -19,6 +18,7 @@
 #include "main_window/MainFrm.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/TransportCommands.h"
+#include "pictures/SheetPicture.h"
 #include "service/Messages.h"
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
@@ -93,10 +93,7 @@ public:
     {
         window->resize(size);
         QApplication::processEvents();
-        if (window->grab().save(picturePath))
-            return true;
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(picturePath));
-        return false;
+        return SavePicture(*window, picturePath);
     }
 
     [[nodiscard]] ImageButton& Button(const char* name) const

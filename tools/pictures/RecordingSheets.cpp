@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "RecordingSheets.h"
+#include "pictures/RecordingSheets.h"
 
 #include <QApplication>
 #include <QTimer>
 #include <QTimerEvent>
 
-#include <cstdio>
-
 #include "core/Shared.h"
+#include "pictures/SheetPicture.h"
 #include "recording/Recd_Frm.h"
 #include "service/Screen.h"
 #include "service/Services.h"
@@ -66,9 +65,7 @@ void DrawState(const DrawnState& state, DrawnCapture& capture, const QString& fo
         Tick(form, "CaptureTimer");
         if (state.hops)
             Tick(form, "AnimTimer");
-        QApplication::processEvents();
-        if (!form.grab().save(QStringLiteral("%1/%2.png").arg(folder, QString::fromLatin1(state.name))))
-            std::fprintf(stderr, "%s cannot be written.\n", state.name);
+        SaveSheet(form, folder, QString::fromLatin1(state.name));
         form.done(0);
     };
     if (!form.InitilizeDriver())

@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "SongWindowSheets.h"
+#include "pictures/SongWindowSheets.h"
 
-#include <QApplication>
 #include <QFile>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
 
 #include <array>
-#include <cstdio>
 
 #include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "main_window/About_Frm.h"
+#include "pictures/SheetPicture.h"
 #include "song_window/SongSelFrm.h"
 #include "ui/HelpFrm.h"
 #include "ui/MessageForms.h"
@@ -30,14 +29,6 @@ constexpr std::array kSongNames{"Zumi",
                                 "Drum train",
                                 "The very long song that Grandmother and I made together on a rainy Sunday in autumn"};
 constexpr int kManySongs = 200;
-
-void SavePicture(QWidget& window, const QString& folder, const QString& name)
-{
-    window.show();
-    QApplication::processEvents();
-    if (!window.grab().save(QStringLiteral("%1/%2.png").arg(folder, name)))
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(name));
-}
 
 void MakeSongs(const QString& folder, int count)
 {
@@ -63,7 +54,7 @@ void DrawSongWindows(const QString& folder, int songs)
             form.SetSongName("Zumi");
         if (songs > 0)
             form.findChild<QListWidget*>(QStringLiteral("SngNmLst"))->setCurrentRow(2);
-        SavePicture(form, folder, QStringLiteral("songs-mode%1-%2").arg(static_cast<int>(mode)).arg(songs));
+        ShowAndSaveSheet(form, folder, QStringLiteral("songs-mode%1-%2").arg(static_cast<int>(mode)).arg(songs));
     }
 }
 
@@ -74,11 +65,11 @@ void DrawHelp(const QString& folder)
     auto* pages = help.findChild<QListWidget*>(QStringLiteral("PagesLst"));
     for (int page = 0; page < pages->count(); ++page) {
         pages->setCurrentRow(page);
-        SavePicture(help, folder, QStringLiteral("help%1").arg(page + 1));
+        ShowAndSaveSheet(help, folder, QStringLiteral("help%1").arg(page + 1));
         book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
-        SavePicture(help, folder, QStringLiteral("help%1-further").arg(page + 1));
+        ShowAndSaveSheet(help, folder, QStringLiteral("help%1-further").arg(page + 1));
         book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
-        SavePicture(help, folder, QStringLiteral("help%1-end").arg(page + 1));
+        ShowAndSaveSheet(help, folder, QStringLiteral("help%1-end").arg(page + 1));
     }
     help.setAttribute(Qt::WA_DeleteOnClose, false);
 }
@@ -90,9 +81,9 @@ void DrawSongWindowSheets(const QString& folder)
     for (const int songs : {0, static_cast<int>(kSongNames.size()), kManySongs})
         DrawSongWindows(folder, songs);
     PlainBoxFrm error(nullptr, "Error Copying file\r\nNo space left on device.", MessageIcon::None);
-    SavePicture(error, folder, QStringLiteral("songs-error"));
+    ShowAndSaveSheet(error, folder, QStringLiteral("songs-error"));
     About_Frm about(nullptr);
-    SavePicture(about, folder, QStringLiteral("about"));
+    ShowAndSaveSheet(about, folder, QStringLiteral("about"));
     DrawHelp(folder);
 }
 

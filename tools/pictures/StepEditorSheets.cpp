@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "StepEditorSheets.h"
+#include "pictures/StepEditorSheets.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -10,11 +10,11 @@
 #include <QScrollBar>
 
 #include <array>
-#include <cstdio>
 #include <string>
 
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "pictures/SheetPicture.h"
 #include "service/Services.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TunFramPic.h"
@@ -26,14 +26,6 @@
 
 namespace sprout {
 namespace {
-
-void SaveAs(QWidget& widget, const QString& folder, const QString& name)
-{
-    QApplication::processEvents();
-    const QString path = QStringLiteral("%1/%2.png").arg(folder, name);
-    if (!widget.grab().save(path))
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
-}
 
 /// A tune with some steps off, all pitches and various lengths.
 void FillCurrentTune(std::int32_t steps)
@@ -76,7 +68,7 @@ void DrawMarks(StepEditor& editor, const QString& folder)
         mark.show();
     }
     editor.findChild<QWidget*>(QStringLiteral("Step7"))->setFocus(Qt::TabFocusReason);
-    SaveAs(editor, folder, QStringLiteral("steps-marks"));
+    SaveSheet(editor, folder, QStringLiteral("steps-marks"));
     Shared().SongBeatsInside = true;
     editor.HidePlayMarks();
 }
@@ -86,7 +78,7 @@ void DrawStepMenu(StepEditor& editor, const QString& folder)
     auto& menu = *editor.findChild<QMenu*>(QStringLiteral("StepPopMnu"));
     menu.popup(editor.pos());
     menu.setActiveAction(menu.actions().front());
-    SaveAs(menu, folder, QStringLiteral("steps-menu"));
+    SaveSheet(menu, folder, QStringLiteral("steps-menu"));
     menu.hide();
 }
 
@@ -94,7 +86,7 @@ void DrawStepNumbers(StepEditor& editor, const QString& folder)
 {
     auto& combo = *editor.findChild<QComboBox*>(QStringLiteral("StepNosCmb"));
     combo.showPopup();
-    SaveAs(*combo.view()->window(), folder, QStringLiteral("steps-combo"));
+    SaveSheet(*combo.view()->window(), folder, QStringLiteral("steps-combo"));
     combo.hidePopup();
 }
 
@@ -115,13 +107,13 @@ void DrawStepEditorSheets(const QString& folder)
     for (const std::int32_t steps : {2, 8, 16, 32, 64}) {
         FillCurrentTune(steps);
         editor.UpdateThisTune();
-        SaveAs(window, folder, QStringLiteral("steps-%1").arg(steps));
+        SaveSheet(window, folder, QStringLiteral("steps-%1").arg(steps));
     }
     auto& scroll = *editor.findChild<QScrollBar*>(QStringLiteral("TunFramHScroll"));
     scroll.setValue(scroll.maximum() / 2);
-    SaveAs(window, folder, QStringLiteral("steps-64-middle"));
+    SaveSheet(window, folder, QStringLiteral("steps-64-middle"));
     scroll.setValue(scroll.maximum());
-    SaveAs(window, folder, QStringLiteral("steps-64-end"));
+    SaveSheet(window, folder, QStringLiteral("steps-64-end"));
     DrawMarks(editor, folder);
     DrawStepMenu(editor, folder);
     DrawStepNumbers(editor, folder);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "TuneWindowSheets.h"
+#include "pictures/TuneWindowSheets.h"
 
 #include <QApplication>
 #include <QDir>
@@ -7,7 +7,6 @@
 #include <QPixmap>
 #include <QTimer>
 
-#include <cstdio>
 #include <functional>
 #include <string>
 
@@ -15,6 +14,7 @@
 #include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "pictures/SheetPicture.h"
 #include "service/Files.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"
@@ -59,14 +59,6 @@ public:
     void UpdateThisTune() override { sprout::UpdateThisTune(); }
 };
 
-void SaveTunePicture(QWidget& widget, const QString& folder, const char* name)
-{
-    QApplication::processEvents();
-    const QString path = QStringLiteral("%1/%2.png").arg(folder, QString::fromLatin1(name));
-    if (!widget.grab().save(path))
-        std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
-}
-
 void FillTuneTable(std::int32_t count)
 {
     SharedState& shared = Shared();
@@ -100,7 +92,7 @@ void DrawMenu(TuneFrm2& window, const QString& folder)
     auto& menu = *window.findChild<QMenu*>(QStringLiteral("PopPosiMnu"));
     menu.popup(window.pos());
     menu.setActiveAction(menu.actions().front());
-    SaveTunePicture(menu, folder, "tune-menu");
+    SaveSheet(menu, folder, QStringLiteral("tune-menu"));
     menu.hide();
 }
 
@@ -112,8 +104,7 @@ void DrawLibrary(const QString& folder)
         for (const QSize size :
              {QSize(800, 600), QSize(1024, 768), QSize(1280, 720), QSize(1366, 768), QSize(1920, 1080)}) {
             window.FitTo(size);
-            SaveTunePicture(window, folder,
-                            QStringLiteral("tune-library-%1x%2").arg(size.width()).arg(size.height()).toLatin1());
+            SaveSheet(window, folder, QStringLiteral("tune-library-%1x%2").arg(size.width()).arg(size.height()));
         }
         DrawMenu(window, folder);
     });
@@ -136,22 +127,22 @@ void DrawTuneWindowSheets(const QString& folder)
     FillTuneTable(200);
     DrawOpened([&folder](TuneFrm2& window) {
         window.FitTo({1366, 740});
-        SaveTunePicture(window, folder, "tune-200-1366x768");
+        SaveSheet(window, folder, QStringLiteral("tune-200-1366x768"));
     });
     SetUserRoot("/home/child/Documents/Tonquill Sprout Painter");
     FillTuneTable(0);
     DrawOpened([&folder](TuneFrm2& window) {
         window.FitTo({800, 600});
-        SaveTunePicture(window, folder, "tune-none-800x600");
+        SaveSheet(window, folder, QStringLiteral("tune-none-800x600"));
     });
     TuneNameFrm form(nullptr, {"Rain dance", "Ann"});
     form.show();
-    SaveTunePicture(form, folder, "tune-name");
+    SaveSheet(form, folder, QStringLiteral("tune-name"));
     Msg1Btn2NoteFrm refusal(nullptr, "An Original Tonquill Tune is there with this name \"Lumo\"\r\n",
                             "Please enter another name for this Tune and save.");
     refusal.SetCaption(" Tonquill Sprout Painter");
     refusal.show();
-    SaveTunePicture(refusal, folder, "tune-refusal");
+    SaveSheet(refusal, folder, QStringLiteral("tune-refusal"));
     TheServices() = Services();
 }
 

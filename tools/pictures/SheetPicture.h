@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+namespace sprout {
+
+/// Saves a picture of a widget as a file. Returns true if that worked; reports a failure on the error stream.
+bool SavePicture(QWidget& widget, const QString& path);
+
+/// Saves a picture of a widget as FOLDER/NAME.png, as it looks once all that waits has happened.
+void SaveSheet(QWidget& widget, const QString& folder, const QString& name);
+
+/// Shows the widget first.
+void ShowAndSaveSheet(QWidget& widget, const QString& folder, const QString& name);
+
+} // namespace sprout
