@@ -3,15 +3,12 @@
 
 #include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <csignal>
 #include <optional>
@@ -20,6 +17,8 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "posix/Descriptor.h"
+#include "posix/StartProgram.h"
 #include "service/ffmpeg/SoundDecoder.h"
 
 namespace sprout {
@@ -28,29 +27,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kOwnerOnly = 0600;
 constexpr int kMostTries = 100; // if other programs create files of the same names at the same time
 constexpr int kPollMs = 20;
-
-/// An open file descriptor, or none if below 0.
-class Descriptor {
-public:
-    explicit Descriptor(int opened) : number(opened) {}
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    Descriptor(Descriptor&& other) noexcept : number(std::exchange(other.number, -1)) {}
-    Descriptor& operator=(Descriptor&&) = delete;
-    ~Descriptor()
-    {
-        if (number >= 0)
-            ::close(number);
-    }
-
-    [[nodiscard]] int Number() const { return number; }
-
-private:
-    int number;
-};
 
 [[noreturn]] void FailToWrite(int error)
 {
@@ -92,53 +70,18 @@ int TemporaryWave::Create(const SoundChild::NewFile& newFile)
         if (opened < 0)
             continue;
         struct stat facts {};
-        const bool isHeld = ::flock(opened, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
-        if (!isHeld && ::fstat(opened, &facts) == 0 && facts.st_nlink > 0)
+        if (TakeLock(opened) != Lock::Held && ::fstat(opened, &facts) == 0 && facts.st_nlink > 0)
             return opened;
         ::close(opened); // just before the lock another program took it for a stale one
     }
     FailToWrite(EEXIST);
 }
 
-/// What the child gets: both files, none of the program's others, and default signal handling.
-class SpawnOrders {
-public:
-    SpawnOrders(int from, int to)
-    {
-        ::posix_spawn_file_actions_init(&files);
-        ::posix_spawn_file_actions_adddup2(&files, from, STDIN_FILENO);
-        ::posix_spawn_file_actions_adddup2(&files, to, STDOUT_FILENO);
-        ::posix_spawn_file_actions_addclosefrom_np(&files, STDERR_FILENO + 1);
-        ::posix_spawnattr_init(&attributes);
-        sigset_t signals;
-        ::sigemptyset(&signals);
-        ::posix_spawnattr_setsigmask(&attributes, &signals);
-        ::sigfillset(&signals);
-        ::posix_spawnattr_setsigdefault(&attributes, &signals);
-        ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    }
-    SpawnOrders(const SpawnOrders&) = delete;
-    SpawnOrders& operator=(const SpawnOrders&) = delete;
-    ~SpawnOrders()
-    {
-        ::posix_spawn_file_actions_destroy(&files);
-        ::posix_spawnattr_destroy(&attributes);
-    }
-
-    posix_spawn_file_actions_t files{};
-    posix_spawnattr_t attributes{};
-};
-
 pid_t Spawn(const fs::path& program, int from, int to, std::int64_t mostFrames, TooLong tooLong)
 {
-    const SpawnOrders orders(from, to);
-    std::string name = program.native();
-    std::string most = std::to_string(mostFrames);
-    std::string manner = tooLong == TooLong::Cut ? "cut" : "refuse";
-    const std::array<char*, 4> words = {name.data(), most.data(), manner.data(), nullptr};
-    pid_t child = -1;
-    const int error = ::posix_spawn(&child, name.c_str(), &orders.files, &orders.attributes, words.data(), environ);
-    return error == 0 ? child : -1;
+    ProgramStart how{from, to};
+    how.TellsErrors = true;
+    return StartProgram({program, std::to_string(mostFrames), tooLong == TooLong::Cut ? "cut" : "refuse"}, how);
 }
 
 /// A running child, which ends with this object at the latest.
@@ -167,10 +110,7 @@ private:
     std::optional<int> Reap(int options)
     {
         int status = 0;
-        pid_t reaped = -1;
-        do
-            reaped = ::waitpid(pid, &status, options);
-        while (reaped < 0 && errno == EINTR);
+        const pid_t reaped = WaitForProgram(pid, status, options);
         if (reaped == 0)
             return std::nullopt;
         isRunning = false;
@@ -220,7 +160,7 @@ Converted SoundChild::Convert(const fs::path& sound, std::int32_t mostSeconds, T
     auto wave = std::make_unique<TemporaryWave>(newFile);
     const auto last = std::chrono::steady_clock::now() + longest;
     const pid_t pid = Spawn(program, from.Number(), wave->Number(), mostFrames, tooLong);
-    if (pid < 0)
+    if (pid == 0)
         return {};
     Child child(pid);
     std::optional<int> status = child.WaitAMoment();

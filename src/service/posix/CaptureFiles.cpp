@@ -18,7 +18,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t kCaptureFileMode = 0600;
 constexpr int kTries = 3;
 constexpr std::int64_t kFramesBetweenLooks = 8820; // at the free disk space
 
@@ -52,9 +51,8 @@ void DeleteIfLeft(const fs::path& path)
 CaptureFiles::OneFile CaptureFiles::MakeFile(const fs::path& path)
 {
     for (int tries = 0; tries < kTries; ++tries) {
-        Descriptor file(Uninterrupted([&] {
-            return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kCaptureFileMode);
-        }));
+        Descriptor file(Uninterrupted(
+            [&] { return ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, kOwnerOnly); }));
         if (file.Number() < 0)
             break;
         if (TakeLock(file.Number()) != Lock::Held && Names(path, file.Number()))

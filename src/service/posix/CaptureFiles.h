@@ -9,8 +9,8 @@
 #include <stop_token>
 #include <vector>
 
+#include "posix/Descriptor.h"
 #include "service/SoundCapture.h"
-#include "service/posix/Descriptor.h"
 
 namespace sprout {
 

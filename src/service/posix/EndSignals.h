@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "service/posix/Descriptor.h"
+#include "posix/Descriptor.h"
 
 namespace sprout {
 

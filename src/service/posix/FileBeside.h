@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <span>
 
-#include "service/posix/Descriptor.h"
+#include "posix/Descriptor.h"
 
 namespace sprout {
 

@@ -3,7 +3,7 @@
 
 #include <filesystem>
 
-#include "service/posix/Descriptor.h"
+#include "posix/Descriptor.h"
 
 namespace sprout {
 

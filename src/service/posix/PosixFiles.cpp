@@ -11,7 +11,7 @@
 #include <thread>
 
 #include "base/FilePaths.h"
-#include "service/posix/Descriptor.h"
+#include "posix/Descriptor.h"
 #include "service/posix/FileBeside.h"
 #include "service/posix/FileLock.h"
 

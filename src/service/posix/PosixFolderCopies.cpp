@@ -14,7 +14,7 @@
 
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
-#include "service/posix/Descriptor.h"
+#include "posix/Descriptor.h"
 #include "service/posix/FileLock.h"
 
 namespace sprout {

@@ -5,8 +5,8 @@
 #include <thread>
 #include <vector>
 
+#include "posix/Descriptor.h"
 #include "service/PrivateFolders.h"
-#include "service/posix/Descriptor.h"
 
 namespace sprout {
 

@@ -2,15 +2,14 @@
 #include "service/xdg/XdgDesktop.h"
 
 #include <spawn.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <system_error>
 
 #include "base/Text.h"
+#include "posix/StartProgram.h"
 #include "service/xdg/ChildProcess.h"
 #include "service/xdg/Environment.h"
 
@@ -118,9 +117,9 @@ void XdgDesktop::OpenWithShell(std::string_view target)
     const std::array<char*, 6> words = {shell.data(),   option.data(),   script.data(),
                                         program.data(), argument.data(), nullptr};
     pid_t child = 0;
+    int status = 0;
     if (::posix_spawn(&child, shell.c_str(), nullptr, nullptr, words.data(), environ) == 0)
-        while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
-        }
+        WaitForProgram(child, status);
 }
 
 std::vector<std::string> XdgDesktop::OpenSoundControl(SoundControl control)
