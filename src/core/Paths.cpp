@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/Errors.h"
+#include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
 #include "base/Text.h"
@@ -173,6 +174,11 @@ void SetUserRoot(const fs::path& root)
     shared.UserTunes = AsFolder(root / "Tunes");
     shared.UserStars = AsFolder(root / "Stars");
     shared.UserSongs = AsFolder(root / "Songs");
+}
+
+fs::path SongPath(std::string_view title)
+{
+    return NamedFile(Shared().UserSongs, title, kSongExtension);
 }
 
 std::string FileStamp(const fs::path& path)

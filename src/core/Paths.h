@@ -46,6 +46,9 @@ void FindTempFolder();
 /// Sets the folders under `UserRoot`.
 void SetUserRoot(const std::filesystem::path& root);
 
+/// The path of a song in `UserSongs`, see `NamedFile`.
+[[nodiscard]] std::filesystem::path SongPath(std::string_view title);
+
 /// The last-write time of a file as "mm/dd/yyyy,hh:mm:ss" in local time; empty if the file does not exist.
 [[nodiscard]] std::string FileStamp(const std::filesystem::path& path);
 

@@ -5,7 +5,6 @@
 #include <limits>
 #include <string>
 
-#include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/Numbers.h"
 #include "core/Paths.h"
@@ -23,7 +22,7 @@ std::string FreeSongName()
 {
     const std::string first = "Untitled";
     std::string candidate = first;
-    for (int n = 1; FileExists(NamedFile(Shared().UserSongs, candidate, kSongExtension)); ++n)
+    for (int n = 1; FileExists(SongPath(candidate)); ++n)
         candidate = first + " " + std::to_string(n);
     return candidate;
 }

@@ -72,7 +72,7 @@ std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name)
 
 fs::path PlaceOfSong(std::string_view title)
 {
-    const fs::path path = NamedFile(Shared().UserSongs, title, kSongExtension);
+    const fs::path path = SongPath(title);
     const fs::path found = FindFile(path);
     return found.empty() ? path : found;
 }

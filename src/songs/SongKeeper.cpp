@@ -7,7 +7,6 @@
 #include <string_view>
 #include <system_error>
 
-#include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
 #include "base/Longs.h"
@@ -42,7 +41,7 @@ std::size_t NumberOf(const LongsWriter& data)
 std::string KeptName(std::string_view title, int number)
 {
     std::string name = SafeFileName(CharactersInBytes(Trim(title), kMostTitleBytes));
-    if (NamedFile(Shared().UserSongs, name, kSongExtension).empty())
+    if (SongPath(name).empty())
         name = "Untitled";
     return name + " kept" + (number == 1 ? std::string() : " " + std::to_string(number));
 }
@@ -52,7 +51,7 @@ std::string WriteUnderFreeName(std::string_view title, const LongsWriter& data)
 {
     for (int number = 1;; ++number) {
         std::string name = KeptName(title, number);
-        const fs::path place = NamedFile(Shared().UserSongs, name, kSongExtension);
+        const fs::path place = SongPath(name);
         if (!FileExists(place) && WriteNewDataFile(place, FileHead("TqSng", " Sprout Song File"), data))
             return name;
     }
@@ -90,7 +89,7 @@ std::vector<std::string> TakeKeptSongs()
         if (note.Name.front() != '.')
             continue;
         std::string name = note.Name.substr(1);
-        if (FileExists(NamedFile(Shared().UserSongs, name, kSongExtension)))
+        if (FileExists(SongPath(name)))
             names.push_back(std::move(name));
         std::error_code error;
         fs::remove(note.Path, error);

@@ -2,8 +2,6 @@
 #include <map>
 #include <string>
 
-#include "base/Extensions.h"
-#include "base/FilePaths.h"
 #include "beats/BeatEntry.h"
 #include "beats/BeatFiles.h"
 #include "core/Paths.h"
@@ -13,6 +11,7 @@
 #include "songs/SongVersions.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TunOpnSavClass.h"
+#include "tunes/TuneTable.h"
 
 namespace sprout {
 
@@ -98,7 +97,7 @@ void SongReader20::ReadTune(Tune& tune)
 
 void SongReader20::TakeTuneFile(Tune& tune, const std::string& name)
 {
-    const std::filesystem::path file = NamedFile(Shared().UserTunes, name, kTuneExtension);
+    const std::filesystem::path file = TuneFile(name);
     if (!FileExists(file))
         return ResetTune(tune);
     auto found = outsideTunes.find(name);

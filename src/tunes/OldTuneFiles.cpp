@@ -22,7 +22,6 @@ namespace {
 
 constexpr std::string_view kStepCycle = "StepCycle";
 constexpr std::string_view kUnknownAuthor = "???";
-constexpr std::size_t kTuneExtensionLetters = 6; // .TqTun
 constexpr std::int32_t kMostSteps = 256;
 constexpr std::int32_t kMostPitchShift = 64;
 constexpr std::int32_t kMostVolume = 1000;
@@ -109,9 +108,9 @@ void MakeSilentStar(Tune& tune)
 void Load_Tune_V00(Tune& tune, const fs::path& path, TuneLoad mode)
 {
     const std::string fileName = PathText(path.filename());
-    tune.Name = fileName.substr(0, fileName.size() - std::min(fileName.size(), kTuneExtensionLetters));
+    tune.Name = fileName.substr(0, fileName.size() - std::min(fileName.size(), kTuneExtension.size()));
     const IniFile ini = IniFile::Read(path);
-    tune.CreatedBy = ini.Value("General", "CreatedBy", kUnknownAuthor);
+    tune.CreatedBy = ini.Value(kGeneralSection, "CreatedBy", kUnknownAuthor);
     tune.Picture = LoadPictureFile(NamedFile(Shared().UserTunes, tune.Name, kPictureExtension));
     if (mode != TuneLoad::All)
         return;
@@ -130,7 +129,7 @@ void LoadStarFile(Tune& tune)
     const IniFile ini = IniFile::Read(file);
     tune.Picture = LoadPictureFile(NamedFile(Shared().UserStars, tune.Name, kPictureExtension));
     tune.DateStamp = FileStamp(file);
-    tune.CreatedBy = ini.Value("General", "CreatedBy", kUnknownAuthor);
+    tune.CreatedBy = ini.Value(kGeneralSection, "CreatedBy", kUnknownAuthor);
     ReadStepCycle(ini, tune);
 }
 

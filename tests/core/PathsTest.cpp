@@ -190,5 +190,13 @@ TEST_F(Paths, FindTheProgramsFolderAnew)
     EXPECT_EQ(Shared().TempFolder, In("temp"));
 }
 
+TEST_F(Paths, OfASongAreInTheUsersSongs)
+{
+    SetUserRoot(In("user"));
+    EXPECT_EQ(SongPath("Rain"), In("user/Songs/Rain.TqSng"));
+    EXPECT_TRUE(SongPath("../Rain").empty());
+    EXPECT_TRUE(SongPath(" ").empty());
+}
+
 } // namespace
 } // namespace sprout

@@ -12,7 +12,6 @@
 #include <string_view>
 #include <utility>
 
-#include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/Numbers.h"
 #include "core/Paths.h"
@@ -91,7 +90,7 @@ bool LoadQuietly(const fs::path& file)
 bool OpenSampleSong()
 {
     try {
-        const fs::path file = NamedFile(Shared().UserSongs, kSampleSong, kSongExtension);
+        const fs::path file = SongPath(kSampleSong);
         if (!IsFirstStart() || !FileExists(file) || !LoadQuietly(file))
             return false;
         Shared().Song.SongTitle = kSampleSong;

@@ -2,8 +2,8 @@
 #include "sharing/rules/AttachmentName.h"
 
 #include "base/Extensions.h"
-#include "base/FilePaths.h"
 #include "base/Text.h"
+#include "sharing/rules/ExportName.h"
 
 namespace sprout {
 
@@ -22,12 +22,12 @@ bool IsControl(char c)
 std::string AttachmentName(std::string_view songTitle)
 {
     const bool namesNothing = songTitle.find_first_not_of(" .\t\r\n") == std::string_view::npos;
-    std::string name = SafeFileName(namesNothing ? "Song" : songTitle);
+    std::string name(namesNothing ? "Song" : songTitle);
     for (char& c : name)
         if (IsControl(c) || c == '|')
             c = '_';
     // Windows allows no blank at the end of a name.
-    return std::string(Trim(CharactersInBytes(Trim(name), kMostBytes))) + std::string(kWmaExtension);
+    return OfferedName(Trim(CharactersInBytes(Trim(name), kMostBytes)), kWmaExtension);
 }
 
 } // namespace sprout
