@@ -97,12 +97,6 @@ std::int32_t ByteCursor::ReadInt32()
     return static_cast<std::int32_t>(value);
 }
 
-void ByteCursor::Skip(std::uint64_t count)
-{
-    Require(count);
-    offset += count;
-}
-
 void ByteCursor::MoveTo(std::uint64_t place)
 {
     if (place < begin || place > end)

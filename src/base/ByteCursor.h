@@ -66,7 +66,6 @@ public:
 
     void Read(std::span<std::byte> bytes);
     [[nodiscard]] std::int32_t ReadInt32();
-    void Skip(std::uint64_t count);
 
     /// Moves to a place between the given begin and end.
     void MoveTo(std::uint64_t place);

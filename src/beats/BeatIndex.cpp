@@ -11,7 +11,6 @@ namespace sprout {
 
 namespace {
 
-constexpr std::string_view kGeneralSection = "General";
 constexpr std::string_view kProtectedKey = "Protected";
 constexpr std::string_view kProtectedNos = "ProtectedNos";
 

@@ -18,7 +18,6 @@ namespace sprout {
 
 namespace {
 
-constexpr std::string_view kGeneral = "General";
 constexpr std::string_view kBlanks = " \t";
 
 std::string_view TrimBlanks(std::string_view text)
@@ -128,19 +127,6 @@ std::string IniFile::Value(std::string_view section, std::string_view key, std::
     return std::string(Unquoted(TrimBlanks(std::string_view(text).substr(text.find('=') + 1))));
 }
 
-std::vector<std::string> IniFile::Keys(std::string_view section) const
-{
-    std::vector<std::string> keys;
-    const std::string wanted = LowerCase(section);
-    for (const Line& line : lines) {
-        if (line.key.empty() || line.section != wanted)
-            continue;
-        const std::string text = TextFromStored(line.bytes);
-        keys.emplace_back(TrimBlanks(std::string_view(text).substr(0, text.find('='))));
-    }
-    return keys;
-}
-
 void IniFile::SetValue(std::string_view section, std::string_view key, std::string_view value)
 {
     const std::string name = OneLine(TrimBlanks(key));
@@ -170,16 +156,6 @@ void IniFile::SetValue(std::string_view section, std::string_view key, std::stri
         places.emplace(Place(lowerSection, line.key), lines.size() - 1);
     else
         Index();
-}
-
-void IniFile::RemoveKey(std::string_view section, std::string_view key)
-{
-    const std::string lowerSection = LowerCase(section);
-    const std::string lowerKey = LowerCase(TrimBlanks(key));
-    std::erase_if(lines, [&](const Line& line) {
-        return !line.key.empty() && line.section == lowerSection && line.key == lowerKey;
-    });
-    Index();
 }
 
 void IniFile::RemoveSection(std::string_view section)
@@ -220,7 +196,7 @@ std::string GetIniValue(std::string_view section, std::string_view key, std::str
 
 void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file)
 {
-    const std::string_view named = Trim(section).empty() ? kGeneral : section;
+    const std::string_view named = Trim(section).empty() ? kGeneralSection : section;
     const std::unique_ptr<FileHold> hold = TheServices().files->HoldForChange(file);
     IniFile ini = IniFile::Read(file);
     const std::string before = ini.Bytes();
@@ -237,13 +213,6 @@ void PutIniValues(std::string_view section, std::span<const IniValue> values, co
         // If the file cannot be written, the program continues without it.
         return;
     }
-}
-
-void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
-                 const std::filesystem::path& file)
-{
-    const IniValue one{key, std::string(value)};
-    PutIniValues(section, {&one, 1}, file);
 }
 
 } // namespace sprout

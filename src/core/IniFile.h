@@ -14,6 +14,9 @@ namespace sprout {
 /// Size limit for reading files of this form and tunes of the old form.
 inline constexpr std::uint64_t kMostIniBytes = 4'194'304;
 
+/// The section for everything that has none of its own.
+inline constexpr std::string_view kGeneralSection = "General";
+
 /// A text of sections in square brackets, with one key, an equals sign and a value per line.
 ///
 /// Sections and keys are looked up regardless of case; if a key occurs twice, the first one wins, even across several
@@ -33,11 +36,7 @@ public:
     [[nodiscard]] bool Has(std::string_view section, std::string_view key) const;
     [[nodiscard]] std::string Value(std::string_view section, std::string_view key, std::string_view fallback) const;
 
-    /// Keys of all sections with that name, in order.
-    [[nodiscard]] std::vector<std::string> Keys(std::string_view section) const;
-
     void SetValue(std::string_view section, std::string_view key, std::string_view value);
-    void RemoveKey(std::string_view section, std::string_view key);
     void RemoveSection(std::string_view section);
 
     /// The bytes of the file; lines end with CR LF.
@@ -62,7 +61,8 @@ private:
     std::unordered_map<std::string, std::size_t> places; // section, zero byte, key -> line
 };
 
-/// The value of `key`, or `fallback` if the file has none or the key is blank.
+/// The value of `key`, or `fallback` if the file has none or the key is blank. The demo window will read its list of
+/// pictures with it.
 [[nodiscard]] std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,
                                       const std::filesystem::path& file);
 
@@ -75,9 +75,5 @@ struct IniValue {
 /// replaced once, while no other running program does the same, but not if it already has these values. Ignores
 /// failures, for example in a read-only folder.
 void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file);
-
-/// Writes one value, likewise.
-void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
-                 const std::filesystem::path& file);
 
 } // namespace sprout

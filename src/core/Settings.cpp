@@ -55,7 +55,7 @@ SettingsRead& TheSettings()
 
 std::string_view NamedSection(std::string_view section)
 {
-    return Trim(section).empty() ? "General" : section;
+    return Trim(section).empty() ? kGeneralSection : section;
 }
 
 void ReadColour(std::string_view key, std::int32_t& colour)
@@ -81,7 +81,7 @@ std::string GetSetting(std::string_view section, std::string_view key, std::stri
 
 bool IsSetToOne(std::string_view key)
 {
-    return NumberPrefix(GetSetting("General", key, "0")) == 1;
+    return NumberPrefix(GetSetting(kGeneralSection, key, "0")) == 1;
 }
 
 void PutSettings(std::string_view section, std::initializer_list<IniValue> values)

@@ -10,6 +10,10 @@
 
 namespace sprout {
 
+/// The settings of `kGeneralSection` with the folders in which the user last chose a sound and a picture.
+inline constexpr std::string_view kSoundFolderSetting = "WavFileSelPath";
+inline constexpr std::string_view kPictureFolderSetting = "PictureSelectPath";
+
 /// Longest value that `GetSetting` returns, in characters.
 inline constexpr std::size_t kLongestSetting = 99;
 

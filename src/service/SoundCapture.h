@@ -43,10 +43,13 @@ struct CapturePeaks {
     bool RightOverloaded = false;
 };
 
+/// The volume of a source at 100 %.
+inline constexpr std::int32_t kFullVolume = 65535;
+
 /// A microphone or another source that can be recorded.
 struct SoundSource {
     std::string Name;        ///< for display, UTF-8
-    std::int32_t Volume = 0; ///< 0 to 65535, which is 100 %; 0 if it is muted
+    std::int32_t Volume = 0; ///< 0 to `kFullVolume`; 0 if it is muted
 };
 
 struct SoundSources {

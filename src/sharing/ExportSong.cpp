@@ -29,8 +29,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kSoundFolder = "WavFileSelPath";
-
 /// The texts and the writer for one kind of sound file.
 struct ExportKind {
     std::string_view selectHint;
@@ -84,7 +82,7 @@ bool MayOverwriteSound(const fs::path& target)
 /// The file to save to, with the right extension and permission to overwrite it; nothing if the user cancelled.
 std::optional<fs::path> AskForSoundFile(const ExportKind& kind)
 {
-    FileQuestion question{kind.dialogTitle, GetSetting("General", kSoundFolder, ""),
+    FileQuestion question{kind.dialogTitle, GetSetting(kGeneralSection, kSoundFolderSetting, ""),
                           OfferedName(Shared().Song.SongTitle, kind.extension), std::string(kind.extension.substr(1)),
                           kind.filter};
     for (;;) {
@@ -102,7 +100,7 @@ std::optional<fs::path> AskForSoundFile(const ExportKind& kind)
 void KeepSoundFolder(const fs::path& target)
 {
     if (const std::string folder = ChosenFolder(target); !folder.empty())
-        PutSetting("General", kSoundFolder, folder);
+        PutSetting(kGeneralSection, kSoundFolderSetting, folder);
 }
 
 void TellNotReplaced(const fs::path& target)

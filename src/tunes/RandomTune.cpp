@@ -24,7 +24,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uintmax_t kShortBeatBytes = 80000; ///< a beat's file must be shorter
 constexpr std::int32_t kLongestOnRun = 4;
 constexpr std::int32_t kLongestOffRun = 2;
 constexpr std::int32_t kOffPercent = 33; ///< draws up to this one are off

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <random>
 
@@ -24,6 +25,9 @@ public:
 private:
     std::mt19937 generator;
 };
+
+/// A random tune draws only beats whose files are shorter.
+inline constexpr std::uintmax_t kShortBeatBytes = 80000;
 
 /// Creates a tune from the folders of beats and stars: name, author, picture, steps. Its sound is then stale. The order
 /// of the draws is fixed, so the same sequence always gives the same tune. Messages report unreadable files.

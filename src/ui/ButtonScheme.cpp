@@ -49,12 +49,6 @@ ImageButton& ButtonScheme::Button(std::string_view name) const
     return *buttons.front();
 }
 
-void ButtonScheme::InitButtons()
-{
-    states.InitButtons();
-    RefreshButtons();
-}
-
 void ButtonScheme::ButtonHover(const ImageButton& button)
 {
     if (MouseMovedSinceHint())

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-#include "base/Extensions.h"
-#include "base/FilePaths.h"
 #include "base/Text.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -32,7 +30,6 @@ constexpr double kWidestShareOfScreen = 0.8;
 constexpr int kWidestNote = 816; // fits a small screen; longer lines are hard to read
 
 constexpr int kIconSide = 40;
-constexpr int kTwipsOfAPixel = 15;
 constexpr int kInputFormWidth = 320;
 constexpr int kBoxHeight = 34;
 
@@ -167,7 +164,7 @@ InputBoxFrm::InputBoxFrm(QWidget* parent, std::string_view defaultText, std::str
     const bool oneNote = Trim(note2).empty();
     const int boxTop = oneNote ? 32 : 56;
     const int buttonsTop = oneNote ? 74 : 98;
-    const int formHeight = (oneNote ? 2265 : 2640) / kTwipsOfAPixel;
+    const int formHeight = oneNote ? 151 : 176;
 
     setObjectName(QStringLiteral("InputBoxFrm"));
     QLabel& first = AddLabel("NoteLbl1");
@@ -245,8 +242,7 @@ void SongTitleFrm::ClickOk()
         return;
     }
     // The name of an existing file is only allowed if it is the open song's own title in another case.
-    if (!EqualIgnoringCase(name, Shared().Song.SongTitle) &&
-        FileExists(NamedFile(Shared().UserSongs, name, kSongExtension))) {
+    if (!EqualIgnoringCase(name, Shared().Song.SongTitle) && FileExists(SongPath(name))) {
         ShowMessage("A song with this name already exists.", "Please type another name.");
         return;
     }

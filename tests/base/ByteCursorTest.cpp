@@ -148,8 +148,8 @@ TEST(ByteCursor, SkipsAndNarrowsOnlyWithinItsEnd)
     const std::string letters = Letters(100);
     MemorySource source(std::as_bytes(std::span(letters)));
     ByteCursor cursor(source, 0, 100);
-    cursor.Skip(40);
-    EXPECT_THROW(cursor.Skip(61), RunTimeError);
+    cursor.MoveTo(40);
+    EXPECT_THROW(cursor.Require(61), RunTimeError);
     EXPECT_THROW(cursor.Narrow(39), RunTimeError);
     EXPECT_THROW(cursor.Narrow(101), RunTimeError);
     cursor.Narrow(50);

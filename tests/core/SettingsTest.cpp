@@ -117,7 +117,8 @@ TEST_F(Settings, AreReadAnewAfterAWriteOfTheProgramsOwn)
 TEST_F(Settings, SeeWhatAnotherProgramWrites)
 {
     for (int value = 0; value < 50; ++value) {
-        PutIniValue("s", "k", std::to_string(value), Shared().SettingsFile);
+        const IniValue written{"k", std::to_string(value)};
+        PutIniValues("s", {&written, 1}, Shared().SettingsFile);
         EXPECT_EQ(GetSetting("s", "k", ""), std::to_string(value));
     }
     std::filesystem::remove(Shared().SettingsFile);

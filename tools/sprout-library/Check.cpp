@@ -20,6 +20,7 @@
 #include "sprout-library/BeatSound.h"
 #include "sprout-library/DrawPicture.h"
 #include "sprout-library/Measure.h"
+#include "tunes/RandomTune.h"
 #include "tunes/TunOpnSavClass.h"
 #include "waves/WavOperations.h"
 
@@ -32,7 +33,6 @@ namespace {
 constexpr double kMostAlike = 0.85;
 constexpr double kMostClash = 0.15;
 constexpr double kMostMedianClash = 0.08;
-constexpr std::uintmax_t kShortBeatBytes = 80000; // the random tune only draws from shorter ones
 constexpr double kLeastShortBeats = 0.6;
 
 std::string Number(double value, int decimals)

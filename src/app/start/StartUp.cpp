@@ -31,8 +31,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kGeneral = "General";
-
 using Step = void (*)();
 
 /// Runs a step. A failure in it does not end the start: the program is useful without it.
@@ -58,12 +56,12 @@ void ProbeMachine()
 {
     const MemoryStatus memory = TheServices().machine->GlobalMemoryStatus();
     Shared().SoundMemoryLimit = SoundMemoryLimit(memory.TotalBytes);
-    PutSettings(kGeneral, {{"InstalledPath", PathText(Shared().ProgramFolder)},
-                           {"FreeHardDisk", std::to_string(FreeDiskBytes())},
-                           {"PhyMemorySz", std::to_string(memory.AvailableBytes)},
-                           {"PhyMemoryLoad", std::to_string(memory.LoadPercent)},
-                           {"TotalPhyMemory", std::to_string(memory.TotalBytes)},
-                           {"DirectXInstalled", "ErrorInDetecting"}});
+    PutSettings(kGeneralSection, {{"InstalledPath", PathText(Shared().ProgramFolder)},
+                                  {"FreeHardDisk", std::to_string(FreeDiskBytes())},
+                                  {"PhyMemorySz", std::to_string(memory.AvailableBytes)},
+                                  {"PhyMemoryLoad", std::to_string(memory.LoadPercent)},
+                                  {"TotalPhyMemory", std::to_string(memory.TotalBytes)},
+                                  {"DirectXInstalled", "ErrorInDetecting"}});
 }
 
 void SetInstallFolders()

@@ -10,7 +10,6 @@ namespace sprout {
 
 namespace {
 
-constexpr std::int32_t kFullVolume = 65535;
 constexpr std::int32_t kFullPercent = 100;
 constexpr std::size_t kMostLines = 50;
 constexpr std::size_t kMostNameBytes = 3200; ///< counting one extra byte per name

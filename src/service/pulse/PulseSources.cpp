@@ -16,7 +16,6 @@ namespace {
 
 constexpr std::size_t kMostListed = 50;
 constexpr std::size_t kListBytes = 3200;
-constexpr double kFullVolume = 65535;
 
 /// What has arrived of an answer.
 struct Answer {
