@@ -12,96 +12,10 @@
 #include <string>
 #include <vector>
 
-#include "songs/OpenSaveClass.h"
-#include "sprout-song/Session.h"
-#include "support/FakeServices.h"
-#include "support/ScratchDevice.h"
-#include "tunes/TunOpnSavClass.h"
-#include "waves/WavOperations.h"
+#include "tools/SproutSongRun.h"
 
 namespace sprout {
 namespace {
-
-using nlohmann::json;
-
-constexpr std::int32_t kAudioFrames = 8000; // slightly less than a cell at the reference tempo
-
-WaveData Ramp(std::int32_t frames)
-{
-    WaveData wave;
-    wave.Channels = 1;
-    wave.Length = frames;
-    wave.WavL = Channel(frames);
-    for (std::int32_t i = 1; i <= frames; ++i)
-        wave.WavL.Change()[static_cast<std::size_t>(i)] = static_cast<std::int16_t>(i);
-    return wave;
-}
-
-class SproutSong : public testing::Test {
-protected:
-    SproutSong() { std::filesystem::create_directories(Folder()); }
-
-    [[nodiscard]] std::filesystem::path Folder() const { return files.Path() / "user"; }
-    [[nodiscard]] std::string At(const std::string& name) const { return (files.Path() / name).native(); }
-
-    int Run(std::vector<std::string> words)
-    {
-        out.str("");
-        err.str("");
-        words.insert(words.end(), {"--user-root", Folder().native()});
-        return RunSproutSong(words, out, err);
-    }
-
-    [[nodiscard]] json Info(const std::string& file)
-    {
-        static_cast<void>(Run({"info", "--json", file}));
-        return json::parse(out.str());
-    }
-
-    /// Runs `work` with its own services and shared state.
-    template <class Work>
-    static void WithEngine(Work work)
-    {
-        FakeServices services;
-        work();
-        EXPECT_TRUE(services.messages.shown.empty());
-    }
-
-    void SaveRamp(const std::string& name, std::int32_t frames) const
-    {
-        WithEngine([&] { SaveWaveFile(Ramp(frames), At(name)); });
-    }
-
-    /// A song with one audio track, painted in two cells with a gap between them.
-    void SaveAudioSong(const std::string& name) const
-    {
-        WithEngine([&] {
-            SongState& song = Shared().Song;
-            song.SongTitle = "Stored title";
-            song.SongCreatedBy = "Ada";
-            Track track;
-            track.TrackType = 1;
-            track.Painted.assign(kSongCells + 1, 0);
-            track.Painted[5] = track.Painted[7] = 1;
-            track.Painted[9] = 2;
-            track.TrackAudio = Ramp(kAudioFrames);
-            song.Tracks.push_back(track);
-            song.TrackCount = 1;
-            OpenSaveClass().Save_Song(At(name));
-        });
-    }
-
-    WaveData LoadWave(const std::string& name) const
-    {
-        WaveData wave;
-        WithEngine([&] { wave = LoadWaveFile(At(name)); });
-        return wave;
-    }
-
-    TestFolder files;
-    std::ostringstream out;
-    std::ostringstream err;
-};
 
 TEST_F(SproutSong, AnswersWrongUsageWithTwo)
 {
@@ -325,70 +239,6 @@ TEST_F(SproutSong, FindsBeatsThatAFileDoesNotCarryUnderTheUserRoot)
     EXPECT_EQ(Run({"cycle", At("out.TqTun"), At("out.wav")}), kDone);
     EXPECT_EQ(Run({"cycle", At("in.TqTun"), At("in.wav")}), kDone);
     EXPECT_EQ(ReadBytes(At("out.wav")), ReadBytes(At("in.wav")));
-}
-
-TEST_F(SproutSong, ExportsAClassOfSongsAsWma)
-{
-    SaveAudioSong("a.TqSng");
-    SaveAudioSong("b.TqSng");
-    SaveAudioSong("c.TqSng");
-    EXPECT_EQ(Run({"export", At("a.TqSng"), At("b.TqSng"), At("c.TqSng"), "--out", At("sounds/new")}), kDone);
-    EXPECT_EQ(err.str(), "");
-    EXPECT_NE(out.str().find(At("b.TqSng") + " -> " + At("sounds/new/b.wma") + "\n"), std::string::npos);
-    EXPECT_TRUE(out.str().ends_with("3 exported, 0 failed.\n"));
-    for (const char* name : {"a", "b", "c"}) {
-        const json facts = Info(At(std::string("sounds/new/") + name + ".wma"))["wma"];
-        EXPECT_EQ(facts["codec"], "wmav2");
-        EXPECT_EQ(facts["rate"], 44100);
-        EXPECT_EQ(facts["channels"], 2);
-        EXPECT_EQ(facts["title"], name) << "as the program names a song that it opened";
-        EXPECT_EQ(facts["author"], "Ada");
-        EXPECT_EQ(facts["description"], "Tonquill Sprout Painter Song");
-    }
-}
-
-TEST_F(SproutSong, ExportsTheSamplesThatItRenders)
-{
-    SaveAudioSong("a.TqSng");
-    EXPECT_EQ(Run({"export", "--to=wav", At("a.TqSng")}), kDone);
-    EXPECT_EQ(Run({"render", At("a.TqSng"), At("render.wav")}), kDone);
-    EXPECT_EQ(ReadBytes(At("a.wav")), ReadBytes(At("render.wav")));
-}
-
-TEST_F(SproutSong, ExportsTheOtherSongsWhereOneFails)
-{
-    SaveAudioSong("good.TqSng");
-    SaveAudioSong("blocked.TqSng");
-    WriteBytes(At("broken.TqSng"), ReadBytes(At("good.TqSng")).substr(0, 400));
-    WithEngine([&] {
-        Shared().Song.Tracks.assign(2, Track());
-        Shared().Song.Tracks[1].Painted.assign(kSongCells + 1, 0);
-        Shared().Song.TrackCount = 1;
-        OpenSaveClass().Save_Song(At("silent.TqSng"));
-    });
-    std::filesystem::create_directory(At("blocked.wav"));
-    WriteBytes(At("silent.wav"), "old");
-    EXPECT_EQ(Run({"export", "--to", "wav", At("missing.TqSng"), At("broken.TqSng"), At("silent.TqSng"),
-                   At("blocked.TqSng"), At("good.TqSng")}),
-              kFailed);
-    EXPECT_TRUE(out.str().ends_with("1 exported, 4 failed.\n")) << out.str();
-    EXPECT_NE(err.str().find(At("missing.TqSng") + ": Error Opening File: The file "), std::string::npos);
-    EXPECT_NE(err.str().find(At("broken.TqSng") + ": "), std::string::npos);
-    EXPECT_NE(err.str().find(At("silent.TqSng") + ": Writing wave error: Silent or Zero size wave found\n"),
-              std::string::npos);
-    EXPECT_NE(err.str().find("The file " + At("blocked.wav") + " cannot be replaced."), std::string::npos);
-    EXPECT_GT(LoadWave("good.wav").Length, 0);
-    EXPECT_EQ(ReadBytes(At("silent.wav")), "old");
-    EXPECT_EQ(Run({"export", At("silent.TqSng")}), kFailed);
-    EXPECT_NE(err.str().find("The song is silent."), std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(At("silent.wma")));
-}
-
-TEST_F(SproutSong, TellsOfAnExportFolderThatCannotBeMade)
-{
-    SaveAudioSong("a.TqSng");
-    EXPECT_EQ(Run({"export", At("a.TqSng"), "--out", At("a.TqSng")}), kFailed);
-    EXPECT_NE(err.str().find("could not be made"), std::string::npos);
 }
 
 TEST(ToolScreen, DrawsALineWhereAPersonWatches)
