@@ -25,8 +25,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view kNoBeatHint = "Click on a picture to select a beat";
-constexpr std::string_view kBeatWaveFolder = "WavFileSelPath";
-constexpr std::string_view kBeatPictureFolder = "PictureSelectPath";
 
 void HintBeatCommand(std::string_view text)
 {
@@ -50,18 +48,18 @@ void KeepBeatFolder(std::string_view setting, const fs::path& file)
 {
     const std::string folder = ChosenFolder(file);
     if (!folder.empty())
-        PutSetting("General", setting, folder);
+        PutSetting(kGeneralSection, setting, folder);
 }
 
 std::optional<fs::path> AskForBeatWave()
 {
-    return ChooseFileToOpen({"Please select a .wav file to use", GetSetting("General", kBeatWaveFolder, ""), "", "wav",
-                             "Wave files(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter), 3});
+    return ChooseFileToOpen({"Please select a .wav file to use", GetSetting(kGeneralSection, kSoundFolderSetting, ""),
+                             "", "wav", "Wave files(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter), 3});
 }
 
 std::optional<fs::path> AskForBeatPicture()
 {
-    const std::string folder = GetSetting("General", kBeatPictureFolder, PathText(Shared().InstallStars));
+    const std::string folder = GetSetting(kGeneralSection, kPictureFolderSetting, PathText(Shared().InstallStars));
     return ChooseFileToOpen({"Please select a picture file (32x32) to use", folder, "", "bmp",
                              "Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*"});
 }
@@ -98,7 +96,7 @@ std::optional<ChosenSound> ChooseBeatSound()
         ShowMessage("Failed to load wav file.");
         return std::nullopt;
     }
-    KeepBeatFolder(kBeatWaveFolder, *file);
+    KeepBeatFolder(kSoundFolderSetting, *file);
     TellBeatTooLong(wave);
     return sound;
 }
@@ -109,7 +107,7 @@ std::optional<Picture> ChooseBeatPicture()
     if (!file)
         return std::nullopt;
     Picture picture = FittedPicture(ReadChosenPicture(*file));
-    KeepBeatFolder(kBeatPictureFolder, *file);
+    KeepBeatFolder(kPictureFolderSetting, *file);
     return picture;
 }
 

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beat_window/BeatWindow.h"
 
-#include <QCoreApplication>
-#include <QKeyEvent>
 #include <QScreen>
 
 #include <algorithm>
@@ -17,6 +15,7 @@
 #include "sound/PlayMod.h"
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
+#include "ui/HelpFrm.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
@@ -338,8 +337,7 @@ void BeatWindow::LeaveWindow()
 
 void BeatWindow::ClickHelp()
 {
-    QKeyEvent help(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-    QCoreApplication::sendEvent(this, &help);
+    ShowHelp();
 }
 
 void BeatWindow::ClickAdd()

@@ -16,6 +16,7 @@
 #include "song_window/SongList.h"
 #include "ui/Artwork.h"
 #include "ui/Dialogs.h"
+#include "ui/HelpFrm.h"
 #include "ui/Look.h"
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"
@@ -368,8 +369,7 @@ void SongSelFrm::SaveAsSound(SoundFileKind kind)
 
 void SongSelFrm::ClickHelp()
 {
-    QKeyEvent help(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier);
-    QCoreApplication::sendEvent(this, &help);
+    ShowHelp();
 }
 
 void SongSelFrm::Try(std::string_view text, void (SongSelFrm::*command)())

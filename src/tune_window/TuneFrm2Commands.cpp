@@ -188,7 +188,7 @@ void TuneFrm2::ChangePicBtn()
     ShowHint(QStringLiteral("Choose a small (32x32) bmp picture file"));
     FileQuestion question;
     question.Title = "Please select a picture file (32x32) to use";
-    question.Folder = GetSetting("General", "PictureSelectPath", PathText(Shared().InstallStars));
+    question.Folder = GetSetting(kGeneralSection, kPictureFolderSetting, PathText(Shared().InstallStars));
     question.DefaultExtension = "bmp";
     question.Filter = "Picture files|*.bmp;*.jpg;*.gif;*.png|All files|*.*";
     try {
@@ -206,7 +206,7 @@ void TuneFrm2::TakePicture(const fs::path& file)
     TunePic->SetPicture(picture);
     TuneChanged = true;
     if (file.has_parent_path() && file.parent_path() != file.root_path())
-        PutSetting("General", "PictureSelectPath", PathText(AsFolder(file.parent_path())));
+        PutSetting(kGeneralSection, kPictureFolderSetting, PathText(AsFolder(file.parent_path())));
 }
 
 void TuneFrm2::HelpBtn()

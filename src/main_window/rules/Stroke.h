@@ -36,7 +36,6 @@ public:
 
     [[nodiscard]] bool Dragging() const { return dragging; }
     [[nodiscard]] std::int32_t DragTrack() const { return dragTrack; }
-    [[nodiscard]] std::int32_t DragStart() const { return dragStart; }
     [[nodiscard]] std::int32_t DownX() const { return downX; }
     /// While dragging, every move counts as one at this height, which keeps a stroke on its row.
     [[nodiscard]] std::int32_t DownY() const { return downY; }

@@ -2,8 +2,6 @@
 #include "service/pulse/PulsePlay.h"
 
 #include <algorithm>
-#include <chrono>
-#include <thread>
 #include <utility>
 
 namespace sprout {
@@ -41,17 +39,6 @@ Bytes WithoutSilence(Bytes bytes)
 {
     bytes.erase(std::remove(bytes.begin(), bytes.end(), std::byte{0}), bytes.end());
     return bytes;
-}
-
-bool Comes(const std::function<bool()>& condition)
-{
-    const auto latest = std::chrono::steady_clock::now() + std::chrono::seconds(30);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > latest)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(1));
-    }
-    return true;
 }
 
 bool Ends(const SoundHandle& sound)

@@ -3,10 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "service/pulse/PulseSoundOutput.h"
 #include "service/pulse/TestSoundServer.h"
+#include "support/Comes.h"
 
 namespace sprout {
 
@@ -21,9 +20,6 @@ namespace sprout {
 
 /// What was heard, without the silence, which the samples do not contain.
 [[nodiscard]] Bytes WithoutSilence(Bytes bytes);
-
-/// Returns true as soon as `condition` holds; false if that takes too long. It checks as often as the windows do.
-[[nodiscard]] bool Comes(const std::function<bool()>& condition);
 
 /// Returns true as soon as the sound has ended.
 [[nodiscard]] bool Ends(const SoundHandle& sound);
