@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "recording/SourceList.h"
+
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+#include "ui/Look.h"
+#include "ui/PopupKeys.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr int kBesideSource = 56; ///< frame, arrow and padding
+
+} // namespace
+
+SourceList::SourceList(QWidget* parent) : QComboBox(parent)
+{
+    setObjectName(QStringLiteral("MixerRecSrcCmb"));
+    setAccessibleName(tr("Microphone"));
+    setFont(HintFont());
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    KeepClosingKeys(*this);
+    connect(this, &QComboBox::currentIndexChanged, this, &SourceList::Choose);
+}
+
+void SourceList::ShowLines(const SourceLines& sources)
+{
+    const QSignalBlocker filling(this);
+    if (sources.Lines != lines || lines.empty()) {
+        lines = sources.Lines;
+        hidePopup();
+        clear();
+        for (const SourceLine& line : lines)
+            AddLine(QtText(line.Name).simplified());
+    }
+    if (lines.empty())
+        addItem(tr("Failed"));
+    setCurrentIndex(lines.empty() ? 0 : sources.Selected);
+    setEnabled(!lines.empty());
+}
+
+/// Shows the start of a long name; the tooltip has all of it.
+void SourceList::AddLine(const QString& name)
+{
+    addItem(fontMetrics().elidedText(name, Qt::ElideRight, width() - kBesideSource));
+    const int row = count() - 1;
+    setItemData(row, QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()), Qt::ToolTipRole);
+    setItemData(row, name, Qt::AccessibleTextRole);
+}
+
+void SourceList::Choose(int row)
+{
+    if (row >= 0 && static_cast<std::size_t>(row) < lines.size())
+        Q_EMIT SourceChosen(lines[static_cast<std::size_t>(row)].Index);
+}
+
+void SourceList::wheelEvent(QWheelEvent* event)
+{
+    // An accidental turn of the wheel must not change the source.
+    event->ignore();
+}
+
+} // namespace sprout
