@@ -3,15 +3,15 @@
 
 #include <QAccessible>
 #include <QKeyEvent>
-#include <QLine>
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
 #include "core/Shared.h"
+#include "recording/WaveMarker.h"
+#include "recording/WavePainter.h"
 #include "ui/Palette.h"
 #include "ui/SpokenRoles.h"
 
@@ -21,9 +21,6 @@ namespace {
 
 constexpr int kMarkerWidth = 2;
 constexpr int kBandTop = 1;
-constexpr int kDashOn = 4;
-constexpr int kDashPitch = 8;
-constexpr int kDashedLineInset = 2;
 constexpr int kBandOpacity = 150;
 
 QColor BandColour()
@@ -31,21 +28,6 @@ QColor BandColour()
     QColor colour = ColourOf(Shared().WaveColours.LineCursorColor);
     colour.setAlpha(kBandOpacity);
     return colour;
-}
-
-/// Width in device pixels of a line that is one logical pixel wide.
-int LineWidth(double ratio)
-{
-    return std::max(qRound(ratio), 1);
-}
-
-/// Fills a box including all its edges; positions in logical pixels.
-void FillBox(QPainter& painter, QPointF topLeft, QPointF bottomRight, const QColor& colour, double ratio)
-{
-    const int line = LineWidth(ratio);
-    const QPoint from(DevicePixel(topLeft.x(), ratio), DevicePixel(topLeft.y(), ratio));
-    const QPoint to(DevicePixel(bottomRight.x(), ratio), DevicePixel(bottomRight.y(), ratio));
-    painter.fillRect(QRect(from, QSize(to.x() - from.x() + line, to.y() - from.y() + line)), colour);
 }
 
 std::optional<WaveMove> MoveOfKey(const QKeyEvent& event)
@@ -66,17 +48,6 @@ std::optional<WaveMove> MoveOfKey(const QKeyEvent& event)
 }
 
 } // namespace
-
-WaveMarker::WaveMarker(const char* name, const QColor& fill, QWidget* parent) : QWidget(parent), colour(fill)
-{
-    setObjectName(QString::fromLatin1(name));
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-}
-
-void WaveMarker::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter(this).fillRect(rect(), colour);
-}
 
 WavePic::WavePic(QWidget* parent)
     : QWidget(parent),
@@ -122,54 +93,7 @@ void WavePic::Speak(const QString& selection)
 
 QImage WavePic::Draw(double ratio) const
 {
-    QImage image((QSizeF(size()) * ratio).toSize(), QImage::Format_RGB32);
-    const WaveViewColours& colours = Shared().WaveColours;
-    image.fill(ColourOf(colours.NormalBackColor));
-    if (drawing.HasWave) {
-        QPainter painter(&image);
-        PaintSelection(painter, ratio);
-        FillBox(painter, {0, drawing.CentreY}, {static_cast<double>(width()), drawing.CentreY},
-                ColourOf(colours.CenterLineColor), ratio);
-        PaintPass(painter, drawing.Left, colours.WaveFormNormalColorL, ratio);
-        PaintPass(painter, drawing.Right, colours.WaveFormNormalColorR, ratio);
-    }
-    image.setDevicePixelRatio(ratio);
-    return image;
-}
-
-void WavePic::PaintSelection(QPainter& painter, double ratio) const
-{
-    const QColor colour = ColourOf(Shared().WaveColours.SelectBackColor);
-    const double left = drawing.MarkLeft;
-    if (drawing.Mark == SelectionMark::Box)
-        FillBox(painter, {left, -1}, {drawing.MarkRight, static_cast<double>(height())}, colour, ratio);
-    if (drawing.Mark != SelectionMark::Line)
-        return;
-    const int bottom = height() - kDashedLineInset;
-    for (int y = kDashedLineInset; y <= bottom; y += kDashPitch)
-        FillBox(painter, {left, static_cast<double>(y)}, {left, static_cast<double>(std::min(y + kDashOn - 1, bottom))},
-                colour, ratio);
-}
-
-void WavePic::PaintPass(QPainter& painter, const std::vector<WavePoint>& points, std::int32_t colour,
-                        double ratio) const
-{
-    const int lineWidth = LineWidth(ratio);
-    std::vector<QLine> lines;
-    lines.reserve(points.size());
-    QPoint before;
-    for (const WavePoint& point : points) {
-        const QPoint place(DevicePixel(point.X, ratio), DevicePixel(point.Y, ratio));
-        lines.emplace_back(lines.empty() ? place : before, place);
-        before = place;
-    }
-    painter.save();
-    // Qt centres a wide line on its points; the pixels of a point lie to its right and below it.
-    const int shift = lineWidth / 2;
-    painter.translate(QPoint(shift, shift));
-    painter.setPen(QPen(ColourOf(colour), lineWidth));
-    painter.drawLines(lines.data(), static_cast<int>(lines.size()));
-    painter.restore();
+    return PaintWave(drawing, size(), ratio);
 }
 
 void WavePic::paintEvent(QPaintEvent* /*event*/)

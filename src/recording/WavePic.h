@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QColor>
 #include <QImage>
 #include <QWidget>
 
@@ -12,20 +11,7 @@
 
 namespace sprout {
 
-/// A shape of one colour that lies over the picture of a wave and moves without redrawing the wave. Mouse events pass
-/// through it.
-class WaveMarker : public QWidget {
-    Q_OBJECT
-
-public:
-    WaveMarker(const char* name, const QColor& fill, QWidget* parent);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-
-private:
-    QColor colour;
-};
+class WaveMarker;
 
 /// The picture of a wave, created in its final window. It draws what it is given, in the colours of the settings, and
 /// reports mouse and keys. A thin selection band (`SelectBandShp`) and a thin play marker (`PlayPosShp`) lie over it.
@@ -81,8 +67,6 @@ protected:
 
 private:
     void LetGo();
-    void PaintSelection(QPainter& painter, double ratio) const;
-    void PaintPass(QPainter& painter, const std::vector<WavePoint>& points, std::int32_t colour, double ratio) const;
 
     WaveDrawing drawing;
     QImage picture; ///< of the drawing; made at the first paint
