@@ -3,17 +3,12 @@
 
 #include <cstdint>
 
-#include "base/WaveData.h"
 #include "recording/rules/WaveEdits.h"
-#include "recording/rules/WaveSelection.h"
-#include "recording/rules/WaveView.h"
 #include "ui/BandedForm.h"
-
-class QScrollBar;
 
 namespace sprout {
 
-class WavePic;
+class EditedSound;
 
 /// The small editor of one audio track's sound. It edits a copy, which `OkBtn` writes back to the track.
 ///
@@ -37,7 +32,7 @@ public:
     bool Ok = false;
 
     /// The window was left with OK and the track's sound has changed, so its row must be redrawn.
-    [[nodiscard]] bool TrackWasChanged() const { return Ok && changed; }
+    [[nodiscard]] bool TrackWasChanged() const;
 
     /// Sizes the window for a screen with this much room.
     void FitTo(QSize room);
@@ -52,43 +47,21 @@ protected:
 private:
     struct CommandRow;
 
-    void MakePicture();
-    void MakeScroll();
+    void MakeSound();
     void MakeButtons();
     void SetTabOrders();
-    void PlaceTools(int left, int top, int side, int right);
-    void PlaceAnswers(int left, int top);
 
-    void DrawWaveform();
-    void ShowSelection();
     [[nodiscard]] bool HasSelection();
-
-    void PressPicture(double x);
-    void DragPicture(double x);
-    void ReleasePicture(double x);
-    void MoveCursorTo(WaveMove move, WaveKeep keep);
-    void SelectAll();
-    void Scroll();
-
     void ChangeVolume(VolumeChange change);
-    void ZoomWave(WaveZoom which);
     void PlayEditWave();
     void DeleteBtn();
     void OkBtn();
     void CancelBtn();
 
-    WavePic* wavePic = nullptr;
-    QScrollBar* HScroll = nullptr;
+    EditedSound* sound;
     QLabel* SelectOkLbl = nullptr;
     QLabel* SelectedLbl = nullptr;
-
     std::int32_t trackNumber = 0;
-    WaveData editWave;
-    WaveView view;
-    WaveDrag drag;
-    WaveCursor cursor;
-    bool changed = false;
-    bool scrollGuard = false; ///< the program is moving `HScroll`
 };
 
 /// Makes the editor, if it is open, follow the sound that is playing.
