@@ -112,7 +112,7 @@ void MakeFullSong()
         track.TrackTune.StepCount = kStepsATrack;
         for (int i = 1; i <= kStepsATrack; ++i) {
             TuneStep step;
-            step.OnPos = 1;
+            step.SetOn(true);
             step.BeatIndex = number;
             step.PitchShift = i - 3;
             step.Volume = 20;

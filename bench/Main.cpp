@@ -136,7 +136,7 @@ Tune StepsTune()
         beat.Loaded = true;
         song.SongBeats.push_back(beat);
         TuneStep step;
-        step.OnPos = 1;
+        step.SetOn(true);
         step.BeatIndex = i;
         step.PitchShift = StepPitch(i);
         tune.Steps.push_back(step);
@@ -193,7 +193,7 @@ std::vector<std::filesystem::path> MakeTunes(const std::filesystem::path& folder
     Tune& tune = Shared().TuneClipboard;
     tune = StepsTune();
     for (TuneStep& step : tune.Steps)
-        step.OnPos = 0;
+        step.SetOn(false);
     tune.Picture = Picture(kPictureSide, kPictureSide, std::vector<std::uint32_t>(kPicturePixels));
     tune.TuneWave = CutWaveSlice(FullSongWaves()[1], 1, 8 * 44100);
     std::filesystem::create_directories(folder);

@@ -19,6 +19,7 @@
 #include "beat_window/BeatWindow.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"
 #include "service/posix/LargePages.h"
@@ -130,11 +131,11 @@ void UseTuneWindow(TuneFrm2& window, TuneWindowTimes& times)
     }
     times.lamp.push_back(Milliseconds([&] { Press(steps, {kStepsLeftAtStart + 2 * kStepPitch + 10, kLampY}); }));
     TuneStep& first = At(Shared().CurrentTune.Steps, 1);
-    first.OnPos = 1;
+    first.SetOn(true);
     window.UpdateThisTune();
     TheStepCache().Clear();
     first.PitchShift = first.PitchShift == 4 ? 5 : 4;
-    first.StepWaveValid = false;
+    SongChanges::StepChanged(Shared().CurrentTune, 1);
     constexpr QPoint lowestKey(kStepsLeftAtStart + 24, 210);
     times.key.push_back(Milliseconds([&] { Press(steps, lowestKey); }));
 }

@@ -129,7 +129,7 @@ void MakeTwentySteps()
     tune.Steps.resize(21);
     for (std::int32_t number = 1; number <= tune.StepCount; ++number) {
         TuneStep& step = At(tune.Steps, number);
-        step.OnPos = 1;
+        step.SetOn(true);
         step.BeatIndex = 1;
         step.PitchShift = number <= 10 ? number - 11 : number - 10;
         At(song.Tracks[1].Painted, number) = 1;

@@ -86,7 +86,7 @@ void MeasureBrush(QWidget& surface)
     for (int cell = kHoleBegin; cell < kHoleBegin + kMoves; ++cell)
         times.push_back(Milliseconds(surface, [&surface, cell] { Send(surface, QEvent::MouseMove, cell); }));
     Send(surface, QEvent::MouseButtonRelease, kHoleBegin + kMoves);
-    const bool painted = Shared().Song.Tracks[kBrushedTrack].Painted[kHoleBegin + kMoves / 2] == 1;
+    const bool painted = Shared().Song.Tracks[kBrushedTrack].IsPainted(kHoleBegin + kMoves / 2);
     Print("brush-move", times, 4, painted ? "a cell painted" : "NOTHING WAS PAINTED");
 }
 

@@ -117,6 +117,12 @@ void LoadBeatFile(Beat& beat, std::string_view name)
         beat = *read;
 }
 
+Beat BeatOfFile(Beat before, std::string_view name)
+{
+    LoadBeatFile(before, name);
+    return before;
+}
+
 void BeatReader::LoadBeatFile(Beat& beat, const std::string& name)
 {
     auto found = read.find(name);
@@ -158,7 +164,7 @@ void ExpandTuneBeats(const SongState& song, Tune& tune)
     const Beat empty = EmptyBeat();
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
         TuneStep& step = At(tune.Steps, i);
-        const bool hasBeat = step.OnPos == 1 && step.BeatIndex >= 1 && step.BeatIndex <= song.SongBeatCount;
+        const bool hasBeat = step.IsOn() && step.BeatIndex >= 1 && step.BeatIndex <= song.SongBeatCount;
         step.StepBeat = hasBeat ? At(song.SongBeats, step.BeatIndex) : empty;
     }
 }
@@ -168,7 +174,7 @@ void MergeTuneBeats(SongState& song, Tune& tune)
     const Beat empty = EmptyBeat();
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
         TuneStep& step = At(tune.Steps, i);
-        if (step.OnPos != 1 || step.StepBeat.Name.empty())
+        if (!step.IsOn() || step.StepBeat.Name.empty())
             continue;
         const std::int32_t found = FindSongBeat(song, step.StepBeat.Name, step.StepBeat.DateStamp);
         step.BeatIndex = found != 0 ? found : AppendSongBeat(song, step.StepBeat);

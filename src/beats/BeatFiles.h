@@ -29,6 +29,9 @@ inline constexpr std::int32_t kLongestBeatSeconds = 5;
 /// without samples leaves it unchanged.
 void LoadBeatFile(Beat& beat, std::string_view name);
 
+/// What `LoadBeatFile` makes of `before`.
+[[nodiscard]] Beat BeatOfFile(Beat before, std::string_view name);
+
 /// `LoadBeatFile` for the many beats of one song or tune: each pair of files is read once, its messages appear once,
 /// and beats with the same name share their samples.
 class BeatReader {

@@ -18,35 +18,14 @@ void NewSong();
 /// 1..`TrackCount` do nothing.
 void ResetTrack(std::int32_t trackNumber);
 
-/// Makes `tune` a blank cycle of 16 steps, all off, and lets tracks without a tune blink.
+/// A blank cycle of 16 steps, all off.
+[[nodiscard]] Tune BlankTune();
+
+/// Makes `tune` a blank one and lets tracks without a tune blink.
 void ResetTune(Tune& tune);
 
-/// Duration of one cell in seconds. tempo: cells per minute; 0 gives infinity, as the division does.
-[[nodiscard]] inline double CellSeconds(std::int32_t tempo)
-{
-    return 60.0 / tempo;
-}
-
-/// Frames from cell `origin` to cell `cell` at `rate` frames per second, rounded. Throws `RunTimeError` if that is not
-/// a 32-bit number.
-[[nodiscard]] std::int32_t CellOffset(std::int32_t cell, std::int32_t origin, std::int32_t tempo, std::int32_t rate);
-
-/// The whole grid's duration in seconds at a tempo, rounded. Throws `RunTimeError` if that is not a 32-bit number.
-[[nodiscard]] std::int32_t SongSeconds(std::int32_t tempo);
-
-/// The tempo in percent of the reference tempo, 50 to 200.
-[[nodiscard]] std::int32_t TempoPercent(std::int32_t tempo);
-
-/// Cells per minute for a percentage.
-[[nodiscard]] std::int32_t TempoOfPercent(std::int32_t percent);
-
-/// Cells that one pass of an audio track's wave covers at the reference tempo, at least 1; 1 for a wave without a rate.
-[[nodiscard]] std::int32_t AudioCycleCells(const WaveData& audio);
-
-/// First painted cell of a track, 0 if there is none.
-[[nodiscard]] std::int32_t FindFirstPainted(const Track& track, std::int32_t songCells);
-
-/// Invalidates what a new tempo makes stale in the shared song.
-void InvalidateForTempo();
+/// Sets the shared song's tempo to a percentage of the reference tempo. Returns whether it changed; what it makes stale
+/// is then marked, and the song as changed.
+bool SetTempoPercent(std::int32_t percent);
 
 } // namespace sprout

@@ -10,7 +10,7 @@
 #include "base/Errors.h"
 #include "base/FilePaths.h"
 #include "core/Shared.h"
-#include "main_window/rules/TrackList.h"
+#include "core/TrackList.h"
 #include "sound/ChosenSound.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"

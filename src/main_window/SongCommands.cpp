@@ -11,6 +11,7 @@
 #include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "core/SongModel.h"
 #include "songs/OpenSaveClass.h"
 #include "songs/SongFiles.h"
@@ -112,7 +113,7 @@ bool SongCommands::SaveUnderTitle()
     if (place.empty() || !MayReplaceUnasked(place))
         return SaveUnderChosenName();
     OpenSaveClass().Save_Song(place);
-    song.SongChanged = false;
+    SongChanges::SongSaved(song);
     return true;
 }
 
@@ -126,7 +127,7 @@ void SongCommands::NewBtn()
         Player().StopPlay();
         NewSong();
         calls.ShowNewSong();
-        Shared().Song.SongChanged = false;
+        SongChanges::SongOpened(Shared().Song);
     });
 }
 
@@ -156,7 +157,7 @@ void SongCommands::OpenChosenSong()
     OpenSaveClass().Load_Song(file);
     Shared().Song.SongTitle = *name;
     calls.ShowNewSong();
-    Shared().Song.SongChanged = false;
+    SongChanges::SongOpened(Shared().Song);
 }
 
 void SongCommands::SaveBtn()
@@ -175,7 +176,7 @@ bool SongCommands::SaveUnderChosenName()
     TitleUntilSaved title(*name);
     OpenSaveClass().Save_Song(PlaceOfSong(song.SongTitle));
     title.Keep();
-    song.SongChanged = false;
+    SongChanges::SongSaved(song);
     calls.UpdateSongTitle();
     ShowMessage("Your song \"" + song.SongTitle + "\" is saved.", "", "Good!");
     return true;
@@ -195,7 +196,7 @@ void SongCommands::SongTitleChgBtn()
     song.SongTitle = form.Name();
     song.SongCreatedBy = form.CreatedBy();
     calls.UpdateSongTitle();
-    song.SongChanged = true;
+    SongChanges::TitleChanged(song);
 }
 
 } // namespace sprout

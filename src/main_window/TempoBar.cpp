@@ -10,6 +10,7 @@
 
 #include "core/Shared.h"
 #include "core/SongModel.h"
+#include "core/SongTime.h"
 #include "main_window/rules/TempoSlider.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "core/Shared.h"
-#include "core/SongModel.h"
-#include "main_window/rules/TrackList.h"
+#include "core/SongChanges.h"
+#include "core/TrackList.h"
 #include "sound/TuneRender.h"
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
@@ -84,8 +84,7 @@ void TrackCommands::TrackTuneBtn()
         const bool changed = ChooseTuneOf(track);
         Tune& tune = At(Shared().Song.Tracks, track).TrackTune;
         if (changed) { // stays true if the cycle cannot be rendered
-            tune.TuneWaveValid = false;
-            MarkTuneChosen(track);
+            SongChanges::TuneReplaced(Shared().Song, track);
             canvas.DrawTrackOne(track);
             canvas.window()->update();
         }

@@ -8,9 +8,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/SongTime.h"
 #include "main_window/TrackMarker.h"
 #include "main_window/TrackPictures.h"
-#include "main_window/rules/CellValues.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/SpokenRoles.h"
@@ -24,8 +24,7 @@ constexpr QPoint kUnpaintedTextAt{10, 6}; ///< below the row's top
 
 bool AnyCellIsPainted(const Track& track)
 {
-    return !track.Painted.empty() &&
-           std::find(track.Painted.begin() + 1, track.Painted.end(), kPaintedCell) != track.Painted.end();
+    return FindFirstPainted(track, static_cast<std::int32_t>(track.Painted.size()) - 1) != 0;
 }
 
 /// Moves a marker and shows it, or hides it if it has no position.

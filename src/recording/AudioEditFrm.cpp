@@ -11,6 +11,7 @@
 
 #include "base/Product.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "recording/EditedSound.h"
 #include "recording/WavePic.h"
 #include "recording/WaveScrollBar.h"
@@ -221,9 +222,7 @@ void AudioEditFrm::OkBtn()
     Track* const track = AudioTrack(trackNumber);
     if (track && sound->Editor().IsChanged()) {
         track->TrackAudio = sound->Editor().Wave();
-        track->TrackRenderValid = false;
-        Shared().Song.SongMixValid = false;
-        Shared().Song.SongChanged = true;
+        SongChanges::AudioReplaced(Shared().Song, trackNumber);
     }
     ShowHint({});
     Answer(1);

@@ -11,7 +11,7 @@
 #include "base/Errors.h"
 #include "base/Numbers.h"
 #include "core/Shared.h"
-#include "core/SongModel.h"
+#include "core/SongTime.h"
 #include "core/Tell.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"

@@ -10,6 +10,7 @@
 #include "base/Parallel.h"
 #include "beats/BeatFiles.h"
 #include "core/Shared.h"
+#include "core/rendered/Rendered.h"
 #include "service/Screen.h"
 #include "service/Services.h"
 #include "sound/RenderThreads.h"
@@ -94,7 +95,7 @@ void StepBatch::PlanTune(Tune& tune, BeatSource source, CopiedStep copies)
     std::map<StepLook, const TuneStep*> firstValid; // as it will be when a step's turn comes
     for (std::int32_t number = 1; number <= tune.StepCount; ++number) {
         TuneStep& step = At(tune.Steps, number);
-        if (step.OnPos != 1)
+        if (!step.IsOn())
             continue;
         const StepLook look = LookOf(step, source);
         const auto equal = firstValid.find(look);
@@ -161,9 +162,11 @@ void StepBatch::HandOut() const
         const Sound* const sound = one.copied ? nullptr : &sounds[one.sound];
         if (sound && sound->error)
             std::rethrow_exception(sound->error);
-        one.step->StepWave = sound ? sound->wave : one.copied->StepWave;
+        const WaveData& wave = sound ? sound->wave : one.copied->StepWave;
         if (one.becomesValid)
-            one.step->StepWaveValid = true;
+            Rendered::KeepStepWave(*one.step, wave);
+        else
+            one.step->StepWave = wave;
     }
     if (addError)
         std::rethrow_exception(addError);

@@ -10,7 +10,8 @@
 #include "base/Errors.h"
 #include "core/Busy.h"
 #include "core/Shared.h"
-#include "core/SongModel.h"
+#include "core/SongTime.h"
+#include "core/rendered/Rendered.h"
 #include "sound/Mixer.h"
 #include "sound/QuietRender.h"
 #include "sound/TuneRender.h"
@@ -59,14 +60,14 @@ void RunTuneAlongPaint(const Track& track, Sound sound)
     const Tune& tune = track.TrackTune;
     std::int32_t number = 0;
     for (std::int32_t cell = 1; cell <= Shared().Song.SongCells; ++cell) {
-        if (At(track.Painted, cell) != 1) {
+        if (!track.IsPainted(cell)) {
             number = 0;
             continue;
         }
         number = number < tune.StepCount ? number + 1 : 1;
         if (static_cast<std::size_t>(number) >= tune.Steps.size())
             throw RunTimeError("The tune has no such step.");
-        if (At(tune.Steps, number).OnPos == 1)
+        if (At(tune.Steps, number).IsOn())
             sound(cell, number);
     }
 }
@@ -118,7 +119,7 @@ public:
     MixInput Lay()
     {
         for (std::int32_t cell = 1; cell <= Shared().Song.SongCells; ++cell) {
-            if (At(track.Painted, cell) == 1)
+            if (track.IsPainted(cell))
                 TakePainted(cell);
             else if (cellCount > 0)
                 EndRun();
@@ -200,8 +201,7 @@ void RenderTrack(std::int32_t trackNumber, Render render)
     Track& track = At(Shared().Song.Tracks, trackNumber);
     const WorkingSign sign;
     track.TrackRender = EmptyWave(); // frees the old sound before the new one is made
-    track.TrackRender = QuietRender([&] { return render(track); });
-    track.TrackRenderValid = true;
+    Rendered::KeepTrackRender(track, QuietRender([&] { return render(track); }));
 }
 
 /// The tracks in the song's mix, and how much they contribute.
@@ -315,8 +315,7 @@ void MixSong()
         return;
     const WorkingSign sign;
     song.SongMix = EmptyWave(); // frees the old mix before the new one is made
-    song.SongMix = QuietRender([&song] { return MixParts(song); });
-    song.SongMixValid = true;
+    Rendered::KeepSongMix(song, QuietRender([&song] { return MixParts(song); }));
 }
 
 std::optional<PlayFrom> CutFromCell(const WaveData& wave, std::int32_t origin, std::int32_t cell, std::int32_t tempo)

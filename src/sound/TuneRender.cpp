@@ -7,7 +7,8 @@
 
 #include "core/Busy.h"
 #include "core/Shared.h"
-#include "core/SongModel.h"
+#include "core/SongTime.h"
+#include "core/rendered/Rendered.h"
 #include "sound/Mixer.h"
 #include "sound/QuietRender.h"
 #include "sound/StepBatch.h"
@@ -48,8 +49,8 @@ WaveData MixCycle(const Tune& tune)
     std::vector<WaveFilePlacement> placements;
     for (std::int32_t number = 1; number <= tune.StepCount; ++number) {
         const TuneStep& step = At(tune.Steps, number);
-        waves.push_back(step.OnPos == 1 ? step.StepWave : EmptyWave());
-        if (step.OnPos == 1)
+        waves.push_back(step.IsOn() ? step.StepWave : EmptyWave());
+        if (step.IsOn())
             placements.push_back({CellOffset(number, 1, tempo, rate), number});
     }
     // The silent frame after the last cell extends the wave to a whole cycle, however short the last sound is.
@@ -86,14 +87,12 @@ WaveData RenderOwnBeatStep(TuneStep& step)
 
 void RenderStarCycle(Tune& tune)
 {
-    tune.TuneWave = RenderCycle(tune, BeatSource::Song);
-    tune.TuneWaveValid = true;
+    Rendered::KeepTuneWave(tune, RenderCycle(tune, BeatSource::Song));
 }
 
 void RenderTuneCycle(Tune& tune)
 {
-    tune.TuneWave = RenderCycle(tune, BeatSource::OwnBeat);
-    tune.TuneWaveValid = true;
+    Rendered::KeepTuneWave(tune, RenderCycle(tune, BeatSource::OwnBeat));
 }
 
 void RenderTrackSteps(Tune& tune)

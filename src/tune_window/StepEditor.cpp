@@ -15,9 +15,9 @@
 #include "beats/BeatFiles.h"
 #include "core/Shared.h"
 #include "sound/PlayMod.h"
+#include "sound/StepPlays.h"
 #include "tune_window/StepFocus.h"
 #include "tune_window/TunFramPic.h"
-#include "tune_window/rules/StepPlays.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Dialogs.h"
@@ -300,7 +300,7 @@ void StepEditor::PlaceChangeAll()
 {
     const Tune& tune = Shared().CurrentTune;
     const auto first = tune.Steps.begin() + 1;
-    const bool anyOn = std::any_of(first, first + tune.StepCount, [](const TuneStep& step) { return step.OnPos == 1; });
+    const bool anyOn = std::any_of(first, first + tune.StepCount, [](const TuneStep& step) { return step.IsOn(); });
     ChangeAllBtn->move(ChangeAllLeft(tune.StepCount, StepsLeft), kChangeAllTop);
     for (QWidget* const shown :
          {ChangeAllBtn, static_cast<QWidget*>(NoteInstrLbl), static_cast<QWidget*>(NotePianoLbl)})
@@ -354,7 +354,7 @@ void StepEditor::ClickChangeAll()
     std::string name;
     if (!chooseBeat(name) || name.empty())
         return;
-    ChangeAllBeats(tune, name);
+    ChangeAllBeats(tune, BeatOfFile(At(tune.Steps, 1).StepBeat, name));
     ShowEdited();
 }
 
@@ -400,7 +400,7 @@ void StepEditor::TickPlayPos()
     LastPlayStep = StepInPlay(play, Shared().Song.Tempo, tune.StepCount);
     PlayingStepImg->show();
     // The mark of an on-step stays until the next on-step plays.
-    if (At(tune.Steps, LastPlayStep).OnPos == 1) {
+    if (At(tune.Steps, LastPlayStep).IsOn()) {
         lastOnStep = LastPlayStep;
         PlayingOnStepImg->show();
     }

@@ -2,6 +2,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 
+#include "beats/BeatFiles.h"
 #include "core/Shared.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/StepFocus.h"
@@ -22,7 +23,7 @@ bool IsArrow(int key)
 
 bool IsOn(std::int32_t step)
 {
-    return At(Shared().CurrentTune.Steps, step).OnPos == 1;
+    return At(Shared().CurrentTune.Steps, step).IsOn();
 }
 
 } // namespace
@@ -246,7 +247,7 @@ void StepEditor::ChooseStepBeat(std::int32_t step)
     surface->DrawIconPressed(step);
     std::string name = At(tune.Steps, step).StepBeat.Name;
     if (chooseBeat(name)) {
-        ChangeStepBeat(tune, step, name);
+        ChangeStepBeat(tune, step, BeatOfFile(At(tune.Steps, step).StepBeat, name));
         Q_EMIT TuneEdited();
     }
     DrawTuneSteps(); // this also raises the icon

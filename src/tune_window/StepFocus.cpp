@@ -38,7 +38,7 @@ void StepFocus::ShowStep(const TuneStep& step, std::string_view beat, std::int32
 {
     setGeometry(StepLeft(number, stepsLeft) - kRingBeside, kRingTop, kStepHitWidth + 2 * kRingBeside,
                 kRingBottom - kRingTop);
-    setChecked(step.OnPos == 1);
+    setChecked(step.IsOn());
     const QString words = QtText(StepInWords(step, number, beat));
     if (accessibleName() != words)
         setAccessibleName(words);

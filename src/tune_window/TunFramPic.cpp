@@ -75,7 +75,7 @@ void TunFramPic::DrawTuneSteps(const Tune& tune, std::int32_t leftOfFirst)
     MissingBeats missing;
     for (std::int32_t number = 1; number <= tune.StepCount; ++number) {
         const TuneStep& step = At(tune.Steps, number);
-        if (step.OnPos != 1)
+        if (!step.IsOn())
             continue;
         const Picture& icon = step.StepBeat.Picture;
         At(columns, number) = {true, missing.IsMissing(step.StepBeat),

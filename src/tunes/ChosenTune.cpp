@@ -7,6 +7,7 @@
 #include "base/Errors.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "core/SongModel.h"
 #include "sound/TuneRender.h"
 #include "tunes/TunOpnSavClass.h"
@@ -61,8 +62,7 @@ void MakeNewTune(Tune& tune)
     tune.CreatedBy = "Me";
     tune.Name = "New";
     MakeStepsOff(tune);
-    tune.TuneWave = WaveData(); // or a file saved at once would contain the sound of another tune
-    tune.TuneWaveValid = false;
+    SongChanges::TuneEmptied(tune);
 }
 
 void LoadChosenTune(Tune& chosenTune)

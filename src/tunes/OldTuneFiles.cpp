@@ -11,6 +11,7 @@
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "core/SongModel.h"
 #include "tunes/TuneVersions.h"
 
@@ -75,7 +76,7 @@ void ReadStepCycle(const IniFile& ini, Tune& tune)
     const std::vector<std::int32_t> volume = StepNumbers(ini, "Volume", "100", tune.StepCount);
     for (std::size_t i = 0; i < on.size(); ++i) {
         TuneStep& step = tune.Steps[i + 1];
-        step.OnPos = on[i] != 0 ? 1 : 0;
+        step.SetOn(on[i] != 0);
         if (pitch[i] >= -kMostPitchShift && pitch[i] <= kMostPitchShift)
             step.PitchShift = pitch[i];
         step.Duration = duration[i]; // no limit: old tunes may have any length
@@ -121,8 +122,7 @@ void Load_Tune_V00(Tune& tune, const fs::path& path, TuneLoad mode)
 
 void LoadStarFile(Tune& tune)
 {
-    tune.TuneWaveValid = false;
-    tune.TuneWave = WaveData();
+    SongChanges::TuneEmptied(tune);
     const fs::path file = FindFile(NamedFile(Shared().UserStars, tune.Name, ".TqSta"));
     if (file.empty())
         return MakeSilentStar(tune);

@@ -17,6 +17,7 @@
 #include "beats/BeatFiles.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 
 namespace sprout {
 
@@ -130,7 +131,7 @@ void DrawSteps(Tune& tune, const RandomNumber& next)
         const bool isFirst = number == 1;
         const bool on = isFirst || DrawOn(runs, next);
         runs.Add(on);
-        step.OnPos = on ? 1 : 0;
+        step.SetOn(on);
         step.StepBeat = isFirst ? beatPool.front() : DrawFrom(beatPool, next);
         step.PitchShift = DrawFrom(pitchPool, next);
     }
@@ -139,7 +140,7 @@ void DrawSteps(Tune& tune, const RandomNumber& next)
 /// A step keeps sounding through the gap after it.
 void SetDurations(Tune& tune)
 {
-    const auto isOn = [&tune](std::int32_t step) { return step > tune.StepCount || At(tune.Steps, step).OnPos == 1; };
+    const auto isOn = [&tune](std::int32_t step) { return step > tune.StepCount || At(tune.Steps, step).IsOn(); };
     for (std::int32_t number = 1; number <= tune.StepCount; ++number)
         At(tune.Steps, number).Duration = isOn(number + 1) ? 70 : isOn(number + 2) ? 150 : 200;
 }
@@ -167,7 +168,7 @@ void MakeRandomTune(Tune& tune, const RandomNumber& next)
     tune.Steps.assign(static_cast<std::size_t>(tune.StepCount) + 1, TuneStep());
     DrawSteps(tune, next);
     SetDurations(tune);
-    tune.TuneWaveValid = false;
+    SongChanges::StepsReplaced(tune);
 }
 
 } // namespace sprout

@@ -7,6 +7,7 @@
 #include "base/Errors.h"
 #include "base/FilePaths.h"
 #include "core/Paths.h"
+#include "core/rendered/Rendered.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -56,8 +57,7 @@ void ReadTuneCache(Tune& tune, const fs::path& path)
         LongsReader data(source, 0);
         if (data.GetText() != tune.DateStamp)
             return;
-        tune.TuneWave = data.GetWave();
-        tune.TuneWaveValid = true;
+        Rendered::KeepTuneWave(tune, data.GetWave());
     } catch (const RunTimeError&) {
         return; // the tune is rendered again when it is played
     }

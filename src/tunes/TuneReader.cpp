@@ -12,6 +12,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Tell.h"
+#include "core/rendered/Rendered.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TuneVersions.h"
 
@@ -41,7 +42,7 @@ void ReadSteps(LongsReader& data, Tune& tune)
 void ReadBeatNames(LongsReader& data, Tune& tune)
 {
     for (std::int32_t i = 1; i <= tune.StepCount; ++i)
-        if (At(tune.Steps, i).OnPos == 1)
+        if (At(tune.Steps, i).IsOn())
             At(tune.Steps, i).StepBeat.Name = data.GetText();
 }
 
@@ -58,7 +59,7 @@ void ReadBeats(LongsReader& data, Tune& tune)
     std::unordered_map<std::string, std::int32_t> firstSteps;
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
         TuneStep& step = At(tune.Steps, i);
-        if (step.OnPos != 1) {
+        if (!step.IsOn()) {
             step.StepBeat.Picture = Shared().DefaultTunePicture;
             continue;
         }
@@ -72,10 +73,8 @@ void ReadBeats(LongsReader& data, Tune& tune)
 
 void ReadSound(LongsReader& data, Tune& tune, const fs::path& path)
 {
-    if (data.Get() == 1) {
-        tune.TuneWave = data.GetWave();
-        tune.TuneWaveValid = true;
-    }
+    if (data.Get() == 1)
+        Rendered::KeepTuneWave(tune, data.GetWave());
     tune.DateStamp = FileStamp(path);
     if (!tune.TuneWaveValid)
         ReadTuneCache(tune, path);

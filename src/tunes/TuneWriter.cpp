@@ -22,7 +22,7 @@ void WriteSteps(LongsWriter& data, const Tune& tune)
 void WriteBeatNames(LongsWriter& data, const Tune& tune)
 {
     for (std::int32_t i = 1; i <= tune.StepCount; ++i)
-        if (At(tune.Steps, i).OnPos == 1)
+        if (At(tune.Steps, i).IsOn())
             data.PutText(At(tune.Steps, i).StepBeat.Name);
 }
 
@@ -32,7 +32,7 @@ void WriteBeatEntries(LongsWriter& data, const Tune& tune)
     std::unordered_set<std::string> written;
     for (std::int32_t i = 1; i <= tune.StepCount; ++i) {
         const TuneStep& step = At(tune.Steps, i);
-        if (step.OnPos == 1 && written.insert(StoredText(step.StepBeat.Name)).second)
+        if (step.IsOn() && written.insert(StoredText(step.StepBeat.Name)).second)
             WriteBeatEntry(data, step.StepBeat);
     }
 }

@@ -4,6 +4,7 @@
 
 #include "main_window/MainWindowTest.h"
 #include "songs/SongKeeper.h"
+#include "support/Flags.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
@@ -65,7 +66,7 @@ TEST_F(OpenMainWindowTest, ShowsTheSampleSongOnTheFirstStarts)
 
 TEST_F(OpenMainWindowTest, TellsOnceWhichSongsWereKeptAndWhere)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     SongKeeper().KeepUnsavedSong();
     SongKeeper().KeepUnsavedSong();
     ShownMessage message;

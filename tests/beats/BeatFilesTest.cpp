@@ -82,6 +82,15 @@ TEST_F(BeatFilesTest, LeavesABeatAsItWasWhereTheWaveHoldsNoSamples)
     EXPECT_EQ(services.messages.shown.size(), 1U);
 }
 
+TEST_F(BeatFilesTest, GivesTheBeatOfAFileAsAValue)
+{
+    MakeBeat("Drum", WaveOf({4, 5}));
+    WriteBytes(Shared().UserBeats / "Bad.wav", "no wave at all");
+    EXPECT_EQ(BeatOfFile(OldBeat(), "Drum").Sound, WaveOf({4, 5}));
+    EXPECT_EQ(BeatOfFile(OldBeat(), "Missing").Name, "");
+    EXPECT_EQ(BeatOfFile(OldBeat(), "Bad").Name, "Old");
+}
+
 TEST_F(BeatFilesTest, LoadsABeatByANameOfItsOwn)
 {
     MakeBeat("A rather long name of a drum", WaveOf({1}));

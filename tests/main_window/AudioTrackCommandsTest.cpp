@@ -11,6 +11,7 @@
 
 #include "core/Settings.h"
 #include "main_window/CommandsTest.h"
+#include "support/Flags.h"
 #include "ui/FileDialogs.h"
 #include "ui/FormAnswers.h"
 #include "waves/WavOperations.h"
@@ -117,7 +118,7 @@ TEST_F(AudioTrackCommandsTest, AsksForASoundFile)
 TEST_F(AudioTrackCommandsTest, MakesATrackOfAWavFile)
 {
     SaveWaveFile(WaveOf(500), In("Voice.wav"));
-    song.SongMixValid = true;
+    SetSongMixValid(song, true);
     PutSetting("General", "WavFileSelPath", "/waves/");
     AddFile(In("Voice.wav"));
     EXPECT_THAT(told, IsEmpty());
@@ -148,7 +149,7 @@ TEST_F(AudioTrackCommandsTest, TakesJustTwoMinutes)
     EXPECT_EQ(song.TrackCount, 4);
     song.TrackCount = 3;
     song.Tracks.resize(4);
-    song.SongChanged = false;
+    SetSongChanged(song, false);
     SaveWaveFile(WaveOf(120 * 11025 + 11), In("Long.wav")); // 120.001 s
     AddFile(In("Long.wav"));
     EXPECT_THAT(told, ElementsAre(kTooLong));

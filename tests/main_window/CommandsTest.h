@@ -21,6 +21,7 @@
 #include "sound/PlayMod.h"
 #include "sound/PlayTest.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "ui/Hints.h"
 #include "ui/ModalSteps.h"
 
@@ -68,7 +69,7 @@ protected:
             ResetTrack(number);
             GiveTune(At(song.Tracks, number).TrackTune);
         }
-        song.SongChanged = false;
+        SetSongChanged(song, false);
         SetSoundDriver(true);
         SetStatusLbl(&statusLbl);
         soundStatusLbl.setText(QStringLiteral("Ready"));
@@ -90,7 +91,7 @@ protected:
         for (const std::size_t step : {1U, 2U}) {
             tune.Steps[step].OnPos = 1;
             tune.Steps[step].StepWave = CountingWave(kStepFrames);
-            tune.Steps[step].StepWaveValid = true;
+            SetStepWaveValid(tune.Steps[step], true);
         }
     }
 

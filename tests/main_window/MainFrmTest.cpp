@@ -13,6 +13,7 @@
 
 #include "main_window/MainWindowTest.h"
 #include "sound/PlayTest.h"
+#include "support/Flags.h"
 #include "ui/ModalSteps.h"
 #include "waves/WavOperations.h"
 
@@ -458,7 +459,7 @@ TEST_F(MainFrmTest, ShutsTheSoundWhenItCloses)
 
 TEST_F(MainFrmTest, StaysWhereTheSaveQuestionIsCancelled)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     QSignalSpy unloaded(window.get(), &MainFrm::Unloaded);
     WithNextForm([](BandedForm& form) { Click(form, "Cancel_Btn"); });
     ClickButton("CloseImgBtn");
@@ -470,7 +471,7 @@ TEST_F(MainFrmTest, StaysWhereTheSaveQuestionIsCancelled)
 
 TEST_F(MainFrmTest, ComesUpWithTheSaveQuestionWhereItIsClosedMinimized)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     window->showMinimized();
     WithNextForm([this](BandedForm& form) {
         EXPECT_FALSE(window->isMinimized());
@@ -493,7 +494,7 @@ TEST_F(MainFrmTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
 
 TEST_F(MainFrmTest, ClosesWithoutSavingWhereTheSaveQuestionIsAnsweredNo)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     WithNextForm([](BandedForm& form) { Click(form, "NoBtn"); });
     window->close();
     EXPECT_FALSE(window->isVisible());
@@ -502,7 +503,7 @@ TEST_F(MainFrmTest, ClosesWithoutSavingWhereTheSaveQuestionIsAnsweredNo)
 
 TEST_F(MainFrmTest, SavesTheSongAndClosesWhereTheSaveQuestionIsAnsweredYes)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     WithNextForm([](BandedForm& form) { Click(form, "YesBtn"); });
     window->close();
     EXPECT_FALSE(window->isVisible());
@@ -511,7 +512,7 @@ TEST_F(MainFrmTest, SavesTheSongAndClosesWhereTheSaveQuestionIsAnsweredYes)
 
 TEST_F(MainFrmTest, StaysWhereTheSongCannotBeSaved)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     std::filesystem::remove_all(Shared().UserSongs);
     WriteBytes(Shared().UserSongs.parent_path(), "no folder, and none can be made here");
     ShownMessage message;
@@ -673,7 +674,7 @@ TEST_F(MainFrmTest, MailsTheSong)
     ClickButton("EmailBtn");
     EXPECT_EQ(TextOf("StatusLbl"), "Please paint on the track.");
     Song().SongMix = CountingWave(1000);
-    Song().SongMixValid = true;
+    SetSongMixValid(Song(), true);
     ClickButton("EmailBtn");
     fake.mail.WaitForMessage();
     EXPECT_EQ(fake.mail.messages.front().Subject, "Song i composed myself - Untitled");
@@ -682,7 +683,7 @@ TEST_F(MainFrmTest, MailsTheSong)
 TEST_F(MainFrmTest, WaitsForNoMailProgramOnceItIsClosed)
 {
     Song().SongMix = CountingWave(1000);
-    Song().SongMixValid = true;
+    SetSongMixValid(Song(), true);
     fake.mail.takesItsTime = true;
     ClickButton("EmailBtn");
     fake.mail.WaitForMessage();
@@ -760,7 +761,7 @@ TEST_F(MainFrmTest, TakesItsCommandsFromKeysToo)
     for (const Keys& keys :
          {Keys{Qt::Key_O, "SongSelFrm"}, Keys{Qt::Key_S, "SongSelFrm"}, Keys{Qt::Key_N, "SaveConfirmFrm"}}) {
         Activate();
-        Song().SongChanged = keys.key == Qt::Key_N;
+        SetSongChanged(Song(), keys.key == Qt::Key_N);
         QString form;
         WithNextForm([&form](BandedForm& next) {
             form = next.objectName();

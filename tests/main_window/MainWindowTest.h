@@ -20,6 +20,7 @@
 #include "songs/OpenSaveClass.h"
 #include "sound/PlayMod.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "ui/MessageForms.h"
 #include "ui/ModalSteps.h"
 #include "ui/QtText.h"
@@ -33,7 +34,7 @@ protected:
     {
         TheServices().playDisplay = &transport;
         NewSong();
-        Song().SongChanged = false;
+        SetSongChanged(Song(), false);
         PutSetting("MainWindow", "WindowState", "0");
         PutSetting("MainWindow", "Size", "10500,7500");
         PutSetting("MainWindow", "Position", "750,900");

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "main_window/MainWindowTest.h"
+#include "support/Flags.h"
 #include "support/FullDisk.h"
 
 namespace sprout {
@@ -95,7 +96,7 @@ TEST_F(SongCommandsTest, NewMakesANewSongAndStopsThePlayer)
 
 TEST_F(SongCommandsTest, NewAsksAboutAChangedSong)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     Song().Tempo = kQuickTempo;
     QString asked;
     QString caption;
@@ -118,7 +119,7 @@ TEST_F(SongCommandsTest, NewAsksAboutAChangedSong)
 TEST_F(SongCommandsTest, TheSaveQuestionIsCancelledByItsCloseBoxAndEscape)
 {
     Song().Tempo = kQuickTempo;
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     WithNextForm([](BandedForm& form) { Click(form, "CloseImgBtn"); });
     ClickButton("NewBtn");
     WithNextForm([](BandedForm& form) { QTest::keyClick(&form, Qt::Key_Escape); });
@@ -128,7 +129,7 @@ TEST_F(SongCommandsTest, TheSaveQuestionIsCancelledByItsCloseBoxAndEscape)
 
 TEST_F(SongCommandsTest, NewGoesOnWithoutSavingAfterNo)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     Song().Tempo = kQuickTempo;
     WithNextForm([](BandedForm& form) { Click(form, "NoBtn"); });
     ClickButton("NewBtn");
@@ -139,7 +140,7 @@ TEST_F(SongCommandsTest, NewGoesOnWithoutSavingAfterNo)
 
 TEST_F(SongCommandsTest, NewSavesUnderTheTitleAfterYesWithoutAskingForAName)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     Song().SongTitle = "Rain";
     Song().Tempo = kQuickTempo;
     WithNextForm([](BandedForm& form) { Click(form, "YesBtn"); });
@@ -155,7 +156,7 @@ TEST_F(SongCommandsTest, NewSavesOverTheSongsOwnFileAfterYesWithoutAQuestion)
     ChooseNextSong("Rain");
     ClickButton("OpenBtn");
     Song().Tempo = kQuickTempo + 1;
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     WithNextForm([](BandedForm& form) { Click(form, "YesBtn"); });
     ClickButton("NewBtn");
     EXPECT_EQ(Song().SongTitle, "Untitled");
@@ -166,7 +167,7 @@ TEST_F(SongCommandsTest, NewSavesOverTheSongsOwnFileAfterYesWithoutAQuestion)
 TEST_F(SongCommandsTest, YesOpensTheSaveWindowWhereTheSongWouldTakeTheFileOfAnother)
 {
     PutSong("Untitled", kQuickTempo); // an older one
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     QString second;
     WithNextForm([&second](BandedForm& question) {
         WithNextForm([&second](BandedForm& chooser) {
@@ -187,7 +188,7 @@ TEST_F(SongCommandsTest, YesOpensTheSaveWindowWhereTheSongWouldTakeTheFileOfAnot
 TEST_F(SongCommandsTest, ASongSavedInThatWindowLetsTheCommandGoOn)
 {
     PutSong("Untitled", kQuickTempo);
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     ShownMessage message;
     WithNextForm([&message](BandedForm& question) {
         SaveNextAs("Rain", message);
@@ -202,7 +203,7 @@ TEST_F(SongCommandsTest, ASongSavedInThatWindowLetsTheCommandGoOn)
 
 TEST_F(SongCommandsTest, YesAsksForANameWhereTheTitleCanBeNone)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     Song().SongTitle = "Rain/Sun";
     QString second;
     WithNextForm([&second](BandedForm& question) {
@@ -222,7 +223,7 @@ TEST_F(SongCommandsTest, ASongWithoutTracksIsNotSaved)
     PutSong("Rain", kQuickTempo);
     Song().SongTitle = "Rain";
     Song().TrackCount = 0;
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     ShownMessage message;
     NoteNextMessage(message);
     ClickButton("SaveBtn");
@@ -251,7 +252,7 @@ TEST_F(SongCommandsTest, EnterDoesNotReplaceASongThatCouldNotBeRead)
 
 TEST_F(SongCommandsTest, NewKeepsASongThatCannotBeSaved)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     Song().Tempo = kQuickTempo;
     TheServices().files = &fullDisk;
     ShownMessage message;
@@ -316,7 +317,7 @@ TEST_F(SongCommandsTest, OpenDoesNothingAfterCancel)
 TEST_F(SongCommandsTest, OpenEndsWhereTheSaveQuestionIsCancelled)
 {
     PutSong("Rain", kQuickTempo);
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     QString second;
     WithNextForm([&second](BandedForm& form) {
         WithNextForm([&second](BandedForm& next) {
@@ -333,7 +334,7 @@ TEST_F(SongCommandsTest, OpenEndsWhereTheSaveQuestionIsCancelled)
 
 TEST_F(SongCommandsTest, OpenSavesAfterYesAndTheSongIsUnchangedThenThoughNoneIsChosen)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     WithNextForm([](BandedForm& question) {
         WithNextForm([](BandedForm& chooser) { Click(chooser, "CancelBtn"); });
         Click(question, "YesBtn");
@@ -346,7 +347,7 @@ TEST_F(SongCommandsTest, OpenSavesAfterYesAndTheSongIsUnchangedThenThoughNoneIsC
 
 TEST_F(SongCommandsTest, OpenTellsOfAFullDiskAndKeepsTheSong)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     TheServices().files = &fullDisk;
     ShownMessage message;
     WithNextForm([&message](BandedForm& question) {
@@ -377,7 +378,7 @@ TEST_F(SongCommandsTest, OpenTellsThatASongHasGoneMeanwhile)
 TEST_F(SongCommandsTest, OpenLivesWithABrokenFile)
 {
     WriteBytes(SongPath("Broken"), "This is no song.");
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     WithNextForm([](BandedForm& question) {
         ChooseNextSong("Broken");
         Click(question, "NoBtn");
@@ -417,7 +418,7 @@ TEST_F(SongCommandsTest, NothingBlinksWhileASongIsChosen)
 
 TEST_F(SongCommandsTest, SaveWritesTheSongUnderItsNewName)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     Song().Tempo = kQuickTempo;
     ShownMessage message;
     SaveNextAs("Rain", message);
@@ -446,7 +447,7 @@ TEST_F(SongCommandsTest, SaveReplacesAFileWhoseNameDiffersInCaseOnly)
 
 TEST_F(SongCommandsTest, SaveDoesNothingAfterCancel)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     ShowHint(QStringLiteral("Before"));
     WithNextForm([this](BandedForm& form) {
         EXPECT_EQ(TextOf("StatusLbl"), "");
@@ -459,7 +460,7 @@ TEST_F(SongCommandsTest, SaveDoesNothingAfterCancel)
 
 TEST_F(SongCommandsTest, SaveTellsOfAFullDiskAndKeepsTheSongAsItWas)
 {
-    Song().SongChanged = true;
+    SetSongChanged(Song(), true);
     TheServices().files = &fullDisk;
     ShownMessage message;
     SaveNextAs("Rain", message);

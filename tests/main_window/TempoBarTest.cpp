@@ -12,6 +12,7 @@
 
 #include "core/SongModel.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "ui/Hints.h"
 
 namespace sprout {
@@ -32,11 +33,11 @@ protected:
     /// Makes everything fresh that a new tempo makes stale.
     void Freshen() const
     {
-        song.SongMixValid = true;
-        song.SongChanged = false;
+        SetSongMixValid(song, true);
+        SetSongChanged(song, false);
         for (Track& track : song.Tracks) {
-            track.TrackRenderValid = true;
-            track.TrackTune.TuneWaveValid = true;
+            SetTrackRenderValid(track, true);
+            SetTuneWaveValid(track.TrackTune, true);
         }
     }
 

@@ -6,6 +6,7 @@
 
 #include "main_window/CanvasFixture.h"
 #include "main_window/rules/TrackPointer.h"
+#include "support/Flags.h"
 #include "ui/ModalSteps.h"
 
 namespace sprout {
@@ -91,8 +92,9 @@ TEST_F(TrackCanvasInputTest, ThePointerThatLeavesTakesCursorAndCellAlong)
 TEST_F(TrackCanvasInputTest, APressPaintsTheCellAndTellsWhatBecameStale)
 {
     EXPECT_EQ(canvas->CurrentTool(), Tool::Brush);
-    Song().SongMixValid = TrackOf(1).TrackRenderValid = true;
-    Song().SongChanged = false;
+    SetSongMixValid(Song(), true);
+    SetTrackRenderValid(TrackOf(1), true);
+    SetSongChanged(Song(), false);
     Press(InRow(CellX(20), 1));
     EXPECT_EQ(At(TrackOf(1).Painted, 20), 1);
     EXPECT_FALSE(TrackOf(1).TrackRenderValid);
@@ -110,8 +112,9 @@ TEST_F(TrackCanvasInputTest, APressPaintsTheCellAndTellsWhatBecameStale)
 TEST_F(TrackCanvasInputTest, AStrokeFromACellOfTheToolsValueLeavesTheSongUnchanged)
 {
     PaintCells(1, 20, 20);
-    Song().SongMixValid = TrackOf(1).TrackRenderValid = true;
-    Song().SongChanged = false;
+    SetSongMixValid(Song(), true);
+    SetTrackRenderValid(TrackOf(1), true);
+    SetSongChanged(Song(), false);
     Press(InRow(CellX(20), 1));
     EXPECT_EQ(titlePlays, 1);
     MoveTo(InRow(CellX(25), 1));
@@ -151,7 +154,7 @@ TEST_F(TrackCanvasInputTest, TheEraserTurnsNeverTouchedCellsInto2AndCountsThem)
     canvas->SetCurrentTool(Tool::Eraser);
     Press(InRow(CellX(10), 1));
     EXPECT_EQ(canvas->BrushedTrack(), 0);
-    TrackOf(1).TrackRenderValid = true;
+    SetTrackRenderValid(TrackOf(1), true);
     MoveTo(InRow(CellX(5), 1));
     EXPECT_THAT(Painted(1, 5, 10), Each(2));
     EXPECT_FALSE(TrackOf(1).TrackRenderValid);

@@ -4,7 +4,9 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "core/SongTime.h"
 #include "main_window/CommandsTest.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -15,9 +17,9 @@ class TrackCommandsTest : public CommandsTest {
 protected:
     TrackCommandsTest()
     {
-        song.SongMixValid = true;
+        SetSongMixValid(song, true);
         for (Track& track : song.Tracks)
-            track.TrackRenderValid = true;
+            SetTrackRenderValid(track, true);
     }
 
     void PlaySomething() { PlayWaveStatus(CountingWave(100), "Playing", Loop::No); }
@@ -109,7 +111,7 @@ TEST_F(TrackCommandsTest, NoMarkerStandsBehindTheTuneWindow)
                                  HoverPicture(1);
                                  tracks->TrackTuneBtn();
                              })}) {
-        song.SongMixValid = false;
+        SetSongMixValid(song, false);
         transport.PlayAllBtn();
         Tick("PlayPosTimer");
         ASSERT_TRUE(MarkerShown("PlayPosImg0"));
@@ -206,7 +208,7 @@ TEST_F(TrackCommandsTest, DeletesNothingWhereNoTrackIsHovered)
 
 TEST_F(TrackCommandsTest, AChosenTuneIsRenderedAndMakesItsTrackStale)
 {
-    song.Tracks[2].TrackTune.TuneWaveValid = true;
+    SetTuneWaveValid(song.Tracks[2].TrackTune, true);
     tuneWindow = [this](Tune& tune, bool& newFlag) {
         EXPECT_EQ(&tune, &song.Tracks[2].TrackTune);
         EXPECT_FALSE(newFlag);

@@ -5,6 +5,7 @@
 
 #include "core/Settings.h"
 #include "main_window/CommandsTest.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -495,7 +496,7 @@ TEST_F(TransportTest, PlaysTheTuneUnderThePointerAgainAndAgain)
 
 TEST_F(TransportTest, LooksAgainAfterASecondWhereTheTuneHasNoSound)
 {
-    song.Tracks[2].TrackTune.TuneWaveValid = true;
+    SetTuneWaveValid(song.Tracks[2].TrackTune, true);
     HoverPicture(2);
     Tick("TrackTitlePlayTimer");
     EXPECT_FALSE(SoundStarted());
@@ -524,7 +525,7 @@ TEST_F(TransportTest, PlaysTheTuneOfABrushStroke)
 {
     Tune& tune = song.Tracks[2].TrackTune;
     tune.TuneWave = CountingWave(500);
-    tune.TuneWaveValid = true;
+    SetTuneWaveValid(tune, true);
     QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
     EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive()); // the press starts it
     Tick("TrackTitlePlayTimer");
@@ -551,7 +552,7 @@ TEST_F(TransportTest, TheEraserMakesNoSound)
 {
     canvas->SetCurrentTool(Tool::Eraser);
     song.Tracks[2].TrackTune.TuneWave = CountingWave(500);
-    song.Tracks[2].TrackTune.TuneWaveValid = true;
+    SetTuneWaveValid(song.Tracks[2].TrackTune, true);
     QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
     Tick("TrackTitlePlayTimer");
     EXPECT_FALSE(SoundStarted());

@@ -10,6 +10,7 @@
 #include "recording/WavePic.h"
 #include "recording/WaveScrollBar.h"
 #include "sound/PlayTest.h"
+#include "support/Flags.h"
 #include "ui/Hints.h"
 #include "ui/ModalSteps.h"
 #include "ui/Palette.h"
@@ -28,8 +29,8 @@ protected:
         song.Tracks.resize(3);
         song.Tracks[2].TrackType = static_cast<std::int32_t>(TrackKind::Audio);
         song.Tracks[2].TrackAudio = CountingWave(16000);
-        song.Tracks[2].TrackRenderValid = true;
-        song.SongMixValid = true;
+        SetTrackRenderValid(song.Tracks[2], true);
+        SetSongMixValid(song, true);
         form.FitTo({800, 600});
         Open(2);
     }

@@ -13,6 +13,7 @@
 #include "core/SongModel.h"
 #include "sound/PlayTest.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "support/FullDisk.h"
 #include "ui/Hints.h"
 #include "ui/ModalSteps.h"
@@ -34,7 +35,7 @@ protected:
         song.SongTitle = "Zumi: 1";
         song.SongCreatedBy = "Lina";
         song.SongMix = CountingWave(1000);
-        song.SongMixValid = true;
+        SetSongMixValid(song, true);
         SetStatusLbl(&statusLbl);
         ShowHint(QStringLiteral("Before"));
         window.show();
@@ -135,7 +136,7 @@ TEST_F(EmailSongTest, TakesABrokenHandOverForAFailedOne)
 
 TEST_F(EmailSongTest, HintsAtPaintingWhereTheSongIsSilent)
 {
-    song.SongMixValid = false;
+    SetSongMixValid(song, false);
     command->EmailBtn();
     EXPECT_TRUE(IsAtRest());
     EXPECT_EQ(Hint(), kPaintHint);
@@ -202,7 +203,7 @@ TEST_F(EmailSongTest, LeavesNothingWhereTheUserStopsTheMixing)
     Shared().TestTone = CountingWave(1000);
     At(song.Tracks, 1).TrackTune.Steps[1].OnPos = 1; // without a beat it plays the test tone
     At(song.Tracks, 1).Painted[1] = 1;
-    song.SongMixValid = false;
+    SetSongMixValid(song, false);
     services.screen.progressesBeforeStop = 0;
     command->EmailBtn();
     EXPECT_TRUE(IsAtRest());

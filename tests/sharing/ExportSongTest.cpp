@@ -14,6 +14,7 @@
 #include "core/Settings.h"
 #include "core/SongModel.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "support/UnchangeableFolder.h"
 #include "ui/FileDialogs.h"
 #include "ui/FormAnswers.h"
@@ -54,7 +55,7 @@ protected:
         for (std::int32_t frame = 1; frame <= frames; ++frame)
             mix.WavL.Change()[static_cast<std::size_t>(frame)] = static_cast<std::int16_t>(frame);
         Shared().Song.SongMix = mix;
-        Shared().Song.SongMixValid = true;
+        SetSongMixValid(Shared().Song, true);
     }
 
     /// A song with one sounding cell, not mixed yet.
@@ -68,7 +69,7 @@ protected:
         At(song.Tracks, 1).TrackTune.Steps[1].OnPos = 1;
         At(At(song.Tracks, 1).Painted, 1) = 1;
         Shared().TestTone = MakeTestTone();
-        song.SongMixValid = false;
+        SetSongMixValid(song, false);
     }
 
     /// Saves; the dialogs are answered with these files in turn, and cancelled when there are no more. Messages and
@@ -163,7 +164,7 @@ TEST_F(SaveSongAsSoundTest, WritesTheMixAsAWmaFile)
 
 TEST_F(SaveSongAsSoundTest, TheSongStaysUnsaved)
 {
-    Shared().Song.SongChanged = true;
+    SetSongChanged(Shared().Song, true);
     EXPECT_TRUE(SaveWav(music / "Mine.wav"));
     EXPECT_TRUE(Shared().Song.SongChanged);
     EXPECT_EQ(Shared().Song.SongTitle, "Zumi");
@@ -228,7 +229,7 @@ TEST_F(SaveSongAsSoundTest, AnotherLetterCaseIsAnotherFile)
 TEST_F(SaveSongAsSoundTest, RefusesAFolderBeforeTheMix)
 {
     fs::create_directory(music / "Mine.wav");
-    Shared().Song.SongMixValid = false;
+    SetSongMixValid(Shared().Song, false);
     EXPECT_FALSE(SaveWav(music / "Mine.wav"));
     EXPECT_THAT(told, ElementsAre("File could not be deleted.|" + (music / "Mine.wav").native() + "|"));
     EXPECT_FALSE(Shared().Song.SongMixValid);

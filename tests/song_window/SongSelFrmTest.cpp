@@ -8,6 +8,7 @@
 #include "core/Shared.h"
 #include "service/Services.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "support/FullDisk.h"
 #include "support/TestFolder.h"
 #include "support/UnchangeableFolder.h"
@@ -710,7 +711,7 @@ TEST_F(SongSelFrmTest, ShowsTheHintOfTheListByItsMode)
 TEST_F(SongSelFrmTest, ASoundFileHidesTheWindowWithoutSavingASong)
 {
     Shared().Song.SongMix = EmptyWave();
-    Shared().Song.SongMixValid = true;
+    SetSongMixValid(Shared().Song, true);
     const FileChooserStandIn dialog([this](const FileQuestion&) { return services.folder.Path() / "Mine"; });
     for (const char* button : {"SavWavBtn", "SavWmaBtn"}) {
         Open(SongSelMode::Save);

@@ -6,6 +6,7 @@
 #include "base/Errors.h"
 #include "core/SongModel.h"
 #include "songs/SongFileMaker.h"
+#include "support/Flags.h"
 #include "support/UnchangeableFolder.h"
 #include "waves/WavOperations.h"
 
@@ -43,7 +44,7 @@ protected:
 
 TEST_F(OpenSaveClassTest, ReplacesTheSharedSongWhole)
 {
-    Shared().Song.SongMixValid = true;
+    SetSongMixValid(Shared().Song, true);
     Shared().Song.SongMix = WaveOf({1});
     const SongState& song = LoadArray(SmallArray());
     EXPECT_EQ(song.SongTitle, "Title");

@@ -9,6 +9,7 @@
 #include "base/FolderFiles.h"
 #include "core/SongModel.h"
 #include "songs/SongFileMaker.h"
+#include "support/Flags.h"
 #include "support/FullDisk.h"
 
 namespace sprout {
@@ -25,7 +26,7 @@ protected:
         NewSong();
         Shared().Song.SongTitle = "Rain";
         Shared().Song.Tempo = 400;
-        Shared().Song.SongChanged = true;
+        SetSongChanged(Shared().Song, true);
     }
 
     [[nodiscard]] static std::vector<std::string> Songs() { return NamesInFolder(Shared().UserSongs, ".TqSng"); }
@@ -70,9 +71,9 @@ TEST_F(SongKeeperTest, KeepsTheSameSongOnceAndAChangedOneAgain)
 
 TEST_F(SongKeeperTest, KeepsNothingThatIsSavedOrHasNoTracks)
 {
-    Shared().Song.SongChanged = false;
+    SetSongChanged(Shared().Song, false);
     EXPECT_EQ(keeper.KeepUnsavedSong(), "");
-    Shared().Song.SongChanged = true;
+    SetSongChanged(Shared().Song, true);
     Shared().Song.TrackCount = 0;
     EXPECT_EQ(keeper.KeepUnsavedSong(), "");
     EXPECT_THAT(Songs(), IsEmpty());

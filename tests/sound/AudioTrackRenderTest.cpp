@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "sound/SongTest.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -77,12 +78,12 @@ TEST_F(RenderAudioTrackTest, ARunThatReachesTheEndOfTheSongUnfinishedIsSilent)
     Paint(track, 1277, 1280);
     RenderAudioTrack(track);
     EXPECT_EQ(TrackAt(track).TrackRender, LevelWave(4 * kCellFrames, 5)) << "the last cell reaches the wave's length";
-    TrackAt(track).TrackRenderValid = false;
+    SetTrackRenderValid(TrackAt(track), false);
     Paint(track, 1277, 1277, 2);
     RenderAudioTrack(track);
     EXPECT_EQ(TrackAt(track).TrackRender.Length, 0);
     EXPECT_EQ(TrackAt(track).FirstPainted, 1278);
-    TrackAt(track).TrackRenderValid = false;
+    SetTrackRenderValid(TrackAt(track), false);
     Paint(track, 1277, 1279);
     Paint(track, 1280, 1280, 0);
     RenderAudioTrack(track);
@@ -107,7 +108,7 @@ TEST_F(RenderAudioTrackTest, CutsCountInFramesOfTheProgramsRateWhateverTheWaves)
     RenderAudioTrack(track);
     // The frames of one cell are cut from the wave before it is converted to four times as many.
     EXPECT_EQ(TrackAt(track).TrackRender, LevelWave(4 * kCellFrames, 5));
-    TrackAt(track).TrackRenderValid = false;
+    SetTrackRenderValid(TrackAt(track), false);
     Paint(track, 1, 3);
     RenderAudioTrack(track);
     const WaveData& wave = TrackAt(track).TrackRender;

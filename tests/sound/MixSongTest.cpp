@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "sound/SongTest.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -52,7 +53,7 @@ TEST_F(MixSongTest, TakesAudioTracksAsTheyWereRendered)
     EXPECT_TRUE(TrackAt(audio).TrackRenderValid);
     // A valid render is kept.
     TrackAt(audio).TrackRender = LevelWave(10, 7);
-    Shared().Song.SongMixValid = false;
+    SetSongMixValid(Shared().Song, false);
     MixSong();
     EXPECT_EQ(Shared().Song.SongMix.Length, kCellFrames + 10);
 }
@@ -108,7 +109,7 @@ TEST_F(MixSongTest, WithoutTracksIsEmptyAndValid)
 TEST_F(MixSongTest, AValidMixIsLeftAlone)
 {
     Paint(AddNumberedTrack(1), 1, 1);
-    Shared().Song.SongMixValid = true;
+    SetSongMixValid(Shared().Song, true);
     Shared().Song.SongFirstPos = 99;
     MixSong();
     EXPECT_EQ(Shared().Song.SongFirstPos, 99);

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "sound/SongTest.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -108,7 +109,7 @@ TEST_F(RenderTuneTrackTest, AValidTrackIsLeftAlone)
 {
     const std::int32_t track = AddNumberedTrack(3);
     Paint(track, 1, 3);
-    TrackAt(track).TrackRenderValid = true;
+    SetTrackRenderValid(TrackAt(track), true);
     RenderTuneTrack(track);
     EXPECT_EQ(TrackAt(track).TrackRender.Length, 0);
     EXPECT_EQ(services.screen.processPicsShown, 0);
@@ -223,7 +224,7 @@ TEST_F(SongTest, DamagedTracksFailQuietly)
         EXPECT_EQ(TrackAt(audio).TrackRender, EmptyWave()) << how;
         EXPECT_TRUE(TrackAt(audio).TrackRenderValid) << how;
 
-        Shared().Song.Tracks[1].TrackRenderValid = false;
+        SetTrackRenderValid(Shared().Song.Tracks[1], false);
         const std::int32_t both = AddNumberedTrack(4);
         Paint(both, 1, 1280);
         Spoil(how, TrackAt(both));

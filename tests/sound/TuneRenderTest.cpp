@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "sound/TuneRenderTest.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -109,9 +110,9 @@ TEST_F(TuneRenderTest, AValidStepKeepsItsWaveAndLendsItToEqualOnes)
     SetStep(tune, 1, 0);
     SetStep(tune, 2, 0);
     At(tune.Steps, 1).StepWave = LevelWave(2, 77);
-    At(tune.Steps, 1).StepWaveValid = true;
+    SetStepWaveValid(At(tune.Steps, 1), true);
     At(tune.Steps, 3).StepWave = LevelWave(2, 88); // off, therefore silent
-    At(tune.Steps, 3).StepWaveValid = true;
+    SetStepWaveValid(At(tune.Steps, 3), true);
     RenderStarCycle(tune);
     EXPECT_EQ(Calls(), 0u);
     EXPECT_EQ(tune.TuneWave.WavL[1], 77);
@@ -125,7 +126,7 @@ TEST_F(TuneRenderTest, TheFirstOfTheEqualStepsLends)
     Tune tune = MakeTune(3);
     for (std::int32_t i = 1; i <= 3; ++i) {
         SetStep(tune, i, 0).StepWave = LevelWave(2, static_cast<std::int16_t>(70 + i));
-        At(tune.Steps, i).StepWaveValid = i < 3;
+        SetStepWaveValid(At(tune.Steps, i), i < 3);
     }
     RenderStarCycle(tune);
     EXPECT_EQ(tune.TuneWave.WavL[2 * kCellFrames + 1], 71);
@@ -149,7 +150,7 @@ TEST_F(TuneRenderTest, OnlyOnStepsLend)
     Tune tune = MakeTune(2);
     At(tune.Steps, 1).BeatIndex = beat;
     At(tune.Steps, 1).StepWave = LevelWave(2, 77);
-    At(tune.Steps, 1).StepWaveValid = true;
+    SetStepWaveValid(At(tune.Steps, 1), true);
     SetStep(tune, 2, beat);
     RenderStarCycle(tune);
     EXPECT_EQ(tune.TuneWave.WavL[kCellFrames + 1], 5);

@@ -14,6 +14,7 @@
 
 #include "core/Shared.h"
 #include "sound/PlayTest.h"
+#include "support/Flags.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TunFramPic.h"
 #include "ui/Hints.h"
@@ -67,10 +68,10 @@ protected:
             step.StepBeat.Sound = CountingWave(600 + i);
             step.StepBeat.Loaded = true;
             step.StepWave = CountingWave(600 + i);
-            step.StepWaveValid = true;
+            SetStepWaveValid(step, true);
         }
         tune.TuneWave = CountingWave(5000);
-        tune.TuneWaveValid = true;
+        SetTuneWaveValid(tune, true);
     }
 
     void ShowTuneOf(std::int32_t steps)

@@ -10,6 +10,7 @@
 
 #include "core/Settings.h"
 #include "service/qt/QtPictureFiles.h"
+#include "support/Flags.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TuneWindowTest.h"
 #include "ui/FileDialogs.h"
@@ -930,7 +931,7 @@ TEST_F(SaveTuneBtnTest, AnEditedTuneCarriesTheSoundThatItHadLast)
     MakeTuneFile(PlainTune("Rain", "Ann", 7));
     Open([this](TuneFrm2& window) {
         Shared().CurrentTune.Steps[2].OnPos = 1;
-        Shared().CurrentTune.TuneWaveValid = false;
+        SetTuneWaveValid(Shared().CurrentTune, false);
         AnswerNames("Sun", nullptr);
         Click(window, "SaveTuneBtn");
     });

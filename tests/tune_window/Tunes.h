@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/Shared.h"
+#include "support/Flags.h"
 #include "support/HandArray.h"
 #include "tunes/TunOpnSavClass.h"
 
@@ -23,7 +24,7 @@ inline Tune PlainTune(const std::string& name, const std::string& author, int sa
     tune.Steps[1].OnPos = 1;
     tune.Steps[1].StepBeat = {"Drum", "01/02/2003,04:05:06", WaveOf({5, 6}), PlainPicture(0x40), true};
     tune.TuneWave = WaveOf(std::vector<std::int16_t>(static_cast<std::size_t>(samples), 9));
-    tune.TuneWaveValid = true;
+    SetTuneWaveValid(tune, true);
     return tune;
 }
 

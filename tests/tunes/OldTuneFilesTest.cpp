@@ -7,6 +7,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "support/HandArray.h"
 #include "tunes/TunOpnSavClass.h"
 #include "waves/WavOperations.h"
@@ -177,7 +178,7 @@ TEST_F(OldTuneFilesTest, AStarBringsItsOwnAuthorAndNoSoundOfTheTuneBefore)
     star.Name = "Star";
     star.CreatedBy = "before";
     star.TuneWave = WaveOf({1});
-    star.TuneWaveValid = true;
+    SetTuneWaveValid(star, true);
     LoadStarFile(star);
     EXPECT_EQ(star.CreatedBy, "Ann");
     EXPECT_EQ(star.TuneWave, WaveData());
@@ -193,7 +194,7 @@ TEST_F(OldTuneFilesTest, AMissingStarBecomesSixteenSilentStepsWithoutLength)
         star.CreatedBy = "before";
         star.DateStamp = "before";
         star.TuneWave = WaveOf({1});
-        star.TuneWaveValid = true;
+        SetTuneWaveValid(star, true);
         LoadStarFile(star);
         EXPECT_EQ(star.Name, name);
         EXPECT_EQ(star.CreatedBy, "");

@@ -14,6 +14,7 @@
 
 #include "core/Shared.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {
@@ -134,9 +135,9 @@ TEST_F(RandomTuneTest, SwitchesOffTheStepBehindFourThatAreOnWithoutADraw)
 TEST_F(RandomTuneTest, MakesFreshStepsAndAStaleTune)
 {
     tune.Steps.assign(3, TuneStep());
-    tune.Steps[1].StepWaveValid = true;
+    SetStepWaveValid(tune.Steps[1], true);
     tune.Steps[1].BeatIndex = 7;
-    tune.TuneWaveValid = true;
+    SetTuneWaveValid(tune, true);
     DrawEightSteps(0, 0);
     EXPECT_FALSE(tune.TuneWaveValid);
     EXPECT_EQ(tune.Steps.size(), 9U);

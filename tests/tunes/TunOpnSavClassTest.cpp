@@ -5,6 +5,7 @@
 
 #include <filesystem>
 
+#include "support/Flags.h"
 #include "tunes/TuneFileDesk.h"
 
 namespace sprout {
@@ -128,7 +129,7 @@ TEST_F(TunOpnSavClassTest, AnUnrenderedTuneComesBackAsRendered)
 {
     Tune tune = MakeTune();
     tune.TuneWave = WaveData();
-    tune.TuneWaveValid = false;
+    SetTuneWaveValid(tune, false);
     SaveBytes(tune);
     TunOpnSavClass().Load_Tune(Path());
     EXPECT_TRUE(Shared().TuneClipboard.TuneWaveValid);

@@ -40,7 +40,7 @@ void FillCurrentTune(std::int32_t steps)
     for (std::int32_t i = 1; i <= steps; ++i) {
         TuneStep& step = At(tune.Steps, i);
         const auto number = static_cast<std::size_t>(i);
-        step.OnPos = i % 3 != 2 || i == 8 ? 1 : 0;
+        step.SetOn(i % 3 != 2 || i == 8);
         step.PitchShift = (i * 5) % 24 - 12;
         step.Duration = durations[number % durations.size()];
         step.StepBeat.Name = "P_Piano High";

@@ -12,7 +12,7 @@
 #include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/SongModel.h"
+#include "core/SongTime.h"
 #include "service/PictureFiles.h"
 #include "service/Services.h"
 #include "songs/OpenSaveClass.h"
@@ -73,11 +73,11 @@ void AddSoundings(const SongState& song, const Track& track, std::vector<Soundin
     const Tune& tune = track.TrackTune;
     std::int32_t k = 0;
     for (std::int32_t cell = 1; cell <= song.SongCells; ++cell) {
-        k = track.Painted[static_cast<std::size_t>(cell)] == 1 ? k % std::max(tune.StepCount, 1) + 1 : 0;
+        k = track.IsPainted(cell) ? k % std::max(tune.StepCount, 1) + 1 : 0;
         if (k == 0 || k > tune.StepCount)
             continue;
         const TuneStep& step = tune.Steps[static_cast<std::size_t>(k)];
-        const bool known = step.OnPos == 1 && step.BeatIndex >= 1 && step.BeatIndex <= song.SongBeatCount;
+        const bool known = step.IsOn() && step.BeatIndex >= 1 && step.BeatIndex <= song.SongBeatCount;
         if (!known || !IsPitched(song.SongBeats[static_cast<std::size_t>(step.BeatIndex)].Name))
             continue;
         const double first = cell * CellSeconds(song.Tempo) * step.StepWave.Rate;

@@ -164,7 +164,7 @@ void Maker::MakeTune(const std::string& name)
     fs::remove(picture);
     Tune& loaded = Shared().TuneClipboard;
     for (const TuneStep& step : loaded.Steps)
-        if (step.OnPos == 1 && step.StepBeat.Name.empty())
+        if (step.IsOn() && step.StepBeat.Name.empty())
             throw RunTimeError("The tune " + name + " plays a beat that is not there.");
     Shared().Song.Tempo = kReferenceTempo;
     RenderTuneCycle(loaded);

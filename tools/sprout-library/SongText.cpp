@@ -10,6 +10,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
+#include "core/SongTime.h"
 #include "sprout-library/Table.h"
 #include "tunes/TunOpnSavClass.h"
 
@@ -57,7 +58,7 @@ void FillTrack(const SongTextTrack& text, std::int32_t number)
     track.TrackTune = shared.TuneClipboard;
     MergeTuneBeats(shared.Song, track.TrackTune);
     for (const CellRun& run : text.Runs)
-        std::fill(track.Painted.begin() + run.First, track.Painted.begin() + run.Last + 1, 1);
+        std::fill(track.Painted.begin() + run.First, track.Painted.begin() + run.Last + 1, kPaintedCell);
 }
 
 } // namespace

@@ -7,7 +7,7 @@ namespace {
 
 Facts StepFacts(const TuneStep& step)
 {
-    return {{"on", step.OnPos == 1},
+    return {{"on", step.IsOn()},
             {"beat_index", step.BeatIndex},
             {"pitch_shift", step.PitchShift},
             {"volume", step.Volume},
@@ -28,7 +28,7 @@ Facts PaintedRuns(const Track& track)
     const auto cells = static_cast<std::int32_t>(track.Painted.size()) - 1;
     std::int32_t first = 0;
     for (std::int32_t cell = 1; cell <= cells + 1; ++cell) {
-        const bool painted = cell <= cells && At(track.Painted, cell) == 1;
+        const bool painted = track.IsPainted(cell);
         if (painted && first == 0)
             first = cell;
         if (!painted && first != 0) {

@@ -3,8 +3,7 @@
 
 #include <algorithm>
 
-#include "core/SongModel.h"
-#include "main_window/rules/CellValues.h"
+#include "core/SongTime.h"
 
 namespace sprout {
 
@@ -41,7 +40,7 @@ std::int64_t SecondCycle(const PaintedRun& run, std::int32_t cycleCells, const T
 /// The first cell after the run that starts at `cell`.
 std::int32_t CellBehindRun(const Track& track, std::int32_t cell, std::int32_t songCells)
 {
-    while (cell <= songCells && At(track.Painted, cell) == kPaintedCell)
+    while (cell <= songCells && track.IsPainted(cell))
         ++cell;
     return cell;
 }
@@ -54,7 +53,7 @@ std::vector<PaintedRun> VisibleRuns(const Track& track, std::int32_t songCells, 
     const std::int32_t lastCell = std::min(songCells, static_cast<std::int32_t>(track.Painted.size()) - 1);
     std::vector<PaintedRun> runs;
     for (std::int32_t cell = 1; cell <= std::min(lastCell, lastVisible); ++cell) {
-        if (At(track.Painted, cell) != kPaintedCell)
+        if (!track.IsPainted(cell))
             continue;
         const std::int32_t behind = CellBehindRun(track, cell, lastCell);
         if (behind > view.FirstCell)

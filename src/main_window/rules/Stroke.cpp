@@ -3,7 +3,7 @@
 
 #include <algorithm>
 
-#include "main_window/rules/CellValues.h"
+#include "core/SongChanges.h"
 
 namespace sprout {
 
@@ -23,17 +23,14 @@ bool Stroke::Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t
     downY = y;
     dragTrack = hit.track;
     dragStart = dragMax = dragMin = hit.cell;
-    dragCells.assign(static_cast<std::size_t>(song.SongCells) + 1, 0);
+    dragCells.assign(static_cast<std::size_t>(song.SongCells) + 1, kUntouchedCell);
 
-    Track& track = At(song.Tracks, hit.track);
-    auto& value = At(track.Painted, hit.cell);
+    auto& value = At(At(song.Tracks, hit.track).Painted, hit.cell);
     const auto written = static_cast<std::int32_t>(tool);
     if (value == written)
         return false;
     value = written;
-    track.TrackRenderValid = false;
-    song.SongMixValid = false;
-    song.SongChanged = true;
+    SongChanges::PaintPressed(song, hit.track);
     return true;
 }
 
@@ -51,7 +48,7 @@ bool Stroke::MoveTo(SongState& song, Tool tool, std::int32_t cell)
     else if (reached > dragStart)
         changed = PaintRight(track, reached);
     if (changed)
-        track.TrackRenderValid = false;
+        SongChanges::PaintDragged(track);
     return changed;
 }
 
@@ -89,7 +86,7 @@ bool Stroke::PaintRight(Track& track, std::int32_t cell)
 
 bool Stroke::PaintCell(Track& track, std::int32_t cell)
 {
-    if (At(track.Painted, cell) == kPaintedCell)
+    if (track.IsPainted(cell))
         return false;
     At(track.Painted, cell) = kPaintedCell;
     At(dragCells, cell) = kPaintedCell;
@@ -103,7 +100,7 @@ bool Stroke::TakeBackCell(Track& track, std::int32_t cell)
     if (At(track.Painted, cell) != At(dragCells, cell))
         return false;
     At(track.Painted, cell) = kErasedCell;
-    At(dragCells, cell) = 0;
+    At(dragCells, cell) = kUntouchedCell;
     return true;
 }
 

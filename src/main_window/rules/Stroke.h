@@ -10,7 +10,7 @@
 namespace sprout {
 
 /// The three tools; brush and eraser write their numbers into a track's cells.
-enum class Tool : std::int32_t { Brush = 1, Eraser = 2, PlayTool = 3 };
+enum class Tool : std::int32_t { Brush = kPaintedCell, Eraser = kErasedCell, PlayTool = 3 };
 
 /// What a left-button press on the painting surface should do.
 enum class PressAction { Nothing, BeginStroke, PlaySongFrom, PlayTrackFrom };

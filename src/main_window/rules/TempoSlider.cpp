@@ -2,8 +2,7 @@
 #include "main_window/rules/TempoSlider.h"
 
 #include "base/Errors.h"
-#include "core/Shared.h"
-#include "core/SongModel.h"
+#include "core/SongTime.h"
 
 namespace sprout {
 
@@ -28,16 +27,6 @@ std::string TempoLabel(std::int32_t percent)
 std::string DurationLabel(std::int32_t tempo)
 {
     return std::to_string(SecondsOrZero(tempo)) + " sec";
-}
-
-bool SetTempoPercent(std::int32_t percent)
-{
-    const std::int32_t tempo = TempoOfPercent(percent);
-    if (tempo == Shared().Song.Tempo)
-        return false;
-    Shared().Song.Tempo = tempo;
-    InvalidateForTempo();
-    return true;
 }
 
 } // namespace sprout

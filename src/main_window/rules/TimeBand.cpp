@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/SongModel.h"
+#include "core/SongTime.h"
 #include "main_window/rules/CellValues.h"
 
 namespace sprout {
@@ -17,7 +17,7 @@ constexpr double kLabelsBeforeTheBand = -5;
 bool AnyTrackIsPainted(const SongState& song, std::int32_t cell)
 {
     for (std::int32_t track = 1; track <= song.TrackCount; ++track)
-        if (At(At(song.Tracks, track).Painted, cell) == kPaintedCell)
+        if (At(song.Tracks, track).IsPainted(cell))
             return true;
     return false;
 }

@@ -19,11 +19,6 @@ std::optional<CellCursor> CursorOfCell(const TrackView& view, std::int32_t cell,
     return CellCursor{x, RowTop(view, track) + kPaintTop, startsGroup ? kGroupStartColour : kCellColour};
 }
 
-bool IsPainted(const Track& track, std::int32_t cell)
-{
-    return cell > 0 && static_cast<std::size_t>(cell) < track.Painted.size() && At(track.Painted, cell) == kPaintedCell;
-}
-
 } // namespace
 
 TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::int32_t dragTrack)
@@ -43,7 +38,7 @@ std::string CellInWords(const SongState& song, std::int32_t track, std::int32_t 
     if (track < 1 || track > song.TrackCount)
         return "Time, " + place;
     return "Track " + std::to_string(track) + ", " + place +
-           (IsPainted(At(song.Tracks, track), cell) ? ", painted" : ", empty");
+           (At(song.Tracks, track).IsPainted(cell) ? ", painted" : ", empty");
 }
 
 } // namespace sprout

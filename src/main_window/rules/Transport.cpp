@@ -5,8 +5,7 @@
 
 #include "base/Errors.h"
 #include "base/Numbers.h"
-#include "core/SongModel.h"
-#include "main_window/rules/CellValues.h"
+#include "core/SongTime.h"
 
 namespace sprout {
 
@@ -31,7 +30,7 @@ bool HasContent(const Track& track)
 bool AStepSounds(const Tune& tune)
 {
     for (std::int32_t step = 1; step <= tune.StepCount; ++step)
-        if (At(tune.Steps, step).OnPos == 1)
+        if (At(tune.Steps, step).IsOn())
             return true;
     return false;
 }
@@ -44,7 +43,7 @@ bool IsSilentMusic(const Track& track)
 bool IsPaintedFrom(const Track& track, std::int32_t songCells, std::int32_t cell)
 {
     for (std::int32_t c = cell; c <= songCells; ++c)
-        if (At(track.Painted, c) == kPaintedCell)
+        if (track.IsPainted(c))
             return true;
     return false;
 }

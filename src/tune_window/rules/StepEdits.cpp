@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "base/Numbers.h"
-#include "beats/BeatFiles.h"
+#include "core/SongChanges.h"
 
 namespace sprout {
 
@@ -15,20 +15,13 @@ constexpr std::int32_t kFarthestPitch = 64;
 constexpr std::int32_t kMostPercent = 200;
 constexpr double kPercentAPixel = 5;
 
-/// Common to every edit except dragging a bar.
-void ClearSound(Tune& tune, std::int32_t step)
-{
-    At(tune.Steps, step).StepWaveValid = false;
-    tune.TuneWaveValid = false;
-}
-
 } // namespace
 
 void ToggleStep(Tune& tune, std::int32_t step)
 {
-    std::int32_t& onPos = At(tune.Steps, step).OnPos;
-    onPos = onPos == 0 ? 1 : 0;
-    ClearSound(tune, step);
+    TuneStep& record = At(tune.Steps, step);
+    record.SetOn(record.OnPos == kStepOff);
+    SongChanges::StepChanged(tune, step);
 }
 
 KeyClick ClickKey(Tune& tune, std::int32_t step, std::optional<std::int32_t> pitch)
@@ -39,7 +32,7 @@ KeyClick ClickKey(Tune& tune, std::int32_t step, std::optional<std::int32_t> pit
     const bool changed = stored != *pitch;
     stored = *pitch;
     if (changed)
-        ClearSound(tune, step);
+        SongChanges::StepChanged(tune, step);
     return {changed, true};
 }
 
@@ -58,7 +51,7 @@ bool ClickStrip(Tune& tune, std::int32_t step, StripPlace place, std::int32_t va
     if (stored == value)
         return false;
     stored = value;
-    ClearSound(tune, step);
+    SongChanges::StepChanged(tune, step);
     return true;
 }
 
@@ -72,24 +65,23 @@ bool DragDuration(TuneStep& step, double pixels)
     return true;
 }
 
-void ChangeStepBeat(Tune& tune, std::int32_t step, std::string_view name)
+void ChangeStepBeat(Tune& tune, std::int32_t step, const Beat& beat)
 {
-    LoadBeatFile(At(tune.Steps, step).StepBeat, name);
-    ClearSound(tune, step);
+    At(tune.Steps, step).StepBeat = beat;
+    SongChanges::StepChanged(tune, step);
     for (std::int32_t later = step + 1; later <= tune.StepCount; ++later) {
         if (!At(tune.Steps, later).StepBeat.Name.empty())
             continue;
-        At(tune.Steps, later).StepBeat = At(tune.Steps, step).StepBeat;
-        At(tune.Steps, later).StepWaveValid = false;
+        At(tune.Steps, later).StepBeat = beat;
+        SongChanges::StepChanged(tune, later);
     }
 }
 
-void ChangeAllBeats(Tune& tune, std::string_view name)
+void ChangeAllBeats(Tune& tune, const Beat& beat)
 {
-    LoadBeatFile(At(tune.Steps, 1).StepBeat, name);
     for (std::int32_t step = 1; step <= tune.StepCount; ++step) {
-        At(tune.Steps, step).StepBeat = At(tune.Steps, 1).StepBeat;
-        ClearSound(tune, step);
+        At(tune.Steps, step).StepBeat = beat;
+        SongChanges::StepChanged(tune, step);
     }
 }
 
@@ -110,7 +102,7 @@ void ChangeStepCount(Tune& tune, std::int32_t count)
     if (before > 0)
         for (std::int32_t step = before + 1; step <= count; ++step)
             At(tune.Steps, step) = At(tune.Steps, step - before);
-    tune.TuneWaveValid = false;
+    SongChanges::StepCountChanged(tune);
 }
 
 } // namespace sprout

@@ -10,8 +10,8 @@
 
 namespace sprout {
 
-// Edits of the tune in the editor. Steps are numbered from 1; each edit clears the validity flags of what it makes
-// stale and reports whether it changed something. The caller tells the window that its tune was changed.
+// Edits of the tune in the editor. Steps are numbered from 1; each edit says what became stale and reports whether it
+// changed something. The caller tells the window that its tune was changed.
 
 inline constexpr std::int32_t kFewestSteps = 2;
 inline constexpr std::int32_t kMostSteps = 64;
@@ -43,11 +43,11 @@ bool ClickStrip(Tune& tune, std::int32_t step, StripPlace place, std::int32_t va
 /// last rendered. Returns whether the duration changed.
 bool DragDuration(TuneStep& step, double pixels);
 
-/// Sets the beat of a step by name, and copies it to every later step without a beat.
-void ChangeStepBeat(Tune& tune, std::int32_t step, std::string_view name);
+/// Sets the beat of a step, and of every later step without one.
+void ChangeStepBeat(Tune& tune, std::int32_t step, const Beat& beat);
 
-/// Sets the beat of all steps, on or off, by name. The tune has at least one step.
-void ChangeAllBeats(Tune& tune, std::string_view name);
+/// Sets the beat of all steps, on or off.
+void ChangeAllBeats(Tune& tune, const Beat& beat);
 
 /// The typed number of steps; nothing if the editor does not accept it.
 [[nodiscard]] std::optional<std::int32_t> TypedStepCount(std::string_view answer);

@@ -94,7 +94,7 @@ std::int32_t BarAt(std::span<const DurationBar> bars, const Tune& tune, std::int
     const auto count = std::min(tune.StepCount, static_cast<std::int32_t>(bars.size()) - 1);
     for (std::int32_t step = 1; step <= count; ++step) {
         const DurationBar& bar = bars[static_cast<std::size_t>(step)];
-        if (At(tune.Steps, step).OnPos == 1 && bar.left <= x && x <= bar.right && bar.top <= y && y <= bar.bottom)
+        if (At(tune.Steps, step).IsOn() && bar.left <= x && x <= bar.right && bar.top <= y && y <= bar.bottom)
             return step;
     }
     return 0;

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 
+#include "core/SongChanges.h"
+
 namespace sprout {
 
 namespace {
@@ -22,20 +24,20 @@ auto BehindLastStep(Tune& tune)
 
 StepMenuRefusal MoveStep(Tune& tune, std::int32_t step, std::int32_t target)
 {
-    if (At(tune.Steps, target).OnPos == 1)
+    if (At(tune.Steps, target).IsOn())
         return kNextStepIsOn;
     At(tune.Steps, target) = At(tune.Steps, step);
-    At(tune.Steps, step).OnPos = 0;
+    At(tune.Steps, step).SetOn(false);
     return {};
 }
 
 StepMenuRefusal InsertStep(Tune& tune, std::int32_t step)
 {
-    if (At(tune.Steps, tune.StepCount).OnPos == 1)
+    if (At(tune.Steps, tune.StepCount).IsOn())
         return kLastStepIsOn;
     const auto place = FirstStep(tune) + (step - 1);
     std::copy_backward(place, BehindLastStep(tune) - 1, BehindLastStep(tune));
-    place->OnPos = 0;
+    place->SetOn(false);
     return {};
 }
 
@@ -43,7 +45,7 @@ StepMenuRefusal DeleteStep(Tune& tune, std::int32_t step)
 {
     const auto place = FirstStep(tune) + (step - 1);
     std::copy(place + 1, BehindLastStep(tune), place);
-    At(tune.Steps, tune.StepCount).OnPos = 0;
+    At(tune.Steps, tune.StepCount).SetOn(false);
     return {};
 }
 
@@ -72,14 +74,14 @@ StepMenuRefusal Carry(Tune& tune, std::int32_t step, StepMoveMnu item)
 
 bool StepMenuItemEnabled(StepMoveMnu item, const TuneStep& step)
 {
-    return step.OnPos == 1 || (item != StepMoveMnu::MoveStepToLeft && item != StepMoveMnu::MoveStepToRight);
+    return step.IsOn() || (item != StepMoveMnu::MoveStepToLeft && item != StepMoveMnu::MoveStepToRight);
 }
 
 StepMenuRefusal ApplyStepMenu(Tune& tune, std::int32_t step, StepMoveMnu item)
 {
     const StepMenuRefusal refusal = Carry(tune, step, item);
     if (!refusal.IsRefusal())
-        tune.TuneWaveValid = false;
+        SongChanges::StepsMoved(tune);
     return refusal;
 }
 

@@ -30,7 +30,7 @@ StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int3
     if (zone == StepZone::Lamp)
         return {StepCursor::Normal, kLampHint, {}, {}};
     const TuneStep& step = At(tune.Steps, number);
-    if (step.OnPos != 1)
+    if (!step.IsOn())
         return {};
     if (zone == StepZone::Icon)
         return {StepCursor::Normal, kIconHint, step.StepBeat.Name.empty() ? kNoBeatToolTip : "", step.StepBeat.Name};
@@ -42,7 +42,7 @@ StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int3
 std::string StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat)
 {
     const std::string words = "Step " + std::to_string(number);
-    if (step.OnPos != 1)
+    if (!step.IsOn())
         return words + ", off";
     const std::string instrument(beat.empty() ? "no instrument" : beat);
     return words + ", on, " + instrument + ", pitch " + std::to_string(step.PitchShift);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/Flags.h"
+
 namespace sprout {
 namespace {
 
@@ -14,9 +16,9 @@ protected:
         song.Tracks.resize(3);
         for (Track& track : song.Tracks) {
             track.Painted.assign(kSongCells + 1, 0);
-            track.TrackRenderValid = true;
+            SetTrackRenderValid(track, true);
         }
-        song.SongMixValid = true;
+        SetSongMixValid(song, true);
     }
 
     bool Press(Tool tool, std::int32_t cell) { return stroke.Begin(song, tool, {2, cell, true}, 300, 70); }
@@ -137,7 +139,7 @@ TEST_F(StrokeTest, TakingBackTurnsNeverTouchedCellsInto2)
     Move(Tool::Brush, 104);
     Move(Tool::Brush, 102);
     At(song.Tracks[2].Painted, 103) = 0; // as if it was never touched: 0 and 0
-    song.Tracks[2].TrackRenderValid = true;
+    SetTrackRenderValid(song.Tracks[2], true);
     EXPECT_TRUE(Move(Tool::Brush, 101));
     EXPECT_EQ(Cell(103), 2);
     EXPECT_FALSE(song.Tracks[2].TrackRenderValid);
@@ -146,7 +148,7 @@ TEST_F(StrokeTest, TakingBackTurnsNeverTouchedCellsInto2)
 TEST_F(StrokeTest, EraserTurnsNeverTouchedCellsInto2AndCountsThem)
 {
     Press(Tool::Eraser, 100);
-    song.Tracks[2].TrackRenderValid = true;
+    SetTrackRenderValid(song.Tracks[2], true);
     EXPECT_TRUE(Move(Tool::Eraser, 95));
     ExpectCells(95, 100, 2);
     EXPECT_FALSE(song.Tracks[2].TrackRenderValid);

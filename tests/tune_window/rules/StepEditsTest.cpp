@@ -6,9 +6,7 @@
 #include <limits>
 #include <string>
 
-#include "core/Shared.h"
-#include "support/FakeServices.h"
-#include "waves/WavOperations.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -26,18 +24,17 @@ protected:
             TuneStep& step = At(tune.Steps, i);
             step.OnPos = 1;
             step.Volume = i;
-            step.StepWaveValid = true;
+            SetStepWaveValid(step, true);
         }
-        tune.TuneWaveValid = true;
+        SetTuneWaveValid(tune, true);
     }
 
-    void MakeBeat(const std::string& name)
+    [[nodiscard]] static Beat LoadedBeat(const std::string& name)
     {
-        WaveData wave = EmptyWave();
-        wave.Length = 600;
-        wave.WavL = Channel(600);
-        wave.WavR = Channel(600);
-        SaveWaveFile(wave, Shared().UserBeats / (name + ".wav"));
+        Beat beat;
+        beat.Name = name;
+        beat.Loaded = true;
+        return beat;
     }
 
     [[nodiscard]] std::string Origins() const
@@ -56,7 +53,6 @@ protected:
         return text;
     }
 
-    FakeServices services;
     Tune tune;
 };
 
@@ -164,10 +160,9 @@ TEST_F(StepEditsTest, KeepsWhatIsRenderedWhileABarIsDrawn)
 
 TEST_F(StepEditsTest, GivesTheFirstBeatToAllLaterStepsWithoutOne)
 {
-    MakeBeat("Drum");
     tune.Steps[3].StepBeat.Name = "Flute";
     tune.Steps[4].OnPos = 0;
-    ChangeStepBeat(tune, 2, "Drum");
+    ChangeStepBeat(tune, 2, LoadedBeat("Drum"));
     EXPECT_EQ(tune.Steps[1].StepBeat.Name, "");
     EXPECT_EQ(tune.Steps[2].StepBeat.Name, "Drum");
     EXPECT_TRUE(tune.Steps[2].StepBeat.Loaded);
@@ -179,10 +174,9 @@ TEST_F(StepEditsTest, GivesTheFirstBeatToAllLaterStepsWithoutOne)
 
 TEST_F(StepEditsTest, ChangesAllBeatsOnOrOff)
 {
-    MakeBeat("Drum");
     tune.Steps[2].StepBeat.Name = "Flute";
     tune.Steps[3].OnPos = 0;
-    ChangeAllBeats(tune, "Drum");
+    ChangeAllBeats(tune, LoadedBeat("Drum"));
     for (std::int32_t step = 1; step <= 4; ++step)
         EXPECT_EQ(At(tune.Steps, step).StepBeat.Name, "Drum");
     EXPECT_EQ(ValidSteps(), "");

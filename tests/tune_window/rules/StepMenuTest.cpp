@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "support/Flags.h"
+
 namespace sprout {
 namespace {
 
@@ -17,9 +19,9 @@ Tune TuneOf(const std::string& lamps)
     for (std::size_t i = 1; i <= lamps.size(); ++i) {
         tune.Steps[i].OnPos = lamps[i - 1] == 'x' ? 1 : lamps[i - 1] == '2' ? 2 : 0;
         tune.Steps[i].Volume = static_cast<std::int32_t>(i);
-        tune.Steps[i].StepWaveValid = i % 2 == 1;
+        SetStepWaveValid(tune.Steps[i], i % 2 == 1);
     }
-    tune.TuneWaveValid = true;
+    SetTuneWaveValid(tune, true);
     return tune;
 }
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "main_window/rules/TrackList.h"
+#include "core/TrackList.h"
 
 #include <utility>
 
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "core/SongModel.h"
 
 namespace sprout {
@@ -14,12 +15,6 @@ void ResizeTracks(SongState& song, std::int32_t count)
 {
     song.Tracks.resize(static_cast<std::size_t>(count) + 1);
     song.TrackCount = count;
-}
-
-void MarkSongChanged(SongState& song)
-{
-    song.SongMixValid = false;
-    song.SongChanged = true;
 }
 
 /// Returns whether the picture was one of the two.
@@ -50,8 +45,7 @@ void EndAddMusicTrack()
     SongState& song = Shared().Song;
     if (At(song.Tracks, song.TrackCount).TrackTune.Name.empty())
         ResizeTracks(song, song.TrackCount - 1);
-    At(song.Tracks, song.TrackCount).TrackRenderValid = false;
-    MarkSongChanged(song);
+    SongChanges::TrackAdded(song);
 }
 
 void AddAudioTrack(WaveData wave)
@@ -62,8 +56,7 @@ void AddAudioTrack(WaveData wave)
     Track& track = At(song.Tracks, song.TrackCount);
     track.TrackType = static_cast<std::int32_t>(TrackKind::Audio);
     track.TrackAudio = std::move(wave);
-    track.TrackRenderValid = false;
-    MarkSongChanged(song);
+    SongChanges::TrackAdded(song);
 }
 
 void DeleteTrack(std::int32_t trackNumber)
@@ -73,14 +66,7 @@ void DeleteTrack(std::int32_t trackNumber)
         return ResetTrack(1);
     song.Tracks.erase(song.Tracks.begin() + trackNumber);
     --song.TrackCount;
-    MarkSongChanged(song);
-}
-
-void MarkTuneChosen(std::int32_t trackNumber)
-{
-    SongState& song = Shared().Song;
-    At(song.Tracks, trackNumber).TrackRenderValid = false;
-    MarkSongChanged(song);
+    SongChanges::TrackDeleted(song);
 }
 
 std::vector<std::int32_t> BlinkTunesNotFilled()

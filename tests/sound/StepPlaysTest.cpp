@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tune_window/rules/StepPlays.h"
+#include "sound/StepPlays.h"
 
 #include "sound/PlayTest.h"
 #include "sound/TuneRender.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -35,7 +36,7 @@ TEST_F(StepPlaysTest, RendersAStaleStepAndPlaysIt)
 TEST_F(StepPlaysTest, PlaysAValidStepAsItIs)
 {
     step.StepWave = CountingWave(700);
-    step.StepWaveValid = true;
+    SetStepWaveValid(step, true);
     PlayStepSound(step);
     EXPECT_EQ(play.PlayLength, 700);
     EXPECT_TRUE(services.stretch.Calls().empty());
@@ -91,7 +92,7 @@ TEST_F(StepPlaysTest, PlaysATuneAtOnceWithoutALeadIn)
     tune.StepCount = 2;
     tune.Steps = {TuneStep(), step, TuneStep()};
     tune.TuneWave = CountingWave(500);
-    tune.TuneWaveValid = true;
+    SetTuneWaveValid(tune, true);
     PlayEditedTune(tune, 0);
     EXPECT_EQ(play.PlayLength, 500);
     EXPECT_EQ(services.playDisplay.tunesShown, 0);

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "main_window/rules/TrackList.h"
+#include "core/TrackList.h"
 
 #include <gmock/gmock.h>
 
 #include "core/SongModel.h"
-#include "main_window/rules/TrackGeometry.h"
 #include "support/FakeServices.h"
+#include "support/Flags.h"
 
 namespace sprout {
 namespace {
@@ -15,8 +15,8 @@ protected:
     TrackListTest()
     {
         NewSong();
-        song.SongMixValid = true;
-        song.SongChanged = false;
+        SetSongMixValid(song, true);
+        SetSongChanged(song, false);
     }
 
     void NameTracks(const std::vector<std::string>& names) const
@@ -56,7 +56,7 @@ TEST_F(TrackListTest, ANewTrackWithATuneStays)
 {
     AddMusicTrack();
     song.Tracks[3].TrackTune.Name = "Piko";
-    song.Tracks[3].TrackRenderValid = true;
+    SetTrackRenderValid(song.Tracks[3], true);
     EndAddMusicTrack();
     EXPECT_EQ(song.TrackCount, 3);
     EXPECT_FALSE(song.Tracks[3].TrackRenderValid);
@@ -66,7 +66,7 @@ TEST_F(TrackListTest, ANewTrackWithATuneStays)
 
 TEST_F(TrackListTest, ANewTrackWithoutATuneGoesAndTheSongCountsAsChanged)
 {
-    song.Tracks[2].TrackRenderValid = true;
+    SetTrackRenderValid(song.Tracks[2], true);
     AddMusicTrack();
     EndAddMusicTrack();
     EXPECT_EQ(song.TrackCount, 2);
@@ -85,14 +85,12 @@ TEST_F(TrackListTest, ASongWithoutTracksTakesOneAndGivesItUpAgain)
     EXPECT_EQ(song.Tracks.size(), 1U);
 }
 
-TEST_F(TrackListTest, TheTracksBehindADeletedOneMoveUpAndTakeItsColour)
+TEST_F(TrackListTest, TheTracksBehindADeletedOneMoveUp)
 {
     NameTracks({"Piko", "Doko", "Lila"});
-    const std::int32_t tileBefore = TileNumber(false, 3);
     DeleteTrack(2);
     EXPECT_EQ(Names(), (std::vector<std::string>{"Piko", "Lila"}));
     EXPECT_EQ(song.Tracks.size(), 3U);
-    EXPECT_NE(TileNumber(false, 2), tileBefore);
     EXPECT_FALSE(song.SongMixValid);
     EXPECT_TRUE(song.SongChanged);
 }
@@ -111,17 +109,6 @@ TEST_F(TrackListTest, TheOnlyTrackIsEmptiedAndNothingIsMarked)
     EXPECT_EQ(song.Tracks[1].TrackAudio.Length, 5);
     EXPECT_TRUE(song.SongMixValid);
     EXPECT_FALSE(song.SongChanged);
-}
-
-TEST_F(TrackListTest, AnotherTuneMakesItsTrackAndTheMixStale)
-{
-    song.Tracks[1].TrackRenderValid = true;
-    song.Tracks[2].TrackRenderValid = true;
-    MarkTuneChosen(1);
-    EXPECT_FALSE(song.Tracks[1].TrackRenderValid);
-    EXPECT_TRUE(song.Tracks[2].TrackRenderValid);
-    EXPECT_FALSE(song.SongMixValid);
-    EXPECT_TRUE(song.SongChanged);
 }
 
 TEST_F(TrackListTest, TracksWithoutATuneSwapTheirTwoPictures)

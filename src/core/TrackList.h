@@ -24,9 +24,6 @@ void AddAudioTrack(WaveData wave);
 /// the song's changed flag. trackNumber: 1..`TrackCount`.
 void DeleteTrack(std::int32_t trackNumber);
 
-/// Records that a track has another tune.
-void MarkTuneChosen(std::int32_t trackNumber);
-
 /// Swaps the two pictures of every track without a chosen tune. Returns the tracks that changed.
 std::vector<std::int32_t> BlinkTunesNotFilled();
 

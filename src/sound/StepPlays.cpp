@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "tune_window/rules/StepPlays.h"
+#include "sound/StepPlays.h"
 
+#include "core/rendered/Rendered.h"
 #include "sound/PlayMod.h"
 #include "sound/TuneRender.h"
 
@@ -14,8 +15,11 @@ constexpr std::string_view kTuneStatus = "Playing Tune";
 bool RenderIfStale(TuneStep& step)
 {
     if (!step.StepWaveValid) {
-        step.StepWave = RenderOwnBeatStep(step);
-        step.StepWaveValid = step.StepWave.Length > 0;
+        WaveData wave = RenderOwnBeatStep(step);
+        if (wave.Length > 0)
+            Rendered::KeepStepWave(step, std::move(wave));
+        else
+            step.StepWave = std::move(wave);
     }
     return step.StepWaveValid;
 }
