@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "songs/OpenSaveClass.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <exception>
 #include <optional>
@@ -12,6 +13,8 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/Tell.h"
+#include "service/Screen.h"
+#include "service/Services.h"
 #include "songs/SongVersions.h"
 
 namespace sprout {
@@ -35,22 +38,15 @@ SongLoader LoaderOf(ByteSource& source)
     return nullptr;
 }
 
-/// The song in a file; one without tracks if it cannot be read, after a message.
-SongState ReadSong(ByteSource& source, SongLoader loadVersion)
+SongState ReadVersion(ByteSource& source, SongLoader loadVersion)
 {
-    try {
-        const std::optional<std::uint64_t> begin = FindHeadData(source);
-        if (begin) {
-            SongState song;
-            LongsReader data(source, *begin);
-            loadVersion(data, song);
-            return song;
-        }
-        Tell("Error Loading File", "Failed to find Data");
-    } catch (const std::exception& error) {
-        Tell("Error Loading File", ErrorText(error));
-    }
-    return {};
+    const std::optional<std::uint64_t> begin = FindHeadData(source);
+    if (!begin)
+        throw RunTimeError("Failed to find Data");
+    SongState song;
+    LongsReader data(source, *begin);
+    loadVersion(data, song);
+    return song;
 }
 
 /// Leaves a song without tracks and without its own file: anything saved in its place would be another song.
@@ -60,30 +56,59 @@ void FailLoading(SongState& song)
     song.OwnFile = FileMark();
 }
 
+bool HasBlankTune(const SongState& song)
+{
+    const auto isBlank = [](const Track& track) {
+        return track.IsMusic() && SamePicture(track.TrackTune.Picture, Shared().BlankPic);
+    };
+    return std::any_of(song.Tracks.begin() + 1, song.Tracks.end(), isBlank);
+}
+
+/// Replaces the shared song by that of a file. Returns false if it has no tracks.
+bool TakeSong(const fs::path& file)
+{
+    const std::size_t toldBefore = MessagesTold();
+    const FileMark mark = MarkOf(file); // before reading: later changes were not read
+    SongState song = ReadSong(file);
+    if (song.TrackCount == 0)
+        return false;
+    song.OwnFile = MessagesTold() == toldBefore ? mark : FileMark();
+    Shared().Song = std::move(song);
+    if (HasBlankTune(Shared().Song))
+        TheServices().screen->EnableTuneNotFilledTimer();
+    return true;
+}
+
 } // namespace
+
+SongState ReadSong(const fs::path& path)
+{
+    FileSource source(path);
+    const SongLoader loadVersion = LoaderOf(source);
+    if (!loadVersion)
+        return {};
+    try {
+        return ReadVersion(source, loadVersion);
+    } catch (const std::exception& error) {
+        throw SongDataError(ErrorText(error));
+    }
+}
 
 void OpenSaveClass::Load_Song(const fs::path& path)
 {
     SongState& shared = Shared().Song;
-    const std::size_t toldBefore = MessagesTold();
     try {
         const fs::path found = FindFile(path);
-        const fs::path& file = found.empty() ? path : found;
-        const FileMark mark = MarkOf(file); // before reading: later changes were not read
-        FileSource source(file);
-        const SongLoader loadVersion = LoaderOf(source);
-        SongState song = loadVersion ? ReadSong(source, loadVersion) : SongState();
-        if (song.TrackCount != 0) {
-            song.OwnFile = MessagesTold() == toldBefore ? mark : FileMark();
-            shared = std::move(song);
+        if (TakeSong(found.empty() ? path : found))
             return;
-        }
-        FailLoading(shared);
-        Tell("", "Failed Loading");
+    } catch (const SongDataError& error) {
+        Tell("Error Loading File", ErrorText(error));
     } catch (const std::exception& error) {
         FailLoading(shared);
-        Tell("Error Opening File", ErrorText(error));
+        return Tell("Error Opening File", ErrorText(error));
     }
+    FailLoading(shared);
+    Tell("", "Failed Loading");
 }
 
 void OpenSaveClass::Save_Song(const fs::path& path)

@@ -3,10 +3,23 @@
 
 #include <filesystem>
 
+#include "base/Errors.h"
 #include "core/Song.h"
 #include "service/Files.h"
 
 namespace sprout {
+
+/// Reads a song from a file of version 2, 1.1 or 1; another version gives a song without tracks. No record of the
+/// program changes; messages report tunes, beats and pictures outside the file that cannot be read. Throws
+/// `SongDataError` if the song is damaged, `RunTimeError` or an exception of the standard library if its file cannot be
+/// opened.
+[[nodiscard]] SongState ReadSong(const std::filesystem::path& path);
+
+/// The data in a song file makes no song.
+class SongDataError : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
 
 /// Song files (.TqSng); docs/file-formats.md shows the layouts.
 class OpenSaveClass {
@@ -14,7 +27,7 @@ public:
     /// flush: whether a saved song must already be on the disk when `Save_Song` returns.
     explicit OpenSaveClass(Flush flush = Flush::Yes) : saveFlush(flush) {}
 
-    /// Replaces the shared song with a file of version 2, 1.1 or 1, which becomes its `OwnFile` unless a message was
+    /// Replaces the shared song by `ReadSong` with that of a file, which becomes its `OwnFile` unless a message was
     /// shown. Failures are shown in messages; `TrackCount` is then 0, the song has no own file, and the rest of it
     /// stays as it was.
     void Load_Song(const std::filesystem::path& path);

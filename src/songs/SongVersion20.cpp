@@ -75,8 +75,10 @@ void SongReader20::ReadTrack(Track& track)
 
 void SongReader20::ReadMusic(Tune& tune)
 {
-    if (data.Get() == 0)
-        return ResetTune(tune);
+    if (data.Get() == 0) {
+        tune = BlankTune();
+        return;
+    }
     const std::string name = data.GetText();
     if (data.Get() != 1)
         return TakeTuneFile(tune, name);
@@ -98,12 +100,15 @@ void SongReader20::ReadTune(Tune& tune)
 void SongReader20::TakeTuneFile(Tune& tune, const std::string& name)
 {
     const std::filesystem::path file = TuneFile(name);
-    if (!FileExists(file))
-        return ResetTune(tune);
+    if (!FileExists(file)) {
+        tune = BlankTune();
+        return;
+    }
     auto found = outsideTunes.find(name);
     if (found == outsideTunes.end()) {
-        TunOpnSavClass().Load_Tune(file);
-        found = outsideTunes.emplace(name, Shared().TuneClipboard).first;
+        const TuneReading reading = sprout::ReadTune(FindFile(file));
+        TellFailure(reading);
+        found = outsideTunes.emplace(name, reading.Record.value_or(Tune())).first;
     }
     tune = found->second;
     MergeTuneBeats(song, tune);

@@ -3,6 +3,7 @@
 
 #include <exception>
 #include <string>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
@@ -27,22 +28,42 @@ void Write_Tune_File(const LongsWriter& data, const fs::path& path, Flush flush)
     ReplaceDataFile(path, FileHead("TqTun", " Sprout Tune File"), data, flush);
 }
 
-bool LoadVersion(Tune& tune, const fs::path& path, TuneLoad mode)
+void ReadVersion(TuneReading& reading, const fs::path& path, TuneLoad mode)
 {
     FileSource source(path);
     const float version = FileVersion(source);
-    tune = Tune();
-    if (version == 2.0F)
-        return Load_Tune_V20(tune, source, path, mode);
+    Tune& tune = reading.Record.emplace();
+    if (version == 2.0F) {
+        reading.Failure = Load_Tune_V20(tune, source, path, mode);
+        reading.IsWhole = !reading.Failure;
+        return;
+    }
     if (version != 0.0F)
-        return false;
+        return;
     if (source.Size() > kMostIniBytes)
         throw RunTimeError("The file " + PathText(path) + " is too large for a tune.");
     Load_Tune_V00(tune, path, mode);
-    return true;
+    reading.IsWhole = true;
 }
 
 } // namespace
+
+TuneReading ReadTune(const fs::path& path, TuneLoad mode)
+{
+    TuneReading reading;
+    try {
+        ReadVersion(reading, path, mode);
+    } catch (const std::exception& error) {
+        reading.Failure = ReadFailure{"Error Opening File", ErrorText(error)};
+    }
+    return reading;
+}
+
+void TellFailure(const TuneReading& reading)
+{
+    if (reading.Failure)
+        Tell(reading.Failure->Title, reading.Failure->Text);
+}
 
 void TunOpnSavClass::Save_Tune(const fs::path& path)
 {
@@ -60,12 +81,11 @@ bool TunOpnSavClass::Load_Tune(const fs::path& path, TuneLoad mode)
         ResetTune(tune);
         return false;
     }
-    try {
-        return LoadVersion(tune, file, mode);
-    } catch (const std::exception& error) {
-        Tell("Error Opening File", ErrorText(error));
-        return false;
-    }
+    TuneReading reading = ReadTune(file, mode);
+    if (reading.Record)
+        tune = *std::move(reading.Record);
+    TellFailure(reading);
+    return reading.IsWhole;
 }
 
 bool IsOriginalTune(const Tune& tune)

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "core/Song.h"
 #include "service/Files.h"
@@ -16,6 +19,28 @@ enum class TuneLoad {
     Beats = 3,     ///< also the beats, but not the stored sound
 };
 
+/// Why a file could not be read, in the words of the message.
+struct ReadFailure {
+    std::string_view Title;
+    std::string Text;
+};
+
+/// What a tune file gave.
+struct TuneReading {
+    std::optional<Tune> Record; ///< what was read, even before a failure; nothing if the file could not be opened
+    bool IsWhole = false;       ///< the record has everything that was requested
+    std::optional<ReadFailure> Failure;
+};
+
+/// Reads a tune from a file of the current or the old form. Another version gives an empty record without a failure. No
+/// record of the program changes; messages report beats and pictures outside the file that cannot be read.
+///
+/// `TuneLoad::List` only reads the head, whatever the file contains.
+[[nodiscard]] TuneReading ReadTune(const std::filesystem::path& path, TuneLoad mode = TuneLoad::All);
+
+/// Shows the failure of a reading, if there is one.
+void TellFailure(const TuneReading& reading);
+
 /// Tune files (.TqTun) and their cache files; docs/file-formats.md shows the layouts.
 class TunOpnSavClass {
 public:
@@ -28,11 +53,8 @@ public:
     /// failure there also throws, but the tune itself is saved.
     void Save_Tune(const std::filesystem::path& path);
 
-    /// Fills `TuneClipboard` from a file of the current or the old form. Failures are shown in a message; the clipboard
-    /// then has what was read so far. A missing file gives a blank tune, another version an empty record. Returns
-    /// whether the clipboard has everything that was requested.
-    ///
-    /// `TuneLoad::List` only reads the head, whatever the file contains.
+    /// Fills `TuneClipboard` by `ReadTune`. Failures are shown in a message; the clipboard then has what was read so
+    /// far. A missing file gives a blank tune. Returns whether the clipboard has everything that was requested.
     bool Load_Tune(const std::filesystem::path& path, TuneLoad mode = TuneLoad::All);
 
 private:

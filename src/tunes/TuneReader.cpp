@@ -11,7 +11,6 @@
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "core/Tell.h"
 #include "core/rendered/Rendered.h"
 #include "tunes/StepEntry.h"
 #include "tunes/TuneVersions.h"
@@ -80,7 +79,7 @@ void ReadSound(LongsReader& data, Tune& tune, const fs::path& path)
         ReadTuneCache(tune, path);
 }
 
-void ReadTune(LongsReader& data, Tune& tune, const fs::path& path, TuneLoad mode)
+void ReadParts(LongsReader& data, Tune& tune, const fs::path& path, TuneLoad mode)
 {
     ReadListPart(data, tune, path);
     if (mode == TuneLoad::List)
@@ -97,20 +96,19 @@ void ReadTune(LongsReader& data, Tune& tune, const fs::path& path, TuneLoad mode
 
 } // namespace
 
-bool Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoad mode)
+std::optional<ReadFailure> Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoad mode)
 {
     try {
         const std::optional<std::uint64_t> begin = FindHeadData(source);
         if (begin) {
             LongsReader data(source, *begin);
-            ReadTune(data, tune, path, mode);
-            return true;
+            ReadParts(data, tune, path, mode);
+            return std::nullopt;
         }
-        Tell(kTuneFailed, "Failed to find Data");
+        return ReadFailure{kTuneFailed, "Failed to find Data"};
     } catch (const std::exception& error) {
-        Tell(kTuneFailed, ErrorText(error));
+        return ReadFailure{kTuneFailed, ErrorText(error)};
     }
-    return false;
 }
 
 } // namespace sprout

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 
 #include "base/ByteCursor.h"
 #include "base/Longs.h"
@@ -12,9 +13,10 @@ namespace sprout {
 
 // The forms of the tune file, each in its own source file; `TunOpnSavClass` chooses between them.
 
-/// Fills an empty tune from a file of the current form. path: the tune's path, for its name, stamp and cache. Failures
-/// are shown in a message; `tune` then has what was read so far, and the result is false.
-bool Load_Tune_V20(Tune& tune, ByteSource& source, const std::filesystem::path& path, TuneLoad mode);
+/// Fills an empty tune from a file of the current form. path: the tune's path, for its name, stamp and cache. After a
+/// failure `tune` has what was read so far.
+[[nodiscard]] std::optional<ReadFailure> Load_Tune_V20(Tune& tune, ByteSource& source,
+                                                       const std::filesystem::path& path, TuneLoad mode);
 
 /// Fills an empty tune from a file of the old form. Every mode except `TuneLoad::All` reads only what a list needs.
 /// Throws `RunTimeError` if a number is out of range.

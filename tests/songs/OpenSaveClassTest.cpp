@@ -137,6 +137,40 @@ TEST_F(OpenSaveClassTest, FindsAFileWhateverItsLetterCase)
     EXPECT_EQ(Shared().Song.TrackCount, 1);
 }
 
+TEST_F(OpenSaveClassTest, ReadingASongChangesNoRecordOfTheProgram)
+{
+    Shared().TuneClipboard.Name = "Before";
+    WriteBytes(Path(), FileOf("TqSng", "2", SmallArray().Elements()));
+    const SongState song = ReadSong(Path());
+    EXPECT_EQ(song.SongTitle, "Title");
+    EXPECT_EQ(song.TrackCount, 1);
+    EXPECT_EQ(Shared().Song.SongTitle, "Before");
+    EXPECT_EQ(Shared().Song.TrackCount, 2);
+    EXPECT_EQ(Shared().TuneClipboard.Name, "Before");
+}
+
+TEST_F(OpenSaveClassTest, ReadingThrowsWithoutAMessage)
+{
+    WriteBytes(Path(), FileOf("TqSng", "2", {1, 2, 3}));
+    EXPECT_THROW(static_cast<void>(ReadSong(Path())), SongDataError);
+    EXPECT_THROW(static_cast<void>(ReadSong(Shared().UserSongs / "Gone.TqSng")), RunTimeError);
+    EXPECT_TRUE(Told().empty());
+    EXPECT_EQ(Shared().Song.TrackCount, 2);
+}
+
+TEST_F(OpenSaveClassTest, ALoadedTrackWithoutATuneBlinks)
+{
+    SaveBytes();
+    services.screen.tuneNotFilledTimer = false;
+    LoadArray(SmallArray());
+    EXPECT_FALSE(services.screen.tuneNotFilledTimer);
+    NewSong();
+    SaveBytes();
+    services.screen.tuneNotFilledTimer = false;
+    OpenSaveClass().Load_Song(Path());
+    EXPECT_TRUE(services.screen.tuneNotFilledTimer);
+}
+
 TEST_F(OpenSaveClassTest, SavesHeadArrayAndTail)
 {
     const std::string bytes = SaveBytes();

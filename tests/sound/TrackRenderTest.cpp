@@ -148,7 +148,7 @@ TEST_F(RenderTuneTrackTest, DoublingTheTempoHalvesTheDistanceAndKeepsTheSteps)
     const WaveData slow = TrackAt(track).TrackRender;
     const std::size_t calls = services.stretch.Calls().size();
     Shared().Song.Tempo = 2 * kSlowTempo;
-    InvalidateForTempo();
+    SongChanges::TempoChanged(Shared().Song);
     RenderTuneTrack(track);
     const WaveData& fast = TrackAt(track).TrackRender;
     EXPECT_EQ(services.stretch.Calls().size(), calls);

@@ -192,6 +192,49 @@ TEST_F(TunOpnSavClassTest, KnowsOriginalsByTheirAuthorsFirstLetters)
     EXPECT_FALSE(isOriginal(""));
 }
 
+TEST_F(TunOpnSavClassTest, ReadingATuneChangesNoRecordOfTheProgram)
+{
+    const fs::path path = Shared().UserTunes / "Read.TqTun";
+    WriteBytes(path, FileOf("TqTun", "2", MakeArray().Elements()));
+    Shared().TuneClipboard = Tune();
+    Shared().TuneClipboard.Name = "Before";
+    const TuneReading reading = ReadTune(path);
+    ASSERT_TRUE(reading.Record);
+    EXPECT_TRUE(reading.IsWhole);
+    EXPECT_FALSE(reading.Failure);
+    EXPECT_EQ(reading.Record->Name, "Read");
+    EXPECT_EQ(reading.Record->StepCount, 4);
+    EXPECT_TRUE(reading.Record->TuneWaveValid);
+    EXPECT_EQ(Shared().TuneClipboard.Name, "Before");
+}
+
+TEST_F(TunOpnSavClassTest, ReadingADamagedTuneGivesItsBeginningAndTheReasonWithoutAMessage)
+{
+    const fs::path path = Shared().UserTunes / "Cut.TqTun";
+    std::vector<std::int32_t> elements = MakeArray().Elements();
+    elements.resize(elements.size() - 9);
+    elements[0] = static_cast<std::int32_t>(elements.size()) - 1;
+    WriteBytes(path, FileOf("TqTun", "2", elements));
+    const TuneReading reading = ReadTune(path);
+    ASSERT_TRUE(reading.Record);
+    EXPECT_EQ(reading.Record->CreatedBy, "Ann");
+    EXPECT_FALSE(reading.IsWhole);
+    ASSERT_TRUE(reading.Failure);
+    EXPECT_EQ(reading.Failure->Title, "Error Loading Tune File");
+    EXPECT_TRUE(services.messages.shown.empty());
+    TellFailure(reading);
+    EXPECT_EQ(services.messages.shown.size(), 1U);
+}
+
+TEST_F(TunOpnSavClassTest, ReadingAFileThatCannotBeOpenedGivesNoRecord)
+{
+    const TuneReading reading = ReadTune(Shared().UserTunes / "Gone.TqTun");
+    EXPECT_FALSE(reading.Record);
+    EXPECT_FALSE(reading.IsWhole);
+    ASSERT_TRUE(reading.Failure);
+    EXPECT_EQ(reading.Failure->Title, "Error Opening File");
+}
+
 TEST_F(TunOpnSavClassTest, SaysWhetherAllWasLoaded)
 {
     const auto loads = [this](const std::string& bytes) {

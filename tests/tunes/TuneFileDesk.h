@@ -35,7 +35,7 @@ inline Tune MakeTune()
     tune.Steps.resize(5);
     tune.StepCount = 4;
     for (std::int32_t i = 1; i <= 4; ++i)
-        At(tune.Steps, i) = {i > 1 ? 1 : 0, 0, i, 10 * i, 100 * i, {}, {}, false};
+        At(tune.Steps, i) = {i > 1 ? 1 : 0, 0, i, 10 * i, 100 * i, {}, {}, {}};
     tune.Steps[2].StepBeat = MakeBeat("Drum", 5);
     tune.Steps[3].StepBeat = tune.Steps[2].StepBeat;
     tune.Steps[4].StepBeat = MakeBeat("drum", 6);
