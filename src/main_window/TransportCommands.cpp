@@ -265,9 +265,10 @@ void TransportCommands::MovePlayIndicator()
     // A sound that has just ended has no position; its marker stays where it is until the next tick.
     if (!canvas || play.PlayKind != PlayKind::SongOrTrack || play.PlayState == PlayState::Stopped)
         return;
-    if (const std::optional<std::int32_t> cell = MarkerCell(play))
+    const std::optional<std::int32_t> cell = MarkerCell(play);
+    if (cell)
         canvas->FollowMarker(*cell);
-    canvas->ShowPlayIndicator(sprout::MovePlayIndicator(play, canvas->View()));
+    canvas->ShowPlayIndicator(sprout::MovePlayIndicator(play.PlayingTrack, cell, canvas->View()));
 }
 
 void TransportCommands::PlayIndicatorOff()

@@ -13,6 +13,7 @@
 #include "core/Shared.h"
 #include "service/Messages.h"
 #include "service/Services.h"
+#include "song_window/NameDecision.h"
 #include "song_window/SongList.h"
 #include "ui/Artwork.h"
 #include "ui/Dialogs.h"

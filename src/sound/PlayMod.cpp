@@ -26,6 +26,8 @@ constexpr std::string_view kDriverFailed =
     "If yes, put that off and then and then run this program again.\n\n"
     "Other wise, if this problem persists you may need to reinstall DirectX9 or Sound Card's Driver\r\n\r\n";
 
+constexpr std::int32_t kFarthestCell = 1'000'000;
+
 std::unique_ptr<PlayDllClass>& PlayerInstance()
 {
     static std::unique_ptr<PlayDllClass> player;
@@ -178,6 +180,17 @@ void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view 
 std::int32_t CellInPlay(const PlayModState& play)
 {
     return RoundHalfEven(SecondsInPlay(play) / CellSeconds(play.PlayTempo) + play.PlayStartPos);
+}
+
+std::optional<std::int32_t> MarkerCell(const PlayModState& play)
+{
+    if (play.PlayingTrack == 0)
+        return std::nullopt;
+    try {
+        return std::min(CellInPlay(play), kFarthestCell);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
 }
 
 std::int32_t StepInPlay(const PlayModState& play, std::int32_t tempo, std::int32_t stepCount)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "base/WaveData.h"
@@ -37,6 +38,10 @@ void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view 
 
 /// The cell of the song or track that is heard. Throws `RunTimeError` if it is not a 32-bit number.
 [[nodiscard]] std::int32_t CellInPlay(const PlayModState& play);
+
+/// The cell to mark in the windows, at most 1,000,000, so that its pixel position fits a number. Nothing for a sound
+/// that belongs to no track or whose cell is unknown.
+[[nodiscard]] std::optional<std::int32_t> MarkerCell(const PlayModState& play);
 
 /// The step of a tune that is heard, 1 to `stepCount`. tempo: cells per minute.
 [[nodiscard]] std::int32_t StepInPlay(const PlayModState& play, std::int32_t tempo, std::int32_t stepCount);

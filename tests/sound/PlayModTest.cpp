@@ -290,6 +290,50 @@ TEST(CellInPlay, TellsAnAbsurdTempo)
     EXPECT_THROW(static_cast<void>(CellInPlay(play)), RunTimeError);
 }
 
+/// Cell 31 of a track or of the whole song is playing.
+PlayModState At31(std::int32_t track)
+{
+    PlayModState state;
+    state.PlayingTrack = track;
+    state.PlayBufRate = 44100;
+    state.PlayTempo = 320;
+    state.PlayStartPos = 31;
+    return state;
+}
+
+TEST(MarkerCell, IsThatOfTheSongOrTrackThatIsHeard)
+{
+    EXPECT_EQ(MarkerCell(At31(kWholeSong)), 31);
+    EXPECT_EQ(MarkerCell(At31(2)), 31);
+    EXPECT_FALSE(MarkerCell(At31(0)));
+}
+
+TEST(MarkerCell, FollowsTheCursor)
+{
+    PlayModState state = At31(kWholeSong);
+    state.PlayCursor = 44100; // 5.33 cells
+    EXPECT_EQ(MarkerCell(state), 36);
+}
+
+TEST(MarkerCell, IsFarAwayAtAnAbsurdTempo)
+{
+    PlayModState state = At31(kWholeSong);
+    state.PlayTempo = 2'000'000'000;
+    state.PlayCursor = 30 * 44100;
+    EXPECT_EQ(MarkerCell(state), 1'000'000);
+}
+
+TEST(MarkerCell, IsUnknownWhereTheCellCannotBeTold)
+{
+    PlayModState rateless = At31(kWholeSong);
+    rateless.PlayBufRate = 0;
+    EXPECT_FALSE(MarkerCell(rateless));
+    PlayModState endless = At31(1);
+    endless.PlayTempo = 2'000'000'000;
+    endless.PlayCursor = 2'000'000'000;
+    EXPECT_FALSE(MarkerCell(endless));
+}
+
 TEST(StepInPlay, CountsStepsFrom1AndIsHeldToTheCycle)
 {
     PlayModState play;

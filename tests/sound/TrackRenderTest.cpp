@@ -7,6 +7,7 @@
 #include <new>
 #include <vector>
 
+#include "core/SongChanges.h"
 #include "sound/SongTest.h"
 #include "support/Flags.h"
 

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "main_window/rules/TrackGeometry.h"
-#include "sound/PlayShared.h"
 
 namespace sprout {
 
@@ -20,9 +19,6 @@ struct PlayIndicator {
     std::optional<OnRow> track;           ///< position of element 1, for one track
 };
 
-/// The cell of the song's or a track's marker. Nothing for a sound that belongs to no track or whose cell is unknown.
-[[nodiscard]] std::optional<std::int32_t> MarkerCell(const PlayModState& play);
-
 /// The edges of the surface that make the view follow a marker: both when a play starts, later the right one.
 enum class FollowedEdges { Right, Both };
 
@@ -31,7 +27,8 @@ enum class FollowedEdges { Right, Both };
 [[nodiscard]] std::int32_t FollowingFirstCell(const TrackView& view, std::int32_t markerCell, FollowedEdges edges,
                                               std::int32_t lastFirstCell);
 
-/// The positions of the markers. A sound that belongs to no track or whose cell is unknown has none.
-[[nodiscard]] PlayIndicator MovePlayIndicator(const PlayModState& play, const TrackView& view);
+/// The positions of the markers at a cell. playingTrack: `kWholeSong` for the song. An unknown cell has none.
+[[nodiscard]] PlayIndicator MovePlayIndicator(std::int32_t playingTrack, std::optional<std::int32_t> cell,
+                                              const TrackView& view);
 
 } // namespace sprout

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "recording/rules/Meter.h"
-#include "service/SoundCapture.h"
+#include "service/CaptureRecords.h"
 
 namespace sprout {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "service/SoundCapture.h"
+#include "service/CaptureRecords.h"
 
 namespace sprout {
 

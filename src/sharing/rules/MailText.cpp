@@ -2,7 +2,6 @@
 #include "sharing/rules/MailText.h"
 
 #include "base/Product.h"
-#include "core/Shared.h"
 
 namespace sprout {
 

@@ -4,9 +4,6 @@
 #include <algorithm>
 #include <array>
 
-#include "base/Text.h"
-#include "songs/OpenSaveClass.h"
-
 namespace sprout {
 
 namespace {
@@ -49,16 +46,6 @@ constexpr std::array kLayouts{
 const SongSelLayout& LayoutOf(SongSelMode mode)
 {
     return kLayouts[static_cast<std::size_t>(mode) - 1];
-}
-
-NameDecision DecideName(SongSelMode mode, std::string_view name, std::span<const SongFile> songs)
-{
-    if (Trim(name).empty())
-        return NameDecision::AskForName;
-    // When a song is saved, the folder itself is checked: the list may be out of date.
-    const bool takesNothing =
-        mode == SongSelMode::Save ? MayReplaceUnasked(PlaceOfSong(name)) : FindSong(songs, name) == nullptr;
-    return takesNothing ? NameDecision::Accept : NameDecision::AskToOverwrite;
 }
 
 int RowAfterChange(int row, int count)

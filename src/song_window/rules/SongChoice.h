@@ -2,12 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
-#include <string>
 #include <string_view>
-#include <vector>
-
-#include "songs/SongFiles.h"
 
 namespace sprout {
 
@@ -29,13 +24,6 @@ struct SongSelLayout {
 };
 
 [[nodiscard]] const SongSelLayout& LayoutOf(SongSelMode mode);
-
-/// What OK must do with a typed name.
-enum class NameDecision { AskForName, Accept, AskToOverwrite };
-
-/// name: as typed. songs: the listed ones. A song is saved over its own unchanged file without asking, even if another
-/// song has that name or its title.
-[[nodiscard]] NameDecision DecideName(SongSelMode mode, std::string_view name, std::span<const SongFile> songs);
 
 /// The row to select after the list was rebuilt, -1 for none. row: the previously selected one; count: songs now.
 [[nodiscard]] int RowAfterChange(int row, int count);
