@@ -2,8 +2,11 @@
 #include "song_window/SongList.h"
 
 #include <QKeyEvent>
+#include <QSignalBlocker>
 
+#include "core/Shared.h"
 #include "ui/Look.h"
+#include "ui/QtText.h"
 
 namespace sprout {
 
@@ -24,6 +27,37 @@ SongList::SongList(QWidget* parent) : QListWidget(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
+}
+
+void SongList::LoadSongNames()
+{
+    songs = ListSongs(Shared().UserSongs);
+    const QSignalBlocker quiet(this);
+    clear();
+    for (const SongFile& song : songs) {
+        auto* line = new QListWidgetItem(QtText(song.Name), this);
+        line->setToolTip(QStringLiteral("<p>%1</p>").arg(line->text().toHtmlEscaped())); // names are not rich text
+    }
+    if (songs.empty())
+        (new QListWidgetItem(QtText(nothingFound), this))->setFlags(Qt::NoItemFlags);
+}
+
+int SongList::SelectedRow() const
+{
+    const QList<QListWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? -1 : row(selected.front());
+}
+
+const SongFile* SongList::SelectedSong() const
+{
+    const int selected = SelectedRow();
+    return selected < 0 || songs.empty() ? nullptr : &songs[static_cast<std::size_t>(selected)];
+}
+
+void SongList::SelectRow(int row)
+{
+    const QSignalBlocker quiet(this);
+    setCurrentRow(row);
 }
 
 void SongList::updateGeometries()

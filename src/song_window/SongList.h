@@ -3,14 +3,36 @@
 
 #include <QListWidget>
 
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "songs/SongFiles.h"
+
 namespace sprout {
 
-/// A list of songs with single selection. Its arrow keys stay inside it.
+/// The songs of `UserSongs` as a list with single selection. Its arrow keys stay inside it.
 class SongList : public QListWidget {
     Q_OBJECT
 
 public:
     explicit SongList(QWidget* parent);
+
+    /// Sets the line that a list without songs shows from the next load on; it cannot be selected.
+    void SetNothingFound(std::string_view line) { nothingFound = line; }
+
+    /// Lists what the folder contains now, with nothing selected. Emits no signals.
+    void LoadSongNames();
+
+    /// In list order.
+    [[nodiscard]] std::span<const SongFile> Songs() const { return songs; }
+    /// Null if none is selected. Valid until the next load.
+    [[nodiscard]] const SongFile* SelectedSong() const;
+    /// -1 if none is selected.
+    [[nodiscard]] int SelectedRow() const;
+    /// Selects a row without a signal: a selection by the program does not change the typed name. -1 selects none.
+    void SelectRow(int row);
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -19,6 +41,9 @@ protected:
 
 private:
     [[nodiscard]] bool SelectFirst(int key);
+
+    std::vector<SongFile> songs;
+    std::string nothingFound;
 };
 
 } // namespace sprout

@@ -2,20 +2,22 @@
 #pragma once
 
 #include <QLineEdit>
-#include <QListWidget>
 
+#include <array>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "song_window/rules/SongChoice.h"
-#include "songs/SongFiles.h"
+#include "song_window/rules/SongWindowPlan.h"
 #include "ui/BandedForm.h"
 #include "ui/Windows.h"
 
 namespace sprout {
 
-/// The song window: lists the songs of `UserSongs`; opens, saves or names one. It loads and saves nothing itself.
+class SongList;
+
+/// The song window: shows the songs of `UserSongs` (`SongList`) and lets the user choose or type the name of one to
+/// open, save or create. It loads and saves no song itself.
 class SongSelFrm : public BandedForm {
     Q_OBJECT
 
@@ -42,42 +44,29 @@ private:
     void MakeList();
     void MakeNameBox();
     void MakeButtons();
+    [[nodiscard]] SongWindowNeeds Needs() const;
     void PlaceControls();
-    void PlaceNameBox(int top);
-    void PlaceRow(int top);
-    void PlaceColumn(int top, int bottom);
 
-    void LoadSongNames();
-    [[nodiscard]] int SelectedRow() const;
-    void SelectRow(int row);
     void TakeSelectedName();
-    [[nodiscard]] bool IsSongSelected(std::string_view message);
-
     void ClickOk();
     void OpenSelected();
     void AcceptTypedName();
     [[nodiscard]] bool MayOverwrite(std::string_view name);
     void Accept(std::string_view name);
-    void CopySelected();
-    void DeleteSelected();
-    void RenameSelected();
     void SaveAsSound(SoundFileKind kind);
     void ClickHelp();
-    /// Runs a command on files; an error is shown after `text`.
-    void Try(std::string_view text, void (SongSelFrm::*command)());
 
     SongSelMode mode = SongSelMode::Open;
-    std::vector<SongFile> songs; ///< in list order
     QLabel* ModePic = nullptr;
     QLabel* ListTitleLbl = nullptr;
     QLabel* TextTitleLbl = nullptr;
     QLabel* SongNmLbl = nullptr;
-    QListWidget* SngNmLst = nullptr;
+    SongList* SngNmLst = nullptr;
     QLineEdit* SongNameTxt = nullptr;
     ImageButton* OkBtn = nullptr;
     ImageButton* CancelBtn = nullptr;
-    std::vector<ImageButton*> columnButtons;
-    std::vector<ImageButton*> soundFileButtons;
+    std::array<ImageButton*, 4> columnButtons{}; ///< in the order of `SongWindowPlan`
+    std::array<ImageButton*, 2> soundFileButtons{};
 };
 
 } // namespace sprout

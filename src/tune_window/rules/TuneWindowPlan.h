@@ -4,22 +4,12 @@
 #include <array>
 #include <cstdint>
 
+#include "ui/rules/PlanBox.h"
+
 namespace sprout {
 
 /// Tunes in each row of the grid.
 inline constexpr std::int32_t kTuneColumns = 18;
-
-/// A rectangle in a window, in logical pixels.
-struct PlanBox {
-    int x = 0;
-    int y = 0;
-    int width = 0;
-    int height = 0;
-
-    [[nodiscard]] int Right() const { return x + width; }
-    [[nodiscard]] int Bottom() const { return y + height; }
-    friend bool operator==(const PlanBox&, const PlanBox&) = default;
-};
 
 /// What the tune window needs space for, in logical pixels.
 struct TuneWindowNeeds {
