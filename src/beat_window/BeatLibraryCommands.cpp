@@ -1,20 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The buttons of the beat window that change the folder of beats.
+#include "beat_window/BeatLibraryCommands.h"
+
+#include <exception>
 #include <filesystem>
 #include <optional>
+#include <string>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
 #include "base/Product.h"
 #include "base/ScaledPicture.h"
-#include "beat_window/BeatWindow.h"
 #include "beats/BeatCommands.h"
 #include "beats/BeatFiles.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
+#include "service/Messages.h"
+#include "service/Services.h"
 #include "sound/ChosenSound.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Hints.h"
 #include "ui/QtText.h"
 #include "waves/WavOperations.h"
 
@@ -113,7 +120,27 @@ std::optional<Picture> ChooseBeatPicture()
 
 } // namespace
 
-void BeatWindow::AddBeat()
+BeatLibraryCommands::BeatLibraryCommands(BeatTable& ofWindow, std::function<void()> onChange)
+    : table(ofWindow), reload(std::move(onChange))
+{
+}
+
+void BeatLibraryCommands::AddBeat()
+{
+    Try("Error adding beat", &BeatLibraryCommands::TryToAdd);
+}
+
+void BeatLibraryCommands::RenameBeat()
+{
+    Try("Error renaming beat", &BeatLibraryCommands::TryToRename);
+}
+
+void BeatLibraryCommands::DeleteBeat()
+{
+    Try("Error deleting beat", &BeatLibraryCommands::TryToDelete);
+}
+
+void BeatLibraryCommands::TryToAdd()
 {
     HintBeatCommand("Choose a wav file and small (32x32) bmp picture file");
     if (!AddHelpShown)
@@ -137,10 +164,10 @@ void BeatWindow::AddBeat()
                     "New beat is added as " + BeatNameForPeople(name.Name));
     }
     SaveBeatOrder(table);
-    LoadBeatFiles();
+    reload();
 }
 
-void BeatWindow::RenameBeat()
+void BeatLibraryCommands::TryToRename()
 {
     if (!HasSelection(table))
         return TellOfBeat(kNoBeatHint, "Select a beat to rename.");
@@ -158,10 +185,10 @@ void BeatWindow::RenameBeat()
     SaveBeatOrder(table);
     table.SelectedBeat = kRefindBeat;
     table.RefindBeatName = newName;
-    LoadBeatFiles();
+    reload();
 }
 
-void BeatWindow::DeleteBeat()
+void BeatLibraryCommands::TryToDelete()
 {
     if (!HasSelection(table))
         return TellOfBeat(kNoBeatHint, "Select a beat to delete.");
@@ -179,7 +206,18 @@ void BeatWindow::DeleteBeat()
         --table.SelectedBeat;
     DeleteBeatFiles(name);
     SaveBeatOrder(table);
-    LoadBeatFiles();
+    reload();
+}
+
+void BeatLibraryCommands::Try(std::string_view text, void (BeatLibraryCommands::*command)())
+{
+    try {
+        (this->*command)();
+    } catch (const std::exception& error) {
+        TheServices().messages->MessageBox("", std::string(text) + "\r\n" + ErrorText(error));
+        // Part of it may have been done: the list shows what the folder contains now.
+        Guarded(reload);
+    }
 }
 
 } // namespace sprout

@@ -31,7 +31,7 @@ protected:
     BeatWindowTest()
     {
         SetStatusLbl(&statusLbl);
-        BeatWindow::AddHelpShown = false;
+        BeatLibraryCommands::AddHelpShown = false;
     }
     ~BeatWindowTest() override { SetStatusLbl(nullptr); }
 

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "beat_window/BeatGrid.h"
+
+#include <string>
+#include <vector>
+
+#include "base/FilePaths.h"
+#include "beat_window/rules/BeatWindowPlan.h"
+#include "core/Shared.h"
+#include "ui/QtText.h"
+
+namespace sprout {
+
+BeatGrid::BeatGrid(QWidget* parent) : PictureGridPic(kBeatColumns, parent)
+{
+    setObjectName(QStringLiteral("ShowAllPic"));
+    setAccessibleName(tr("Beats"));
+}
+
+void BeatGrid::ShowBeats(const BeatTable& table)
+{
+    std::vector<GridEntry> beats;
+    beats.reserve(table.BeatList.size());
+    for (std::int32_t i = 1; i <= table.BeatListCount; ++i) {
+        const Beat& beat = At(table.BeatList, i);
+        const auto name = table.NamesForPeople.find(beat.Name);
+        beats.push_back({beat.Picture, name == table.NamesForPeople.end() ? std::string() : name->second,
+                         table.BeatProtected[static_cast<std::size_t>(i)]});
+    }
+    SetEntries(beats);
+}
+
+void BeatGrid::ShowSelection(const BeatTable& table)
+{
+    if (table.BeatListCount == 0)
+        SetLines({tr(" No beat file found to show here."),
+                  tr(" Beats folder: %1").arg(QtText(PathText(Shared().UserBeats))),
+                  tr(" This needs beat '.wav' file and 32x32 picture '.bmp' file as pair."),
+                  tr(" Please reinstall the software.")});
+    SetSelected(table.SelectedBeat);
+    RefreshShowAllPic();
+}
+
+} // namespace sprout
