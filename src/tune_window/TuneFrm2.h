@@ -1,28 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QMenu>
-
-#include <array>
-#include <cstdint>
-#include <filesystem>
-#include <optional>
 #include <string>
 
-#include "core/Song.h"
-#include "tunes/TuneNames.h"
-#include "tunes/TuneTable.h"
 #include "ui/BandedForm.h"
-#include "ui/rules/PictureGrid.h"
 
 namespace sprout {
 
-class PictureGridPic;
 class StepEditor;
-class TunePicture;
+class TuneChooser;
 
-/// The window for choosing a track's tune from the grid of all tunes and for editing it. The edited tune is
-/// `CurrentTune`.
+/// The window for choosing a track's tune from all tunes (`TuneChooser`) and for editing it (`StepEditor`). The edited
+/// tune is `CurrentTune`.
 class TuneFrm2 : public BandedForm {
     Q_OBJECT
 
@@ -51,9 +40,6 @@ public:
     /// Shows `CurrentTune` in the labels and in the editor.
     void UpdateThisTune();
 
-    /// Copies the tunes of `TuneTable` into the grid.
-    void TakeTuneTable();
-
     /// Acts as `CancelBtn`.
     void reject() override;
 
@@ -62,33 +48,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    using Command = void (TuneFrm2::*)();
-    static constexpr std::int32_t kNothingChosen = -1;
-    static constexpr int kDeleteItem = 4; ///< in `MoveMnu`, after the moves
-    struct CommandRow;
-
-    void MakeGrid();
-    void MakeChosenTune();
+    void MakeChooser();
     void MakeButtons();
     void MakeEditor();
-    void MakeMoveMnu();
     void SetTabOrders();
-
-    void ChooseFirstTune();
-    void ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at);
-    void PlaySelectedTune();
-    void ShowNoTunes();
-    void ShowSelectedTune();
-    void ShowEditorsTune();
-    void ShowNames(const std::string& name, const std::string& author);
-    void ShowTune(const std::string& name, const std::string& author, const Picture& picture);
-    [[nodiscard]] bool HasSelectedTune() const { return IsInTuneTable(SelectedTune); }
-    [[nodiscard]] bool ShowsEditorsTune() const { return showsEditorsTune || SelectedTune == kNothingChosen; }
-
-    void OpenMoveMnu(QPoint at);
-    void MoveTune(GridMove move);
-    void DeleteTune();
-    void ReadTunesAgain();
 
     void OkBtn();
     void CancelBtn();
@@ -99,25 +62,10 @@ private:
     void RndTuneBtn();
     void SaveTuneBtn();
     void ChangePicBtn();
-    void TunePicClick();
+    void DeleteTuneBtn();
 
-    [[nodiscard]] std::optional<TuneNames> AskNames();
-    [[nodiscard]] bool MaySaveUnder(const TuneNames& names) const;
-    void SaveUnder(const TuneNames& names);
-    void TakePicture(const std::filesystem::path& file);
-
-    Tune ChosenTune;               ///< copy of the chosen entry of `TuneTable`, complete once played
-    std::int32_t SelectedTune = 0; ///< index in `TuneTable`; below 1 nothing is chosen
-    /// From opening until a picture of the grid is chosen: the editor's tune is shown and played.
-    bool showsEditorsTune = false;
-
-    PictureGridPic* ShowAllPic = nullptr;
-    TunePicture* TunePic = nullptr;
-    QLabel* TuneNameLbl = nullptr;
-    QLabel* CreatedByLbl = nullptr;
+    TuneChooser* chooser = nullptr;
     StepEditor* editor = nullptr;
-    QMenu* PopPosiMnu = nullptr;
-    std::array<QAction*, 5> MoveMnu{};
 };
 
 } // namespace sprout

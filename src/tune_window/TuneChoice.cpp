@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/TuneChoice.h"
+
+#include "core/Shared.h"
+#include "sound/PlayMod.h"
+#include "tunes/ChosenTune.h"
+#include "tunes/TuneTable.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr std::int32_t kNothingChosen = -1;
+constexpr float kChosenLeadInSeconds = 0.75F;
+
+} // namespace
+
+bool TuneChoice::HasTune() const
+{
+    return IsInTuneTable(selected);
+}
+
+void TuneChoice::Find(std::string_view name)
+{
+    selected = FindInTuneTable(name);
+    if (selected == 0 && !name.empty())
+        ChooseNothing();
+}
+
+void TuneChoice::ChooseFirstIfOpen()
+{
+    if (selected != 0)
+        return;
+    Choose(1);
+    Shared().TuneInfoDefault.CreatedBy = chosen.CreatedBy;
+    Shared().TuneInfoDefault.Name = "Lumo";
+    Play();
+}
+
+void TuneChoice::Choose(std::int32_t index)
+{
+    selected = index;
+    startedWithEditor = false;
+    chosen = At(Shared().TuneTable, index);
+}
+
+void TuneChoice::TakeEditorsTune(std::int32_t index)
+{
+    selected = index;
+    chosen = Shared().CurrentTune;
+}
+
+void TuneChoice::ChooseNothing()
+{
+    selected = kNothingChosen;
+}
+
+void TuneChoice::Play()
+{
+    if (!HasTune())
+        return;
+    LoadChosenTune(chosen);
+    if (chosen.TuneWaveValid)
+        PlayWaveDelayed(chosen.TuneWave, kChosenLeadInSeconds, "Playing Tune", Loop::No);
+}
+
+} // namespace sprout

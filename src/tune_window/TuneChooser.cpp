@@ -1,0 +1,198 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/TuneChooser.h"
+
+#include <QLabel>
+
+#include <utility>
+
+#include "core/Shared.h"
+#include "tune_window/OpenTuneWindow.h"
+#include "tune_window/TuneFileCommands.h"
+#include "tune_window/TuneGrid.h"
+#include "tune_window/TunePicture.h"
+#include "tunes/TuneNames.h"
+#include "tunes/TuneTable.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/Look.h"
+#include "ui/PutAt.h"
+#include "ui/rules/PictureGrid.h"
+
+namespace sprout {
+
+namespace {
+
+QLabel* MakeTuneLabel(const char* name, const QFont& font, QWidget* window)
+{
+    auto* label = new QLabel(window);
+    label->setObjectName(QString::fromLatin1(name));
+    label->setFont(font);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+} // namespace
+
+TuneChooser::TuneChooser(QWidget* window) : QObject(window)
+{
+    MakeGrid(window);
+    MakeChosenTune(window);
+    MakeMoveMnu(window);
+}
+
+void TuneChooser::MakeGrid(QWidget* window)
+{
+    grid = new TuneGrid(window);
+    hints.Watch(*grid, "Click on a picture to choose a tune");
+    hints.Watch(grid->BlinkSelectImg(), "This is the chosen Tune. Click on it to play");
+    connect(grid, &PictureGridPic::Pressed, this, [this](int index, Qt::MouseButton button, QPoint at) {
+        Guarded([=, this] { ChooseTune(index, button, at); });
+    });
+    connect(grid, &PictureGridPic::DoubleClicked, this, &TuneChooser::TuneAccepted);
+    connect(grid, &PictureGridPic::DeleteWanted, this, [this] { Guarded([this] { DeleteTune(); }); });
+}
+
+void TuneChooser::MakeChosenTune(QWidget* window)
+{
+    shown.TunePic = new TunePicture(window);
+    shown.TunePic->setObjectName(QStringLiteral("TunePic"));
+    hints.Watch(*shown.TunePic, "That shows the selected tune");
+    connect(shown.TunePic, &QAbstractButton::clicked, this, [this] { Guarded([this] { ClickTunePic(); }); });
+    shown.TuneNameLbl = MakeTuneLabel("TuneNameLbl", TitleFont(), window);
+    hints.Watch(*shown.TuneNameLbl, "That shows the name of the selected tune");
+    shown.CreatedByLbl = MakeTuneLabel("CreatedByLbl", LabelFont(), window);
+    hints.Watch(*shown.CreatedByLbl, "That shows who created the selected tune");
+}
+
+void TuneChooser::MakeMoveMnu(QWidget* window)
+{
+    PopPosiMnu = new GridMoveMenu(window);
+    connect(PopPosiMnu, &GridMoveMenu::MoveWanted, this,
+            [this](GridMove move) { Guarded([this, move] { MoveTune(move); }); });
+    int number = 0;
+    for (QAction* const item : PopPosiMnu->actions())
+        item->setObjectName(QStringLiteral("MoveMnu%1").arg(number++));
+    PopPosiMnu->addSeparator();
+    QAction* const deletion = PopPosiMnu->addAction(QStringLiteral("Delete"));
+    deletion->setObjectName(QStringLiteral("MoveMnu%1").arg(number));
+    connect(deletion, &QAction::triggered, this, [this] { Guarded([this] { DeleteTune(); }); });
+    connect(PopPosiMnu, &QMenu::hovered, this, [deletion](const QAction* item) {
+        ShowHint(item == deletion ? QString::fromLatin1(kDeleteTuneHint) : QString());
+    });
+}
+
+void TuneChooser::PlaceAt(const TuneWindowPlan& plan)
+{
+    grid->PlaceAt({plan.grid.x, plan.grid.y}, plan.gridRows);
+    PutAt(*shown.TunePic, plan.tunePic);
+    PutAt(*shown.TuneNameLbl, plan.tuneNameLbl);
+    PutAt(*shown.CreatedByLbl, plan.createdByLbl);
+}
+
+void TuneChooser::BeginWithEditorsTune()
+{
+    grid->TakeTuneTable();
+    grid->SetTopRow(1);
+    choice.StartWithEditor();
+}
+
+void TuneChooser::BringIntoView()
+{
+    grid->BringIntoView(choice.SelectedTune());
+}
+
+void TuneChooser::RefreshShowAllPic()
+{
+    if (Shared().TuneTableCount < 1) {
+        grid->ShowNoTunes();
+        return shown.ShowTune("[none]", "", {});
+    }
+    choice.ChooseFirstIfOpen();
+    grid->ShowSelection(choice.SelectedTune());
+    if (choice.ShowsEditorsTune())
+        return ShowEditorsTune();
+    const Tune& tune = At(Shared().TuneTable, choice.SelectedTune());
+    shown.ShowTune(tune.Name, "By: " + tune.CreatedBy, tune.Picture);
+}
+
+void TuneChooser::ShowEditorsTune()
+{
+    const Tune& tune = Shared().CurrentTune;
+    shown.ShowTune(tune.Name, tune.CreatedBy, tune.Picture);
+}
+
+void TuneChooser::ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at)
+{
+    if (index == choice.SelectedTune() && choice.StartedWithEditor() && button == Qt::LeftButton)
+        return Q_EMIT EditorsTunePlayWanted();
+    if (IsInTuneTable(index))
+        choice.Choose(index);
+    RefreshShowAllPic();
+    if (!IsInTuneTable(index))
+        return;
+    if (button == Qt::LeftButton)
+        choice.Play();
+    else if (button == Qt::RightButton)
+        PopPosiMnu->OpenFor(choice.SelectedTune(), Shared().TuneTableCount, kTuneColumns, at);
+}
+
+void TuneChooser::ClickTunePic()
+{
+    if (choice.StartedWithEditor())
+        return Q_EMIT EditorsTunePlayWanted();
+    if (choice.HasTune())
+        return choice.Play();
+    ShowHint(QStringLiteral("Click on a picture to select a tune"));
+    ShowMessage("Select a Tune first.");
+    ShowHint({});
+}
+
+void TuneChooser::MoveTune(GridMove move)
+{
+    const std::int32_t selected = choice.SelectedTune();
+    const std::int32_t target = GridMoveTarget(move, selected, Shared().TuneTableCount, kTuneColumns);
+    if (target == 0)
+        return;
+    std::swap(At(Shared().TuneTable, selected), At(Shared().TuneTable, target));
+    choice.Follow(target);
+    grid->TakeTuneTable();
+    RefreshShowAllPic();
+}
+
+void TuneChooser::DeleteTune()
+{
+    const Tune* const tune = choice.HasTune() ? &At(Shared().TuneTable, choice.SelectedTune()) : nullptr;
+    if (MayDeleteTune(tune)) {
+        DeleteTuneFiles(tune->Name);
+        SaveTuneOrder();
+        ReadTunesAgain();
+        choice.ChooseNothing(); // the editor keeps its tune
+        RefreshShowAllPic();
+    }
+    ShowHint({});
+}
+
+void TuneChooser::ReadTunesAgain()
+{
+    Shared().TuneTableCount = 0;
+    LoadTuneFiles();
+    grid->TakeTuneTable();
+}
+
+void TuneChooser::ShowSavedTune()
+{
+    shown.ShowNames(Shared().CurrentTune.Name, Shared().CurrentTune.CreatedBy);
+    ReadTunesAgain();
+    // The last one, wherever the saved tune is.
+    choice.TakeEditorsTune(Shared().TuneTableCount);
+    RefreshShowAllPic();
+    SaveTuneOrder();
+}
+
+void TuneChooser::Leave()
+{
+    choice.Forget();
+    grid->BlinkSelectedTimer().stop();
+}
+
+} // namespace sprout
