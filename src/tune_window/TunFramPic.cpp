@@ -227,17 +227,4 @@ void TunFramPic::resizeEvent(QResizeEvent* /*event*/)
     Q_EMIT Resized();
 }
 
-ArtImage::ArtImage(const char* name, QSize size, QWidget* parent) : QWidget(parent)
-{
-    setObjectName(QString::fromLatin1(name));
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-    resize(size);
-}
-
-void ArtImage::paintEvent(QPaintEvent* /*event*/)
-{
-    QPainter painter(this);
-    painter.drawPixmap(0, 0, Artwork(QStringLiteral("pictures/") + objectName(), size(), devicePixelRatioF()));
-}
-
 } // namespace sprout

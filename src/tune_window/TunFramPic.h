@@ -71,15 +71,4 @@ private:
     std::int32_t pressedStep = 0; ///< the step whose icon is pressed
 };
 
-/// An artwork in a window that ignores the mouse.
-class ArtImage : public QWidget {
-    Q_OBJECT
-
-public:
-    ArtImage(const char* name, QSize size, QWidget* parent);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
-};
-
 } // namespace sprout

@@ -6,7 +6,7 @@
 #include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "tune_window/rules/TuneWindowPlan.h"
-#include "tunes/TuneNames.h"
+#include "tunes/TunOpnSavClass.h"
 #include "ui/QtText.h"
 
 namespace sprout {

@@ -8,6 +8,8 @@
 #include <vector>
 
 #include "tune_window/TuneWindowTest.h"
+#include "tunes/TuneNames.h"
+#include "tunes/TuneTable.h"
 
 namespace sprout {
 

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "tune_window/StepNosBox.h"
+
+#include <QWheelEvent>
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "core/Shared.h"
+#include "tune_window/rules/StepEdits.h"
+#include "ui/Dialogs.h"
+#include "ui/Guarded.h"
+#include "ui/PopupKeys.h"
+
+namespace sprout {
+
+namespace {
+
+/// The step counts to pick from; -1 asks for another number.
+struct StepNosRow {
+    const char* caption;
+    std::int32_t steps;
+};
+
+constexpr std::int32_t kOtherSteps = -1;
+constexpr std::array kStepNos{
+    StepNosRow{"8 Steps", 8},   StepNosRow{"16 Steps", 16},           StepNosRow{"32 Steps", 32},
+    StepNosRow{"64 Steps", 64}, StepNosRow{"Other...!", kOtherSteps},
+};
+
+} // namespace
+
+StepNosBox::StepNosBox(QWidget* parent) : QComboBox(parent)
+{
+    KeepClosingKeys(*this); // closing its list must not close the window
+    setObjectName(QStringLiteral("StepNosCmb"));
+    setAccessibleName(tr("Number of steps"));
+    for (const StepNosRow& row : kStepNos)
+        addItem(tr(row.caption), row.steps);
+    hints.Watch(*this, "Number of steps, use it to make the tune longer or shorter");
+    connect(this, &QComboBox::activated, this, [this](int index) { Guarded([&] { ClickStepNos(index); }); });
+}
+
+void StepNosBox::SyncStepCombo()
+{
+    if (count() > static_cast<int>(kStepNos.size()))
+        removeItem(0);
+    const std::int32_t steps = Shared().CurrentTune.StepCount;
+    if (findData(steps) < 0)
+        insertItem(0, tr("%1 Steps").arg(steps), steps);
+    setCurrentIndex(findData(steps));
+}
+
+void StepNosBox::ClickStepNos(int index)
+{
+    std::int32_t steps = itemData(index).toInt();
+    if (steps == kOtherSteps)
+        steps = AskStepCount();
+    if (steps == 0)
+        return SyncStepCombo();
+    Q_EMIT StepCountWanted(steps);
+}
+
+std::int32_t StepNosBox::AskStepCount()
+{
+    const std::string now = std::to_string(Shared().CurrentTune.StepCount);
+    for (;;) {
+        const std::string answer = AskText(now, "Enter the Number of Steps:", "(Enter between 2 to 64)");
+        if (answer.empty())
+            return 0;
+        if (const std::optional<std::int32_t> typed = TypedStepCount(answer))
+            return *typed;
+        ShowMessage(answer + " is not valid,", "Enter a number between 2 to 64.");
+    }
+}
+
+/// Turning the wheel over the box must not change the tune.
+void StepNosBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+} // namespace sprout
