@@ -28,9 +28,9 @@ void TuneGrid::TakeTuneTable()
     SetEntries(tunes);
 }
 
-void TuneGrid::ShowSelection(std::int32_t selected)
+void TuneGrid::ShowSelection(std::int32_t tune)
 {
-    SetSelected(selected);
+    SetSelected(tune);
     RefreshShowAllPic();
 }
 

@@ -17,8 +17,8 @@ public:
     /// Copies the pictures and names of the table.
     void TakeTuneTable();
 
-    /// Puts the selection frame around a tune. selected: in the table; others mean none.
-    void ShowSelection(std::int32_t selected);
+    /// Puts the selection frame around a tune. tune: its number in the table; others mean none.
+    void ShowSelection(std::int32_t tune);
 
     /// Explains that there are no tunes.
     void ShowNoTunes();

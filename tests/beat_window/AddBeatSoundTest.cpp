@@ -3,6 +3,7 @@
 
 #include <sys/stat.h>
 
+#include "beats/BeatFiles.h"
 #include "core/Settings.h"
 #include "sound/ChosenSound.h"
 

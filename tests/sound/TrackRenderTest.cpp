@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/SongChanges.h"
+#include "core/SongTime.h"
 #include "sound/SongTest.h"
 #include "support/Flags.h"
 

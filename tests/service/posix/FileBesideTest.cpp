@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "base/Errors.h"
+#include "service/Files.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
