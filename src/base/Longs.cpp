@@ -249,4 +249,17 @@ Picture LongsReader::GetPicture()
     return PictureFromColumns(columns);
 }
 
+std::vector<std::int32_t> TextToLongs(std::string_view text)
+{
+    LongsWriter writer;
+    writer.PutText(text);
+    return writer.Elements();
+}
+
+std::string LongsToText(std::span<const std::int32_t> longs)
+{
+    MemorySource source(std::as_bytes(longs));
+    return LongsReader::Raw(source, 0, source.Size()).GetText();
+}
+
 } // namespace sprout

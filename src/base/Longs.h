@@ -25,12 +25,8 @@ public:
 
     void Put(std::int32_t value);
     void PutMany(std::span<const std::int32_t> values);
-    /// Packed, as its stored bytes: an empty text is 1, 0; any other is K, its byte count L, its bytes, where
-    /// K = round(L / 4 + 2) is the index of the block's last element.
-    void PutText(std::string_view text);
-    /// Index of the block's last element, `Bits`, `Channels`, `Rate`, `Length`, then each channel's samples, two per
-    /// element.
-    void PutWave(const WaveData& wave);
+    void PutText(std::string_view text);     ///< packed, as its stored bytes
+    void PutWave(const WaveData& wave);      ///< wave block
     void PutPicture(const Picture& picture); ///< 1024 colours in columns
 
     /// Number of elements so far. Throws `RunTimeError` if it exceeds 32 bits.
@@ -90,5 +86,12 @@ private:
 
     ByteCursor cursor;
 };
+
+/// Packed text: an empty text is 1, 0; any other is K, its byte count L, its bytes, where K = round(L / 4 + 2) is the
+/// index of the block's last element.
+[[nodiscard]] std::vector<std::int32_t> TextToLongs(std::string_view text);
+
+/// The text of such a block.
+[[nodiscard]] std::string LongsToText(std::span<const std::int32_t> longs);
 
 } // namespace sprout

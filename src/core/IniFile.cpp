@@ -215,4 +215,11 @@ void PutIniValues(std::string_view section, std::span<const IniValue> values, co
     }
 }
 
+void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
+                 const std::filesystem::path& file)
+{
+    const IniValue one{key, std::string(value)};
+    PutIniValues(section, {&one, 1}, file);
+}
+
 } // namespace sprout

@@ -76,4 +76,8 @@ struct IniValue {
 /// failures, for example in a read-only folder.
 void PutIniValues(std::string_view section, std::span<const IniValue> values, const std::filesystem::path& file);
 
+/// Writes one value, likewise.
+void PutIniValue(std::string_view section, std::string_view key, std::string_view value,
+                 const std::filesystem::path& file);
+
 } // namespace sprout

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <exception>
 #include <new>
 #include <span>
@@ -75,6 +76,16 @@ void PlayDllClass::DxObj(std::int32_t& windowHandle)
     PlayDx9Cls->PutONDx9Ds(windowHandle);
     Driver = 1;
     windowHandle = 1;
+}
+
+std::vector<std::int32_t> PlayDllClass::GetLastPlayedStream() const
+{
+    if (NothingWritten())
+        return {0};
+    const std::vector<std::byte>& buffer = PlayShared().PlayBuffer;
+    std::vector<std::int32_t> words(buffer.size() / sizeof(std::int32_t) + 1);
+    std::memcpy(words.data(), buffer.data(), buffer.size());
+    return words;
 }
 
 void PlayDllClass::StopPlay()

@@ -39,6 +39,9 @@ public:
     /// Releases the sound output. If the window handle is above 0, prepares the output again and sets the argument to
     /// 1.
     void DxObj(std::int32_t& windowHandle);
+    /// The last wave played, as the 32-bit words of a WAV file, the last word padded with zero bytes; a single 0 if
+    /// nothing was played.
+    [[nodiscard]] std::vector<std::int32_t> GetLastPlayedStream() const;
     void StopPlay();
     void PlayContinue();
     void SetLooping(Loop loop);

@@ -49,6 +49,12 @@ ImageButton& ButtonScheme::Button(std::string_view name) const
     return *buttons.front();
 }
 
+void ButtonScheme::InitButtons()
+{
+    states.InitButtons();
+    RefreshButtons();
+}
+
 void ButtonScheme::ButtonHover(const ImageButton& button)
 {
     if (MouseMovedSinceHint())

@@ -30,6 +30,7 @@ public:
     /// The added button with this name.
     [[nodiscard]] ImageButton& Button(std::string_view name) const;
 
+    void InitButtons();
     void ButtonHover(const ImageButton& button);
     void ButtonsOff();
     void ButtonPress(const ImageButton& button);

@@ -17,6 +17,14 @@ int ButtonStates::AddButton(std::string_view name)
     return Count();
 }
 
+void ButtonStates::InitButtons()
+{
+    for (ButtonState& state : states) {
+        state.Wanted = ButtonFace::Normal;
+        state.Shown = ButtonFace::None;
+    }
+}
+
 void ButtonStates::ButtonHover(int button)
 {
     if (down)

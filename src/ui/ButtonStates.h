@@ -27,6 +27,9 @@ public:
     /// Returns the new button's number.
     int AddButton(std::string_view name);
 
+    /// All buttons want their normal face, and none is shown yet.
+    void InitButtons();
+
     void ButtonHover(int button); ///< does nothing while a mouse button is held
     void ButtonsOff();            ///< lowers every raised button
     void ButtonPress(int button);

@@ -14,6 +14,7 @@
 #include "base/ByteCursor.h"
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Longs.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "core/Paths.h"
@@ -238,6 +239,21 @@ void SaveWaveFile(const WaveData& wave, const fs::path& path)
     } catch (const std::bad_alloc&) {
         Tell("Wav file Write error", kNoMemory);
     }
+}
+
+std::vector<std::int32_t> WaveToLongs(const WaveData& wave)
+{
+    LongsWriter writer;
+    writer.PutWave(wave);
+    return writer.Elements();
+}
+
+WaveData LongsToWave(std::span<const std::int32_t> longs)
+{
+    if (longs.size() <= 1)
+        return EmptyWave();
+    MemorySource source(std::as_bytes(longs));
+    return LongsReader::Raw(source, 0, source.Size()).GetWave();
 }
 
 WaveData CutWaveSlice(const WaveData& source, std::int32_t first, std::int32_t last)

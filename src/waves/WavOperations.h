@@ -39,6 +39,14 @@ enum class ReadSamples { Yes, HeaderOnly };
 /// of an unknown format leaves an existing file untouched; the write stops at an 8-bit sample outside -128..127.
 void SaveWaveFile(const WaveData& wave, const std::filesystem::path& path);
 
+/// The block of numbers for a wave in songs and tunes: index of the last element, `Bits`, `Channels`, `Rate`, `Length`,
+/// then each channel's samples, two per element.
+[[nodiscard]] std::vector<std::int32_t> WaveToLongs(const WaveData& wave);
+
+/// The wave of such a block; `EmptyWave` for a single element. Throws `RunTimeError` if the block is shorter than it
+/// promises.
+[[nodiscard]] WaveData LongsToWave(std::span<const std::int32_t> longs);
+
 /// Frames `first` to `last` of a wave, both inclusive. Length 0 if `last` is below `first` - 1. Throws `RunTimeError`
 /// for frames that the wave does not have.
 [[nodiscard]] WaveData CutWaveSlice(const WaveData& source, std::int32_t first, std::int32_t last);

@@ -34,18 +34,6 @@ private:
     LongsReader data;
 };
 
-Elements TextToLongs(std::string_view text)
-{
-    LongsWriter writer;
-    writer.PutText(text);
-    return writer.Elements();
-}
-
-std::string LongsToText(const Elements& longs)
-{
-    return ReaderOf(longs)->GetText();
-}
-
 TEST(TextToLongs, CountsElementsWithTiesToEven)
 {
     const std::pair<std::size_t, std::int32_t> lastIndexes[] = {{1, 2}, {2, 2}, {3, 3},  {4, 3},  {5, 3},  {6, 4},
@@ -270,65 +258,6 @@ TEST(LongsReader, TakesAnArrayOfElement0Alone)
     LongsReader data(source, 0);
     EXPECT_EQ(data.Left(), 0U);
     EXPECT_THROW(static_cast<void>(data.Get()), RunTimeError);
-}
-
-WaveData Wave(std::int32_t bits, std::vector<std::int16_t> left, std::vector<std::int16_t> right = {})
-{
-    WaveData wave;
-    wave.Bits = bits;
-    wave.Channels = right.empty() ? 1 : 2;
-    wave.Length = static_cast<std::int32_t>(left.size());
-    wave.WavL = Channel::FromSamples(left);
-    if (!right.empty())
-        wave.WavR = Channel::FromSamples(right);
-    return wave;
-}
-
-Elements WaveToLongs(const WaveData& wave)
-{
-    LongsWriter writer;
-    writer.PutWave(wave);
-    return writer.Elements();
-}
-
-WaveData LongsToWave(const Elements& longs)
-{
-    return ReaderOf(longs)->GetWave();
-}
-
-TEST(WaveToLongs, LaysOutHeadAndChannels)
-{
-    EXPECT_EQ(WaveToLongs(Wave(16, {1, 2, 3}, {4, 5, 6})),
-              (Elements{8, 16, 2, 44100, 3, 0x00020001, 3, 0x00050004, 6}));
-    EXPECT_EQ(WaveToLongs(Wave(16, {1, 2})), (Elements{6, 16, 1, 44100, 2, 0x00020001, 0}));
-}
-
-TEST(WaveToLongs, ComesBackTheSameInEveryShape)
-{
-    for (std::size_t length = 0; length < 9; ++length) {
-        const std::vector<std::int16_t> samples(length, -7);
-        for (const WaveData& wave : {Wave(16, samples), Wave(8, samples, samples)})
-            EXPECT_EQ(LongsToWave(WaveToLongs(wave)), wave) << length;
-    }
-}
-
-TEST(WaveToLongs, HasFiveElementsForNoFrames)
-{
-    EXPECT_EQ(WaveToLongs(WaveData()), (Elements{4, 16, 2, 44100, 0}));
-}
-
-TEST(LongsToWave, TakesASingleElementForAnEmptyWave)
-{
-    EXPECT_EQ(LongsToWave({0}), WaveData());
-}
-
-TEST(LongsToWave, ThrowsWhereTheBlockIsTooShort)
-{
-    Elements longs = WaveToLongs(Wave(16, {1, 2, 3}, {4, 5, 6}));
-    while (longs.size() > 2) {
-        longs.pop_back();
-        EXPECT_THROW(static_cast<void>(LongsToWave(longs)), RunTimeError) << longs.size();
-    }
 }
 
 } // namespace

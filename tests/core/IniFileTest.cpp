@@ -95,12 +95,6 @@ TEST(IniFile, RemovesSectionsWhole)
     EXPECT_EQ(ini.Value("b", "x", ""), "4");
 }
 
-void PutIniValue(std::string_view section, std::string_view key, const std::string& value, const fs::path& file)
-{
-    const IniValue one{key, value};
-    PutIniValues(section, {&one, 1}, file);
-}
-
 class IniOnDisk : public testing::Test {
 protected:
     [[nodiscard]] fs::path Path() const { return fake.folder.Path() / "index.ini"; }

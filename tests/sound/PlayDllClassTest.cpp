@@ -228,6 +228,30 @@ TEST_F(PlayDllTest, AWaveReadWithoutItsSamplesEndsThePlayCallWithWords)
     EXPECT_TRUE(play.PlayBuffer.empty());
 }
 
+TEST_F(PlayDllTest, GetLastPlayedStreamIsASingle0BeforeTheFirstPlay)
+{
+    EXPECT_EQ(Player().GetLastPlayedStream(), std::vector<std::int32_t>({0}));
+}
+
+TEST_F(PlayDllTest, GetLastPlayedStreamGivesTheBufferAsWords)
+{
+    Player().WriteWaveMemo(MonoWave(8, 11025, {1, 2, 3, 4, 5}), PlayNow::No, Loop::Yes);
+    const std::vector<std::int32_t> words = Player().GetLastPlayedStream();
+    ASSERT_EQ(words.size(), 13U); // 49 bytes: elements 0 to 12
+    EXPECT_EQ(words[0], 0x46464952);
+    EXPECT_EQ(words[10], 5);
+    EXPECT_EQ(words[11], static_cast<std::int32_t>(0x84838281));
+    EXPECT_EQ(words[12], 0x85);
+}
+
+TEST_F(PlayDllTest, GetLastPlayedStreamOfWholeWordsEndsWithA0)
+{
+    Player().WriteWaveMemo(MonoWave(8, 11025, {1, 2, 3, 4}), PlayNow::No, Loop::Yes);
+    const std::vector<std::int32_t> words = Player().GetLastPlayedStream();
+    ASSERT_EQ(words.size(), 13U);
+    EXPECT_EQ(words[12], 0);
+}
+
 TEST_F(PlayDllTest, ContinueAndReplayTellThatThereIsNothingYet)
 {
     Listen();

@@ -87,5 +87,14 @@ TEST_F(ButtonStatesTest, ButtonsOffLowersWhatIsRaisedAndNothingElse)
     EXPECT_EQ(Wanted(stop), ButtonFace::Pressed);
 }
 
+TEST_F(ButtonStatesTest, InitButtonsStartsAnew)
+{
+    states.SetWanted(brush, ButtonFace::PressedOn);
+    static_cast<void>(states.RefreshButtons());
+    states.InitButtons();
+    EXPECT_EQ(Wanted(brush), ButtonFace::Normal);
+    EXPECT_THAT(states.RefreshButtons(), ElementsAre(1, 2, 3));
+}
+
 } // namespace
 } // namespace sprout

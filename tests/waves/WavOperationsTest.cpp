@@ -203,5 +203,41 @@ TEST_F(WavFile, FindsTheFileInAnyLetterCaseAndTellsTheNameThatWasAsked)
     EXPECT_EQ(fake.messages.shown[0].title, "Error Loading " + (fake.folder.Path() / "SOUND.WAV").native());
 }
 
+TEST(WaveToLongs, LaysOutHeadAndChannels)
+{
+    EXPECT_EQ(WaveToLongs(Wave(16, {1, 2, 3}, {4, 5, 6})),
+              (std::vector<std::int32_t>{8, 16, 2, 44100, 3, 0x00020001, 3, 0x00050004, 6}));
+    EXPECT_EQ(WaveToLongs(Wave(16, {1, 2})), (std::vector<std::int32_t>{6, 16, 1, 44100, 2, 0x00020001, 0}));
+}
+
+TEST(WaveToLongs, ComesBackTheSameInEveryShape)
+{
+    for (std::size_t length = 0; length < 9; ++length) {
+        const std::vector<std::int16_t> samples(length, -7);
+        for (const WaveData& wave : {Wave(16, samples), Wave(8, samples, samples)})
+            EXPECT_EQ(LongsToWave(WaveToLongs(wave)), wave) << length;
+    }
+}
+
+TEST(WaveToLongs, HasFiveElementsForNoFrames)
+{
+    EXPECT_EQ(WaveToLongs(WaveData()), (std::vector<std::int32_t>{4, 16, 2, 44100, 0}));
+}
+
+TEST(LongsToWave, TakesASingleElementForAnEmptyWave)
+{
+    EXPECT_EQ(LongsToWave(std::vector<std::int32_t>{0}), EmptyWave());
+    EXPECT_EQ(LongsToWave({}), EmptyWave());
+}
+
+TEST(LongsToWave, ThrowsWhereTheBlockIsTooShort)
+{
+    std::vector<std::int32_t> longs = WaveToLongs(Wave(16, {1, 2, 3}, {4, 5, 6}));
+    while (longs.size() > 2) {
+        longs.pop_back();
+        EXPECT_THROW(static_cast<void>(LongsToWave(longs)), RunTimeError) << longs.size();
+    }
+}
+
 } // namespace
 } // namespace sprout
