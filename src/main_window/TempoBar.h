@@ -10,6 +10,7 @@ namespace sprout {
 
 class HintWatcher;
 class SliderPointer;
+class TempoSlot;
 
 /// The tempo of the shared song: slot (`TempoSliderImg`) and pointer (`TempoPrtImg`), the percentage (`TempoLbl`) and
 /// the song's duration (`SngDurLbl`).
@@ -31,15 +32,11 @@ Q_SIGNALS:
     void TempoChanged();
 
 private:
-    void PlaceInLine(int percentWidth, int secondsWidth);
-    void PlaceLabelsBelow(int widthPx);
-    void PlaceLabelsStacked(int widthPx, int secondsWidth);
-    void SetSlotWidth(int widthPx);
     void ShowLabels(std::int32_t percent, std::int32_t tempo);
     /// Takes the user's choice.
     void TakePercent(std::int32_t percent);
 
-    QWidget* TempoSliderImg;
+    TempoSlot* TempoSliderImg;
     SliderPointer* TempoPrtImg;
     QLabel* TempoLbl;
     QLabel* SngDurLbl;
