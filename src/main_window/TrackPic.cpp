@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <array>
 
-#include "core/SongTime.h"
+#include "main_window/CellOutline.h"
 #include "main_window/TrackMarker.h"
 #include "main_window/TrackPictures.h"
 #include "ui/Look.h"
@@ -22,11 +22,6 @@ namespace {
 constexpr QPoint kTimeSlideAt{-5, 2};
 constexpr QPoint kUnpaintedTextAt{10, 6}; ///< below the row's top
 
-bool AnyCellIsPainted(const Track& track)
-{
-    return FindFirstPainted(track, static_cast<std::int32_t>(track.Painted.size()) - 1) != 0;
-}
-
 /// Moves a marker and shows it, or hides it if it has no position.
 void PlaceMarker(TrackMarker& marker, const std::optional<QPoint>& at)
 {
@@ -36,31 +31,6 @@ void PlaceMarker(TrackMarker& marker, const std::optional<QPoint>& at)
 }
 
 } // namespace
-
-/// The outline of the cell cursor: light next to dark, so that one of them is visible on any background.
-class CellOutline : public QWidget {
-public:
-    explicit CellOutline(QWidget* parent) : QWidget(parent)
-    {
-        setObjectName(QStringLiteral("CellOutline"));
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        resize(kCellCursorWidth + 2 * kOutlineWidth, kCellCursorHeight + 2 * kOutlineWidth);
-        hide();
-    }
-
-    void PlaceAround(QPoint cursor) { move(cursor - QPoint(kOutlineWidth, kOutlineWidth)); }
-
-protected:
-    void paintEvent(QPaintEvent* /*event*/) override
-    {
-        QPainter painter(this);
-        painter.fillRect(rect(), kLink);
-        painter.fillRect(rect().adjusted(2, 2, -2, -2), Qt::white);
-    }
-
-private:
-    static constexpr int kOutlineWidth = 3; ///< on each side of the cursor
-};
 
 TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     : TrackSurface("TrackPic", kPaper, parent),
@@ -95,15 +65,6 @@ void TrackPic::PaintMeadow(std::int32_t trackCount)
         Painter().Tile(QRect(0, *top, width(), kMeadowHeight), CanvasPicture("Meadow", kMeadowTileSize, PixelRatio()));
 }
 
-TrackPic::RowLook TrackPic::LookOf(const SongState& song, std::int32_t t) const
-{
-    const Track& track = At(song.Tracks, t);
-    RowLook look{track.TrackType, TileNumber(track.IsAudio(), t), CycleCells(track), true,
-                 VisibleRuns(track, song.SongCells, view)};
-    look.painted = !look.runs.empty() || AnyCellIsPainted(track);
-    return look;
-}
-
 void TrackPic::DrawAll(const SongState& song)
 {
     Clear();
@@ -118,7 +79,7 @@ void TrackPic::DrawRow(const SongState& song, std::int32_t track)
     const auto row = static_cast<std::size_t>(track - view.FirstTrack);
     if (IsStale() || !RowIsVisible(view, track) || row >= drawnRows.size())
         return;
-    RowLook look = LookOf(song, track);
+    RowLook look = LookOfRow(song, track, view);
     if (drawnRows[row] == look)
         return;
     PaintRow(look, RowTop(view, track));
@@ -159,7 +120,7 @@ void TrackPic::PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int
 
 void TrackPic::DrawTop(const SongState& song)
 {
-    TopLook look{song.SongCells, song.Tempo, BusyMarks(song, view)};
+    TopLook look = LookOfTop(song, view);
     if (IsStale() || drawnTop == look)
         return;
     const QRect band(0, 0, width(), kTimeBandHeight);

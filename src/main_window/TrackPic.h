@@ -7,9 +7,8 @@
 
 #include "core/Song.h"
 #include "main_window/TrackSurface.h"
-#include "main_window/rules/PaintedRuns.h"
 #include "main_window/rules/PlayIndicator.h"
-#include "main_window/rules/TimeBand.h"
+#include "main_window/rules/TrackLooks.h"
 #include "main_window/rules/TrackPointer.h"
 
 namespace sprout {
@@ -57,27 +56,10 @@ protected:
     void PaintOver(QPainter& painter) override;
 
 private:
-    /// All that a row's picture depends on, apart from view and pixel ratio.
-    struct RowLook {
-        std::int32_t trackType = 0;
-        std::int32_t tile = 0;
-        std::int32_t cycle = 0;
-        bool painted = false;
-        std::vector<PaintedRun> runs;
-        friend bool operator==(const RowLook&, const RowLook&) = default;
-    };
-    struct TopLook {
-        std::int32_t songCells = 0;
-        std::int32_t tempo = 0;
-        std::vector<BusyMark> marks;
-        friend bool operator==(const TopLook&, const TopLook&) = default;
-    };
-
     void ShowCellOutline();
     void Clear();
     /// Draws a meadow at the lower edge of the cleared surface, if there is room below the rows.
     void PaintMeadow(std::int32_t trackCount);
-    [[nodiscard]] RowLook LookOf(const SongState& song, std::int32_t track) const;
     void PaintRow(const RowLook& look, std::int32_t rowTop);
     void WriteUnpainted(SurfacePainter& painter, const QRect& background, std::int32_t trackType) const;
     void PaintRun(SurfacePainter& painter, const PaintedRun& run, std::int32_t cycle, const QPixmap& tile,
