@@ -1,78 +1,47 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TrackCanvas.h"
 
-#include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
-#include <QScrollBar>
-#include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include <algorithm>
+#include <optional>
 #include <utility>
 
 #include "core/Shared.h"
 #include "main_window/TrackPic.h"
 #include "main_window/TrackTitlePic.h"
-#include "main_window/rules/CellValues.h"
 #include "sound/PlayMod.h"
 #include "ui/Palette.h"
 
 namespace sprout {
 
-namespace {
-
-/// Sets a scroll bar's range and value without signals, and returns the value.
-std::int32_t FitScrollBar(QScrollBar& bar, const ScrollRange& range, std::int32_t first, int pageStep)
-{
-    const QSignalBlocker quiet(bar);
-    bar.setEnabled(range.enabled);
-    bar.setRange(1, range.maximum);
-    bar.setPageStep(std::max(pageStep, 1));
-    bar.setValue(first);
-    return bar.value();
-}
-
-} // namespace
-
 TrackCanvas::TrackCanvas(QWidget* parent, ButtonScheme& buttons, TrackCanvasCalls windowCalls)
-    : QWidget(parent), calls(std::move(windowCalls))
+    : QWidget(parent),
+      calls(std::move(windowCalls)),
+      titlePic(new TrackTitlePic(scroll.View(), buttons, calls, this)),
+      trackPic(new TrackPic(scroll.View(), this)),
+      tool(*trackPic, scroll.View(), calls),
+      keys(*trackPic, tool, scroll)
 {
     setObjectName(QStringLiteral("TrackFramePic"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    MakeSurfaces(buttons);
-    MakeScrollBars();
+    scroll.MakeBars(*this);
+    ConnectParts();
 }
 
-void TrackCanvas::MakeSurfaces(ButtonScheme& buttons)
+void TrackCanvas::ConnectParts()
 {
-    titlePic = new TrackTitlePic(view, buttons, calls, this);
-    trackPic = new TrackPic(view, this);
     titlePic->Redraw = [this] { titlePic->DrawAll(Shared().Song); };
     trackPic->Redraw = [this] { trackPic->DrawAll(Shared().Song); };
-    connect(titlePic, &TrackTitlePic::RowChosen, this, &TrackCanvas::ShowRow);
-    connect(trackPic, &TrackPic::Pressed, this, &TrackCanvas::Press);
-    connect(trackPic, &TrackPic::Moved, this, &TrackCanvas::Move);
-    connect(trackPic, &TrackPic::Released, this, &TrackCanvas::EndStroke);
-    connect(trackPic, &TrackPic::Left, this, &TrackCanvas::Leave);
-}
-
-void TrackCanvas::MakeScrollBars()
-{
-    const auto make = [this](const char* name, const QString& spokenName, Qt::Orientation orientation,
-                             std::int32_t TrackView::*first) {
-        auto* bar = new QScrollBar(orientation, this);
-        bar->setObjectName(QString::fromLatin1(name));
-        bar->setAccessibleName(spokenName);
-        connect(bar, &QScrollBar::valueChanged, this, [this, first](int value) {
-            view.*first = value;
-            if (first == &TrackView::FirstCell)
-                followed.reset();
-            DrawTracksAll();
-        });
-        return bar;
-    };
-    vScroll = make("TrackVScroll", tr("Scroll the tracks"), Qt::Vertical, &TrackView::FirstTrack);
-    hScroll = make("TrackHScroll", tr("Scroll through the song"), Qt::Horizontal, &TrackView::FirstCell);
-    hScroll->setSingleStep(kCellsOfAGroup);
+    connect(&scroll, &TrackScroll::Scrolled, this, &TrackCanvas::DrawTracksAll);
+    connect(titlePic, &TrackTitlePic::RowChosen, &scroll, &TrackScroll::ShowRow);
+    connect(&tool, &TrackTool::StrokeBegun, &scroll, &TrackScroll::EndFollowing);
+    connect(&tool, &TrackTool::Painted, this, [this](int track) {
+        DrawTrackTop();
+        DrawTrackOne(track);
+    });
 }
 
 void TrackCanvas::PlaceParts()
@@ -81,11 +50,7 @@ void TrackCanvas::PlaceParts()
     const int picHeight = std::max(height() - kScrollBarBreadth, 0);
     titlePic->setGeometry(0, 0, kTitleStripWidth, picHeight);
     trackPic->setGeometry(kTitleStripWidth, 0, picWidth, picHeight);
-    vScroll->setGeometry(kTitleStripWidth + picWidth, 0, kScrollBarBreadth, picHeight);
-    hScroll->setGeometry(kTitleStripWidth, picHeight, picWidth, kScrollBarBreadth);
-    view.trackPicWidth = picWidth;
-    view.trackPicHeight = picHeight;
-    view.titlePicHeight = picHeight;
+    scroll.PlaceBars(trackPic->geometry());
     trackPic->FitMarkers();
 }
 
@@ -104,8 +69,7 @@ void TrackCanvas::paintEvent(QPaintEvent* /*event*/)
 void TrackCanvas::DrawTracksAll()
 {
     const SongState& song = Shared().Song;
-    view = ClampedView(view, song.TrackCount);
-    FitScrollBars();
+    scroll.FitSong(song.TrackCount, song.SongCells);
     titlePic->Forget();
     trackPic->Forget();
     titlePic->PlaceAddButtons(song.TrackCount);
@@ -113,49 +77,15 @@ void TrackCanvas::DrawTracksAll()
     trackPic->ShowCellCursor(std::nullopt);
 }
 
-void TrackCanvas::FitScrollBars()
-{
-    const SongState& song = Shared().Song;
-    const int rowsInView = (view.trackPicHeight - kFirstRowTop) / kRowHeight;
-    const int cellsInView = view.trackPicWidth / kCellWidth;
-    // If a range shrinks, the view moves with it.
-    view.FirstTrack = FitScrollBar(*vScroll, TrackScrollRange(view, song.TrackCount), view.FirstTrack, rowsInView - 1);
-    view.FirstCell =
-        FitScrollBar(*hScroll, CellScrollRange(view, song.SongCells), view.FirstCell, cellsInView - kCellsOfAGroup);
-}
-
 void TrackCanvas::ShowFromStart()
 {
-    view.FirstTrack = 1;
-    view.FirstCell = 1;
+    scroll.GoToStart();
     DrawTracksAll();
 }
 
 void TrackCanvas::ShowAddedTrack()
 {
-    view.FirstTrack = FirstTrackForAdded(view, Shared().Song.TrackCount);
-    DrawTracksAll();
-}
-
-void TrackCanvas::BeginFollowing()
-{
-    followed = FollowedEdges::Both;
-}
-
-void TrackCanvas::FollowMarker(std::int32_t cell)
-{
-    if (!followed || QGuiApplication::mouseButtons() != Qt::NoButton)
-        return;
-    ScrollToCell(FollowingFirstCell(view, cell, *followed, hScroll->maximum()));
-    followed = FollowedEdges::Right;
-}
-
-/// Scrolls without the user.
-void TrackCanvas::ScrollToCell(std::int32_t cell)
-{
-    if (cell == view.FirstCell)
-        return;
-    view.FirstCell = cell;
+    scroll.GoToAdded(Shared().Song.TrackCount);
     DrawTracksAll();
 }
 
@@ -178,11 +108,6 @@ void TrackCanvas::HideTrackButtons()
     titlePic->HideTrackButtons();
 }
 
-Tool TrackCanvas::CurrentTool() const
-{
-    return tool;
-}
-
 std::int32_t TrackCanvas::HoverTrack() const
 {
     return titlePic->HoverTrack();
@@ -198,19 +123,33 @@ bool TrackCanvas::TrackAudioBtnVisible() const
     return titlePic->TrackAudioBtnVisible();
 }
 
-std::int32_t TrackCanvas::BrushedTrack() const
-{
-    return stroke.Dragging() && tool == Tool::Brush ? stroke.DragTrack() : 0;
-}
-
-TrackView TrackCanvas::View() const
-{
-    return view;
-}
-
 void TrackCanvas::ShowPlayIndicator(const PlayIndicator& indicator)
 {
     trackPic->ShowPlayIndicator(indicator);
+}
+
+void TrackCanvas::wheelEvent(QWheelEvent* event)
+{
+    scroll.TurnWheel(*event);
+}
+
+void TrackCanvas::keyPressEvent(QKeyEvent* event)
+{
+    const bool presses = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (presses || event->key() == Qt::Key_Space) {
+        if (event->isAutoRepeat()) // a held key would start and stop in turn
+            return;
+        return presses ? keys.PressCell() : Ask(calls.PlayOrStop);
+    }
+    if (!keys.PressKey(*event) && !scroll.PressKey(event->key()))
+        QWidget::keyPressEvent(event);
+}
+
+void TrackCanvas::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Shift || event->key() == Qt::Key_Control)
+        tool.EndStroke();
+    QWidget::keyReleaseEvent(event);
 }
 
 void StopPlay(TrackCanvas& canvas)

@@ -4,33 +4,18 @@
 #include <QWidget>
 
 #include <cstdint>
-#include <functional>
-#include <optional>
-#include <string_view>
 
+#include "main_window/CellKeys.h"
+#include "main_window/TrackCanvasCalls.h"
+#include "main_window/TrackScroll.h"
+#include "main_window/TrackTool.h"
 #include "main_window/rules/PlayIndicator.h"
-#include "main_window/rules/Stroke.h"
-#include "main_window/rules/TrackGeometry.h"
-#include "main_window/rules/TrackPointer.h"
 #include "ui/ButtonScheme.h"
-
-class QScrollBar;
 
 namespace sprout {
 
 class TrackPic;
 class TrackTitlePic;
-
-/// What the canvas needs from its window. Every function is called from a user event.
-struct TrackCanvasCalls {
-    std::function<void(std::int32_t cell)> PlaySongFrom;
-    std::function<void(std::int32_t track, std::int32_t cell)> PlayTrackFrom;
-    std::function<void()> EnableTrackTitlePlayTimer; ///< a stroke begins, or the pointer is over a tune or audio button
-    std::function<void()> PlayOrStop;                ///< the space bar
-    std::function<void(std::string_view)> ShowCell;  ///< the text of `TrackMouPosLbl`
-    // Clicks on the canvas buttons.
-    std::function<void()> TrackPlayBtn, TrackDeleteBtn, TrackTuneBtn, TrackAudioBtn, TrackAddBtn, TrackAddRecBtn;
-};
 
 /// `TrackFramePic`: the song as rows. It holds the title strip (`TrackTitlePic`), the painting surface with the time
 /// band (`TrackPic`), both scroll bars, the row buttons and the play position markers. It draws the shared song and
@@ -54,26 +39,26 @@ public:
     void HideTrackButtons();
 
     /// Sets the tool for future presses and drags, and the mouse pointer for it.
-    void SetCurrentTool(Tool tool);
-    [[nodiscard]] Tool CurrentTool() const;
+    void SetCurrentTool(Tool newTool) { tool.SetCurrentTool(newTool); }
+    [[nodiscard]] Tool CurrentTool() const { return tool.CurrentTool(); }
 
     /// The track under the pointer in the title strip, 0 for none.
     [[nodiscard]] std::int32_t HoverTrack() const;
     [[nodiscard]] bool TrackTuneBtnVisible() const;
     [[nodiscard]] bool TrackAudioBtnVisible() const;
     /// The track that is being painted with the brush, 0 for none.
-    [[nodiscard]] std::int32_t BrushedTrack() const;
+    [[nodiscard]] std::int32_t BrushedTrack() const { return tool.BrushedTrack(); }
 
-    [[nodiscard]] TrackView View() const;
+    [[nodiscard]] TrackView View() const { return scroll.View(); }
     /// Scrolls to the first track and cell, for another song.
     void ShowFromStart();
     /// Redraws everything and scrolls to the last row and the buttons below it.
     void ShowAddedTrack();
 
     /// Keeps the marker of a play that starts in view, until the user draws a stroke or scrolls sideways.
-    void BeginFollowing();
+    void BeginFollowing() { scroll.BeginFollowing(); }
     /// Scrolls to the marker's cell if the play is followed and no mouse button is held.
-    void FollowMarker(std::int32_t cell);
+    void FollowMarker(std::int32_t cell) { scroll.FollowMarker(cell); }
     /// Places or hides the two markers of `PlayPosImg`.
     void ShowPlayIndicator(const PlayIndicator& indicator);
 
@@ -85,44 +70,15 @@ protected:
     void keyReleaseEvent(QKeyEvent* event) override;
 
 private:
-    void MakeSurfaces(ButtonScheme& buttons);
-    void MakeScrollBars();
+    void ConnectParts();
     void PlaceParts();
-    void FitScrollBars();
-    void ScrollToCell(std::int32_t cell);
-    void ShowRow(std::int32_t track);
-    void ShowCell(std::int32_t cell);
-
-    void Press(QPoint at);
-    void Move(QPoint at);
-    void Leave();
-    void EndStroke();
-    [[nodiscard]] TrackHit HitTest(QPoint at) const;
-    void DrawStroke();
-    void ShowPointer(const TrackPointer& pointer);
-    void ShowPointerImage(PointerImage image);
-
-    bool StepKeyCell(const QKeyEvent& event);
-    bool LeapKeyCell(int key);
-    void MoveKeyCell(std::int32_t cells);
-    void ShowKeyCell();
-    void PressKeyCell();
-    void TellKeyCell();
-    [[nodiscard]] QPoint KeyPoint() const;
 
     TrackCanvasCalls calls;
-    TrackView view;
-    Tool tool = Tool::Brush;
-    Stroke stroke;
-    std::int32_t keyTrack = 1; ///< of the cell that the keys act on, 0 for the time band
-    std::int32_t keyCell = 1;
-    PointerImage pointerImage = PointerImage::Default;
-    TrackTitlePic* titlePic = nullptr;
-    TrackPic* trackPic = nullptr;
-    QScrollBar* vScroll = nullptr;
-    QScrollBar* hScroll = nullptr;
-    std::optional<FollowedEdges> followed; ///< the edges that make the view follow a play; none: not followed
-    QPoint wheelRest;                      ///< rotation since the last whole notch, in eighths of a degree
+    TrackScroll scroll;
+    TrackTitlePic* titlePic;
+    TrackPic* trackPic;
+    TrackTool tool;
+    CellKeys keys;
 };
 
 /// Stops the player and hides its markers immediately: the window that a command opens may play its own sound, and the

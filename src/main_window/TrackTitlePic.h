@@ -2,24 +2,20 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <vector>
 
 #include "core/Song.h"
+#include "main_window/RowButtons.h"
+#include "main_window/StripControls.h"
+#include "main_window/TrackCanvasCalls.h"
 #include "main_window/TrackSurface.h"
-#include "main_window/rules/TitleStrip.h"
+#include "main_window/rules/StripChoice.h"
 #include "main_window/rules/TrackGeometry.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Hints.h"
 
 namespace sprout {
-
-struct TrackCanvasCalls;
-class TrackTuneBtn;
-
-/// Width of the title strip.
-inline constexpr int kTitleStripWidth = 140;
 
 /// The title strip: each track's number, picture, delete and play pictures, the buttons that float over them while the
 /// pointer is there, and the buttons that add a track.
@@ -44,9 +40,9 @@ public:
     void HideTrackButtons();
 
     /// The track under the pointer or chosen by key; 0 for none.
-    [[nodiscard]] std::int32_t HoverTrack() const { return hoverTrack; }
-    [[nodiscard]] bool TrackTuneBtnVisible() const;
-    [[nodiscard]] bool TrackAudioBtnVisible() const;
+    [[nodiscard]] std::int32_t HoverTrack() const { return rowButtons.HoverTrack(); }
+    [[nodiscard]] bool TrackTuneBtnVisible() const { return controls.tuneBtn->isVisible(); }
+    [[nodiscard]] bool TrackAudioBtnVisible() const { return controls.audioBtn->isVisible(); }
 
 Q_SIGNALS:
     /// The user chose a row by key, and it must be scrolled into view.
@@ -68,41 +64,25 @@ private:
         Picture picture;
     };
 
-    void MakeHeadings();
-    void MakeTuneBtn();
-    void MakeButtons();
-    void MakeTopLbl();
-    ImageButton& AddStripButton(const ButtonRow& row, QSize size, const std::function<void()>& onClick);
-    void TuneHovered();
-
+    void WatchControls();
     void Clear();
-    void PaintRow(const Track& track, std::int32_t number);
     void HoverAt(std::int32_t x, std::int32_t y);
     void LeaveRows();
-    void PlaceFloatingButtons(const FloatingButtons& shown);
+    void TuneHovered();
 
     void ChooseRow(std::int32_t track);
     void ChooseColumn(std::int32_t step);
     void PressChosen();
     void ShowChosen();
-    [[nodiscard]] QAbstractButton* FloatingButton() const;
 
     const TrackView& view;
     ButtonScheme& buttons;
     const TrackCanvasCalls& calls;
     HintWatcher watcher;
+    StripControls controls;
+    RowButtons rowButtons;
+    StripChoice choice;
     std::vector<std::optional<RowLook>> drawnRows; ///< by row, from the top
-    std::int32_t hoverTrack = 0;
-    bool overlayShown = false;
-    std::int32_t chosenRow = 0; ///< the track whose row was chosen by key, 0 for none
-    std::int32_t chosenColumn = 0;
-    TrackTuneBtn* tuneBtn = nullptr;
-    ImageButton* audioBtn = nullptr;
-    ImageButton* deleteBtn = nullptr;
-    ImageButton* playBtn = nullptr;
-    ImageButton* addBtn = nullptr;
-    ImageButton* addRecBtn = nullptr;
-    QLabel* topLbl = nullptr;
 };
 
 } // namespace sprout

@@ -19,7 +19,9 @@ const std::string kInGeneral = "<h1>Keys</h1>";
 
 /// The heading of the page that explains the keys of a source file, if it is not the first one.
 const std::map<std::string, std::string> kHeadings{
-    {"src/main_window/TrackCanvasInput.cpp", "<h2>On the tracks</h2>"},
+    {"src/main_window/CellKeys.cpp", "<h2>On the tracks</h2>"},
+    {"src/main_window/TrackCanvas.cpp", "<h2>On the tracks</h2>"},
+    {"src/main_window/TrackScroll.cpp", "<h2>On the tracks</h2>"},
     {"src/main_window/TrackTitlePic.cpp", "<h2>At the names of the tracks</h2>"},
     {"src/ui/PictureGridPic.cpp", "<h2>Where you choose a tune or an instrument</h2>"},
     {"src/tune_window/TuneFrm2.cpp", "<h2>Where you choose a tune or an instrument</h2>"},

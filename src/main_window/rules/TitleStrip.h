@@ -7,6 +7,9 @@
 
 namespace sprout {
 
+/// Width of the title strip.
+inline constexpr std::int32_t kTitleStripWidth = 140;
+
 // Positions in a row of the title strip; heights count from the row's top.
 
 inline constexpr std::int32_t kTrackPictureLeft = 24;
