@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/TransportCommands.h"
 
-#include <QScopedValueRollback>
-
 #include <chrono>
+#include <exception>
 #include <optional>
 #include <utility>
 
@@ -13,7 +12,6 @@
 #include "main_window/rules/Transport.h"
 #include "sound/PlayMod.h"
 #include "sound/TrackRender.h"
-#include "sound/TuneRender.h"
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
@@ -25,7 +23,6 @@ namespace sprout {
 namespace {
 
 constexpr std::chrono::milliseconds kSongPosInterval{40};
-constexpr std::chrono::milliseconds kTitlePlayInterval{1000};
 constexpr std::int32_t kMainWindow = 1;
 
 /// Shows the message of a check; returns whether the command continues.
@@ -56,62 +53,20 @@ bool IsFollowPlaySet()
     return NumberPrefix(GetSetting("MainWindow", "FollowPlay", "1")) == 1;
 }
 
-std::int32_t TuneInterval(const Tune& tune)
-{
-    return TuneHoverInterval(tune.TuneWave.Length, tune.StepCount, Shared().Song.Tempo);
-}
-
-int PlayHoveredTune(Tune& tune)
-{
-    if (!tune.TuneWaveValid)
-        RenderStarCycle(tune);
-    if (tune.TuneWaveValid)
-        PlayWaveStatus(tune.TuneWave, "Playing Star", Loop::No);
-    return TuneInterval(tune);
-}
-
-int PlayHoveredAudio(const Track* track)
-{
-    if (!track || !track->IsAudio() || track->TrackAudio.Length <= 0)
-        return AudioHoverInterval({});
-    PlayWaveStatus(track->TrackAudio, "Playing Audio/Recording", Loop::No);
-    return AudioHoverInterval(track->TrackAudio);
-}
-
-/// A stroke renders nothing, so the brush never waits.
-int PlayBrushedTune(const Tune& tune)
-{
-    if (tune.TuneWaveValid)
-        PlayWaveStatus(tune.TuneWave, "Playing Star", Loop::No);
-    else
-        Player().StopPlay();
-    return TuneInterval(tune);
-}
-
-/// Runs a tick. If it fails, its timer stops and the error is shown once instead of again and again.
-template <class Operation>
-void GuardedTick(QTimer& timer, Operation operation)
-{
-    Guarded(operation, [&timer] { timer.stop(); });
-}
-
 } // namespace
 
-TransportCommands::TransportCommands(QObject* parent) : QObject(parent), playPosTimer(this), trackTitlePlayTimer(this)
+TransportCommands::TransportCommands(QObject* parent) : QObject(parent), playPosTimer(this), titlePlay(this)
 {
     playPosTimer.setObjectName(QStringLiteral("PlayPosTimer"));
     playPosTimer.setInterval(kSongPosInterval);
     connect(&playPosTimer, &QTimer::timeout, this, &TransportCommands::PlayPosTimerTick);
-    trackTitlePlayTimer.setObjectName(QStringLiteral("TrackTitlePlayTimer"));
-    trackTitlePlayTimer.setInterval(kTitlePlayInterval);
-    connect(&trackTitlePlayTimer, &QTimer::timeout, this, &TransportCommands::TrackTitlePlayTimerTick);
 }
 
 void TransportCommands::SetWindow(TrackCanvas& trackCanvas, QLabel& statusLbl)
 {
     canvas = &trackCanvas;
     soundStatusLbl = &statusLbl;
-    trackTitlePlayTimer.start();
+    titlePlay.Start(trackCanvas);
 }
 
 void TransportCommands::PlayAllBtn()
@@ -208,10 +163,14 @@ void TransportCommands::TellNoSound()
                 "Plug in headphones or a loudspeaker and press play again. Or ask a grown-up.");
 }
 
-void TransportCommands::EnableTrackTitlePlayTimer()
+void TransportCommands::ShutSound()
 {
-    if (!trackTitlePlayTimer.isActive())
-        trackTitlePlayTimer.start();
+    try {
+        SetSoundDriver(false);
+    } catch (const std::exception&) {
+        // A driver that cannot be closed ends with the program.
+    }
+    ReleasePlayer();
 }
 
 std::int32_t TransportCommands::MainWindowHandle() const
@@ -238,7 +197,7 @@ void TransportCommands::UpdateThisTune()
 
 void TransportCommands::PlayPosTimerTick()
 {
-    GuardedTick(playPosTimer, [this] {
+    const auto follow = [this] {
         switch (PlayShared().PlayState) {
         case PlayState::Stopped:
             Player().UpdatePlayPosition();
@@ -256,7 +215,9 @@ void TransportCommands::PlayPosTimerTick()
         case PlayState::Paused:
             break;
         }
-    });
+    };
+    // An error is shown once instead of again and again.
+    Guarded(follow, [this] { playPosTimer.stop(); });
 }
 
 void TransportCommands::MovePlayIndicator()
@@ -276,27 +237,6 @@ void TransportCommands::PlayIndicatorOff()
     if (canvas)
         canvas->ShowPlayIndicator({});
     ShowSoundStatus("Done");
-}
-
-void TransportCommands::TrackTitlePlayTimerTick()
-{
-    if (titlePlayBusy || PlayShared().PlayingTrack != 0 || !canvas)
-        return;
-    const QScopedValueRollback busy(titlePlayBusy, true);
-    // The new interval starts at the end of a render, not at its beginning.
-    GuardedTick(trackTitlePlayTimer, [this] { trackTitlePlayTimer.start(PlayHovered()); });
-}
-
-int TransportCommands::PlayHovered()
-{
-    Track* const hovered = TrackOfNumber(canvas->HoverTrack());
-    if (canvas->TrackTuneBtnVisible() && hovered)
-        return PlayHoveredTune(hovered->TrackTune);
-    if (canvas->TrackAudioBtnVisible())
-        return PlayHoveredAudio(hovered);
-    if (const Track* const brushed = TrackOfNumber(canvas->BrushedTrack()))
-        return PlayBrushedTune(brushed->TrackTune);
-    return kHoverWaitInterval;
 }
 
 } // namespace sprout

@@ -10,12 +10,13 @@
 
 #include "core/Song.h"
 #include "main_window/TrackCanvas.h"
+#include "main_window/TrackTitlePlay.h"
 #include "service/PlayDisplay.h"
 
 namespace sprout {
 
-/// The main window's transport commands: they play the song, a track or a tune, and follow what plays with their timers
-/// (`PlayPosTimer`, `TrackTitlePlayTimer`). The player shows its state here.
+/// The main window's transport commands: they play the song, a track or a tune, and follow what plays with a timer
+/// (`PlayPosTimer`). The player shows its state here.
 class TransportCommands : public QObject, public PlayDisplay {
     Q_OBJECT
 
@@ -33,7 +34,10 @@ public:
     void PlayOrStop();
     void PlaySongFrom(std::int32_t cell);
     void PlayTrackFrom(std::int32_t track, std::int32_t cell);
-    void EnableTrackTitlePlayTimer();
+    void EnableTrackTitlePlayTimer() { titlePlay.EnableTrackTitlePlayTimer(); }
+
+    /// Closes the sound driver and releases the player, at the end of the program.
+    static void ShutSound();
 
     [[nodiscard]] std::int32_t MainWindowHandle() const override;
     void ShowSoundStatus(std::string_view text) override;
@@ -50,16 +54,11 @@ private:
     void MovePlayIndicator();
     void PlayIndicatorOff();
 
-    void TrackTitlePlayTimerTick();
-    /// Plays what is hovered or brushed; returns the milliseconds until the next check.
-    [[nodiscard]] int PlayHovered();
-
     QPointer<TrackCanvas> canvas;
     QPointer<QLabel> soundStatusLbl;
     QTimer playPosTimer;
-    QTimer trackTitlePlayTimer;
+    TrackTitlePlay titlePlay;
     bool noSoundTold = false;
-    bool titlePlayBusy = false; ///< a message or a long render inside a tick lets other ticks in
 };
 
 } // namespace sprout
