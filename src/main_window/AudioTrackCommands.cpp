@@ -3,6 +3,7 @@
 
 #include <QFile>
 
+#include <optional>
 #include <string>
 #include <system_error>
 #include <utility>
@@ -17,6 +18,7 @@
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
 #include "ui/MessageForms.h"
+#include "ui/Windows.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {
@@ -102,10 +104,7 @@ std::optional<fs::path> DroppedFile(const QList<QUrl>& places)
 
 } // namespace
 
-AudioTrackCommands::AudioTrackCommands(TrackCanvas& trackCanvas, AudioWindows audioWindows)
-    : canvas(trackCanvas), windows(std::move(audioWindows))
-{
-}
+AudioTrackCommands::AudioTrackCommands(TrackCanvas& trackCanvas) : canvas(trackCanvas) {}
 
 void AudioTrackCommands::TrackAddRecBtn()
 {
@@ -129,7 +128,7 @@ void AudioTrackCommands::TrackAddRecBtn()
 void AudioTrackCommands::AddRecording()
 {
     StopPlay(canvas);
-    std::optional<WaveData> wave = windows.Record();
+    std::optional<WaveData> wave = TheWindows().RecordSound();
     if (!wave)
         return;
     if (wave->Length < 1)
@@ -169,7 +168,7 @@ void AudioTrackCommands::TrackAudioBtn()
         if (track < 1 || track > Shared().Song.TrackCount)
             return;
         StopPlay(canvas);
-        if (windows.Edit(track))
+        if (TheWindows().EditTrack(track))
             canvas.DrawTrackOne(track);
     });
 }

@@ -6,8 +6,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
-#include <optional>
 
 #include "base/WaveData.h"
 #include "main_window/TrackCanvas.h"
@@ -17,19 +15,11 @@ namespace sprout {
 /// Maximum length of a sound file that becomes an audio track, in seconds.
 inline constexpr std::int32_t kLongestAudioSeconds = 120;
 
-/// The windows that the commands open.
-struct AudioWindows {
-    /// Records a sound; nothing if that was cancelled or could not start, which the window has already reported.
-    std::function<std::optional<WaveData>()> Record;
-    /// Edits the sound of a track. Returns whether it was changed.
-    std::function<bool(std::int32_t track)> Edit;
-};
-
 /// The commands that add the child's own sound to a song (recorded, from a file, or dropped on the window) and the one
 /// that edits it. Each reports its own failures and then leaves the song unchanged; none throws.
 class AudioTrackCommands {
 public:
-    AudioTrackCommands(TrackCanvas& canvas, AudioWindows windows);
+    explicit AudioTrackCommands(TrackCanvas& canvas);
 
     void TrackAddRecBtn();
     void TrackAudioBtn();
@@ -44,7 +34,6 @@ private:
     void AddTrack(WaveData wave);
 
     TrackCanvas& canvas;
-    AudioWindows windows;
 };
 
 } // namespace sprout

@@ -3,12 +3,11 @@
 
 #include <QWidget>
 
-#include <array>
 #include <memory>
 
 #include "main_window/AudioTrackCommands.h"
+#include "main_window/MainButtons.h"
 #include "main_window/SongCommands.h"
-#include "main_window/rules/EdgeDrag.h"
 #include "main_window/rules/Stroke.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Hints.h"
@@ -17,12 +16,13 @@
 namespace sprout {
 
 class ControlBar;
-class EdgeGrip;
+class GroundWatch;
 class StatusBar;
 class TitleBand;
 class TrackCanvas;
 class TrackCommands;
 class TransportCommands;
+class WindowFrame;
 
 /// The main window: title band, control bar, track canvas and status line, in a frame of its own. It takes its position
 /// from the settings file, shows the shared song, and turns clicks and keys into commands.
@@ -32,6 +32,9 @@ class MainFrm : public QWidget {
 public:
     /// transport: the display of the player; it outlives the window.
     explicit MainFrm(TransportCommands& transport);
+    MainFrm(const MainFrm&) = delete;
+    MainFrm& operator=(const MainFrm&) = delete;
+    ~MainFrm() override;
 
     void DrawTracksAll();
     void UpdateTempoSliderValue();
@@ -49,8 +52,6 @@ public:
     [[nodiscard]] ProcessPic& WorkingSign() { return *processPic; }
     void EnableTuneNotFilledTimer();
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 Q_SIGNALS:
     /// The window is closed, its position is stored and the player is released: the program ends.
     void Unloaded();
@@ -60,44 +61,31 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void dragEnterEvent(QDragEnterEvent* event) override;
-    void dropEvent(QDropEvent* event) override;
 
 private:
-    struct Row;
-    static const std::array<Row, 17>& Rows();
-
-    void MakeButtons();
-    void DrawPicturesAhead();
+    [[nodiscard]] MainButtonClicks Clicks();
     void MakeTitleBand();
     void MakeControlBar();
     void MakeCanvas();
-    void MakeStatusBar();
-    void MakeCorners();
-    void MakeGrips();
-    void MakeShortcuts();
     void WatchBackground();
-    void SetTabOrder();
 
-    void TakePlaceFromSettings();
-    void WritePlaceToSettings() const;
     void ShowWindowButtons();
     void ChooseTool(Tool tool);
     void ShowNewSong();
-    void AboutBtn();
 
     TransportCommands& transportCommands;
-    ButtonScheme buttons;
+    ButtonScheme scheme;
+    MainButtons buttons;
     HintWatcher watcher;
     SongCommands songCommands;
+    GroundWatch* groundWatch;
     TitleBand* titleBand = nullptr;
     ControlBar* controlBar = nullptr;
     TrackCanvas* canvas = nullptr;
     TrackCommands* trackCommands = nullptr;
     std::unique_ptr<AudioTrackCommands> audioTrackCommands;
     StatusBar* statusBar = nullptr;
-    std::array<QWidget*, 2> corners{};
-    std::array<EdgeGrip*, kWindowGrips.size()> grips{};
+    std::unique_ptr<WindowFrame> frame;
     ProcessPic* processPic;
 };
 

@@ -10,9 +10,6 @@ namespace sprout {
 
 class HintWatcher;
 
-/// Height of the status frame.
-inline constexpr int kStatusBarHeight = 32;
-
 /// `StatusLbl`: the hint for what is under the pointer, on one line or, if it is too long, on two narrow lines.
 class HintLabel : public QLabel {
     Q_OBJECT

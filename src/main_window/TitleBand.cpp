@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "main_window/rules/MainWindowPlaces.h"
 #include "ui/Artwork.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"

@@ -11,9 +11,6 @@
 
 namespace sprout {
 
-/// Height of the main window's title band.
-inline constexpr int kTitleBandHeight = 40;
-
 /// `MainTitlePic`: the leaf-green band with the window's name and its buttons. Dragging it moves the window,
 /// double-clicking maximises or restores it.
 class TitleBand : public QWidget {

@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <string>
-#include <utility>
 
 #include "core/Shared.h"
 #include "core/SongChanges.h"
@@ -12,6 +11,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
+#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -32,8 +32,8 @@ bool MayDelete(std::int32_t number)
 
 } // namespace
 
-TrackCommands::TrackCommands(TrackCanvas& trackCanvas, QObject* parent, TuneChooser tuneChooser)
-    : QObject(parent), canvas(trackCanvas), chooseTune(std::move(tuneChooser)), tuneNotFilledTimer(this)
+TrackCommands::TrackCommands(TrackCanvas& trackCanvas, QObject* parent)
+    : QObject(parent), canvas(trackCanvas), tuneNotFilledTimer(this)
 {
     tuneNotFilledTimer.setObjectName(QStringLiteral("TuneNotFilledTimer"));
     tuneNotFilledTimer.setInterval(kTuneNotFilledInterval);
@@ -96,7 +96,7 @@ void TrackCommands::TrackTuneBtn()
 bool TrackCommands::ChooseTuneOf(std::int32_t track)
 {
     bool newFlag = false;
-    return chooseTune(At(Shared().Song.Tracks, track).TrackTune, newFlag);
+    return TheWindows().OpenTuneWindow(At(Shared().Song.Tracks, track).TrackTune, newFlag);
 }
 
 void TrackCommands::EnableTuneNotFilledTimer()

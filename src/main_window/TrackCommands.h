@@ -5,10 +5,8 @@
 #include <QTimer>
 
 #include <cstdint>
-#include <functional>
 
 #include "main_window/TrackCanvas.h"
-#include "ui/Windows.h"
 
 namespace sprout {
 
@@ -18,12 +16,7 @@ class TrackCommands : public QObject {
     Q_OBJECT
 
 public:
-    /// Lets the user choose a tune; see `Windows::OpenTuneWindow`.
-    using TuneChooser = std::function<bool(Tune& tune, bool& newFlag)>;
-
-    TrackCommands(
-        TrackCanvas& canvas, QObject* parent,
-        TuneChooser chooseTune = [](Tune& tune, bool& newFlag) { return TheWindows().OpenTuneWindow(tune, newFlag); });
+    TrackCommands(TrackCanvas& canvas, QObject* parent);
 
     void TrackAddBtn();
     void TrackDeleteBtn();
@@ -39,7 +32,6 @@ private:
     void TuneNotFilledTimerTick();
 
     TrackCanvas& canvas;
-    TuneChooser chooseTune;
     QTimer tuneNotFilledTimer;
     bool songIsOpening = false;
 };

@@ -232,7 +232,7 @@ TEST_F(AudioTrackCommandsTest, LeavesWhatIsNoSoundToTheWordsOfTheReader)
 
 TEST_F(AudioTrackCommandsTest, MakesATrackOfARecording)
 {
-    recordingWindow = [] { return CountingWave(700); };
+    windows.recordingWindow = [] { return CountingWave(700); };
     AddTrack(Choice::Recording);
     EXPECT_THAT(told, IsEmpty());
     ASSERT_EQ(song.TrackCount, 4);
@@ -245,7 +245,7 @@ TEST_F(AudioTrackCommandsTest, ACancelledOrEmptyRecordingAddsNoTrack)
 {
     AddTrack(Choice::Recording);
     EXPECT_THAT(told, IsEmpty());
-    recordingWindow = [] { return EmptyWave(); };
+    windows.recordingWindow = [] { return EmptyWave(); };
     AddTrack(Choice::Recording);
     EXPECT_THAT(told, ElementsAre("Nothing was recorded.|"));
     ExpectUnchanged();
@@ -256,7 +256,7 @@ TEST_F(AudioTrackCommandsTest, NothingSoundsIntoARecording)
     Hover(1, 30);
     ASSERT_TRUE(canvas->TrackTuneBtnVisible());
     PlayWaveTrack(CountingWave(44100), 1, 1, Loop::No);
-    recordingWindow = [this]() -> std::optional<WaveData> {
+    windows.recordingWindow = [this]() -> std::optional<WaveData> {
         EXPECT_FALSE(canvas->TrackTuneBtnVisible());
         EXPECT_EQ(play.PlayState, PlayState::Stopped);
         return std::nullopt;
@@ -272,7 +272,7 @@ TEST_F(AudioTrackCommandsTest, EditsTheTrackUnderThePointer)
     ShowHint(QStringLiteral("Before"));
     PlayWaveTrack(CountingWave(44100), 1, 1, Loop::No);
     std::vector<std::int32_t> edited;
-    audioEditor = [&](std::int32_t track) {
+    windows.audioEditor = [&](std::int32_t track) {
         EXPECT_EQ(statusLbl.text(), QString());
         EXPECT_FALSE(canvas->TrackAudioBtnVisible());
         EXPECT_EQ(play.PlayState, PlayState::Stopped);
@@ -290,7 +290,7 @@ TEST_F(AudioTrackCommandsTest, DrawsTheRowAnewWhereTheSoundWasChanged)
     const auto shown = [&] { return Part("TrackPic").grab().toImage().pixelColor(place + QPoint(1, 0)); };
     const QColor unpainted = shown();
     for (const bool wasChanged : {false, true}) {
-        audioEditor = [&](std::int32_t) {
+        windows.audioEditor = [&](std::int32_t) {
             Paint(2, 1, 10); // so the row looks different once it is drawn
             return wasChanged;
         };
@@ -302,7 +302,7 @@ TEST_F(AudioTrackCommandsTest, DrawsTheRowAnewWhereTheSoundWasChanged)
 
 TEST_F(AudioTrackCommandsTest, EditsNothingWithoutATrack)
 {
-    audioEditor = [](std::int32_t) -> bool { throw RunTimeError("opened"); };
+    windows.audioEditor = [](std::int32_t) -> bool { throw RunTimeError("opened"); };
     audioTracks->TrackAudioBtn();
     EXPECT_THAT(services.messages.shown, IsEmpty());
 }

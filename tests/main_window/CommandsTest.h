@@ -8,7 +8,6 @@
 #include <QTimer>
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,6 +20,7 @@
 #include "sound/PlayMod.h"
 #include "sound/PlayTest.h"
 #include "support/FakeServices.h"
+#include "support/FakeWindows.h"
 #include "support/Flags.h"
 #include "ui/Hints.h"
 #include "ui/ModalSteps.h"
@@ -148,6 +148,8 @@ protected:
     [[nodiscard]] std::string Status() const { return soundStatusLbl.text().toStdString(); }
 
     FakeServices services;
+    FakeWindows windows;
+    ProvidedWindows provided{windows};
     FakeSoundOutput& sound = services.sound;
     SongState& song = Shared().Song;
     PlayModState& play = PlayShared();
@@ -159,13 +161,6 @@ protected:
     TrackCanvas* canvas = nullptr;
     std::unique_ptr<TrackCommands> tracks;
     std::unique_ptr<AudioTrackCommands> audioTracks;
-
-    // What the user does in the tune window.
-    std::function<bool(Tune&, bool&)> tuneWindow = [](Tune&, bool&) { return false; };
-    int tuneWindowsOpened = 0;
-    // And in the windows for the child's own sound.
-    std::function<std::optional<WaveData>()> recordingWindow = [] { return std::nullopt; };
-    std::function<bool(std::int32_t)> audioEditor = [](std::int32_t) { return false; };
 
 private:
     void MakeCanvas()
@@ -182,13 +177,8 @@ private:
         calls.TrackAddRecBtn = [this] { audioTracks->TrackAddRecBtn(); };
         calls.TrackAudioBtn = [this] { audioTracks->TrackAudioBtn(); };
         canvas = new TrackCanvas(&window, buttons, std::move(calls));
-        tracks = std::make_unique<TrackCommands>(*canvas, nullptr, [this](Tune& tune, bool& newFlag) {
-            ++tuneWindowsOpened;
-            return tuneWindow(tune, newFlag);
-        });
-        audioTracks = std::make_unique<AudioTrackCommands>(
-            *canvas, AudioWindows{[this] { return recordingWindow(); },
-                                  [this](std::int32_t track) { return audioEditor(track); }});
+        tracks = std::make_unique<TrackCommands>(*canvas, nullptr);
+        audioTracks = std::make_unique<AudioTrackCommands>(*canvas);
         window.resize(800, 500);
         canvas->resize(800, 500);
         window.show();

@@ -47,7 +47,7 @@ protected:
 TEST_F(TrackCommandsTest, AddsATrackWithTheChosenTune)
 {
     bool flagAtFirst = true;
-    tuneWindow = [&](Tune& tune, bool& newFlag) {
+    windows.tuneWindow = [&](Tune& tune, bool& newFlag) {
         EXPECT_EQ(song.TrackCount, 4);
         EXPECT_EQ(&tune, &song.Tracks[4].TrackTune);
         EXPECT_EQ(play.PlayState, PlayState::Stopped);
@@ -70,7 +70,7 @@ TEST_F(TrackCommandsTest, AddsATrackWithTheChosenTune)
 TEST_F(TrackCommandsTest, ACancelledAddTakesTheTrackAwayAndMarksTheSong)
 {
     tracks->TrackAddBtn();
-    EXPECT_EQ(tuneWindowsOpened, 1);
+    EXPECT_EQ(windows.tuneWindowsOpened, 1);
     EXPECT_EQ(song.TrackCount, 3);
     EXPECT_EQ(song.Tracks.size(), 4U);
     EXPECT_FALSE(song.Tracks[3].TrackRenderValid);
@@ -84,7 +84,7 @@ TEST_F(TrackCommandsTest, TheAddedTrackAndTheButtonsBelowItComeIntoView)
         return canvas->View().FirstTrack <= count &&
                Part("TrackAddBtn").geometry().bottom() < Part("TrackTitlePic").height();
     };
-    tuneWindow = [&](Tune& tune, bool&) {
+    windows.tuneWindow = [&](Tune& tune, bool&) {
         EXPECT_TRUE(isInView(song.TrackCount));
         GiveTune(tune);
         return true;
@@ -100,7 +100,7 @@ TEST_F(TrackCommandsTest, NoMarkerStandsBehindTheTuneWindow)
 {
     Paint(1, 5, 40);
     bool shown = true;
-    tuneWindow = [&](Tune&, bool&) {
+    windows.tuneWindow = [&](Tune&, bool&) {
         shown = MarkerShown("PlayPosImg0");
         PlaySomething(); // as the tune window does
         Tick("PlayPosTimer");
@@ -122,7 +122,7 @@ TEST_F(TrackCommandsTest, NoMarkerStandsBehindTheTuneWindow)
 
 TEST_F(TrackCommandsTest, ATuneWindowThatFailsLeavesNoTrackBehind)
 {
-    tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError("No window."); };
+    windows.tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError("No window."); };
     tracks->TrackAddBtn();
     EXPECT_EQ(song.TrackCount, 3);
     ASSERT_EQ(services.messages.shown.size(), 1U);
@@ -134,7 +134,7 @@ TEST_F(TrackCommandsTest, AChosenTuneIsAChangeThoughItsCycleCannotBeRendered)
     class FailingScreen : public FakeScreen {
         void ShowHourglass() override { throw std::bad_alloc(); }
     } screen;
-    tuneWindow = [&screen](Tune& tune, bool&) {
+    windows.tuneWindow = [&screen](Tune& tune, bool&) {
         GiveTune(tune);
         TheServices().screen = &screen;
         return true;
@@ -209,7 +209,7 @@ TEST_F(TrackCommandsTest, DeletesNothingWhereNoTrackIsHovered)
 TEST_F(TrackCommandsTest, AChosenTuneIsRenderedAndMakesItsTrackStale)
 {
     SetTuneWaveValid(song.Tracks[2].TrackTune, true);
-    tuneWindow = [this](Tune& tune, bool& newFlag) {
+    windows.tuneWindow = [this](Tune& tune, bool& newFlag) {
         EXPECT_EQ(&tune, &song.Tracks[2].TrackTune);
         EXPECT_FALSE(newFlag);
         EXPECT_EQ(play.PlayState, PlayState::Stopped);
@@ -220,7 +220,7 @@ TEST_F(TrackCommandsTest, AChosenTuneIsRenderedAndMakesItsTrackStale)
     PlaySomething();
     HoverPicture(2);
     QTest::mouseClick(&Part("TrackTuneBtn"), Qt::LeftButton);
-    EXPECT_EQ(tuneWindowsOpened, 1);
+    EXPECT_EQ(windows.tuneWindowsOpened, 1);
     EXPECT_TRUE(song.Tracks[2].TrackTune.TuneWaveValid);
     EXPECT_GT(song.Tracks[2].TrackTune.TuneWave.Length, 0);
     EXPECT_FALSE(song.Tracks[2].TrackRenderValid);
@@ -233,7 +233,7 @@ TEST_F(TrackCommandsTest, TheRowShowsATuneThatWasChosen)
     Paint(2, 1, 40);
     canvas->DrawTracksAll();
     const auto before = Shown();
-    tuneWindow = [](Tune& tune, bool&) {
+    windows.tuneWindow = [](Tune& tune, bool&) {
         tune.Picture = Shared().BlankStarPic;
         tune.StepCount = 8; // a different cycle
         return true;
@@ -280,7 +280,7 @@ TEST_F(TrackCommandsTest, OpensNoTuneWindowWhereNoTrackIsHovered)
     statusLbl.setText(QStringLiteral("Tune button"));
     tracks->TrackTuneBtn();
     EXPECT_TRUE(statusLbl.text().isEmpty());
-    EXPECT_EQ(tuneWindowsOpened, 0);
+    EXPECT_EQ(windows.tuneWindowsOpened, 0);
     EXPECT_EQ(play.PlayState, PlayState::Playing);
 }
 

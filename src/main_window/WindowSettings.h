@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QWidget;
+
+namespace sprout {
+
+// The main window's place and state in the settings file, section `MainWindow`.
+
+/// Gives the window the stored place on its screen. It opens maximised if it was closed so, or if nothing is stored.
+void TakePlaceFromSettings(QWidget& window);
+
+/// Stores the window's state, and its place unless it is minimised or maximised.
+void WritePlaceToSettings(const QWidget& window);
+
+} // namespace sprout

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+
+#include "main_window/rules/WindowPlace.h"
+
+namespace sprout {
+
+/// Width of the main window's own frame.
+inline constexpr std::int32_t kWindowFrame = 6;
+/// Height of the title band.
+inline constexpr std::int32_t kTitleBandHeight = 40;
+/// Height of the status frame.
+inline constexpr std::int32_t kStatusBarHeight = 32;
+
+/// The positions of the main window's parts, in logical pixels from its top left.
+struct MainWindowPlaces {
+    WindowPlace titleBand;
+    WindowPlace controlBar;
+    WindowPlace canvas;
+    WindowPlace statusBar;
+    WindowPlace leftCorner;
+    WindowPlace rightCorner;
+    /// Status frame and corners are visible. The lowest window gives their room to the tracks.
+    bool hasStatus = true;
+};
+
+/// The width that the control bar gets in a window of this width.
+[[nodiscard]] std::int32_t ControlBarWidth(std::int32_t windowWidth);
+
+/// Lays out the main window. barHeight: of the control bar at its width.
+[[nodiscard]] MainWindowPlaces PlaceMainWindow(std::int32_t width, std::int32_t height, std::int32_t barHeight);
+
+} // namespace sprout

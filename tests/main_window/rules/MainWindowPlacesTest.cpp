@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "main_window/rules/MainWindowPlaces.h"
+
+#include <gtest/gtest.h>
+
+namespace sprout {
+namespace {
+
+TEST(MainWindowPlaces, PutsThePartsBelowEachOtherInsideTheFrame)
+{
+    const MainWindowPlaces places = PlaceMainWindow(700, 500, 60);
+    EXPECT_TRUE(places.hasStatus);
+    EXPECT_EQ(places.titleBand, (WindowPlace{0, 0, 700, 40}));
+    EXPECT_EQ(places.controlBar, (WindowPlace{6, 40, 688, 60}));
+    EXPECT_EQ(places.canvas, (WindowPlace{6, 100, 688, 356}));
+    EXPECT_EQ(places.statusBar, (WindowPlace{44, 462, 612, 32}));
+    EXPECT_EQ(places.leftCorner, (WindowPlace{2, 462, 36, 36}));
+    EXPECT_EQ(places.rightCorner, (WindowPlace{662, 462, 36, 36}));
+    EXPECT_EQ(ControlBarWidth(700), 688);
+}
+
+TEST(MainWindowPlaces, GivesTheRoomOfTheStatusFrameToTheTracksWhereNoRowFits)
+{
+    const auto hasStatus = [](std::int32_t height) { return PlaceMainWindow(533, height, 100).hasStatus; };
+    std::int32_t height = 200;
+    while (!hasStatus(height))
+        ++height;
+    EXPECT_EQ(PlaceMainWindow(533, height, 100).canvas.height, 20 + 46 + 18) << "one row and the scroll bar";
+    const MainWindowPlaces low = PlaceMainWindow(533, height - 1, 100);
+    EXPECT_EQ(low.canvas.top + low.canvas.height, height - 1 - 6);
+}
+
+} // namespace
+} // namespace sprout

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+#include "ui/Windows.h"
+
+namespace sprout {
+
+/// Windows that do what the test says, as if the user had done it; without a word they are cancelled.
+class FakeWindows : public Windows {
+public:
+    [[nodiscard]] bool OpenTuneWindow(Tune& tune, bool& newFlag) override
+    {
+        ++tuneWindowsOpened;
+        return tuneWindow && tuneWindow(tune, newFlag);
+    }
+    [[nodiscard]] std::optional<WaveData> RecordSound() override
+    {
+        return recordingWindow ? recordingWindow() : std::nullopt;
+    }
+    [[nodiscard]] bool EditTrack(std::int32_t track) override { return audioEditor && audioEditor(track); }
+
+    std::function<bool(Tune& tune, bool& newFlag)> tuneWindow;
+    int tuneWindowsOpened = 0;
+    std::function<std::optional<WaveData>()> recordingWindow;
+    std::function<bool(std::int32_t track)> audioEditor;
+};
+
+} // namespace sprout
