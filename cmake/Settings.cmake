@@ -32,6 +32,8 @@ endif()
 
 # A generator expression would split a list of sanitizers at its comma, so the list goes straight into the options.
 if(SPROUT_SANITIZE)
+    # As much as a report needs: optimised no further than it is worth, and lines without variables.
+    set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
     add_compile_options(-fsanitize=${SPROUT_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${SPROUT_SANITIZE})
 endif()
