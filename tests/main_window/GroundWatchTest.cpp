@@ -29,6 +29,7 @@ TEST(GroundWatch, TellsOfMovesBesideTheControlsAlone)
 {
     QWidget ground;
     ground.resize(100, 50);
+    ground.setMouseTracking(true);
     QWidget control(&ground);
     control.setGeometry(10, 10, 20, 20);
     ground.show();

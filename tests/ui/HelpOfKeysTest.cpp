@@ -23,7 +23,7 @@ const std::map<std::string, std::string> kHeadings{
     {"src/main_window/TrackCanvas.cpp", "<h2>On the tracks</h2>"},
     {"src/main_window/TrackScroll.cpp", "<h2>On the tracks</h2>"},
     {"src/main_window/TrackTitlePic.cpp", "<h2>At the names of the tracks</h2>"},
-    {"src/ui/PictureGridPic.cpp", "<h2>Where you choose a tune or an instrument</h2>"},
+    {"src/ui/GridKeys.cpp", "<h2>Where you choose a tune or an instrument</h2>"},
     {"src/tune_window/TuneFrm2.cpp", "<h2>Where you choose a tune or an instrument</h2>"},
     {"src/tune_window/StepKeys.cpp", "<h2>On the steps of a tune</h2>"},
     {"src/song_window/SongList.cpp", "<h2>In the list of songs</h2>"},

@@ -26,8 +26,8 @@ BeatWindowNeeds Needs(std::int32_t beats = 10, int screenHeight = 900)
 TEST(PlanBeatWindow, GivesTheGridEightRowsOrMoreIfTheBeatsNeedThemAndTheScreenHasRoom)
 {
     EXPECT_EQ(PlanBeatWindow(Needs(1)).gridRows, 8);
-    EXPECT_EQ(PlanBeatWindow(Needs(8 * 12 - 1)).gridRows, 8);
-    EXPECT_EQ(PlanBeatWindow(Needs(8 * 12)).gridRows, 9) << "a filled grid gets one row more";
+    EXPECT_EQ(PlanBeatWindow(Needs(7 * 12)).gridRows, 8);
+    EXPECT_EQ(PlanBeatWindow(Needs(7 * 12 + 1)).gridRows, 9) << "the last row stays free";
     const int beside = 26 + 38 + 12 + 40 + 24;
     EXPECT_EQ(PlanBeatWindow(Needs(1000, beside + 10 * 40)).gridRows, 10);
     EXPECT_EQ(PlanBeatWindow(Needs(1000, beside + 10 * 40 - 1)).gridRows, 9);
