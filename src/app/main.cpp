@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
-#include <QSocketNotifier>
 
 #include <cstdio>
 #include <cstdlib>
-#include <exception>
 #include <future>
 #include <memory>
 
 #include "app/OpenMainWindow.h"
 #include "app/ProgramWindows.h"
+#include "app/SystemEnd.h"
 #include "app/sound/MachineCapture.h"
 #include "app/sound/MachineSound.h"
 #include "app/start/StartUp.h"
@@ -20,7 +19,6 @@
 #include "service/ffmpeg/FfmpegWmaEncoder.h"
 #include "service/ffmpeg/SoundChild.h"
 #include "service/fontconfig/FontList.h"
-#include "service/posix/EndSignals.h"
 #include "service/posix/LargePages.h"
 #include "service/posix/PosixFiles.h"
 #include "service/posix/PosixFolderCopies.h"
@@ -29,7 +27,6 @@
 #include "service/qt/QtPictureFiles.h"
 #include "service/xdg/XdgDesktop.h"
 #include "service/xdg/XdgMail.h"
-#include "songs/SongKeeper.h"
 #include "sound/PlayMod.h"
 #include "stretch/StretchService.h"
 #include "ui/Look.h"
@@ -87,47 +84,6 @@ private:
     PosixPrivateFolders privateFolders;
     SoundChild soundReader{machine.ExecutablePath().parent_path() / "sprout-read-sound",
                            [] { return NewTempFileName("wav"); }};
-};
-
-/// Keeps the song if the system ends the program, by a signal or with the session, and ends the event loops.
-class SystemEnd {
-public:
-    explicit SystemEnd(QApplication& application)
-    {
-        if (signals.Number() >= 0) {
-            notifier = std::make_unique<QSocketNotifier>(signals.Number(), QSocketNotifier::Read);
-            QObject::connect(notifier.get(), &QSocketNotifier::activated, &context, [this] { End(); });
-        }
-        // The session manager waits for the answer. The session, and the program with it, may continue.
-        QObject::connect(
-            &application, &QGuiApplication::commitDataRequest, &context, [this] { KeepSong(); }, Qt::DirectConnection);
-    }
-
-    [[nodiscard]] bool HasCome() const { return hasCome; }
-
-private:
-    void End()
-    {
-        notifier->setEnabled(false);
-        hasCome = true;
-        KeepSong();
-        QCoreApplication::exit(EXIT_SUCCESS);
-    }
-
-    void KeepSong()
-    {
-        try {
-            keeper.KeepUnsavedSong();
-        } catch (const std::exception&) {
-            return; // nobody is left to be told
-        }
-    }
-
-    QObject context; ///< ends the connections
-    EndSignals signals;
-    SongKeeper keeper;
-    std::unique_ptr<QSocketNotifier> notifier;
-    bool hasCome = false;
 };
 
 int RunProgram(QApplication& application)
