@@ -2,6 +2,7 @@
 #include "recording/Recd_Mod.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <memory>
 #include <optional>
@@ -78,17 +79,15 @@ void LoadRecordedFiles(const fs::path& left, const fs::path& right)
     if (const std::optional<RawFile> leftFile = RawFile::Open(left)) {
         const std::optional<RawFile> rightFile = RawFile::Open(right);
         const auto length = static_cast<std::int32_t>(leftFile->Samples() - 1);
-        Channel leftSamples;
-        Channel rightSamples;
+        const std::array files{&leftFile, &rightFile};
+        std::array<Channel, 2> samples;
         // Both at once: a child is waiting for long recordings.
-        ParallelFor(2, [&](std::size_t channel) {
-            if (channel == 0)
-                leftSamples = leftFile->Read(length);
-            else if (rightFile)
-                rightSamples = rightFile->Read(length);
+        ParallelFor(files.size(), [&](std::size_t channel) {
+            if (const std::optional<RawFile>& file = *files[channel])
+                samples[channel] = file->Read(length);
         });
-        Recd().RecdWavR = rightFile ? std::move(rightSamples) : leftSamples;
-        Recd().RecdWavL = std::move(leftSamples);
+        Recd().RecdWavR = rightFile ? std::move(samples[1]) : samples[0];
+        Recd().RecdWavL = std::move(samples[0]);
         Recd().RecdLength = length;
     }
     DeleteFile(left);

@@ -28,8 +28,10 @@ std::int32_t VolumeOfPercent(std::int32_t percent)
 
 SourceLines LinesOfSources(const std::optional<SoundSources>& sources)
 {
-    const auto count = sources ? static_cast<std::int32_t>(sources->Sources.size()) : 0;
-    if (!sources || sources->Selected < 0 || sources->Selected >= count)
+    if (!sources)
+        return {};
+    const auto count = static_cast<std::int32_t>(sources->Sources.size());
+    if (sources->Selected < 0 || sources->Selected >= count)
         return {};
     SourceLines shown;
     std::size_t nameBytes = 0;
