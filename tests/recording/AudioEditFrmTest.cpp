@@ -156,6 +156,25 @@ TEST_F(AudioEditFrmTest, FitsSmallAndLargeScreens)
     }
 }
 
+TEST_F(AudioEditFrmTest, HasAFrameAroundThePictureThatIsWiderWithTheFocus)
+{
+    const auto frame = [this](const QColor& colour) {
+        const QImage image = form.grab().toImage();
+        const QRect picture = Pic().geometry();
+        const auto depth = [&image, &colour](QPoint at, QPoint step) {
+            int pixels = 0;
+            for (at += step; image.rect().contains(at) && image.pixelColor(at) == colour; at += step)
+                ++pixels;
+            return pixels;
+        };
+        return QMargins(depth(picture.topLeft(), {-1, 0}), depth(picture.topLeft(), {0, -1}),
+                        depth(picture.bottomRight(), {1, 0}), depth(picture.bottomRight(), {0, 1}));
+    };
+    EXPECT_EQ(frame(kLink), QMargins(4, 4, 4, 4));
+    Part("OkBtn").setFocus();
+    EXPECT_EQ(frame(kBark), QMargins(2, 2, 2, 2));
+}
+
 TEST_F(AudioEditFrmTest, OpensTheHelpBook)
 {
     Click("HelpBtn");

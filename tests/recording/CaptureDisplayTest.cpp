@@ -41,6 +41,28 @@ TEST_F(CaptureDisplayTest, ShowsTheWholeSecondTimeFromTheBeginning)
     });
 }
 
+TEST_F(CaptureDisplayTest, HasTheMetersBesideTheTextsAndTheProgressBelow)
+{
+    EXPECT_EQ(Place("Dur_Lbl"), QRect(160, 18, 306, 56));
+    EXPECT_EQ(Place("Rec_Stat_Lbl"), QRect(160, 80, 306, 52));
+    EXPECT_EQ(Place("RecShowLPic"), QRect(476, 12, 48, 128));
+    EXPECT_EQ(Place("RecShowRPic"), QRect(536, 12, 48, 128));
+    EXPECT_EQ(Place("RecProgressPic"), QRect(16, 154, 568, 18));
+}
+
+TEST_F(CaptureDisplayTest, ShowsTheLongestStatusInTwoLines)
+{
+    Record([this] {
+        Tell(CaptureState::Stopped, 1, CaptureEnd::TooLong);
+        const auto& status = Control<QLabel>("Rec_Stat_Lbl");
+        ASSERT_EQ(Text("Rec_Stat_Lbl"), "Recording Done - it cannot become any longer");
+        EXPECT_GT(status.fontMetrics().horizontalAdvance(status.text()), status.width());
+        const int height = status.heightForWidth(status.width());
+        EXPECT_GE(height, 2 * status.fontMetrics().height());
+        EXPECT_LE(height, status.height());
+    });
+}
+
 TEST_F(CaptureDisplayTest, DrawsTheLevelsOfBothChannels)
 {
     const int top = 2; // below the frame

@@ -68,6 +68,11 @@ protected:
         return *form->findChild<Kind*>(QString::fromLatin1(name));
     }
     [[nodiscard]] std::string Text(const char* name) const { return Control<QLabel>(name).text().toStdString(); }
+    /// Where a part stands, counted from the band's lower edge.
+    [[nodiscard]] QRect Place(const char* name) const
+    {
+        return Control<QWidget>(name).geometry().translated(0, -kBandHeight);
+    }
     [[nodiscard]] QComboBox& Sources() const { return Control<QComboBox>("MixerRecSrcCmb"); }
     [[nodiscard]] QWidget& Pointer() const { return Control<QWidget>("VolumePrtImg"); }
     [[nodiscard]] QColor Pixel(const char* name, int x, int y) const

@@ -30,6 +30,37 @@ TEST_F(RecdFrmTest, FitsOnASmallScreen)
         EXPECT_TRUE(form->rect().contains(child->geometry())) << child->objectName().toStdString();
 }
 
+TEST_F(RecdFrmTest, HasTheBirdAboveTheSourceAndTheSourceAboveItsVolume)
+{
+    const std::vector<std::pair<const char*, QRect>> places = {
+        {"AnimImg0", {16, 10, 128, 128}},        {"AnimImg1", {16, 10, 128, 128}},
+        {"Microphone", {16, 194, 32, 32}},       {"MixerRecSrcCmb", {58, 192, 462, 36}},
+        {"RecSrcBtn2", {536, 186, 48, 48}},      {"MicrophoneVolume", {16, 254, 32, 32}},
+        {"VolumeSliderImg", {58, 250, 380, 40}}, {"VolumeLbl", {450, 250, 70, 40}},
+        {"RecSrcBtn1", {536, 246, 48, 48}},
+    };
+    for (const auto& [name, place] : places)
+        EXPECT_EQ(Place(name), place) << name;
+}
+
+TEST_F(RecdFrmTest, CentresItsAnswersInTheLastRow)
+{
+    const QRect finish = Place("RecFinishBtn");
+    const QRect cancel = Place("Cancel_Btn");
+    EXPECT_EQ(finish.top(), 312);
+    EXPECT_EQ(cancel.top(), 312);
+    EXPECT_EQ(cancel.left() - (finish.right() + 1), 16);
+    EXPECT_NEAR(finish.left(), form->width() - (cancel.right() + 1), 1);
+}
+
+TEST_F(RecdFrmTest, DrawsItsPicturesAtTheSizeOfTheirPlaces)
+{
+    for (const char* name : {"AnimImg0", "AnimImg1", "Microphone", "MicrophoneVolume", "VolumeSliderImg"}) {
+        const auto& label = Control<QLabel>(name);
+        EXPECT_EQ(label.pixmap().deviceIndependentSize().toSize(), label.size()) << name;
+    }
+}
+
 TEST_F(RecdFrmTest, SetsTheFormatOfTheRecording)
 {
     Recd().RecdBits = 8;

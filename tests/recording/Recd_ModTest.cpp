@@ -192,6 +192,17 @@ TEST_F(RecdModTest, HandsOverAWaveThatHasLostItsFirstSample)
     EXPECT_EQ(Recd().RecdWavR.UpperBound(), 0);
 }
 
+TEST_F(RecdModTest, HandsOverTheOneFrameThatTwoSamplesLeave)
+{
+    WriteBytes(left, std::string("\1\0\2\0", 4));
+    WriteBytes(right, std::string("\7\0\x8\0", 4));
+    Load();
+    const WaveData wave = TakeRecordedWave();
+    EXPECT_EQ(wave.Length, 1);
+    EXPECT_EQ(Elements(wave.WavL), (Samples{0, 2}));
+    EXPECT_EQ(Elements(wave.WavR), (Samples{0, 8}));
+}
+
 TEST_F(RecdModTest, HandsOverOneBlockForTwoEqualChannels)
 {
     WriteBytes(left, std::string("\1\0\2\0\3\0", 6));
