@@ -26,7 +26,7 @@ std::int64_t StatusBytes(std::string_view name)
 
 std::filesystem::path BenchSong()
 {
-    const char* named = std::getenv("SPROUT_BENCH_SONG"); // NOLINT(concurrency-mt-unsafe)
+    const char* named = std::getenv("SPROUT_BENCH_SONG");
     return named ? named : "bench.TqSng";
 }
 

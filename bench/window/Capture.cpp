@@ -49,7 +49,7 @@ double MillisecondsSince(Clock::time_point begun)
 void Need(bool condition)
 {
     if (!condition)
-        std::exit(1); // NOLINT(concurrency-mt-unsafe): nobody else ends the program
+        std::exit(1);
 }
 
 void Print(const char* name, std::vector<double> figures)
@@ -204,7 +204,7 @@ void Bench::MeasureEnd()
         writer.Finish();
         ends.push_back(MillisecondsSince(begun));
         begun = Clock::now();
-        Need(std::system(("cat " + left.string() + " " + right.string() + " >/dev/null").c_str()) == 0); // NOLINT
+        Need(std::system(("cat " + left.string() + " " + right.string() + " >/dev/null").c_str()) == 0);
         cats.push_back(MillisecondsSince(begun));
         begun = Clock::now();
         LoadRecordedFiles(left, right);

@@ -119,7 +119,7 @@ void PlayOnce(SoundObject& sound, Ear& ear, std::chrono::milliseconds length, Fi
     std::this_thread::sleep_for(kUntilSilence);
     const std::vector<HeardMoment> heard = ear.Take();
     if (heard.empty())
-        std::exit(1); // NOLINT(concurrency-mt-unsafe): a benchmark of silence measures nothing
+        std::exit(1);
     figures.untilFirst.push_back(Milliseconds(heard.front().begins - played));
     figures.untilLast.push_back(Milliseconds(heard.back().ends - stopped));
     AddBehind(cursors, heard, figures);

@@ -51,7 +51,7 @@ public:
     void MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/) override
     {
         std::fprintf(stderr, "%s: %s\n", std::string(title).c_str(), std::string(text).c_str());
-        std::exit(1); // NOLINT(concurrency-mt-unsafe): a benchmark of a failure measures nothing
+        std::exit(1);
     }
 };
 
@@ -106,7 +106,7 @@ Click ClickPlayAll(TransportCommands& transport, const WatchedOutput& sound)
     const double worked = 1000 * (ProcessorSeconds() - processor);
     while (!sound.newest || !sound.newest->FirstTaken()) {
         if (Clock::now() > clicked + kPatience)
-            std::exit(1); // NOLINT(concurrency-mt-unsafe): as above
+            std::exit(1);
         std::this_thread::sleep_for(std::chrono::microseconds(100));
     }
     return {Milliseconds(*sound.newest->FirstTaken() - clicked), worked};

@@ -71,7 +71,7 @@ TEST_F(StartProgramTest, GivesTheInputOrNone)
 
 TEST_F(StartProgramTest, GivesNoneOfOurOtherFiles)
 {
-    const Descriptor inheritable(::open("/dev/null", O_RDONLY)); // NOLINT(android-cloexec-open)
+    const Descriptor inheritable(::open("/dev/null", O_RDONLY));
     const std::string open = "[ -e /proc/self/fd/" + std::to_string(inheritable.Number()) + " ]";
     ASSERT_GT(inheritable.Number(), 2);
     EXPECT_NE(Run(open, {}), 0);

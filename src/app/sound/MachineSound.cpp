@@ -28,7 +28,7 @@ bool IsOpenDevice(const SoundHandle& handle, const SoundFormat& format)
 
 bool UserChoseSdl()
 {
-    const char* const driver = std::getenv("SDL_AUDIODRIVER"); // NOLINT(concurrency-mt-unsafe): nobody writes it
+    const char* const driver = std::getenv("SDL_AUDIODRIVER");
     return driver && *driver != '\0';
 }
 
