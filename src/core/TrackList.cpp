@@ -32,6 +32,12 @@ bool SwapBlankPicture(Picture& picture)
 
 } // namespace
 
+Track* TrackOfNumber(std::int32_t number)
+{
+    SongState& song = Shared().Song;
+    return number >= 1 && number <= song.TrackCount ? &At(song.Tracks, number) : nullptr;
+}
+
 std::int32_t AddMusicTrack()
 {
     SongState& song = Shared().Song;

@@ -9,7 +9,10 @@
 
 namespace sprout {
 
-// Changes to the shared song's list of tracks.
+// The shared song's list of tracks.
+
+/// The track of that number, nullptr outside 1..`TrackCount`.
+[[nodiscard]] Track* TrackOfNumber(std::int32_t number);
 
 /// Appends an empty music track and returns its number.
 std::int32_t AddMusicTrack();

@@ -6,6 +6,7 @@
 #include <chrono>
 
 #include "core/Shared.h"
+#include "core/TrackList.h"
 #include "main_window/rules/Transport.h"
 #include "sound/PlayMod.h"
 #include "sound/TuneRender.h"
@@ -16,13 +17,6 @@ namespace sprout {
 namespace {
 
 constexpr std::chrono::milliseconds kTitlePlayInterval{1000};
-
-/// A track of the shared song, nullptr for other numbers.
-Track* HoveredTrack(std::int32_t number)
-{
-    SongState& song = Shared().Song;
-    return number >= 1 && number <= song.TrackCount ? &At(song.Tracks, number) : nullptr;
-}
 
 std::int32_t TuneInterval(const Tune& tune)
 {
@@ -89,12 +83,12 @@ void TrackTitlePlay::Tick()
 
 int TrackTitlePlay::PlayHovered()
 {
-    Track* const hovered = HoveredTrack(canvas->HoverTrack());
+    Track* const hovered = TrackOfNumber(canvas->HoverTrack());
     if (canvas->TrackTuneBtnVisible() && hovered)
         return PlayHoveredTune(hovered->TrackTune);
     if (canvas->TrackAudioBtnVisible())
         return PlayHoveredAudio(hovered);
-    if (const Track* const brushed = HoveredTrack(canvas->BrushedTrack()))
+    if (const Track* const brushed = TrackOfNumber(canvas->BrushedTrack()))
         return PlayBrushedTune(brushed->TrackTune);
     return kHoverWaitInterval;
 }

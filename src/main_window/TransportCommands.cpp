@@ -9,6 +9,7 @@
 #include "base/Numbers.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
+#include "core/TrackList.h"
 #include "main_window/rules/Transport.h"
 #include "sound/PlayMod.h"
 #include "sound/TrackRender.h"
@@ -31,13 +32,6 @@ bool Passes(const PlayCheck& check)
     if (!check.message.line1.empty())
         ShowMessage(check.message.line1, check.message.line2);
     return check.goesOn;
-}
-
-/// A track of the shared song, nullptr for other numbers.
-Track* TrackOfNumber(std::int32_t number)
-{
-    SongState& song = Shared().Song;
-    return number >= 1 && number <= song.TrackCount ? &At(song.Tracks, number) : nullptr;
 }
 
 void RenderTrackOfNumber(std::int32_t number)

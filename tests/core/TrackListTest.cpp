@@ -41,6 +41,16 @@ protected:
     SongState& song = Shared().Song;
 };
 
+TEST_F(TrackListTest, FindsTheTracksOfTheSongAlone)
+{
+    NameTracks({"a", "b"});
+    EXPECT_EQ(TrackOfNumber(0), nullptr);
+    EXPECT_EQ(TrackOfNumber(1), &At(song.Tracks, 1));
+    EXPECT_EQ(TrackOfNumber(2), &At(song.Tracks, 2));
+    EXPECT_EQ(TrackOfNumber(3), nullptr);
+    EXPECT_EQ(TrackOfNumber(-1), nullptr);
+}
+
 TEST_F(TrackListTest, ANewTrackIsAnEmptyMusicTrackBehindTheOthers)
 {
     EXPECT_EQ(AddMusicTrack(), 3);

@@ -42,7 +42,7 @@ MemoryStatus PosixMachine::GlobalMemoryStatus() const
 
 fs::path PosixMachine::TempPath() const
 {
-    // Safe in any thread: nothing in the program changes its environment
+    // Safe in any thread: nothing in the program changes its environment.
     const char* named = std::getenv("TMPDIR");
     return named && *named ? named : "/tmp";
 }

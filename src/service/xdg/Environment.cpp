@@ -20,7 +20,7 @@ namespace fs = std::filesystem;
 
 fs::path FromEnvironment(const char* name)
 {
-    // Safe in any thread: nothing in the program changes its environment
+    // Safe in any thread: nothing in the program changes its environment.
     const char* value = std::getenv(name);
     return value ? value : "";
 }
