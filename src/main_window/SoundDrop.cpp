@@ -6,6 +6,7 @@
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTimer>
+#include <QWidget>
 
 namespace sprout {
 
