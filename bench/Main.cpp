@@ -40,9 +40,9 @@ namespace {
 
 class LoudMessages : public Messages {
 public:
-    void MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/) override
+    void MessageBox(const Words& title, const Words& text, MessageIcon /*icon*/) override
     {
-        std::fprintf(stderr, "%s: %s\n", std::string(title).c_str(), std::string(text).c_str());
+        std::fprintf(stderr, "%s: %s\n", title.English().c_str(), text.English().c_str());
         std::exit(1);
     }
 };

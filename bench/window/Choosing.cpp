@@ -205,7 +205,7 @@ void MeasureBeats(const fs::path& installed, const fs::path& scratch, int count)
 class TuneWindowDisplay : public PlayDisplay {
 public:
     [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
-    void ShowSoundStatus(std::string_view /*text*/) override {}
+    void ShowSoundStatus(const Words& /*text*/) override {}
     void EnablePlayPosTimer() override {}
     void UpdateThisTune() override { sprout::UpdateThisTune(); }
 };

@@ -48,9 +48,9 @@ constexpr std::chrono::seconds kRestMeasured{20};
 
 class LoudMessages : public Messages {
 public:
-    void MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/) override
+    void MessageBox(const Words& title, const Words& text, MessageIcon /*icon*/) override
     {
-        std::fprintf(stderr, "%s: %s\n", std::string(title).c_str(), std::string(text).c_str());
+        std::fprintf(stderr, "%s: %s\n", title.English().c_str(), text.English().c_str());
         std::exit(1);
     }
 };
@@ -146,7 +146,7 @@ public:
         TheServices() = {&messages, &screen, &files, &machine, nullptr, nullptr, stretch.get(), &sound, &transport};
         // As at the start of the program.
         if (sound.SoundDeviceCount() == 0)
-            messages.MessageBox("", "No sound device.", MessageIcon::None);
+            messages.MessageBox({}, Words::Text("No sound device."), MessageIcon::None);
         NewSong();
         canvas.resize(1000, 600);
         canvas.show();

@@ -6,10 +6,13 @@
 
 #include <exception>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "app/start/SampleSong.h"
 #include "app/start/StartUp.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "core/Shared.h"
 #include "main_window/MainFrm.h"
 #include "service/Services.h"
@@ -35,11 +38,7 @@ void ShowSong(MainFrm& window)
 /// The program is useful without the table of tunes, which is read again when the tune window opens.
 void FillTuneTable()
 {
-    try {
-        LoadTuneFiles();
-    } catch (const std::exception&) {
-        return;
-    }
+    GuardedQuietly("Reading the table of tunes", LoadTuneFiles);
 }
 
 void StartSound(MainFrm& window)
@@ -52,12 +51,13 @@ void StartSound(MainFrm& window)
 void TellKeptSongs()
 {
     Guarded([] {
-        std::string names;
+        std::vector<Words> names;
         for (const std::string& name : TakeKeptSongs())
-            names += (names.empty() ? "\"" : ", \"") + name + "\"";
-        if (!names.empty())
-            ShowMessage("What was not saved last time is kept as the song " + names,
-                        "in the folder " + PathText(Shared().UserSongs));
+            names.push_back(Words::Text("\"%1\"", name));
+        const Words list = Words::Joined(std::move(names), ", ");
+        if (!list.IsBlank())
+            ShowMessage(Words::Text("What was not saved last time is kept as the song %1", list),
+                        Words::Text("in the folder %1", PathText(Shared().UserSongs)));
     });
 }
 

@@ -2,7 +2,8 @@
 #include "app/SystemEnd.h"
 
 #include <cstdlib>
-#include <exception>
+
+#include "base/Guarded.h"
 
 namespace sprout {
 
@@ -27,11 +28,8 @@ void SystemEnd::End()
 
 void SystemEnd::KeepSong()
 {
-    try {
-        keeper.KeepUnsavedSong();
-    } catch (const std::exception&) {
-        return; // nobody is left to be told
-    }
+    // Nobody is left to be told.
+    GuardedQuietly("Keeping the unsaved song", [this] { keeper.KeepUnsavedSong(); });
 }
 
 } // namespace sprout

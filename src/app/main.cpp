@@ -12,6 +12,7 @@
 #include "app/sound/MachineCapture.h"
 #include "app/sound/MachineSound.h"
 #include "app/start/StartUp.h"
+#include "base/Guarded.h"
 #include "core/Paths.h"
 #include "main_window/MainFrm.h"
 #include "main_window/TransportCommands.h"

@@ -19,33 +19,33 @@ FileSource::FileSource(const std::filesystem::path& path)
 {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
-        throw RunTimeError("The file " + path.native() + " was not found.");
+        throw RunTimeError(Words::Text("The file %1 was not found.", path.native()));
     file.pubsetbuf(nullptr, 0); // the cursor has its own buffer
     if (!file.open(path, std::ios::in | std::ios::binary))
-        throw RunTimeError("The file " + path.native() + " could not be opened.");
+        throw RunTimeError(Words::Text("The file %1 could not be opened.", path.native()));
     const auto end = file.pubseekoff(0, std::ios::end);
     if (end < 0)
-        throw RunTimeError("The file " + path.native() + " could not be read.");
+        throw RunTimeError(Words::Text("The file %1 could not be read.", path.native()));
     size = static_cast<std::uint64_t>(static_cast<std::streamoff>(end));
 }
 
 void FileSource::Read(std::uint64_t offset, std::span<std::byte> bytes)
 {
     if (offset > size || bytes.size() > size - offset)
-        throw RunTimeError("The file is too short.");
+        throw RunTimeError(Words::Text("The file is too short."));
     const auto place = static_cast<std::streamoff>(offset);
     if (std::streamoff(file.pubseekpos(place, std::ios::in)) != place)
-        throw RunTimeError("The file could not be read.");
+        throw RunTimeError(Words::Text("The file could not be read."));
     const auto count = static_cast<std::streamsize>(bytes.size());
     // The stream reads bytes as its characters.
     if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count)
-        throw RunTimeError("The file could not be read to its end.");
+        throw RunTimeError(Words::Text("The file could not be read to its end."));
 }
 
 void MemorySource::Read(std::uint64_t offset, std::span<std::byte> bytes)
 {
     if (offset > content.size() || bytes.size() > content.size() - offset)
-        throw RunTimeError("The data are too short.");
+        throw RunTimeError(Words::Text("The data are too short."));
     const auto from = content.subspan(static_cast<std::size_t>(offset), bytes.size());
     std::copy(from.begin(), from.end(), bytes.begin());
 }
@@ -58,7 +58,7 @@ ByteCursor::ByteCursor(ByteSource& bytes, std::uint64_t first, std::uint64_t las
 void ByteCursor::Require(std::uint64_t count) const
 {
     if (count > Left())
-        throw RunTimeError("The file is damaged: it ends too early.");
+        throw RunTimeError(Words::Text("The file is damaged: it ends too early."));
 }
 
 void ByteCursor::Fill()
@@ -100,14 +100,14 @@ std::int32_t ByteCursor::ReadInt32()
 void ByteCursor::MoveTo(std::uint64_t place)
 {
     if (place < begin || place > end)
-        throw RunTimeError("The file is damaged: it points beyond its end.");
+        throw RunTimeError(Words::Text("The file is damaged: it points beyond its end."));
     offset = place;
 }
 
 void ByteCursor::Narrow(std::uint64_t newEnd)
 {
     if (newEnd < offset || newEnd > end)
-        throw RunTimeError("The file is damaged: it points beyond its end.");
+        throw RunTimeError(Words::Text("The file is damaged: it points beyond its end."));
     end = newEnd;
 }
 

@@ -6,13 +6,20 @@
 
 namespace sprout {
 
-std::string ErrorText(const std::exception& error)
+RunTimeError::RunTimeError(const Words& sentence)
+    : std::runtime_error(sentence.English()), words(std::make_shared<const Words>(sentence))
+{
+}
+
+Words ErrorWords(const std::exception& error)
 {
     if (dynamic_cast<const std::bad_alloc*>(&error) || dynamic_cast<const std::length_error*>(&error))
-        return "There is not enough memory.";
+        return Words::Text("There is not enough memory.");
+    if (const auto* own = dynamic_cast<const RunTimeError*>(&error))
+        return own->Sentence();
     if (const auto* system = dynamic_cast<const std::system_error*>(&error))
-        return system->code().message();
-    return error.what();
+        return Words::AsIs(system->code().message());
+    return Words::AsIs(error.what());
 }
 
 } // namespace sprout

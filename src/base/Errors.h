@@ -2,22 +2,28 @@
 #pragma once
 
 #include <exception>
+#include <memory>
 #include <stdexcept>
-#include <string>
+
+#include "base/Words.h"
 
 namespace sprout {
 
-/// One of the program's own run-time errors; `what()` is a plain sentence that may be shown to the user.
+/// One of the program's own run-time errors: a plain sentence that may be shown to the user. `what()` is its English.
 class RunTimeError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit RunTimeError(const Words& sentence);
+
+    [[nodiscard]] const Words& Sentence() const { return *words; }
+
+private:
+    std::shared_ptr<const Words> words; ///< copying an error must not throw another
 };
 
 /// Thrown when the user stops long work. It is not a failure, so code that reports failures does not report it.
 class WorkStopped {};
 
-/// The sentence that describes an exception to the user: its own text, or plain words for those of the standard
-/// library.
-[[nodiscard]] std::string ErrorText(const std::exception& error);
+/// The sentence that describes an exception to the user: its own, or plain words for those of the standard library.
+[[nodiscard]] Words ErrorWords(const std::exception& error);
 
 } // namespace sprout

@@ -121,7 +121,7 @@ std::int32_t LongsWriter::Count() const
 {
     const std::uint64_t count = bytes / kElementBytes;
     if (count > static_cast<std::uint64_t>(std::numeric_limits<std::int32_t>::max()))
-        throw RunTimeError("There is too much sound for one file.");
+        throw RunTimeError(Words::Text("There is too much sound for one file."));
     return static_cast<std::int32_t>(count);
 }
 
@@ -157,7 +157,7 @@ LongsReader::LongsReader(ByteSource& source, std::uint64_t begin) : cursor(sourc
 {
     const std::int32_t lastIndex = cursor.ReadInt32();
     if (lastIndex < 0)
-        throw RunTimeError("The file is damaged: it tells no length.");
+        throw RunTimeError(Words::Text("The file is damaged: it tells no length."));
     cursor.Require(static_cast<std::uint64_t>(lastIndex) * kElementBytes);
     const std::uint64_t end = begin + (static_cast<std::uint64_t>(lastIndex) + 1) * kElementBytes;
     cursor.Narrow(end);
@@ -177,9 +177,9 @@ void LongsReader::Require(std::int32_t count, std::int64_t size) const
 {
     assert(size > 0);
     if (count < 0)
-        throw RunTimeError("The file is damaged: a count is below zero.");
+        throw RunTimeError(Words::Text("The file is damaged: a count is below zero."));
     if (static_cast<std::uint64_t>(count) > Left() / static_cast<std::uint64_t>(size))
-        throw RunTimeError("The file is damaged: it promises more than it holds.");
+        throw RunTimeError(Words::Text("The file is damaged: it promises more than it holds."));
 }
 
 void LongsReader::GetMany(std::span<std::int32_t> elements)
@@ -198,7 +198,7 @@ std::string LongsReader::GetText()
     const std::uint64_t blockEnd = BlockEnd(cursor.ReadInt32());
     const std::int32_t length = cursor.ReadInt32();
     if (length < 0 || cursor.Offset() > blockEnd || static_cast<std::uint64_t>(length) > blockEnd - cursor.Offset())
-        throw RunTimeError("The file is damaged: a text is longer than its place.");
+        throw RunTimeError(Words::Text("The file is damaged: a text is longer than its place."));
     std::string stored(static_cast<std::size_t>(length), '\0');
     cursor.Read(std::as_writable_bytes(std::span(stored)));
     cursor.MoveTo(blockEnd);
@@ -209,7 +209,7 @@ Channel LongsReader::GetChannel(std::int32_t length, std::uint64_t blockEnd)
 {
     const std::uint64_t sampleBytes = static_cast<std::uint64_t>(length) * sizeof(std::int16_t);
     if (cursor.Offset() > blockEnd || sampleBytes > blockEnd - cursor.Offset())
-        throw RunTimeError("The file is damaged: a sound is longer than its place.");
+        throw RunTimeError(Words::Text("The file is damaged: a sound is longer than its place."));
     Channel channel = Channel::Unfilled(length);
     if (length > 0)
         cursor.Read(std::as_writable_bytes(channel.Change().subspan(1)));
@@ -224,13 +224,13 @@ WaveData LongsReader::GetWave()
     if (lastIndex == 0)
         return wave;
     if (lastIndex < kWaveHeadElements - 1)
-        throw RunTimeError("The file is damaged: a sound has no head.");
+        throw RunTimeError(Words::Text("The file is damaged: a sound has no head."));
     wave.Bits = cursor.ReadInt32();
     wave.Channels = cursor.ReadInt32();
     wave.Rate = cursor.ReadInt32();
     wave.Length = cursor.ReadInt32();
     if (wave.Length < 0)
-        throw RunTimeError("The file is damaged: the length of a sound is below zero.");
+        throw RunTimeError(Words::Text("The file is damaged: the length of a sound is below zero."));
     const std::uint64_t left = cursor.Offset();
     wave.WavL = GetChannel(wave.Length, blockEnd);
     if (wave.Channels == 2 && wave.Length > 0) {

@@ -13,7 +13,7 @@ std::int32_t RoundHalfEven(double value)
 {
     const double rounded = std::nearbyint(value);
     if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
-        throw RunTimeError("A number is too large.");
+        throw RunTimeError(Words::Text("A number is too large."));
     return static_cast<std::int32_t>(rounded);
 }
 

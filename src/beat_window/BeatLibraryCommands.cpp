@@ -9,6 +9,7 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "base/Product.h"
 #include "base/ScaledPicture.h"
 #include "beats/BeatCommands.h"
@@ -39,16 +40,11 @@ void HintBeatCommand(std::string_view text)
 }
 
 /// Shows a message, and a hint for as long as it is open.
-void TellOfBeat(std::string_view hint, std::string_view line1, std::string_view line2 = {})
+void TellOfBeat(std::string_view hint, const Words& line1, const Words& line2 = {})
 {
     HintBeatCommand(hint);
     ShowMessage(line1, line2);
     HintBeatCommand("");
-}
-
-std::string QuotedBeat(std::string_view name)
-{
-    return '"' + BeatNameForPeople(name) + '"';
 }
 
 void KeepBeatFolder(std::string_view setting, const fs::path& file)
@@ -60,23 +56,25 @@ void KeepBeatFolder(std::string_view setting, const fs::path& file)
 
 std::optional<fs::path> AskForBeatWave()
 {
-    return ChooseFileToOpen({"Please select a .wav file to use", GetSetting(kGeneralSection, kSoundFolderSetting, ""),
-                             "", "wav", "Wave files(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter), 3});
+    return ChooseFileToOpen({Words::Text("Please select a .wav file to use"),
+                             GetSetting(kGeneralSection, kSoundFolderSetting, ""), "", "wav",
+                             Words::Text("Wave files(*.wav)|*.wav|All files|*.*|%1", Words(kOtherSoundsFilter)), 3});
 }
 
 std::optional<fs::path> AskForBeatPicture()
 {
     const std::string folder = GetSetting(kGeneralSection, kPictureFolderSetting, PathText(Shared().InstallStars));
-    return ChooseFileToOpen({"Please select a picture file (32x32) to use", folder, "", "bmp",
-                             "Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*"});
+    return ChooseFileToOpen(
+        {Words::Text("Please select a picture file (32x32) to use"), folder, "", "bmp",
+         Words::Text("Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*")});
 }
 
 void TellBeatTooLong(const WaveData& wave)
 {
     const double seconds = BeatSeconds(wave);
     if (seconds > kLongestShownSeconds)
-        ShowMessage("The duration of this file is " + SecondsText(seconds) + " seconds,",
-                    "This will be trimmed to 3 seconds.");
+        ShowMessage(Words::Text("The duration of this file is %1 seconds,", SecondsText(seconds)),
+                    Words::Text("This will be trimmed to 3 seconds."));
 }
 
 /// Converts only as much of a sound as a beat can use.
@@ -100,7 +98,7 @@ std::optional<ChosenSound> ChooseBeatSound()
     const WaveData wave = LoadWaveFile(sound->WaveFile);
     if (wave.Length < 1) {
         HintBeatCommand("");
-        ShowMessage("Failed to load wav file.");
+        ShowMessage(Words::Text("Failed to load wav file."));
         return std::nullopt;
     }
     KeepBeatFolder(kSoundFolderSetting, *file);
@@ -127,29 +125,29 @@ BeatLibraryCommands::BeatLibraryCommands(BeatTable& ofWindow, std::function<void
 
 void BeatLibraryCommands::AddBeat()
 {
-    Try("Error adding beat", &BeatLibraryCommands::TryToAdd);
+    Try(Words::Later("Error adding beat\r\n%1"), &BeatLibraryCommands::TryToAdd);
 }
 
 void BeatLibraryCommands::RenameBeat()
 {
-    Try("Error renaming beat", &BeatLibraryCommands::TryToRename);
+    Try(Words::Later("Error renaming beat\r\n%1"), &BeatLibraryCommands::TryToRename);
 }
 
 void BeatLibraryCommands::DeleteBeat()
 {
-    Try("Error deleting beat", &BeatLibraryCommands::TryToDelete);
+    Try(Words::Later("Error deleting beat\r\n%1"), &BeatLibraryCommands::TryToDelete);
 }
 
 void BeatLibraryCommands::TryToAdd()
 {
     HintBeatCommand("Choose a wav file and small (32x32) bmp picture file");
     if (!AddHelpShown)
-        ShowMessage("Select a .wav file to add as a new beat.");
+        ShowMessage(Words::Text("Select a .wav file to add as a new beat."));
     const std::optional<ChosenSound> sound = ChooseBeatSound();
     if (!sound)
         return;
     if (!AddHelpShown)
-        ShowMessage("Now select a picture (32x32) file to use for this new beat.");
+        ShowMessage(Words::Text("Now select a picture (32x32) file to use for this new beat."));
     const std::optional<Picture> picture = ChooseBeatPicture();
     if (!picture)
         return;
@@ -160,8 +158,8 @@ void BeatLibraryCommands::TryToAdd()
     table.RefindBeatName = name.Name;
     if (name.FirstName != name.Name) {
         HintBeatCommand("");
-        ShowMessage(QuotedBeat(name.FirstName) + " already exists",
-                    "New beat is added as " + BeatNameForPeople(name.Name));
+        ShowMessage(Words::Text("\"%1\" already exists", BeatNameForPeople(name.FirstName)),
+                    Words::Text("New beat is added as %1", BeatNameForPeople(name.Name)));
     }
     SaveBeatOrder(table);
     reload();
@@ -170,14 +168,14 @@ void BeatLibraryCommands::TryToAdd()
 void BeatLibraryCommands::TryToRename()
 {
     if (!HasSelection(table))
-        return TellOfBeat(kNoBeatHint, "Select a beat to rename.");
+        return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to rename."));
     const std::string oldName = SelectedEntry(table).Name;
     if (IsSelectedProtected(table))
         return TellOfBeat("Can not rename",
-                          QuotedBeat(oldName) + " is an original Beat from " + std::string(kProductFamily),
-                          "Renaming is not possible.");
+                          Words::Text("\"%1\" is an original Beat from %2", BeatNameForPeople(oldName), kProductFamily),
+                          Words::Text("Renaming is not possible."));
     HintBeatCommand("Enter a new name for this beat");
-    const std::string newName = SafeFileName(AskText("", "Enter the new name"));
+    const std::string newName = SafeFileName(AskText("", Words::Text("Enter the new name")));
     if (newName.empty() || newName == oldName)
         return;
     RenameBeatFiles(oldName, newName);
@@ -191,15 +189,16 @@ void BeatLibraryCommands::TryToRename()
 void BeatLibraryCommands::TryToDelete()
 {
     if (!HasSelection(table))
-        return TellOfBeat(kNoBeatHint, "Select a beat to delete.");
+        return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to delete."));
     HintBeatCommand("This will delete the selected beat");
     if (IsSelectedProtected(table))
         return TellOfBeat("Blue bordered are originals, red bordered are your new beats",
-                          "This an original Beat from " + std::string(kProductFamily), "It can not be deleted.");
+                          Words::Text("This an original Beat from %1", kProductFamily),
+                          Words::Text("It can not be deleted."));
     const std::string name = SelectedEntry(table).Name;
     HintBeatCommand("Click Yes to delete, No to keep");
-    if (AskYesNo("Are you sure to delete this Beat?", "Beat name: " + BeatNameForPeople(name),
-                 " Confirm Delete Beat") != 1)
+    if (AskYesNo(Words::Text("Are you sure to delete this Beat?"),
+                 Words::Text("Beat name: %1", BeatNameForPeople(name)), Words::Text(" Confirm Delete Beat")) != 1)
         return;
     HintBeatCommand("");
     if (table.SelectedBeat == table.BeatListCount)
@@ -209,15 +208,14 @@ void BeatLibraryCommands::TryToDelete()
     reload();
 }
 
-void BeatLibraryCommands::Try(std::string_view text, void (BeatLibraryCommands::*command)())
+void BeatLibraryCommands::Try(const LaterWords& failed, void (BeatLibraryCommands::*command)())
 {
-    try {
-        (this->*command)();
-    } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("", std::string(text) + "\r\n" + ErrorText(error));
+    const auto tell = [this, &failed](const std::exception& error) {
+        TheServices().messages->MessageBox({}, failed.With(ErrorWords(error)));
         // Part of it may have been done: the list shows what the folder contains now.
         Guarded(reload);
-    }
+    };
+    GuardedBy(tell, [this, command] { (this->*command)(); });
 }
 
 } // namespace sprout

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string_view>
 
+#include "base/Words.h"
 #include "beats/BeatTable.h"
 
 namespace sprout {
@@ -27,7 +28,7 @@ private:
     void TryToAdd();
     void TryToRename();
     void TryToDelete();
-    void Try(std::string_view text, void (BeatLibraryCommands::*command)());
+    void Try(const LaterWords& failed, void (BeatLibraryCommands::*command)());
 
     BeatTable& table;
     std::function<void()> reload;

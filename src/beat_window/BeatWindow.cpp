@@ -36,7 +36,7 @@ constexpr std::array kBeatHints{
 BeatWindow::BeatWindow(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("BeatWindow"));
-    SetCaption(" Choose a Beat");
+    SetCaption(Words::Text(" Choose a Beat"));
     ShowHintsInBand();
     MakeLabels();
     MakeGrid();

@@ -33,7 +33,7 @@ void PlayChosenBeat(BeatTable& table)
     if (HasSelection(table))
         return PlaySelectedBeat(table);
     ShowHint(QStringLiteral("Click on a picture to select a beat"));
-    ShowMessage("Select a Beat first.");
+    ShowMessage(Words::Text("Select a Beat first."));
     ShowHint({});
 }
 
@@ -42,7 +42,7 @@ void PlaySelectedBeat(BeatTable& table)
     if (!HasSelection(table))
         return;
     LoadSelectedSound(table);
-    PlayWaveStatus(SelectedEntry(table).Sound, "Playing Beat", Loop::No);
+    PlayWaveStatus(SelectedEntry(table).Sound, Words::Text("Playing Beat"), Loop::No);
 }
 
 } // namespace sprout

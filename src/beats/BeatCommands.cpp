@@ -74,13 +74,13 @@ fs::path UserBeatFile(std::string_view name, std::string_view extension)
 void RenameBeatFile(const fs::path& from, const fs::path& to)
 {
     if (to.empty())
-        throw RunTimeError("This cannot be the name of a file.");
+        throw RunTimeError(Words::Text("This cannot be the name of a file."));
     const fs::path source = FindFile(from);
     if (source.empty())
-        throw RunTimeError("The file " + PathText(from.filename()) + " was not found.");
+        throw RunTimeError(Words::Text("The file %1 was not found.", PathText(from.filename())));
     const fs::path taken = FindFile(to);
     if (!taken.empty() && !fs::equivalent(taken, source))
-        throw RunTimeError("The file " + PathText(taken.filename()) + " already exists.");
+        throw RunTimeError(Words::Text("The file %1 already exists.", PathText(taken.filename())));
     fs::rename(source, to);
 }
 

@@ -103,12 +103,9 @@ Picture LoadPictureFile(const fs::path& path)
     const fs::path file = FindFile(path);
     if (file.empty())
         return Shared().DefaultTunePicture;
-    try {
-        return TheServices().pictures->LoadPicture(file);
-    } catch (const std::exception& error) {
-        Tell("Error Loading Picture", ErrorText(error));
-        return Shared().DefaultTunePicture;
-    }
+    Picture picture = Shared().DefaultTunePicture;
+    GuardedTelling(Words::Text("Error Loading Picture"), [&] { picture = TheServices().pictures->LoadPicture(file); });
+    return picture;
 }
 
 void LoadBeatFile(Beat& beat, std::string_view name)

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string_view>
-
+#include "base/Words.h"
 #include "service/Screen.h"
 #include "service/Services.h"
 
@@ -33,12 +32,12 @@ private:
 class StoppableWork {
 public:
     /// what: a short sentence that says what is being done.
-    explicit StoppableWork(std::string_view what) { TheServices().screen->BeginStoppable(what); }
+    explicit StoppableWork(const Words& what) { TheServices().screen->BeginStoppable(what); }
     StoppableWork(const StoppableWork&) = delete;
     StoppableWork& operator=(const StoppableWork&) = delete;
     ~StoppableWork() { TheServices().screen->EndStoppable(); }
 
-    void GoOnWith(std::string_view what) { TheServices().screen->NextStage(what); }
+    void GoOnWith(const Words& what) { TheServices().screen->NextStage(what); }
 };
 
 } // namespace sprout

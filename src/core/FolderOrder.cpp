@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "base/Errors.h"
+#include "base/Log.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "core/Paths.h"
@@ -55,7 +56,8 @@ void FolderOrder::Write() const
 {
     try {
         ini.Write(path);
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
+        LogFailure("Writing a folder's order", error);
         return; // the entries are then in the order of their files
     }
 }

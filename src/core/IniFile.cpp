@@ -9,6 +9,7 @@
 #include "base/ByteCursor.h"
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Log.h"
 #include "base/Text.h"
 #include "core/Paths.h"
 #include "service/Files.h"
@@ -108,7 +109,8 @@ IniFile IniFile::Read(const std::filesystem::path& path)
         std::string bytes(static_cast<std::size_t>(source.Size()), '\0');
         source.Read(0, std::as_writable_bytes(std::span(bytes)));
         return IniFile(bytes);
-    } catch (const std::runtime_error&) {
+    } catch (const std::runtime_error& error) {
+        LogFailure("Reading an ini file", error);
         return unread;
     }
 }
@@ -179,7 +181,7 @@ std::string IniFile::Bytes() const
 void IniFile::Write(const std::filesystem::path& path) const
 {
     if (unreadable)
-        throw RunTimeError("The file " + PathText(path) + " could not be read and stays as it is.");
+        throw RunTimeError(Words::Text("The file %1 could not be read and stays as it is.", PathText(path)));
     const std::string bytes = Bytes();
     const std::span<const std::byte> piece = std::as_bytes(std::span(bytes));
     const std::filesystem::path file = FindFile(path);
@@ -209,7 +211,8 @@ void PutIniValues(std::string_view section, std::span<const IniValue> values, co
     try {
         if (ini.Bytes() != before)
             ini.Write(file);
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
+        LogFailure("Writing an ini file", error);
         // If the file cannot be written, the program continues without it.
         return;
     }

@@ -13,6 +13,7 @@
 #include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
+#include "base/Guarded.h"
 #include "base/Text.h"
 #include "core/Busy.h"
 #include "core/Shared.h"
@@ -47,30 +48,31 @@ bool IsFolder(const fs::path& path)
 }
 
 /// Some of the files that a copy left out, one per line.
-std::string LeftOutText(std::span<const LeftOutFile> files)
+Words LeftOutWords(std::span<const LeftOutFile> files)
 {
     constexpr std::size_t most = 5;
-    std::string text;
+    std::vector<Words> lines;
     for (const LeftOutFile& file : files.first(std::min(files.size(), most)))
-        text += (text.empty() ? "" : "\r\n") + PathText(file.Path.filename()) + ": " + file.Reason;
+        lines.push_back(Words::Text("%1: %2", PathText(file.Path.filename()), file.Reason));
     if (files.size() > most)
-        text += "\r\nand " + std::to_string(files.size() - most) + " more";
-    return text;
+        lines.push_back(Words::Text("and %1 more", files.size() - most));
+    return Words::Joined(std::move(lines), "\r\n");
 }
 
-/// Why a folder, or part of it, was not copied; empty if everything was.
-std::string FillFolder(const fs::path& source, const fs::path& target)
+/// Why a folder, or part of it, was not copied; blank if everything was.
+Words FillFolder(const fs::path& source, const fs::path& target)
 {
     const WorkingSign sign;
-    const StoppableWork work("Getting your " + LowerCase(PathText(target.filename())) + " ready");
-    try {
-        return LeftOutText(
-            TheServices().folderCopies->FillFolder(source, target, [](std::size_t done, std::size_t total) {
-                TheServices().screen->ShowProgress(done, total);
-            }));
-    } catch (const std::exception& error) {
-        return ErrorText(error);
-    }
+    const StoppableWork work(Words::Text("Getting your %1 ready", LowerCase(PathText(target.filename()))));
+    Words failure;
+    GuardedBy([&failure](const std::exception& error) { failure = ErrorWords(error); },
+              [&] {
+                  const auto show = [](std::size_t done, std::size_t total) {
+                      TheServices().screen->ShowProgress(done, total);
+                  };
+                  failure = LeftOutWords(TheServices().folderCopies->FillFolder(source, target, show));
+              });
+    return failure;
 }
 
 /// Only recreates folders of the user's own tree: a mistyped folder is not a missing one.
@@ -82,7 +84,8 @@ void MakeUserFolderAgain(const fs::path& folder)
         if (!own.empty() && AsFolder(folder) == own)
             fs::create_directories(folder, error);
     if (error)
-        throw RunTimeError("The folder " + PathText(folder) + " could not be made again: " + error.message() + ".");
+        throw RunTimeError(
+            Words::Text("The folder %1 could not be made again: %2.", PathText(folder), error.message()));
 }
 
 } // namespace
@@ -139,19 +142,21 @@ void OpenWithShell(std::string_view target)
 bool CopyFolder(const fs::path& source, const fs::path& destination)
 {
     const fs::path folder = source.has_filename() ? source : source.parent_path();
-    const std::string failure = FillFolder(folder, destination / folder.filename());
-    if (!failure.empty())
+    const Words failure = FillFolder(folder, destination / folder.filename());
+    const bool isCopied = failure.IsBlank();
+    if (!isCopied)
         TheServices().messages->MessageBox(
-            "Error message", "Following error occurd while copying folder " + PathText(source) + "\r\n" + failure,
+            Words::Text("Error message"),
+            Words::Text("Following error occurd while copying folder %1\r\n%2", PathText(source), failure),
             MessageIcon::Exclamation);
-    return failure.empty();
+    return isCopied;
 }
 
 void PrepareToReplace(const fs::path& file)
 {
     MakeUserFolderAgain(file.parent_path());
     if (!TheServices().files->MayBeReplaced(file))
-        throw RunTimeError("The file " + PathText(file) + " may not be changed.");
+        throw RunTimeError(Words::Text("The file %1 may not be changed.", PathText(file)));
 }
 
 void FindTempFolder()

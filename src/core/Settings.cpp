@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/Errors.h"
+#include "base/Log.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "core/Paths.h"
@@ -65,7 +66,8 @@ void ReadColour(std::string_view key, std::int32_t& colour)
         const std::int32_t value = RoundHalfEven(NumberPrefix(GetSetting("Color", key, "-1")));
         if (value != notSet)
             colour = value;
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
+        LogFailure("Reading a colour", error);
         return; // impossible colour number: the built-in one stays
     }
 }

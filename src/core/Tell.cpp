@@ -12,7 +12,7 @@ std::size_t messages = 0;
 
 }
 
-void Tell(std::string_view title, std::string_view text)
+void Tell(const Words& title, const Words& text)
 {
     ++messages;
     TheServices().messages->MessageBox(title, text);

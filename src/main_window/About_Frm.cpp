@@ -50,7 +50,7 @@ protected:
 About_Frm::About_Frm(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("About_Frm"));
-    SetCaption(" About");
+    SetCaption(Words::Text(" About"));
     AddLine("ProductLbl", TitleFont(), kProductName);
     AddLine("PurposeLbl", LabelFont(), "Paint a song and hear it grow.");
     AddLine("VersionLbl", LabelFont(), "Version " SPROUT_VERSION ", " + std::string(kAppVersionDate));

@@ -31,15 +31,15 @@ enum class AudioType { Cancelled = 0, Recording = 1, File = 2 };
 
 AudioType AskAudioType()
 {
-    Msg3BtnFrm question(WindowInFront(), "Choose Audio Type to add:");
-    question.SetCaption(" Add Audio Track");
+    Msg3BtnFrm question(WindowInFront(), Words::Text("Choose Audio Type to add:"));
+    question.SetCaption(Words::Text(" Add Audio Track"));
     return static_cast<AudioType>(question.ShowModal());
 }
 
 std::optional<fs::path> AskForSoundFile()
 {
-    const std::string filter = "Wave File(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter);
-    return ChooseFileToOpen({"Please select a wav file to open", "", "", "wav", filter, 3});
+    return ChooseFileToOpen({Words::Text("Please select a wav file to open"), "", "", "wav",
+                             Words::Text("Wave File(*.wav)|*.wav|All files|*.*|%1", Words(kOtherSoundsFilter)), 3});
 }
 
 bool IsTooLong(const WaveData& wave)
@@ -49,7 +49,8 @@ bool IsTooLong(const WaveData& wave)
 
 void TellTooLong()
 {
-    ShowMessage("This file is too long.", "Use less then 2 minutes audio.", "Load wav file failed.");
+    ShowMessage(Words::Text("This file is too long."), Words::Text("Use less then 2 minutes audio."),
+                Words::Text("Load wav file failed."));
 }
 
 /// The wave of a file, or only its header, if it can become a track; else the reason was shown.
@@ -60,7 +61,7 @@ std::optional<WaveData> ReadTrackWave(const fs::path& file, ReadSamples samples)
         return std::nullopt;
     // Headers lie, and a file may change between the two reads.
     if (wave->Length < 1) {
-        ShowMessage("No wave Data found in file");
+        ShowMessage(Words::Text("No wave Data found in file"));
         return std::nullopt;
     }
     if (IsTooLong(*wave)) {
@@ -87,16 +88,17 @@ std::optional<fs::path> DroppedFile(const QList<QUrl>& places)
 {
     std::error_code error;
     if (places.size() != 1) {
-        ShowMessage("Please drop one sound at a time.");
+        ShowMessage(Words::Text("Please drop one sound at a time."));
         return std::nullopt;
     }
     if (!places.front().isLocalFile()) {
-        ShowMessage("This sound is not on this computer.", "Save it here first and drop it then.");
+        ShowMessage(Words::Text("This sound is not on this computer."),
+                    Words::Text("Save it here first and drop it then."));
         return std::nullopt;
     }
     fs::path file(QFile::encodeName(places.front().toLocalFile()).toStdString());
     if (!fs::is_regular_file(file, error)) {
-        ShowMessage("This is no sound file.", PathText(file.filename()));
+        ShowMessage(Words::Text("This is no sound file."), Words::AsIs(PathText(file.filename())));
         return std::nullopt;
     }
     return file;
@@ -132,7 +134,7 @@ void AudioTrackCommands::AddRecording()
     if (!wave)
         return;
     if (wave->Length < 1)
-        return ShowMessage("Nothing was recorded.");
+        return ShowMessage(Words::Text("Nothing was recorded."));
     AddTrack(std::move(*wave));
 }
 

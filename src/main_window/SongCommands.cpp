@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Guarded.h"
 #include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -35,15 +36,11 @@ void ClearHint()
     ShowHint({});
 }
 
-/// Runs a command; errors are reported after `firstLine`.
+/// Runs a command; its error is shown in place of the "%1" of `failed`.
 template <typename Command>
-void RunCommand(std::string_view firstLine, Command command)
+void RunCommand(const LaterWords& failed, Command command)
 {
-    try {
-        command();
-    } catch (const std::exception& error) {
-        ShowMessage(std::string(firstLine) + "\r\n" + ErrorText(error));
-    }
+    GuardedBy([&failed](const std::exception& error) { ShowMessage(failed.With(ErrorWords(error))); }, command);
 }
 
 /// Tells the window that a song is being chosen while this object lives.
@@ -86,7 +83,7 @@ SongCommands::SongCommands(QWidget& owner, SongCommandCalls windowCalls) : windo
 {
 }
 
-bool SongCommands::ConfirmSongSave(std::string_view errorLine)
+bool SongCommands::ConfirmSongSave(const LaterWords& failed)
 {
     SongState& song = Shared().Song;
     if (!song.SongChanged) {
@@ -95,13 +92,13 @@ bool SongCommands::ConfirmSongSave(std::string_view errorLine)
     }
     ShowHint(QStringLiteral("This Song is changed, say \"Yes\" to save if you need it"));
     SaveConfirmFrm question(&window, song.SongTitle);
-    question.SetCaption(" " + std::string(kProductName));
+    question.SetCaption(CaptionOf({}));
     const auto answer = static_cast<SaveAnswer>(question.ShowModal());
     ClearHint();
     if (answer != SaveAnswer::Yes)
         return answer == SaveAnswer::No;
     bool saved = false;
-    RunCommand(errorLine, [&] { saved = SaveUnderTitle(); });
+    RunCommand(failed, [&] { saved = SaveUnderTitle(); });
     return saved;
 }
 
@@ -119,9 +116,9 @@ bool SongCommands::SaveUnderTitle()
 
 void SongCommands::NewBtn()
 {
-    constexpr std::string_view errorLine = "Error making new file";
-    RunCommand(errorLine, [&] {
-        if (!ConfirmSongSave(errorLine))
+    constexpr LaterWords failed = Words::Later("Error making new file\r\n%1");
+    RunCommand(failed, [&] {
+        if (!ConfirmSongSave(failed))
             return;
         ClearHint();
         Player().StopPlay();
@@ -134,9 +131,9 @@ void SongCommands::NewBtn()
 void SongCommands::OpenBtn()
 {
     const OpeningMark mark(calls.Opening);
-    constexpr std::string_view errorLine = "Error Opening file";
-    RunCommand(errorLine, [&] {
-        if (!ConfirmSongSave(errorLine))
+    constexpr LaterWords failed = Words::Later("Error Opening file\r\n%1");
+    RunCommand(failed, [&] {
+        if (!ConfirmSongSave(failed))
             return;
         ClearHint();
         Player().StopPlay();
@@ -151,7 +148,7 @@ void SongCommands::OpenChosenSong()
         return;
     const fs::path file = PlaceOfSong(*name);
     if (!FileExists(file)) {
-        ShowMessage("This song is not there any more.", *name);
+        ShowMessage(Words::Text("This song is not there any more."), Words::AsIs(*name));
         return;
     }
     OpenSaveClass().Load_Song(file);
@@ -178,7 +175,7 @@ bool SongCommands::SaveUnderChosenName()
     title.Keep();
     SongChanges::SongSaved(song);
     calls.UpdateSongTitle();
-    ShowMessage("Your song \"" + song.SongTitle + "\" is saved.", "", "Good!");
+    ShowMessage(Words::Text("Your song \"%1\" is saved.", song.SongTitle), {}, Words::Text("Good!"));
     return true;
 }
 
@@ -187,7 +184,7 @@ void SongCommands::SongTitleChgBtn()
     SongState& song = Shared().Song;
     ClearHint();
     SongTitleFrm form(&window, song.SongTitle, song.SongCreatedBy);
-    form.SetCaption(" Change Song Title");
+    form.SetCaption(Words::Text(" Change Song Title"));
     if (form.ShowModal() != 1)
         return;
     const bool changed = form.Name() != song.SongTitle || form.CreatedBy() != song.SongCreatedBy;

@@ -6,6 +6,8 @@
 #include <functional>
 #include <string_view>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// What the song commands need from the main window.
@@ -24,7 +26,7 @@ public:
     /// Asks about unsaved changes and saves the song if the user wants that. The user chooses another name if saving
     /// under the title would overwrite another file. Returns false if the current action must not continue because a
     /// question was cancelled or the song was not saved. Errors are reported after `errorLine`.
-    [[nodiscard]] bool ConfirmSongSave(std::string_view errorLine = kErrorSaving);
+    [[nodiscard]] bool ConfirmSongSave(const LaterWords& failed = kErrorSaving);
 
     void NewBtn();
     void OpenBtn();
@@ -37,7 +39,7 @@ private:
     [[nodiscard]] bool SaveUnderTitle();
     [[nodiscard]] bool SaveUnderChosenName();
 
-    static constexpr std::string_view kErrorSaving = "Error Saving file";
+    static constexpr LaterWords kErrorSaving = Words::Later("Error Saving file\r\n%1");
 
     QWidget& window;
     SongCommandCalls calls;

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/StripControls.h"
 
+#include "base/Words.h"
 #include "main_window/TrackPictures.h"
 #include "main_window/rules/TitleStrip.h"
 #include "ui/Dialogs.h"
 #include "ui/Hints.h"
 #include "ui/Look.h"
+#include "ui/QtText.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr const char* kLabel1Message = "Click on the Play button below this.";
-constexpr const char* kLabel5Message = "Click on the Tune button below this.";
+constexpr LaterWords kLabel1Message = Words::Later("Click on the Play button below this.");
+constexpr LaterWords kLabel5Message = Words::Later("Click on the Tune button below this.");
 
 constexpr QRect kLabel5Place{16, 0, 48, 19};
 constexpr QRect kLabel1Place{96, 0, 44, 19};
@@ -23,12 +25,13 @@ constexpr int kAddButtonLeft = (kTitleStripWidth - kAddButtonsApart - kAddButton
 constexpr int kTopLblGap = 2;
 constexpr int kTopLblHeight = 22;
 
-TrackLabel* AddHeading(QWidget& strip, const char* name, const QString& text, const char* message, const QRect& place)
+TrackLabel* AddHeading(QWidget& strip, const char* name, const QString& text, const LaterWords& message,
+                       const QRect& place)
 {
     auto* label = new TrackLabel(
         name, text, [message] { ShowMessage(message); }, &strip);
     label->setGeometry(place);
-    label->setAccessibleDescription(QString::fromUtf8(message));
+    label->setAccessibleDescription(QtText(Words(message)));
     return label;
 }
 

@@ -26,8 +26,8 @@ bool IsTrackNumber(std::int32_t number)
 
 bool MayDelete(std::int32_t number)
 {
-    return AskYesNo("Are you sure to delete this Track?", "Track No: " + std::to_string(number),
-                    " Confirm Delete Track") == 1;
+    return AskYesNo(Words::Text("Are you sure to delete this Track?"), Words::Text("Track No: %1", number),
+                    Words::Text(" Confirm Delete Track")) == 1;
 }
 
 } // namespace
@@ -119,7 +119,7 @@ void TrackCommands::TuneNotFilledTimerTick()
         for (const std::int32_t track : BlinkTunesNotFilled())
             canvas.DrawTrackOne(track);
     };
-    Guarded(blink, [this] { tuneNotFilledTimer.stop(); });
+    GuardedOnce(blink, [this] { tuneNotFilledTimer.stop(); });
 }
 
 } // namespace sprout

@@ -28,7 +28,7 @@ int PlayHoveredTune(Tune& tune)
     if (!tune.TuneWaveValid)
         RenderStarCycle(tune);
     if (tune.TuneWaveValid)
-        PlayWaveStatus(tune.TuneWave, "Playing Star", Loop::No);
+        PlayWaveStatus(tune.TuneWave, Words::Text("Playing Star"), Loop::No);
     return TuneInterval(tune);
 }
 
@@ -36,7 +36,7 @@ int PlayHoveredAudio(const Track* track)
 {
     if (!track || !track->IsAudio() || track->TrackAudio.Length <= 0)
         return AudioHoverInterval({});
-    PlayWaveStatus(track->TrackAudio, "Playing Audio/Recording", Loop::No);
+    PlayWaveStatus(track->TrackAudio, Words::Text("Playing Audio/Recording"), Loop::No);
     return AudioHoverInterval(track->TrackAudio);
 }
 
@@ -44,7 +44,7 @@ int PlayHoveredAudio(const Track* track)
 int PlayBrushedTune(const Tune& tune)
 {
     if (tune.TuneWaveValid)
-        PlayWaveStatus(tune.TuneWave, "Playing Star", Loop::No);
+        PlayWaveStatus(tune.TuneWave, Words::Text("Playing Star"), Loop::No);
     else
         Player().StopPlay();
     return TuneInterval(tune);
@@ -78,7 +78,7 @@ void TrackTitlePlay::Tick()
     const QScopedValueRollback busy(isBusy, true);
     // The new interval starts at the end of a render, not at its beginning. An error is shown once instead of again and
     // again.
-    Guarded([this] { timer.start(PlayHovered()); }, [this] { timer.stop(); });
+    GuardedOnce([this] { timer.start(PlayHovered()); }, [this] { timer.stop(); });
 }
 
 int TrackTitlePlay::PlayHovered()

@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "base/Guarded.h"
 #include "base/Numbers.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -29,7 +30,7 @@ constexpr std::int32_t kMainWindow = 1;
 /// Shows the message of a check; returns whether the command continues.
 bool Passes(const PlayCheck& check)
 {
-    if (!check.message.line1.empty())
+    if (!check.message.line1.IsEmpty())
         ShowMessage(check.message.line1, check.message.line2);
     return check.goesOn;
 }
@@ -153,17 +154,14 @@ void TransportCommands::TellNoSound()
 {
     if (std::exchange(noSoundTold, true))
         return;
-    ShowMessage("I cannot find a loudspeaker to play your music on.",
-                "Plug in headphones or a loudspeaker and press play again. Or ask a grown-up.");
+    ShowMessage(Words::Text("I cannot find a loudspeaker to play your music on."),
+                Words::Text("Plug in headphones or a loudspeaker and press play again. Or ask a grown-up."));
 }
 
 void TransportCommands::ShutSound()
 {
-    try {
-        SetSoundDriver(false);
-    } catch (const std::exception&) {
-        // A driver that cannot be closed ends with the program.
-    }
+    // A driver that cannot be closed ends with the program.
+    GuardedQuietly("Closing the sound driver", [] { SetSoundDriver(false); });
     ReleasePlayer();
 }
 
@@ -172,7 +170,7 @@ std::int32_t TransportCommands::MainWindowHandle() const
     return kMainWindow;
 }
 
-void TransportCommands::ShowSoundStatus(std::string_view text)
+void TransportCommands::ShowSoundStatus(const Words& text)
 {
     if (soundStatusLbl)
         soundStatusLbl->setText(QtText(text));
@@ -211,7 +209,7 @@ void TransportCommands::PlayPosTimerTick()
         }
     };
     // An error is shown once instead of again and again.
-    Guarded(follow, [this] { playPosTimer.stop(); });
+    GuardedOnce(follow, [this] { playPosTimer.stop(); });
 }
 
 void TransportCommands::MovePlayIndicator()
@@ -230,7 +228,7 @@ void TransportCommands::PlayIndicatorOff()
 {
     if (canvas)
         canvas->ShowPlayIndicator({});
-    ShowSoundStatus("Done");
+    ShowSoundStatus(Words::Text("Done"));
 }
 
 } // namespace sprout

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 
+#include "base/Words.h"
 #include "core/Song.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/TrackTitlePlay.h"
@@ -40,7 +41,7 @@ public:
     static void ShutSound();
 
     [[nodiscard]] std::int32_t MainWindowHandle() const override;
-    void ShowSoundStatus(std::string_view text) override;
+    void ShowSoundStatus(const Words& text) override;
     void EnablePlayPosTimer() override;
     void UpdateThisTune() override;
 

@@ -64,7 +64,8 @@ WaveData SoundToEdit(std::int32_t number)
 
 void TellSelectionMissing()
 {
-    ShowMessage("Make a selection on the waveform", "(by mouse drag) to adjust volume or delete.");
+    ShowMessage(Words::Text("Make a selection on the waveform"),
+                Words::Text("(by mouse drag) to adjust volume or delete."));
 }
 
 } // namespace
@@ -78,7 +79,7 @@ struct AudioEditFrm::CommandRow {
 AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent), sound(new EditedSound(this))
 {
     setObjectName(QStringLiteral("AudioEditFrm"));
-    SetCaption(" " + std::string(kProductName) + " - Edit Audio");
+    SetCaption(Words::Text(" %1 - Edit Audio", kProductName));
     MakeSound();
     SelectOkLbl = &AddLabel("SelectOkLbl");
     SelectOkLbl->setText(tr("Drag the mouse over a part to select it"));
@@ -199,7 +200,7 @@ void AudioEditFrm::DeleteBtn()
         return TellSelectionMissing();
     Player().StopPlay();
     if (sound->Editor().SelectsAll())
-        return ShowMessage("Can not delete all,", "Select a part and delete.");
+        return ShowMessage(Words::Text("Can not delete all,"), Words::Text("Select a part and delete."));
     sound->Cut();
     PlayEditWave();
 }

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "base/Errors.h"
+#include "base/Guarded.h"
 #include "base/Product.h"
 #include "core/Busy.h"
 #include "recording/CaptureDisplay.h"
@@ -59,14 +60,15 @@ QRect BodyRect(const QRect& place)
 void OpenSoundControl(SoundControl control)
 {
     Guarded([control] {
-        std::string names;
+        Words names;
         for (const std::string& name : TheServices().desktop->OpenSoundControl(control))
-            names += names.empty() ? name : " or " + name;
-        if (names.empty())
+            names = names.IsBlank() ? Words::AsIs(name) : Words::Text("%1 or %2", names, name);
+        if (names.IsBlank())
             return;
-        TheServices().messages->MessageBox("", "The program " + names +
-                                                   " is not found,\r\nthat is needed to set recording sound source\r\n"
-                                                   "Please set recording source using volume control in the task bar.");
+        TheServices().messages->MessageBox(
+            {}, Words::Text("The program %1 is not found,\r\nthat is needed to set recording sound source\r\nPlease "
+                            "set recording source using volume control in the task bar.",
+                            names));
     });
 }
 
@@ -75,7 +77,7 @@ void OpenSoundControl(SoundControl control)
 Recd_Frm::Recd_Frm(QWidget* parent) : BandedForm(parent), capture(*TheServices().capture), take(capture)
 {
     setObjectName(QStringLiteral("Recd_Frm"));
-    SetCaption(" " + std::string(kProductName) + " - Record Audio");
+    SetCaption(Words::Text(" %1 - Record Audio", kProductName));
     MakeButtons();
     MakeBird();
     MakeDisplay();
@@ -186,23 +188,28 @@ void Recd_Frm::InitilizeForm()
 }
 
 bool Recd_Frm::InitilizeDriver()
-try {
-    constexpr std::string_view failed = "Failed to create DirectX Sound Capture Buffer.";
+{
+    bool isOpen = false;
+    const auto tell = [](const std::exception& error) { ShowMessage(ErrorWords(error)); };
+    GuardedBy(tell, [&] { isOpen = OpenCapture(); });
+    return isOpen;
+}
+
+bool Recd_Frm::OpenCapture()
+{
+    constexpr LaterWords failed = Words::Later("Failed to create DirectX Sound Capture Buffer.");
     display->Clear();
     switch (capture.Open()) {
     case CaptureOpening::Ready:
         CaptureTimer->start();
         return true;
     case CaptureOpening::NoMicrophone:
-        ShowMessage(failed, "Please plug in a microphone.");
+        ShowMessage(failed, Words::Text("Please plug in a microphone."));
         return false;
     case CaptureOpening::Failed:
         break;
     }
     ShowMessage(failed);
-    return false;
-} catch (const std::exception& error) {
-    ShowMessage(ErrorText(error));
     return false;
 }
 
@@ -219,7 +226,7 @@ void Recd_Frm::StartCapture()
 {
     Recd().RecdLength = 0;
     if (!take.Start()) {
-        ShowMessage("Recording Failed.");
+        ShowMessage(Words::Text("Recording Failed."));
         return;
     }
     view.Start();
@@ -250,7 +257,7 @@ void Recd_Frm::ClickCancel()
 void Recd_Frm::reject()
 {
     const bool isAsked = view.Elapsed() >= kWorthAsking;
-    if (!isAsked || AskYesNo("Throw this recording away?") == 1)
+    if (!isAsked || AskYesNo(Words::Text("Throw this recording away?")) == 1)
         ClickCancel();
 }
 

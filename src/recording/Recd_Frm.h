@@ -41,6 +41,8 @@ public:
     void reject() override;
 
 private:
+    /// Opens the device; a failure is shown, and an error of the machine is thrown.
+    [[nodiscard]] bool OpenCapture();
     void MakeButtons();
     void MakeBird();
     void MakeDisplay();

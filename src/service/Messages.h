@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string_view>
+#include "base/Words.h"
 
 namespace sprout {
 
@@ -15,8 +15,8 @@ public:
     Messages& operator=(const Messages&) = delete;
     virtual ~Messages() = default;
 
-    /// Shows `text`; an empty title leaves the box untitled. Returns when the user has read it. Interface thread only.
-    virtual void MessageBox(std::string_view title, std::string_view text, MessageIcon icon = MessageIcon::None) = 0;
+    /// Shows `text`; a blank title leaves the box untitled. Returns when the user has read it. Interface thread only.
+    virtual void MessageBox(const Words& title, const Words& text, MessageIcon icon = MessageIcon::None) = 0;
 };
 
 } // namespace sprout

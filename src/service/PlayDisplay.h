@@ -2,7 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
+
+#include "base/Words.h"
 
 namespace sprout {
 
@@ -17,7 +18,7 @@ public:
     /// A number above 0 that identifies the main window.
     [[nodiscard]] virtual std::int32_t MainWindowHandle() const = 0;
     /// Shows a text in the main window's `SoundStatusLbl`.
-    virtual void ShowSoundStatus(std::string_view text) = 0;
+    virtual void ShowSoundStatus(const Words& text) = 0;
     /// Starts the main window's `PlayPosTimer`, which follows the playback and detects its end.
     virtual void EnablePlayPosTimer() = 0;
     /// Makes the tune window show the tune whose sound has begun.

@@ -2,7 +2,8 @@
 #pragma once
 
 #include <cstddef>
-#include <string_view>
+
+#include "base/Words.h"
 
 namespace sprout {
 
@@ -28,9 +29,9 @@ public:
 
     /// From here to `EndStoppable` the user may stop the work. If it takes long, a window shows its progress and
     /// `what`, a short sentence about what is being done. Calls do not nest. Without windows nothing can be stopped.
-    virtual void BeginStoppable(std::string_view /*what*/) {}
+    virtual void BeginStoppable(const Words& /*what*/) {}
     /// The work continues with another stage.
-    virtual void NextStage(std::string_view /*what*/) {}
+    virtual void NextStage(const Words& /*what*/) {}
     virtual void EndStoppable() {}
 
     /// Makes tracks without a chosen tune blink.

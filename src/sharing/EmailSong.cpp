@@ -9,6 +9,8 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
+#include "base/Log.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Mail.h"
@@ -20,6 +22,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
+#include "ui/QtText.h"
 
 namespace sprout {
 
@@ -52,11 +55,9 @@ private:
 /// Whether a mail program was started with the message.
 bool WasStarted(Mail& mail, const MailMessage& message, const std::stop_token& stop)
 {
-    try {
-        return mail.HandOver(message, stop);
-    } catch (const std::exception&) {
-        return false; // the message tells where the file is
-    }
+    bool isStarted = false;
+    GuardedQuietly("Starting a mail program", [&] { isStarted = mail.HandOver(message, stop); });
+    return isStarted; // if not, a message tells where the file is
 }
 
 /// While this is true, a message would get between the user and an open question, end a mouse stroke, or interrupt long
@@ -94,8 +95,8 @@ bool EmailSong::MailSong()
     try {
         MailFolder folder;
         const fs::path wma = folder.Path() / AttachmentName(Shared().Song.SongTitle);
-        const ExportOutcome outcome = MixAndWrite(WriteWmaFile, wma, "Writing the wma file");
-        if (!outcome.Line1.empty())
+        const ExportOutcome outcome = MixAndWrite(WriteWmaFile, wma, Words::Text("Writing the wma file"));
+        if (!outcome.Line1.IsBlank())
             ShowMessage(outcome.Line1, outcome.Line2);
         if (outcome.End != ExportEnd::Written) {
             if (Shared().Song.SongMix.Length == 0)
@@ -114,7 +115,8 @@ void EmailSong::HandOver(const fs::path& wma)
 {
     file = wma;
     const SongState& song = Shared().Song;
-    const MailMessage message{{}, MailSubject(song.SongTitle), MailBody(song.SongTitle, song.SongCreatedBy), wma};
+    const MailMessage message{
+        {}, ShownText(MailSubject(song.SongTitle)), ShownText(MailBody(song.SongTitle, song.SongCreatedBy)), wma};
     const auto work = [this, &mail = *TheServices().mail, message](const std::stop_token& stop) {
         const bool started = WasStarted(mail, message, stop);
         QMetaObject::invokeMethod(
@@ -122,8 +124,9 @@ void EmailSong::HandOver(const fs::path& wma)
     };
     try {
         handOver = std::jthread(work);
-    } catch (const std::system_error&) {
-        tellTimer.start(); // no thread can be started
+    } catch (const std::system_error& error) {
+        LogFailure("Starting a thread for mail", error);
+        tellTimer.start();
     }
 }
 
@@ -145,7 +148,7 @@ void EmailSong::TellFailure()
     }
     tellTimer.stop();
     Guarded([this] {
-        ShowMessage("Failed to send email. Song is saved to file:", PathText(file));
+        ShowMessage(Words::Text("Failed to send email. Song is saved to file:"), Words::AsIs(PathText(file)));
         OpenWithShell(PathText(file.parent_path()));
     });
     underWay = false;

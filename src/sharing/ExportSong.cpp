@@ -11,6 +11,7 @@
 #include "base/Errors.h"
 #include "base/Extensions.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "service/Files.h"
@@ -31,41 +32,41 @@ namespace {
 
 /// The texts and the writer for one kind of sound file.
 struct ExportKind {
-    std::string_view selectHint;
-    const char* dialogTitle;
+    LaterWords selectHint;
+    LaterWords dialogTitle;
     std::string_view extension; ///< with its dot
-    const char* filter;
-    std::string_view savingHint;
-    std::string_view writingStage;
-    std::string_view saved;
-    std::string_view failed;
-    std::string_view error;
+    LaterWords filter;
+    LaterWords savingHint;
+    LaterWords writingStage;
+    LaterWords saved;
+    LaterWords failed;
+    LaterWords error; ///< "%1" takes its reason
     SongWriter write;
 };
 
-constexpr ExportKind kWavKind{"Select wav file name to save the song as audio (.wav) file",
-                              "Please select a .wav file to save",
+constexpr ExportKind kWavKind{Words::Later("Select wav file name to save the song as audio (.wav) file"),
+                              Words::Later("Please select a .wav file to save"),
                               kWaveExtension,
-                              "Wave files(*.wav)|*.wav|All files|*.*",
-                              "Saving the song as audio (.wav) file",
-                              "Writing the wav file",
-                              "Good! Your song is saved as audio (.wav) file",
-                              "Failed to save the song as audio (.wav) file.",
-                              "Error saving song to wav file",
+                              Words::Later("Wave files(*.wav)|*.wav|All files|*.*"),
+                              Words::Later("Saving the song as audio (.wav) file"),
+                              Words::Later("Writing the wav file"),
+                              Words::Later("Good! Your song is saved as audio (.wav) file"),
+                              Words::Later("Failed to save the song as audio (.wav) file."),
+                              Words::Later("Error saving song to wav file\r\n%1"),
                               WriteWavFile};
 
-constexpr ExportKind kWmaKind{"Select wma file name to save the song as audio (.wma) file",
-                              "Please select a WMA file name to save",
+constexpr ExportKind kWmaKind{Words::Later("Select wma file name to save the song as audio (.wma) file"),
+                              Words::Later("Please select a WMA file name to save"),
                               kWmaExtension,
-                              "Windows Media Audio files(*.wma)|*.wma|All files|*.*",
-                              "Saving the song as audio (.wma) file",
-                              "Writing the wma file",
-                              "Good! Your song is saved as audio (.wma) file",
-                              "Failed to save the song as audio (.wma) file.",
-                              "Error saving song to wma",
+                              Words::Later("Windows Media Audio files(*.wma)|*.wma|All files|*.*"),
+                              Words::Later("Saving the song as audio (.wma) file"),
+                              Words::Later("Writing the wma file"),
+                              Words::Later("Good! Your song is saved as audio (.wma) file"),
+                              Words::Later("Failed to save the song as audio (.wma) file."),
+                              Words::Later("Error saving song to wma\r\n%1"),
                               WriteWmaFile};
 
-void HintExport(std::string_view text)
+void HintExport(const Words& text)
 {
     ShowHint(QtText(text));
 }
@@ -75,8 +76,8 @@ bool MayOverwriteSound(const fs::path& target)
     std::error_code error;
     // What is not a plain file is refused later, without a question.
     return !fs::is_regular_file(target, error) ||
-           AskYesNo("A file with this name already exists: " + PathText(target.filename()),
-                    "Do you wish to overwrite?") == 1;
+           AskYesNo(Words::Text("A file with this name already exists: %1", PathText(target.filename())),
+                    Words::Text("Do you wish to overwrite?")) == 1;
 }
 
 /// The file to save to, with the right extension and permission to overwrite it; nothing if the user cancelled.
@@ -105,7 +106,7 @@ void KeepSoundFolder(const fs::path& target)
 
 void TellNotReplaced(const fs::path& target)
 {
-    ShowMessage("File could not be deleted.", PathText(target));
+    ShowMessage(Words::Text("File could not be deleted."), Words::AsIs(PathText(target)));
 }
 
 /// Returns whether the song window must hide.
@@ -117,17 +118,28 @@ bool SaveTo(const ExportKind& kind, const fs::path& target)
     }
     HintExport(kind.savingHint);
     const ExportOutcome outcome = MixAndWrite(kind.write, target, kind.writingStage);
-    if (!outcome.Line1.empty())
+    if (!outcome.Line1.IsBlank())
         ShowMessage(outcome.Line1, outcome.Line2);
     if (outcome.End == ExportEnd::NotReplaced) {
         TellNotReplaced(target);
         return false;
     }
     if (outcome.End == ExportEnd::Written)
-        ShowMessage(kind.saved, PathText(target.filename()));
+        ShowMessage(kind.saved, Words::AsIs(PathText(target.filename())));
     else
         ShowMessage(kind.failed);
     return true;
+}
+
+bool AskAndSave(const ExportKind& kind)
+{
+    HintExport(kind.selectHint);
+    const std::optional<fs::path> target = AskForSoundFile(kind);
+    HintExport({});
+    if (!target)
+        return false;
+    KeepSoundFolder(*target);
+    return SaveTo(kind, *target);
 }
 
 } // namespace
@@ -135,21 +147,17 @@ bool SaveTo(const ExportKind& kind, const fs::path& target)
 bool SaveSongAsSound(SoundFileKind soundFile)
 {
     const ExportKind& kind = soundFile == SoundFileKind::Wav ? kWavKind : kWmaKind;
+    bool mustHide = false;
+    const auto tell = [&kind](const std::exception& error) {
+        HintExport({});
+        TheServices().messages->MessageBox({}, kind.error.With(ErrorWords(error)));
+    };
     try {
-        HintExport(kind.selectHint);
-        const std::optional<fs::path> target = AskForSoundFile(kind);
-        HintExport("");
-        if (!target)
-            return false;
-        KeepSoundFolder(*target);
-        return SaveTo(kind, *target);
+        GuardedBy(tell, [&] { mustHide = AskAndSave(kind); });
     } catch (const WorkStopped&) {
-        HintExport("");
-    } catch (const std::exception& error) {
-        HintExport("");
-        TheServices().messages->MessageBox("", std::string(kind.error) + "\r\n" + ErrorText(error));
+        HintExport({});
     }
-    return false;
+    return mustHide;
 }
 
 } // namespace sprout

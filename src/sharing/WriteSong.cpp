@@ -8,9 +8,9 @@
 
 namespace sprout {
 
-ExportOutcome MixAndWrite(SongWriter write, const std::filesystem::path& file, std::string_view writing)
+ExportOutcome MixAndWrite(SongWriter write, const std::filesystem::path& file, const Words& writing)
 {
-    StoppableWork work("Mixing your song");
+    StoppableWork work(Words::Text("Mixing your song"));
     MixSong();
     ShowHint({});
     work.GoOnWith(writing);

@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include "base/Words.h"
 #include "songs/SongExport.h"
 
 namespace sprout {
@@ -12,6 +13,6 @@ using SongWriter = ExportOutcome (*)(const WaveData&, const std::filesystem::pat
 
 /// Mixes the shared song and lets `write` turn it into a file, as stoppable work. writing: the name of the second half.
 /// Throws `WorkStopped`.
-[[nodiscard]] ExportOutcome MixAndWrite(SongWriter write, const std::filesystem::path& file, std::string_view writing);
+[[nodiscard]] ExportOutcome MixAndWrite(SongWriter write, const std::filesystem::path& file, const Words& writing);
 
 } // namespace sprout

@@ -7,6 +7,7 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "service/Messages.h"
 #include "service/Services.h"
 #include "song_window/SongList.h"
@@ -36,22 +37,22 @@ void ReloadSongs(SongList& list)
 
 void CopySongFile(SongList& list)
 {
-    if (!IsSongSelected(list, "Select a song to copy"))
+    if (!IsSongSelected(list, Words::Text("Select a song to copy")))
         return;
     const SongFile song = *list.SelectedSong();
     const std::string newName = FreeCopyName(list.Songs(), song.Name);
     CopySong(song, newName);
     ReloadSongs(list);
-    ShowMessage("The song \"" + song.Name + "\"", "is copied to \"" + newName + "\"");
+    ShowMessage(Words::Text("The song \"%1\"", song.Name), Words::Text("is copied to \"%1\"", newName));
 }
 
 void DeleteSongFile(SongList& list)
 {
-    if (!IsSongSelected(list, "Select a song to delete."))
+    if (!IsSongSelected(list, Words::Text("Select a song to delete.")))
         return;
     HintSongFile("Click Yes to delete, No to keep");
     const SongFile song = *list.SelectedSong();
-    if (AskYesNo("Do you want to delete this song?", song.Name) == 1) {
+    if (AskYesNo(Words::Text("Do you want to delete this song?"), Words::AsIs(song.Name)) == 1) {
         DeleteSong(song);
         ReloadSongs(list);
     }
@@ -60,14 +61,15 @@ void DeleteSongFile(SongList& list)
 
 void RenameSongFile(SongList& list)
 {
-    if (!IsSongSelected(list, "Select a song to rename."))
+    if (!IsSongSelected(list, Words::Text("Select a song to rename.")))
         return;
     const SongFile song = *list.SelectedSong();
-    const std::string newName = SafeFileName(AskText(song.Name, "Enter the new name:"));
+    const std::string newName = SafeFileName(AskText(song.Name, Words::Text("Enter the new name:")));
     if (newName.empty())
         return;
     if (FindSong(list.Songs(), newName)) {
-        ShowMessage("A song with this name already exists", newName, "Rename Failed");
+        ShowMessage(Words::Text("A song with this name already exists"), Words::AsIs(newName),
+                    Words::Text("Rename Failed"));
         return;
     }
     RenameSong(song, newName);
@@ -78,22 +80,21 @@ void RenameSongFile(SongList& list)
     list.SelectRow(renamed == songs.end() ? -1 : static_cast<int>(renamed - songs.begin()));
 }
 
-/// Runs a command; an error is shown after `text`.
-void TrySongCommand(std::string_view text, void (*command)(SongList&), SongList& list)
+/// Runs a command; its error is shown in place of the "%1" of `failed`.
+void TrySongCommand(const LaterWords& failed, void (*command)(SongList&), SongList& list)
 {
-    try {
-        command(list);
-    } catch (const std::exception& error) {
+    const auto tell = [&](const std::exception& error) {
         HintSongFile("");
-        TheServices().messages->MessageBox("", std::string(text) + "\r\n" + ErrorText(error));
+        TheServices().messages->MessageBox({}, failed.With(ErrorWords(error)));
         // Another program may have changed the folder: the list shows what is there now.
         ReloadSongs(list);
-    }
+    };
+    GuardedBy(tell, [&] { command(list); });
 }
 
 } // namespace
 
-bool IsSongSelected(const SongList& list, std::string_view message)
+bool IsSongSelected(const SongList& list, const Words& message)
 {
     if (list.SelectedSong())
         return true;
@@ -105,17 +106,17 @@ bool IsSongSelected(const SongList& list, std::string_view message)
 
 void CopySelectedSong(SongList& list)
 {
-    TrySongCommand("Error Copying file", CopySongFile, list);
+    TrySongCommand(Words::Later("Error Copying file\r\n%1"), CopySongFile, list);
 }
 
 void DeleteSelectedSong(SongList& list)
 {
-    TrySongCommand("Error Deleting file", DeleteSongFile, list);
+    TrySongCommand(Words::Later("Error Deleting file\r\n%1"), DeleteSongFile, list);
 }
 
 void RenameSelectedSong(SongList& list)
 {
-    TrySongCommand("Error Renaming file", RenameSongFile, list);
+    TrySongCommand(Words::Later("Error Renaming file\r\n%1"), RenameSongFile, list);
 }
 
 } // namespace sprout

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <string_view>
+#include "base/Words.h"
 
 namespace sprout {
 
@@ -11,7 +11,7 @@ class SongList;
 // none. If a file cannot be changed, a message says why and the list shows what its folder contains then.
 
 /// True if a song is selected; otherwise shows `message`.
-[[nodiscard]] bool IsSongSelected(const SongList& list, std::string_view message);
+[[nodiscard]] bool IsSongSelected(const SongList& list, const Words& message);
 
 /// Copies the selected song's file to a free name beside it.
 void CopySelectedSong(SongList& list);

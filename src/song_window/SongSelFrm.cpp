@@ -114,13 +114,13 @@ void SongSelFrm::InitilizeThisWindow(SongSelMode newMode)
     TextTitleLbl->setText(QtText(layout.TextTitle));
     OkBtn->SetHint(QtText(layout.OkHint));
     SngNmLst->setAccessibleDescription(QtText(layout.ListHint));
-    Watcher().Watch(*SngNmLst->viewport(), layout.ListHint);
+    Watcher().Watch(*SngNmLst->viewport(), layout.ListHint.English());
     for (QWidget* widget : std::initializer_list<QWidget*>{TextTitleLbl, SongNmLbl, SongNameTxt})
         widget->setVisible(layout.HasNameBox);
     for (QWidget* button : soundFileButtons)
         button->setVisible(layout.HasSoundFiles);
     PlaceControls();
-    SngNmLst->SetNothingFound(layout.NothingFound);
+    SngNmLst->SetNothingFound(layout.NothingFound.English());
     SngNmLst->LoadSongNames();
     (layout.HasNameBox ? static_cast<QWidget*>(SongNameTxt) : SngNmLst)->setFocus();
 }
@@ -200,7 +200,7 @@ void SongSelFrm::ClickOk()
 
 void SongSelFrm::OpenSelected()
 {
-    if (IsSongSelected(*SngNmLst, "Song not selected."))
+    if (IsSongSelected(*SngNmLst, Words::Text("Song not selected.")))
         Accept(SngNmLst->SelectedSong()->Name);
 }
 
@@ -212,7 +212,7 @@ void SongSelFrm::AcceptTypedName()
     case NameDecision::AskForName:
         if (saving)
             Hint("Type a name in song name text box");
-        ShowMessage("Please enter a song name.");
+        ShowMessage(Words::Text("Please enter a song name."));
         if (saving)
             Hint("");
         break;
@@ -229,8 +229,8 @@ bool SongSelFrm::MayOverwrite(std::string_view name)
 {
     if (mode == SongSelMode::Save)
         Hint("Recommended to click 'No' and then save with another name");
-    const bool yes =
-        AskYesNo("A song with this name already exists: " + std::string(name), "Do you wish to overwrite?") == 1;
+    const bool yes = AskYesNo(Words::Text("A song with this name already exists: %1", name),
+                              Words::Text("Do you wish to overwrite?")) == 1;
     Hint("");
     return yes;
 }

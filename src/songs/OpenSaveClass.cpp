@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Guarded.h"
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -42,7 +43,7 @@ SongState ReadVersion(ByteSource& source, SongLoader loadVersion)
 {
     const std::optional<std::uint64_t> begin = FindHeadData(source);
     if (!begin)
-        throw RunTimeError("Failed to find Data");
+        throw RunTimeError(Words::Text("Failed to find Data"));
     SongState song;
     LongsReader data(source, *begin);
     loadVersion(data, song);
@@ -87,11 +88,10 @@ SongState ReadSong(const fs::path& path)
     const SongLoader loadVersion = LoaderOf(source);
     if (!loadVersion)
         return {};
-    try {
-        return ReadVersion(source, loadVersion);
-    } catch (const std::exception& error) {
-        throw SongDataError(ErrorText(error));
-    }
+    SongState song;
+    const auto tell = [](const std::exception& error) { throw SongDataError(ErrorWords(error)); };
+    GuardedBy(tell, [&] { song = ReadVersion(source, loadVersion); });
+    return song;
 }
 
 void OpenSaveClass::Load_Song(const fs::path& path)
@@ -102,13 +102,13 @@ void OpenSaveClass::Load_Song(const fs::path& path)
         if (TakeSong(found.empty() ? path : found))
             return;
     } catch (const SongDataError& error) {
-        Tell("Error Loading File", ErrorText(error));
+        Tell(Words::Text("Error Loading File"), ErrorWords(error));
     } catch (const std::exception& error) {
         FailLoading(shared);
-        return Tell("Error Opening File", ErrorText(error));
+        return Tell(Words::Text("Error Opening File"), ErrorWords(error));
     }
     FailLoading(shared);
-    Tell("", "Failed Loading");
+    Tell({}, Words::Text("Failed Loading"));
 }
 
 void OpenSaveClass::Save_Song(const fs::path& path)
@@ -124,7 +124,7 @@ void OpenSaveClass::Save_Song(const fs::path& path)
 void RequireTracks(const SongState& song)
 {
     if (song.TrackCount < 1)
-        throw RunTimeError("This song has no tracks, so it is not saved.");
+        throw RunTimeError(Words::Text("This song has no tracks, so it is not saved."));
 }
 
 bool MayReplaceUnasked(const fs::path& place)

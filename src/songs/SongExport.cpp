@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/Errors.h"
+#include "base/Log.h"
 #include "base/Numbers.h"
 #include "base/Product.h"
 #include "core/Shared.h"
@@ -31,17 +32,17 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr const char* kNoFormats = "Failed to get WMA Codec Formats";
-constexpr const char* kNotWritten = "Failed to write WMA file";
-constexpr const char* kNotOpened = "Failed to open WMA Writer";
-constexpr const char* kNotTaken = "Failed Writing to WMA file";
-constexpr const char* kNotClosed = "Failed Closing WMA writer";
+constexpr LaterWords kNoFormats = Words::Later("Failed to get WMA Codec Formats");
+constexpr LaterWords kNotWritten = Words::Later("Failed to write WMA file");
+constexpr LaterWords kNotOpened = Words::Later("Failed to open WMA Writer");
+constexpr LaterWords kNotTaken = Words::Later("Failed Writing to WMA file");
+constexpr LaterWords kNotClosed = Words::Later("Failed Closing WMA writer");
 constexpr std::int32_t kBlockSeconds = 10;
 
 /// The end of an export, explained by `line1`.
-ExportOutcome Refused(const char* line1, std::string line2 = {})
+ExportOutcome Refused(const LaterWords& line1, const Words& line2 = {})
 {
-    return {.Line1 = line1, .Line2 = std::move(line2)};
+    return {.Line1 = line1, .Line2 = line2};
 }
 
 /// Fills the list of codecs. Returns the message of a failure, otherwise nothing.
@@ -55,11 +56,11 @@ std::optional<ExportOutcome> GetWmaCodecList(WmaEncoder& encoder)
             return Refused(kNoFormats);
         const std::optional<std::string> list = encoder.FormatList();
         if (!list)
-            return Refused(kNoFormats, "Length needed = " + std::to_string(length));
+            return Refused(kNoFormats, Words::Text("Length needed = %1", length));
         Shared().Wma.Codecs = ParseWmaCodecs(*list);
         return std::nullopt;
     } catch (const std::exception& error) {
-        return Refused(kNoFormats, ErrorText(error));
+        return Refused(kNoFormats, ErrorWords(error));
     }
 }
 
@@ -105,11 +106,11 @@ WmaTags SongTags()
 std::optional<ExportOutcome> RefusedFormat(const WaveData& wave)
 {
     if (wave.Bits != 16)
-        return Refused(kNotWritten, "This WMA Writer can write only 16 bit wave file\r\nThis is " +
-                                        std::to_string(wave.Bits) + " bits");
+        return Refused(kNotWritten,
+                       Words::Text("This WMA Writer can write only 16 bit wave file\r\nThis is %1 bits", wave.Bits));
     if (wave.Channels != 2)
-        return Refused(kNotWritten, "This WMA Writer can write only stereo wave file\r\nThis is " +
-                                        std::to_string(wave.Channels) + " channel");
+        return Refused(kNotWritten, Words::Text("This WMA Writer can write only stereo wave file\r\nThis is %1 channel",
+                                                wave.Channels));
     return std::nullopt;
 }
 
@@ -133,8 +134,8 @@ bool TakeBlocks(const WaveData& wave, std::int32_t blockFrames, Take take)
     return true;
 }
 
-/// Writes a WMA file. Returns the message of a failure, otherwise null.
-const char* EncodeWave(WmaEncoder& encoder, Replacement& target, const WaveData& wave)
+/// Writes a WMA file. Returns the message of a failure, empty if there is none.
+LaterWords EncodeWave(WmaEncoder& encoder, Replacement& target, const WaveData& wave)
 {
     const std::unique_ptr<WmaFile> file = encoder.Open(
         target, {wave.Rate, wave.Channels, wave.Bits, Shared().Wma.ChosenCodec, Shared().Wma.ChosenFormat});
@@ -147,7 +148,7 @@ const char* EncodeWave(WmaEncoder& encoder, Replacement& target, const WaveData&
         static_cast<void>(file->Close()); // releases the handle; the file is abandoned
         return kNotTaken;
     }
-    return file->Close() ? nullptr : kNotClosed;
+    return file->Close() ? LaterWords() : kNotClosed;
 }
 
 /// Returns whether a complete file replaced its target. Throws `RunTimeError` if the disk refuses it.
@@ -181,14 +182,13 @@ ExportOutcome WriteWavFile(const WaveData& wave, const fs::path& path)
 {
     if (!MayWriteWave(wave, path))
         return {};
-    try {
+    ExportOutcome outcome;
+    GuardedTelling(Words::Text("Wav file Write error"), [&] {
         const std::unique_ptr<Replacement> file = TheServices().files->BeginReplacement(path);
         WriteWave(*file, wave);
-        return {.End = PutInPlace(*file)};
-    } catch (const std::exception& error) {
-        Tell("Wav file Write error", ErrorText(error));
-        return {};
-    }
+        outcome.End = PutInPlace(*file);
+    });
+    return outcome;
 }
 
 ExportOutcome WriteWmaFile(const WaveData& wave, const fs::path& path)
@@ -200,15 +200,16 @@ ExportOutcome WriteWmaFile(const WaveData& wave, const fs::path& path)
         return *failure;
     if (std::optional<ExportOutcome> refusal = RefusedFormat(wave))
         return *refusal;
-    const char* failure = kNotOpened;
+    LaterWords failure = kNotOpened;
     try {
         const std::unique_ptr<Replacement> file = TheServices().files->BeginReplacement(path);
         failure = kNotTaken;
-        if (const char* const told = EncodeWave(*encoder, *file, wave))
+        if (const LaterWords told = EncodeWave(*encoder, *file, wave); !told.IsEmpty())
             return Refused(told);
         failure = kNotClosed;
         return wave.Length > 0 ? ExportOutcome{.End = PutInPlace(*file)} : ExportOutcome{};
-    } catch (const std::exception&) { // from the disk or memory
+    } catch (const std::exception& error) { // from the disk or memory
+        LogFailure("Writing a WMA file", error);
         return Refused(failure);
     }
 }

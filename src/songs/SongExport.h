@@ -2,9 +2,9 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
 
 #include "base/WaveData.h"
+#include "base/Words.h"
 
 namespace sprout {
 
@@ -18,8 +18,8 @@ enum class ExportEnd {
 /// How an export ended, and the message that explains a failure; blank if there is none.
 struct ExportOutcome {
     ExportEnd End = ExportEnd::Failed;
-    std::string Line1{};
-    std::string Line2{};
+    Words Line1{};
+    Words Line2{};
 };
 
 /// Creates or replaces the WAV file `path` with `wave`. Like `SaveWaveFile`, and shows failures in the same way, but

@@ -33,9 +33,9 @@ fs::path FreePlaceBeside(const SongFile& song, std::string_view newName)
 {
     fs::path place = NamedFile(song.Path.parent_path() / "", newName, kSongExtension);
     if (place.empty())
-        throw RunTimeError("This cannot be the name of a song.");
+        throw RunTimeError(Words::Text("This cannot be the name of a song."));
     if (IsTaken(place))
-        throw RunTimeError("There is another file with this name.");
+        throw RunTimeError(Words::Text("There is another file with this name."));
     return place;
 }
 
@@ -95,7 +95,7 @@ void DeleteSong(const SongFile& song)
     // Checks the exact name: ignoring case could find another song instead of one that is gone.
     std::error_code error;
     if (fs::exists(song.Path, error) && !DeleteFile(song.Path))
-        throw RunTimeError("The file " + PathText(song.Path) + " could not be deleted.");
+        throw RunTimeError(Words::Text("The file %1 could not be deleted.", PathText(song.Path)));
 }
 
 } // namespace sprout

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/ByteCursor.h"
+#include "base/Log.h"
 #include "core/Busy.h"
 #include "core/Paths.h"
 #include "service/Screen.h"
@@ -59,7 +60,8 @@ bool WantsConversion(const fs::path& file)
     try {
         FileSource source(file);
         return !LoadsAsItIs(source);
-    } catch (const std::runtime_error&) {
+    } catch (const std::runtime_error& error) {
+        LogFailure("Looking into a sound file", error);
         return false;
     }
 }
@@ -67,7 +69,7 @@ bool WantsConversion(const fs::path& file)
 Converted Convert(const fs::path& file, std::int32_t mostSeconds, TooLong tooLong)
 {
     const Hourglass hourglass;
-    const StoppableWork work("Reading the sound");
+    const StoppableWork work(Words::Text("Reading the sound"));
     return TheServices().soundReader->Convert(file, mostSeconds, tooLong, [](std::size_t done, std::size_t total) {
         TheServices().screen->ShowProgress(done, total);
     });

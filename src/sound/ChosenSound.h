@@ -6,14 +6,15 @@
 #include <memory>
 #include <string_view>
 
+#include "base/Words.h"
 #include "service/SoundReader.h"
 
 namespace sprout {
 
 /// The dialog filter for every kind of sound: its name and its patterns.
-inline constexpr std::string_view kOtherSoundsFilter =
+inline constexpr LaterWords kOtherSoundsFilter = Words::Later(
     "Other sounds|*.wav;*.mp3;*.ogg;*.oga;*.opus;*.flac;*.m4a;*.aac;*.wma;*.aif;*.aiff;*.amr;*.3gp;*.mp4;*.m4v;*.mov;"
-    "*.webm;*.mkv;*.avi;*.au;*.caf;*.wv";
+    "*.webm;*.mkv;*.avi;*.au;*.caf;*.wv");
 
 /// A sound file that the user chose.
 struct ChosenSound {

@@ -53,7 +53,7 @@ std::int32_t ClipLimit(std::int32_t clip, std::int32_t fullScale)
 {
     const std::int64_t product = static_cast<std::int64_t>(clip) * fullScale;
     if (product != static_cast<std::int32_t>(product))
-        throw RunTimeError("The clip percent is too large.");
+        throw RunTimeError(Words::Text("The clip percent is too large."));
     return RoundHalfEven(static_cast<double>(product) / 100);
 }
 
@@ -104,12 +104,12 @@ std::vector<Sounding> TakeSoundings(std::span<const WaveFilePlacement> placement
     soundings.reserve(placements.size());
     for (const WaveFilePlacement& placement : placements) {
         if (placement.WaveIndex < 0 || static_cast<std::size_t>(placement.WaveIndex) >= waves.size())
-            throw RunTimeError("A place names a sound that is not there.");
+            throw RunTimeError(Words::Text("A place names a sound that is not there."));
         const StereoFrames& frames = waves[static_cast<std::size_t>(placement.WaveIndex)];
         if (frames.left.empty())
             continue;
         if (placement.Offset < 0)
-            throw RunTimeError("A sound lies before the beginning.");
+            throw RunTimeError(Words::Text("A sound lies before the beginning."));
         const auto begin = static_cast<std::size_t>(placement.Offset);
         soundings.push_back({begin, begin + frames.left.size(), &frames});
     }
@@ -122,7 +122,7 @@ std::int32_t TotalLength(const std::vector<Sounding>& soundings)
     for (const Sounding& sounding : soundings)
         total = std::max(total, sounding.end);
     if (total > static_cast<std::size_t>(kLongestWaveFrames))
-        throw RunTimeError("The sound is too long.");
+        throw RunTimeError(Words::Text("The sound is too long."));
     return static_cast<std::int32_t>(total);
 }
 
@@ -160,7 +160,7 @@ void Store(std::span<const std::int32_t> sums, ClipLimits limits, std::int16_t* 
         lost |= clipped ^ samples[i];
     }
     if (lost != 0)
-        throw RunTimeError("A sample does not fit into 16 bits.");
+        throw RunTimeError(Words::Text("A sample does not fit into 16 bits."));
 }
 
 /// One mix: its sounds and their target.

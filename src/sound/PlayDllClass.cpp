@@ -9,6 +9,7 @@
 #include <span>
 
 #include "base/Errors.h"
+#include "base/Guarded.h"
 #include "base/Numbers.h"
 #include "core/Tell.h"
 #include "sound/PlayShared.h"
@@ -20,9 +21,9 @@ namespace {
 
 constexpr double kTailSeconds = 0.05;
 
-constexpr std::string_view kPlayFailed = "Could not Play Sound\r\n"
-                                         "Driver busy or not ready\r\n"
-                                         "Check whether sound driver is ON (in options window)";
+constexpr LaterWords kPlayFailed = Words::Later("Could not Play Sound\r\n"
+                                                "Driver busy or not ready\r\n"
+                                                "Check whether sound driver is ON (in options window)");
 
 bool NothingWritten()
 {
@@ -55,13 +56,9 @@ void FillPlayBuffer(const WaveData& wave, std::int32_t tailFrames)
 } // namespace
 
 template <class Operation>
-void PlayDllClass::Guarded(std::string_view errorTitle, Operation operation) const
+void PlayDllClass::Guarded(const Words& errorTitle, Operation operation) const
 {
-    try {
-        operation();
-    } catch (const std::exception& error) {
-        Raise(ErrorText(error), errorTitle);
-    }
+    GuardedBy([&](const std::exception& error) { Raise(ErrorWords(error), errorTitle); }, operation);
 }
 
 void PlayDllClass::DxObj(std::int32_t& windowHandle)
@@ -72,7 +69,7 @@ void PlayDllClass::DxObj(std::int32_t& windowHandle)
     if (windowHandle <= 0)
         return;
     PlayDx9Cls = std::make_unique<PlayDx9Class>(
-        [this](std::string_view prompt, std::string_view title) { PlayDx9Cls_MsgBoxOb(prompt, title); });
+        [this](const Words& prompt, const Words& title) { PlayDx9Cls_MsgBoxOb(prompt, title); });
     PlayDx9Cls->PutONDx9Ds(windowHandle);
     Driver = 1;
     windowHandle = 1;
@@ -90,7 +87,7 @@ std::vector<std::int32_t> PlayDllClass::GetLastPlayedStream() const
 
 void PlayDllClass::StopPlay()
 {
-    Guarded("Stop Play error", [this] {
+    Guarded(Words::Text("Stop Play error"), [this] {
         if (Driver == 1)
             PlayDx9Cls->StopPlay();
     });
@@ -98,9 +95,9 @@ void PlayDllClass::StopPlay()
 
 void PlayDllClass::PlayContinue()
 {
-    Guarded("Play Continue error", [this] {
+    Guarded(Words::Text("Play Continue error"), [this] {
         if (NothingWritten())
-            SendStatus("Nothing to Continue");
+            SendStatus(Words::Text("Nothing to Continue"));
         else if (Driver == 1)
             PlayDx9Cls->PlayContinue();
     });
@@ -108,7 +105,7 @@ void PlayDllClass::PlayContinue()
 
 void PlayDllClass::SetLooping(Loop loop)
 {
-    Guarded("", [this, loop] {
+    Guarded({}, [this, loop] {
         if (Driver == 1)
             PlayDx9Cls->LetLooping(loop);
     });
@@ -116,9 +113,9 @@ void PlayDllClass::SetLooping(Loop loop)
 
 void PlayDllClass::PlayReplay()
 {
-    Guarded("Play Replay error", [this] {
+    Guarded(Words::Text("Play Replay error"), [this] {
         if (NothingWritten())
-            SendStatus("Nothing to Replay");
+            SendStatus(Words::Text("Nothing to Replay"));
         else if (Driver == 1)
             PlayDx9Cls->PlayReplay();
     });
@@ -126,7 +123,7 @@ void PlayDllClass::PlayReplay()
 
 void PlayDllClass::UpdatePlayPosition()
 {
-    Guarded("", [this] {
+    Guarded({}, [this] {
         if (Driver == 1)
             PlayDx9Cls->UpdatePlayPosition();
     });
@@ -134,7 +131,7 @@ void PlayDllClass::UpdatePlayPosition()
 
 void PlayDllClass::PlayPause()
 {
-    Guarded("Play Pause error", [this] {
+    Guarded(Words::Text("Play Pause error"), [this] {
         if (Driver == 1)
             PlayDx9Cls->PlayPause();
     });
@@ -143,37 +140,36 @@ void PlayDllClass::PlayPause()
 PlayResult PlayDllClass::WriteWaveMemo(const WaveData& wave, PlayNow playNow, Loop loop)
 {
     PlayResult result = PlayResult::Refused;
-    try {
-        result = WriteAndPlay(wave, playNow, loop);
-    } catch (const std::exception& error) {
-        Raise(ErrorText(error), "Play Wave error");
-        SendStatus("Failed to play");
+    const auto tell = [this](const std::exception& error) {
+        Raise(ErrorWords(error), Words::Text("Play Wave error"));
+        SendStatus(Words::Text("Failed to play"));
         if (dynamic_cast<const std::bad_alloc*>(&error))
             throw; // the sound itself is fine, so the user is told
-    }
+    };
+    GuardedBy(tell, [&] { result = WriteAndPlay(wave, playNow, loop); });
     return result;
 }
 
 PlayResult PlayDllClass::WriteAndPlay(const WaveData& wave, PlayNow playNow, Loop loop)
 {
-    SendStatus("Writing to Play Buffer");
+    SendStatus(Words::Text("Writing to Play Buffer"));
     if (wave.Length == 0)
-        return Refuse("Zero size wave found", playNow);
+        return Refuse(Words::Text("Zero size wave found"), playNow);
     if (!IsKnownFormat(wave))
-        return Refuse("Format not Known to write wave file", playNow);
+        return Refuse(Words::Text("Format not Known to write wave file"), playNow);
     FillPlayBuffer(wave, loop == Loop::Yes ? 0 : RoundHalfEven(wave.Rate * kTailSeconds));
     if (playNow == PlayNow::Yes)
         return PlayWritten(loop);
-    SendStatus("Done");
+    SendStatus(Words::Text("Done"));
     return PlayResult::Kept;
 }
 
-PlayResult PlayDllClass::Refuse(std::string_view prompt, PlayNow playNow)
+PlayResult PlayDllClass::Refuse(const Words& prompt, PlayNow playNow)
 {
-    Raise(prompt, "Play wave error");
+    Raise(prompt, Words::Text("Play wave error"));
     if (playNow == PlayNow::Yes)
         StopPlay();
-    SendStatus("Play Failed");
+    SendStatus(Words::Text("Play Failed"));
     return PlayResult::Refused;
 }
 
@@ -183,20 +179,20 @@ PlayResult PlayDllClass::PlayWritten(Loop loop)
     if (started) {
         PlayDx9Cls->LetLooping(loop);
     } else {
-        SendStatus("Play Failed");
-        Raise(kPlayFailed, "Play Failed");
+        SendStatus(Words::Text("Play Failed"));
+        Raise(kPlayFailed, Words::Text("Play Failed"));
     }
-    Raise("S1", "");
+    Raise(kPlayCallEnded, {});
     return started ? PlayResult::Started : PlayResult::NoDevice;
 }
 
-void PlayDllClass::PlayDx9Cls_MsgBoxOb(std::string_view prompt, std::string_view title) const
+void PlayDllClass::PlayDx9Cls_MsgBoxOb(const Words& prompt, const Words& title) const
 {
-    if (prompt != "S2")
+    if (prompt != kStatusPrompt)
         Tell(title, prompt);
 }
 
-void PlayDllClass::Raise(std::string_view prompt, std::string_view title) const
+void PlayDllClass::Raise(const Words& prompt, const Words& title) const
 {
     if (MsgBoxOb)
         MsgBoxOb(prompt, title);

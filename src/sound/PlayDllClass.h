@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/WaveData.h"
+#include "base/Words.h"
 #include "service/SoundOutput.h"
 #include "sound/PlayDx9Class.h"
 
@@ -53,16 +54,16 @@ public:
     PlayResult WriteWaveMemo(const WaveData& wave, PlayNow playNow, Loop loop);
 
     /// Raised by the sound output: the prompt "S2" needs no action, any other one is shown with its title.
-    void PlayDx9Cls_MsgBoxOb(std::string_view prompt, std::string_view title) const;
+    void PlayDx9Cls_MsgBoxOb(const Words& prompt, const Words& title) const;
 
 private:
     PlayResult WriteAndPlay(const WaveData& wave, PlayNow playNow, Loop loop);
-    PlayResult Refuse(std::string_view prompt, PlayNow playNow);
+    PlayResult Refuse(const Words& prompt, PlayNow playNow);
     PlayResult PlayWritten(Loop loop);
     template <class Operation>
-    void Guarded(std::string_view errorTitle, Operation operation) const;
-    void Raise(std::string_view prompt, std::string_view title) const;
-    void SendStatus(std::string_view status) const { Raise("S2", status); }
+    void Guarded(const Words& errorTitle, Operation operation) const;
+    void Raise(const Words& prompt, const Words& title) const;
+    void SendStatus(const Words& status) const { Raise(kStatusPrompt, status); }
 
     std::int32_t Driver = 0; // as `SoundDriver`
     std::unique_ptr<PlayDx9Class> PlayDx9Cls;

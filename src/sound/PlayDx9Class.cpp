@@ -7,6 +7,7 @@
 #include <string>
 #include <utility>
 
+#include "base/Log.h"
 #include "base/Numbers.h"
 #include "service/Services.h"
 #include "sound/PlayShared.h"
@@ -28,7 +29,8 @@ bool PlayDx9Class::PlayMe(Loop loop)
         return PlayBufferOnDevice(loop);
     } catch (const std::bad_alloc&) {
         throw; // the device is fine
-    } catch (const std::exception&) {
+    } catch (const std::exception& error) {
+        LogFailure("Playing on the sound device", error);
         // The caller reports it in its own words.
         return false;
     }
@@ -43,7 +45,7 @@ bool PlayDx9Class::PlayBufferOnDevice(Loop loop)
     WaveDriverHandle = TheServices().sound->Open(std::move(WaveDriverHandle), WindowHandle,
                                                  {play.PlayBufChannels, play.PlayBufRate, play.PlayBufBits}, bytes);
     if (!WaveDriverHandle) {
-        SendStatus("Play Failed");
+        SendStatus(Words::Text("Play Failed"));
         return false;
     }
     play.PlayState = PlayState::Stopped;
@@ -51,7 +53,7 @@ bool PlayDx9Class::PlayBufferOnDevice(Loop loop)
     LoopCount = 0;
     WaveDriverHandle->Start(StartFrom::Beginning, loop);
     play.PlayState = loop == Loop::Yes ? PlayState::PlayingLoop : PlayState::Playing;
-    SendStatus(loop == Loop::Yes ? "Playing Loop" + std::to_string(LoopCount) : "Playing");
+    SendStatus(loop == Loop::Yes ? Words::Text("Playing Loop%1", LoopCount) : Words::Text("Playing"));
     return true;
 }
 
@@ -93,7 +95,7 @@ void PlayDx9Class::PlayPause()
 void PlayDx9Class::StopPlay()
 {
     Stop();
-    SendStatus("Stopped");
+    SendStatus(Words::Text("Stopped"));
 }
 
 void PlayDx9Class::PutONDx9Ds(std::int32_t windowHandle)
@@ -108,10 +110,10 @@ void PlayDx9Class::Stop()
     PlayShared().PlayState = PlayState::Stopped;
 }
 
-void PlayDx9Class::SendStatus(std::string_view status) const
+void PlayDx9Class::SendStatus(const Words& status) const
 {
     if (MsgBoxOb)
-        MsgBoxOb("S2", status);
+        MsgBoxOb(kStatusPrompt, status);
 }
 
 } // namespace sprout

@@ -3,14 +3,18 @@
 
 #include <cstdint>
 #include <functional>
-#include <string_view>
 
+#include "base/Words.h"
 #include "service/SoundOutput.h"
 
 namespace sprout {
 
 /// Reports on a play: a message and its title. The prompt "S2" marks the title as just a status.
-using MsgBoxObEvent = std::function<void(std::string_view prompt, std::string_view title)>;
+using MsgBoxObEvent = std::function<void(const Words& prompt, const Words& title)>;
+
+/// The prompts that are no messages: the end of a play call, and a status.
+inline const Words kPlayCallEnded = Words::AsIs("S1");
+inline const Words kStatusPrompt = Words::AsIs("S2");
 
 /// Plays the shared play buffer on the machine's sound output and maintains the shared play state.
 class PlayDx9Class {
@@ -42,7 +46,7 @@ public:
 private:
     bool PlayBufferOnDevice(Loop loop);
     void Stop();
-    void SendStatus(std::string_view status) const;
+    void SendStatus(const Words& status) const;
 
     MsgBoxObEvent MsgBoxOb;
     SoundHandle WaveDriverHandle; // empty before the first play

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "base/Errors.h"
+#include "base/Guarded.h"
 #include "base/Numbers.h"
 #include "core/Shared.h"
 #include "core/SongTime.h"
@@ -20,11 +21,11 @@ namespace sprout {
 
 namespace {
 
-constexpr std::string_view kDriverFailed =
+constexpr LaterWords kDriverFailed = Words::Later(
     "There is an error initializing Sound Driver\n"
     "Check whether another application is using sound driver exclusively.\n"
     "If yes, put that off and then and then run this program again.\n\n"
-    "Other wise, if this problem persists you may need to reinstall DirectX9 or Sound Card's Driver\r\n\r\n";
+    "Other wise, if this problem persists you may need to reinstall DirectX9 or Sound Card's Driver\r\n\r\n%1");
 
 constexpr std::int32_t kFarthestCell = 1'000'000;
 
@@ -34,24 +35,25 @@ std::unique_ptr<PlayDllClass>& PlayerInstance()
     return player;
 }
 
-void TellDriverFailed(std::string_view description)
+void TellDriverFailed(const Words& description)
 {
-    Tell("", std::string(kDriverFailed).append(description));
+    Tell({}, kDriverFailed.With(description));
 }
 
 void EnableSoundDriver()
 {
     PlayModState& play = PlayShared();
-    try {
+    const auto tell = [&play](const std::exception& error) {
+        play.SoundDriver = 0;
+        TellDriverFailed(ErrorWords(error));
+    };
+    GuardedBy(tell, [&play] {
         std::int32_t driver = TheServices().playDisplay->MainWindowHandle();
         Player().DxObj(driver);
         play.SoundDriver = driver;
         if (driver == 0 || driver == -1)
-            TellDriverFailed("");
-    } catch (const std::exception& error) {
-        play.SoundDriver = 0;
-        TellDriverFailed(ErrorText(error));
-    }
+            TellDriverFailed({});
+    });
 }
 
 PlayResult Play(const WaveData& wave, PlayKind kind, std::int32_t track, Loop loop)
@@ -71,7 +73,7 @@ bool HasBegun()
 }
 
 /// Sets status and timer for a play that has begun.
-void ShowOnMainWindow(std::string_view status)
+void ShowOnMainWindow(const Words& status)
 {
     if (!HasBegun())
         return;
@@ -128,7 +130,7 @@ void SetSoundDriver(bool enable)
     PlayShared().SoundDriver = 0;
 }
 
-void PlayWaveStatus(const WaveData& wave, std::string_view status, Loop loop)
+void PlayWaveStatus(const WaveData& wave, const Words& status, Loop loop)
 {
     if (PlayShared().SoundDriver < 1)
         return;
@@ -142,7 +144,7 @@ void PlayWaveKind(const WaveData& wave, PlayKind kind, Loop loop)
     if (PlayShared().SoundDriver < 1)
         return;
     Play(wave, kind, 0, loop);
-    ShowOnMainWindow(kind == PlayKind::Recording ? "Playing Recorded" : "Playing");
+    ShowOnMainWindow(kind == PlayKind::Recording ? Words::Text("Playing Recorded") : Words::Text("Playing"));
 }
 
 void PlayWaveTrack(const WaveData& wave, std::int32_t track, std::int32_t startCell, Loop loop)
@@ -161,10 +163,10 @@ void PlayWaveTrack(const WaveData& wave, std::int32_t track, std::int32_t startC
         throw;
     }
     settle();
-    ShowOnMainWindow(track == kWholeSong ? "Playing All" : "Playing Track " + std::to_string(track));
+    ShowOnMainWindow(track == kWholeSong ? Words::Text("Playing All") : Words::Text("Playing Track %1", track));
 }
 
-void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view status, Loop loop)
+void PlayWaveDelayed(const WaveData& wave, float delaySeconds, const Words& status, Loop loop)
 {
     bool showTune = true;
     if (PlayShared().SoundDriver >= 1) {

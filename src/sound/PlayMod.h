@@ -3,9 +3,9 @@
 
 #include <cstdint>
 #include <optional>
-#include <string_view>
 
 #include "base/WaveData.h"
+#include "base/Words.h"
 #include "sound/PlayDllClass.h"
 #include "sound/PlayShared.h"
 
@@ -24,7 +24,7 @@ void SetSoundDriver(bool enable);
 // play has begun they show their status and start the main window's timer.
 
 /// Plays a wave that belongs to no track. While the tutorial plays, the main window stays unchanged.
-void PlayWaveStatus(const WaveData& wave, std::string_view status, Loop loop);
+void PlayWaveStatus(const WaveData& wave, const Words& status, Loop loop);
 
 /// Plays a wave of some kind: "Playing Recorded" for a recording, "Playing" otherwise.
 void PlayWaveKind(const WaveData& wave, PlayKind kind, Loop loop);
@@ -34,7 +34,7 @@ void PlayWaveKind(const WaveData& wave, PlayKind kind, Loop loop);
 void PlayWaveTrack(const WaveData& wave, std::int32_t track, std::int32_t startCell, Loop loop);
 
 /// Plays a wave after `delaySeconds` (>= 0) of silence and lets the tune window show its tune, even without a device.
-void PlayWaveDelayed(const WaveData& wave, float delaySeconds, std::string_view status, Loop loop);
+void PlayWaveDelayed(const WaveData& wave, float delaySeconds, const Words& status, Loop loop);
 
 /// The cell of the song or track that is heard. Throws `RunTimeError` if it is not a 32-bit number.
 [[nodiscard]] std::int32_t CellInPlay(const PlayModState& play);

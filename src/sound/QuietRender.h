@@ -4,6 +4,7 @@
 #include <exception>
 #include <new>
 
+#include "base/Log.h"
 #include "base/WaveData.h"
 #include "waves/WavOperations.h"
 
@@ -18,7 +19,8 @@ WaveData QuietRender(Render render)
         return render();
     } catch (const std::bad_alloc&) {
         throw;
-    } catch (const std::exception&) {
+    } catch (const std::exception& error) {
+        LogFailure("Rendering a sound", error);
         return EmptyWave();
     }
 }

@@ -9,7 +9,7 @@ namespace sprout {
 
 namespace {
 
-constexpr std::string_view kTuneStatus = "Playing Tune";
+constexpr LaterWords kTuneStatus = Words::Later("Playing Tune");
 
 /// Returns whether the step has a sound.
 bool RenderIfStale(TuneStep& step)
@@ -29,13 +29,13 @@ bool RenderIfStale(TuneStep& step)
 void PlayStepSound(TuneStep& step)
 {
     if (RenderIfStale(step))
-        PlayWaveStatus(step.StepWave, "Playing Beat", Loop::No);
+        PlayWaveStatus(step.StepWave, Words::Text("Playing Beat"), Loop::No);
 }
 
 void PlayStepBeat(TuneStep& step)
 {
     if (RenderIfStale(step) && step.StepBeat.Loaded)
-        PlayWaveStatus(step.StepBeat.Sound, "Playing Step", Loop::No);
+        PlayWaveStatus(step.StepBeat.Sound, Words::Text("Playing Step"), Loop::No);
 }
 
 void PlayEditedTune(Tune& tune, float leadInSeconds)

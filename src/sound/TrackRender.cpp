@@ -49,7 +49,7 @@ std::int32_t FirstPaintedCell(const Track& track)
 {
     const std::int32_t cells = Shared().Song.SongCells;
     if (cells > 0 && track.Painted.size() <= static_cast<std::size_t>(cells))
-        throw RunTimeError("The track has fewer cells than the song.");
+        throw RunTimeError(Words::Text("The track has fewer cells than the song."));
     return FindFirstPainted(track, cells);
 }
 
@@ -66,7 +66,7 @@ void RunTuneAlongPaint(const Track& track, Sound sound)
         }
         number = number < tune.StepCount ? number + 1 : 1;
         if (static_cast<std::size_t>(number) >= tune.Steps.size())
-            throw RunTimeError("The tune has no such step.");
+            throw RunTimeError(Words::Text("The tune has no such step."));
         if (At(tune.Steps, number).IsOn())
             sound(cell, number);
     }
@@ -110,7 +110,7 @@ public:
         : track(audioTrack), wave(audioTrack.TrackAudio), cellSeconds(CellSeconds(Shared().Song.Tempo))
     {
         if (wave.Rate == 0)
-            throw RunTimeError("The sound has no rate.");
+            throw RunTimeError(Words::Text("The sound has no rate."));
         waveSeconds = static_cast<float>(static_cast<double>(wave.Length) / wave.Rate);
         input.waves.push_back(wave);
     }
@@ -143,7 +143,7 @@ private:
         // The cut is counted in frames at the program's rate, whatever the wave's.
         const std::int32_t length = OffsetOf(cellCount, 0);
         if (length < 0 || OffsetOf(runStart, track.FirstPainted) > kLongestWaveFrames - length)
-            throw RunTimeError("The sound is too long.");
+            throw RunTimeError(Words::Text("The sound is too long."));
         Place(CutTo(length));
     }
 
@@ -212,7 +212,7 @@ public:
     {
         song.SongFirstPos = kUnsetPosition;
         if (song.TrackCount >= 1 && !HasTrack(song.TrackCount))
-            throw RunTimeError("The song has fewer tracks than it tells.");
+            throw RunTimeError(Words::Text("The song has fewer tracks than it tells."));
         for (std::int32_t number = 1; number <= song.TrackCount; ++number) {
             Track& track = At(song.Tracks, number);
             if (track.IsMusic() ? TakeMusic(track) : track.IsAudio() && TakeAudio(track, number)) {

@@ -108,7 +108,7 @@ void StepCommands::ChangeAll()
 {
     Tune& tune = Shared().CurrentTune;
     if (tune.StepCount < 1)
-        return ShowMessage("Set the number of steps and try.");
+        return ShowMessage(Words::Text("Set the number of steps and try."));
     std::string name;
     if (!chooseBeat(name) || name.empty())
         return;

@@ -66,12 +66,13 @@ std::int32_t StepNosBox::AskStepCount()
 {
     const std::string now = std::to_string(Shared().CurrentTune.StepCount);
     for (;;) {
-        const std::string answer = AskText(now, "Enter the Number of Steps:", "(Enter between 2 to 64)");
+        const std::string answer =
+            AskText(now, Words::Text("Enter the Number of Steps:"), Words::Text("(Enter between 2 to 64)"));
         if (answer.empty())
             return 0;
         if (const std::optional<std::int32_t> typed = TypedStepCount(answer))
             return *typed;
-        ShowMessage(answer + " is not valid,", "Enter a number between 2 to 64.");
+        ShowMessage(Words::Text("%1 is not valid,", answer), Words::Text("Enter a number between 2 to 64."));
     }
 }
 

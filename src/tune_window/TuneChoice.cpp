@@ -61,7 +61,7 @@ void TuneChoice::Play()
         return;
     LoadChosenTune(chosen);
     if (chosen.TuneWaveValid)
-        PlayWaveDelayed(chosen.TuneWave, kChosenLeadInSeconds, "Playing Tune", Loop::No);
+        PlayWaveDelayed(chosen.TuneWave, kChosenLeadInSeconds, Words::Text("Playing Tune"), Loop::No);
 }
 
 } // namespace sprout

@@ -143,7 +143,7 @@ void TuneChooser::ClickTunePic()
     if (choice.HasTune())
         return choice.Play();
     ShowHint(QStringLiteral("Click on a picture to select a tune"));
-    ShowMessage("Select a Tune first.");
+    ShowMessage(Words::Text("Select a Tune first."));
     ShowHint({});
 }
 

@@ -20,6 +20,7 @@
 #include "tunes/TuneTable.h"
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
+#include "ui/Guarded.h"
 #include "ui/Hints.h"
 
 namespace sprout {
@@ -30,19 +31,19 @@ namespace {
 
 bool MaySaveUnder(const TuneNames& names)
 {
-    if (const std::string_view missing = WhatIsMissing(names); !missing.empty()) {
+    if (const LaterWords missing = WhatIsMissing(names); !missing.IsEmpty()) {
         ShowMessage(missing);
         return false;
     }
     if (!FileExists(TuneFile(names.Name)))
         return true;
     if (!Shared().AllowEditOriginal && IsNameOfOriginal(names.Name)) {
-        ShowMessage("An Original " + std::string(kProductFamily) + " Tune is there with this name \"" + names.Name +
-                        "\"\r\n",
-                    "Please enter another name for this Tune and save.");
+        ShowMessage(Words::Text("An Original %1 Tune is there with this name \"%2\"\r\n", kProductFamily, names.Name),
+                    Words::Text("Please enter another name for this Tune and save."));
         return false;
     }
-    return AskYesNo("Another Tune is there with this name: " + names.Name, "Would you like to overwrite that?") == 1;
+    return AskYesNo(Words::Text("Another Tune is there with this name: %1", names.Name),
+                    Words::Text("Would you like to overwrite that?")) == 1;
 }
 
 void TakePictureFile(const fs::path& file, const std::function<void(const Picture&)>& take)
@@ -81,33 +82,32 @@ bool MayDeleteTune(const Tune* tune)
 {
     if (!tune) {
         ShowHint(QStringLiteral("Click on a picture to select a Tune"));
-        ShowMessage("Select a Tune and try this.");
+        ShowMessage(Words::Text("Select a Tune and try this."));
         return false;
     }
     if (IsOriginalTune(*tune) && !Shared().AllowEditOriginal) {
         ShowHint(QStringLiteral("Blue bordered are originals, red bordered are your new tunes"));
-        ShowMessage("This is an original Tune from " + std::string(kProductFamily) + ".",
-                    "This tune can not be deleted.");
+        ShowMessage(Words::Text("This is an original Tune from %1.", kProductFamily),
+                    Words::Text("This tune can not be deleted."));
         return false;
     }
     ShowHint(QStringLiteral("Click Yes to delete, No to keep"));
-    return AskYesNo("Are you sure to delete this Tune?", "Tune name: " + tune->Name, " Confirm Delete Tune") == 1;
+    return AskYesNo(Words::Text("Are you sure to delete this Tune?"), Words::Text("Tune name: %1", tune->Name),
+                    Words::Text(" Confirm Delete Tune")) == 1;
 }
 
 void ChooseTunePicture(const std::function<void(const Picture&)>& take)
 {
     ShowHint(QStringLiteral("Choose a small (32x32) bmp picture file"));
     FileQuestion question;
-    question.Title = "Please select a picture file (32x32) to use";
+    question.Title = Words::Text("Please select a picture file (32x32) to use");
     question.Folder = GetSetting(kGeneralSection, kPictureFolderSetting, PathText(Shared().InstallStars));
     question.DefaultExtension = "bmp";
-    question.Filter = "Picture files|*.bmp;*.jpg;*.gif;*.png|All files|*.*";
-    try {
+    question.Filter = Words::Text("Picture files|*.bmp;*.jpg;*.gif;*.png|All files|*.*");
+    Guarded(Words::Later("Error selecting picture file\r\n%1"), [&] {
         if (const std::optional<fs::path> file = ChooseFileToOpen(question))
             TakePictureFile(*file, take);
-    } catch (const std::exception& error) {
-        TheServices().messages->MessageBox("", "Error selecting picture file\r\n" + ErrorText(error));
-    }
+    });
 }
 
 } // namespace sprout

@@ -38,7 +38,7 @@ constexpr std::array kTools{"TestPlayBtn", "RndTuneBtn",    "NewTuneBtn", "Chang
 TuneFrm2::TuneFrm2(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("TuneFrm2"));
-    SetCaption(" Choose a Tune");
+    SetCaption(Words::Text(" Choose a Tune"));
     ShowHintsInBand();
     MakeChooser();
     MakeButtons();

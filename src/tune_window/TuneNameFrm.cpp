@@ -20,7 +20,7 @@ constexpr int kNameBoxHeight = 34;
 TuneNameFrm::TuneNameFrm(QWidget* parent, const TuneNames& names) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("TuneNameFrm"));
-    SetCaption(" Save Tune");
+    SetCaption(Words::Text(" Save Tune"));
     NameTxt = &AddBox("Label1", "Tune name", "NameTxt", names.Name, 8);
     CreatedTxt = &AddBox("Label2", "Created By", "CreatedTxt", names.CreatedBy, 74);
     Watcher().Watch(*NameTxt, "Type the name of this Tune here");
@@ -56,7 +56,7 @@ void TuneNameFrm::ClickOk()
 {
     ShowHint({});
     if (Trim(Names().Name).empty())
-        return ShowMessage("Please enter a Tune name.");
+        return ShowMessage(Words::Text("Please enter a Tune name."));
     NameOk = true;
     Answer(1);
 }

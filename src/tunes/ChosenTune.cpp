@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/Errors.h"
+#include "base/Log.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongChanges.h"
@@ -30,7 +31,8 @@ void KeepSound(const Tune& tune, const fs::path& path)
     Shared().TuneClipboard = tune;
     try {
         TunOpnSavClass().Save_Tune(path);
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
+        LogFailure("Keeping the sound of a tune", error);
         return; // it is rendered again the next time it is chosen
     }
 }

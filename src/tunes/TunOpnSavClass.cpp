@@ -7,6 +7,7 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "base/Product.h"
 #include "base/Text.h"
 #include "core/FileHead.h"
@@ -41,7 +42,7 @@ void ReadVersion(TuneReading& reading, const fs::path& path, TuneLoad mode)
     if (version != 0.0F)
         return;
     if (source.Size() > kMostIniBytes)
-        throw RunTimeError("The file " + PathText(path) + " is too large for a tune.");
+        throw RunTimeError(Words::Text("The file %1 is too large for a tune.", PathText(path)));
     Load_Tune_V00(tune, path, mode);
     reading.IsWhole = true;
 }
@@ -51,11 +52,10 @@ void ReadVersion(TuneReading& reading, const fs::path& path, TuneLoad mode)
 TuneReading ReadTune(const fs::path& path, TuneLoad mode)
 {
     TuneReading reading;
-    try {
-        ReadVersion(reading, path, mode);
-    } catch (const std::exception& error) {
-        reading.Failure = ReadFailure{"Error Opening File", ErrorText(error)};
-    }
+    const auto tell = [&reading](const std::exception& error) {
+        reading.Failure = ReadFailure{Words::Text("Error Opening File"), ErrorWords(error)};
+    };
+    GuardedBy(tell, [&] { ReadVersion(reading, path, mode); });
     return reading;
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
 #include "core/Song.h"
 #include "service/Files.h"
 
@@ -21,8 +22,8 @@ enum class TuneLoad {
 
 /// Why a file could not be read, in the words of the message.
 struct ReadFailure {
-    std::string_view Title;
-    std::string Text;
+    Words Title;
+    Words Text;
 };
 
 /// What a tune file gave.

@@ -6,6 +6,7 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Log.h"
 #include "core/Paths.h"
 #include "core/rendered/Rendered.h"
 #include "tunes/TuneVersions.h"
@@ -44,7 +45,7 @@ void WriteTuneCache(const Tune& tune, const fs::path& path)
         written = written && file.sputn(reinterpret_cast<const char*>(piece.data()), count) == count;
     }
     if (!written || !file.close())
-        throw RunTimeError("The file " + PathText(CachePath(path)) + " could not be written.");
+        throw RunTimeError(Words::Text("The file %1 could not be written.", PathText(CachePath(path))));
 }
 
 void ReadTuneCache(Tune& tune, const fs::path& path)
@@ -58,7 +59,8 @@ void ReadTuneCache(Tune& tune, const fs::path& path)
         if (data.GetText() != tune.DateStamp)
             return;
         Rendered::KeepTuneWave(tune, data.GetWave());
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& error) {
+        LogFailure("Reading the cached sound of a tune", error);
         return; // the tune is rendered again when it is played
     }
 }

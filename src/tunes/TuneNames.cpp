@@ -28,12 +28,12 @@ TuneNames Trimmed(const TuneNames& names)
     return {std::string(Trim(names.Name)), std::string(Trim(names.CreatedBy))};
 }
 
-std::string_view WhatIsMissing(const TuneNames& names)
+LaterWords WhatIsMissing(const TuneNames& names)
 {
     if (names.Name.empty())
-        return "Enter a Tune Name.";
+        return Words::Later("Enter a Tune Name.");
     if (names.CreatedBy.empty())
-        return "Enter a your name in \"Created By\" box.";
+        return Words::Later("Enter a your name in \"Created By\" box.");
     return {};
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
 #include "core/Song.h"
 
 namespace sprout {
@@ -23,7 +24,7 @@ struct TuneNames {
 [[nodiscard]] TuneNames Trimmed(const TuneNames& names);
 
 /// What to tell a user who left out a name; empty if nothing is missing.
-[[nodiscard]] std::string_view WhatIsMissing(const TuneNames& names);
+[[nodiscard]] LaterWords WhatIsMissing(const TuneNames& names);
 
 /// True if the file with that name is one of the maker's tunes. Overwrites `TuneClipboard`.
 [[nodiscard]] bool IsNameOfOriginal(std::string_view name);

@@ -6,6 +6,7 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "beats/BeatEntry.h"
 #include "beats/BeatFiles.h"
 #include "core/FileHead.h"
@@ -21,7 +22,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kTuneFailed = "Error Loading Tune File";
+constexpr LaterWords kTuneFailed = Words::Later("Error Loading Tune File");
 
 void ReadListPart(LongsReader& data, Tune& tune, const fs::path& path)
 {
@@ -98,17 +99,20 @@ void ReadParts(LongsReader& data, Tune& tune, const fs::path& path, TuneLoad mod
 
 std::optional<ReadFailure> Load_Tune_V20(Tune& tune, ByteSource& source, const fs::path& path, TuneLoad mode)
 {
-    try {
+    std::optional<ReadFailure> failure;
+    const auto tell = [&failure](const std::exception& error) {
+        failure = ReadFailure{kTuneFailed, ErrorWords(error)};
+    };
+    GuardedBy(tell, [&] {
         const std::optional<std::uint64_t> begin = FindHeadData(source);
-        if (begin) {
-            LongsReader data(source, *begin);
-            ReadParts(data, tune, path, mode);
-            return std::nullopt;
+        if (!begin) {
+            failure = ReadFailure{kTuneFailed, Words::Text("Failed to find Data")};
+            return;
         }
-        return ReadFailure{kTuneFailed, "Failed to find Data"};
-    } catch (const std::exception& error) {
-        return ReadFailure{kTuneFailed, ErrorText(error)};
-    }
+        LongsReader data(source, *begin);
+        ReadParts(data, tune, path, mode);
+    });
+    return failure;
 }
 
 } // namespace sprout

@@ -44,7 +44,7 @@ BandedForm::BandedForm(QWidget* parent)
     watcher.Watch(*this, "");
 }
 
-void BandedForm::SetCaption(std::string_view caption)
+void BandedForm::SetCaption(const Words& caption)
 {
     captionText = QtText(caption);
     setWindowTitle(captionText.trimmed());

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Words.h"
 #include "ui/BandedFormLook.h"
 #include "ui/ButtonScheme.h"
 #include "ui/Hints.h"
@@ -27,7 +28,7 @@ public:
     int Result = 0;
 
     /// Sets the title in the band, unchanged.
-    void SetCaption(std::string_view caption);
+    void SetCaption(const Words& caption);
 
     /// Centres the form on its screen, shows it modally and returns `Result`.
     int ShowModal();

@@ -4,21 +4,11 @@
 #include <QApplication>
 
 #include "base/Product.h"
-#include "base/Text.h"
 #include "core/Shared.h"
 #include "ui/HelpFrm.h"
 #include "ui/MessageForms.h"
 
 namespace sprout {
-
-namespace {
-
-std::string Caption(std::string_view title)
-{
-    return std::string(" ").append(Trim(title).empty() ? kProductName : title);
-}
-
-} // namespace
 
 QWidget* WindowInFront()
 {
@@ -28,31 +18,35 @@ QWidget* WindowInFront()
     return qobject_cast<HelpFrm*>(active) ? nullptr : active;
 }
 
-void ShowMessage(std::string_view line1, std::string_view line2, std::string_view title)
+Words CaptionOf(const Words& title)
 {
-    if (Trim(line2).empty()) {
+    return Words::Joined({Words::AsIs(" "), title.IsBlank() ? Words::AsIs(kProductName) : title}, "");
+}
+
+void ShowMessage(const Words& line1, const Words& line2, const Words& title)
+{
+    if (line2.IsBlank()) {
         Msg1BtnFrm form(WindowInFront(), line1);
-        form.SetCaption(Caption(title));
+        form.SetCaption(CaptionOf(title));
         form.ShowModal();
     } else {
         Msg1Btn2NoteFrm form(WindowInFront(), line1, line2);
-        form.SetCaption(Caption(title));
+        form.SetCaption(CaptionOf(title));
         form.ShowModal();
     }
 }
 
-int AskYesNo(std::string_view line1, std::string_view line2, std::string_view title)
+int AskYesNo(const Words& line1, const Words& line2, const Words& title)
 {
     MsgYesNoFrm form(WindowInFront(), line1, line2);
-    form.SetCaption(Caption(title));
+    form.SetCaption(CaptionOf(title));
     return form.ShowModal();
 }
 
-std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2,
-                    std::string_view title)
+std::string AskText(std::string_view defaultText, const Words& line1, const Words& line2, const Words& title)
 {
     InputBoxFrm form(WindowInFront(), defaultText, line1, line2);
-    form.SetCaption(Caption(title));
+    form.SetCaption(CaptionOf(title));
     return form.ShowModal() == 1 ? form.Text() : std::string();
 }
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
+
 class QWidget;
 
 namespace sprout {
@@ -12,17 +14,20 @@ namespace sprout {
 /// help, because closing it would also close the question.
 [[nodiscard]] QWidget* WindowInFront();
 
-// Modal questions and messages in the program's own forms, shown from the front window. A blank title means the
-// program's name; every title gets one leading blank.
+/// A window's title, behind one blank; a blank title means the program's name.
+[[nodiscard]] Words CaptionOf(const Words& title);
+
+// Modal questions and messages in the program's own forms, shown from the front window. Their titles
+// become captions by `CaptionOf`.
 
 /// Shows a message with OK; it has one line if `line2` is blank.
-void ShowMessage(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
+void ShowMessage(const Words& line1, const Words& line2 = {}, const Words& title = {});
 
 /// Asks whether to delete or overwrite something; 1 for yes, else 0. No has the initial focus.
-[[nodiscard]] int AskYesNo(std::string_view line1, std::string_view line2 = {}, std::string_view title = {});
+[[nodiscard]] int AskYesNo(const Words& line1, const Words& line2 = {}, const Words& title = {});
 
 /// Asks for a text, starting with `defaultText`; empty if cancelled.
-[[nodiscard]] std::string AskText(std::string_view defaultText, std::string_view line1, std::string_view line2 = {},
-                                  std::string_view title = {});
+[[nodiscard]] std::string AskText(std::string_view defaultText, const Words& line1, const Words& line2 = {},
+                                  const Words& title = {});
 
 } // namespace sprout

@@ -93,7 +93,7 @@ void FillFileDialog(QFileDialog& dialog, const FileQuestion& question)
 {
     dialog.setObjectName(QStringLiteral("CommonDialog"));
     dialog.setOption(QFileDialog::HideNameFilterDetails);
-    const QStringList filters = FileNameFilters(question.Filter);
+    const QStringList filters = FileNameFilters(ShownText(question.Filter));
     dialog.setNameFilters(filters);
     dialog.selectNameFilter(filters.value(question.FilterIndex - 1));
     dialog.setDefaultSuffix(QtText(question.DefaultExtension));
@@ -154,7 +154,7 @@ std::optional<fs::path> ChooseFileToSave(const FileQuestion& question)
         std::error_code error;
         if (!answer || !answer->has_parent_path() || fs::is_directory(answer->parent_path(), error))
             return answer;
-        ShowMessage("This folder is not there.", PathText(answer->parent_path()));
+        ShowMessage(Words::Text("This folder is not there."), Words::AsIs(PathText(answer->parent_path())));
         asked.FileName = PathText(answer->filename());
     }
 }

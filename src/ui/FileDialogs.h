@@ -6,15 +6,17 @@
 #include <optional>
 #include <string>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// What the desktop's file dialog should show.
 struct FileQuestion {
-    std::string Title;
+    Words Title;
     std::filesystem::path Folder; ///< shown at first; empty: the last one shown
     std::string FileName;         ///< offered at first
     std::string DefaultExtension; ///< without the dot
-    std::string Filter;           ///< name|patterns|name|patterns, patterns separated by semicolons
+    Words Filter;                 ///< name|patterns|name|patterns, patterns separated by semicolons
     int FilterIndex = 1;          ///< the filter selected at first, counted from 1
 };
 

@@ -97,7 +97,7 @@ HelpFrm::HelpFrm()
     setObjectName(QStringLiteral("HelpFrm"));
     setAttribute(Qt::WA_DeleteOnClose);
     setAttribute(Qt::WA_QuitOnClose, false);
-    SetCaption(" Help");
+    SetCaption(Words::Text(" Help"));
     MakePages();
     MakeBook();
     MakeButtons();

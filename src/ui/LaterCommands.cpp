@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 
+#include "base/Words.h"
 #include "ui/Dialogs.h"
 
 namespace sprout {
@@ -12,12 +13,13 @@ namespace {
 
 struct LaterCommand {
     std::string_view button;
-    std::string_view line1;
-    std::string_view line2;
+    LaterWords line1;
+    LaterWords line2;
 };
 
 constexpr std::array kLaterCommands{
-    LaterCommand{"DemoBtn", "There is no demo to watch yet.", "Click the Help button to read how to make a song."},
+    LaterCommand{"DemoBtn", Words::Later("There is no demo to watch yet."),
+                 Words::Later("Click the Help button to read how to make a song.")},
 };
 
 } // namespace

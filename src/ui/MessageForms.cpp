@@ -52,7 +52,7 @@ QString Utf8Name(const char* name)
 
 NotesForm::NotesForm(QWidget* parent, int leastWidth) : BandedForm(parent), leastNoteWidth(leastWidth) {}
 
-void NotesForm::AddNote(const char* name, std::string_view text)
+void NotesForm::AddNote(const char* name, const Words& text)
 {
     QLabel& note = AddLabel(name);
     note.setText(QtText(text));
@@ -96,7 +96,7 @@ void NotesForm::SizeToNotes()
         note->move((width() - note->width()) / 2, note->y());
 }
 
-Msg1BtnFrm::Msg1BtnFrm(QWidget* parent, std::string_view note) : NotesForm(parent, kLeastMessageWidth)
+Msg1BtnFrm::Msg1BtnFrm(QWidget* parent, const Words& note) : NotesForm(parent, kLeastMessageWidth)
 {
     setObjectName(QStringLiteral("Msg1BtnFrm"));
     AddNote("NoteLbl", note);
@@ -104,7 +104,7 @@ Msg1BtnFrm::Msg1BtnFrm(QWidget* parent, std::string_view note) : NotesForm(paren
     SizeToNotes();
 }
 
-Msg1Btn2NoteFrm::Msg1Btn2NoteFrm(QWidget* parent, std::string_view note1, std::string_view note2)
+Msg1Btn2NoteFrm::Msg1Btn2NoteFrm(QWidget* parent, const Words& note1, const Words& note2)
     : NotesForm(parent, kLeastMessageWidth)
 {
     setObjectName(QStringLiteral("Msg1Btn2NoteFrm"));
@@ -114,7 +114,7 @@ Msg1Btn2NoteFrm::Msg1Btn2NoteFrm(QWidget* parent, std::string_view note1, std::s
     SizeToNotes();
 }
 
-MsgYesNoFrm::MsgYesNoFrm(QWidget* parent, std::string_view note1, std::string_view note2)
+MsgYesNoFrm::MsgYesNoFrm(QWidget* parent, const Words& note1, const Words& note2)
     : NotesForm(parent, kLeastQuestionWidth)
 {
     setObjectName(QStringLiteral("MsgYesNoFrm"));
@@ -125,7 +125,7 @@ MsgYesNoFrm::MsgYesNoFrm(QWidget* parent, std::string_view note1, std::string_vi
     SizeToNotes();
 }
 
-Msg3BtnFrm::Msg3BtnFrm(QWidget* parent, std::string_view note) : NotesForm(parent, kLeastThreeButtonsWidth)
+Msg3BtnFrm::Msg3BtnFrm(QWidget* parent, const Words& note) : NotesForm(parent, kLeastThreeButtonsWidth)
 {
     setObjectName(QStringLiteral("Msg3BtnFrm"));
     AddNote("NoteLbl", note);
@@ -138,8 +138,8 @@ Msg3BtnFrm::Msg3BtnFrm(QWidget* parent, std::string_view note) : NotesForm(paren
 SaveConfirmFrm::SaveConfirmFrm(QWidget* parent, std::string_view songName) : NotesForm(parent, kLeastThreeButtonsWidth)
 {
     setObjectName(QStringLiteral("SaveConfirmFrm"));
-    AddNote("NoteLbl", "Do you want to save this song?");
-    AddNote("SongNameLbl", songName);
+    AddNote("NoteLbl", Words::Text("Do you want to save this song?"));
+    AddNote("SongNameLbl", Words::AsIs(songName));
     findChild<QLabel*>(QStringLiteral("SongNameLbl"))->setFont(TitleFont());
     AddAnswer(GoOn("YesBtn", "Yes"), 2).setFocus();
     AddAnswer(GoBack("NoBtn", "No"), 1);
@@ -147,8 +147,7 @@ SaveConfirmFrm::SaveConfirmFrm(QWidget* parent, std::string_view songName) : Not
     SizeToNotes();
 }
 
-PlainBoxFrm::PlainBoxFrm(QWidget* parent, std::string_view text, MessageIcon icon)
-    : NotesForm(parent, kLeastMessageWidth)
+PlainBoxFrm::PlainBoxFrm(QWidget* parent, const Words& text, MessageIcon icon) : NotesForm(parent, kLeastMessageWidth)
 {
     setObjectName(QStringLiteral("PlainBoxFrm"));
     if (icon == MessageIcon::Exclamation)
@@ -158,10 +157,10 @@ PlainBoxFrm::PlainBoxFrm(QWidget* parent, std::string_view text, MessageIcon ico
     SizeToNotes();
 }
 
-InputBoxFrm::InputBoxFrm(QWidget* parent, std::string_view defaultText, std::string_view note1, std::string_view note2)
+InputBoxFrm::InputBoxFrm(QWidget* parent, std::string_view defaultText, const Words& note1, const Words& note2)
     : BandedForm(parent), InputTxt(new QLineEdit(this))
 {
-    const bool oneNote = Trim(note2).empty();
+    const bool oneNote = note2.IsBlank();
     const int boxTop = oneNote ? 32 : 56;
     const int buttonsTop = oneNote ? 74 : 98;
     const int formHeight = oneNote ? 151 : 176;
@@ -198,8 +197,8 @@ std::string InputBoxFrm::Text() const
 SongTitleFrm::SongTitleFrm(QWidget* parent, std::string_view title, std::string_view author) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("SongTitleFrm"));
-    NameTxt = &AddBox("Label1", "Song name", "NameTxt", title, 8);
-    CreatedTxt = &AddBox("Label2", "Created by", "CreatedTxt", author, 74);
+    NameTxt = &AddBox("Label1", Words::Text("Song name"), "NameTxt", title, 8);
+    CreatedTxt = &AddBox("Label2", Words::Text("Created by"), "CreatedTxt", author, 74);
     Watcher().Watch(*NameTxt, "You can change the name of this song here");
     Watcher().Watch(*CreatedTxt, "You can type your name here");
     ForbidCharacters(*NameTxt, QStringLiteral("./\\:*?<>|\""));
@@ -210,11 +209,11 @@ SongTitleFrm::SongTitleFrm(QWidget* parent, std::string_view title, std::string_
     NameTxt->setFocus();
 }
 
-QLineEdit& SongTitleFrm::AddBox(const char* labelName, const char* labelText, const char* boxName,
+QLineEdit& SongTitleFrm::AddBox(const char* labelName, const Words& labelText, const char* boxName,
                                 std::string_view text, int top)
 {
     QLabel& label = AddLabel(labelName);
-    label.setText(QString::fromUtf8(labelText));
+    label.setText(QtText(labelText));
     label.setGeometry({BodyPoint(2 * kSideMargin, top), QSize(kInputFormWidth - 2 * kSideMargin, 25)});
     auto* box = new QLineEdit(QtText(text), this);
     box->setObjectName(Utf8Name(boxName));
@@ -238,12 +237,12 @@ void SongTitleFrm::ClickOk()
     ShowHint({});
     const std::string name = Name();
     if (Trim(name).empty()) {
-        ShowMessage("Please enter the Song Title.");
+        ShowMessage(Words::Text("Please enter the Song Title."));
         return;
     }
     // The name of an existing file is only allowed if it is the open song's own title in another case.
     if (!EqualIgnoringCase(name, Shared().Song.SongTitle) && FileExists(SongPath(name))) {
-        ShowMessage("A song with this name already exists.", "Please type another name.");
+        ShowMessage(Words::Text("A song with this name already exists."), Words::Text("Please type another name."));
         return;
     }
     Answer(1);

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Words.h"
 #include "service/Messages.h"
 #include "ui/BandedForm.h"
 
@@ -20,7 +21,7 @@ protected:
     NotesForm(QWidget* parent, int leastNoteWidth);
 
     /// Adds a note below the existing ones.
-    void AddNote(const char* name, std::string_view text);
+    void AddNote(const char* name, const Words& text);
     /// Adds an artwork instead of a note.
     void AddPicture(const char* artwork);
     /// Sizes the form to its notes and places its buttons.
@@ -39,7 +40,7 @@ class Msg1BtnFrm : public NotesForm {
     Q_OBJECT
 
 public:
-    Msg1BtnFrm(QWidget* parent, std::string_view note);
+    Msg1BtnFrm(QWidget* parent, const Words& note);
 };
 
 /// A two-line message. `Result` is 1 for OK.
@@ -47,7 +48,7 @@ class Msg1Btn2NoteFrm : public NotesForm {
     Q_OBJECT
 
 public:
-    Msg1Btn2NoteFrm(QWidget* parent, std::string_view note1, std::string_view note2);
+    Msg1Btn2NoteFrm(QWidget* parent, const Words& note1, const Words& note2);
 };
 
 /// A question. `Result` is 1 for yes, 0 for no.
@@ -55,7 +56,7 @@ class MsgYesNoFrm : public NotesForm {
     Q_OBJECT
 
 public:
-    MsgYesNoFrm(QWidget* parent, std::string_view note1, std::string_view note2);
+    MsgYesNoFrm(QWidget* parent, const Words& note1, const Words& note2);
 };
 
 /// Asks where an audio track comes from. `Result` is 1 for recording, 2 for wave file, 0 for cancel.
@@ -63,7 +64,7 @@ class Msg3BtnFrm : public NotesForm {
     Q_OBJECT
 
 public:
-    Msg3BtnFrm(QWidget* parent, std::string_view note);
+    Msg3BtnFrm(QWidget* parent, const Words& note);
 };
 
 /// Asks about unsaved changes. `Result` is 2 for yes, 1 for no, 0 for cancel.
@@ -79,7 +80,7 @@ class PlainBoxFrm : public NotesForm {
     Q_OBJECT
 
 public:
-    PlainBoxFrm(QWidget* parent, std::string_view text, MessageIcon icon);
+    PlainBoxFrm(QWidget* parent, const Words& text, MessageIcon icon);
 };
 
 /// Asks for a text. `Result` is 1 for OK, 0 for cancel.
@@ -87,7 +88,7 @@ class InputBoxFrm : public BandedForm {
     Q_OBJECT
 
 public:
-    InputBoxFrm(QWidget* parent, std::string_view defaultText, std::string_view note1, std::string_view note2);
+    InputBoxFrm(QWidget* parent, std::string_view defaultText, const Words& note1, const Words& note2);
 
     [[nodiscard]] std::string Text() const;
 
@@ -106,7 +107,7 @@ public:
     [[nodiscard]] std::string CreatedBy() const;
 
 private:
-    QLineEdit& AddBox(const char* labelName, const char* label, const char* boxName, std::string_view text, int top);
+    QLineEdit& AddBox(const char* labelName, const Words& label, const char* boxName, std::string_view text, int top);
     void ClickOk();
 
     QLineEdit* NameTxt;

@@ -6,10 +6,10 @@
 
 namespace sprout {
 
-void QtMessages::MessageBox(std::string_view title, std::string_view text, MessageIcon icon)
+void QtMessages::MessageBox(const Words& title, const Words& text, MessageIcon icon)
 {
     PlainBoxFrm form(WindowInFront(), text, icon);
-    form.SetCaption(title.empty() ? std::string() : std::string(" ").append(title));
+    form.SetCaption(title.IsBlank() ? Words() : CaptionOf(title));
     form.ShowModal();
 }
 

@@ -8,7 +8,7 @@ namespace sprout {
 /// The plain message box in the program's own look.
 class QtMessages : public Messages {
 public:
-    void MessageBox(std::string_view title, std::string_view text, MessageIcon icon) override;
+    void MessageBox(const Words& title, const Words& text, MessageIcon icon) override;
 };
 
 } // namespace sprout

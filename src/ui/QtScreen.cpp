@@ -79,13 +79,13 @@ void QtScreen::ShowProgress(std::size_t done, std::size_t total)
         ShowWork(done, total);
 }
 
-void QtScreen::BeginStoppable(std::string_view what)
+void QtScreen::BeginStoppable(const Words& what)
 {
     stage = what;
     sinceWorkBegan.start();
 }
 
-void QtScreen::NextStage(std::string_view what)
+void QtScreen::NextStage(const Words& what)
 {
     stage = what;
     if (workFrm)

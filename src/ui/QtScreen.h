@@ -8,6 +8,7 @@
 #include <memory>
 #include <string>
 
+#include "base/Words.h"
 #include "service/Screen.h"
 #include "ui/ProcessPic.h"
 #include "ui/WorkFrm.h"
@@ -29,8 +30,8 @@ public:
     void ShowProcessPic() override;
     void HideProcessPic() override;
     void ShowProgress(std::size_t done, std::size_t total) override;
-    void BeginStoppable(std::string_view what) override;
-    void NextStage(std::string_view what) override;
+    void BeginStoppable(const Words& what) override;
+    void NextStage(const Words& what) override;
     void EndStoppable() override;
     void EnableTuneNotFilledTimer() override;
 
@@ -50,7 +51,7 @@ private:
     QElapsedTimer sinceShown;
     QElapsedTimer sinceWorkBegan; // valid during stoppable work
     QElapsedTimer sinceEvents;
-    std::string stage;
+    Words stage;
     std::unique_ptr<WorkFrm> workFrm;
     int shown = 0;
     int hourglasses = 0;

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// Converts UTF-8 text to a Qt string.
@@ -13,5 +15,11 @@ namespace sprout {
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
+
+/// The words in the language of the windows.
+[[nodiscard]] QString QtText(const Words& words);
+
+/// The same for what leaves the windows, such as a mail: bytes that are no UTF-8 stay as they are.
+[[nodiscard]] std::string ShownText(const Words& words);
 
 } // namespace sprout

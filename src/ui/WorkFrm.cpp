@@ -6,6 +6,7 @@
 #include "base/Product.h"
 #include "core/Shared.h"
 #include "ui/Artwork.h"
+#include "ui/Dialogs.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
 
@@ -30,11 +31,11 @@ constexpr const char* kWorkBarStyle =
 
 } // namespace
 
-WorkFrm::WorkFrm(QWidget* parent, std::string_view what)
+WorkFrm::WorkFrm(QWidget* parent, const Words& what)
     : BandedForm(parent), WorkLbl(&AddLabel("WorkLbl")), WorkBar(new QProgressBar(this))
 {
     setObjectName(QStringLiteral("WorkFrm"));
-    SetCaption(" " + std::string(kProductName));
+    SetCaption(CaptionOf({}));
     QLabel& sprout = AddLabel("IconImg");
     sprout.setPixmap(
         Artwork(QStringLiteral("pictures/Sprout"), QSize(kWorkSproutSide, kWorkSproutSide), devicePixelRatioF()));
@@ -56,7 +57,7 @@ WorkFrm::WorkFrm(QWidget* parent, std::string_view what)
     ShowStage(what);
 }
 
-void WorkFrm::ShowStage(std::string_view what)
+void WorkFrm::ShowStage(const Words& what)
 {
     WorkLbl->setText(QtText(what));
     setAccessibleName(WorkLbl->text());

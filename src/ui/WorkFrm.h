@@ -4,8 +4,8 @@
 #include <QProgressBar>
 
 #include <cstddef>
-#include <string_view>
 
+#include "base/Words.h"
 #include "ui/BandedForm.h"
 
 namespace sprout {
@@ -16,10 +16,10 @@ class WorkFrm : public BandedForm {
     Q_OBJECT
 
 public:
-    WorkFrm(QWidget* parent, std::string_view what);
+    WorkFrm(QWidget* parent, const Words& what);
 
     /// Shows what is being done now and resets the bar.
-    void ShowStage(std::string_view what);
+    void ShowStage(const Words& what);
     /// Shows the work done so far.
     void ShowShare(std::size_t done, std::size_t total);
 

@@ -32,12 +32,10 @@ namespace {
 // Files store samples exactly as memory does.
 static_assert(std::endian::native == std::endian::little);
 
-constexpr std::string_view kNoMemory = "There is not enough memory.";
-
 /// Ends a load with its own message.
 struct Refusal {
-    std::string title;
-    std::string text;
+    Words title;
+    Words text;
 };
 
 WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::string& name)
@@ -46,13 +44,14 @@ WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::stri
     WaveData wave;
     wave.Channels = fields.Channels;
     if (!IsKnownChannels(wave.Channels))
-        throw Refusal{"Error Loading " + name, "Channal info invalid at byte location 23"};
+        throw Refusal{Words::Text("Error Loading %1", name), Words::Text("Channal info invalid at byte location 23")};
     wave.Rate = fields.Rate;
     if (!IsKnownRate(wave.Rate))
-        throw Refusal{"Failed Loading " + name, "Sampling rate (" + std::to_string(wave.Rate) + ") not supported"};
+        throw Refusal{Words::Text("Failed Loading %1", name),
+                      Words::Text("Sampling rate (%1) not supported", wave.Rate)};
     wave.Bits = fields.Bits;
     if (!IsKnownBits(wave.Bits))
-        throw Refusal{"Error Loading " + name, "Bits per sample not supported"};
+        throw Refusal{Words::Text("Error Loading %1", name), Words::Text("Bits per sample not supported")};
     wave.Length = RoundHalfEven(static_cast<double>(dataSize) / FrameBytes(wave));
     return wave;
 }
@@ -61,11 +60,11 @@ WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::stri
 std::vector<std::byte> ReadSampleBytes(ByteSource& source, const WaveData& wave, std::uint64_t begin)
 {
     if (wave.Length < 0)
-        throw RunTimeError("The file tells a length below zero.");
+        throw RunTimeError(Words::Text("The file tells a length below zero."));
     const std::uint64_t there = source.Size() - std::min(source.Size(), begin);
     const std::uint64_t wanted = static_cast<std::uint64_t>(wave.Length) * static_cast<std::uint64_t>(FrameBytes(wave));
     if (wanted > there && wave.Length > kMostPromisedFrames)
-        throw RunTimeError("The file promises more sound than it holds.");
+        throw RunTimeError(Words::Text("The file promises more sound than it holds."));
     std::vector<std::byte> bytes(static_cast<std::size_t>(wanted));
     source.Read(begin, std::span(bytes).first(static_cast<std::size_t>(std::min(wanted, there))));
     return bytes;
@@ -94,10 +93,10 @@ WaveData ReadWave(const fs::path& path, const std::string& name, ReadSamples sam
 {
     FileSource source(path);
     if (source.Size() < kSmallestWave)
-        throw Refusal{"Error Loading " + name, "No wave Data found in file"};
+        throw Refusal{Words::Text("Error Loading %1", name), Words::Text("No wave Data found in file")};
     const std::uint64_t data = FindWaveData(source);
     if (data == 0)
-        throw Refusal{"Error Loading " + name, "The String 'Data' - is not found"};
+        throw Refusal{Words::Text("Error Loading %1", name), Words::Text("The String 'Data' - is not found")};
     WaveData wave = ReadWaveHead(source, ReadWaveDataSize(source, data), name);
     if (samples == ReadSamples::HeaderOnly)
         return wave;
@@ -114,7 +113,7 @@ public:
     explicit WaveWriter(const fs::path& path) : file(path, std::ios::binary | std::ios::trunc)
     {
         if (!file)
-            throw RunTimeError("The file " + PathText(path) + " could not be made.");
+            throw RunTimeError(Words::Text("The file %1 could not be made.", PathText(path)));
     }
 
     void Int32(std::int32_t value) { Bytes(std::as_bytes(std::span(&value, 1))); }
@@ -134,7 +133,7 @@ private:
     void Check() const
     {
         if (!file)
-            throw RunTimeError("The file could not be written to its end.");
+            throw RunTimeError(Words::Text("The file could not be written to its end."));
     }
 
     std::ofstream file;
@@ -161,7 +160,7 @@ void WriteWave(const WaveData& wave, const fs::path& path)
     const std::int32_t riffSize = RoundHalfEven(dataBytes + 36);
     const fs::path file = ThroughLinks(path);
     if (!DeleteFile(file))
-        throw RunTimeError("The file " + PathText(path) + " cannot be replaced.");
+        throw RunTimeError(Words::Text("The file %1 cannot be replaced.", PathText(path)));
     WaveWriter writer(file);
     writer.Bytes(WaveHead(wave));
     WriteSamples(writer, wave);
@@ -177,7 +176,7 @@ Channel CutChannel(const Channel& source, std::int32_t first, std::int32_t lengt
     if (length == 0)
         return {};
     if (first < 1 || first - 1 > source.UpperBound() - length)
-        throw RunTimeError("The part lies outside of the sound.");
+        throw RunTimeError(Words::Text("The part lies outside of the sound."));
     return Channel::FromSamples(
         source.Samples().subspan(static_cast<std::size_t>(first - 1), static_cast<std::size_t>(length)));
 }
@@ -203,26 +202,25 @@ std::optional<WaveData> TryLoadWaveFile(const fs::path& path, ReadSamples sample
     const fs::path file = FindFile(path);
     if (file.empty())
         return std::nullopt;
-    try {
-        return ReadWave(file, PathText(path), samples);
-    } catch (const Refusal& refusal) {
-        Tell(refusal.title, refusal.text);
-    } catch (const std::runtime_error& error) {
-        Tell("Wave file load error", error.what());
-    } catch (const std::bad_alloc&) {
-        Tell("Wave file load error", kNoMemory);
-    }
-    return std::nullopt;
+    std::optional<WaveData> wave;
+    GuardedTelling(Words::Text("Wave file load error"), [&] {
+        try {
+            wave = ReadWave(file, PathText(path), samples);
+        } catch (const Refusal& refusal) {
+            Tell(refusal.title, refusal.text);
+        }
+    });
+    return wave;
 }
 
 bool MayWriteWave(const WaveData& wave, const fs::path& path)
 {
     if (path.empty())
-        Tell("", "No file name given to write");
+        Tell({}, Words::Text("No file name given to write"));
     else if (wave.Length == 0)
-        Tell("Writing wave error", "Silent or Zero size wave found");
+        Tell(Words::Text("Writing wave error"), Words::Text("Silent or Zero size wave found"));
     else if (!IsKnownFormat(wave))
-        Tell("", "Format not Known to write wave file");
+        Tell({}, Words::Text("Format not Known to write wave file"));
     else
         return true;
     return false;
@@ -232,13 +230,7 @@ void SaveWaveFile(const WaveData& wave, const fs::path& path)
 {
     if (!MayWriteWave(wave, path))
         return;
-    try {
-        WriteWave(wave, path);
-    } catch (const std::runtime_error& error) {
-        Tell("Wav file Write error", error.what());
-    } catch (const std::bad_alloc&) {
-        Tell("Wav file Write error", kNoMemory);
-    }
+    GuardedTelling(Words::Text("Wav file Write error"), [&] { WriteWave(wave, path); });
 }
 
 std::vector<std::int32_t> WaveToLongs(const WaveData& wave)
@@ -277,7 +269,7 @@ WaveData GlidingTone()
     constexpr double twoPi = 6.28318530717958;
     const std::int32_t rate = Shared().SampleRate;
     if (rate < 1)
-        throw RunTimeError("There is no sample rate.");
+        throw RunTimeError(Words::Text("There is no sample rate."));
     WaveData tone = EmptyWave();
     tone.Length = RoundHalfEven(0.2 * rate);
     const double amplitude = RoundHalfEven(0.7 * (tone.Bits == 8 ? 127 : 32767));
@@ -305,14 +297,9 @@ WaveData GlidingTone()
 
 WaveData MakeTestTone()
 {
-    try {
-        return GlidingTone();
-    } catch (const std::runtime_error& error) {
-        Tell("Generate Sine Error", error.what());
-    } catch (const std::bad_alloc&) {
-        Tell("Generate Sine Error", kNoMemory);
-    }
-    return EmptyWave();
+    WaveData tone = EmptyWave();
+    GuardedTelling(Words::Text("Generate Sine Error"), [&tone] { tone = GlidingTone(); });
+    return tone;
 }
 
 } // namespace sprout

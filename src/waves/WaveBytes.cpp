@@ -49,7 +49,7 @@ void PackBytes(std::span<const std::int16_t> samples, std::size_t step, std::byt
 {
     for (std::size_t i = 0; i < samples.size(); ++i) {
         if (samples[i] < -128 || samples[i] > 127)
-            throw RunTimeError("A sample does not fit into 8 bits.");
+            throw RunTimeError(Words::Text("A sample does not fit into 8 bits."));
         out[i * step] = static_cast<std::byte>(samples[i] + 128);
     }
 }
@@ -83,7 +83,7 @@ void CheckFrames(const WaveData& wave)
     const bool holdsThem = wave.Length >= 0 && wave.WavL.UpperBound() >= wave.Length &&
                            (wave.Channels == 1 || wave.WavR.UpperBound() >= wave.Length);
     if (!holdsThem)
-        throw RunTimeError("The sound is shorter than it tells.");
+        throw RunTimeError(Words::Text("The sound is shorter than it tells."));
 }
 
 void PackFrames(const WaveData& wave, std::int32_t firstFrame, std::span<std::byte> bytes)

@@ -69,7 +69,7 @@ std::uint64_t FindWaveData(ByteSource& source)
 std::int32_t ReadWaveDataSize(ByteSource& source, std::uint64_t place)
 {
     if (place + 8 > source.Size())
-        throw RunTimeError("The file ends before its sound.");
+        throw RunTimeError(Words::Text("The file ends before its sound."));
     return Int32At(source, place + 4);
 }
 

@@ -77,7 +77,7 @@ Channel WidenSamples(std::span<const std::int16_t> samples)
     for (const std::int16_t sample : samples)
         widest |= (sample + 128) & ~255; // stays 0 if all are within -128..127
     if (widest != 0)
-        throw RunTimeError("A sample does not fit into 8 bits.");
+        throw RunTimeError(Words::Text("A sample does not fit into 8 bits."));
     return MakeChannel(samples.size(),
                        [samples](std::size_t i) { return static_cast<std::int16_t>(samples[i] * 256); });
 }
@@ -147,7 +147,7 @@ Channel DoubleSamples(std::span<const std::int16_t> samples, ClipRange range)
 void Double(WaveData& wave, ClipRange range)
 {
     if (wave.Length > kLongestWaveFrames / 2)
-        throw RunTimeError("The sound is too long.");
+        throw RunTimeError(Words::Text("The sound is too long."));
     ConvertBoth(wave, [range](std::span<const std::int16_t> samples) { return DoubleSamples(samples, range); });
     wave.Length *= 2;
     wave.Rate *= 2;
@@ -174,7 +174,7 @@ Channel FoldChannels(const WaveData& wave)
     return MakeChannel(left.size(), [&](std::size_t i) {
         const double sum = left[i] + right[i];
         if (sum < kLowest16 || sum > kHighest16)
-            throw RunTimeError("A sum of two samples does not fit into 16 bits.");
+            throw RunTimeError(Words::Text("A sum of two samples does not fit into 16 bits."));
         return RoundAndClip(sum * 0.75, range);
     });
 }
@@ -203,7 +203,7 @@ void CheckFitsInto16Bits(std::span<const std::int16_t> samples, double share, Cl
     for (const std::int16_t sample : samples) {
         const double value = Clip(sample * share, range);
         if (RoundHalfEven(value) < kLowest16 || RoundHalfEven(value) > kHighest16)
-            throw RunTimeError("A sample does not fit into 16 bits.");
+            throw RunTimeError(Words::Text("A sample does not fit into 16 bits."));
     }
 }
 
@@ -212,7 +212,7 @@ void CheckFitsInto16Bits(std::span<const std::int16_t> samples, double share, Cl
 std::span<const std::int16_t> FramesOf(const Channel& channel, std::int32_t length)
 {
     if (length > channel.UpperBound())
-        throw RunTimeError("The sound is shorter than it tells.");
+        throw RunTimeError(Words::Text("The sound is shorter than it tells."));
     return channel.Samples().first(length > 0 ? static_cast<std::size_t>(length) : 0);
 }
 

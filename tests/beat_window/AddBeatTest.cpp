@@ -36,16 +36,17 @@ TEST_F(AddBeatTest, AsksForTheTwoFilesInTheirFolders)
     Open();
     Add(Chosen("Bell.wav"), Chosen("Picture.bmp"));
     ASSERT_EQ(questions.size(), 2U);
-    EXPECT_EQ(questions[0].Title, "Please select a .wav file to use");
+    EXPECT_EQ(questions[0].Title.English(), "Please select a .wav file to use");
     EXPECT_EQ(questions[0].Folder, "/waves/");
     EXPECT_EQ(questions[0].FileName, "");
     EXPECT_EQ(questions[0].DefaultExtension, "wav");
-    EXPECT_EQ(questions[0].Filter, "Wave files(*.wav)|*.wav|All files|*.*|" + std::string(kOtherSoundsFilter));
+    EXPECT_EQ(questions[0].Filter.English(), "Wave files(*.wav)|*.wav|All files|*.*|" + kOtherSoundsFilter.English());
     EXPECT_EQ(questions[0].FilterIndex, 3) << "every sound is shown at first, .wav among them";
-    EXPECT_EQ(questions[1].Title, "Please select a picture file (32x32) to use");
+    EXPECT_EQ(questions[1].Title.English(), "Please select a picture file (32x32) to use");
     EXPECT_EQ(questions[1].Folder, "/install/Stars/");
     EXPECT_EQ(questions[1].DefaultExtension, "bmp");
-    EXPECT_EQ(questions[1].Filter, "Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*");
+    EXPECT_EQ(questions[1].Filter.English(),
+              "Picture files(*.bmp;*.jpg;*.gif;*.png)|*.bmp;*.jpg;*.gif;*.png|All files|*.*");
     const std::string folder = services.folder.Path().native() + "/";
     EXPECT_EQ(GetSetting("General", "WavFileSelPath", ""), folder);
     EXPECT_EQ(GetSetting("General", "PictureSelectPath", ""), folder);

@@ -94,7 +94,7 @@ class NoPictureFiles : public FakePictureFiles {
 public:
     [[nodiscard]] std::vector<std::byte> EncodeBmp(const Picture&) const override
     {
-        throw RunTimeError("The picture could not be written.");
+        throw RunTimeError(Words::Text("The picture could not be written."));
     }
 };
 

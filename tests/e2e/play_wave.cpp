@@ -19,23 +19,23 @@ namespace {
 
 class PrintedMessages : public Messages {
 public:
-    void MessageBox(std::string_view title, std::string_view text, MessageIcon) override
+    void MessageBox(const Words& title, const Words& text, MessageIcon) override
     {
-        std::cerr << title << ": " << text << std::endl;
+        std::cerr << title.English() << ": " << text.English() << std::endl;
     }
 };
 
 class NoDisplay : public PlayDisplay {
 public:
     [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
-    void ShowSoundStatus(std::string_view) override {}
+    void ShowSoundStatus(const Words&) override {}
     void EnablePlayPosTimer() override {}
     void UpdateThisTune() override {}
 };
 
 void PlayToItsEnd(const WaveData& wave)
 {
-    PlayWaveStatus(wave, "Playing", Loop::No);
+    PlayWaveStatus(wave, Words::Text("Playing"), Loop::No);
     const bool begun = PlayShared().PlayState == PlayState::Playing;
     std::cout << (begun ? "begun" : "failed") << std::endl;
     while (PlayShared().PlayState == PlayState::Playing) {

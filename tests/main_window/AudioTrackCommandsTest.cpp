@@ -107,9 +107,10 @@ TEST_F(AudioTrackCommandsTest, AsksForASoundFile)
     PutSetting("General", "WavFileSelPath", "/waves/");
     AddTrack(Choice::File);
     ASSERT_EQ(questions.size(), 1U);
-    EXPECT_EQ(questions[0].Title, "Please select a wav file to open");
+    EXPECT_EQ(questions[0].Title.English(), "Please select a wav file to open");
     EXPECT_EQ(questions[0].DefaultExtension, "wav");
-    EXPECT_THAT(questions[0].Filter, testing::StartsWith("Wave File(*.wav)|*.wav|All files|*.*|Other sounds|*.wav;"));
+    EXPECT_THAT(questions[0].Filter.English(),
+                testing::StartsWith("Wave File(*.wav)|*.wav|All files|*.*|Other sounds|*.wav;"));
     EXPECT_EQ(questions[0].FilterIndex, 3);
     EXPECT_EQ(questions[0].Folder, "");
     ExpectUnchanged();
@@ -302,7 +303,7 @@ TEST_F(AudioTrackCommandsTest, DrawsTheRowAnewWhereTheSoundWasChanged)
 
 TEST_F(AudioTrackCommandsTest, EditsNothingWithoutATrack)
 {
-    windows.audioEditor = [](std::int32_t) -> bool { throw RunTimeError("opened"); };
+    windows.audioEditor = [](std::int32_t) -> bool { throw RunTimeError(Words::Text("opened")); };
     audioTracks->TrackAudioBtn();
     EXPECT_THAT(services.messages.shown, IsEmpty());
 }

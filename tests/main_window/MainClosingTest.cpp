@@ -13,7 +13,7 @@ class MainClosingTest : public MainWindowTest {};
 TEST_F(MainClosingTest, ShutsTheSoundWhenItCloses)
 {
     SetSoundDriver(true);
-    PlayWaveStatus(Shared().TestTone, "Playing", Loop::No);
+    PlayWaveStatus(Shared().TestTone, Words::Text("Playing"), Loop::No);
     ASSERT_EQ(PlayShared().SoundDriver, 1);
     window->close();
     EXPECT_EQ(PlayShared().SoundDriver, 0);

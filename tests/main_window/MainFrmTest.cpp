@@ -171,7 +171,7 @@ TEST_F(MainFrmTest, TellsInRedThatThereIsNoSoundDeviceAndInBarkWhatThePlayerDoes
     const QColor red(255, 0, 0);
     window->ShowSoundDevices(0);
     EXPECT_TRUE(HasPixel(label, red));
-    transport.ShowSoundStatus("Playing All");
+    transport.ShowSoundStatus(Words::Text("Playing All"));
     EXPECT_FALSE(HasPixel(label, red));
     window->ShowSoundDevices(1);
     EXPECT_FALSE(HasPixel(label, red));

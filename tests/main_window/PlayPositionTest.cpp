@@ -131,7 +131,7 @@ TEST_F(PlayPositionTest, FindsTheEndOfASoundByItself)
 
 TEST_F(PlayPositionTest, FollowsOtherSoundsToTheirEndWithoutAMark)
 {
-    PlayWaveStatus(CountingWave(100), "Playing Star", Loop::No);
+    PlayWaveStatus(CountingWave(100), Words::Text("Playing Star"), Loop::No);
     EXPECT_EQ(Status(), "Playing Star");
     sound.place.Cursor = 50;
     Tick("PlayPosTimer");

@@ -61,7 +61,7 @@ protected:
     {
         SetSoundDriver(true);
         Shared().TestTone = WaveOfOneSecond();
-        PlayWaveStatus(Shared().TestTone, "Playing", Loop::No);
+        PlayWaveStatus(Shared().TestTone, Words::Text("Playing"), Loop::No);
         ASSERT_EQ(PlayShared().PlayState, PlayState::Playing);
     }
 

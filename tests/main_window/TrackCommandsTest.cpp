@@ -22,7 +22,7 @@ protected:
             SetTrackRenderValid(track, true);
     }
 
-    void PlaySomething() { PlayWaveStatus(CountingWave(100), "Playing", Loop::No); }
+    void PlaySomething() { PlayWaveStatus(CountingWave(100), Words::Text("Playing"), Loop::No); }
     void HoverDeleteButton(std::int32_t number) const { Hover(number, 75); }
     /// What both surfaces show. The first drawing keeps nothing, so only a second one shows what is stale.
     [[nodiscard]] std::pair<QImage, QImage> Shown() const
@@ -122,7 +122,7 @@ TEST_F(TrackCommandsTest, NoMarkerStandsBehindTheTuneWindow)
 
 TEST_F(TrackCommandsTest, ATuneWindowThatFailsLeavesNoTrackBehind)
 {
-    windows.tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError("No window."); };
+    windows.tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError(Words::Text("No window.")); };
     tracks->TrackAddBtn();
     EXPECT_EQ(song.TrackCount, 3);
     ASSERT_EQ(services.messages.shown.size(), 1U);

@@ -79,7 +79,7 @@ TEST_F(TrackTitlePlayTest, PlaysTheTuneOfABrushStroke)
 
 TEST_F(TrackTitlePlayTest, AStrokeOnATuneThatIsNotRenderedStopsTheSound)
 {
-    PlayWaveStatus(CountingWave(100), "Playing", Loop::No);
+    PlayWaveStatus(CountingWave(100), Words::Text("Playing"), Loop::No);
     QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
     Tick("TrackTitlePlayTimer");
     EXPECT_EQ(play.PlayState, PlayState::Stopped);

@@ -90,7 +90,7 @@ TEST_F(RecdFrmTest, TellsARunTimeErrorOfTheDriver)
 {
     class FailingCapture : public FakeCapture {
     public:
-        CaptureOpening Open() override { throw RunTimeError("The microphone is on fire."); }
+        CaptureOpening Open() override { throw RunTimeError(Words::Text("The microphone is on fire.")); }
     };
     FailingCapture failing;
     TheServices().capture = &failing;

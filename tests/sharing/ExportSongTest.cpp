@@ -114,11 +114,11 @@ TEST_F(SaveSongAsSoundTest, AsksForAWavFile)
     PutSetting("General", "WavFileSelPath", "/waves/");
     EXPECT_FALSE(Save(SoundFileKind::Wav, {}));
     ASSERT_EQ(questions.size(), 1U);
-    EXPECT_EQ(questions[0].Title, "Please select a .wav file to save");
+    EXPECT_EQ(questions[0].Title.English(), "Please select a .wav file to save");
     EXPECT_EQ(questions[0].Folder, "/waves/");
     EXPECT_EQ(questions[0].FileName, "Zumi.wav");
     EXPECT_EQ(questions[0].DefaultExtension, "wav");
-    EXPECT_EQ(questions[0].Filter, "Wave files(*.wav)|*.wav|All files|*.*");
+    EXPECT_EQ(questions[0].Filter.English(), "Wave files(*.wav)|*.wav|All files|*.*");
     EXPECT_EQ(hintOfDialog, "Select wav file name to save the song as audio (.wav) file");
 }
 
@@ -126,11 +126,11 @@ TEST_F(SaveSongAsSoundTest, AsksForAWmaFile)
 {
     EXPECT_FALSE(Save(SoundFileKind::Wma, {}));
     ASSERT_EQ(questions.size(), 1U);
-    EXPECT_EQ(questions[0].Title, "Please select a WMA file name to save");
+    EXPECT_EQ(questions[0].Title.English(), "Please select a WMA file name to save");
     EXPECT_EQ(questions[0].Folder, "");
     EXPECT_EQ(questions[0].FileName, "Zumi.wma");
     EXPECT_EQ(questions[0].DefaultExtension, "wma");
-    EXPECT_EQ(questions[0].Filter, "Windows Media Audio files(*.wma)|*.wma|All files|*.*");
+    EXPECT_EQ(questions[0].Filter.English(), "Windows Media Audio files(*.wma)|*.wma|All files|*.*");
     EXPECT_EQ(hintOfDialog, "Select wma file name to save the song as audio (.wma) file");
 }
 
@@ -347,7 +347,7 @@ TEST_F(SaveSongAsSoundTest, AMixThatIsStoppedIsNoMix)
 TEST_F(SaveSongAsSoundTest, AnyOtherErrorIsToldInAPlainBox)
 {
     const FileChooserStandIn dialog(
-        [](const FileQuestion&) -> std::optional<fs::path> { throw RunTimeError("The dialog broke."); });
+        [](const FileQuestion&) -> std::optional<fs::path> { throw RunTimeError(Words::Text("The dialog broke.")); });
     EXPECT_FALSE(SaveSongAsSound(SoundFileKind::Wav));
     EXPECT_FALSE(SaveSongAsSound(SoundFileKind::Wma));
     ASSERT_EQ(services.messages.shown.size(), 2U);

@@ -16,12 +16,12 @@ namespace sprout {
 
 bool operator==(const ExportOutcome& a, const ExportOutcome& b)
 {
-    return a.End == b.End && a.Line1 == b.Line1 && a.Line2 == b.Line2;
+    return a.End == b.End && a.Line1.English() == b.Line1.English() && a.Line2.English() == b.Line2.English();
 }
 
 void PrintTo(const ExportOutcome& outcome, std::ostream* out)
 {
-    *out << static_cast<int>(outcome.End) << " '" << outcome.Line1 << "' '" << outcome.Line2 << "'";
+    *out << static_cast<int>(outcome.End) << " '" << outcome.Line1.English() << "' '" << outcome.Line2.English() << "'";
 }
 
 namespace {
@@ -36,7 +36,7 @@ const ExportOutcome kSilentFailure = {.End = ExportEnd::Failed};
 
 ExportOutcome Failure(const std::string& line1, const std::string& line2 = {})
 {
-    return {.Line1 = line1, .Line2 = line2};
+    return {.Line1 = Words::AsIs(line1), .Line2 = Words::AsIs(line2)};
 }
 
 std::string ThisYear()
@@ -134,8 +134,8 @@ TEST_F(WmaExport, TellsWhatIsWrongWithAList)
 {
     fake.wma.list = "Windows Media Audio 2\r\nx\n1e99\n44100\n2\n16";
     const ExportOutcome outcome = Write();
-    EXPECT_EQ(outcome.Line1, "Failed to get WMA Codec Formats");
-    EXPECT_NE(outcome.Line2, "");
+    EXPECT_EQ(outcome.Line1.English(), "Failed to get WMA Codec Formats");
+    EXPECT_FALSE(outcome.Line2.IsBlank());
     ExpectOldFile();
 }
 

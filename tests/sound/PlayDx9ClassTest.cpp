@@ -29,9 +29,9 @@ protected:
     }
 
     Calls statuses;
-    PlayDx9Class backEnd{[this](std::string_view prompt, std::string_view title) {
-        EXPECT_EQ(prompt, "S2");
-        statuses.emplace_back(title);
+    PlayDx9Class backEnd{[this](const Words& prompt, const Words& title) {
+        EXPECT_EQ(prompt.English(), "S2");
+        statuses.push_back(title.English());
     }};
 };
 

@@ -29,7 +29,7 @@ TEST_F(PlayModTest, SetSoundDriverStartsTheDriverWithoutADevice)
 
 TEST_F(PlayModTest, SetSoundDriverOffReleasesTheDevice)
 {
-    PlayWaveStatus(CountingWave(1), "Playing Star", Loop::No);
+    PlayWaveStatus(CountingWave(1), Words::Text("Playing Star"), Loop::No);
     SetSoundDriver(false);
     EXPECT_EQ(play.SoundDriver, 0);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
@@ -63,10 +63,10 @@ TEST_F(PlayModTest, WithoutADriverNoPlayCallDoesAnything)
 {
     SetSoundDriver(false);
     play.PlayCursor = 5;
-    PlayWaveStatus(CountingWave(1), "Playing Star", Loop::Yes);
+    PlayWaveStatus(CountingWave(1), Words::Text("Playing Star"), Loop::Yes);
     PlayWaveKind(CountingWave(1), PlayKind::Recording, Loop::Yes);
     PlayWaveTrack(CountingWave(1), 1, 9, Loop::Yes);
-    PlayWaveDelayed(CountingWave(1), 0.75F, "Playing Tune", Loop::No);
+    PlayWaveDelayed(CountingWave(1), 0.75F, Words::Text("Playing Tune"), Loop::No);
     EXPECT_TRUE(sound.calls.empty());
     EXPECT_TRUE(play.PlayBuffer.empty());
     EXPECT_EQ(play.PlayKind, PlayKind::Other);
@@ -81,7 +81,7 @@ TEST_F(PlayModTest, PlayWaveStatusPlaysWhatIsNoTrack)
 {
     play.PlayKind = PlayKind::Recording;
     play.PlayingTrack = 3;
-    PlayWaveStatus(CountingWave(10), "Playing Star", Loop::Yes);
+    PlayWaveStatus(CountingWave(10), Words::Text("Playing Star"), Loop::Yes);
     EXPECT_EQ(play.PlayKind, PlayKind::Other);
     EXPECT_EQ(play.PlayingTrack, 0);
     EXPECT_EQ(play.PlayOffset, 1);
@@ -95,7 +95,7 @@ TEST_F(PlayModTest, PlayWaveStatusPlaysWhatIsNoTrack)
 TEST_F(PlayModTest, WhileTheTutorialPlaysTheMainWindowIsLeftAlone)
 {
     play.DemoPlaying = true;
-    PlayWaveStatus(CountingWave(10), "Playing", Loop::No);
+    PlayWaveStatus(CountingWave(10), Words::Text("Playing"), Loop::No);
     EXPECT_EQ(play.PlayState, PlayState::Playing);
     EXPECT_EQ(display.status, "Ready");
     EXPECT_EQ(display.timersEnabled, 0);
@@ -110,7 +110,7 @@ TEST_F(PlayModTest, NoOtherPlayHeedsTheTutorial)
     PlayWaveTrack(CountingWave(10), 4, 17, Loop::No);
     EXPECT_EQ(display.status, "Playing Track 4");
     EXPECT_EQ(display.timersEnabled, 2);
-    PlayWaveDelayed(CountingWave(10), 0, "Playing Tune", Loop::No);
+    PlayWaveDelayed(CountingWave(10), 0, Words::Text("Playing Tune"), Loop::No);
     EXPECT_EQ(display.status, "Playing Tune");
     EXPECT_EQ(display.timersEnabled, 3);
     EXPECT_EQ(display.tunesShown, 1);
@@ -179,9 +179,9 @@ TEST_F(PlayModTest, WithoutADeviceNeitherStatusNorTimerComeUp)
 
 TEST_F(PlayModTest, ASecondPlayCutsTheFirstOff)
 {
-    PlayWaveStatus(CountingWave(10), "one", Loop::Yes);
+    PlayWaveStatus(CountingWave(10), Words::Text("one"), Loop::Yes);
     sound.calls.clear();
-    PlayWaveStatus(CountingWave(20), "two", Loop::No);
+    PlayWaveStatus(CountingWave(20), Words::Text("two"), Loop::No);
     EXPECT_EQ(sound.calls.front(), "Stop 1");
     EXPECT_EQ(play.PlayState, PlayState::Playing);
     EXPECT_EQ(play.PlayLength, 20);
@@ -190,7 +190,7 @@ TEST_F(PlayModTest, ASecondPlayCutsTheFirstOff)
 
 TEST_F(PlayModTest, PlayWaveDelayedPutsSilenceAheadOfBothChannels)
 {
-    PlayWaveDelayed(CountingWave(2), 0.00005F, "Playing Tune", Loop::Yes); // 2.2 frames
+    PlayWaveDelayed(CountingWave(2), 0.00005F, Words::Text("Playing Tune"), Loop::Yes); // 2.2 frames
     EXPECT_EQ(sound.pcm, Bytes({0, 0, 0, 0, 0, 0, 0, 0, 1, 0, 255, 255, 2, 0, 254, 255}));
     EXPECT_EQ(play.PlayLength, 4);
     EXPECT_EQ(play.PlayKind, PlayKind::Other);
@@ -203,14 +203,14 @@ TEST_F(PlayModTest, PlayWaveDelayedPutsSilenceAheadOfBothChannels)
 TEST_F(PlayModTest, PlayWaveDelayedKeepsAMonoWaveMonoAndTheGivenWaveAsItIs)
 {
     const WaveData wave = MonoWave(8, 11025, {5});
-    PlayWaveDelayed(wave, 2 / 11025.0F, "Playing Tune", Loop::Yes);
+    PlayWaveDelayed(wave, 2 / 11025.0F, Words::Text("Playing Tune"), Loop::Yes);
     EXPECT_EQ(sound.pcm, Bytes({128, 128, 133}));
     EXPECT_EQ(wave, MonoWave(8, 11025, {5}));
 }
 
 TEST_F(PlayModTest, TheSilenceAheadOfAnEmptyWaveIsAPlay)
 {
-    PlayWaveDelayed(EmptyWave(), 0.75F, "Playing Tune", Loop::No);
+    PlayWaveDelayed(EmptyWave(), 0.75F, Words::Text("Playing Tune"), Loop::No);
     EXPECT_EQ(play.PlayLength, 33075);
     EXPECT_EQ(play.PlayState, PlayState::Playing);
     EXPECT_EQ(display.tunesShown, 1);
@@ -219,10 +219,10 @@ TEST_F(PlayModTest, TheSilenceAheadOfAnEmptyWaveIsAPlay)
 TEST_F(PlayModTest, AChosenTuneIsShownWithoutADriverAndWithoutADeviceToo)
 {
     sound.opens = false;
-    PlayWaveDelayed(CountingWave(2), 0.75F, "Playing Tune", Loop::No);
+    PlayWaveDelayed(CountingWave(2), 0.75F, Words::Text("Playing Tune"), Loop::No);
     EXPECT_EQ(display.tunesShown, 1);
     SetSoundDriver(false);
-    PlayWaveDelayed(CountingWave(2), 0.75F, "Playing Tune", Loop::No);
+    PlayWaveDelayed(CountingWave(2), 0.75F, Words::Text("Playing Tune"), Loop::No);
     EXPECT_EQ(display.tunesShown, 2);
     EXPECT_EQ(display.status, "Ready");
     EXPECT_EQ(display.timersEnabled, 0);
@@ -230,7 +230,7 @@ TEST_F(PlayModTest, AChosenTuneIsShownWithoutADriverAndWithoutADeviceToo)
 
 TEST_F(PlayModTest, ATuneWhoseWaveIsRefusedIsNotShown)
 {
-    PlayWaveDelayed(EmptyWave(), 0, "Playing Tune", Loop::No);
+    PlayWaveDelayed(EmptyWave(), 0, Words::Text("Playing Tune"), Loop::No);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
     EXPECT_EQ(display.tunesShown, 0);
     EXPECT_EQ(display.status, "Ready");
@@ -238,7 +238,7 @@ TEST_F(PlayModTest, ATuneWhoseWaveIsRefusedIsNotShown)
 
 TEST_F(PlayModTest, ATuneWhoseWaveFailsOnTheWayIsNotShown)
 {
-    PlayWaveDelayed(MonoWave(8, 11025, {128}), 0, "Playing Tune", Loop::No);
+    PlayWaveDelayed(MonoWave(8, 11025, {128}), 0, Words::Text("Playing Tune"), Loop::No);
     EXPECT_EQ(play.PlayState, PlayState::Stopped);
     EXPECT_EQ(display.tunesShown, 0);
     EXPECT_EQ(display.status, "Ready");
@@ -252,13 +252,13 @@ TEST_F(PlayModTest, ThePlayerOutlivesASwitchOfTheDriver)
     SetSoundDriver(false);
     SetSoundDriver(true);
     EXPECT_EQ(&Player(), player);
-    PlayWaveStatus(CountingWave(1), "Playing", Loop::No);
+    PlayWaveStatus(CountingWave(1), Words::Text("Playing"), Loop::No);
     EXPECT_EQ(play.PlayState, PlayState::Playing);
 }
 
 TEST_F(PlayModTest, ReleasePlayerClosesTheDevice)
 {
-    PlayWaveStatus(CountingWave(1), "Playing", Loop::No);
+    PlayWaveStatus(CountingWave(1), Words::Text("Playing"), Loop::No);
     ReleasePlayer();
     EXPECT_EQ(sound.open, 0);
 }

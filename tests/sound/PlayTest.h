@@ -64,8 +64,8 @@ protected:
     /// Keeps what the player raises from now on, as "prompt|title".
     void Listen()
     {
-        Player().MsgBoxOb = [this](std::string_view prompt, std::string_view title) {
-            raised.push_back(std::string(prompt) + "|" + std::string(title));
+        Player().MsgBoxOb = [this](const Words& prompt, const Words& title) {
+            raised.push_back(prompt.English() + "|" + title.English());
         };
     }
 

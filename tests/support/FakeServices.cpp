@@ -24,7 +24,7 @@ Picture FakePictureFiles::LoadPicture(const std::filesystem::path& path) const
 {
     const std::string bytes = ReadBytes(path);
     if (bytes.starts_with("bad"))
-        throw RunTimeError("The picture " + path.native() + " cannot be read.");
+        throw RunTimeError(Words::Text("The picture %1 cannot be read.", path.native()));
     return OneColour(static_cast<std::uint32_t>(bytes.size()));
 }
 

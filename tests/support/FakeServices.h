@@ -39,9 +39,9 @@ public:
         friend bool operator==(const Shown&, const Shown&) = default;
     };
 
-    void MessageBox(std::string_view title, std::string_view text, MessageIcon icon) override
+    void MessageBox(const Words& title, const Words& text, MessageIcon icon) override
     {
-        shown.push_back({std::string(title), std::string(text), icon});
+        shown.push_back({title.English(), text.English(), icon});
     }
 
     std::vector<Shown> shown;
@@ -61,8 +61,8 @@ public:
             throw WorkStopped();
     }
     void EnableTuneNotFilledTimer() override { tuneNotFilledTimer = true; }
-    void BeginStoppable(std::string_view what) override { stages.emplace_back(what); }
-    void NextStage(std::string_view what) override { stages.emplace_back(what); }
+    void BeginStoppable(const Words& what) override { stages.push_back(what.English()); }
+    void NextStage(const Words& what) override { stages.push_back(what.English()); }
     void EndStoppable() override { stages.emplace_back(); }
 
     int hourglasses = 0; // shown now

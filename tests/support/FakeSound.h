@@ -38,7 +38,7 @@ public:
 class FakePlayDisplay : public PlayDisplay {
 public:
     [[nodiscard]] std::int32_t MainWindowHandle() const override;
-    void ShowSoundStatus(std::string_view text) override { status = text; }
+    void ShowSoundStatus(const Words& text) override { status = text.English(); }
     void EnablePlayPosTimer() override { ++timersEnabled; }
     void UpdateThisTune() override { ++tunesShown; }
 

@@ -44,9 +44,9 @@ TEST_F(ChangePicBtnTest, TakesAPictureAndRemembersItsFolder)
         EXPECT_TRUE(window.TuneChanged);
     });
     EXPECT_EQ(hintOfMessage, "Choose a small (32x32) bmp picture file");
-    EXPECT_EQ(question.Title, "Please select a picture file (32x32) to use");
+    EXPECT_EQ(question.Title.English(), "Please select a picture file (32x32) to use");
     EXPECT_EQ(question.DefaultExtension, "bmp");
-    EXPECT_EQ(question.Filter, "Picture files|*.bmp;*.jpg;*.gif;*.png|All files|*.*");
+    EXPECT_EQ(question.Filter.English(), "Picture files|*.bmp;*.jpg;*.gif;*.png|All files|*.*");
     EXPECT_EQ(question.Folder, Shared().InstallStars);
     EXPECT_EQ(GetSetting("General", "PictureSelectPath", ""), services.folder.Path().native() + "/");
     ChangePicture({}, [](TuneFrm2&) {});

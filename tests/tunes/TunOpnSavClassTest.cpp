@@ -220,7 +220,7 @@ TEST_F(TunOpnSavClassTest, ReadingADamagedTuneGivesItsBeginningAndTheReasonWitho
     EXPECT_EQ(reading.Record->CreatedBy, "Ann");
     EXPECT_FALSE(reading.IsWhole);
     ASSERT_TRUE(reading.Failure);
-    EXPECT_EQ(reading.Failure->Title, "Error Loading Tune File");
+    EXPECT_EQ(reading.Failure->Title.English(), "Error Loading Tune File");
     EXPECT_TRUE(services.messages.shown.empty());
     TellFailure(reading);
     EXPECT_EQ(services.messages.shown.size(), 1U);
@@ -232,7 +232,7 @@ TEST_F(TunOpnSavClassTest, ReadingAFileThatCannotBeOpenedGivesNoRecord)
     EXPECT_FALSE(reading.Record);
     EXPECT_FALSE(reading.IsWhole);
     ASSERT_TRUE(reading.Failure);
-    EXPECT_EQ(reading.Failure->Title, "Error Opening File");
+    EXPECT_EQ(reading.Failure->Title.English(), "Error Opening File");
 }
 
 TEST_F(TunOpnSavClassTest, SaysWhetherAllWasLoaded)

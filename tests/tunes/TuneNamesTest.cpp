@@ -31,9 +31,9 @@ TEST_F(TuneNamesTest, AChangedOriginalCannotPassAsTheMakers)
 
 TEST_F(TuneNamesTest, ANameOfBlanksCountsAsEmpty)
 {
-    EXPECT_EQ(WhatIsMissing(Trimmed({"  ", "Ann"})), "Enter a Tune Name.");
-    EXPECT_EQ(WhatIsMissing(Trimmed({" Rain ", "   "})), "Enter a your name in \"Created By\" box.");
-    EXPECT_EQ(WhatIsMissing(Trimmed({" Rain ", " Ann "})), "");
+    EXPECT_EQ(WhatIsMissing(Trimmed({"  ", "Ann"})).English(), "Enter a Tune Name.");
+    EXPECT_EQ(WhatIsMissing(Trimmed({" Rain ", "   "})).English(), "Enter a your name in \"Created By\" box.");
+    EXPECT_EQ(WhatIsMissing(Trimmed({" Rain ", " Ann "})).English(), "");
     EXPECT_EQ(Trimmed({" Rain ", " Ann "}), (TuneNames{"Rain", "Ann"}));
 }
 

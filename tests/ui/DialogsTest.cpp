@@ -33,7 +33,7 @@ TEST(ShowMessage, UsesTheFormOfOneNoteForABlankSecondLine)
 {
     Seen seen;
     ClickNext(seen, "OkBtn");
-    ShowMessage("Song not selected.", "  ", " ");
+    ShowMessage(Words::Text("Song not selected."), Words::Text("  "), Words::Text(" "));
     EXPECT_EQ(seen.form, QStringLiteral("Msg1BtnFrm"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Tonquill Sprout Painter"));
 }
@@ -42,7 +42,7 @@ TEST(ShowMessage, UsesTheFormOfTwoNotesAndPutsABlankBeforeTheTitle)
 {
     Seen seen;
     ClickNext(seen, "OkBtn");
-    ShowMessage("Your song \"Zumi\" is saved.", "Well done.", "Good!");
+    ShowMessage(Words::Text("Your song \"Zumi\" is saved."), Words::Text("Well done."), Words::Text("Good!"));
     EXPECT_EQ(seen.form, QStringLiteral("Msg1Btn2NoteFrm"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Good!"));
 }
@@ -51,20 +51,20 @@ TEST(AskYesNo, Is1ForYesAnd0ForNoCloseBoxAndEscape)
 {
     Seen seen;
     ClickNext(seen, "YesBtn");
-    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 1);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 1);
     EXPECT_EQ(seen.form, QStringLiteral("MsgYesNoFrm"));
     ClickNext(seen, "NoBtn");
-    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 0);
     ClickNext(seen, "CloseImgBtn");
-    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 0);
     WithNextForm([](BandedForm& form) { QTest::keyClick(&form, Qt::Key_Escape); });
-    EXPECT_EQ(AskYesNo("Do you want to delete this song?", "Zumi"), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 0);
 }
 
 TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
 {
     WithNextForm([](BandedForm& form) { QTest::keyClick(form.focusWidget(), Qt::Key_Return); });
-    EXPECT_EQ(AskYesNo("Overwrite?"), 0) << "the answer that loses nothing has the focus";
+    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 0) << "the answer that loses nothing has the focus";
     for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Backtab}) {
         int onYes = -1;
         WithNextForm([key, &onYes](BandedForm& form) {
@@ -72,7 +72,7 @@ TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
             onYes = form.focusWidget()->objectName() == QStringLiteral("YesBtn");
             QTest::keyClick(form.focusWidget(), Qt::Key_Return);
         });
-        EXPECT_EQ(AskYesNo("Overwrite?"), 1);
+        EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 1);
         EXPECT_EQ(onYes, 1);
     }
 }
@@ -86,7 +86,7 @@ TEST(AskYesNo, IsNotAnsweredByAnEnterHeldDownSinceBefore)
         }
         Click(form, "NoBtn");
     });
-    EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 0);
 }
 
 TEST(AskYesNo, HasTheTimerOfItsRaisedButtonsOnFromTheStart)
@@ -95,7 +95,7 @@ TEST(AskYesNo, HasTheTimerOfItsRaisedButtonsOnFromTheStart)
         EXPECT_TRUE(form.findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"))->isActive());
         Click(form, "NoBtn");
     });
-    EXPECT_EQ(AskYesNo("Overwrite?"), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 0);
 }
 
 TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
@@ -106,14 +106,14 @@ TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
         QTest::keyClicks(box, QStringLiteral("Rain")); // the old text is selected and is replaced
         Click(form, "OkBtn");
     });
-    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "Rain");
+    EXPECT_EQ(AskText("Zumi", Words::Text("Enter the new name:")), "Rain");
     Seen seen;
     ClickNext(seen, "CancelBtn");
-    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "");
+    EXPECT_EQ(AskText("Zumi", Words::Text("Enter the new name:")), "");
     WithNextForm([](BandedForm& form) {
         QTest::keyClick(form.findChild<QWidget*>(QStringLiteral("InputTxt")), Qt::Key_Return);
     });
-    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "Zumi");
+    EXPECT_EQ(AskText("Zumi", Words::Text("Enter the new name:")), "Zumi");
 }
 
 TEST(AskText, GoesFromTheBoxToOkAndCancelByTab)
@@ -126,7 +126,7 @@ TEST(AskText, GoesFromTheBoxToOkAndCancelByTab)
         }
         Click(form, "CancelBtn");
     });
-    EXPECT_EQ(AskText("Zumi", "Enter the new name:"), "");
+    EXPECT_EQ(AskText("Zumi", Words::Text("Enter the new name:")), "");
     EXPECT_EQ(reached.join(QLatin1Char(' ')), QStringLiteral("InputTxt OkBtn CancelBtn InputTxt"));
 }
 
@@ -139,11 +139,11 @@ TEST(ShowMessage, StacksOnAnotherModalForm)
             ++answers;
             Click(message, "OkBtn");
         });
-        ShowMessage("On top.");
+        ShowMessage(Words::Text("On top."));
         ++answers;
         Click(question, "YesBtn");
     });
-    EXPECT_EQ(AskYesNo("Below?"), 1);
+    EXPECT_EQ(AskYesNo(Words::Text("Below?")), 1);
     EXPECT_EQ(answers, 2);
 }
 
@@ -157,7 +157,8 @@ TEST(QtMessages, ShowsATitledBoxOfSeveralLines)
         EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("IconImg")), nullptr);
         Click(form, "OkBtn");
     });
-    QtMessages().MessageBox("Play Failed", "Could not Play Sound\nDriver busy or not ready", MessageIcon::Exclamation);
+    QtMessages().MessageBox(Words::Text("Play Failed"), Words::Text("Could not Play Sound\nDriver busy or not ready"),
+                            MessageIcon::Exclamation);
     EXPECT_EQ(text, QStringLiteral("Could not Play Sound\nDriver busy or not ready"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Play Failed"));
 }
@@ -166,7 +167,7 @@ TEST(QtMessages, ShowsAnUntitledBox)
 {
     Seen seen;
     ClickNext(seen, "OkBtn");
-    QtMessages().MessageBox("", "Error Loading File", MessageIcon::None);
+    QtMessages().MessageBox({}, Words::Text("Error Loading File"), MessageIcon::None);
     EXPECT_EQ(seen.form, QStringLiteral("PlainBoxFrm"));
     EXPECT_EQ(seen.caption, QString());
 }

@@ -44,8 +44,8 @@ protected:
 
     FileQuestion Question() const
     {
-        return {"Please select a .wav file to use", services.folder.Path(), "", "wav",
-                "Wave files(*.wav)|*.wav|All files|*.*"};
+        return {Words::Text("Please select a .wav file to use"), services.folder.Path(), "", "wav",
+                Words::Text("Wave files(*.wav)|*.wav|All files|*.*")};
     }
 
     static inline std::optional<std::filesystem::path> (*choose)(const FileQuestion&) = ChooseFileToOpen;
@@ -132,7 +132,7 @@ TEST_F(ChooseFileToOpenTest, BeginsInTheFolderAskedForElseInTheOneLastShown)
 TEST_F(ChooseFileToOpenTest, OffersTheKindsOfFilesInAnyLetterCase)
 {
     FileQuestion question = Question();
-    question.Filter = "Picture files(*.bmp;*.gif)|*.bmp;*.gif|All files|*.*";
+    question.Filter = Words::Text("Picture files(*.bmp;*.gif)|*.bmp;*.gif|All files|*.*");
     Ask(question, [](QFileDialog& dialog) {
         EXPECT_EQ(dialog.nameFilters(),
                   (QStringList{QStringLiteral("Picture files(*.bmp;*.gif) (*.[bB][mM][pP] *.[gG][iI][fF])"),
@@ -149,7 +149,7 @@ TEST_F(ChooseFileToOpenTest, OffersTheKindsOfFilesInAnyLetterCase)
 TEST_F(ChooseFileToOpenTest, SelectsTheFilterThatIsAskedFor)
 {
     FileQuestion question = Question();
-    question.Filter = "Wave files|*.wav|All files|*.*|Other sounds|*.mp3;*.ogg";
+    question.Filter = Words::Text("Wave files|*.wav|All files|*.*|Other sounds|*.mp3;*.ogg");
     question.FilterIndex = 3;
     Ask(question, [](QFileDialog& dialog) {
         EXPECT_TRUE(dialog.selectedNameFilter().startsWith(QStringLiteral("Other sounds")));

@@ -18,9 +18,9 @@ protected:
     class NotedMessages : public Messages {
     public:
         explicit NotedMessages(std::vector<std::string>& events) : noted(events) {}
-        void MessageBox(std::string_view /*title*/, std::string_view text, MessageIcon /*icon*/) override
+        void MessageBox(const Words& /*title*/, const Words& text, MessageIcon /*icon*/) override
         {
-            noted.emplace_back(text);
+            noted.push_back(text.English());
         }
 
     private:
@@ -36,15 +36,23 @@ protected:
 
 TEST_F(GuardedTest, TellsWhatWentWrong)
 {
-    EXPECT_FALSE(Guarded([] { throw RunTimeError("No room."); }));
+    EXPECT_FALSE(Guarded([] { throw RunTimeError(Words::Text("No room.")); }));
     EXPECT_TRUE(Guarded([this] { noted.emplace_back("done"); }));
     EXPECT_THAT(noted, testing::ElementsAre("No room.", "done"));
 }
 
+TEST_F(GuardedTest, PutsTheReasonIntoItsOwnText)
+{
+    const LaterWords failed = Words::Later("It failed.\r\n%1");
+    EXPECT_FALSE(Guarded(failed, [] { throw RunTimeError(Words::Text("No room.")); }));
+    EXPECT_TRUE(Guarded(failed, [] {}));
+    EXPECT_THAT(noted, testing::ElementsAre("It failed.\r\nNo room."));
+}
+
 TEST_F(GuardedTest, EndsWhatWouldFailAgainBeforeTheBoxOpens)
 {
-    Guarded([] { throw RunTimeError("No room."); }, [this] { noted.emplace_back("timer stopped"); });
-    Guarded([] {}, [this] { noted.emplace_back("not stopped"); });
+    GuardedOnce([] { throw RunTimeError(Words::Text("No room.")); }, [this] { noted.emplace_back("timer stopped"); });
+    GuardedOnce([] {}, [this] { noted.emplace_back("not stopped"); });
     EXPECT_THAT(noted, testing::ElementsAre("timer stopped", "No room."));
 }
 

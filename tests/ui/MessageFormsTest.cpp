@@ -25,14 +25,15 @@ int ResultOf(BandedForm& form, const char* button)
 
 TEST(NotesForm, IsAsWideAsItsWidestNoteAndAMarginOf8)
 {
-    Msg1Btn2NoteFrm form(nullptr, "Short", "A note that is certainly wider than two hundred and thirty pixels");
+    Msg1Btn2NoteFrm form(nullptr, Words::Text("Short"),
+                         Words::Text("A note that is certainly wider than two hundred and thirty pixels"));
     EXPECT_EQ(form.width(), Part(form, "NoteLbl2").width() + 16);
 }
 
 TEST(NotesForm, KeepsItsText16PixelsFromTheEdge)
 {
     const QString text = QStringLiteral("A note that is certainly wider than two hundred and thirty pixels");
-    Msg1BtnFrm form(nullptr, text.toStdString());
+    Msg1BtnFrm form(nullptr, Words::AsIs(text.toStdString()));
     const auto& note = static_cast<QLabel&>(Part(form, "NoteLbl"));
     EXPECT_GE(form.width(), note.fontMetrics().horizontalAdvance(text) + 32);
 }
@@ -46,17 +47,17 @@ TEST(NotesForm, WrapsItsTextWhereASmallScreenWould)
 
 TEST(NotesForm, IsNoNarrowerThan230And250)
 {
-    EXPECT_EQ(Msg1BtnFrm(nullptr, "Hi").width(), 246);
-    EXPECT_EQ(MsgYesNoFrm(nullptr, "Hi", "").width(), 266);
+    EXPECT_EQ(Msg1BtnFrm(nullptr, Words::Text("Hi")).width(), 246);
+    EXPECT_EQ(MsgYesNoFrm(nullptr, Words::Text("Hi"), {}).width(), 266);
     EXPECT_GE(SaveConfirmFrm(nullptr, "Hi").width(), 316);
 }
 
 TEST(NotesForm, CentresItsButtons)
 {
-    Msg1BtnFrm one(nullptr, "A note");
+    Msg1BtnFrm one(nullptr, Words::Text("A note"));
     const QRect ok = Part(one, "OkBtn").geometry();
     EXPECT_EQ(ok.left(), (one.width() - ok.width()) / 2);
-    MsgYesNoFrm two(nullptr, "A question", "");
+    MsgYesNoFrm two(nullptr, Words::Text("A question"), {});
     const QRect yes = Part(two, "YesBtn").geometry();
     const QRect no = Part(two, "NoBtn").geometry();
     EXPECT_EQ(yes.top(), no.top());
@@ -68,7 +69,7 @@ TEST(NotesForm, CentresItsButtons)
 
 TEST(NotesForm, BreaksANoteThatIsWiderThanTheScreen)
 {
-    Msg1BtnFrm form(nullptr, std::string(100, 'a') + " " + std::string(100, 'b'));
+    Msg1BtnFrm form(nullptr, Words::Text("%1 %2", std::string(100, 'a'), std::string(100, 'b')));
     EXPECT_LE(form.width(), form.screen()->size().width());
     EXPECT_GT(Part(form, "NoteLbl").height(), 40);
     EXPECT_GT(Part(form, "OkBtn").y(), Part(form, "NoteLbl").geometry().bottom());
@@ -76,7 +77,7 @@ TEST(NotesForm, BreaksANoteThatIsWiderThanTheScreen)
 
 TEST(Msg3BtnFrm, Is1ForRecording2ForAWaveFileAnd0ForCancel)
 {
-    Msg3BtnFrm form(nullptr, "Choose Audio Type to add:");
+    Msg3BtnFrm form(nullptr, Words::Text("Choose Audio Type to add:"));
     EXPECT_EQ(ResultOf(form, "StartRecordingBtn"), 1);
     EXPECT_EQ(ResultOf(form, "ChooseWavFileBtn"), 2);
     EXPECT_EQ(ResultOf(form, "CancelBtn"), 0);
@@ -95,11 +96,11 @@ TEST(SaveConfirmFrm, Is2ForYes1ForNoAnd0ForCancelAndAnyOtherClose)
 
 TEST(InputBoxFrm, StandsByItsNumberOfNotes)
 {
-    InputBoxFrm one(nullptr, "Zumi", "Enter the new name:", " ");
+    InputBoxFrm one(nullptr, "Zumi", Words::Text("Enter the new name:"), Words::Text(" "));
     EXPECT_EQ(one.height(), 151);
     EXPECT_EQ(Part(one, "InputTxt").y() - kBandHeight, 32);
     EXPECT_EQ(Part(one, "OkBtn").y() - kBandHeight, 74);
-    InputBoxFrm two(nullptr, "Zumi", "Enter the new name:", "It may hold letters.");
+    InputBoxFrm two(nullptr, "Zumi", Words::Text("Enter the new name:"), Words::Text("It may hold letters."));
     EXPECT_EQ(two.height(), 176);
     EXPECT_EQ(Part(two, "InputTxt").y() - kBandHeight, 56);
     EXPECT_EQ(Part(two, "OkBtn").y() - kBandHeight, 98);
@@ -107,7 +108,7 @@ TEST(InputBoxFrm, StandsByItsNumberOfNotes)
 
 TEST(BandedForm, MovesWithItsBand)
 {
-    Msg1BtnFrm form(nullptr, "A note");
+    Msg1BtnFrm form(nullptr, Words::Text("A note"));
     form.move(100, 100);
     form.show();
     QTest::mousePress(&form, Qt::LeftButton, {}, QPoint(60, 10));
@@ -118,7 +119,7 @@ TEST(BandedForm, MovesWithItsBand)
 
 TEST(BandedForm, StandsInTheMiddleOfTheScreen)
 {
-    Msg1BtnFrm form(nullptr, "A note");
+    Msg1BtnFrm form(nullptr, Words::Text("A note"));
     QPoint middle;
     WithNextForm([&middle](BandedForm& shown) {
         middle = shown.geometry().center();

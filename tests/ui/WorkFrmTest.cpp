@@ -22,7 +22,7 @@ WorkFrm* ShownWork()
 
 TEST(WorkFrm, ShowsWhatIsDoneAndHowFarItIs)
 {
-    WorkFrm form(nullptr, "Mixing your song");
+    WorkFrm form(nullptr, Words::Text("Mixing your song"));
     form.Appear();
     auto* label = form.findChild<QLabel*>(QStringLiteral("WorkLbl"));
     auto* bar = form.findChild<QProgressBar*>(QStringLiteral("WorkBar"));
@@ -34,7 +34,7 @@ TEST(WorkFrm, ShowsWhatIsDoneAndHowFarItIs)
     EXPECT_EQ(bar->value(), bar->maximum() / 4);
     form.ShowShare(0, 0);
     EXPECT_EQ(bar->value(), bar->maximum() / 4);
-    form.ShowStage("Writing the wav file");
+    form.ShowStage(Words::Text("Writing the wav file"));
     EXPECT_EQ(label->text(), QStringLiteral("Writing the wav file"));
     EXPECT_EQ(bar->value(), 0);
 }
@@ -42,14 +42,14 @@ TEST(WorkFrm, ShowsWhatIsDoneAndHowFarItIs)
 TEST(WorkFrm, StopsByItsButtonItsCloseBoxAndEscape)
 {
     for (const char* button : {"StopBtn", "CloseImgBtn"}) {
-        WorkFrm form(nullptr, "Mixing");
+        WorkFrm form(nullptr, Words::Text("Mixing"));
         form.Appear();
         EXPECT_FALSE(form.StopWanted());
         Click(form, button);
         EXPECT_TRUE(form.StopWanted()) << button;
         EXPECT_TRUE(form.isVisible()) << "until the work has ended";
     }
-    WorkFrm form(nullptr, "Mixing");
+    WorkFrm form(nullptr, Words::Text("Mixing"));
     form.Appear();
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_TRUE(form.StopWanted());
@@ -57,7 +57,7 @@ TEST(WorkFrm, StopsByItsButtonItsCloseBoxAndEscape)
 
 TEST(WorkFrm, DoesNotTakeTheKeyThatBeganTheWorkForAStop)
 {
-    WorkFrm form(nullptr, "Mixing");
+    WorkFrm form(nullptr, Words::Text("Mixing"));
     form.Appear();
     QTest::keyClick(&form, Qt::Key_Return);
     QTest::keyClick(&form, Qt::Key_Enter);
@@ -88,13 +88,13 @@ TEST_F(StoppableWorkTest, ShowsAFormOnceItHasLasted)
 {
     QElapsedTimer working;
     working.start();
-    screen.BeginStoppable("Mixing your song");
+    screen.BeginStoppable(Words::Text("Mixing your song"));
     screen.ShowProgress(1, 2);
     EXPECT_EQ(ShownWork(), nullptr) << "short work shows none";
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     EXPECT_GE(working.elapsed(), 500);
     EXPECT_EQ(ShownWork()->findChild<QLabel*>(QStringLiteral("WorkLbl"))->text(), QStringLiteral("Mixing your song"));
-    screen.NextStage("Writing");
+    screen.NextStage(Words::Text("Writing"));
     EXPECT_EQ(ShownWork()->findChild<QLabel*>(QStringLiteral("WorkLbl"))->text(), QStringLiteral("Writing"));
     screen.EndStoppable();
     EXPECT_EQ(ShownWork(), nullptr);
@@ -102,7 +102,7 @@ TEST_F(StoppableWorkTest, ShowsAFormOnceItHasLasted)
 
 TEST_F(StoppableWorkTest, EndsWhenTheButtonIsClicked)
 {
-    screen.BeginStoppable("Mixing");
+    screen.BeginStoppable(Words::Text("Mixing"));
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     Click(*ShownWork(), "StopBtn");
     EXPECT_THROW(screen.ShowProgress(1, 2), WorkStopped);
@@ -116,7 +116,7 @@ TEST_F(StoppableWorkTest, LetsNoOtherTimerTick)
     int ticks = 0;
     QObject::connect(&blinking, &QTimer::timeout, [&ticks] { ++ticks; });
     blinking.start(0);
-    screen.BeginStoppable("Mixing");
+    screen.BeginStoppable(Words::Text("Mixing"));
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     QElapsedTimer shown;
     shown.start();
@@ -130,7 +130,7 @@ TEST_F(StoppableWorkTest, LetsNoOtherTimerTick)
 TEST_F(StoppableWorkTest, ThePointerIsNoHourglassOverItsButton)
 {
     screen.ShowHourglass();
-    screen.BeginStoppable("Mixing");
+    screen.BeginStoppable(Words::Text("Mixing"));
     EXPECT_NE(QApplication::overrideCursor(), nullptr);
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);

@@ -74,40 +74,45 @@ private:
 
 void DrawMessages(FormSheet& sheet)
 {
-    const auto draw = [&sheet](BandedForm& form, const char* caption) {
+    const auto draw = [&sheet](BandedForm& form, const Words& caption) {
         form.SetCaption(caption);
         sheet.Add(form);
     };
-    Msg1BtnFrm one(nullptr, "Please enter a song name.");
-    draw(one, " Tonquill Sprout Painter");
-    Msg1Btn2NoteFrm two(nullptr, "Please paint on the track.", "Use the paint button and draw on the track.");
-    draw(two, " Tonquill Sprout Painter");
-    MsgYesNoFrm question(nullptr, "Are you sure to delete this Track?", "Track No: 3");
-    draw(question, " Confirm Delete Track");
-    Msg3BtnFrm three(nullptr, "Choose Audio Type to add:");
-    draw(three, " Add Audio Track");
+    Msg1BtnFrm one(nullptr, Words::Text("Please enter a song name."));
+    draw(one, Words::Text(" Tonquill Sprout Painter"));
+    Msg1Btn2NoteFrm two(nullptr, Words::Text("Please paint on the track."),
+                        Words::Text("Use the paint button and draw on the track."));
+    draw(two, Words::Text(" Tonquill Sprout Painter"));
+    MsgYesNoFrm question(nullptr, Words::Text("Are you sure to delete this Track?"), Words::Text("Track No: 3"));
+    draw(question, Words::Text(" Confirm Delete Track"));
+    Msg3BtnFrm three(nullptr, Words::Text("Choose Audio Type to add:"));
+    draw(three, Words::Text(" Add Audio Track"));
     SaveConfirmFrm save(nullptr, "Rain on the roof");
-    draw(save, " Tonquill Sprout Painter");
-    PlainBoxFrm plain(nullptr, "Could not Play Sound\nDriver busy or not ready\nCheck whether sound driver is ON",
+    draw(save, Words::Text(" Tonquill Sprout Painter"));
+    PlainBoxFrm plain(nullptr,
+                      Words::Text("Could not Play Sound\nDriver busy or not ready\nCheck whether sound driver is ON"),
                       MessageIcon::Exclamation);
-    draw(plain, " Play Failed");
-    const std::string words = "This is a very long line of a message that does not fit on the screen of a small "
-                              "computer and therefore has to go on in another line, word by word. ";
-    Msg1BtnFrm wide(nullptr, words + words);
-    draw(wide, " A title that is much longer than the form is wide has to end somewhere, or else it would stick out of "
-               "the form, far behind the close box");
+    draw(plain, Words::Text(" Play Failed"));
+    const Words words = Words::Text("This is a very long line of a message that does not fit on the screen of a small "
+                                    "computer and therefore has to go on in another line, word by word. ");
+    Msg1BtnFrm wide(nullptr, Words::Joined({words, words}, ""));
+    draw(wide,
+         Words::Text(
+             " A title that is much longer than the form is wide has to end somewhere, or else it would stick out of "
+             "the form, far behind the close box"));
 }
 
 void DrawInputs(FormSheet& sheet)
 {
-    InputBoxFrm input(nullptr, "Zumi", "Enter the new name:", "");
-    input.SetCaption(" Rename");
+    InputBoxFrm input(nullptr, "Zumi", Words::Text("Enter the new name:"), {});
+    input.SetCaption(Words::Text(" Rename"));
     sheet.Add(input);
-    InputBoxFrm longInput(nullptr, "Zumi", "Enter the new name:", "It may hold letters and numbers.");
-    longInput.SetCaption(" Rename");
+    InputBoxFrm longInput(nullptr, "Zumi", Words::Text("Enter the new name:"),
+                          Words::Text("It may hold letters and numbers."));
+    longInput.SetCaption(Words::Text(" Rename"));
     sheet.Add(longInput);
     SongTitleFrm title(nullptr, "Zumi", "Your name here");
-    title.SetCaption(" Change Song Title");
+    title.SetCaption(Words::Text(" Change Song Title"));
     sheet.Add(title);
 }
 
@@ -125,7 +130,7 @@ void DrawFormSheet(const QString& folder)
     window.show();
     sign.ShowProgress(12, 20);
     sheet.Add(window);
-    WorkFrm work(nullptr, "Writing the wav file");
+    WorkFrm work(nullptr, Words::Text("Writing the wav file"));
     work.ShowShare(3, 5);
     sheet.Add(work);
     sheet.SaveTo(folder);

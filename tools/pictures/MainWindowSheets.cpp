@@ -37,7 +37,7 @@ constexpr QSize kWholeScreen{1280, 800};
 /// Keeps each message instead of showing it because nobody could read or close it.
 class KeptMessages : public Messages {
 public:
-    void MessageBox(std::string_view /*title*/, std::string_view text, MessageIcon /*icon*/) override { kept = text; }
+    void MessageBox(const Words& /*title*/, const Words& text, MessageIcon /*icon*/) override { kept = text.English(); }
     [[nodiscard]] const std::string& Last() const { return kept; }
 
 private:
@@ -175,7 +175,7 @@ void DrawStates(const QString& songPath, const QString& folder)
     PlayIndicator playing;
     playing.songLeft = 250;
     canvas->ShowPlayIndicator(playing);
-    shown.transport.ShowSoundStatus("Playing All");
+    shown.transport.ShowSoundStatus(Words::Text("Playing All"));
     shown.Draw(folder + QStringLiteral("/main-playing.png"));
     canvas->ShowPlayIndicator({});
     shown.Window().ShowSoundDevices(0);

@@ -80,7 +80,7 @@ void DrawSongWindowSheets(const QString& folder)
 {
     for (const int songs : {0, static_cast<int>(kSongNames.size()), kManySongs})
         DrawSongWindows(folder, songs);
-    PlainBoxFrm error(nullptr, "Error Copying file\r\nNo space left on device.", MessageIcon::None);
+    PlainBoxFrm error(nullptr, Words::Text("Error Copying file\r\nNo space left on device."), MessageIcon::None);
     ShowAndSaveSheet(error, folder, QStringLiteral("songs-error"));
     About_Frm about(nullptr);
     ShowAndSaveSheet(about, folder, QStringLiteral("about"));

@@ -35,7 +35,7 @@ public:
     void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> /*pieces*/,
                      Flush /*flush*/) override
     {
-        throw RunTimeError(PathText(target) + " is not written.");
+        throw RunTimeError(Words::Text("%1 is not written.", PathText(target)));
     }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
     [[nodiscard]] bool WriteNewFile(const std::filesystem::path& /*path*/,
@@ -54,7 +54,7 @@ public:
 class TuneDisplay : public PlayDisplay {
 public:
     [[nodiscard]] std::int32_t MainWindowHandle() const override { return 1; }
-    void ShowSoundStatus(std::string_view /*text*/) override {}
+    void ShowSoundStatus(const Words& /*text*/) override {}
     void EnablePlayPosTimer() override {}
     void UpdateThisTune() override { sprout::UpdateThisTune(); }
 };
@@ -138,9 +138,9 @@ void DrawTuneWindowSheets(const QString& folder)
     TuneNameFrm form(nullptr, {"Rain dance", "Ann"});
     form.show();
     SaveSheet(form, folder, QStringLiteral("tune-name"));
-    Msg1Btn2NoteFrm refusal(nullptr, "An Original Tonquill Tune is there with this name \"Lumo\"\r\n",
-                            "Please enter another name for this Tune and save.");
-    refusal.SetCaption(" Tonquill Sprout Painter");
+    Msg1Btn2NoteFrm refusal(nullptr, Words::Text("An Original Tonquill Tune is there with this name \"Lumo\"\r\n"),
+                            Words::Text("Please enter another name for this Tune and save."));
+    refusal.SetCaption(Words::Text(" Tonquill Sprout Painter"));
     refusal.show();
     SaveSheet(refusal, folder, QStringLiteral("tune-refusal"));
     TheServices() = Services();

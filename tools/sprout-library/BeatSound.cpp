@@ -129,7 +129,7 @@ std::vector<double> BeatSounds::Raw(const BeatRecipe& recipe, double cents)
     if (!font)
         font = std::make_unique<SoundFont>(file);
     if (parts.size() != 2)
-        throw RunTimeError(recipe.Name + ": \"" + recipe.Sound + "\" is no sound such as 0:24 or own:Zap.");
+        throw RunTimeError(Words::Text("%1: \"%2\" is no sound such as 0:24 or own:Zap.", recipe.Name, recipe.Sound));
     FontNote note;
     note.Bank = std::stoi(parts[0]);
     note.Program = std::stoi(parts[1]);

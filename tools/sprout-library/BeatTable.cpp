@@ -19,7 +19,7 @@ std::uint32_t CellColour(const TableRow& row, std::size_t cell)
     std::uint32_t colour = 0;
     const auto [end, error] = std::from_chars(text.data() + 1, text.data() + text.size(), colour, 16);
     if (text.size() != 7 || text.front() != '#' || error != std::errc() || end != text.data() + text.size())
-        throw RunTimeError(row.Place() + "\"" + text + "\" is no colour such as #3C9D4B.");
+        throw RunTimeError(Words::Text("%1\"%2\" is no colour such as #3C9D4B.", row.Place(), text));
     return colour;
 }
 
@@ -33,7 +33,8 @@ BeatRecipe RecipeOf(const TableRow& row)
     BeatRecipe recipe;
     recipe.Name = row.cells[0];
     if (recipe.Name.size() < 3 || recipe.Name[1] != '_')
-        throw RunTimeError(row.Place() + "a beat's name begins with the letter of its family and an underscore.");
+        throw RunTimeError(
+            Words::Text("%1a beat's name begins with the letter of its family and an underscore.", row.Place()));
     recipe.Sound = row.cells[1];
     recipe.Pitched = !IsNumber(row.cells[2]);
     recipe.Key = recipe.Pitched ? KeyOfNote(row.cells[2]) : static_cast<int>(CellNumber(row, 2, 0, 127));
@@ -56,7 +57,7 @@ int KeyOfNote(std::string_view note)
             return 12 * (octave.front() - '0' + 1) + semitones[static_cast<std::size_t>(note.front() - 'A')] +
                    (sharp ? 1 : 0);
     }
-    throw RunTimeError("\"" + std::string(note) + "\" is no note such as C4 or F#3.");
+    throw RunTimeError(Words::Text("\"%1\" is no note such as C4 or F#3.", note));
 }
 
 std::vector<BeatRecipe> ReadBeatTable(const std::filesystem::path& file)
@@ -66,7 +67,7 @@ std::vector<BeatRecipe> ReadBeatTable(const std::filesystem::path& file)
     for (const TableRow& row : ReadTable(file, 7, 7)) {
         recipes.push_back(RecipeOf(row));
         if (!names.insert(LowerCase(recipes.back().Name)).second)
-            throw RunTimeError(row.Place() + "there is a beat of this name already.");
+            throw RunTimeError(Words::Text("%1there is a beat of this name already.", row.Place()));
     }
     return recipes;
 }

@@ -40,7 +40,7 @@ Picture DrawPicture(std::uint32_t ground, std::span<const std::filesystem::path>
     for (const std::filesystem::path& drawing : drawings) {
         QSvgRenderer renderer;
         if (!renderer.load(QFile::decodeName(drawing.c_str())))
-            throw RunTimeError("The drawing " + drawing.native() + " cannot be read.");
+            throw RunTimeError(Words::Text("The drawing %1 cannot be read.", drawing.native()));
         renderer.render(&painter, QRectF(0, 0, kPictureSide, kPictureSide));
     }
     painter.end();
@@ -76,7 +76,7 @@ void WriteSheet(std::span<const Picture> pictures, const std::filesystem::path& 
     }
     painter.end();
     if (!sheet.save(QFile::decodeName(file.c_str()), "PNG"))
-        throw RunTimeError("The sheet " + file.native() + " could not be written.");
+        throw RunTimeError(Words::Text("The sheet %1 could not be written.", file.native()));
 }
 
 } // namespace sprout

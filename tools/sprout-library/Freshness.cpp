@@ -55,7 +55,7 @@ bool Freshness::IsFresh(const std::vector<std::filesystem::path>& files, const s
     for (const std::filesystem::path& file : files) {
         const std::string name = PathText(file);
         if (!now.emplace(name, fingerprint).second)
-            throw RunTimeError("The library would hold " + name + " twice.");
+            throw RunTimeError(Words::Text("The library would hold %1 twice.", name));
         const auto known = before.find(name);
         fresh = fresh && known != before.end() && known->second == fingerprint && FileExists(root / file);
     }

@@ -40,7 +40,7 @@ void WriteText(const fs::path& file, std::string_view bytes)
     std::ofstream stream(file, std::ios::binary | std::ios::trunc);
     stream << bytes;
     if (!stream.flush())
-        throw RunTimeError("The file " + file.native() + " could not be written.");
+        throw RunTimeError(Words::Text("The file %1 could not be written.", file.native()));
 }
 
 /// Makes one library; each kind needs the kinds before it.
@@ -87,7 +87,7 @@ private:
         const auto time = std::chrono::sys_seconds(std::chrono::seconds(places.Time));
         fs::last_write_time(places.Output / file, std::chrono::file_clock::from_sys(time));
         if (!session.NoMessageSince(0))
-            throw RunTimeError("The file " + file.native() + " was not made.");
+            throw RunTimeError(Words::Text("The file %1 was not made.", file.native()));
     }
 
     Session& session;
@@ -137,7 +137,7 @@ void Maker::MakeBeats()
     for (const BeatRecipe& recipe : ReadBeatTable(texts / "beats.txt")) {
         const auto family = families.find(recipe.Family());
         if (family == families.end())
-            throw RunTimeError("The beat " + recipe.Name + " is of no family.");
+            throw RunTimeError(Words::Text("The beat %1 is of no family.", recipe.Name));
         MakeBeat(recipe, family->second);
     }
 }
@@ -165,7 +165,7 @@ void Maker::MakeTune(const std::string& name)
     Tune& loaded = Shared().TuneClipboard;
     for (const TuneStep& step : loaded.Steps)
         if (step.IsOn() && step.StepBeat.Name.empty())
-            throw RunTimeError("The tune " + name + " plays a beat that is not there.");
+            throw RunTimeError(Words::Text("The tune %1 plays a beat that is not there.", name));
     Shared().Song.Tempo = kReferenceTempo;
     RenderTuneCycle(loaded);
     files.Save_Tune(file);
@@ -192,7 +192,7 @@ void Maker::MakeTunes()
         names.push_back(row.cells[0]);
     for (const std::string& name : NamesInFolder(texts / "tunes", ".ini"))
         if (std::find(names.begin(), names.end(), name) == names.end())
-            throw RunTimeError("The tune " + name + " is missing from tunes.txt.");
+            throw RunTimeError(Words::Text("The tune %1 is missing from tunes.txt.", name));
     for (const std::string& name : names)
         MakeTune(name);
     WriteTuneOrder(names);

@@ -123,7 +123,7 @@ std::vector<double> OwnSound(std::string_view name, int key, double seconds)
         }
         return sound;
     }
-    throw RunTimeError("There is no sound own:" + std::string(name) + ".");
+    throw RunTimeError(Words::Text("There is no sound own:%1.", name));
 }
 
 } // namespace sprout

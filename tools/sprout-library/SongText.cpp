@@ -32,14 +32,14 @@ CellRun RunOfBars(const TableRow& row, const std::string& text, std::int32_t bar
     const std::int32_t first = WholeNumber(row, ends.front(), mostBars);
     const std::int32_t last = WholeNumber(row, ends.back(), mostBars);
     if (ends.size() > 2 || last < first)
-        throw RunTimeError(row.Place() + "\"" + text + "\" is no run of bars.");
+        throw RunTimeError(Words::Text("%1\"%2\" is no run of bars.", row.Place(), text));
     return {(first - 1) * barCells + 1, last * barCells};
 }
 
 SongTextTrack TrackOf(const TableRow& row, std::int32_t barCells)
 {
     if (row.cells.size() != 3)
-        throw RunTimeError(row.Place() + "a track has a tune and bars.");
+        throw RunTimeError(Words::Text("%1a track has a tune and bars.", row.Place()));
     SongTextTrack track{row.cells[1], {}};
     for (const std::string& run : Split(row.cells[2], ','))
         track.Runs.push_back(RunOfBars(row, run, barCells));
@@ -51,7 +51,7 @@ void FillTrack(const SongTextTrack& text, std::int32_t number)
     SharedState& shared = Shared();
     const std::filesystem::path file = NamedFile(shared.UserTunes, text.TuneName, ".TqTun");
     if (!FileExists(file))
-        throw RunTimeError("There is no tune " + text.TuneName + ".");
+        throw RunTimeError(Words::Text("There is no tune %1.", text.TuneName));
     ResetTrack(number);
     TunOpnSavClass().Load_Tune(file);
     Track& track = At(shared.Song.Tracks, number);
@@ -79,7 +79,7 @@ SongText ReadSongText(const std::filesystem::path& file)
         else if (row.cells[0] == "Track")
             song.Tracks.push_back(TrackOf(row, barCells));
         else
-            throw RunTimeError(row.Place() + "a song has no \"" + row.cells[0] + "\".");
+            throw RunTimeError(Words::Text("%1a song has no \"%2\".", row.Place(), row.cells[0]));
     }
     return song;
 }

@@ -61,7 +61,7 @@ SoundFont::SoundFont(const std::filesystem::path& file) : parts(std::make_unique
     parts->synth.reset(new_fluid_synth(settings));
     parts->font = parts->synth ? fluid_synth_sfload(parts->synth.get(), file.c_str(), 1) : FLUID_FAILED;
     if (parts->font == FLUID_FAILED)
-        throw RunTimeError("The sound font " + file.native() + " cannot be loaded.");
+        throw RunTimeError(Words::Text("The sound font %1 cannot be loaded.", file.native()));
     fluid_synth_set_interp_method(parts->synth.get(), -1, FLUID_INTERP_HIGHEST);
 }
 
@@ -74,8 +74,7 @@ std::vector<double> SoundFont::Play(const FontNote& note)
     const auto font = static_cast<unsigned>(parts->font);
     fluid_synth_set_channel_type(synth, kChannel, note.Bank == 128 ? CHANNEL_TYPE_DRUM : CHANNEL_TYPE_MELODIC);
     if (fluid_synth_program_select(synth, kChannel, static_cast<int>(font), note.Bank, note.Program) != FLUID_OK)
-        throw RunTimeError("The sound font has no program " + std::to_string(note.Bank) + ":" +
-                           std::to_string(note.Program) + ".");
+        throw RunTimeError(Words::Text("The sound font has no program %1:%2.", note.Bank, note.Program));
     const double bend = note.Cents / kBendRangeCents * kBendCentre;
     fluid_synth_pitch_bend(synth, kChannel, kBendCentre + static_cast<int>(std::lround(bend)));
     const int held = BlocksOf(std::min(note.HeldSeconds, note.Seconds));

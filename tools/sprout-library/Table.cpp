@@ -21,7 +21,7 @@ std::string ReadWholeFile(const std::filesystem::path& file)
     std::ifstream stream(file, std::ios::binary);
     std::string bytes((std::istreambuf_iterator<char>(stream)), std::istreambuf_iterator<char>());
     if (!stream)
-        throw RunTimeError("The file " + file.native() + " cannot be read.");
+        throw RunTimeError(Words::Text("The file %1 cannot be read.", file.native()));
     return bytes;
 }
 
@@ -37,7 +37,7 @@ std::vector<TableRow> ReadTable(const std::filesystem::path& file, std::size_t l
         for (const std::string& cell : Split(line, '|'))
             row.cells.emplace_back(Trim(cell));
         if (row.cells.size() < least || row.cells.size() > most)
-            throw RunTimeError(row.Place() + "the row has " + std::to_string(row.cells.size()) + " cells.");
+            throw RunTimeError(Words::Text("%1the row has %2 cells.", row.Place(), row.cells.size()));
         rows.push_back(std::move(row));
     }
     return rows;
@@ -49,7 +49,7 @@ double CellNumber(const TableRow& row, std::size_t cell, double least, double mo
     double number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc() || end != text.data() + text.size() || !(number >= least && number <= most))
-        throw RunTimeError(row.Place() + "\"" + text + "\" is no number that may stand there.");
+        throw RunTimeError(Words::Text("%1\"%2\" is no number that may stand there.", row.Place(), text));
     return number;
 }
 

@@ -35,7 +35,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kExportError = "Error Exporting Song";
+constexpr LaterWords kExportError = Words::Later("Error Exporting Song");
 
 struct SoundKind {
     std::string extension;
@@ -76,14 +76,14 @@ std::vector<Job> PlanJobs(const std::vector<std::string>& songs, const fs::path&
 
 void TellOutcome(Session& session, const ExportOutcome& outcome, const Job& job, std::size_t before)
 {
-    if (!outcome.Line1.empty())
-        session.Fail("", outcome.Line1 + (outcome.Line2.empty() ? "" : ". " + outcome.Line2));
+    if (!outcome.Line1.IsBlank())
+        session.Fail({}, outcome.Line2.IsBlank() ? outcome.Line1 : Words::Text("%1. %2", outcome.Line1, outcome.Line2));
     else if (outcome.End == ExportEnd::NotReplaced)
-        session.Fail(kExportError, "The file " + PathText(job.target) + " cannot be replaced.");
+        session.Fail(kExportError, Words::Text("The file %1 cannot be replaced.", PathText(job.target)));
     else if (outcome.End == ExportEnd::Failed && session.NoMessageSince(before))
         session.Fail(kExportError, Shared().Song.SongMix.Length == 0
-                                       ? "The song is silent."
-                                       : "The file " + PathText(job.target) + " could not be written.");
+                                       ? Words::Text("The song is silent.")
+                                       : Words::Text("The file %1 could not be written.", PathText(job.target)));
 }
 
 /// Returns true if the song was exported.
@@ -91,7 +91,7 @@ bool ExportSong(Session& session, const Job& job, const SoundKind& kind)
 {
     if (!LoadSong(session, job.song)) {
         if (session.messages.Shown().empty())
-            session.Fail(kExportError, "The song has no tracks.");
+            session.Fail(kExportError, Words::Text("The song has no tracks."));
         return false;
     }
     if (!TheServices().files->MayBeReplaced(job.target)) {
@@ -116,7 +116,7 @@ bool ExportSong(Session& session, const Job& job, const SoundKind& kind)
         const RenderThreads most(threads);
         done = ExportSong(session, job, kind);
     } catch (const std::exception& error) {
-        said << kExportError << ": " << ErrorText(error) << '\n';
+        said << kExportError.English() << ": " << ErrorWords(error).English() << '\n';
     }
     const std::string text = said.str();
     for (std::size_t written = 0; written < text.size();) {
@@ -140,7 +140,7 @@ Running Start(const Job& job, const SoundKind& kind, std::size_t threads)
 {
     int ends[2];
     if (::pipe(ends) != 0)
-        throw RunTimeError("No process could be started.");
+        throw RunTimeError(Words::Text("No process could be started."));
     const pid_t process = ::fork();
     if (process == 0) {
         ::close(ends[0]);
@@ -149,7 +149,7 @@ Running Start(const Job& job, const SoundKind& kind, std::size_t threads)
     ::close(ends[1]);
     if (process < 0) {
         ::close(ends[0]);
-        throw RunTimeError("No process could be started.");
+        throw RunTimeError(Words::Text("No process could be started."));
     }
     return {&job, process, ends[0], {}};
 }
@@ -173,10 +173,10 @@ bool TakeLeave(Session& session, const Running& running)
     }
     std::istringstream lines(running.said);
     for (std::string line; std::getline(lines, line);)
-        session.Fail(PathText(running.job->song), line);
+        session.Fail(Words::AsIs(PathText(running.job->song)), Words::AsIs(line));
     if (WIFSIGNALED(status))
-        session.Fail(PathText(running.job->song),
-                     "The export ended by signal " + std::to_string(WTERMSIG(status)) + ".");
+        session.Fail(Words::AsIs(PathText(running.job->song)),
+                     Words::Text("The export ended by signal %1.", WTERMSIG(status)));
     return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
@@ -194,7 +194,7 @@ public:
     /// Returns the number of exported songs.
     std::size_t Run()
     {
-        StoppableWork work("Exporting songs");
+        StoppableWork work(Words::Text("Exporting songs"));
         TheServices().screen->ShowProgress(0, jobs.size());
         while (next < jobs.size() || !running.empty()) {
             while (next < jobs.size() && running.size() < atATime)
@@ -248,7 +248,7 @@ bool MakeFolder(Session& session, const fs::path& folder)
     fs::create_directories(folder, error);
     if (fs::is_directory(folder, error))
         return true;
-    session.Fail(kExportError, "The folder " + PathText(folder) + " could not be made.");
+    session.Fail(kExportError, Words::Text("The folder %1 could not be made.", PathText(folder)));
     return false;
 }
 
@@ -268,7 +268,7 @@ bool RunExport(Session& session, const Arguments& arguments)
         session.out << exported << " exported, " << jobs.size() - exported << " failed.\n";
         return exported == jobs.size();
     } catch (const std::exception& error) {
-        session.Fail(kExportError, ErrorText(error));
+        session.Fail(kExportError, ErrorWords(error));
         return false;
     }
 }

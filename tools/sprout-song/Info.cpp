@@ -79,12 +79,13 @@ void PrintFacts(std::ostream& out, const Facts& facts, const std::string& indent
 }
 
 /// Why a path is of no known kind.
-std::string WhyUnknown(const std::string& path)
+Words WhyUnknown(const std::string& path)
 {
     std::error_code error;
     if (std::filesystem::is_directory(path, error))
-        return path + " is a folder.";
-    return path + (FileExists(path) ? " is no song, tune, star or WAV file." : " was not found.");
+        return Words::Text("%1 is a folder.", path);
+    return FileExists(path) ? Words::Text("%1 is no song, tune, star or WAV file.", path)
+                            : Words::Text("%1 was not found.", path);
 }
 
 bool PrintOne(Session& session, const std::string& path, bool json)
@@ -92,7 +93,7 @@ bool PrintOne(Session& session, const std::string& path, bool json)
     const std::size_t before = session.messages.Shown().size();
     const std::optional<FileKind> kind = KindOfFile(path);
     if (!kind)
-        session.Fail("Error Opening File", WhyUnknown(path));
+        session.Fail(Words::Text("Error Opening File"), WhyUnknown(path));
     const Facts facts = kind ? LoadFacts(session, *kind, path) : Facts();
     const std::string kindName(kind ? KindName(*kind) : "");
     if (json) {

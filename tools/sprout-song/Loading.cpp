@@ -34,13 +34,13 @@ constexpr std::array kKinds = {
     KindMark{FileKind::Wma, "wma", ".wma", "\x30\x26\xB2\x75\x8E"}};
 
 /// Reports missing files: the engine treats them as empty, but the user who named one wants to know.
-bool IsThere(Session& session, const fs::path& path, std::string_view title)
+bool IsThere(Session& session, const fs::path& path, const Words& title)
 {
     std::error_code error;
     if (fs::is_directory(path, error))
-        session.Fail(title, PathText(path) + " is a folder.");
+        session.Fail(title, Words::Text("%1 is a folder.", PathText(path)));
     else if (!FileExists(path))
-        session.Fail(title, "The file " + PathText(path) + " was not found.");
+        session.Fail(title, Words::Text("The file %1 was not found.", PathText(path)));
     else
         return true;
     return false;
@@ -71,7 +71,7 @@ std::optional<FileKind> KindOfFile(const fs::path& path)
 
 bool LoadSong(Session& session, const fs::path& path)
 {
-    if (!IsThere(session, path, "Error Opening File"))
+    if (!IsThere(session, path, Words::Text("Error Opening File")))
         return false;
     OpenSaveClass().Load_Song(path);
     return Shared().Song.TrackCount != 0;
@@ -79,18 +79,18 @@ bool LoadSong(Session& session, const fs::path& path)
 
 bool LoadTune(Session& session, const fs::path& path)
 {
-    if (!IsThere(session, path, "Error Opening File"))
+    if (!IsThere(session, path, Words::Text("Error Opening File")))
         return false;
     const std::size_t before = session.messages.Shown().size();
     TunOpnSavClass().Load_Tune(path);
     if (session.NoMessageSince(before) && Shared().TuneClipboard.StepCount == 0)
-        session.Fail("Error Loading Tune File", "The file holds no tune that can be read.");
+        session.Fail(Words::Text("Error Loading Tune File"), Words::Text("The file holds no tune that can be read."));
     return session.NoMessageSince(before);
 }
 
 std::optional<Tune> LoadStar(Session& session, const fs::path& path)
 {
-    if (!IsThere(session, path, "Error Opening File"))
+    if (!IsThere(session, path, Words::Text("Error Opening File")))
         return std::nullopt;
     const std::size_t before = session.messages.Shown().size();
     const fs::path stars = std::exchange(Shared().UserStars, AsFolder(fs::absolute(path).parent_path()));
@@ -99,7 +99,7 @@ std::optional<Tune> LoadStar(Session& session, const fs::path& path)
     try {
         LoadStarFile(star);
     } catch (const std::exception& error) {
-        session.Fail("Error Opening File", ErrorText(error));
+        session.Fail(Words::Text("Error Opening File"), ErrorWords(error));
     }
     Shared().UserStars = stars;
     return session.NoMessageSince(before) ? std::optional(std::move(star)) : std::nullopt;
@@ -107,7 +107,7 @@ std::optional<Tune> LoadStar(Session& session, const fs::path& path)
 
 std::optional<WaveData> LoadWave(Session& session, const fs::path& path, ReadSamples samples)
 {
-    if (!IsThere(session, path, "Wave file load error"))
+    if (!IsThere(session, path, Words::Text("Wave file load error")))
         return std::nullopt;
     const std::size_t before = session.messages.Shown().size();
     WaveData wave = LoadWaveFile(path, samples);
@@ -116,13 +116,13 @@ std::optional<WaveData> LoadWave(Session& session, const fs::path& path, ReadSam
 
 std::optional<SoundFacts> LoadSoundFacts(Session& session, const fs::path& path)
 {
-    constexpr std::string_view title = "Error Loading Sound File";
+    const Words title = Words::Text("Error Loading Sound File");
     if (!IsThere(session, path, title))
         return std::nullopt;
     try {
         return ReadSoundFacts(path);
     } catch (const RunTimeError& error) {
-        session.Fail(title, error.what());
+        session.Fail(title, ErrorWords(error));
         return std::nullopt;
     }
 }

@@ -35,7 +35,7 @@ bool RunResave(Session& session, const Arguments& arguments)
     const std::optional<FileKind> kind = KindOfFile(in);
     const bool isSong = kind == FileKind::Song;
     if (!isSong && kind != FileKind::Tune) {
-        session.Fail("Error Opening File", PathText(in) + " is neither a song nor a tune.");
+        session.Fail(Words::Text("Error Opening File"), Words::Text("%1 is neither a song nor a tune.", PathText(in)));
         return false;
     }
     if (isSong ? !LoadSong(session, in) : !LoadTune(session, in))
@@ -46,7 +46,7 @@ bool RunResave(Session& session, const Arguments& arguments)
         else
             SaveTune(out);
     } catch (const std::exception& error) {
-        session.Fail("Error Saving File", ErrorText(error));
+        session.Fail(Words::Text("Error Saving File"), ErrorWords(error));
         return false;
     }
     return true;

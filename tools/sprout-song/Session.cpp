@@ -19,12 +19,13 @@ Watched StandardErrorIsWatched()
     return ::isatty(STDERR_FILENO) == 1 ? Watched::Yes : Watched::No;
 }
 
-void ToolMessages::MessageBox(std::string_view title, std::string_view text, MessageIcon /*icon*/)
+void ToolMessages::MessageBox(const Words& title, const Words& text, MessageIcon /*icon*/)
 {
-    shown.push_back({std::string(title), std::string(text)});
-    if (!title.empty())
-        err << Printable(title) << ": ";
-    err << PrintableLines(text) << '\n';
+    shown.push_back({title.English(), text.English()});
+    const Message& message = shown.back();
+    if (!message.title.empty())
+        err << Printable(message.title) << ": ";
+    err << PrintableLines(message.text) << '\n';
 }
 
 void ToolScreen::ShowProgress(std::size_t done, std::size_t total)

@@ -29,7 +29,7 @@ public:
 
     explicit ToolMessages(std::ostream& stream) : err(stream) {}
 
-    void MessageBox(std::string_view title, std::string_view text, MessageIcon icon = MessageIcon::None) override;
+    void MessageBox(const Words& title, const Words& text, MessageIcon icon = MessageIcon::None) override;
 
     [[nodiscard]] const std::vector<Message>& Shown() const { return shown; }
 
@@ -55,7 +55,7 @@ public:
     void HideProcessPic() override {}
     void EnableTuneNotFilledTimer() override {}
     void ShowProgress(std::size_t done, std::size_t total) override;
-    void BeginStoppable(std::string_view what) override { stage = what; }
+    void BeginStoppable(const Words& what) override { stage = what.English(); }
 
 private:
     std::ostream& err;
@@ -77,7 +77,7 @@ public:
     ToolMessages messages;
 
     /// Reports a failure of the tool itself.
-    void Fail(std::string_view title, std::string_view text) { messages.MessageBox(title, text); }
+    void Fail(const Words& title, const Words& text) { messages.MessageBox(title, text); }
     /// True if no message was shown since the session, or the count, began.
     [[nodiscard]] bool NoMessageSince(std::size_t count) const { return messages.Shown().size() == count; }
 

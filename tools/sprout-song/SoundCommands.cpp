@@ -67,7 +67,8 @@ bool StretchLine(Session& session, const std::string& line, const std::string& p
     const std::optional<float> pitch = ParseFactor(pitchText);
     const std::optional<float> duration = ParseFactor(durationText);
     if (out.empty() || words >> rest || !pitch || !duration) {
-        session.Fail("Error Reading List", place + " is not: in pitch duration out, with factors from 0.5 to 2.");
+        session.Fail(Words::Text("Error Reading List"),
+                     Words::Text("%1 is not: in pitch duration out, with factors from 0.5 to 2.", place));
         return false;
     }
     return StretchOne(session, in, *pitch, *duration, out);
@@ -78,7 +79,7 @@ bool StretchList(Session& session, const std::string& path)
     std::error_code error;
     std::ifstream list(path);
     if (!list || fs::is_directory(path, error)) {
-        session.Fail("Error Reading List", "The file " + path + " could not be read.");
+        session.Fail(Words::Text("Error Reading List"), Words::Text("The file %1 could not be read.", path));
         return false;
     }
     bool allDone = true;
@@ -122,7 +123,8 @@ bool RunRender(Session& session, const Arguments& arguments)
     if (!LoadSong(session, arguments.Words()[0]))
         return false;
     if (track && *track > Shared().Song.TrackCount) {
-        session.Fail("Error Rendering Song", "The song has " + std::to_string(Shared().Song.TrackCount) + " tracks.");
+        session.Fail(Words::Text("Error Rendering Song"),
+                     Words::Text("The song has %1 tracks.", Shared().Song.TrackCount));
         return false;
     }
     Rendering rendering = track ? RenderTrack(*track) : RenderWhole();
@@ -157,7 +159,7 @@ bool RunConvert(Session& session, const Arguments& arguments)
             wave = ConvertWaveChannels(*wave, channels);
         wave = ConvertWaveFormat(*wave, rate != 0 ? rate : wave->Rate, bits != 0 ? bits : wave->Bits);
     } catch (const RunTimeError& error) {
-        session.Fail("Error Converting Wave", error.what());
+        session.Fail(Words::Text("Error Converting Wave"), ErrorWords(error));
         return false;
     }
     return SaveWave(session, *wave, arguments.Words()[1]);

@@ -133,7 +133,7 @@ int RunSproutSong(const std::vector<std::string>& arguments, std::ostream& out, 
         err << "sprout-song: " << Printable(error.what()) << "\nTry: sprout-song --help\n";
         return kWrongUsage;
     } catch (const std::exception& error) {
-        err << "sprout-song: " << Printable(JoinedWords(arguments)) << ": " << ErrorText(error) << '\n';
+        err << "sprout-song: " << Printable(JoinedWords(arguments)) << ": " << ErrorWords(error).English() << '\n';
         return kFailed;
     }
 }

@@ -6,6 +6,8 @@
 #include <system_error>
 
 #include "app/sound/MachineSound.h"
+#include "base/Guarded.h"
+#include "base/Log.h"
 
 namespace sprout {
 
@@ -57,7 +59,8 @@ bool MachineCapture::Start(const std::filesystem::path& left, const std::filesys
         return false;
     try {
         writer = std::make_unique<CaptureWriter>(*files);
-    } catch (const std::system_error&) { // no thread can be started
+    } catch (const std::system_error& error) { // no thread can be started
+        LogFailure("Starting a recording", error);
         files->Delete();
         files.reset();
         return false;
@@ -99,11 +102,12 @@ void MachineCapture::LetFilesGo()
 
 /// The disk reclaims the space of deleted files when they are closed; after a long take a child would wait for that.
 void MachineCapture::CloseFiles()
-try {
-    if (files)
-        closer = std::jthread([closed = std::move(files)]() mutable { closed.reset(); });
-} catch (const std::exception&) {
-    return; // no thread can be started; the files are already closed
+{
+    if (!files)
+        return;
+    // If no thread can be started, the files are already closed.
+    GuardedQuietly("Closing a recording",
+                   [this] { closer = std::jthread([closed = std::move(files)]() mutable { closed.reset(); }); });
 }
 
 SourceState MachineCapture::LookAtSource()
@@ -170,11 +174,8 @@ void MachineCapture::SetVolume(std::int32_t index, std::int32_t volume)
 void MachineCapture::DeleteLeftFiles(const std::filesystem::path& folder)
 {
     cleaner = std::jthread([folder](const std::stop_token& stop) {
-        try {
-            DeleteLeftCaptureFiles(folder, stop);
-        } catch (const std::exception&) {
-            return; // the next start tries again
-        }
+        // After a failure the next start tries again.
+        GuardedQuietly("Deleting old recordings", [&] { DeleteLeftCaptureFiles(folder, stop); });
     });
 }
 

@@ -13,6 +13,8 @@
 #include <utility>
 
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
+#include "base/Log.h"
 #include "base/Numbers.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -51,15 +53,12 @@ bool IsFirstStart()
         return false;
     const std::string text = std::to_string(starts + 1);
     const std::array piece{std::as_bytes(std::span(text))};
-    try {
-        TheServices().files->ReplaceFile(StartCountFile(), piece, Flush::No);
-    } catch (const std::exception&) {
-        return true;
-    }
+    GuardedQuietly("Counting the starts",
+                   [&piece] { TheServices().files->ReplaceFile(StartCountFile(), piece, Flush::No); });
     return true;
 }
 
-/// Replaces the message service during its lifetime and shows nothing.
+/// Replaces the message service during its lifetime; messages go to the log alone.
 class NoMessages : public Messages {
 public:
     NoMessages() : before(std::exchange(TheServices().messages, this)) {}
@@ -67,7 +66,10 @@ public:
     NoMessages& operator=(const NoMessages&) = delete;
     ~NoMessages() override { TheServices().messages = before; }
 
-    void MessageBox(std::string_view /*title*/, std::string_view /*text*/, MessageIcon /*icon*/) override {}
+    void MessageBox(const Words& title, const Words& text, MessageIcon /*icon*/) override
+    {
+        Log(title.English() + ": " + text.English());
+    }
 
 private:
     Messages* before;
@@ -89,15 +91,15 @@ bool LoadQuietly(const fs::path& file)
 
 bool OpenSampleSong()
 {
-    try {
+    bool isOpen = false;
+    GuardedQuietly("Opening the sample song", [&isOpen] {
         const fs::path file = SongPath(kSampleSong);
         if (!IsFirstStart() || !FileExists(file) || !LoadQuietly(file))
-            return false;
+            return;
         Shared().Song.SongTitle = kSampleSong;
-        return true;
-    } catch (const std::exception&) {
-        return false;
-    }
+        isOpen = true;
+    });
+    return isOpen;
 }
 
 } // namespace sprout

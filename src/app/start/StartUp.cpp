@@ -10,6 +10,7 @@
 
 #include "base/Errors.h"
 #include "base/FilePaths.h"
+#include "base/Guarded.h"
 #include "base/Numbers.h"
 #include "base/Product.h"
 #include "core/Paths.h"
@@ -36,11 +37,7 @@ using Step = void (*)();
 /// Runs a step. A failure in it does not end the start: the program is useful without it.
 void GoOnAfter(Step step)
 {
-    try {
-        step();
-    } catch (const std::exception&) {
-        return;
-    }
+    GuardedQuietly("A step of the start", step);
 }
 
 void MakeFolderIfMissing(const fs::path& folder)
@@ -87,7 +84,7 @@ void TestSupportFiles()
 {
     const fs::path file = Shared().ProgramFolder / "Sprout" / "Beats" / "G_Acoustic Guitar High.wav";
     if (!FileExists(file))
-        Tell("", "Some support files are missing\r\n" + PathText(file) + "\r\nPlease reinstall");
+        Tell({}, Words::Text("Some support files are missing\r\n%1\r\nPlease reinstall", PathText(file)));
 }
 
 void MakeInstallFolders()
@@ -117,7 +114,7 @@ void FindDocumentsFolder()
 {
     fs::path documents = TheServices().desktop->DocumentsFolder();
     if (documents.empty())
-        Tell("", "Reinstall the Application");
+        Tell({}, Words::Text("Reinstall the Application"));
     else if (!documents.has_filename())
         documents = documents.parent_path();
     Shared().DocumentsFolder = documents;

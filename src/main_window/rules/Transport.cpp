@@ -11,13 +11,16 @@ namespace sprout {
 
 namespace {
 
-constexpr TwoLines kSelectTune{"Please select tune for track using tune button.", ""};
-constexpr TwoLines kPaintSong{"Please paint on the track.", "Use the paint button and draw on the track."};
-constexpr TwoLines kSelectOrEditTune{"Please select a tune or edit it.", "Use the first button on the left."};
-constexpr TwoLines kTrackNotPainted{"This track is not painted.", "Use the Brush button and paint on the track."};
-constexpr TwoLines kClickOnPaint{"Please click on the painted area on the track to play from there.", ""};
-constexpr TwoLines kPaintThenPlay{"Please paint on the track, after that you can play it.",
-                                  "Use the paint button and draw on the track."};
+constexpr TwoLines kSelectTune{Words::Later("Please select tune for track using tune button."), {}};
+constexpr TwoLines kPaintSong{Words::Later("Please paint on the track."),
+                              Words::Later("Use the paint button and draw on the track.")};
+constexpr TwoLines kSelectOrEditTune{Words::Later("Please select a tune or edit it."),
+                                     Words::Later("Use the first button on the left.")};
+constexpr TwoLines kTrackNotPainted{Words::Later("This track is not painted."),
+                                    Words::Later("Use the Brush button and paint on the track.")};
+constexpr TwoLines kClickOnPaint{Words::Later("Please click on the painted area on the track to play from there."), {}};
+constexpr TwoLines kPaintThenPlay{Words::Later("Please paint on the track, after that you can play it."),
+                                  Words::Later("Use the paint button and draw on the track.")};
 
 constexpr std::int32_t kTracksWithoutChecks = 5;
 constexpr std::int32_t kSecondInMilliseconds = 1000;

@@ -2,16 +2,16 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
 
+#include "base/Words.h"
 #include "core/Song.h"
 
 namespace sprout {
 
 /// A message of two lines; the second may be empty.
 struct TwoLines {
-    std::string_view line1;
-    std::string_view line2;
+    LaterWords line1;
+    LaterWords line2;
     friend bool operator==(const TwoLines&, const TwoLines&) = default;
 };
 

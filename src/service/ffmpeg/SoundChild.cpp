@@ -32,7 +32,7 @@ constexpr int kPollMs = 20;
 
 [[noreturn]] void FailToWrite(int error)
 {
-    throw RunTimeError("The sound could not be converted: " + std::generic_category().message(error) + ".");
+    throw RunTimeError(Words::Text("The sound could not be converted: %1.", std::generic_category().message(error)));
 }
 
 /// Reading a pipe or a device could block.
@@ -137,7 +137,7 @@ Converted Result(int status, std::unique_ptr<TemporaryWave> wave)
     case DecodeStatus::TooLong:
         return {Conversion::TooLong, nullptr};
     case DecodeStatus::NotWritten:
-        throw RunTimeError("The sound could not be converted: the disk may be full.");
+        throw RunTimeError(Words::Text("The sound could not be converted: the disk may be full."));
     default:
         return {};
     }

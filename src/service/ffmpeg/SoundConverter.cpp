@@ -58,7 +58,7 @@ SoundConverter::Resampler SoundConverter::MakeResampler(bool best) const
 void SoundConverter::TakeFormat(const Format& wanted)
 {
     if (wanted.Rate < kLowestRate || wanted.Rate > kHighestRate || wanted.Channels < 1)
-        throw RunTimeError("Sound of this format cannot be converted.");
+        throw RunTimeError(Words::Text("Sound of this format cannot be converted."));
     format = wanted;
     if (sink.Channels() == 0)
         sink.SetChannels(std::min(format.Channels, 2));
@@ -66,7 +66,7 @@ void SoundConverter::TakeFormat(const Format& wanted)
     if (!resampler)
         resampler = MakeResampler(false);
     if (!resampler)
-        throw RunTimeError("Sound of this format cannot be converted.");
+        throw RunTimeError(Words::Text("Sound of this format cannot be converted."));
     framesIn = 0;
     framesOut = 0;
 }
@@ -82,7 +82,7 @@ void SoundConverter::Convert(const std::uint8_t** samples, int count, std::int64
     if (converted == AVERROR(ENOMEM))
         throw std::bad_alloc();
     if (converted < 0)
-        throw RunTimeError("The sound cannot be converted.");
+        throw RunTimeError(Words::Text("The sound cannot be converted."));
     const auto taken = static_cast<std::size_t>(std::min<std::int64_t>(converted, mostFrames - framesOut));
     sink.Put(std::span(block).first(taken * static_cast<std::size_t>(sink.Channels())));
     framesOut += static_cast<std::int64_t>(taken);

@@ -95,18 +95,18 @@ std::string Tag(const AVFormatContext& container, const char* key)
 SoundFacts ReadSoundFacts(const std::filesystem::path& path)
 {
     if (!Ffmpeg().IsThere())
-        throw RunTimeError("The libraries that read WMA files are not installed.");
+        throw RunTimeError(Words::Text("The libraries that read WMA files are not installed."));
     HeadSource head(path);
     const FfmpegOwned<AVIOContext> io = MakeFfmpegIo(&head, &HeadSource::Read, nullptr, &HeadSource::Seek);
     const Input container = io ? OpenHead(*io) : nullptr;
     const int number =
         container ? Ffmpeg().FormatFindBestStream(container.get(), AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0) : -1;
     if (number < 0)
-        throw RunTimeError("The file is no WMA file, or it is damaged.");
+        throw RunTimeError(Words::Text("The file is no WMA file, or it is damaged."));
     const AVStream& stream = *container->streams[number];
     const AVCodecParameters& sound = *stream.codecpar;
     if (stream.duration == AV_NOPTS_VALUE || stream.duration < 0 || sound.sample_rate <= 0)
-        throw RunTimeError("The WMA file is damaged or cut short.");
+        throw RunTimeError(Words::Text("The WMA file is damaged or cut short."));
     return {.Container = container->iformat->name,
             .Codec = Ffmpeg().CodecGetName(sound.codec_id),
             .BitRate = sound.bit_rate,

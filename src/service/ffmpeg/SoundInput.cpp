@@ -71,7 +71,7 @@ void Check(int answer)
     if (answer == AVERROR(ENOMEM))
         throw std::bad_alloc();
     if (answer < 0)
-        throw RunTimeError("The file holds no sound that can be read.");
+        throw RunTimeError(Words::Text("The file holds no sound that can be read."));
 }
 
 template <class Object>
@@ -131,11 +131,11 @@ void SoundInput::OpenCodec()
             format->streams[i]->discard = AVDISCARD_ALL;
     }
     if (stream < 0)
-        throw RunTimeError("The file holds no sound.");
+        throw RunTimeError(Words::Text("The file holds no sound."));
     const AVStream& sound = *format->streams[stream];
     const AVCodec* decoder = Ffmpeg().FindDecoder(sound.codecpar->codec_id);
     if (!decoder)
-        throw RunTimeError("Sound of this kind cannot be read.");
+        throw RunTimeError(Words::Text("Sound of this kind cannot be read."));
     codec.reset(Made(Ffmpeg().CodecAllocContext(decoder)));
     Check(Ffmpeg().ParametersToContext(codec.get(), sound.codecpar));
     codec->pkt_timebase = sound.time_base;

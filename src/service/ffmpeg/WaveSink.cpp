@@ -45,7 +45,7 @@ void WriteAt(int file, std::uint64_t place, std::span<const std::byte> bytes)
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
-            throw NotWritten(std::generic_category().message(count < 0 ? errno : EIO));
+            throw NotWritten(Words::AsIs(std::generic_category().message(count < 0 ? errno : EIO)));
         bytes = bytes.subspan(static_cast<std::size_t>(count));
         place += static_cast<std::uint64_t>(count);
     }

@@ -29,7 +29,8 @@ constexpr int kMostSavesAtOnce = 100; // hidden files of other running programs 
 template <class Error = RunTimeError>
 [[noreturn]] void Fail(const fs::path& path, int error)
 {
-    throw Error("The file " + path.native() + " could not be written: " + std::generic_category().message(error) + ".");
+    throw Error(
+        Words::Text("The file %1 could not be written: %2.", path.native(), std::generic_category().message(error)));
 }
 
 /// Drops `count` written bytes from the front of `blocks`.
@@ -123,7 +124,7 @@ void FileBeside::RequireTarget() const
     if (::stat(wanted.c_str(), &facts) != 0)
         return;
     if (!S_ISREG(facts.st_mode))
-        throw NotReplaced("The file " + wanted.native() + " could not be written: it is no plain file.");
+        throw NotReplaced(Words::Text("The file %1 could not be written: it is no plain file.", wanted.native()));
     if (!MayWrite(wanted))
         Fail<NotReplaced>(wanted, errno);
 }

@@ -15,6 +15,7 @@
 #include <system_error>
 
 #include "base/Errors.h"
+#include "base/Guarded.h"
 
 namespace sprout {
 
@@ -76,8 +77,8 @@ fs::path PosixPrivateFolders::MakeFolder(const fs::path& parent)
 {
     std::string pattern = (parent / (std::string(kPrivateFolder) + "XXXXXX")).native();
     if (!::mkdtemp(pattern.data()))
-        throw RunTimeError("No folder could be made in " + parent.native() + ": " +
-                           std::generic_category().message(errno) + ".");
+        throw RunTimeError(
+            Words::Text("No folder could be made in %1: %2.", parent.native(), std::generic_category().message(errno)));
     Descriptor lock = OpenFolder(AT_FDCWD, pattern.c_str());
     // Without locks in the file system, leftover folders are not deleted either.
     static_cast<void>(TakeLock(lock.Number()));
@@ -97,11 +98,8 @@ void PosixPrivateFolders::DeleteFolder(const fs::path& folder)
 void PosixPrivateFolders::DeleteLeftFolders(const fs::path& parent)
 {
     cleaner = std::jthread([parent](const std::stop_token& stop) {
-        try {
-            DeleteLeftPrivateFolders(parent, stop);
-        } catch (const std::exception&) {
-            return; // the next start tries again
-        }
+        // After a failure the next start tries again.
+        GuardedQuietly("Deleting old private folders", [&] { DeleteLeftPrivateFolders(parent, stop); });
     });
 }
 

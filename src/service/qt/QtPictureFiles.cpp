@@ -113,12 +113,12 @@ QImage ReadImage(QByteArray bytes, const std::filesystem::path& path)
     const QByteArray kind = reader.format(); // by content, whatever the file name
     const QSize size = reader.size();
     if (std::abs(size.width()) > kMostPixelsASide || std::abs(size.height()) > kMostPixelsASide)
-        throw RunTimeError("The picture " + path.native() + " is too large.");
+        throw RunTimeError(Words::Text("The picture %1 is too large.", path.native()));
     if (!IsKnownKind(kind) || size.width() < 1 || size.height() == 0 || IsCut(bytes, kind, size))
-        throw RunTimeError("The picture " + path.native() + " cannot be read.");
+        throw RunTimeError(Words::Text("The picture %1 cannot be read.", path.native()));
     QImage image = reader.read();
     if (image.isNull())
-        throw RunTimeError("The picture " + path.native() + " cannot be read.");
+        throw RunTimeError(Words::Text("The picture %1 cannot be read.", path.native()));
     return image;
 }
 
@@ -143,9 +143,9 @@ Picture QtPictureFiles::LoadPicture(const std::filesystem::path& path) const
     QFile file(QtPath(path));
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error) || !file.open(QIODevice::ReadOnly))
-        throw RunTimeError("The picture " + path.native() + " cannot be opened.");
+        throw RunTimeError(Words::Text("The picture %1 cannot be opened.", path.native()));
     if (file.size() > kMostFileBytes)
-        throw RunTimeError("The picture " + path.native() + " is too large.");
+        throw RunTimeError(Words::Text("The picture %1 is too large.", path.native()));
     const QImage image = Opaque(ReadImage(file.readAll(), path));
     std::vector<std::uint32_t> pixels;
     pixels.reserve(static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height()));
@@ -163,7 +163,7 @@ std::vector<std::byte> QtPictureFiles::EncodeBmp(const Picture& picture) const
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     if (!ToImage(picture).save(&buffer, "BMP"))
-        throw RunTimeError("The picture could not be written.");
+        throw RunTimeError(Words::Text("The picture could not be written."));
     const auto encoded = std::as_bytes(std::span(bytes.constData(), static_cast<std::size_t>(bytes.size())));
     return {encoded.begin(), encoded.end()};
 }
@@ -171,7 +171,7 @@ std::vector<std::byte> QtPictureFiles::EncodeBmp(const Picture& picture) const
 void QtPictureFiles::SavePicture(const Picture& picture, const std::filesystem::path& path) const
 {
     if (!ToImage(picture).save(QtPath(path), "BMP"))
-        throw RunTimeError("The picture " + path.native() + " could not be written.");
+        throw RunTimeError(Words::Text("The picture %1 could not be written.", path.native()));
 }
 
 } // namespace sprout

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/xdg/ChildProcess.h"
+#include "base/Log.h"
 
 #include <sys/wait.h>
 
@@ -45,7 +46,8 @@ ChildProcess::~ChildProcess()
         return;
     try {
         std::thread([id = id] { WaitForEnd(id); }).detach(); // a mail program may outlive this one
-    } catch (const std::system_error&) {
+    } catch (const std::system_error& error) {
+        LogFailure("Waiting for a program", error);
         return; // without a thread the ended program is reaped when this one ends
     }
 }

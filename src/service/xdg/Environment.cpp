@@ -12,6 +12,7 @@
 #include <stdexcept>
 
 #include "base/ByteCursor.h"
+#include "base/Log.h"
 #include "base/Text.h"
 
 namespace sprout {
@@ -58,7 +59,8 @@ std::string FileText(const fs::path& path)
         std::string text(static_cast<std::size_t>(std::min(source.Size(), most)), '\0');
         source.Read(0, std::as_writable_bytes(std::span(text)));
         return text;
-    } catch (const std::runtime_error&) {
+    } catch (const std::runtime_error& error) {
+        LogFailure("Reading a file of the desktop", error);
         return {};
     }
 }

@@ -5,17 +5,15 @@
 
 namespace sprout {
 
-std::string MailSubject(std::string_view songTitle)
+Words MailSubject(std::string_view songTitle)
 {
-    return "Song i composed myself - " + std::string(songTitle);
+    return Words::Text("Song i composed myself - %1", songTitle);
 }
 
-std::string MailBody(std::string_view songTitle, std::string_view createdBy)
+Words MailBody(std::string_view songTitle, std::string_view createdBy)
 {
-    std::string body = "Hi \r\n\r\nListen to this song \"";
-    body.append(songTitle).append("\" I composed with ").append(kProductName).append("\r\n");
-    body.append(kWebSite).append("\r\n\r\nTalk to you later\r\n").append(createdBy);
-    return body;
+    return Words::Text("Hi \r\n\r\nListen to this song \"%1\" I composed with %2\r\n%3\r\n\r\nTalk to you later\r\n%4",
+                       songTitle, kProductName, kWebSite, createdBy);
 }
 
 } // namespace sprout

@@ -4,18 +4,20 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 enum class SongSelMode : std::int32_t { Open = 1, Save = 2, New = 3 };
 
 /// What the song window looks like in one of its modes. Tops and heights in pixels below the title band.
 struct SongSelLayout {
-    std::string_view Caption;
-    std::string_view ListTitle;
-    std::string_view TextTitle;
-    std::string_view NothingFound; ///< the line of an empty list
-    std::string_view OkHint;
-    std::string_view ListHint;
+    LaterWords Caption;
+    LaterWords ListTitle;
+    LaterWords TextTitle;
+    LaterWords NothingFound; ///< the line of an empty list
+    LaterWords OkHint;
+    LaterWords ListHint;
     std::int32_t ListHeight = 0;
     std::int32_t ListTop = 0;
     std::int32_t ListTitleTop = 0;

@@ -9,8 +9,10 @@ namespace sprout {
 
 namespace {
 
-constexpr StepMenuRefusal kNextStepIsOn{"Next step is ON,", "Can not move this.", "Move Failed!"};
-constexpr StepMenuRefusal kLastStepIsOn{"Last step is ON,", "Can not move that to insert.", "Insert Step Failed!"};
+constexpr StepMenuRefusal kNextStepIsOn{Words::Later("Next step is ON,"), Words::Later("Can not move this."),
+                                        Words::Later("Move Failed!")};
+constexpr StepMenuRefusal kLastStepIsOn{Words::Later("Last step is ON,"), Words::Later("Can not move that to insert."),
+                                        Words::Later("Insert Step Failed!")};
 
 auto FirstStep(Tune& tune)
 {

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/Words.h"
 #include "core/Song.h"
 
 namespace sprout {
@@ -41,10 +42,10 @@ inline constexpr std::array kStepMenu{
 
 /// Why an item was refused; all blank if it was carried out.
 struct StepMenuRefusal {
-    std::string_view line1;
-    std::string_view line2;
-    std::string_view title;
-    [[nodiscard]] bool IsRefusal() const { return !line1.empty(); }
+    LaterWords line1;
+    LaterWords line2;
+    LaterWords title;
+    [[nodiscard]] bool IsRefusal() const { return !line1.IsEmpty(); }
 };
 
 /// Applies an item to a step, 1 to `StepCount`. Steps move as whole records, so their rendered sound moves with them;

@@ -264,12 +264,15 @@ TEST_F(StartUp, GoesOnWhereNoFolderCanBeMade)
 
 class MachineWithoutFacts : public FakeMachine {
 public:
-    [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override { throw RunTimeError("There are no facts."); }
+    [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override
+    {
+        throw RunTimeError(Words::Text("There are no facts."));
+    }
 };
 
 class LockedFolders : public FakePrivateFolders {
 public:
-    void DeleteLeftFolders(const fs::path& /*parent*/) override { throw RunTimeError("They are locked."); }
+    void DeleteLeftFolders(const fs::path& /*parent*/) override { throw RunTimeError(Words::Text("They are locked.")); }
 };
 
 TEST_F(StartUp, GoesOnBehindAStepThatThrows)
@@ -359,7 +362,7 @@ public:
     [[nodiscard]] std::optional<FileFacts> FactsOf(const fs::path& file) const override
     {
         if (!std::exchange(failed, true))
-            throw RunTimeError("The disk is busy.");
+            throw RunTimeError(Words::Text("The disk is busy."));
         return PosixFiles::FactsOf(file);
     }
 

@@ -30,14 +30,15 @@ constexpr TwoLines kNoMessage{};
 TEST(CheckSong, AsksForATuneAndGoesOn)
 {
     const PlayCheck check = CheckSong(SongOf(2, MusicTrack("", 0)));
-    EXPECT_EQ(check.message, (TwoLines{"Please select tune for track using tune button.", ""}));
+    EXPECT_EQ(check.message, (TwoLines{Words::Later("Please select tune for track using tune button."), {}}));
     EXPECT_TRUE(check.goesOn);
 }
 
 TEST(CheckSong, AsksForPaintAndStops)
 {
     const PlayCheck check = CheckSong(SongOf(2, MusicTrack("Rain", 1)));
-    EXPECT_EQ(check.message, (TwoLines{"Please paint on the track.", "Use the paint button and draw on the track."}));
+    EXPECT_EQ(check.message, (TwoLines{Words::Later("Please paint on the track."),
+                                       Words::Later("Use the paint button and draw on the track.")}));
     EXPECT_FALSE(check.goesOn);
 }
 
@@ -57,7 +58,7 @@ TEST(CheckSong, TakesContentAndPaintOfAnyTrack)
         for (std::int32_t withPaint = 1; withPaint <= 3; ++withPaint) {
             SongState song = SongOf(3, MusicTrack("", 0));
             At(song.Tracks, withTune).TrackTune.Name = "Rain";
-            EXPECT_EQ(CheckSong(song).message.line1, "Please paint on the track.") << withTune;
+            EXPECT_EQ(CheckSong(song).message.line1.English(), "Please paint on the track.") << withTune;
             At(At(song.Tracks, withPaint).Painted, 9) = 1;
             EXPECT_EQ(CheckSong(song).message, kNoMessage) << withTune << ' ' << withPaint;
             EXPECT_TRUE(CheckSong(song).goesOn);
@@ -76,12 +77,13 @@ TEST(CheckTrack, AsksForAStepThenForPaint)
     Track track = MusicTrack("Rain", 0);
     for (const std::int32_t off : {0, 2}) {
         track.TrackTune.Steps[2].OnPos = off;
-        EXPECT_EQ(CheckTrack(track, kSongCells).message,
-                  (TwoLines{"Please select a tune or edit it.", "Use the first button on the left."}));
+        EXPECT_EQ(CheckTrack(track, kSongCells).message, (TwoLines{Words::Later("Please select a tune or edit it."),
+                                                                   Words::Later("Use the first button on the left.")}));
     }
     track.TrackTune.Steps[2].OnPos = 1;
     EXPECT_EQ(CheckTrack(track, kSongCells).message,
-              (TwoLines{"This track is not painted.", "Use the Brush button and paint on the track."}));
+              (TwoLines{Words::Later("This track is not painted."),
+                        Words::Later("Use the Brush button and paint on the track.")}));
     At(track.Painted, 1280) = 1;
     EXPECT_TRUE(CheckTrack(track, kSongCells).goesOn);
 }
@@ -107,11 +109,11 @@ TEST(CheckTrackFromCell, TellsAClickBehindAllPaintFromATrackWithoutAny)
     Track track = MusicTrack("Rain", 1);
     At(track.Painted, 60) = 2; // erased is not the same as painted
     EXPECT_EQ(CheckTrackFromCell(track, kSongCells, 51).message,
-              (TwoLines{"Please paint on the track, after that you can play it.",
-                        "Use the paint button and draw on the track."}));
+              (TwoLines{Words::Later("Please paint on the track, after that you can play it."),
+                        Words::Later("Use the paint button and draw on the track.")}));
     At(track.Painted, 50) = 1;
     EXPECT_EQ(CheckTrackFromCell(track, kSongCells, 51).message,
-              (TwoLines{"Please click on the painted area on the track to play from there.", ""}));
+              (TwoLines{Words::Later("Please click on the painted area on the track to play from there."), {}}));
     EXPECT_FALSE(CheckTrackFromCell(track, kSongCells, 51).goesOn);
 }
 

@@ -97,9 +97,9 @@ TEST(StepMenu, RefusesToMoveAStepOntoOneThatIsOn)
                                      {1, StepMoveMnu::MoveStepToLeft},
                                      {4, StepMoveMnu::MoveStepToRight}}) {
         const StepMenuRefusal refusal = ApplyStepMenu(tune, step, item);
-        EXPECT_EQ(refusal.line1, "Next step is ON,");
-        EXPECT_EQ(refusal.line2, "Can not move this.");
-        EXPECT_EQ(refusal.title, "Move Failed!");
+        EXPECT_EQ(refusal.line1.English(), "Next step is ON,");
+        EXPECT_EQ(refusal.line2.English(), "Can not move this.");
+        EXPECT_EQ(refusal.title.English(), "Move Failed!");
     }
     EXPECT_EQ(StepsOf(tune), "x1x2.3x4");
     EXPECT_TRUE(tune.TuneWaveValid);
@@ -129,9 +129,9 @@ TEST(StepMenu, RefusesToInsertWhereTheLastStepIsOn)
 {
     Tune tune = TuneOf("x..x");
     const StepMenuRefusal refusal = ApplyStepMenu(tune, 1, StepMoveMnu::InsertStep);
-    EXPECT_EQ(refusal.line1, "Last step is ON,");
-    EXPECT_EQ(refusal.line2, "Can not move that to insert.");
-    EXPECT_EQ(refusal.title, "Insert Step Failed!");
+    EXPECT_EQ(refusal.line1.English(), "Last step is ON,");
+    EXPECT_EQ(refusal.line2.English(), "Can not move that to insert.");
+    EXPECT_EQ(refusal.title.English(), "Insert Step Failed!");
     EXPECT_EQ(StepsOf(tune), "x1.2.3x4");
     EXPECT_TRUE(tune.TuneWaveValid);
 }
