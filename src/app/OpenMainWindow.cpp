@@ -70,7 +70,7 @@ void OpenMainWindow(MainFrm& window)
     window.show();
     ShowSong(window);
     FillTuneTable();
-    ShowHint(QCoreApplication::translate("OpenMainWindow", "Ready"));
+    ShowHint(Words::Text("Ready"));
     StartSound(window);
     ReadOptionFlags();
     if (OpenSampleSong())

@@ -14,6 +14,7 @@
 #include "app/start/StartUp.h"
 #include "base/Guarded.h"
 #include "core/Paths.h"
+#include "core/Settings.h"
 #include "main_window/MainFrm.h"
 #include "main_window/TransportCommands.h"
 #include "service/Services.h"
@@ -32,6 +33,7 @@
 #include "stretch/StretchService.h"
 #include "ui/Look.h"
 #include "ui/ProgramPictures.h"
+#include "ui/PseudoLanguage.h"
 #include "ui/QtMessages.h"
 #include "ui/QtScreen.h"
 
@@ -95,6 +97,9 @@ int RunProgram(QApplication& application)
     pictures.get();
     services.CountSoundDevicesAhead(); // after the pictures: many machines have two cores
     RunStartUp();
+    PseudoLanguage pseudoLanguage;
+    if (IsSetToOne("PseudoLanguage"))
+        QCoreApplication::installTranslator(&pseudoLanguage);
     ProgramWindows windows;
     const ProvidedWindows provided(windows);
     MainFrm window(services.transport);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <concepts>
 #include <cstddef>
 #include <functional>
 #include <string>
@@ -91,7 +90,11 @@ private:
 
     [[nodiscard]] static Words Argument(const Words& words) { return words; }
     [[nodiscard]] static Words Argument(std::string_view text) { return AsIs(text); }
-    [[nodiscard]] static Words Argument(std::integral auto number) { return AsIs(std::to_string(number)); }
+    template <class Number, std::enable_if_t<std::is_integral_v<Number>, int> = 0>
+    [[nodiscard]] static Words Argument(Number number)
+    {
+        return AsIs(std::to_string(number));
+    }
 
     const char* pattern = nullptr; ///< null: the arguments with `text` between them or, without any, `text` itself
     std::string text;

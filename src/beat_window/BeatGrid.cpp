@@ -7,14 +7,14 @@
 #include "base/FilePaths.h"
 #include "beat_window/rules/BeatWindowPlan.h"
 #include "core/Shared.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
 BeatGrid::BeatGrid(QWidget* parent) : PictureGridPic(kBeatColumns, parent)
 {
     setObjectName(QStringLiteral("ShowAllPic"));
-    setAccessibleName(tr("Beats"));
+    SetSpokenName(*this, Words::Text("Beats"));
 }
 
 void BeatGrid::ShowBeats(const BeatTable& table)
@@ -33,10 +33,10 @@ void BeatGrid::ShowBeats(const BeatTable& table)
 void BeatGrid::ShowSelection(const BeatTable& table)
 {
     if (table.BeatListCount == 0)
-        SetLines({tr(" No beat file found to show here."),
-                  tr(" Beats folder: %1").arg(QtText(PathText(Shared().UserBeats))),
-                  tr(" This needs beat '.wav' file and 32x32 picture '.bmp' file as pair."),
-                  tr(" Please reinstall the software.")});
+        SetLines({Words::Text(" No beat file found to show here."),
+                  Words::Text(" Beats folder: %1", PathText(Shared().UserBeats)),
+                  Words::Text(" This needs beat '.wav' file and 32x32 picture '.bmp' file as pair."),
+                  Words::Text(" Please reinstall the software.")});
     SetSelected(table.SelectedBeat);
     RefreshShowAllPic();
 }

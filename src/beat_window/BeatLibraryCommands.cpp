@@ -23,7 +23,6 @@
 #include "ui/FileDialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {
@@ -32,19 +31,19 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kNoBeatHint = "Click on a picture to select a beat";
+constexpr LaterWords kNoBeatHint = Words::Later("Click on a picture to select a beat");
 
-void HintBeatCommand(std::string_view text)
+void HintBeatCommand(const Words& text)
 {
-    ShowHint(QtText(text));
+    ShowHint(text);
 }
 
 /// Shows a message, and a hint for as long as it is open.
-void TellOfBeat(std::string_view hint, const Words& line1, const Words& line2 = {})
+void TellOfBeat(const Words& hint, const Words& line1, const Words& line2 = {})
 {
     HintBeatCommand(hint);
     ShowMessage(line1, line2);
-    HintBeatCommand("");
+    HintBeatCommand({});
 }
 
 void KeepBeatFolder(std::string_view setting, const fs::path& file)
@@ -83,7 +82,7 @@ std::optional<ChosenSound> OpenBeatSound(const fs::path& file)
     try {
         return OpenChosenSound(file, kLongestBeatSeconds, TooLong::Cut);
     } catch (const WorkStopped&) {
-        HintBeatCommand("");
+        HintBeatCommand({});
         return std::nullopt;
     }
 }
@@ -97,7 +96,7 @@ std::optional<ChosenSound> ChooseBeatSound()
         return std::nullopt;
     const WaveData wave = LoadWaveFile(sound->WaveFile);
     if (wave.Length < 1) {
-        HintBeatCommand("");
+        HintBeatCommand({});
         ShowMessage(Words::Text("Failed to load wav file."));
         return std::nullopt;
     }
@@ -140,7 +139,7 @@ void BeatLibraryCommands::DeleteBeat()
 
 void BeatLibraryCommands::TryToAdd()
 {
-    HintBeatCommand("Choose a wav file and small (32x32) bmp picture file");
+    HintBeatCommand(Words::Text("Choose a wav file and small (32x32) bmp picture file"));
     if (!AddHelpShown)
         ShowMessage(Words::Text("Select a .wav file to add as a new beat."));
     const std::optional<ChosenSound> sound = ChooseBeatSound();
@@ -157,7 +156,7 @@ void BeatLibraryCommands::TryToAdd()
     table.SelectedBeat = kRefindBeat;
     table.RefindBeatName = name.Name;
     if (name.FirstName != name.Name) {
-        HintBeatCommand("");
+        HintBeatCommand({});
         ShowMessage(Words::Text("\"%1\" already exists", BeatNameForPeople(name.FirstName)),
                     Words::Text("New beat is added as %1", BeatNameForPeople(name.Name)));
     }
@@ -171,10 +170,10 @@ void BeatLibraryCommands::TryToRename()
         return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to rename."));
     const std::string oldName = SelectedEntry(table).Name;
     if (IsSelectedProtected(table))
-        return TellOfBeat("Can not rename",
+        return TellOfBeat(Words::Text("Can not rename"),
                           Words::Text("\"%1\" is an original Beat from %2", BeatNameForPeople(oldName), kProductFamily),
                           Words::Text("Renaming is not possible."));
-    HintBeatCommand("Enter a new name for this beat");
+    HintBeatCommand(Words::Text("Enter a new name for this beat"));
     const std::string newName = SafeFileName(AskText("", Words::Text("Enter the new name")));
     if (newName.empty() || newName == oldName)
         return;
@@ -190,17 +189,17 @@ void BeatLibraryCommands::TryToDelete()
 {
     if (!HasSelection(table))
         return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to delete."));
-    HintBeatCommand("This will delete the selected beat");
+    HintBeatCommand(Words::Text("This will delete the selected beat"));
     if (IsSelectedProtected(table))
-        return TellOfBeat("Blue bordered are originals, red bordered are your new beats",
+        return TellOfBeat(Words::Text("Blue bordered are originals, red bordered are your new beats"),
                           Words::Text("This an original Beat from %1", kProductFamily),
                           Words::Text("It can not be deleted."));
     const std::string name = SelectedEntry(table).Name;
-    HintBeatCommand("Click Yes to delete, No to keep");
+    HintBeatCommand(Words::Text("Click Yes to delete, No to keep"));
     if (AskYesNo(Words::Text("Are you sure to delete this Beat?"),
                  Words::Text("Beat name: %1", BeatNameForPeople(name)), Words::Text(" Confirm Delete Beat")) != 1)
         return;
-    HintBeatCommand("");
+    HintBeatCommand({});
     if (table.SelectedBeat == table.BeatListCount)
         --table.SelectedBeat;
     DeleteBeatFiles(name);

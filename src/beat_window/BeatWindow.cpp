@@ -15,20 +15,21 @@
 #include "ui/Palette.h"
 #include "ui/PutAt.h"
 #include "ui/QtText.h"
+#include "ui/Texts.h"
 #include "ui/rules/PictureGrid.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr std::string_view kBeatNote = "Click on a picture to choose a beat";
+constexpr LaterWords kBeatNote = Words::Later("Click on a picture to choose a beat");
 
 constexpr std::array kBeatHints{
-    HintRow{"ShowAllPic", "Click on a picture to choose a beat"},
-    HintRow{"BlinkSelectImg", "This is the chosen Beat. Click on it to play"},
-    HintRow{"ChoosenPic", "That shows the selected beat, click on it to play this beat"},
-    HintRow{"NmLbl", "That shows the name of the selected beat"},
-    HintRow{"DurLbl", "That shows the duration of the selected beat"},
+    HintRow{"ShowAllPic", Words::Later("Click on a picture to choose a beat")},
+    HintRow{"BlinkSelectImg", Words::Later("This is the chosen Beat. Click on it to play")},
+    HintRow{"ChoosenPic", Words::Later("That shows the selected beat, click on it to play this beat")},
+    HintRow{"NmLbl", Words::Later("That shows the name of the selected beat")},
+    HintRow{"DurLbl", Words::Later("That shows the duration of the selected beat")},
 };
 
 } // namespace
@@ -79,20 +80,29 @@ void BeatWindow::MakeButtons()
     const auto add = [this](const ButtonRow& row, void (BeatWindow::*click)()) {
         return &AddWordButton(row, [this, click] { Guarded([&] { (this->*click)(); }); });
     };
-    OkBtn = add({"OkBtn", "OK", "Click Ok after choosing a beat", Plate::Word, kDeepLeaf}, &BeatWindow::ClickOk);
-    CancelBtn = add({"CancelBtn", "Cancel", "Cancel button, use it to leave the beat as it was", Plate::Word, kStone},
+    OkBtn = add({"OkBtn", Words::Later("OK"), Words::Later("Click Ok after choosing a beat"), Plate::Word, kDeepLeaf},
+                &BeatWindow::ClickOk);
+    CancelBtn = add({"CancelBtn", Words::Later("Cancel"),
+                     Words::Later("Cancel button, use it to leave the beat as it was"), Plate::Word, kStone},
                     &BeatWindow::reject);
-    TestPlayBtn =
-        add({"TestPlayBtn", "Play", "Play button, click on it to play selected beat", Plate::Tool, {}, "TrackPlayBtn"},
-            &BeatWindow::ClickPlay);
-    AddBtn = add({"AddBtn", "Add", "Adds more beats with your wav file", Plate::Word, kLink, "WordAdd"},
+    TestPlayBtn = add({"TestPlayBtn",
+                       Words::Later("Play"),
+                       Words::Later("Play button, click on it to play selected beat"),
+                       Plate::Tool,
+                       {},
+                       "TrackPlayBtn"},
+                      &BeatWindow::ClickPlay);
+    AddBtn = add({"AddBtn", Words::Later("Add"), Words::Later("Adds more beats with your wav file"), Plate::Word, kLink,
+                  "WordAdd"},
                  &BeatWindow::ClickAdd);
     RenameBtn =
-        add({"RenameBtn", "Rename", "Renames the beat", Plate::Word, kLink, "WordRename"}, &BeatWindow::ClickRename);
-    DeleteBtn =
-        add({"DeleteBtn", "Delete", "This button will deletes the selected beat", Plate::Word, kCoral, "WordDelete"},
-            &BeatWindow::ClickDelete);
-    HelpBtn = add({"HelpBtn", "Help", "Help button, use it to see help", Plate::Word, kBerry, "WordHelp"},
+        add({"RenameBtn", Words::Later("Rename"), Words::Later("Renames the beat"), Plate::Word, kLink, "WordRename"},
+            &BeatWindow::ClickRename);
+    DeleteBtn = add({"DeleteBtn", Words::Later("Delete"), Words::Later("This button will deletes the selected beat"),
+                     Plate::Word, kCoral, "WordDelete"},
+                    &BeatWindow::ClickDelete);
+    HelpBtn = add({"HelpBtn", Words::Later("Help"), Words::Later("Help button, use it to see help"), Plate::Word,
+                   kBerry, "WordHelp"},
                   &BeatWindow::ClickHelp);
 }
 
@@ -154,7 +164,7 @@ void BeatWindow::LoadBeatFiles()
 void BeatWindow::RefreshShowAllPic()
 {
     ShowAllPic->ShowSelection(table);
-    NoteLbl->setText(table.BeatListCount == 0 ? tr("No beat file found") : QtText(kBeatNote));
+    SetText(*NoteLbl, table.BeatListCount == 0 ? Words::Text("No beat file found") : kBeatNote);
     chosen.Show(table);
 }
 

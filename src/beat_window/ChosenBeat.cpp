@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beat_window/ChosenBeat.h"
 
-#include <QCoreApplication>
 #include <QLabel>
 
 #include "beat_window/ChoosenPicture.h"
@@ -9,30 +8,30 @@
 #include "sound/PlayMod.h"
 #include "ui/Dialogs.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
 void ChosenBeat::Show(BeatTable& table) const
 {
     if (HasSelection(table)) {
-        NmLbl->ShowName(QtText(table.NamesForPeople[SelectedEntry(table).Name]));
+        NmLbl->ShowName(Words::AsIs(table.NamesForPeople[SelectedEntry(table).Name]));
         ChoosenPic->ShowPicture(SelectedEntry(table).Picture);
         LoadSelectedSound(table);
-        DurLbl->setText(QtText(DurationText(SelectedEntry(table).Sound)));
+        SetText(*DurLbl, DurationText(SelectedEntry(table).Sound));
     } else {
-        NmLbl->ShowName(QCoreApplication::translate("BeatWindow", "[none]"));
+        NmLbl->ShowName(Words::Text("[none]"));
         ChoosenPic->ShowPicture({});
-        DurLbl->setText(QStringLiteral(" "));
+        SetText(*DurLbl, Words::AsIs(" "));
     }
-    ChoosenPic->setAccessibleName(NmLbl->text());
+    SetSpokenNameOf(*ChoosenPic, *NmLbl);
 }
 
 void PlayChosenBeat(BeatTable& table)
 {
     if (HasSelection(table))
         return PlaySelectedBeat(table);
-    ShowHint(QStringLiteral("Click on a picture to select a beat"));
+    ShowHint(Words::Text("Click on a picture to select a beat"));
     ShowMessage(Words::Text("Select a Beat first."));
     ShowHint({});
 }

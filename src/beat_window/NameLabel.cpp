@@ -5,6 +5,7 @@
 #include <QTextLayout>
 
 #include "ui/Look.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -33,10 +34,10 @@ NameLabel::NameLabel(QWidget* parent) : QLabel(parent)
     setTextFormat(Qt::PlainText);
 }
 
-void NameLabel::ShowName(const QString& name)
+void NameLabel::ShowName(const Words& name)
 {
-    setText(name);
-    setToolTip(QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped())); // names are plain text
+    SetText(*this, name);
+    SetLongToolTip(*this, name);
 }
 
 void NameLabel::paintEvent(QPaintEvent* /*event*/)

@@ -3,6 +3,8 @@
 
 #include <QLabel>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// A centred name on one or two lines: a long name continues on the second line and ends there with dots. The tool tip
@@ -13,7 +15,7 @@ class NameLabel : public QLabel {
 public:
     explicit NameLabel(QWidget* parent);
 
-    void ShowName(const QString& name);
+    void ShowName(const Words& name);
 
 protected:
     void paintEvent(QPaintEvent* event) override;

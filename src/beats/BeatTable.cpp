@@ -133,12 +133,12 @@ void MoveBeatTo(BeatTable& table, std::int32_t target)
     table.SelectedBeat = target;
 }
 
-std::string DurationText(const WaveData& sound)
+Words DurationText(const WaveData& sound)
 {
     const double seconds = BeatSeconds(sound);
     const auto tenths = static_cast<std::int64_t>(std::floor(seconds * 10 + 0.5));
-    const std::string text = std::to_string(tenths / 10) + "." + std::to_string(tenths % 10) + " Sec";
-    return seconds > kLongestShownSeconds ? text + "(Only 3 seconds allowed)" : text;
+    return seconds > kLongestShownSeconds ? Words::Text("%1.%2 Sec(Only 3 seconds allowed)", tenths / 10, tenths % 10)
+                                          : Words::Text("%1.%2 Sec", tenths / 10, tenths % 10);
 }
 
 double BeatSeconds(const WaveData& sound)

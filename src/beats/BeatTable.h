@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Words.h"
 #include "core/Song.h"
 
 namespace sprout {
@@ -53,7 +54,7 @@ void SaveBeatOrder(const BeatTable& table);
 void MoveBeatTo(BeatTable& table, std::int32_t target);
 
 /// Duration for `DurLbl`, "0.8 Sec".
-[[nodiscard]] std::string DurationText(const WaveData& sound);
+[[nodiscard]] Words DurationText(const WaveData& sound);
 
 /// Duration of a sound in seconds; 0 if it has no rate.
 [[nodiscard]] double BeatSeconds(const WaveData& sound);

@@ -14,6 +14,7 @@
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -51,22 +52,22 @@ About_Frm::About_Frm(QWidget* parent) : BandedForm(parent)
 {
     setObjectName(QStringLiteral("About_Frm"));
     SetCaption(Words::Text(" About"));
-    AddLine("ProductLbl", TitleFont(), kProductName);
-    AddLine("PurposeLbl", LabelFont(), "Paint a song and hear it grow.");
-    AddLine("VersionLbl", LabelFont(), "Version " SPROUT_VERSION ", " + std::string(kAppVersionDate));
+    AddLine("ProductLbl", TitleFont(), Words::AsIs(kProductName));
+    AddLine("PurposeLbl", LabelFont(), Words::Text("Paint a song and hear it grow."));
+    AddLine("VersionLbl", LabelFont(), Words::Text("Version %1, %2", SPROUT_VERSION, kAppVersionDate));
     MakeLink();
     AddLine("LicenceLbl", HintFont(),
-            "Free software: you may use it, share it and change it.\n"
-            "GNU General Public License, version 3 or later (GPL-3.0-or-later).");
-    AddAnswer({"OkBtn", "OK", "", Plate::Word, kDeepLeaf}, 1).setFocus();
+            Words::Text("Free software: you may use it, share it and change it.\n"
+                        "GNU General Public License, version 3 or later (GPL-3.0-or-later)."));
+    AddAnswer({"OkBtn", Words::Later("OK"), LaterWords(), Plate::Word, kDeepLeaf}, 1).setFocus();
     PlaceLines();
 }
 
-QLabel& About_Frm::AddLine(const char* name, const QFont& font, std::string_view text)
+QLabel& About_Frm::AddLine(const char* name, const QFont& font, const Words& text)
 {
     QLabel& line = AddLabel(name);
     line.setFont(font);
-    line.setText(QtText(text));
+    SetText(line, text);
     lines.push_back(&line);
     return line;
 }
@@ -75,10 +76,10 @@ void About_Frm::MakeLink()
 {
     auto* link = new LinkButton(QtText(kWebSite), this);
     link->setObjectName(QStringLiteral("WebSiteLbl"));
-    link->setAccessibleName(tr("The makers' pages: %1").arg(link->text()));
+    SetSpokenName(*link, Words::Text("The makers' pages: %1", kWebSite));
     link->setStyleSheet(QtText(kLinkStyle));
     link->setCursor(Qt::PointingHandCursor);
-    Watcher().Watch(*link, "Click to see the makers' pages");
+    Watcher().Watch(*link, Words::Text("Click to see the makers' pages"));
     connect(link, &QPushButton::clicked, this, [] { OpenWithShell(kWebSite); });
     lines.push_back(link);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Words.h"
 #include "ui/BandedForm.h"
 
 namespace sprout {
@@ -16,7 +17,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel& AddLine(const char* name, const QFont& font, std::string_view text);
+    QLabel& AddLine(const char* name, const QFont& font, const Words& text);
     void MakeLink();
     void PlaceLines();
 

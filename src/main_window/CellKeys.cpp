@@ -11,7 +11,7 @@
 #include "main_window/TrackScroll.h"
 #include "main_window/TrackTool.h"
 #include "main_window/rules/CellValues.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -94,7 +94,7 @@ void CellKeys::ShowCell()
 void CellKeys::TellCell()
 {
     // Screen readers read the name of the focused widget when it changes.
-    trackPic.setAccessibleName(QtText(CellInWords(Shared().Song, keyTrack, keyCell)));
+    SetSpokenName(trackPic, CellInWords(Shared().Song, keyTrack, keyCell));
 }
 
 QPoint CellKeys::Place() const

@@ -11,6 +11,7 @@
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -29,9 +30,9 @@ int CaptionWidth(const QLabel& caption)
     return caption.sizeHint().width() + kCaptionGap;
 }
 
-int WidthOfText(const QLabel& label, const QString& text)
+int WidthOfText(const QLabel& label, const Words& text)
 {
-    return label.fontMetrics().horizontalAdvance(text) + 2;
+    return label.fontMetrics().horizontalAdvance(QtText(text)) + 2;
 }
 
 /// How much lower a small text must be than a large one to share its baseline, if each is in the middle of its label's
@@ -40,13 +41,6 @@ int BaselineBelow(const QLabel& large, const QLabel& small)
 {
     const auto belowMiddle = [](const QFontMetrics& font) { return (font.ascent() - font.descent()) / 2.0; };
     return qRound(belowMiddle(large.fontMetrics()) - belowMiddle(small.fontMetrics()));
-}
-
-/// Shows a text, cut to the label's width; screen readers get all of it.
-void ShowCut(QLabel& label, const QString& text)
-{
-    label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
-    label.setAccessibleName(text);
 }
 
 } // namespace
@@ -62,9 +56,9 @@ ControlBar::ControlBar(QWidget* parent, HintWatcher& watcher, EmailTool email)
 {
     setObjectName(QStringLiteral("ControlFramePic"));
     setAttribute(Qt::WA_OpaquePaintEvent);
-    watcher.Watch(*this, "");
-    titleCaption->setText(tr("Song"));
-    authorCaption->setText(tr("by"));
+    watcher.Watch(*this, {});
+    SetText(*titleCaption, Words::Text("Song"));
+    SetText(*authorCaption, Words::Text("by"));
     titleText->setFont(TitleFont());
     connect(tempoBar, &TempoBar::TempoChanged, this, &ControlBar::TempoChanged);
 }
@@ -94,8 +88,8 @@ int ControlBar::HeightFor(int width) const
 
 void ControlBar::ShowSong(std::string_view songTitle, std::string_view songAuthor)
 {
-    title = QtText(songTitle);
-    author = QtText(songAuthor);
+    title = Words::AsIs(songTitle);
+    author = Words::AsIs(songAuthor);
     PlaceSongLabels(PlaceControlBar(width(), emailTool));
 }
 
@@ -130,8 +124,8 @@ void ControlBar::PlaceSongLabels(const ControlBarPlaces& places)
         PlaceSongInOneLine(RectOf(places.song));
     else
         PlaceSongInTwoLines(RectOf(places.song));
-    ShowCut(*titleText, title);
-    ShowCut(*authorText, author);
+    SetCutText(*titleText, title);
+    SetCutText(*authorText, author);
 }
 
 void ControlBar::PlaceSongInOneLine(const QRect& room)

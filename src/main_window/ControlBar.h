@@ -7,6 +7,7 @@
 #include <array>
 #include <string_view>
 
+#include "base/Words.h"
 #include "main_window/rules/ControlBarPlaces.h"
 #include "ui/ButtonScheme.h"
 
@@ -55,8 +56,8 @@ private:
     QLabel* titleText;    ///< `SngTitleLbl`
     QLabel* authorCaption;
     QLabel* authorText;
-    QString title;
-    QString author;
+    Words title;
+    Words author;
     TempoBar* tempoBar;
 };
 

@@ -4,7 +4,6 @@
 #include <QShortcut>
 
 #include <array>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -20,36 +19,35 @@ namespace {
 /// A button of the window; the canvas adds its own after them.
 struct MainButtonRow {
     const char* name;
-    const char* spokenName;
+    LaterWords spokenName;
     Plate plate;
     std::function<void()> MainButtonClicks::*click;
 };
 
 constexpr std::array<MainButtonRow, 17> kMainButtons{{
-    {"PlayAllBtn", "Play all", Plate::Tool, &MainButtonClicks::PlayAllBtn},
-    {"PlayStopBtn", "Stop", Plate::Tool, &MainButtonClicks::PlayStopBtn},
-    {"BrushBtn", "Paint brush", Plate::Tool, &MainButtonClicks::BrushBtn},
-    {"EraserBtn", "Eraser", Plate::Tool, &MainButtonClicks::EraserBtn},
-    {"PlayToolBtn", "Play tool", Plate::Tool, &MainButtonClicks::PlayToolBtn},
-    {"NewBtn", "New", Plate::Tool, &MainButtonClicks::NewBtn},
-    {"OpenBtn", "Open", Plate::Tool, &MainButtonClicks::OpenBtn},
-    {"SaveBtn", "Save", Plate::Tool, &MainButtonClicks::SaveBtn},
-    {"SongTitleChgBtn", "Change", Plate::Tool, &MainButtonClicks::SongTitleChgBtn},
-    {"EmailBtn", "Email song", Plate::Tool, &MainButtonClicks::EmailBtn},
-    {"HelpBtn", "Help", Plate::Tool, &MainButtonClicks::HelpBtn},
-    {"AboutBtn", "About", Plate::Tool, &MainButtonClicks::AboutBtn},
-    {"DemoBtn", "Demo", Plate::Tool, &MainButtonClicks::DemoBtn},
-    {"CloseImgBtn", "Close", Plate::Title, &MainButtonClicks::CloseImgBtn},
-    {"MaximizeImgBtn", "Maximize", Plate::Title, &MainButtonClicks::MaximizeImgBtn},
-    {"MinimizeImgBtn", "Minimize", Plate::Title, &MainButtonClicks::MinimizeImgBtn},
-    {"RestoreImgBtn", "Restore", Plate::Title, &MainButtonClicks::RestoreImgBtn},
+    {"PlayAllBtn", Words::Later("Play all"), Plate::Tool, &MainButtonClicks::PlayAllBtn},
+    {"PlayStopBtn", Words::Later("Stop"), Plate::Tool, &MainButtonClicks::PlayStopBtn},
+    {"BrushBtn", Words::Later("Paint brush"), Plate::Tool, &MainButtonClicks::BrushBtn},
+    {"EraserBtn", Words::Later("Eraser"), Plate::Tool, &MainButtonClicks::EraserBtn},
+    {"PlayToolBtn", Words::Later("Play tool"), Plate::Tool, &MainButtonClicks::PlayToolBtn},
+    {"NewBtn", Words::Later("New"), Plate::Tool, &MainButtonClicks::NewBtn},
+    {"OpenBtn", Words::Later("Open"), Plate::Tool, &MainButtonClicks::OpenBtn},
+    {"SaveBtn", Words::Later("Save"), Plate::Tool, &MainButtonClicks::SaveBtn},
+    {"SongTitleChgBtn", Words::Later("Change"), Plate::Tool, &MainButtonClicks::SongTitleChgBtn},
+    {"EmailBtn", Words::Later("Email song"), Plate::Tool, &MainButtonClicks::EmailBtn},
+    {"HelpBtn", Words::Later("Help"), Plate::Tool, &MainButtonClicks::HelpBtn},
+    {"AboutBtn", Words::Later("About"), Plate::Tool, &MainButtonClicks::AboutBtn},
+    {"DemoBtn", Words::Later("Demo"), Plate::Tool, &MainButtonClicks::DemoBtn},
+    {"CloseImgBtn", Words::Later("Close"), Plate::Title, &MainButtonClicks::CloseImgBtn},
+    {"MaximizeImgBtn", Words::Later("Maximize"), Plate::Title, &MainButtonClicks::MaximizeImgBtn},
+    {"MinimizeImgBtn", Words::Later("Minimize"), Plate::Title, &MainButtonClicks::MinimizeImgBtn},
+    {"RestoreImgBtn", Words::Later("Restore"), Plate::Title, &MainButtonClicks::RestoreImgBtn},
 }};
 
 /// A row of the scheme with the hint from the table.
 ButtonRow WithHint(const MainButtonRow& row)
 {
-    const std::string_view hint = MainWindowHint(row.name);
-    return {row.name, row.spokenName, hint.empty() ? "" : hint.data(), row.plate};
+    return {row.name, row.spokenName, MainWindowHint(row.name), row.plate};
 }
 
 struct ToolButton {

@@ -26,8 +26,8 @@
 #include "ui/Artwork.h"
 #include "ui/HelpFrm.h"
 #include "ui/LaterCommands.h"
-#include "ui/QtText.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Texts.h"
 #include "ui/Windows.h"
 
 namespace sprout {
@@ -104,7 +104,7 @@ void MainFrm::MakeTitleBand()
     titleBand = new TitleBand(this);
     for (const char* name : {"CloseImgBtn", "MaximizeImgBtn", "RestoreImgBtn", "MinimizeImgBtn"})
         titleBand->AddWindowButton(buttons.Button(name));
-    watcher.Watch(*titleBand, "");
+    watcher.Watch(*titleBand, {});
 }
 
 void MainFrm::MakeControlBar()
@@ -145,7 +145,7 @@ void MainFrm::MakeCanvas()
 
 void MainFrm::WatchBackground()
 {
-    watcher.Watch(*this, "");
+    watcher.Watch(*this, {});
     groundWatch->Watch(*this);
     groundWatch->Watch(*controlBar);
     connect(groundWatch, &GroundWatch::MovedOver, canvas, &TrackCanvas::HideTrackButtons);
@@ -170,8 +170,8 @@ void MainFrm::UpdateTempoSliderValue()
 void MainFrm::UpdateSongTitle()
 {
     const SongState& song = Shared().Song;
-    const QString caption = QtText(std::string(kProductName) + " - [" + song.SongTitle + "]");
-    setWindowTitle(caption);
+    const Words caption = Words::Text("%1 - [%2]", kProductName, song.SongTitle);
+    SetTitle(*this, caption);
     titleBand->SetCaption(caption);
     controlBar->ShowSong(song.SongTitle, song.SongCreatedBy);
 }

@@ -20,7 +20,6 @@
 #include "ui/Dialogs.h"
 #include "ui/Hints.h"
 #include "ui/MessageForms.h"
-#include "ui/QtText.h"
 #include "ui/Windows.h"
 
 namespace sprout {
@@ -90,7 +89,7 @@ bool SongCommands::ConfirmSongSave(const LaterWords& failed)
         ClearHint();
         return true;
     }
-    ShowHint(QStringLiteral("This Song is changed, say \"Yes\" to save if you need it"));
+    ShowHint(Words::Text("This Song is changed, say \"Yes\" to save if you need it"));
     SaveConfirmFrm question(&window, song.SongTitle);
     question.SetCaption(CaptionOf({}));
     const auto answer = static_cast<SaveAnswer>(question.ShowModal());

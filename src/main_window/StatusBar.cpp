@@ -8,6 +8,7 @@
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -22,7 +23,7 @@ constexpr int kNarrowBar = 640;
 constexpr int kTwoLinesFontPx = 12;
 constexpr int kTwoLinesApart = 15;
 constexpr int kFrameCorner = 9;
-constexpr const char* kDeviceFailed = "Device Failed:";
+constexpr LaterWords kDeviceFailed = Words::Later("Device Failed:");
 constexpr QColor kFailureRed{0xFF, 0x00, 0x00};
 
 /// Where the first of two lines ends: after the last word that fits.
@@ -71,7 +72,7 @@ SoundLabel::SoundLabel(QWidget* parent) : QLabel(parent)
 void SoundLabel::paintEvent(QPaintEvent* /*event*/)
 {
     // The red depends on the text: once there is a device, the player's states have their own colour.
-    const bool failed = text() == QLatin1String(kDeviceFailed);
+    const bool failed = text() == QtText(Words(kDeviceFailed));
     QFont shownFont = font();
     shownFont.setBold(failed);
     QPainter painter(this);
@@ -97,19 +98,19 @@ StatusBar::StatusBar(QWidget* parent, HintWatcher& watcher)
     }
     trackMouPosLbl->setTextFormat(Qt::PlainText);
     trackMouPosLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    watcher.Watch(*statusLbl, "");
-    watcher.Watch(*soundStatusLbl, "");
+    watcher.Watch(*statusLbl, {});
+    watcher.Watch(*soundStatusLbl, {});
     SetStatusLbl(statusLbl);
 }
 
 void StatusBar::ShowCell(std::string_view cell)
 {
-    trackMouPosLbl->setText(QtText(cell));
+    SetText(*trackMouPosLbl, Words::AsIs(cell));
 }
 
 void StatusBar::ShowSoundDevices(int count)
 {
-    soundStatusLbl->setText(count >= 1 ? QStringLiteral("Ready") : QString::fromLatin1(kDeviceFailed));
+    SetText(*soundStatusLbl, count >= 1 ? Words::Text("Ready") : kDeviceFailed);
 }
 
 void StatusBar::paintEvent(QPaintEvent* /*event*/)

@@ -7,7 +7,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Hints.h"
 #include "ui/Look.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -25,13 +25,13 @@ constexpr int kAddButtonLeft = (kTitleStripWidth - kAddButtonsApart - kAddButton
 constexpr int kTopLblGap = 2;
 constexpr int kTopLblHeight = 22;
 
-TrackLabel* AddHeading(QWidget& strip, const char* name, const QString& text, const LaterWords& message,
+TrackLabel* AddHeading(QWidget& strip, const char* name, const Words& text, const LaterWords& message,
                        const QRect& place)
 {
     auto* label = new TrackLabel(
         name, text, [message] { ShowMessage(message); }, &strip);
     label->setGeometry(place);
-    label->setAccessibleDescription(QtText(Words(message)));
+    SetSpokenDescription(*label, message);
     return label;
 }
 
@@ -57,29 +57,40 @@ ImageButton* AddStripButton(QWidget& strip, ButtonScheme& buttons, const ButtonR
     return &button;
 }
 
-const char* HintOf(const char* name)
+/// A row of the scheme with the hint from the table.
+ButtonRow WithHint(const char* name, const LaterWords& spokenName, Plate plate = Plate::Tool)
 {
-    return MainWindowHint(name).data();
+    return {name, spokenName, MainWindowHint(name), plate};
+}
+
+QLabel* AddTopLbl(QWidget& strip)
+{
+    auto* label = new QLabel(&strip);
+    label->setObjectName(QStringLiteral("TrackTopLbl"));
+    label->setFont(HintFont());
+    label->setAlignment(Qt::AlignCenter);
+    label->resize(kAddButtonsApart + kAddButtonSize.width(), kTopLblHeight);
+    SetText(*label, Words::Text("Add a track"));
+    return label;
 }
 
 } // namespace
 
 StripControls::StripControls(QWidget& strip, ButtonScheme& buttons, const TrackCanvasCalls& calls)
-    : headings{AddHeading(strip, "Label5", tr("Tune"), kLabel5Message, kLabel5Place),
-               AddHeading(strip, "Label1", tr("Play"), kLabel1Message, kLabel1Place)},
+    : headings{AddHeading(strip, "Label5", Words::Text("Tune"), kLabel5Message, kLabel5Place),
+               AddHeading(strip, "Label1", Words::Text("Play"), kLabel1Message, kLabel1Place)},
       tuneBtn(AddTuneBtn(strip, calls.TrackTuneBtn)),
-      playBtn(AddStripButton(strip, buttons, {"TrackPlayBtn", "Play track", HintOf("TrackPlayBtn")}, kPlayPicSize,
+      playBtn(AddStripButton(strip, buttons, WithHint("TrackPlayBtn", Words::Later("Play track")), kPlayPicSize,
                              calls.TrackPlayBtn)),
-      audioBtn(AddStripButton(strip, buttons, {"TrackAudioBtn", "Recording", HintOf("TrackAudioBtn")},
-                              kPictureButtonSize, calls.TrackAudioBtn)),
-      addRecBtn(AddStripButton(strip, buttons, {"TrackAddRecBtn", "Add audio track", HintOf("TrackAddRecBtn")},
+      audioBtn(AddStripButton(strip, buttons, WithHint("TrackAudioBtn", Words::Later("Recording")), kPictureButtonSize,
+                              calls.TrackAudioBtn)),
+      addRecBtn(AddStripButton(strip, buttons, WithHint("TrackAddRecBtn", Words::Later("Add audio track")),
                                kAddButtonSize, calls.TrackAddRecBtn)),
-      addBtn(AddStripButton(strip, buttons, {"TrackAddBtn", "Add music track", HintOf("TrackAddBtn")}, kAddButtonSize,
+      addBtn(AddStripButton(strip, buttons, WithHint("TrackAddBtn", Words::Later("Add music track")), kAddButtonSize,
                             calls.TrackAddBtn)),
-      deleteBtn(AddStripButton(strip, buttons,
-                               {"TrackDeleteBtn", "Delete track", HintOf("TrackDeleteBtn"), Plate::Title},
+      deleteBtn(AddStripButton(strip, buttons, WithHint("TrackDeleteBtn", Words::Later("Delete track"), Plate::Title),
                                kDeleteButtonPicSize, calls.TrackDeleteBtn)),
-      topLbl(new QLabel(tr("Add a track"), &strip))
+      topLbl(AddTopLbl(strip))
 {
     // The keyboard reaches them through the strip.
     for (ImageButton* button : {audioBtn, deleteBtn, playBtn}) {
@@ -89,10 +100,6 @@ StripControls::StripControls(QWidget& strip, ButtonScheme& buttons, const TrackC
     QWidget::setTabOrder(addBtn, addRecBtn);
     addBtn->show();
     addRecBtn->show();
-    topLbl->setObjectName(QStringLiteral("TrackTopLbl"));
-    topLbl->setFont(HintFont());
-    topLbl->setAlignment(Qt::AlignCenter);
-    topLbl->resize(kAddButtonsApart + kAddButtonSize.width(), kTopLblHeight);
 }
 
 void StripControls::PlaceAddButtons(const TrackView& view, std::int32_t trackCount) const

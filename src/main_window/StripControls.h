@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QCoreApplication>
 #include <QLabel>
 
 #include <array>
@@ -18,8 +17,6 @@ namespace sprout {
 /// The controls on the title strip: the headings, the buttons that float over a row, and the buttons that add a track
 /// with their label. They are made in the order of the window's table; a click runs the window's function.
 class StripControls {
-    Q_DECLARE_TR_FUNCTIONS(StripControls)
-
 public:
     /// calls: outlive the controls, which belong to the strip.
     StripControls(QWidget& strip, ButtonScheme& buttons, const TrackCanvasCalls& calls);

@@ -12,8 +12,8 @@
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
 #include "ui/Look.h"
-#include "ui/QtText.h"
 #include "ui/SliderPointer.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -48,10 +48,10 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
         [this](std::int32_t percent) { ShowLabels(percent, TempoOfPercent(percent)); },
         [this](std::int32_t percent) { TakePercent(percent); });
     connect(TempoSliderImg, &TempoSlot::Pressed, TempoPrtImg, &SliderPointer::ChooseAt);
-    TempoPrtImg->setAccessibleName(QStringLiteral("Tempo"));
+    SetSpokenName(*TempoPrtImg, Words::Text("Tempo"));
     SngDurLbl->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     FitRoom({QWIDGETSIZE_MAX, kTempoBarHeight});
-    watcher.Watch(*this, "");
+    watcher.Watch(*this, {});
     const auto name = [&watcher](QWidget& control, const char* systemName) {
         control.setObjectName(QString::fromLatin1(systemName));
         watcher.Watch(control, MainWindowHint(systemName));
@@ -87,8 +87,8 @@ void TempoBar::UpdateTempoSliderValue()
 
 void TempoBar::ShowLabels(std::int32_t percent, std::int32_t tempo)
 {
-    TempoLbl->setText(QtText(TempoLabel(percent)));
-    SngDurLbl->setText(QtText(DurationLabel(tempo)));
+    SetText(*TempoLbl, TempoLabel(percent));
+    SetText(*SngDurLbl, DurationLabel(tempo));
 }
 
 void TempoBar::TakePercent(std::int32_t percent)

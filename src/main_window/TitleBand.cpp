@@ -8,6 +8,7 @@
 #include "ui/Artwork.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -42,9 +43,9 @@ void TitleBand::AddWindowButton(ImageButton& button)
     windowButtons.push_back(&button);
 }
 
-void TitleBand::SetCaption(const QString& caption)
+void TitleBand::SetCaption(const Words& newCaption)
 {
-    captionText = caption;
+    caption = newCaption;
     PlaceParts();
 }
 
@@ -59,7 +60,7 @@ void TitleBand::PlaceParts()
     }
     const int left = kSproutLeft + kBandSproutSide + 4;
     captionLbl->setGeometry(left, 0, right - left, kTitleBandHeight - kBandLine);
-    captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
+    SetCutText(*captionLbl, caption);
 }
 
 void TitleBand::paintEvent(QPaintEvent* /*event*/)

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "base/Words.h"
 #include "ui/ImageButton.h"
 #include "ui/WindowMover.h"
 
@@ -21,7 +22,7 @@ public:
 
     /// Adds a window button; the first one is the rightmost. Hidden buttons leave no gap.
     void AddWindowButton(ImageButton& button);
-    void SetCaption(const QString& caption);
+    void SetCaption(const Words& caption);
     void PlaceParts();
 
 protected:
@@ -34,7 +35,7 @@ protected:
 
 private:
     QLabel* captionLbl;
-    QString captionText;
+    Words caption;
     std::vector<ImageButton*> windowButtons;
     WindowMover mover;
 };

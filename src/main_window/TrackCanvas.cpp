@@ -14,6 +14,7 @@
 #include "main_window/TrackTitlePic.h"
 #include "sound/PlayMod.h"
 #include "ui/Palette.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 

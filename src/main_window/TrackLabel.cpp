@@ -10,6 +10,7 @@
 #include "ui/Look.h"
 #include "ui/Palette.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -19,15 +20,16 @@ constexpr int kHeadingPixels = 12;
 
 } // namespace
 
-TrackLabel::TrackLabel(const char* name, const QString& text, std::function<void()> click, QWidget* parent)
-    : QLabel(text, parent), onClick(std::move(click))
+TrackLabel::TrackLabel(const char* name, const Words& text, std::function<void()> click, QWidget* parent)
+    : QLabel(parent), onClick(std::move(click))
 {
     setObjectName(QString::fromLatin1(name));
     QFont font = ButtonFont();
     font.setPixelSize(kHeadingPixels);
     setFont(font);
     setAlignment(Qt::AlignCenter);
-    setAccessibleName(text);
+    SetText(*this, text);
+    SetSpokenName(*this, text);
     setFocusPolicy(Qt::TabFocus);
     SetSpokenRole(*this, QAccessible::Button);
 }

@@ -5,6 +5,8 @@
 
 #include <functional>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// A small heading of the title strip that reacts to a click, Enter and Space.
@@ -12,7 +14,7 @@ class TrackLabel : public QLabel {
     Q_OBJECT
 
 public:
-    TrackLabel(const char* name, const QString& text, std::function<void()> onClick, QWidget* parent);
+    TrackLabel(const char* name, const Words& text, std::function<void()> onClick, QWidget* parent);
 
 protected:
     void mouseReleaseEvent(QMouseEvent* event) override;

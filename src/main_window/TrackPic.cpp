@@ -13,7 +13,9 @@
 #include "main_window/TrackPictures.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/QtText.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -43,11 +45,12 @@ TrackPic::TrackPic(const TrackView& shownView, QWidget* parent)
     songMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     trackMarker->SetPicture(QStringLiteral("pictures/PlayPosImg"));
     SetSpokenRole(*this, QAccessible::Canvas);
-    setAccessibleName(tr("Tracks"));
-    setAccessibleDescription(tr(
-        "Paint here with the brush and the eraser. The arrow keys scroll, the space bar plays and stops. Control and "
-        "an arrow key choose a cell, Shift and Page Up or Page Down one that is eight cells away. Enter uses the tool "
-        "on it. Control, Shift and an arrow key draw."));
+    SetSpokenName(*this, Words::Text("Tracks"));
+    SetSpokenDescription(*this, Words::Text("Paint here with the brush and the eraser. The arrow keys scroll, the "
+                                            "space bar plays and stops. Control and "
+                                            "an arrow key choose a cell, Shift and Page Up or Page Down one that is "
+                                            "eight cells away. Enter uses the tool "
+                                            "on it. Control, Shift and an arrow key draw."));
 }
 
 void TrackPic::Clear()
@@ -101,7 +104,7 @@ void TrackPic::PaintRow(const RowLook& look, std::int32_t rowTop)
 
 void TrackPic::WriteUnpainted(SurfacePainter& painter, const QRect& background, std::int32_t trackType) const
 {
-    const QString text = tr("Please paint on this track to play with others.");
+    const QString text = QtText(Words::Text("Please paint on this track to play with others."));
     const int textEnd = kUnpaintedTextAt.x() + QFontMetrics(LabelFont()).horizontalAdvance(text);
     const int tiles = (textEnd + kTileWidth - 1) / kTileWidth;
     painter.Tile(QRect(background.topLeft(), QSize(std::min(tiles * kTileWidth, width()), background.height())),

@@ -10,6 +10,7 @@
 #include <array>
 
 #include "main_window/rules/CellValues.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -51,10 +52,10 @@ void TrackScroll::MakeBars(QWidget& canvas)
 {
     vScroll = MakeBar(canvas, Qt::Vertical, &TrackView::FirstTrack);
     vScroll->setObjectName(QStringLiteral("TrackVScroll"));
-    vScroll->setAccessibleName(tr("Scroll the tracks"));
+    SetSpokenName(*vScroll, Words::Text("Scroll the tracks"));
     hScroll = MakeBar(canvas, Qt::Horizontal, &TrackView::FirstCell);
     hScroll->setObjectName(QStringLiteral("TrackHScroll"));
-    hScroll->setAccessibleName(tr("Scroll through the song"));
+    SetSpokenName(*hScroll, Words::Text("Scroll through the song"));
     hScroll->setSingleStep(kCellsOfAGroup);
 }
 

@@ -11,6 +11,7 @@
 #include "main_window/rules/TitleStrip.h"
 #include "ui/Palette.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -33,8 +34,9 @@ TrackTitlePic::TrackTitlePic(const TrackView& shownView, ButtonScheme& scheme, c
     // The pointer does not move the focus, so Space keeps playing and stopping.
     setFocusPolicy(Qt::TabFocus);
     SetSpokenRole(*this, QAccessible::ToolBar);
-    setAccessibleName(tr("Buttons of the tracks"));
-    setAccessibleDescription(tr("Choose a track with up and down and its button with left and right, press Enter."));
+    SetSpokenName(*this, Words::Text("Buttons of the tracks"));
+    SetSpokenDescription(
+        *this, Words::Text("Choose a track with up and down and its button with left and right, press Enter."));
     WatchControls();
 }
 
@@ -42,7 +44,7 @@ void TrackTitlePic::WatchControls()
 {
     for (QWidget* label : {static_cast<QWidget*>(controls.headings[0]), static_cast<QWidget*>(controls.headings[1]),
                            static_cast<QWidget*>(controls.topLbl)}) {
-        watcher.Watch(*label, "");
+        watcher.Watch(*label, {});
         label->installEventFilter(this);
     }
     for (ImageButton* button : {controls.audioBtn, controls.addBtn, controls.addRecBtn})
@@ -187,8 +189,8 @@ void TrackTitlePic::ShowChosen()
     const StripChoice::Point place = choice.Place(view);
     HoverAt(place.x, place.y);
     if (QAbstractButton* button = rowButtons.Visible()) {
-        setAccessibleName(tr("Track %1, %2").arg(choice.Row()).arg(button->accessibleName()));
-        ShowHint(button->property(kHintProperty).toString());
+        SetSpokenName(*this, Words::Text("Track %1, %2", choice.Row(), button->accessibleName().toStdString()));
+        ShowHintOf(*button);
         if (const auto* raised = qobject_cast<ImageButton*>(button))
             buttons.ButtonHover(*raised);
         if (TrackTuneBtnVisible() || TrackAudioBtnVisible())

@@ -9,7 +9,6 @@
 #include "core/Shared.h"
 #include "main_window/TrackPic.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
 #include "ui/ToolCursor.h"
 
 namespace sprout {
@@ -102,7 +101,7 @@ void TrackTool::Leave()
 void TrackTool::ShowPointer(const TrackPointer& pointer)
 {
     ShowPointerImage(pointer.image);
-    ShowHint(QtText(pointer.hint));
+    ShowHint(pointer.hint);
     Ask(calls.ShowCell, std::string_view(pointer.TrackMouPosLbl));
     trackPic.ShowCellCursor(pointer.cellCursor);
 }

@@ -8,8 +8,7 @@
 #include "main_window/TrackPictures.h"
 #include "ui/Hints.h"
 #include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/QtTip.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -23,10 +22,8 @@ constexpr int kTuneButtonSide = kPictureSide + 2 * kTuneButtonFrame;
 TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
 {
     setObjectName(QStringLiteral("TrackTuneBtn"));
-    const QString hint = QtText(MainWindowHint("TrackTuneBtn"));
-    setProperty(kHintProperty, hint);
-    setAccessibleName(tr("Tune"));
-    setAccessibleDescription(hint);
+    SetHintOf(*this, MainWindowHint("TrackTuneBtn"));
+    SetSpokenName(*this, Words::Text("Tune"));
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
     resize(kTuneButtonSide, kTuneButtonSide);
@@ -36,7 +33,7 @@ TrackTuneBtn::TrackTuneBtn(QWidget* parent) : QAbstractButton(parent)
 void TrackTuneBtn::SetTune(const Tune& tune)
 {
     raised = RaisedTunePicture(tune.Picture);
-    setToolTip(tune.Name.empty() ? tr("Tune Button") : QtTip(tune.Name));
+    SetToolTip(*this, tune.Name.empty() ? Words::Text("Tune Button") : Words::AsIs(tune.Name));
     update();
 }
 
@@ -52,13 +49,13 @@ void TrackTuneBtn::paintEvent(QPaintEvent* /*event*/)
 
 void TrackTuneBtn::enterEvent(QEnterEvent* event)
 {
-    ShowHint(property(kHintProperty).toString());
+    ShowHintOf(*this);
     QAbstractButton::enterEvent(event);
 }
 
 void TrackTuneBtn::mouseMoveEvent(QMouseEvent* event)
 {
-    ShowHint(property(kHintProperty).toString());
+    ShowHintOf(*this);
     if (Hovered)
         Hovered();
     QAbstractButton::mouseMoveEvent(event);

@@ -17,7 +17,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 #include "ui/Windows.h"
 
 namespace sprout {
@@ -173,7 +173,7 @@ std::int32_t TransportCommands::MainWindowHandle() const
 void TransportCommands::ShowSoundStatus(const Words& text)
 {
     if (soundStatusLbl)
-        soundStatusLbl->setText(QtText(text));
+        SetText(*soundStatusLbl, text);
 }
 
 void TransportCommands::EnablePlayPosTimer()

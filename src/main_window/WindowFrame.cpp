@@ -32,11 +32,11 @@ WindowFrame::WindowFrame(QWidget& window, HintWatcher& watcher, GroundWatch& gro
     : corners{new CornerVine(&window, "Corner3Pic"), new CornerVine(&window, "Corner4Pic")}
 {
     for (QWidget* corner : corners)
-        watcher.Watch(*corner, "");
+        watcher.Watch(*corner, {});
     ground.Watch(*corners[0]);
     for (std::size_t i = 0; i < grips.size(); ++i) {
         grips[i] = new EdgeGrip(&window, kWindowGrips[i]);
-        watcher.Watch(*grips[i], "");
+        watcher.Watch(*grips[i], {});
         ground.Watch(*grips[i]);
     }
 }

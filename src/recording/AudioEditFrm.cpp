@@ -21,7 +21,7 @@
 #include "ui/Guarded.h"
 #include "ui/HelpFrm.h"
 #include "ui/Palette.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -32,8 +32,8 @@ constexpr int kAnswerGap = 12;
 constexpr QMargins kPictureFrame{2, 2, 2, 2};
 constexpr QMargins kFocusFrame{4, 4, 4, 4};
 
-constexpr std::string_view kWavePicHint = "Your recorded sound looks like this";
-constexpr std::string_view kHScrollHint = "Slide this to see the other parts of your sound";
+constexpr LaterWords kWavePicHint = Words::Later("Your recorded sound looks like this");
+constexpr LaterWords kHScrollHint = Words::Later("Slide this to see the other parts of your sound");
 
 /// By `EditTool`.
 constexpr std::array<const char*, kEditTools> kToolNames{"TestPlayBtn", "VolumeUpBtn", "VolumeDnBtn", "DeleteBtn",
@@ -82,7 +82,7 @@ AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent), sound(new Edit
     SetCaption(Words::Text(" %1 - Edit Audio", kProductName));
     MakeSound();
     SelectOkLbl = &AddLabel("SelectOkLbl");
-    SelectOkLbl->setText(tr("Drag the mouse over a part to select it"));
+    SetText(*SelectOkLbl, Words::Text("Drag the mouse over a part to select it"));
     SelectedLbl = &AddLabel("SelectedLbl");
     MakeButtons();
     SetTabOrders();
@@ -105,7 +105,7 @@ void AudioEditFrm::MakeSound()
     connect(&sound->Picture(), &WavePic::FocusChanged, this,
             [this] { update(sound->Picture().geometry() + kFocusFrame); });
     connect(sound, &EditedSound::Shown, this, [this] {
-        SelectedLbl->setText(QtText(sound->Editor().Spoken()));
+        SetText(*SelectedLbl, sound->Editor().Spoken());
         static_cast<void>(HasSelection());
     });
 }
@@ -114,22 +114,31 @@ void AudioEditFrm::MakeButtons()
 {
     // Enter presses the first one.
     const std::array rows{
-        CommandRow{{"OkBtn", "OK", "Ok button, use it to keep the sound as it is now", Plate::Word, kDeepLeaf},
+        CommandRow{{"OkBtn", Words::Later("OK"), Words::Later("Ok button, use it to keep the sound as it is now"),
+                    Plate::Word, kDeepLeaf},
                    [this] { OkBtn(); }},
-        CommandRow{{"CancelBtn", "Cancel", "Cancel button, use it to leave the sound as it was", Plate::Word, kStone},
+        CommandRow{{"CancelBtn", Words::Later("Cancel"),
+                    Words::Later("Cancel button, use it to leave the sound as it was"), Plate::Word, kStone},
                    [this] { CancelBtn(); }},
-        CommandRow{{"TestPlayBtn", "Play", "Play button, click on it to play this audio"}, [this] { PlayEditWave(); }},
-        CommandRow{{"VolumeUpBtn", "Louder", "Select an audio part and use this up arrow to increase the volume"},
+        CommandRow{{"TestPlayBtn", Words::Later("Play"), Words::Later("Play button, click on it to play this audio")},
+                   [this] { PlayEditWave(); }},
+        CommandRow{{"VolumeUpBtn", Words::Later("Louder"),
+                    Words::Later("Select an audio part and use this up arrow to increase the volume")},
                    [this] { ChangeVolume(VolumeChange::Up); }},
-        CommandRow{{"VolumeDnBtn", "Softer", "Select an audio part and use this down arrow to reduce the volume"},
+        CommandRow{{"VolumeDnBtn", Words::Later("Softer"),
+                    Words::Later("Select an audio part and use this down arrow to reduce the volume")},
                    [this] { ChangeVolume(VolumeChange::Down); }},
-        CommandRow{{"DeleteBtn", "Delete", "Select the unwanted audio and use this button to delete it."},
+        CommandRow{{"DeleteBtn", Words::Later("Delete"),
+                    Words::Later("Select the unwanted audio and use this button to delete it.")},
                    [this] { DeleteBtn(); }},
-        CommandRow{{"ZoomInBtn", "Zoom in", "Zoom In Button, click on it to zoom in the waveform display"},
+        CommandRow{{"ZoomInBtn", Words::Later("Zoom in"),
+                    Words::Later("Zoom In Button, click on it to zoom in the waveform display")},
                    [this] { sound->Zoom(WaveZoom::In); }},
-        CommandRow{{"ZoomOutBtn", "Zoom out", "Zoom Out Button, click on it to zoom out the waveform display"},
+        CommandRow{{"ZoomOutBtn", Words::Later("Zoom out"),
+                    Words::Later("Zoom Out Button, click on it to zoom out the waveform display")},
                    [this] { sound->Zoom(WaveZoom::Out); }},
-        CommandRow{{"HelpBtn", "Help", "Help button, use it to see help"}, [] { ShowHelp(); }},
+        CommandRow{{"HelpBtn", Words::Later("Help"), Words::Later("Help button, use it to see help")},
+                   [] { ShowHelp(); }},
     };
     for (const CommandRow& row : rows)
         AddWordButton(row.button, [command = row.command] { Guarded(command); });

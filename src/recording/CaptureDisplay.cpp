@@ -5,8 +5,8 @@
 
 #include "ui/BandedForm.h"
 #include "ui/Look.h"
-#include "ui/QtText.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -19,15 +19,15 @@ constexpr QRect kRightMeterPlace{536, 12, 48, 128};
 constexpr QRect kProgressPlace{16, 154, 568, 18};
 constexpr int kDurationPixels = 36;
 
-constexpr const char* kMeterHint = "This should show moving up-down when you sing";
+constexpr LaterWords kMeterHint = Words::Later("This should show moving up-down when you sing");
 
 /// Adds a picture to the window.
 template <class Kind>
-Kind* AddPicture(QWidget& window, const char* name, const QString& spokenName, const QRect& place)
+Kind* AddPicture(QWidget& window, const char* name, const Words& spokenName, const QRect& place)
 {
     auto* made = new Kind(&window);
     made->setObjectName(QString::fromLatin1(name));
-    made->setAccessibleName(spokenName);
+    SetSpokenName(*made, spokenName);
     made->setGeometry(place.translated(0, kBandHeight));
     SetSpokenRole(*made, QAccessible::Graphic);
     return made;
@@ -38,10 +38,12 @@ Kind* AddPicture(QWidget& window, const char* name, const QString& spokenName, c
 CaptureDisplay::CaptureDisplay(QWidget& window, QLabel& duration, QLabel& status, HintWatcher& watcher)
     : Dur_Lbl(duration),
       Rec_Stat_Lbl(status),
-      RecShowLPic(AddPicture<LevelMeterPic>(window, "RecShowLPic", tr("Loudness on the left"), kLeftMeterPlace)),
-      RecShowRPic(AddPicture<LevelMeterPic>(window, "RecShowRPic", tr("Loudness on the right"), kRightMeterPlace)),
-      RecProgressPic(
-          AddPicture<RecordingProgressPic>(window, "RecProgressPic", tr("How much is recorded"), kProgressPlace))
+      RecShowLPic(
+          AddPicture<LevelMeterPic>(window, "RecShowLPic", Words::Text("Loudness on the left"), kLeftMeterPlace)),
+      RecShowRPic(
+          AddPicture<LevelMeterPic>(window, "RecShowRPic", Words::Text("Loudness on the right"), kRightMeterPlace)),
+      RecProgressPic(AddPicture<RecordingProgressPic>(window, "RecProgressPic", Words::Text("How much is recorded"),
+                                                      kProgressPlace))
 {
     QFont large = TitleFont();
     large.setPixelSize(kDurationPixels);
@@ -50,11 +52,11 @@ CaptureDisplay::CaptureDisplay(QWidget& window, QLabel& duration, QLabel& status
     Rec_Stat_Lbl.setWordWrap(true);
     Rec_Stat_Lbl.setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Rec_Stat_Lbl.setGeometry(kStatusPlace.translated(0, kBandHeight));
-    watcher.Watch(Dur_Lbl, "Shows the recorded duration");
-    watcher.Watch(Rec_Stat_Lbl, "Recording status");
+    watcher.Watch(Dur_Lbl, Words::Text("Shows the recorded duration"));
+    watcher.Watch(Rec_Stat_Lbl, Words::Text("Recording status"));
     watcher.Watch(*RecShowLPic, kMeterHint);
     watcher.Watch(*RecShowRPic, kMeterHint);
-    watcher.Watch(*RecProgressPic, "");
+    watcher.Watch(*RecProgressPic, {});
 }
 
 void CaptureDisplay::Measure(std::int32_t bits)
@@ -71,8 +73,8 @@ void CaptureDisplay::Clear()
 
 void CaptureDisplay::Show(const CaptureView& view)
 {
-    Dur_Lbl.setText(QtText(view.Duration()));
-    Rec_Stat_Lbl.setText(QtText(view.Status()));
+    SetText(Dur_Lbl, Words::AsIs(view.Duration()));
+    SetText(Rec_Stat_Lbl, view.Status());
     RecShowLPic->ShowLevel(view.Left(), view.BarColour());
     RecShowRPic->ShowLevel(view.Right(), view.BarColour());
     RecProgressPic->ShowSeconds(view.Elapsed());

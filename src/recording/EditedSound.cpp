@@ -8,7 +8,6 @@
 #include "recording/WavePic.h"
 #include "recording/WaveScrollBar.h"
 #include "ui/Guarded.h"
-#include "ui/QtText.h"
 
 namespace sprout {
 
@@ -72,7 +71,7 @@ void EditedSound::Load(WaveData sound)
 void EditedSound::Show()
 {
     wavePic->Show(editor.Draw(wavePic->ScaleSize()));
-    wavePic->Speak(QtText(editor.Spoken()));
+    wavePic->Speak(editor.Spoken());
     Q_EMIT Shown();
 }
 

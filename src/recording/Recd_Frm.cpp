@@ -24,6 +24,7 @@
 #include "ui/Guarded.h"
 #include "ui/Palette.h"
 #include "ui/SliderPointer.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -48,7 +49,7 @@ constexpr int kBelowButtons = 14;
 constexpr QSize kVolumePointerSize{34, 40};
 constexpr QSize kVolumePointerPicture{30, 35};
 
-constexpr const char* kControlHint = "This will open the recording control";
+constexpr LaterWords kControlHint = Words::Later("This will open the recording control");
 
 /// A rectangle in the form's body.
 QRect BodyRect(const QRect& place)
@@ -91,13 +92,15 @@ Recd_Frm::~Recd_Frm() = default;
 
 void Recd_Frm::MakeButtons()
 {
-    RecFinishBtn = &AddWordButton({"RecFinishBtn", "Finish", "This will stop and bring the recording to track",
-                                   Plate::Word, kDeepLeaf, "WordFinish"},
+    RecFinishBtn = &AddWordButton({"RecFinishBtn", Words::Later("Finish"),
+                                   Words::Later("This will stop and bring the recording to track"), Plate::Word,
+                                   kDeepLeaf, "WordFinish"},
                                   [this] { ClickFinish(); });
     RecFinishBtn->setFocus();
-    Cancel_Btn = &AddWordButton(
-        {"Cancel_Btn", "Cancel", "This will stop and cancel the recording", Plate::Word, kStone, "WordCancel"},
-        [this] { ClickCancel(); });
+    Cancel_Btn =
+        &AddWordButton({"Cancel_Btn", Words::Later("Cancel"), Words::Later("This will stop and cancel the recording"),
+                        Plate::Word, kStone, "WordCancel"},
+                       [this] { ClickCancel(); });
 }
 
 void Recd_Frm::MakeBird()
@@ -105,7 +108,7 @@ void Recd_Frm::MakeBird()
     std::array<QLabel*, 2> poses{&AddLabel("AnimImg0"), &AddLabel("AnimImg1")};
     for (QLabel* pose : poses) {
         pose->setGeometry(BodyRect(kBirdPlace));
-        Watcher().Watch(*pose, "Recording bird");
+        Watcher().Watch(*pose, Words::Text("Recording bird"));
     }
     bird = new RecordingBird(*poses[0], *poses[1], this);
 }
@@ -128,14 +131,15 @@ SourceList& Recd_Frm::MakeSourceList()
 {
     auto* list = new SourceList(this);
     list->setGeometry(BodyRect(kSourcesPlace));
-    Watcher().Watch(*list, "");
-    const auto control = [this](const char* name, const char* spokenName, const QRect& place, SoundControl opened) {
+    Watcher().Watch(*list, {});
+    const auto control = [this](const char* name, const LaterWords& spokenName, const QRect& place,
+                                SoundControl opened) {
         AddWordButton({name, spokenName, kControlHint}, [opened] {
             OpenSoundControl(opened);
         }).setGeometry(BodyRect(place));
     };
-    control("RecSrcBtn1", "Volume of the loudspeakers", kPlayControlPlace, SoundControl::Play);
-    control("RecSrcBtn2", "Volume of the microphones", kRecordControlPlace, SoundControl::Record);
+    control("RecSrcBtn1", Words::Later("Volume of the loudspeakers"), kPlayControlPlace, SoundControl::Play);
+    control("RecSrcBtn2", Words::Later("Volume of the microphones"), kRecordControlPlace, SoundControl::Record);
     return *list;
 }
 
@@ -144,16 +148,16 @@ void Recd_Frm::MakeVolume(SourceList& list)
     QLabel& slider = AddLabel("VolumeSliderImg");
     slider.setPixmap(Artwork(QStringLiteral("pictures/VolumeSliderImg"), kSliderPlace.size(), devicePixelRatioF()));
     slider.setGeometry(BodyRect(kSliderPlace));
-    Watcher().Watch(slider, "Recording Volume slider");
+    Watcher().Watch(slider, Words::Text("Recording Volume slider"));
     auto* pointer = new SliderPointer(
         this, {"pictures/VolumePrtImg", kVolumePointerSize, kVolumePointerPicture},
         [this](std::int32_t percent) { sources->ShowPercent(percent); },
         [this](std::int32_t percent) { sources->TakePercent(percent); });
     pointer->setObjectName(QStringLiteral("VolumePrtImg"));
-    pointer->setAccessibleName(tr("Recording volume"));
+    SetSpokenName(*pointer, Words::Text("Recording volume"));
     pointer->move(BodyRect(kSliderPlace).topLeft());
     pointer->SetSlot(kSliderPlace.left(), kSliderPlace.width());
-    Watcher().Watch(*pointer, "Slide this pointer to adjust Recording Volume");
+    Watcher().Watch(*pointer, Words::Text("Slide this pointer to adjust Recording Volume"));
     QLabel& percentLbl = AddLabel("VolumeLbl");
     percentLbl.setGeometry(BodyRect(kPercentPlace));
     sources = new RecordingSources(capture, list, *pointer, percentLbl, this);

@@ -5,6 +5,7 @@
 #include <QTimer>
 
 #include "ui/Artwork.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -23,7 +24,7 @@ RecordingBird::RecordingBird(QLabel& sitting, QLabel& hopping, QObject* parent)
     for (QLabel* pose : {&sittingPose, &hoppingPose}) {
         pose->setPixmap(
             Artwork(QStringLiteral("pictures/") + pose->objectName(), pose->size(), pose->devicePixelRatioF()));
-        pose->setAccessibleName(tr("Bird"));
+        SetSpokenName(*pose, Words::Text("Bird"));
         pose->setVisible(pose == &sittingPose);
     }
     timer->setObjectName(QStringLiteral("AnimTimer"));

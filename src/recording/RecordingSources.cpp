@@ -7,6 +7,7 @@
 #include "recording/rules/Volume.h"
 #include "ui/Guarded.h"
 #include "ui/SliderPointer.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -53,7 +54,7 @@ void RecordingSources::ShowRecordVolume(std::int32_t value)
 
 void RecordingSources::ShowPercent(std::int32_t percent)
 {
-    VolumeLbl.setText(QStringLiteral("%1%").arg(percent));
+    SetText(VolumeLbl, Words::Text("%1%", percent));
 }
 
 void RecordingSources::TakePercent(std::int32_t percent)

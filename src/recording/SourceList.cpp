@@ -6,7 +6,7 @@
 
 #include "ui/Look.h"
 #include "ui/PopupKeys.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -19,7 +19,7 @@ constexpr int kBesideSource = 56; ///< frame, arrow and padding
 SourceList::SourceList(QWidget* parent) : QComboBox(parent)
 {
     setObjectName(QStringLiteral("MixerRecSrcCmb"));
-    setAccessibleName(tr("Microphone"));
+    SetSpokenName(*this, Words::Text("Microphone"));
     setFont(HintFont());
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     KeepClosingKeys(*this);
@@ -34,21 +34,12 @@ void SourceList::ShowLines(const SourceLines& sources)
         hidePopup();
         clear();
         for (const SourceLine& line : lines)
-            AddLine(QtText(line.Name).simplified());
+            AddCutItem(*this, Words::AsIs(line.Name), width() - kBesideSource);
     }
     if (lines.empty())
-        addItem(tr("Failed"));
+        AddItem(*this, Words::Text("Failed"));
     setCurrentIndex(lines.empty() ? 0 : sources.Selected);
     setEnabled(!lines.empty());
-}
-
-/// Shows the start of a long name; the tooltip has all of it.
-void SourceList::AddLine(const QString& name)
-{
-    addItem(fontMetrics().elidedText(name, Qt::ElideRight, width() - kBesideSource));
-    const int row = count() - 1;
-    setItemData(row, QStringLiteral("<p>%1</p>").arg(name.toHtmlEscaped()), Qt::ToolTipRole);
-    setItemData(row, name, Qt::AccessibleTextRole);
 }
 
 void SourceList::Choose(int row)

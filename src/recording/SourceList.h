@@ -29,7 +29,6 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void AddLine(const QString& name);
     void Choose(int row);
 
     std::vector<SourceLine> lines;

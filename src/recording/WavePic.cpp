@@ -14,6 +14,7 @@
 #include "recording/WavePainter.h"
 #include "ui/Palette.h"
 #include "ui/SpokenRoles.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -86,9 +87,10 @@ void WavePic::MovePlayMarker(std::int32_t left)
     marker->setGeometry(left, 0, kMarkerWidth, height());
 }
 
-void WavePic::Speak(const QString& selection)
+void WavePic::Speak(const Words& selection)
 {
-    setAccessibleName(selection.isEmpty() ? tr("Your recorded sound") : tr("Your recorded sound: %1").arg(selection));
+    SetSpokenName(*this, selection.IsBlank() ? Words::Text("Your recorded sound")
+                                             : Words::Text("Your recorded sound: %1", selection));
 }
 
 QImage WavePic::Draw(double ratio) const

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 
+#include "base/Words.h"
 #include "recording/rules/WavePoints.h"
 #include "recording/rules/WaveSelection.h"
 
@@ -33,7 +34,7 @@ public:
     void MovePlayMarker(std::int32_t left);
 
     /// Tells screen readers what is selected.
-    void Speak(const QString& selection);
+    void Speak(const Words& selection);
 
     /// The drawing in device pixels, as shown on a screen of this pixel ratio.
     [[nodiscard]] QImage Draw(double ratio) const;

@@ -3,6 +3,8 @@
 
 #include <QKeyEvent>
 
+#include "ui/Texts.h"
+
 namespace sprout {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr int kScrollPage = 10;
 WaveScrollBar::WaveScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent)
 {
     setObjectName(QStringLiteral("HScroll"));
-    setAccessibleName(tr("Scroll the sound"));
+    SetSpokenName(*this, Words::Text("Scroll the sound"));
     setRange(0, kScrollMost);
     setPageStep(kScrollPage);
     setFocusPolicy(Qt::TabFocus);

@@ -79,7 +79,7 @@ EmailSong::EmailSong(QObject* parent) : QObject(parent), tellTimer(this)
 void EmailSong::EmailBtn()
 {
     if (underWay) {
-        ShowHint(tr("Your mail program is starting."));
+        ShowHint(Words::Text("Your mail program is starting."));
         return;
     }
     ShowHint({});
@@ -100,7 +100,7 @@ bool EmailSong::MailSong()
             ShowMessage(outcome.Line1, outcome.Line2);
         if (outcome.End != ExportEnd::Written) {
             if (Shared().Song.SongMix.Length == 0)
-                ShowHint(tr("Please paint on the track."));
+                ShowHint(Words::Text("Please paint on the track."));
             return false;
         }
         folder.Keep();

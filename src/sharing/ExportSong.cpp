@@ -22,7 +22,6 @@
 #include "ui/Dialogs.h"
 #include "ui/FileDialogs.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
 
 namespace sprout {
 
@@ -68,7 +67,7 @@ constexpr ExportKind kWmaKind{Words::Later("Select wma file name to save the son
 
 void HintExport(const Words& text)
 {
-    ShowHint(QtText(text));
+    ShowHint(text);
 }
 
 bool MayOverwriteSound(const fs::path& target)

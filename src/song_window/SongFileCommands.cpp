@@ -14,17 +14,16 @@
 #include "song_window/rules/SongChoice.h"
 #include "ui/Dialogs.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr std::string_view kSelectSongHint = "Click on the song name in the list to select one";
+constexpr LaterWords kSelectSongHint = Words::Later("Click on the song name in the list to select one");
 
-void HintSongFile(std::string_view text)
+void HintSongFile(const Words& text)
 {
-    ShowHint(QtText(text));
+    ShowHint(text);
 }
 
 /// Lists the folder anew and selects the line where the selected one was.
@@ -50,13 +49,13 @@ void DeleteSongFile(SongList& list)
 {
     if (!IsSongSelected(list, Words::Text("Select a song to delete.")))
         return;
-    HintSongFile("Click Yes to delete, No to keep");
+    HintSongFile(Words::Text("Click Yes to delete, No to keep"));
     const SongFile song = *list.SelectedSong();
     if (AskYesNo(Words::Text("Do you want to delete this song?"), Words::AsIs(song.Name)) == 1) {
         DeleteSong(song);
         ReloadSongs(list);
     }
-    HintSongFile("");
+    HintSongFile({});
 }
 
 void RenameSongFile(SongList& list)
@@ -84,7 +83,7 @@ void RenameSongFile(SongList& list)
 void TrySongCommand(const LaterWords& failed, void (*command)(SongList&), SongList& list)
 {
     const auto tell = [&](const std::exception& error) {
-        HintSongFile("");
+        HintSongFile({});
         TheServices().messages->MessageBox({}, failed.With(ErrorWords(error)));
         // Another program may have changed the folder: the list shows what is there now.
         ReloadSongs(list);
@@ -100,7 +99,7 @@ bool IsSongSelected(const SongList& list, const Words& message)
         return true;
     HintSongFile(kSelectSongHint);
     ShowMessage(message);
-    HintSongFile("");
+    HintSongFile({});
     return false;
 }
 

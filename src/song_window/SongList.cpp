@@ -6,7 +6,7 @@
 
 #include "core/Shared.h"
 #include "ui/Look.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -35,11 +35,11 @@ void SongList::LoadSongNames()
     const QSignalBlocker quiet(this);
     clear();
     for (const SongFile& song : songs) {
-        auto* line = new QListWidgetItem(QtText(song.Name), this);
-        line->setToolTip(QStringLiteral("<p>%1</p>").arg(line->text().toHtmlEscaped())); // names are not rich text
+        const Words name = Words::AsIs(song.Name);
+        SetLongToolTip(*AddLine(*this, name), name);
     }
     if (songs.empty())
-        (new QListWidgetItem(QtText(nothingFound), this))->setFlags(Qt::NoItemFlags);
+        AddLine(*this, nothingFound)->setFlags(Qt::NoItemFlags);
 }
 
 int SongList::SelectedRow() const

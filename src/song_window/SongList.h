@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Words.h"
 #include "songs/SongFiles.h"
 
 namespace sprout {
@@ -20,7 +21,7 @@ public:
     explicit SongList(QWidget* parent);
 
     /// Sets the line that a list without songs shows from the next load on; it cannot be selected.
-    void SetNothingFound(std::string_view line) { nothingFound = line; }
+    void SetNothingFound(const Words& line) { nothingFound = line; }
 
     /// Lists what the folder contains now, with nothing selected. Emits no signals.
     void LoadSongNames();
@@ -43,7 +44,7 @@ private:
     [[nodiscard]] bool SelectFirst(int key);
 
     std::vector<SongFile> songs;
-    std::string nothingFound;
+    Words nothingFound;
 };
 
 } // namespace sprout

@@ -13,15 +13,15 @@
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"
 #include "ui/PutAt.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 #include "ui/Windows.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr const char* kSavWavHint = "Select wav file name to save the song as audio (.wav) file";
-constexpr const char* kSavWmaHint = "Select wma file name to save the song as audio (.wma) file";
+constexpr LaterWords kSavWavHint = Words::Later("Select wav file name to save the song as audio (.wav) file");
+constexpr LaterWords kSavWmaHint = Words::Later("Select wma file name to save the song as audio (.wma) file");
 
 const char* PictureOf(SongSelMode mode)
 {
@@ -35,9 +35,9 @@ const char* PictureOf(SongSelMode mode)
     }
 }
 
-void Hint(std::string_view text)
+void Hint(const Words& text)
 {
-    ShowHint(QtText(text));
+    ShowHint(text);
 }
 
 } // namespace
@@ -58,14 +58,14 @@ void SongSelFrm::MakeLabels()
     ListTitleLbl = &AddLabel("ListTitleLbl");
     TextTitleLbl = &AddLabel("TextTitleLbl");
     SongNmLbl = &AddLabel("SongNmLbl");
-    SongNmLbl->setText(tr("Song name"));
+    SetText(*SongNmLbl, Words::Text("Song name"));
 }
 
 void SongSelFrm::MakeList()
 {
     SngNmLst = new SongList(this);
     SngNmLst->setObjectName(QStringLiteral("SngNmLst"));
-    SngNmLst->setAccessibleName(tr("Songs"));
+    SetSpokenName(*SngNmLst, Words::Text("Songs"));
     connect(SngNmLst, &QListWidget::itemSelectionChanged, this, [this] { TakeSelectedName(); });
     connect(SngNmLst, &QListWidget::itemClicked, this, [this] { TakeSelectedName(); });
     connect(SngNmLst, &QListWidget::itemDoubleClicked, this, [this] { OkBtn->click(); });
@@ -75,32 +75,38 @@ void SongSelFrm::MakeNameBox()
 {
     SongNameTxt = new QLineEdit(this);
     SongNameTxt->setObjectName(QStringLiteral("SongNameTxt"));
-    SongNameTxt->setAccessibleName(SongNmLbl->text());
+    SetSpokenNameOf(*SongNameTxt, *SongNmLbl);
     SongNameTxt->setMaxLength(0x7FFFFFFF); // the file system limits names, the box does not
     SongNameTxt->installEventFilter(this);
     ForbidCharacters(*SongNameTxt, QStringLiteral("./\\:*?\"<>"));
-    Watcher().Watch(*SongNameTxt, "Type your song name here");
+    Watcher().Watch(*SongNameTxt, Words::Text("Type your song name here"));
 }
 
 void SongSelFrm::MakeButtons()
 {
-    OkBtn = &AddWordButton({"OkBtn", "OK", "", Plate::Word, kDeepLeaf}, [this] { ClickOk(); });
-    CancelBtn = &AddWordButton({"CancelBtn", "Cancel", "", Plate::Word, kStone}, [this] { reject(); });
+    OkBtn = &AddWordButton({"OkBtn", Words::Later("OK"), LaterWords(), Plate::Word, kDeepLeaf}, [this] { ClickOk(); });
+    CancelBtn =
+        &AddWordButton({"CancelBtn", Words::Later("Cancel"), LaterWords(), Plate::Word, kStone}, [this] { reject(); });
     columnButtons = {
-        &AddWordButton({"CopyBtn", "Copy", "Copy button, select a song and use this button to copy it to make one more",
+        &AddWordButton({"CopyBtn", Words::Later("Copy"),
+                        Words::Later("Copy button, select a song and use this button to copy it to make one more"),
                         Plate::Word, kLink, "WordCopy"},
                        [this] { CopySelectedSong(*SngNmLst); }),
-        &AddWordButton({"DeleteBtn", "Delete", "Delete button, select a song and use this button to delete it",
-                        Plate::Word, kCoral, "WordDelete"},
+        &AddWordButton({"DeleteBtn", Words::Later("Delete"),
+                        Words::Later("Delete button, select a song and use this button to delete it"), Plate::Word,
+                        kCoral, "WordDelete"},
                        [this] { DeleteSelectedSong(*SngNmLst); }),
-        &AddWordButton({"RenameBtn", "Rename", "Rename button, select a song and use this button to change it's name",
+        &AddWordButton({"RenameBtn", Words::Later("Rename"),
+                        Words::Later("Rename button, select a song and use this button to change it's name"),
                         Plate::Word, kLink, "WordRename"},
                        [this] { RenameSelectedSong(*SngNmLst); }),
-        &AddWordButton({"HelpBtn", "Help", "", Plate::Word, kBerry, "WordHelp"}, [this] { ClickHelp(); })};
-    soundFileButtons = {&AddWordButton({"SavWavBtn", "Wav file", kSavWavHint, Plate::Word, kLink, "WordWave"},
-                                       [this] { SaveAsSound(SoundFileKind::Wav); }),
-                        &AddWordButton({"SavWmaBtn", "Wma file", kSavWmaHint, Plate::Word, kLink, "WordWma"},
-                                       [this] { SaveAsSound(SoundFileKind::Wma); })};
+        &AddWordButton({"HelpBtn", Words::Later("Help"), LaterWords(), Plate::Word, kBerry, "WordHelp"},
+                       [this] { ClickHelp(); })};
+    soundFileButtons = {
+        &AddWordButton({"SavWavBtn", Words::Later("Wav file"), kSavWavHint, Plate::Word, kLink, "WordWave"},
+                       [this] { SaveAsSound(SoundFileKind::Wav); }),
+        &AddWordButton({"SavWmaBtn", Words::Later("Wma file"), kSavWmaHint, Plate::Word, kLink, "WordWma"},
+                       [this] { SaveAsSound(SoundFileKind::Wma); })};
 }
 
 void SongSelFrm::InitilizeThisWindow(SongSelMode newMode)
@@ -110,24 +116,24 @@ void SongSelFrm::InitilizeThisWindow(SongSelMode newMode)
     SetCaption(layout.Caption);
     ModePic->setPixmap(
         Artwork(QString::fromLatin1(PictureOf(mode)), QSize(kModePicSide, kModePicSide), devicePixelRatioF()));
-    ListTitleLbl->setText(QtText(layout.ListTitle));
-    TextTitleLbl->setText(QtText(layout.TextTitle));
-    OkBtn->SetHint(QtText(layout.OkHint));
-    SngNmLst->setAccessibleDescription(QtText(layout.ListHint));
-    Watcher().Watch(*SngNmLst->viewport(), layout.ListHint.English());
+    SetText(*ListTitleLbl, layout.ListTitle);
+    SetText(*TextTitleLbl, layout.TextTitle);
+    OkBtn->SetHint(layout.OkHint);
+    SetSpokenDescription(*SngNmLst, layout.ListHint);
+    Watcher().Watch(*SngNmLst->viewport(), layout.ListHint);
     for (QWidget* widget : std::initializer_list<QWidget*>{TextTitleLbl, SongNmLbl, SongNameTxt})
         widget->setVisible(layout.HasNameBox);
     for (QWidget* button : soundFileButtons)
         button->setVisible(layout.HasSoundFiles);
     PlaceControls();
-    SngNmLst->SetNothingFound(layout.NothingFound.English());
+    SngNmLst->SetNothingFound(layout.NothingFound);
     SngNmLst->LoadSongNames();
     (layout.HasNameBox ? static_cast<QWidget*>(SongNameTxt) : SngNmLst)->setFocus();
 }
 
 void SongSelFrm::SetSongName(std::string_view name)
 {
-    SongNameTxt->setText(QtText(name));
+    SetContent(*SongNameTxt, name);
     SongNameTxt->selectAll();
 }
 
@@ -170,7 +176,7 @@ void SongSelFrm::PlaceControls()
 void SongSelFrm::TakeSelectedName()
 {
     if (const SongFile* const song = SngNmLst->SelectedSong())
-        SongNameTxt->setText(QtText(song->Name));
+        SetContent(*SongNameTxt, song->Name);
 }
 
 bool SongSelFrm::eventFilter(QObject* watched, QEvent* event)
@@ -185,13 +191,13 @@ bool SongSelFrm::eventFilter(QObject* watched, QEvent* event)
 
 void SongSelFrm::reject()
 {
-    Hint("");
+    Hint({});
     BandedForm::reject();
 }
 
 void SongSelFrm::ClickOk()
 {
-    Hint("");
+    Hint({});
     if (mode == SongSelMode::Open)
         OpenSelected();
     else
@@ -211,10 +217,10 @@ void SongSelFrm::AcceptTypedName()
     switch (DecideName(mode, name, SngNmLst->Songs())) {
     case NameDecision::AskForName:
         if (saving)
-            Hint("Type a name in song name text box");
+            Hint(Words::Text("Type a name in song name text box"));
         ShowMessage(Words::Text("Please enter a song name."));
         if (saving)
-            Hint("");
+            Hint({});
         break;
     case NameDecision::AskToOverwrite:
         if (!MayOverwrite(name))
@@ -228,10 +234,10 @@ void SongSelFrm::AcceptTypedName()
 bool SongSelFrm::MayOverwrite(std::string_view name)
 {
     if (mode == SongSelMode::Save)
-        Hint("Recommended to click 'No' and then save with another name");
+        Hint(Words::Text("Recommended to click 'No' and then save with another name"));
     const bool yes = AskYesNo(Words::Text("A song with this name already exists: %1", name),
                               Words::Text("Do you wish to overwrite?")) == 1;
-    Hint("");
+    Hint({});
     return yes;
 }
 

@@ -10,6 +10,7 @@
 #include "ui/ButtonScheme.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -18,13 +19,14 @@ namespace {
 constexpr QPoint kNoteInstrPlace{8, 57};
 constexpr QPoint kNotePianoPlace{8, 118};
 
-constexpr ButtonRow kChangeAllRow{"ChangeAllBtn", "Change All",
-                                  "Change All button, use it to choose one instrument for all steps", Plate::Word,
-                                  kDeepLeaf};
+constexpr ButtonRow kChangeAllRow{"ChangeAllBtn", Words::Later("Change All"),
+                                  Words::Later("Change All button, use it to choose one instrument for all steps"),
+                                  Plate::Word, kDeepLeaf};
 
-QLabel* MakeNote(const char* name, const char* text, QPoint place, QWidget* surface)
+QLabel* MakeNote(const char* name, const Words& text, QPoint place, QWidget* surface)
 {
-    auto* note = new QLabel(QCoreApplication::translate("StepEditor", text), surface);
+    auto* note = new QLabel(surface);
+    SetText(*note, text);
     note->setObjectName(QString::fromLatin1(name));
     note->setFont(HintFont());
     note->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -40,10 +42,10 @@ ChangeAllPart::ChangeAllPart(QWidget* surface) : QObject(surface)
     auto* buttons = new ButtonScheme(*surface, AllOffTimer::OffAtFirst);
     buttons->setParent(this);
     button = &buttons->AddButton(kChangeAllRow, [this] { Q_EMIT Clicked(); });
-    NoteInstrLbl = MakeNote("NoteInstrLbl", QT_TR_NOOP("Instruments: click on a picture to choose another"),
+    NoteInstrLbl = MakeNote("NoteInstrLbl", Words::Text("Instruments: click on a picture to choose another"),
                             kNoteInstrPlace, surface);
     NotePianoLbl =
-        MakeNote("NotePianoLbl", QT_TR_NOOP("Pianos: click on a key to change the pitch"), kNotePianoPlace, surface);
+        MakeNote("NotePianoLbl", Words::Text("Pianos: click on a key to change the pitch"), kNotePianoPlace, surface);
 }
 
 void ChangeAllPart::ShowTune(const Tune& tune, std::int32_t stepsLeft)

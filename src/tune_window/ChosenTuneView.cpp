@@ -4,33 +4,21 @@
 #include <QLabel>
 
 #include "tune_window/TunePicture.h"
-#include "ui/QtText.h"
-#include "ui/QtTip.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
-namespace {
-
-void SetFittingText(QLabel& label, const QString& text)
-{
-    label.setText(label.fontMetrics().elidedText(text, Qt::ElideRight, label.width()));
-    label.setToolTip(label.text() == text ? QString() : QtTip(text.toStdString()));
-    label.setAccessibleName(text);
-}
-
-} // namespace
-
-void ChosenTuneView::ShowTune(const std::string& name, const std::string& author, const Picture& picture) const
+void ChosenTuneView::ShowTune(const Words& name, const Words& author, const Picture& picture) const
 {
     ShowNames(name, author);
     TunePic->SetPicture(picture);
-    TunePic->setAccessibleName(QtText(name));
+    SetSpokenName(*TunePic, name);
 }
 
-void ChosenTuneView::ShowNames(const std::string& name, const std::string& author) const
+void ChosenTuneView::ShowNames(const Words& name, const Words& author) const
 {
-    SetFittingText(*TuneNameLbl, QtText(name));
-    SetFittingText(*CreatedByLbl, QtText(author));
+    SetFittingText(*TuneNameLbl, name);
+    SetFittingText(*CreatedByLbl, author);
 }
 
 } // namespace sprout

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Picture.h"
+#include "base/Words.h"
 
 class QLabel;
 
@@ -18,11 +19,11 @@ struct ChosenTuneView {
     QLabel* CreatedByLbl = nullptr;
 
     /// The picture is also called by the name.
-    void ShowTune(const std::string& name, const std::string& author, const Picture& picture) const;
+    void ShowTune(const Words& name, const Words& author, const Picture& picture) const;
 
     /// Shows names beside the picture that is there. The end of a name that does not fit is cut off; its tool tip shows
     /// all of it.
-    void ShowNames(const std::string& name, const std::string& author) const;
+    void ShowNames(const Words& name, const Words& author) const;
 };
 
 } // namespace sprout

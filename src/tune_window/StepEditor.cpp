@@ -19,8 +19,7 @@
 #include "ui/Artwork.h"
 #include "ui/Guarded.h"
 #include "ui/Hints.h"
-#include "ui/QtText.h"
-#include "ui/QtTip.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -69,7 +68,7 @@ QSize StepEditor::sizeHint() const
 void StepEditor::MakeTunFramPic()
 {
     surface = new TunFramPic(this);
-    surface->setAccessibleName(tr("Steps of the tune"));
+    SetSpokenName(*surface, Words::Text("Steps of the tune"));
     pianoCursor = QCursor(Artwork(QStringLiteral("pictures/PianoCursorImg"), kPianoCursorSize, devicePixelRatioF()),
                           kPianoCursorTip.x(), kPianoCursorTip.y());
     connect(surface, &TunFramPic::Pressed, this,
@@ -139,7 +138,7 @@ void StepEditor::DrawTuneSteps()
 {
     const Tune& tune = Shared().CurrentTune;
     const std::int32_t stepsLeft = TunFramHScroll->StepsLeft();
-    surface->setToolTip(QString());
+    SetToolTip(*surface, {});
     surface->DrawTuneSteps(tune, stepsLeft);
     if (!DummyDuration->IsDragged())
         DummyDuration->hide();
@@ -205,9 +204,8 @@ void StepEditor::MoveOnSurface(QPoint place, Qt::MouseButtons held)
 
 void StepEditor::ShowPointer(const StepPointer& pointer)
 {
-    ShowHint(QtText(pointer.hint));
-    surface->setToolTip(
-        QtTip(pointer.beat.empty() ? std::string(pointer.toolTip) : beatNames.NameForPeople(pointer.beat)));
+    ShowHint(pointer.hint);
+    SetToolTip(*surface, pointer.beat.empty() ? pointer.toolTip : Words::AsIs(beatNames.NameForPeople(pointer.beat)));
     if (pointer.cursor == StepCursor::PianoCursorImg)
         surface->setCursor(pianoCursor);
     else

@@ -8,7 +8,7 @@
 #include "tune_window/rules/StepLayout.h"
 #include "tune_window/rules/StepPointer.h"
 #include "ui/Palette.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -28,10 +28,13 @@ StepFocus::StepFocus(std::int32_t step, QWidget* surface) : QAbstractButton(surf
     setAttribute(Qt::WA_TransparentForMouseEvents);
     SetTabStop(false);
     setCheckable(true);
-    setAccessibleDescription(
-        tr("Left and right walk the steps. The space bar switches the step on or off, up and down change its pitch, "
-           "Shift with left or right its length, Enter chooses its instrument. P plays the step, B its instrument. The "
-           "menu key has more."));
+    SetSpokenDescription(
+        *this,
+        Words::Text(
+            "Left and right walk the steps. The space bar switches the step on or off, up and down change its pitch, "
+            "Shift with left or right its length, Enter chooses its instrument. P plays the step, B its instrument. "
+            "The "
+            "menu key has more."));
 }
 
 void StepFocus::ShowStep(const TuneStep& step, std::string_view beat, std::int32_t stepsLeft)
@@ -39,9 +42,7 @@ void StepFocus::ShowStep(const TuneStep& step, std::string_view beat, std::int32
     setGeometry(StepLeft(number, stepsLeft) - kRingBeside, kRingTop, kStepHitWidth + 2 * kRingBeside,
                 kRingBottom - kRingTop);
     setChecked(step.IsOn());
-    const QString words = QtText(StepInWords(step, number, beat));
-    if (accessibleName() != words)
-        setAccessibleName(words);
+    SetSpokenName(*this, StepInWords(step, number, beat));
 }
 
 void StepFocus::paintEvent(QPaintEvent* /*event*/)

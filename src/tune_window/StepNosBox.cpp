@@ -12,6 +12,7 @@
 #include "ui/Dialogs.h"
 #include "ui/Guarded.h"
 #include "ui/PopupKeys.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -19,14 +20,17 @@ namespace {
 
 /// The step counts to pick from; -1 asks for another number.
 struct StepNosRow {
-    const char* caption;
+    LaterWords caption;
     std::int32_t steps;
 };
 
 constexpr std::int32_t kOtherSteps = -1;
 constexpr std::array kStepNos{
-    StepNosRow{"8 Steps", 8},   StepNosRow{"16 Steps", 16},           StepNosRow{"32 Steps", 32},
-    StepNosRow{"64 Steps", 64}, StepNosRow{"Other...!", kOtherSteps},
+    StepNosRow{Words::Later("8 Steps"), 8},
+    StepNosRow{Words::Later("16 Steps"), 16},
+    StepNosRow{Words::Later("32 Steps"), 32},
+    StepNosRow{Words::Later("64 Steps"), 64},
+    StepNosRow{Words::Later("Other...!"), kOtherSteps},
 };
 
 } // namespace
@@ -35,10 +39,10 @@ StepNosBox::StepNosBox(QWidget* parent) : QComboBox(parent)
 {
     KeepClosingKeys(*this); // closing its list must not close the window
     setObjectName(QStringLiteral("StepNosCmb"));
-    setAccessibleName(tr("Number of steps"));
+    SetSpokenName(*this, Words::Text("Number of steps"));
     for (const StepNosRow& row : kStepNos)
-        addItem(tr(row.caption), row.steps);
-    hints.Watch(*this, "Number of steps, use it to make the tune longer or shorter");
+        AddItem(*this, row.caption, row.steps);
+    hints.Watch(*this, Words::Text("Number of steps, use it to make the tune longer or shorter"));
     connect(this, &QComboBox::activated, this, [this](int index) { Guarded([&] { ClickStepNos(index); }); });
 }
 
@@ -48,7 +52,7 @@ void StepNosBox::SyncStepCombo()
         removeItem(0);
     const std::int32_t steps = Shared().CurrentTune.StepCount;
     if (findData(steps) < 0)
-        insertItem(0, tr("%1 Steps").arg(steps), steps);
+        InsertItem(*this, 0, Words::Text("%1 Steps", steps), steps);
     setCurrentIndex(findData(steps));
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/StepPopMenu.h"
 
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -18,10 +18,10 @@ StepPopMenu::StepPopMenu(QWidget* parent) : QMenu(parent)
 {
     setObjectName(QStringLiteral("StepPopMnu"));
     for (const StepMenuRow& row : kStepMenu) {
-        if (row.caption.empty())
+        if (row.caption.IsEmpty())
             addSeparator();
         else
-            addAction(QtText(row.caption))->setData(static_cast<int>(row.item));
+            AddItem(*this, row.caption)->setData(static_cast<int>(row.item));
     }
 }
 

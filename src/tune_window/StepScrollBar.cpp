@@ -1,15 +1,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/StepScrollBar.h"
 
+#include "ui/Texts.h"
+
 namespace sprout {
 
 StepScrollBar::StepScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent)
 {
     setObjectName(QStringLiteral("TunFramHScroll"));
-    setAccessibleName(tr("Scroll the steps"));
+    SetSpokenName(*this, Words::Text("Scroll the steps"));
     setMinimum(1);
     setSingleStep(kStepPitch);
-    hints.Watch(*this, "Slide this to see the other steps");
+    hints.Watch(*this, Words::Text("Slide this to see the other steps"));
     connect(this, &QScrollBar::valueChanged, this, [this](int position) {
         if (ScrollGuard2)
             return;

@@ -16,6 +16,7 @@
 #include "ui/Guarded.h"
 #include "ui/Look.h"
 #include "ui/PutAt.h"
+#include "ui/Texts.h"
 #include "ui/rules/PictureGrid.h"
 
 namespace sprout {
@@ -43,8 +44,8 @@ TuneChooser::TuneChooser(QWidget* window) : QObject(window)
 void TuneChooser::MakeGrid(QWidget* window)
 {
     grid = new TuneGrid(window);
-    hints.Watch(*grid, "Click on a picture to choose a tune");
-    hints.Watch(grid->BlinkSelectImg(), "This is the chosen Tune. Click on it to play");
+    hints.Watch(*grid, Words::Text("Click on a picture to choose a tune"));
+    hints.Watch(grid->BlinkSelectImg(), Words::Text("This is the chosen Tune. Click on it to play"));
     connect(grid, &PictureGridPic::Pressed, this, [this](int index, Qt::MouseButton button, QPoint at) {
         Guarded([=, this] { ChooseTune(index, button, at); });
     });
@@ -56,12 +57,12 @@ void TuneChooser::MakeChosenTune(QWidget* window)
 {
     shown.TunePic = new TunePicture(window);
     shown.TunePic->setObjectName(QStringLiteral("TunePic"));
-    hints.Watch(*shown.TunePic, "That shows the selected tune");
+    hints.Watch(*shown.TunePic, Words::Text("That shows the selected tune"));
     connect(shown.TunePic, &QAbstractButton::clicked, this, [this] { Guarded([this] { ClickTunePic(); }); });
     shown.TuneNameLbl = MakeTuneLabel("TuneNameLbl", TitleFont(), window);
-    hints.Watch(*shown.TuneNameLbl, "That shows the name of the selected tune");
+    hints.Watch(*shown.TuneNameLbl, Words::Text("That shows the name of the selected tune"));
     shown.CreatedByLbl = MakeTuneLabel("CreatedByLbl", LabelFont(), window);
-    hints.Watch(*shown.CreatedByLbl, "That shows who created the selected tune");
+    hints.Watch(*shown.CreatedByLbl, Words::Text("That shows who created the selected tune"));
 }
 
 void TuneChooser::MakeMoveMnu(QWidget* window)
@@ -73,12 +74,11 @@ void TuneChooser::MakeMoveMnu(QWidget* window)
     for (QAction* const item : PopPosiMnu->actions())
         item->setObjectName(QStringLiteral("MoveMnu%1").arg(number++));
     PopPosiMnu->addSeparator();
-    QAction* const deletion = PopPosiMnu->addAction(QStringLiteral("Delete"));
+    QAction* const deletion = AddItem(*PopPosiMnu, Words::Text("Delete"));
     deletion->setObjectName(QStringLiteral("MoveMnu%1").arg(number));
     connect(deletion, &QAction::triggered, this, [this] { Guarded([this] { DeleteTune(); }); });
-    connect(PopPosiMnu, &QMenu::hovered, this, [deletion](const QAction* item) {
-        ShowHint(item == deletion ? QString::fromLatin1(kDeleteTuneHint) : QString());
-    });
+    connect(PopPosiMnu, &QMenu::hovered, this,
+            [deletion](const QAction* item) { ShowHint(item == deletion ? kDeleteTuneHint : LaterWords()); });
 }
 
 void TuneChooser::PlaceAt(const TuneWindowPlan& plan)
@@ -105,20 +105,20 @@ void TuneChooser::RefreshShowAllPic()
 {
     if (Shared().TuneTableCount < 1) {
         grid->ShowNoTunes();
-        return shown.ShowTune("[none]", "", {});
+        return shown.ShowTune(Words::Text("[none]"), {}, {});
     }
     choice.ChooseFirstIfOpen();
     grid->ShowSelection(choice.SelectedTune());
     if (choice.ShowsEditorsTune())
         return ShowEditorsTune();
     const Tune& tune = At(Shared().TuneTable, choice.SelectedTune());
-    shown.ShowTune(tune.Name, "By: " + tune.CreatedBy, tune.Picture);
+    shown.ShowTune(Words::AsIs(tune.Name), Words::Text("By: %1", tune.CreatedBy), tune.Picture);
 }
 
 void TuneChooser::ShowEditorsTune()
 {
     const Tune& tune = Shared().CurrentTune;
-    shown.ShowTune(tune.Name, tune.CreatedBy, tune.Picture);
+    shown.ShowTune(Words::AsIs(tune.Name), Words::AsIs(tune.CreatedBy), tune.Picture);
 }
 
 void TuneChooser::ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at)
@@ -142,7 +142,7 @@ void TuneChooser::ClickTunePic()
         return Q_EMIT EditorsTunePlayWanted();
     if (choice.HasTune())
         return choice.Play();
-    ShowHint(QStringLiteral("Click on a picture to select a tune"));
+    ShowHint(Words::Text("Click on a picture to select a tune"));
     ShowMessage(Words::Text("Select a Tune first."));
     ShowHint({});
 }
@@ -181,7 +181,7 @@ void TuneChooser::ReadTunesAgain()
 
 void TuneChooser::ShowSavedTune()
 {
-    shown.ShowNames(Shared().CurrentTune.Name, Shared().CurrentTune.CreatedBy);
+    shown.ShowNames(Words::AsIs(Shared().CurrentTune.Name), Words::AsIs(Shared().CurrentTune.CreatedBy));
     ReadTunesAgain();
     // The last one, wherever the saved tune is.
     choice.TakeEditorsTune(Shared().TuneTableCount);

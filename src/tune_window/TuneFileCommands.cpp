@@ -81,24 +81,24 @@ void SaveCurrentTune(const TuneNames& names)
 bool MayDeleteTune(const Tune* tune)
 {
     if (!tune) {
-        ShowHint(QStringLiteral("Click on a picture to select a Tune"));
+        ShowHint(Words::Text("Click on a picture to select a Tune"));
         ShowMessage(Words::Text("Select a Tune and try this."));
         return false;
     }
     if (IsOriginalTune(*tune) && !Shared().AllowEditOriginal) {
-        ShowHint(QStringLiteral("Blue bordered are originals, red bordered are your new tunes"));
+        ShowHint(Words::Text("Blue bordered are originals, red bordered are your new tunes"));
         ShowMessage(Words::Text("This is an original Tune from %1.", kProductFamily),
                     Words::Text("This tune can not be deleted."));
         return false;
     }
-    ShowHint(QStringLiteral("Click Yes to delete, No to keep"));
+    ShowHint(Words::Text("Click Yes to delete, No to keep"));
     return AskYesNo(Words::Text("Are you sure to delete this Tune?"), Words::Text("Tune name: %1", tune->Name),
                     Words::Text(" Confirm Delete Tune")) == 1;
 }
 
 void ChooseTunePicture(const std::function<void(const Picture&)>& take)
 {
-    ShowHint(QStringLiteral("Choose a small (32x32) bmp picture file"));
+    ShowHint(Words::Text("Choose a small (32x32) bmp picture file"));
     FileQuestion question;
     question.Title = Words::Text("Please select a picture file (32x32) to use");
     question.Folder = GetSetting(kGeneralSection, kPictureFolderSetting, PathText(Shared().InstallStars));

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "base/Picture.h"
+#include "base/Words.h"
 #include "core/Song.h"
 #include "tunes/TuneNames.h"
 
@@ -13,7 +14,7 @@ class QWidget;
 namespace sprout {
 
 /// For the button and the item of the menu that delete a tune.
-inline constexpr const char* kDeleteTuneHint = "This button will delete the selected tune";
+inline constexpr LaterWords kDeleteTuneHint = Words::Later("This button will delete the selected tune");
 
 // What the tune window asks before it saves or deletes a tune or takes another picture, and the saving itself.
 

@@ -60,16 +60,26 @@ void TuneFrm2::MakeButtons()
         AddWordButton(row, [this, command] { Guarded([this, command] { (this->*command)(); }); });
     };
     // Enter presses the first one.
-    add({"OkBtn", "OK", "Click Ok after choosing and/or editing a tune", Plate::Word, kDeepLeaf}, &TuneFrm2::OkBtn);
-    add({"TestPlayBtn", "Play", "Play button, use it to hear this tune"}, &TuneFrm2::TestPlayBtn);
-    add({"RndTuneBtn", "Random tune", "Random button, use it to make up a surprise tune"}, &TuneFrm2::RndTuneBtn);
-    add({"NewTuneBtn", "New tune", "New button, use it to start making your own new tune"}, &TuneFrm2::NewTuneBtn);
-    add({"ChangePicBtn", "Change picture", "Picture button, use it to choose a picture for this tune"},
+    add({"OkBtn", Words::Later("OK"), Words::Later("Click Ok after choosing and/or editing a tune"), Plate::Word,
+         kDeepLeaf},
+        &TuneFrm2::OkBtn);
+    add({"TestPlayBtn", Words::Later("Play"), Words::Later("Play button, use it to hear this tune")},
+        &TuneFrm2::TestPlayBtn);
+    add({"RndTuneBtn", Words::Later("Random tune"), Words::Later("Random button, use it to make up a surprise tune")},
+        &TuneFrm2::RndTuneBtn);
+    add({"NewTuneBtn", Words::Later("New tune"), Words::Later("New button, use it to start making your own new tune")},
+        &TuneFrm2::NewTuneBtn);
+    add({"ChangePicBtn", Words::Later("Change picture"),
+         Words::Later("Picture button, use it to choose a picture for this tune")},
         &TuneFrm2::ChangePicBtn);
-    add({"SaveTuneBtn", "Save tune", "Save button, use it to keep this tune among your tunes"}, &TuneFrm2::SaveTuneBtn);
-    add({"DeleteTuneBtn", "Delete tune", kDeleteTuneHint, Plate::Tool, {}, "TrackDeleteBtn"}, &TuneFrm2::DeleteTuneBtn);
-    add({"HelpBtn", "Help", "Help button, use it to see help"}, &TuneFrm2::HelpBtn);
-    add({"CancelBtn", "Cancel", "Cancel button, use it to leave the track's tune as it was", Plate::Word, kStone},
+    add({"SaveTuneBtn", Words::Later("Save tune"),
+         Words::Later("Save button, use it to keep this tune among your tunes")},
+        &TuneFrm2::SaveTuneBtn);
+    add({"DeleteTuneBtn", Words::Later("Delete tune"), kDeleteTuneHint, Plate::Tool, {}, "TrackDeleteBtn"},
+        &TuneFrm2::DeleteTuneBtn);
+    add({"HelpBtn", Words::Later("Help"), Words::Later("Help button, use it to see help")}, &TuneFrm2::HelpBtn);
+    add({"CancelBtn", Words::Later("Cancel"), Words::Later("Cancel button, use it to leave the track's tune as it was"),
+         Plate::Word, kStone},
         &TuneFrm2::CancelBtn);
 }
 
@@ -186,7 +196,7 @@ void TuneFrm2::NewTuneBtn()
     RefreshShowAllPic();
     if (OkPressed && TuneChanged)
         MergeTuneBeats(Shared().Song, tune);
-    ShowHint(QStringLiteral("Click a lamp to switch a step on"));
+    ShowHint(Words::Text("Click a lamp to switch a step on"));
 }
 
 void TuneFrm2::RndTuneBtn()

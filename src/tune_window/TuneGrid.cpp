@@ -7,14 +7,14 @@
 #include "core/Shared.h"
 #include "tune_window/rules/TuneWindowPlan.h"
 #include "tunes/TunOpnSavClass.h"
-#include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
 TuneGrid::TuneGrid(QWidget* parent) : PictureGridPic(kTuneColumns, parent)
 {
     setObjectName(QStringLiteral("ShowAllPic"));
-    setAccessibleName(tr("Tunes"));
+    SetSpokenName(*this, Words::Text("Tunes"));
 }
 
 void TuneGrid::TakeTuneTable()
@@ -36,10 +36,10 @@ void TuneGrid::ShowSelection(std::int32_t tune)
 
 void TuneGrid::ShowNoTunes()
 {
-    SetLines({QStringLiteral(" No Tune file found to show here."), QStringLiteral(" Tunes folder: "),
-              QtText(PathText(Shared().UserTunes)),
-              QStringLiteral(" This needs tune '.TqTun' file & 32x32 picture '.bmp' file as pair."),
-              QStringLiteral(" Please reinstall the software.")});
+    SetLines({Words::Text(" No Tune file found to show here."), Words::Text(" Tunes folder: "),
+              Words::AsIs(PathText(Shared().UserTunes)),
+              Words::Text(" This needs tune '.TqTun' file & 32x32 picture '.bmp' file as pair."),
+              Words::Text(" Please reinstall the software.")});
     ShowSelection(0);
 }
 

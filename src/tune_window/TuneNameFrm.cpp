@@ -6,6 +6,7 @@
 #include "ui/MessageForms.h"
 #include "ui/Palette.h"
 #include "ui/QtText.h"
+#include "ui/Texts.h"
 
 namespace sprout {
 
@@ -21,28 +22,28 @@ TuneNameFrm::TuneNameFrm(QWidget* parent, const TuneNames& names) : BandedForm(p
 {
     setObjectName(QStringLiteral("TuneNameFrm"));
     SetCaption(Words::Text(" Save Tune"));
-    NameTxt = &AddBox("Label1", "Tune name", "NameTxt", names.Name, 8);
-    CreatedTxt = &AddBox("Label2", "Created By", "CreatedTxt", names.CreatedBy, 74);
-    Watcher().Watch(*NameTxt, "Type the name of this Tune here");
-    Watcher().Watch(*CreatedTxt, "You can type your name here");
+    NameTxt = &AddBox("Label1", Words::Text("Tune name"), "NameTxt", names.Name, 8);
+    CreatedTxt = &AddBox("Label2", Words::Text("Created By"), "CreatedTxt", names.CreatedBy, 74);
+    Watcher().Watch(*NameTxt, Words::Text("Type the name of this Tune here"));
+    Watcher().Watch(*CreatedTxt, Words::Text("You can type your name here"));
     ForbidCharacters(*NameTxt, QStringLiteral("./\\:*?<>|\""));
-    AddWordButton({"OkBtn", "OK", "", Plate::Word, kDeepLeaf}, [this] { ClickOk(); });
-    AddAnswer({"CancelBtn", "Cancel", "", Plate::Word, kStone}, 0);
+    AddWordButton({"OkBtn", Words::Later("OK"), LaterWords(), Plate::Word, kDeepLeaf}, [this] { ClickOk(); });
+    AddAnswer({"CancelBtn", Words::Later("Cancel"), LaterWords(), Plate::Word, kStone}, 0);
     PlaceButtons(kNameFormWidth, 148);
     NameTxt->selectAll();
     NameTxt->setFocus();
 }
 
-QLineEdit& TuneNameFrm::AddBox(const char* labelName, const char* labelText, const char* boxName, std::string_view text,
-                               int top)
+QLineEdit& TuneNameFrm::AddBox(const char* labelName, const Words& labelText, const char* boxName,
+                               std::string_view text, int top)
 {
     constexpr int width = kNameFormWidth - 2 * kNameFormMargin;
     QLabel& label = AddLabel(labelName);
-    label.setText(QString::fromUtf8(labelText));
+    SetText(label, labelText);
     label.setGeometry({BodyPoint(kNameFormMargin, top), QSize(width, 25)});
     auto* box = new QLineEdit(QtText(text), this);
     box->setObjectName(QString::fromLatin1(boxName));
-    box->setAccessibleName(label.text());
+    SetSpokenNameOf(*box, label);
     box->setGeometry({BodyPoint(kNameFormMargin, top + 26), QSize(width, kNameBoxHeight)});
     return *box;
 }

@@ -3,6 +3,7 @@
 
 #include <QLineEdit>
 
+#include "base/Words.h"
 #include "tunes/TuneNames.h"
 #include "ui/BandedForm.h"
 
@@ -22,7 +23,7 @@ public:
     [[nodiscard]] TuneNames Names() const;
 
 private:
-    QLineEdit& AddBox(const char* labelName, const char* label, const char* boxName, std::string_view text, int top);
+    QLineEdit& AddBox(const char* labelName, const Words& label, const char* boxName, std::string_view text, int top);
     void ClickOk();
 
     QLineEdit* NameTxt;

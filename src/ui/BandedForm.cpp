@@ -38,10 +38,11 @@ BandedForm::BandedForm(QWidget* parent)
     captionLbl->setTextFormat(Qt::PlainText);
     captionLbl->setStyleSheet(QStringLiteral("color: #FFF8E7"));
     captionLbl->setAttribute(Qt::WA_TransparentForMouseEvents);
-    closeBox = &scheme.AddButton({"CloseImgBtn", "Close", "Close button", Plate::Title}, [this] { reject(); });
+    closeBox = &scheme.AddButton({"CloseImgBtn", Words::Later("Close"), Words::Later("Close button"), Plate::Title},
+                                 [this] { reject(); });
     closeBox->setFocusPolicy(Qt::NoFocus);
     closeBox->resize(kCloseBoxSide, kCloseBoxSide);
-    watcher.Watch(*this, "");
+    watcher.Watch(*this, {});
 }
 
 void BandedForm::SetCaption(const Words& caption)
@@ -110,7 +111,7 @@ QLabel& BandedForm::AddLabel(const char* name)
     label->setObjectName(QString::fromLatin1(name));
     label->setFont(LabelFont());
     label->setTextFormat(Qt::PlainText);
-    watcher.Watch(*label, "");
+    watcher.Watch(*label, {});
     return *label;
 }
 

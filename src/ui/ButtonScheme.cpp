@@ -58,7 +58,7 @@ void ButtonScheme::InitButtons()
 void ButtonScheme::ButtonHover(const ImageButton& button)
 {
     if (MouseMovedSinceHint())
-        ShowHint(button.Hint());
+        ShowHintOf(button);
     if (states.ButtonDown())
         return;
     states.ButtonHover(button.Number());

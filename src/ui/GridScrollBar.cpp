@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/GridScrollBar.h"
 
-#include <QCoreApplication>
 #include <QScopedValueRollback>
 
 #include <algorithm>
+
+#include "ui/Texts.h"
 
 namespace sprout {
 
 GridScrollBar::GridScrollBar(QWidget* parent) : QScrollBar(Qt::Vertical, parent)
 {
     setObjectName(QStringLiteral("VScroll1"));
-    setAccessibleName(QCoreApplication::translate("PictureGridPic", "Scroll the pictures"));
+    SetSpokenName(*this, Words::Text("Scroll the pictures"));
     setMinimum(1);
     connect(this, &QScrollBar::valueChanged, this, [this](int row) {
         if (!isFitting)

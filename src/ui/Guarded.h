@@ -5,6 +5,7 @@
 
 #include "base/Errors.h"
 #include "base/Guarded.h"
+#include "base/Words.h"
 #include "service/Messages.h"
 #include "service/Services.h"
 

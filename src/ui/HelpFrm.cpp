@@ -32,20 +32,20 @@ constexpr int kButtonRowHeight = 44;
 
 struct HelpPage {
     const char* file;
-    const char* title;
+    LaterWords title;
     const char* picture;
 };
 
 constexpr std::array kHelpPages{
-    HelpPage{"welcome", "Welcome", "pictures/Sprout"},
-    HelpPage{"painting", "Painting", "buttons/BrushBtn"},
-    HelpPage{"playing", "Playing", "buttons/PlayAllBtn"},
-    HelpPage{"tracks", "Tracks and tunes", "buttons/TrackAddBtn"},
-    HelpPage{"recording", "Recording", "buttons/TrackAddRecBtn"},
-    HelpPage{"editor", "Changing a sound", "buttons/TrackAudioBtn"},
-    HelpPage{"songs", "Your songs", "buttons/SaveBtn"},
-    HelpPage{"sharing", "Taking songs home", "buttons/EmailBtn"},
-    HelpPage{"keys", "Keys", "pictures/HelpKeys"},
+    HelpPage{"welcome", Words::Later("Welcome"), "pictures/Sprout"},
+    HelpPage{"painting", Words::Later("Painting"), "buttons/BrushBtn"},
+    HelpPage{"playing", Words::Later("Playing"), "buttons/PlayAllBtn"},
+    HelpPage{"tracks", Words::Later("Tracks and tunes"), "buttons/TrackAddBtn"},
+    HelpPage{"recording", Words::Later("Recording"), "buttons/TrackAddRecBtn"},
+    HelpPage{"editor", Words::Later("Changing a sound"), "buttons/TrackAudioBtn"},
+    HelpPage{"songs", Words::Later("Your songs"), "buttons/SaveBtn"},
+    HelpPage{"sharing", Words::Later("Taking songs home"), "buttons/EmailBtn"},
+    HelpPage{"keys", Words::Later("Keys"), "pictures/HelpKeys"},
 };
 
 QUrl PageUrl(const HelpPage& page)
@@ -113,27 +113,27 @@ HelpFrm::HelpFrm()
 void HelpFrm::MakePages()
 {
     PagesLst->setObjectName(QStringLiteral("PagesLst"));
-    PagesLst->setAccessibleName(tr("Pages"));
+    PagesLst->setAccessibleName(QtText(Words::Text("Pages")));
     PagesLst->setFont(LabelFont());
     PagesLst->setIconSize({kPageIconSide, kPageIconSide});
     PagesLst->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     for (const HelpPage& page : kHelpPages)
-        new QListWidgetItem(PageIcon(page), tr(page.title), PagesLst);
+        new QListWidgetItem(PageIcon(page), QtText(Words(page.title)), PagesLst);
     connect(PagesLst, &QListWidget::currentRowChanged, this, &HelpFrm::ShowPage);
 }
 
 void HelpFrm::MakeBook()
 {
     BookTxt->setObjectName(QStringLiteral("BookTxt"));
-    BookTxt->setAccessibleName(tr("Help page"));
+    BookTxt->setAccessibleName(QtText(Words::Text("Help page")));
     connect(BookTxt, &QTextBrowser::sourceChanged, this, &HelpFrm::MarkPage);
 }
 
 void HelpFrm::MakeButtons()
 {
-    BackBtn =
-        &AddWordButton({"BackBtn", "Back", "", Plate::Word, kDeepLeaf, "WordBack"}, [this] { BookTxt->backward(); });
-    AddWordButton({"CloseBtn", "Close", "", Plate::Word, kStone}, [this] { reject(); });
+    BackBtn = &AddWordButton({"BackBtn", Words::Later("Back"), LaterWords(), Plate::Word, kDeepLeaf, "WordBack"},
+                             [this] { BookTxt->backward(); });
+    AddWordButton({"CloseBtn", Words::Later("Close"), LaterWords(), Plate::Word, kStone}, [this] { reject(); });
     BackBtn->setEnabled(false);
     connect(BookTxt, &QTextBrowser::backwardAvailable, BackBtn, &QWidget::setEnabled);
 }

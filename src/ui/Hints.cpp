@@ -17,42 +17,43 @@ namespace sprout {
 
 namespace {
 
-constexpr std::string_view kTitleHint = "Song name, use the 'Change button' to change it";
-constexpr std::string_view kCreatorHint = "Song created by.., use the 'Change button' to enter your name there";
+constexpr LaterWords kTitleHint = Words::Later("Song name, use the 'Change button' to change it");
+constexpr LaterWords kCreatorHint = Words::Later("Song created by.., use the 'Change button' to enter your name there");
 
 constexpr std::array kMainWindowHints{
-    HintRow{"AboutBtn", "About button, use it to read about Tonquill"},
-    HintRow{"BrushBtn", "Paint brush button, use this to choose paint brush for painting the tracks"},
-    HintRow{"CloseImgBtn", "Close button"},
-    HintRow{"EmailBtn", "Email Song button, use it to send this song to your friend by email"},
-    HintRow{"EraserBtn", "Eraser button, use this to choose eraser for painting the tracks"},
-    HintRow{"HelpBtn", "Help button, use it to see help"},
-    HintRow{"MaximizeImgBtn", "Maximize button"},
-    HintRow{"MinimizeImgBtn", "Minimize button"},
-    HintRow{"NewBtn", "New button, use it to start making your own new song"},
-    HintRow{"OpenBtn", "Open button, use it to open an existing song"},
-    HintRow{"PlayAllBtn", "Play all button, use it to play the full song (all tracks)"},
-    HintRow{"PlayStopBtn", "Stop play button, use it to stop any playing sound"},
-    HintRow{"PlayToolBtn", "Play Tool button, choose this button and click on track to play from there"},
-    HintRow{"RestoreImgBtn", "Restore button"},
-    HintRow{"SaveBtn", "Save button, use it to save the song you made"},
+    HintRow{"AboutBtn", Words::Later("About button, use it to read about Tonquill")},
+    HintRow{"BrushBtn", Words::Later("Paint brush button, use this to choose paint brush for painting the tracks")},
+    HintRow{"CloseImgBtn", Words::Later("Close button")},
+    HintRow{"EmailBtn", Words::Later("Email Song button, use it to send this song to your friend by email")},
+    HintRow{"EraserBtn", Words::Later("Eraser button, use this to choose eraser for painting the tracks")},
+    HintRow{"HelpBtn", Words::Later("Help button, use it to see help")},
+    HintRow{"MaximizeImgBtn", Words::Later("Maximize button")},
+    HintRow{"MinimizeImgBtn", Words::Later("Minimize button")},
+    HintRow{"NewBtn", Words::Later("New button, use it to start making your own new song")},
+    HintRow{"OpenBtn", Words::Later("Open button, use it to open an existing song")},
+    HintRow{"PlayAllBtn", Words::Later("Play all button, use it to play the full song (all tracks)")},
+    HintRow{"PlayStopBtn", Words::Later("Stop play button, use it to stop any playing sound")},
+    HintRow{"PlayToolBtn", Words::Later("Play Tool button, choose this button and click on track to play from there")},
+    HintRow{"RestoreImgBtn", Words::Later("Restore button")},
+    HintRow{"SaveBtn", Words::Later("Save button, use it to save the song you made")},
     HintRow{"SngCreateLbl", kCreatorHint},
     HintRow{"SngCreate2Lbl", kCreatorHint},
-    HintRow{"SngDurLbl", "Song duration in seconds"},
+    HintRow{"SngDurLbl", Words::Later("Song duration in seconds")},
     HintRow{"SngTitleLbl", kTitleHint},
     HintRow{"SngTitle2Lbl", kTitleHint},
-    HintRow{"SongTitleChgBtn", "Change button, use it to change 'Song name' and 'Created by'"},
+    HintRow{"SongTitleChgBtn", Words::Later("Change button, use it to change 'Song name' and 'Created by'")},
     HintRow{"StatusFramePic", kStatusFrameHint},
-    HintRow{"TempoLbl", "Tempo percentage, use the tempo slider to change"},
-    HintRow{"TempoPrtImg", "Slide this pointer to adjust tempo"},
-    HintRow{"TempoSliderImg", "Tempo slider, use it to change the speed of the song"},
-    HintRow{"TrackAddBtn", "Add Music track button. Use it to add a new music track"},
-    HintRow{"TrackAddRecBtn", "Add Audio track button. Use it to record your voice sound or choose a wav file to add "
-                              "as an audio track"},
-    HintRow{"TrackAudioBtn", "Recorded button, Click to edit your recording on this track"},
-    HintRow{"TrackDeleteBtn", "Delete button, Click to delete this track"},
-    HintRow{"TrackPlayBtn", "Track play button, use it to test play this track"},
-    HintRow{"TrackTuneBtn", "Tune button, Click to choose a tune, keep mouse over it to play"},
+    HintRow{"TempoLbl", Words::Later("Tempo percentage, use the tempo slider to change")},
+    HintRow{"TempoPrtImg", Words::Later("Slide this pointer to adjust tempo")},
+    HintRow{"TempoSliderImg", Words::Later("Tempo slider, use it to change the speed of the song")},
+    HintRow{"TrackAddBtn", Words::Later("Add Music track button. Use it to add a new music track")},
+    HintRow{"TrackAddRecBtn",
+            Words::Later("Add Audio track button. Use it to record your voice sound or choose a wav file to add "
+                         "as an audio track")},
+    HintRow{"TrackAudioBtn", Words::Later("Recorded button, Click to edit your recording on this track")},
+    HintRow{"TrackDeleteBtn", Words::Later("Delete button, Click to delete this track")},
+    HintRow{"TrackPlayBtn", Words::Later("Track play button, use it to test play this track")},
+    HintRow{"TrackTuneBtn", Words::Later("Tune button, Click to choose a tune, keep mouse over it to play")},
 };
 
 /// Qt passes an ignored move event on to the parent widget, which must not treat it as its own.
@@ -92,11 +93,11 @@ std::optional<QPoint>& HintPoint()
 
 } // namespace
 
-std::string_view MainWindowHint(std::string_view name)
+LaterWords MainWindowHint(std::string_view name)
 {
     const auto* row = std::find_if(kMainWindowHints.begin(), kMainWindowHints.end(),
                                    [name](const HintRow& candidate) { return candidate.name == name; });
-    return row == kMainWindowHints.end() ? std::string_view() : row->hint;
+    return row == kMainWindowHints.end() ? LaterWords() : row->hint;
 }
 
 void SetStatusLbl(QLabel* label)
@@ -105,7 +106,9 @@ void SetStatusLbl(QLabel* label)
     HintPoint().reset();
 }
 
-void ShowHint(const QString& text)
+namespace {
+
+void ShowHintText(const QString& text)
 {
     if (StatusLbl())
         StatusLbl()->setText(text);
@@ -115,6 +118,25 @@ void ShowHint(const QString& text)
                            ? strip->fontMetrics().elidedText(text, Qt::ElideRight, strip->width())
                            : QString());
     HintPoint() = QCursor::pos();
+}
+
+} // namespace
+
+void ShowHint(const Words& hint)
+{
+    ShowHintText(QtText(hint));
+}
+
+void SetHintOf(QWidget& widget, const Words& hint)
+{
+    const QString text = QtText(hint);
+    widget.setProperty(kHintProperty, text);
+    widget.setAccessibleDescription(text);
+}
+
+void ShowHintOf(const QWidget& widget)
+{
+    ShowHintText(widget.property(kHintProperty).toString());
 }
 
 void AddHintStrip(QLabel& strip)
@@ -131,7 +153,7 @@ void ShowHintOfFocus(const QWidget& widget, const QFocusEvent& event)
     if (event.lostFocus())
         ShowHint({});
     else if (widget.hasFocus())
-        ShowHint(widget.property(kHintProperty).toString());
+        ShowHintOf(widget);
 }
 
 bool MouseMovedSinceHint()
@@ -139,12 +161,12 @@ bool MouseMovedSinceHint()
     return HintPoint() != QCursor::pos();
 }
 
-void HintWatcher::Watch(QWidget& widget, std::string_view hint)
+void HintWatcher::Watch(QWidget& widget, const Words& hint)
 {
     widget.setProperty(kHintProperty, QtText(hint));
     widget.setMouseTracking(true);
     widget.installEventFilter(this);
-    if (!hint.empty())
+    if (!hint.IsBlank())
         widget.setAccessibleDescription(QtText(hint));
 }
 
@@ -153,7 +175,7 @@ bool HintWatcher::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::MouseMove && MouseMovedSinceHint()) {
         const auto& widget = *static_cast<QWidget*>(watched);
         if (!IsMeantForAnother(widget, *static_cast<QMouseEvent*>(event)))
-            ShowHint(widget.property(kHintProperty).toString());
+            ShowHintOf(widget);
     }
     if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut)
         ShowHintOfFocus(*static_cast<QWidget*>(watched), *static_cast<QFocusEvent*>(event));

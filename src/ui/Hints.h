@@ -4,29 +4,35 @@
 #include <QFocusEvent>
 #include <QLabel>
 #include <QObject>
-#include <QString>
 
 #include <string_view>
+
+#include "base/Words.h"
 
 namespace sprout {
 
 /// A control of a window and its hint.
 struct HintRow {
     std::string_view name;
-    std::string_view hint;
+    LaterWords hint;
 };
 
 /// The main window's hint for a control; empty if it has none.
-[[nodiscard]] std::string_view MainWindowHint(std::string_view name);
+[[nodiscard]] LaterWords MainWindowHint(std::string_view name);
 
 /// The hint of the status frame itself.
-inline constexpr std::string_view kStatusFrameHint = "Move the mouse over any button to read help clue here";
+inline constexpr LaterWords kStatusFrameHint = Words::Later("Move the mouse over any button to read help clue here");
 
 /// Sets the label that shows hints, `StatusLbl` of the main window. The label may be destroyed before the hints.
 void SetStatusLbl(QLabel* label);
 
-/// Shows a hint on the status line, from any window; an empty text clears it.
-void ShowHint(const QString& text);
+/// Shows a hint on the status line, from any window; no words clear it.
+void ShowHint(const Words& hint);
+
+/// Gives a widget a hint, which screen readers say too.
+void SetHintOf(QWidget& widget, const Words& hint);
+/// Shows the widget's own hint.
+void ShowHintOf(const QWidget& widget);
 
 /// Also shows hints in a label of another window, while that window covers the status line. The label may be destroyed
 /// before the hints.
@@ -51,8 +57,8 @@ class HintWatcher : public QObject {
 public:
     explicit HintWatcher(QObject* parent) : QObject(parent) {}
 
-    /// A move over `widget` shows `hint`; an empty hint clears the line.
-    void Watch(QWidget& widget, std::string_view hint);
+    /// A move over `widget` shows `hint`; no words clear the line.
+    void Watch(QWidget& widget, const Words& hint);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -59,9 +59,9 @@ ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal,
     : QAbstractButton(parent), scheme(owner), number(ordinal), plate(row.plate), plateColour(row.plateColour)
 {
     setObjectName(QString::fromLatin1(row.name));
-    setText(QCoreApplication::translate("ImageButton", row.spokenName));
+    setText(QtText(Words(row.spokenName)));
     setAccessibleName(text());
-    SetHint(QString::fromUtf8(row.hint));
+    SetHint(row.hint);
     if (row.glyph)
         glyph = QStringLiteral("buttons/") + QString::fromLatin1(row.glyph);
     else if (plate != Plate::Word)
@@ -76,11 +76,9 @@ ImageButton::ImageButton(const ButtonRow& row, ButtonScheme& owner, int ordinal,
     resize(ImageButton::sizeHint());
 }
 
-void ImageButton::SetHint(const QString& text)
+void ImageButton::SetHint(const Words& hint)
 {
-    hint = text;
-    setAccessibleDescription(hint);
-    setProperty(kHintProperty, hint);
+    SetHintOf(*this, hint);
 }
 
 void ImageButton::SetFace(ButtonFace newFace)

@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "base/Words.h"
 #include "ui/Artwork.h"
 #include "ui/ButtonStates.h"
 
@@ -18,9 +19,9 @@ enum class Plate { Tool, Word, Title };
 
 /// A row of a window's button table.
 struct ButtonRow {
-    const char* name = "";       ///< name of the control and of its picture
-    const char* spokenName = ""; ///< what a screen reader says; on a word plate the word itself
-    const char* hint = "";       ///< for the status line
+    const char* name = "";   ///< name of the control and of its picture
+    LaterWords spokenName{}; ///< what a screen reader says; on a word plate the word itself
+    LaterWords hint{};       ///< for the status line
     Plate plate = Plate::Tool;
     QColor plateColour{}; ///< of a word plate
     const char* glyph =
@@ -38,8 +39,7 @@ public:
     void SetFace(ButtonFace newFace);
     /// The button's number in its scheme's table.
     [[nodiscard]] int Number() const { return number; }
-    [[nodiscard]] QString Hint() const { return hint; }
-    void SetHint(const QString& text);
+    void SetHint(const Words& hint);
 
     /// The artworks needed to paint the button in its current state.
     [[nodiscard]] std::vector<WantedArtwork> Artworks() const;
@@ -71,7 +71,6 @@ private:
     Plate plate;
     QColor plateColour;
     QString glyph;
-    QString hint;
     ButtonFace face = ButtonFace::Normal;
 };
 

@@ -33,14 +33,14 @@ constexpr int kIconSide = 40;
 constexpr int kInputFormWidth = 320;
 constexpr int kBoxHeight = 34;
 
-ButtonRow GoOn(const char* name, const char* word, const char* hint = "")
+ButtonRow GoOn(const char* name, const LaterWords& word)
 {
-    return {name, word, hint, Plate::Word, kDeepLeaf};
+    return {name, word, {}, Plate::Word, kDeepLeaf};
 }
 
-ButtonRow GoBack(const char* name, const char* word, const char* hint = "")
+ButtonRow GoBack(const char* name, const LaterWords& word)
 {
-    return {name, word, hint, Plate::Word, kStone};
+    return {name, word, {}, Plate::Word, kStone};
 }
 
 QString Utf8Name(const char* name)
@@ -100,7 +100,7 @@ Msg1BtnFrm::Msg1BtnFrm(QWidget* parent, const Words& note) : NotesForm(parent, k
 {
     setObjectName(QStringLiteral("Msg1BtnFrm"));
     AddNote("NoteLbl", note);
-    AddAnswer(GoOn("OkBtn", "OK"), 1).setFocus();
+    AddAnswer(GoOn("OkBtn", Words::Later("OK")), 1).setFocus();
     SizeToNotes();
 }
 
@@ -110,7 +110,7 @@ Msg1Btn2NoteFrm::Msg1Btn2NoteFrm(QWidget* parent, const Words& note1, const Word
     setObjectName(QStringLiteral("Msg1Btn2NoteFrm"));
     AddNote("NoteLbl1", note1);
     AddNote("NoteLbl2", note2);
-    AddAnswer(GoOn("OkBtn", "OK"), 1).setFocus();
+    AddAnswer(GoOn("OkBtn", Words::Later("OK")), 1).setFocus();
     SizeToNotes();
 }
 
@@ -120,8 +120,8 @@ MsgYesNoFrm::MsgYesNoFrm(QWidget* parent, const Words& note1, const Words& note2
     setObjectName(QStringLiteral("MsgYesNoFrm"));
     AddNote("NoteLbl1", note1);
     AddNote("NoteLbl2", note2);
-    AddAnswer(GoOn("YesBtn", "Yes"), 1);
-    AddAnswer(GoBack("NoBtn", "No"), 0).setFocus();
+    AddAnswer(GoOn("YesBtn", Words::Later("Yes")), 1);
+    AddAnswer(GoBack("NoBtn", Words::Later("No")), 0).setFocus();
     SizeToNotes();
 }
 
@@ -129,9 +129,10 @@ Msg3BtnFrm::Msg3BtnFrm(QWidget* parent, const Words& note) : NotesForm(parent, k
 {
     setObjectName(QStringLiteral("Msg3BtnFrm"));
     AddNote("NoteLbl", note);
-    AddAnswer({"StartRecordingBtn", "Recording", "", Plate::Word, kCoral, "WordRecord"}, 1).setFocus();
-    AddAnswer({"ChooseWavFileBtn", "Wav file", "", Plate::Word, kDeepLeaf, "WordWave"}, 2);
-    AddAnswer(GoBack("CancelBtn", "Cancel"), 0);
+    AddAnswer({"StartRecordingBtn", Words::Later("Recording"), LaterWords(), Plate::Word, kCoral, "WordRecord"}, 1)
+        .setFocus();
+    AddAnswer({"ChooseWavFileBtn", Words::Later("Wav file"), LaterWords(), Plate::Word, kDeepLeaf, "WordWave"}, 2);
+    AddAnswer(GoBack("CancelBtn", Words::Later("Cancel")), 0);
     SizeToNotes();
 }
 
@@ -141,9 +142,9 @@ SaveConfirmFrm::SaveConfirmFrm(QWidget* parent, std::string_view songName) : Not
     AddNote("NoteLbl", Words::Text("Do you want to save this song?"));
     AddNote("SongNameLbl", Words::AsIs(songName));
     findChild<QLabel*>(QStringLiteral("SongNameLbl"))->setFont(TitleFont());
-    AddAnswer(GoOn("YesBtn", "Yes"), 2).setFocus();
-    AddAnswer(GoBack("NoBtn", "No"), 1);
-    AddAnswer(GoBack("Cancel_Btn", "Cancel"), 0);
+    AddAnswer(GoOn("YesBtn", Words::Later("Yes")), 2).setFocus();
+    AddAnswer(GoBack("NoBtn", Words::Later("No")), 1);
+    AddAnswer(GoBack("Cancel_Btn", Words::Later("Cancel")), 0);
     SizeToNotes();
 }
 
@@ -153,7 +154,7 @@ PlainBoxFrm::PlainBoxFrm(QWidget* parent, const Words& text, MessageIcon icon) :
     if (icon == MessageIcon::Exclamation)
         AddPicture("pictures/Exclamation");
     AddNote("NoteLbl", text);
-    AddAnswer(GoOn("OkBtn", "OK"), 1).setFocus();
+    AddAnswer(GoOn("OkBtn", Words::Later("OK")), 1).setFocus();
     SizeToNotes();
 }
 
@@ -170,8 +171,8 @@ InputBoxFrm::InputBoxFrm(QWidget* parent, std::string_view defaultText, const Wo
     QLabel& second = AddLabel("NoteLbl2");
     first.setText(QtText(note1));
     second.setText(oneNote ? QString() : QtText(note2));
-    AddAnswer(GoOn("OkBtn", "OK"), 1);
-    AddAnswer(GoBack("CancelBtn", "Cancel"), 0);
+    AddAnswer(GoOn("OkBtn", Words::Later("OK")), 1);
+    AddAnswer(GoBack("CancelBtn", Words::Later("Cancel")), 0);
 
     const int noteWidth = std::max(first.sizeHint().width(), second.sizeHint().width());
     PlaceButtons(std::max(kInputFormWidth, noteWidth + 4 * kSideMargin), buttonsTop);
@@ -199,11 +200,11 @@ SongTitleFrm::SongTitleFrm(QWidget* parent, std::string_view title, std::string_
     setObjectName(QStringLiteral("SongTitleFrm"));
     NameTxt = &AddBox("Label1", Words::Text("Song name"), "NameTxt", title, 8);
     CreatedTxt = &AddBox("Label2", Words::Text("Created by"), "CreatedTxt", author, 74);
-    Watcher().Watch(*NameTxt, "You can change the name of this song here");
-    Watcher().Watch(*CreatedTxt, "You can type your name here");
+    Watcher().Watch(*NameTxt, Words::Text("You can change the name of this song here"));
+    Watcher().Watch(*CreatedTxt, Words::Text("You can type your name here"));
     ForbidCharacters(*NameTxt, QStringLiteral("./\\:*?<>|\""));
-    AddWordButton(GoOn("OkBtn", "OK"), [this] { ClickOk(); });
-    AddAnswer(GoBack("CancelBtn", "Cancel"), 0);
+    AddWordButton(GoOn("OkBtn", Words::Later("OK")), [this] { ClickOk(); });
+    AddAnswer(GoBack("CancelBtn", Words::Later("Cancel")), 0);
     PlaceButtons(kInputFormWidth + 2 * kSideMargin, 148);
     NameTxt->selectAll();
     NameTxt->setFocus();

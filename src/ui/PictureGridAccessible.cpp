@@ -37,8 +37,7 @@ public:
         if (kind == QAccessible::Name)
             return QtText(grid->Entry(index).Name);
         if (kind == QAccessible::Description)
-            return grid->Entry(index).Original ? QCoreApplication::translate("PictureGridPic", "original")
-                                               : QCoreApplication::translate("PictureGridPic", "your own");
+            return QtText(grid->Entry(index).Original ? Words::Text("original") : Words::Text("your own"));
         return {};
     }
 

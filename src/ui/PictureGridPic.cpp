@@ -68,9 +68,11 @@ void PictureGridPic::BringIntoView(int index)
         vScroll1->setValue(TopRowShowing(Grid(), index));
 }
 
-void PictureGridPic::SetLines(const QStringList& newLines)
+void PictureGridPic::SetLines(const std::vector<Words>& newLines)
 {
-    lines = newLines;
+    lines.clear();
+    for (const Words& line : newLines)
+        lines << QtText(line);
     update();
 }
 

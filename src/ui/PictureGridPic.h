@@ -6,6 +6,7 @@
 
 #include <vector>
 
+#include "base/Words.h"
 #include "ui/GridFrame.h"
 #include "ui/GridPictures.h"
 #include "ui/GridScrollBar.h"
@@ -48,7 +49,7 @@ public:
     void BringIntoView(int index);
 
     /// Sets the text of an empty grid.
-    void SetLines(const QStringList& lines);
+    void SetLines(const std::vector<Words>& lines);
 
     /// Puts the blinking selection frame around the chosen picture or hides it, and sets the scroll bar's range. Call
     /// it after changing any of the above.

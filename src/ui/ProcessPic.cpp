@@ -6,6 +6,7 @@
 #include "ui/Artwork.h"
 #include "ui/Look.h"
 #include "ui/Palette.h"
+#include "ui/QtText.h"
 
 namespace sprout {
 
@@ -20,7 +21,7 @@ constexpr int kTwentieths = 20;
 ProcessPic::ProcessPic(QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("ProcessPic"));
-    setAccessibleName(tr("Working"));
+    setAccessibleName(QtText(Words::Text("Working")));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     resize(kSignSize);
     hide();
@@ -56,7 +57,7 @@ void ProcessPic::paintEvent(QPaintEvent* /*event*/)
         (width() - kSproutSide) / 2, 10,
         Artwork(QStringLiteral("pictures/Sprout"), QSize(kSproutSide, kSproutSide), devicePixelRatioF()));
     painter.setFont(ButtonFont());
-    painter.drawText(QRect(0, 76, width(), 26), Qt::AlignCenter, tr("One moment..."));
+    painter.drawText(QRect(0, 76, width(), 26), Qt::AlignCenter, QtText(Words::Text("One moment...")));
 
     const QRectF ground(20, 106, width() - 40, 12);
     painter.setPen(Qt::NoPen);

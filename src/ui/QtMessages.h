@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "base/Words.h"
 #include "service/Messages.h"
 
 namespace sprout {

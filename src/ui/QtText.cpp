@@ -5,13 +5,6 @@
 
 namespace sprout {
 
-namespace {
-
-/// The one context of all translations.
-constexpr const char* kWordsContext = "Words";
-
-} // namespace
-
 QString QtText(const Words& words)
 {
     return QtText(std::string_view(ShownText(words)));

@@ -10,6 +10,9 @@
 
 namespace sprout {
 
+/// The one context of all translations.
+inline constexpr const char* kWordsContext = "Words";
+
 /// Converts UTF-8 text to a Qt string.
 [[nodiscard]] inline QString QtText(std::string_view text)
 {

@@ -44,14 +44,15 @@ WorkFrm::WorkFrm(QWidget* parent, const Words& what)
     WorkLbl->setAlignment(Qt::AlignCenter);
     WorkLbl->setGeometry({BodyPoint(0, kWorkLabelTop), QSize(kWorkFormWidth, kWorkLabelHeight)});
     WorkBar->setObjectName(QStringLiteral("WorkBar"));
-    WorkBar->setAccessibleName(tr("How far it is"));
+    WorkBar->setAccessibleName(QtText(Words::Text("How far it is")));
     WorkBar->setTextVisible(false);
     WorkBar->setRange(0, kWholeBar);
     WorkBar->setStyleSheet(QString::fromLatin1(kWorkBarStyle));
     WorkBar->setGeometry(
         {BodyPoint(kWorkMargin, kWorkBarTop), QSize(kWorkFormWidth - 2 * kWorkMargin, kWorkBarHeight)});
-    StopBtn = &AddWordButton({"StopBtn", "Stop", "Stop button, nothing is saved then", Plate::Word, kCoral},
-                             [this] { AskForEnd(); });
+    StopBtn = &AddWordButton(
+        {"StopBtn", Words::Later("Stop"), Words::Later("Stop button, nothing is saved then"), Plate::Word, kCoral},
+        [this] { AskForEnd(); });
     PlaceButtons(kWorkFormWidth, kStopTop);
     setFocus(); // a key meant for the previous window must not stop anything
     ShowStage(what);

@@ -14,7 +14,7 @@ protected:
 
     QImage Drawn(const char* name)
     {
-        label.ShowName(QString::fromUtf8(name));
+        label.ShowName(Words::AsIs(name));
         return label.grab().toImage();
     }
 

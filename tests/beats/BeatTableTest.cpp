@@ -199,7 +199,7 @@ TEST_F(LoadBeatSoundTest, TellsOfADamagedWaveOnceAndCountsItAsLoaded)
     EXPECT_EQ(services.messages.shown.size(), 1U);
     EXPECT_TRUE(At(table.BeatList, 1).Loaded);
     EXPECT_EQ(At(table.BeatList, 1).Sound.Length, 0);
-    EXPECT_EQ(DurationText(At(table.BeatList, 1).Sound), "0.0 Sec");
+    EXPECT_EQ(DurationText(At(table.BeatList, 1).Sound).English(), "0.0 Sec");
 }
 
 TEST_F(LoadBeatSoundTest, FindsTheFileWhateverItsLetterCase)
@@ -256,18 +256,18 @@ TEST_F(SaveBeatOrderTest, KeepsTheOrderForTheNextLoad)
 
 TEST(DurationText, ShowsTenthsOfASecond)
 {
-    EXPECT_EQ(DurationText(QuietWave(11025)), "1.0 Sec");
-    EXPECT_EQ(DurationText(QuietWave(2756)), "0.2 Sec");
-    EXPECT_EQ(DurationText(MonoWave(SampleList(11025, 1))), "0.3 Sec"); // a quarter of a second goes up
-    EXPECT_EQ(DurationText(QuietWave(3 * 11025)), "3.0 Sec");
-    EXPECT_EQ(DurationText(EmptyWave()), "0.0 Sec");
-    EXPECT_EQ(DurationText(WaveData()), "0.0 Sec");
+    EXPECT_EQ(DurationText(QuietWave(11025)).English(), "1.0 Sec");
+    EXPECT_EQ(DurationText(QuietWave(2756)).English(), "0.2 Sec");
+    EXPECT_EQ(DurationText(MonoWave(SampleList(11025, 1))).English(), "0.3 Sec"); // a quarter of a second goes up
+    EXPECT_EQ(DurationText(QuietWave(3 * 11025)).English(), "3.0 Sec");
+    EXPECT_EQ(DurationText(EmptyWave()).English(), "0.0 Sec");
+    EXPECT_EQ(DurationText(WaveData()).English(), "0.0 Sec");
 }
 
 TEST(DurationText, SaysThatMoreThanThreeSecondsAreTooMany)
 {
-    EXPECT_EQ(DurationText(QuietWave(3 * 11025 + 1)), "3.0 Sec(Only 3 seconds allowed)");
-    EXPECT_EQ(DurationText(QuietWave(4 * 11025)), "4.0 Sec(Only 3 seconds allowed)");
+    EXPECT_EQ(DurationText(QuietWave(3 * 11025 + 1)).English(), "3.0 Sec(Only 3 seconds allowed)");
+    EXPECT_EQ(DurationText(QuietWave(4 * 11025)).English(), "4.0 Sec(Only 3 seconds allowed)");
 }
 
 } // namespace

@@ -93,7 +93,7 @@ protected:
 
 TEST_F(AudioTrackCommandsTest, ACancelledChoiceChangesNothing)
 {
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     AddTrack(Choice::Cancel);
     EXPECT_EQ(caption, QStringLiteral(" Add Audio Track"));
     EXPECT_THAT(told, IsEmpty());
@@ -270,7 +270,7 @@ TEST_F(AudioTrackCommandsTest, EditsTheTrackUnderThePointer)
     MakeAudio(2, 5000);
     Hover(2, 30);
     ASSERT_TRUE(canvas->TrackAudioBtnVisible());
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     PlayWaveTrack(CountingWave(44100), 1, 1, Loop::No);
     std::vector<std::int32_t> edited;
     windows.audioEditor = [&](std::int32_t track) {
@@ -303,7 +303,7 @@ TEST_F(AudioTrackCommandsTest, DrawsTheRowAnewWhereTheSoundWasChanged)
 
 TEST_F(AudioTrackCommandsTest, EditsNothingWithoutATrack)
 {
-    windows.audioEditor = [](std::int32_t) -> bool { throw RunTimeError(Words::Text("opened")); };
+    windows.audioEditor = [](std::int32_t) -> bool { throw RunTimeError(Words::AsIs("opened")); };
     audioTracks->TrackAudioBtn();
     EXPECT_THAT(services.messages.shown, IsEmpty());
 }

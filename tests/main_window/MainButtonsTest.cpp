@@ -103,7 +103,7 @@ TEST_F(MainButtonsTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
 TEST_F(MainButtonsTest, TellsThatAButtonIsForLater)
 {
     for (const char* name : {"DemoBtn"}) {
-        ShowHint(QStringLiteral("Before"));
+        ShowHint(Words::AsIs("Before"));
         ShownMessage message;
         NoteNextMessage(message);
         ClickButton(name);
@@ -119,7 +119,7 @@ TEST_F(MainButtonsTest, TellsWhatItIs)
         form = about.objectName();
         Click(about, "CloseImgBtn");
     });
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     ClickButton("AboutBtn");
     EXPECT_EQ(form, QStringLiteral("About_Frm"));
     EXPECT_EQ(TextOf("StatusLbl"), "");

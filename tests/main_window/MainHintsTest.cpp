@@ -65,7 +65,7 @@ TEST_F(MainHintsTest, TellsWhatEachControlIsFor)
                 MoveInStrip(QPoint(button.x, 40));
         if (std::string_view(hint.control) == "RestoreImgBtn")
             window->showMaximized();
-        ShowHint(QStringLiteral("Before"));
+        ShowHint(Words::AsIs("Before"));
         EXPECT_EQ(HintOver(hint.control), hint.text) << hint.control;
     }
 }
@@ -79,12 +79,12 @@ TEST_F(MainHintsTest, ClearsTheHintOverItsBackground)
 {
     for (const char* name :
          {"Corner3Pic", "Corner4Pic", "Label1", "Label5", "TrackTopLbl", "SoundStatusLbl", "StatusLbl"}) {
-        ShowHint(QStringLiteral("Before"));
+        ShowHint(Words::AsIs("Before"));
         EXPECT_EQ(HintOver(name), "") << name;
     }
     QWidget& bar = Control("ControlFramePic");
     for (QWidget* ground : {static_cast<QWidget*>(window.get()), &bar}) {
-        ShowHint(QStringLiteral("Before"));
+        ShowHint(Words::AsIs("Before"));
         MoveOverGround(*ground);
         EXPECT_EQ(TextOf("StatusLbl"), "") << ground->objectName().toStdString();
     }
@@ -110,7 +110,7 @@ TEST_F(MainHintsTest, ClearsTheHintWhenAButtonIsClicked)
 {
     for (const char* name :
          {"BrushBtn", "EraserBtn", "PlayToolBtn", "MaximizeImgBtn", "RestoreImgBtn", "MinimizeImgBtn"}) {
-        ShowHint(QStringLiteral("An older hint"));
+        ShowHint(Words::AsIs("An older hint"));
         static_cast<QAbstractButton&>(Control(name)).click();
         EXPECT_EQ(TextOf("StatusLbl"), "") << name;
     }

@@ -11,7 +11,7 @@ class MainMailTest : public MainWindowTest {};
 
 TEST_F(MainMailTest, MailsTheSong)
 {
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     ClickButton("EmailBtn");
     EXPECT_EQ(TextOf("StatusLbl"), "Please paint on the track.");
     Song().SongMix = CountingWave(1000);

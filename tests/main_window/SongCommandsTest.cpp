@@ -15,7 +15,7 @@ TEST_F(SongCommandsTest, NewMakesANewSongAndStopsThePlayer)
     Song().SongTitle = "Rain";
     Song().Tempo = kQuickTempo;
     StartToPlay();
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     ClickButton("NewBtn");
     EXPECT_EQ(Song().SongTitle, "Untitled 1");
     EXPECT_EQ(Song().TrackCount, 2);

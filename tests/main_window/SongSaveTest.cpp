@@ -72,7 +72,7 @@ TEST_F(SongSaveTest, SaveReplacesAFileWhoseNameDiffersInCaseOnly)
 TEST_F(SongSaveTest, SaveDoesNothingAfterCancel)
 {
     SetSongChanged(Song(), true);
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     WithNextForm([this](BandedForm& form) {
         EXPECT_EQ(TextOf("StatusLbl"), "");
         Click(form, "CancelBtn");

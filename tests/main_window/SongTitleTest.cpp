@@ -9,7 +9,7 @@ class SongTitleTest : public SongCommandsFixture {};
 
 TEST_F(SongTitleTest, ChangeTakesTitleAndAuthor)
 {
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     ChangeNextTitle("Rain", "Lina");
     ClickButton("SongTitleChgBtn");
     EXPECT_EQ(Song().SongTitle, "Rain");

@@ -122,7 +122,7 @@ TEST_F(TrackCommandsTest, NoMarkerStandsBehindTheTuneWindow)
 
 TEST_F(TrackCommandsTest, ATuneWindowThatFailsLeavesNoTrackBehind)
 {
-    windows.tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError(Words::Text("No window.")); };
+    windows.tuneWindow = [](Tune&, bool&) -> bool { throw RunTimeError(Words::AsIs("No window.")); };
     tracks->TrackAddBtn();
     EXPECT_EQ(song.TrackCount, 3);
     ASSERT_EQ(services.messages.shown.size(), 1U);

@@ -43,7 +43,7 @@ TEST_F(TrackTitlePicTest, KeysChooseARowAndItsButtonAndPressIt)
     Strip().setFocus(Qt::TabFocusReason);
     ASSERT_TRUE(Strip().hasFocus());
     EXPECT_THAT(Floating(), ElementsAre("TrackPlayBtn"));
-    EXPECT_EQ(statusLbl.text().toStdString(), MainWindowHint("TrackPlayBtn"));
+    EXPECT_EQ(statusLbl.text().toStdString(), MainWindowHint("TrackPlayBtn").English());
     EXPECT_EQ(Strip().accessibleName(), QStringLiteral("Track 1, Play track"));
     QTest::keyClick(&Strip(), Qt::Key_Down);
     QTest::keyClick(&Strip(), Qt::Key_Left);

@@ -29,7 +29,7 @@ TEST_F(TrackToolTest, TheCellUnderThePointerIsRounded)
 TEST_F(TrackToolTest, ShowsHintCellAndCursorOverATrack)
 {
     MoveTo(InRow(CellX(9), 2));
-    EXPECT_EQ(statusLbl.text().toStdString(), kTracksHint);
+    EXPECT_EQ(statusLbl.text().toStdString(), kTracksHint.English());
     EXPECT_EQ(cellText, "9");
     EXPECT_TRUE(IsShown("CellCursor"));
     EXPECT_EQ(Part("CellCursor").geometry(), QRect(CellX(9), RowY(2) + 7, 3, 32));
@@ -45,7 +45,7 @@ TEST_F(TrackToolTest, ShowsThePlayToolOnTheTimeBandAndNothingBesideTheTracks)
     const auto picture = [this] { return Pic().cursor().pixmap().toImage(); };
     const QImage brush = picture();
     MoveTo(QPoint(CellX(17), 5));
-    EXPECT_EQ(statusLbl.text().toStdString(), kTimeBandHint);
+    EXPECT_EQ(statusLbl.text().toStdString(), kTimeBandHint.English());
     EXPECT_EQ(cellText, "17");
     EXPECT_FALSE(IsShown("CellCursor"));
     const QImage playTool = picture();

@@ -90,7 +90,7 @@ TEST_F(RecdFrmTest, TellsARunTimeErrorOfTheDriver)
 {
     class FailingCapture : public FakeCapture {
     public:
-        CaptureOpening Open() override { throw RunTimeError(Words::Text("The microphone is on fire.")); }
+        CaptureOpening Open() override { throw RunTimeError(Words::AsIs("The microphone is on fire.")); }
     };
     FailingCapture failing;
     TheServices().capture = &failing;
@@ -136,7 +136,7 @@ TEST_F(RecdFrmTest, TellsThatTheRecordingFailedAndShowsAllTheSame)
 
 TEST_F(RecdFrmTest, CancelsWithoutAQuestion)
 {
-    ShowHint(QStringLiteral("A hint"));
+    ShowHint(Words::AsIs("A hint"));
     Record([this] {
         Tell(CaptureState::Recording, 100);
         Click(*form, "Cancel_Btn");

@@ -50,7 +50,7 @@ TEST_F(RecordingTakeTest, BringsTheRecordingToTheSharedArrays)
 {
     capture.leftSamples = {1, 2, 3};
     capture.rightSamples = {4, 5, 6};
-    ShowHint(QStringLiteral("A hint"));
+    ShowHint(Words::AsIs("A hint"));
     Record([this] {
         Tell(CaptureState::Recording, 1);
         Click(*form, "RecFinishBtn");

@@ -94,7 +94,7 @@ TEST_F(WavePicTest, LeavesTheSelectionToTheMouseWhileItIsDown)
 
 TEST_F(WavePicTest, TellsScreenReadersWhatIsSelected)
 {
-    pic.Speak(QStringLiteral("1.2 to 3.4 seconds"));
+    pic.Speak(Words::AsIs("1.2 to 3.4 seconds"));
     const QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&pic);
     EXPECT_EQ(spoken->text(QAccessible::Name), QStringLiteral("Your recorded sound: 1.2 to 3.4 seconds"));
     EXPECT_EQ(spoken->role(), QAccessible::Graphic);

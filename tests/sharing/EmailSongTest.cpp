@@ -37,7 +37,7 @@ protected:
         song.SongMix = CountingWave(1000);
         SetSongMixValid(song, true);
         SetStatusLbl(&statusLbl);
-        ShowHint(QStringLiteral("Before"));
+        ShowHint(Words::AsIs("Before"));
         window.show();
     }
 

@@ -347,7 +347,7 @@ TEST_F(SaveSongAsSoundTest, AMixThatIsStoppedIsNoMix)
 TEST_F(SaveSongAsSoundTest, AnyOtherErrorIsToldInAPlainBox)
 {
     const FileChooserStandIn dialog(
-        [](const FileQuestion&) -> std::optional<fs::path> { throw RunTimeError(Words::Text("The dialog broke.")); });
+        [](const FileQuestion&) -> std::optional<fs::path> { throw RunTimeError(Words::AsIs("The dialog broke.")); });
     EXPECT_FALSE(SaveSongAsSound(SoundFileKind::Wav));
     EXPECT_FALSE(SaveSongAsSound(SoundFileKind::Wma));
     ASSERT_EQ(services.messages.shown.size(), 2U);

@@ -53,7 +53,7 @@ TEST_F(SongListTest, OpensTheSelectedSongOnly)
     Open(SongSelMode::Open);
     EXPECT_EQ(ClickAndAnswer("OkBtn", "OkBtn").line1, QStringLiteral("Song not selected."));
     ClickRow(1);
-    ShowHint(QStringLiteral("A hint"));
+    ShowHint(Words::AsIs("A hint"));
     QTest::keyClick(&List(), Qt::Key_Return);
     EXPECT_EQ(statusLbl.text(), QString());
     EXPECT_FALSE(form.isVisible());

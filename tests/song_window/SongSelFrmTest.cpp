@@ -73,7 +73,7 @@ TEST_F(SongSelFrmTest, CancelCloseBoxEscapeAndTheSystemCloseWithoutOk)
 {
     const auto closes = [this](const std::function<void()>& close) {
         Open(SongSelMode::Save);
-        ShowHint(QStringLiteral("A hint"));
+        ShowHint(Words::AsIs("A hint"));
         close();
         return !form.isVisible() && !form.Ok && statusLbl.text().isEmpty();
     };

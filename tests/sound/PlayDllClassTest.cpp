@@ -334,7 +334,7 @@ TEST_F(PlayDllTest, ABackEndsStatusNeedsNothingAndItsMessageIsShown)
 {
     Player().PlayDx9Cls_MsgBoxOb(Words::AsIs("S2"), Words::Text("Playing"));
     EXPECT_TRUE(services.messages.shown.empty());
-    Player().PlayDx9Cls_MsgBoxOb(Words::Text("The device is busy"), Words::Text("Sound"));
+    Player().PlayDx9Cls_MsgBoxOb(Words::AsIs("The device is busy"), Words::AsIs("Sound"));
     ASSERT_EQ(services.messages.shown.size(), 1U);
     EXPECT_EQ(services.messages.shown[0].text, "The device is busy");
     EXPECT_EQ(services.messages.shown[0].title, "Sound");

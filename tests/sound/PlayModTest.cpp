@@ -179,9 +179,9 @@ TEST_F(PlayModTest, WithoutADeviceNeitherStatusNorTimerComeUp)
 
 TEST_F(PlayModTest, ASecondPlayCutsTheFirstOff)
 {
-    PlayWaveStatus(CountingWave(10), Words::Text("one"), Loop::Yes);
+    PlayWaveStatus(CountingWave(10), Words::AsIs("one"), Loop::Yes);
     sound.calls.clear();
-    PlayWaveStatus(CountingWave(20), Words::Text("two"), Loop::No);
+    PlayWaveStatus(CountingWave(20), Words::AsIs("two"), Loop::No);
     EXPECT_EQ(sound.calls.front(), "Stop 1");
     EXPECT_EQ(play.PlayState, PlayState::Playing);
     EXPECT_EQ(play.PlayLength, 20);

@@ -24,7 +24,7 @@ public:
         isAsked.notify_all();
         wasStopped = !mayGoOn.wait(lock, stop, [this] { return !takesItsTime; });
         if (throws)
-            throw RunTimeError(Words::Text("The mail program has no ears."));
+            throw RunTimeError(Words::AsIs("The mail program has no ears."));
         return starts;
     }
 
@@ -60,7 +60,7 @@ public:
     [[nodiscard]] std::filesystem::path MakeFolder(const std::filesystem::path& parent) override
     {
         if (fails)
-            throw RunTimeError(Words::Text("No folder could be made."));
+            throw RunTimeError(Words::AsIs("No folder could be made."));
         made.push_back(parent / ("private" + std::to_string(made.size() + 1)));
         std::filesystem::create_directory(made.back());
         return made.back();

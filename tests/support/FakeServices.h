@@ -25,6 +25,7 @@
 #include "support/FakeSound.h"
 #include "support/FakeSoundReader.h"
 #include "support/FakeWma.h"
+#include "support/KnownTexts.h"
 #include "support/TestFolder.h"
 
 namespace sprout {
@@ -41,7 +42,7 @@ public:
 
     void MessageBox(const Words& title, const Words& text, MessageIcon icon) override
     {
-        shown.push_back({title.English(), text.English(), icon});
+        shown.push_back({ShownEnglish(title), ShownEnglish(text), icon});
     }
 
     std::vector<Shown> shown;
@@ -61,8 +62,8 @@ public:
             throw WorkStopped();
     }
     void EnableTuneNotFilledTimer() override { tuneNotFilledTimer = true; }
-    void BeginStoppable(const Words& what) override { stages.push_back(what.English()); }
-    void NextStage(const Words& what) override { stages.push_back(what.English()); }
+    void BeginStoppable(const Words& what) override { stages.push_back(ShownEnglish(what)); }
+    void NextStage(const Words& what) override { stages.push_back(ShownEnglish(what)); }
     void EndStoppable() override { stages.emplace_back(); }
 
     int hourglasses = 0; // shown now

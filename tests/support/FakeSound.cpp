@@ -54,7 +54,7 @@ private:
     void CheckDriver() const
     {
         if (fake.driverFails)
-            throw RunTimeError(Words::Text("The driver is gone."));
+            throw RunTimeError(Words::AsIs("The driver is gone."));
     }
     void Note(std::string_view call, const std::string& words)
     {
@@ -83,7 +83,7 @@ SoundHandle FakeSoundOutput::Open(SoundHandle old, std::int32_t window, const So
 std::int32_t FakePlayDisplay::MainWindowHandle() const
 {
     if (mainWindow < -1)
-        throw RunTimeError(Words::Text("There is no window."));
+        throw RunTimeError(Words::AsIs("There is no window."));
     return mainWindow;
 }
 

@@ -12,18 +12,18 @@ public:
     void ReplaceFile(const std::filesystem::path& /*target*/, std::span<const std::span<const std::byte>> /*pieces*/,
                      Flush /*flush*/) override
     {
-        throw RunTimeError(Words::Text("No space left on device."));
+        throw RunTimeError(Words::AsIs("No space left on device."));
     }
     [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& /*target*/) override
     {
-        throw RunTimeError(Words::Text("No space left on device."));
+        throw RunTimeError(Words::AsIs("No space left on device."));
     }
     [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& /*target*/) const override { return true; }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
     [[nodiscard]] bool WriteNewFile(const std::filesystem::path& /*path*/,
                                     std::span<const std::span<const std::byte>> /*pieces*/) override
     {
-        throw RunTimeError(Words::Text("No space left on device."));
+        throw RunTimeError(Words::AsIs("No space left on device."));
     }
 };
 

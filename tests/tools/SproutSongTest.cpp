@@ -249,7 +249,7 @@ TEST(ToolScreen, DrawsALineWhereAPersonWatches)
     std::ostringstream watched;
     ToolScreen screen(watched, Watched::Yes);
     screen.ShowProgress(1, 2);
-    screen.BeginStoppable(Words::Text("Exporting songs"));
+    screen.BeginStoppable(Words::AsIs("Exporting songs"));
     screen.ShowProgress(1, 2);
     screen.ShowProgress(2, 2);
     EXPECT_EQ(watched.str(), "\rRendering sounds: 1 of 2\rExporting songs: 1 of 2\rExporting songs: 2 of 2\r\033[K");

@@ -243,7 +243,7 @@ TEST_F(OpenTuneWindowTest, TheTableIsReadOnceAndNotAtEachOpening)
 
 TEST_F(OpenTuneWindowTest, ReadingTheTableClearsTheHint)
 {
-    ShowHint(QStringLiteral("A hint"));
+    ShowHint(Words::AsIs("A hint"));
     LoadTuneFiles();
     EXPECT_EQ(statusLbl.text(), QString());
 }

@@ -84,7 +84,7 @@ TEST_F(TuneFrm2Test, CancelStopsThePlayerAndForgetsTheChoice)
     Open([this](TuneFrm2& window) {
         window.OriginalTuneName = "Tune 02";
         PressTune(window, 2);
-        ShowHint(QStringLiteral("A hint"));
+        ShowHint(Words::AsIs("A hint"));
         Click(window, "CancelBtn");
         EXPECT_FALSE(window.isVisible());
         EXPECT_FALSE(window.OkPressed);
@@ -125,7 +125,7 @@ TEST_F(TuneFrm2Test, OkLeavesTheSoundAndAlwaysMarksTheTuneAsChanged)
 {
     MakeTuneFiles(1);
     Open([this](TuneFrm2& window) {
-        ShowHint(QStringLiteral("A hint"));
+        ShowHint(Words::AsIs("A hint"));
         Click(window, "OkBtn");
         EXPECT_TRUE(window.OkPressed);
         EXPECT_TRUE(window.TuneChanged);

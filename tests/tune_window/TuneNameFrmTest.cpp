@@ -50,7 +50,7 @@ TEST_F(TuneNameFrmTest, KeepsTheCaretWhereItWas)
 TEST_F(TuneNameFrmTest, StaysOpenWithoutAName)
 {
     Box("NameTxt").setText(QStringLiteral("   "));
-    ShowHint(QStringLiteral("A hint"));
+    ShowHint(Words::AsIs("A hint"));
     std::string note;
     WithNextForm([&note](BandedForm& shown) {
         WithNextForm([&note](BandedForm& message) {

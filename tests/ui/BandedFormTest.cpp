@@ -20,7 +20,7 @@ void Send(QWidget& widget, QEvent::Type type, QPoint inside, QPoint onScreen)
 // While the server is still moving the window, it reports positions relative to the old place.
 TEST(BandedForm, FollowsThePointerWhileTheServerLagsBehind)
 {
-    Msg1BtnFrm form(nullptr, Words::Text("A note"));
+    Msg1BtnFrm form(nullptr, Words::AsIs("A note"));
     form.move(100, 100);
     form.show();
     Send(form, QEvent::MouseButtonPress, {60, 10}, {160, 110});

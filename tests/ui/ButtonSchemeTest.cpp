@@ -31,9 +31,13 @@ protected:
     QWidget window;
     int clicks = 0;
     ButtonScheme scheme{window, AllOffTimer::OffAtFirst};
-    ImageButton& play = scheme.AddButton({"PlayAllBtn", "Play all", "Play all button, use it"}, [this] { ++clicks; });
-    ImageButton& stop = scheme.AddButton({"PlayStopBtn", "Stop", "Stop button"}, [] {});
-    ImageButton& brush = scheme.AddButton({"BrushBtn", "Paint brush", ""}, [] {});
+    ImageButton& play = scheme.AddButton({"PlayAllBtn", Words::Later("Play all"),
+                                          Words::Later("Play all button, use it to play the full song (all tracks)")},
+                                         [this] { ++clicks; });
+    ImageButton& stop = scheme.AddButton(
+        {"PlayStopBtn", Words::Later("Stop"), Words::Later("Stop play button, use it to stop any playing sound")},
+        [] {});
+    ImageButton& brush = scheme.AddButton({"BrushBtn", Words::Later("Paint brush"), {}}, [] {});
 };
 
 TEST_F(ButtonSchemeTest, NamesTheButtonAndSaysWhatItIs)
@@ -41,7 +45,8 @@ TEST_F(ButtonSchemeTest, NamesTheButtonAndSaysWhatItIs)
     EXPECT_EQ(window.findChild<ImageButton*>(QStringLiteral("PlayAllBtn")), &play);
     EXPECT_EQ(&scheme.Button("PlayStopBtn"), &stop);
     EXPECT_EQ(play.accessibleName(), QStringLiteral("Play all"));
-    EXPECT_EQ(play.accessibleDescription(), QStringLiteral("Play all button, use it"));
+    EXPECT_EQ(play.accessibleDescription(),
+              QStringLiteral("Play all button, use it to play the full song (all tracks)"));
 }
 
 TEST_F(ButtonSchemeTest, AMoveRaisesTheButtonShowsItsHintAndStartsFiveSeconds)
@@ -49,13 +54,13 @@ TEST_F(ButtonSchemeTest, AMoveRaisesTheButtonShowsItsHintAndStartsFiveSeconds)
     EXPECT_FALSE(Timer().isActive());
     QTest::mouseMove(&play, QPoint(20, 20));
     EXPECT_EQ(play.Face(), ButtonFace::Raised);
-    EXPECT_EQ(statusLbl.text(), QStringLiteral("Play all button, use it"));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Play all button, use it to play the full song (all tracks)"));
     EXPECT_TRUE(Timer().isActive());
     EXPECT_EQ(Timer().interval(), 5000);
     QTest::mouseMove(&stop, QPoint(20, 20));
     EXPECT_EQ(play.Face(), ButtonFace::Normal);
     EXPECT_EQ(stop.Face(), ButtonFace::Raised);
-    EXPECT_EQ(statusLbl.text(), QStringLiteral("Stop button"));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Stop play button, use it to stop any playing sound"));
 }
 
 TEST_F(ButtonSchemeTest, TheTimerLowersTheRaisedButtonAndLeavesTheOneThatIsOn)
@@ -136,7 +141,7 @@ TEST_F(ButtonSchemeTest, TheButtonWithTheFocusLooksDifferent)
     QTest::keyClick(&play, Qt::Key_Tab);
     ASSERT_TRUE(stop.hasFocus());
     EXPECT_NE(stop.grab().toImage(), without);
-    EXPECT_EQ(statusLbl.text(), stop.Hint());
+    EXPECT_EQ(statusLbl.text(), stop.accessibleDescription());
 }
 
 TEST_F(ButtonSchemeTest, TheFourFacesLookDifferentInGrey)

@@ -33,7 +33,7 @@ TEST(ShowMessage, UsesTheFormOfOneNoteForABlankSecondLine)
 {
     Seen seen;
     ClickNext(seen, "OkBtn");
-    ShowMessage(Words::Text("Song not selected."), Words::Text("  "), Words::Text(" "));
+    ShowMessage(Words::Text("Song not selected."), Words::AsIs("  "), Words::Text(" "));
     EXPECT_EQ(seen.form, QStringLiteral("Msg1BtnFrm"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Tonquill Sprout Painter"));
 }
@@ -42,7 +42,7 @@ TEST(ShowMessage, UsesTheFormOfTwoNotesAndPutsABlankBeforeTheTitle)
 {
     Seen seen;
     ClickNext(seen, "OkBtn");
-    ShowMessage(Words::Text("Your song \"Zumi\" is saved."), Words::Text("Well done."), Words::Text("Good!"));
+    ShowMessage(Words::AsIs("Your song \"Zumi\" is saved."), Words::AsIs("Well done."), Words::Text("Good!"));
     EXPECT_EQ(seen.form, QStringLiteral("Msg1Btn2NoteFrm"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Good!"));
 }
@@ -51,20 +51,20 @@ TEST(AskYesNo, Is1ForYesAnd0ForNoCloseBoxAndEscape)
 {
     Seen seen;
     ClickNext(seen, "YesBtn");
-    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 1);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::AsIs("Zumi")), 1);
     EXPECT_EQ(seen.form, QStringLiteral("MsgYesNoFrm"));
     ClickNext(seen, "NoBtn");
-    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::AsIs("Zumi")), 0);
     ClickNext(seen, "CloseImgBtn");
-    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::AsIs("Zumi")), 0);
     WithNextForm([](BandedForm& form) { QTest::keyClick(&form, Qt::Key_Escape); });
-    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::Text("Zumi")), 0);
+    EXPECT_EQ(AskYesNo(Words::Text("Do you want to delete this song?"), Words::AsIs("Zumi")), 0);
 }
 
 TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
 {
     WithNextForm([](BandedForm& form) { QTest::keyClick(form.focusWidget(), Qt::Key_Return); });
-    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 0) << "the answer that loses nothing has the focus";
+    EXPECT_EQ(AskYesNo(Words::AsIs("Overwrite?")), 0) << "the answer that loses nothing has the focus";
     for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Backtab}) {
         int onYes = -1;
         WithNextForm([key, &onYes](BandedForm& form) {
@@ -72,7 +72,7 @@ TEST(AskYesNo, IsAnsweredWithArrowsTabAndEnter)
             onYes = form.focusWidget()->objectName() == QStringLiteral("YesBtn");
             QTest::keyClick(form.focusWidget(), Qt::Key_Return);
         });
-        EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 1);
+        EXPECT_EQ(AskYesNo(Words::AsIs("Overwrite?")), 1);
         EXPECT_EQ(onYes, 1);
     }
 }
@@ -86,7 +86,7 @@ TEST(AskYesNo, IsNotAnsweredByAnEnterHeldDownSinceBefore)
         }
         Click(form, "NoBtn");
     });
-    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 0);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Overwrite?")), 0);
 }
 
 TEST(AskYesNo, HasTheTimerOfItsRaisedButtonsOnFromTheStart)
@@ -95,7 +95,7 @@ TEST(AskYesNo, HasTheTimerOfItsRaisedButtonsOnFromTheStart)
         EXPECT_TRUE(form.findChild<QTimer*>(QStringLiteral("ButtonAllOffTimer"))->isActive());
         Click(form, "NoBtn");
     });
-    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 0);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Overwrite?")), 0);
 }
 
 TEST(AskText, ReturnsTheTextOnOkAndNothingElse)
@@ -139,11 +139,11 @@ TEST(ShowMessage, StacksOnAnotherModalForm)
             ++answers;
             Click(message, "OkBtn");
         });
-        ShowMessage(Words::Text("On top."));
+        ShowMessage(Words::AsIs("On top."));
         ++answers;
         Click(question, "YesBtn");
     });
-    EXPECT_EQ(AskYesNo(Words::Text("Below?")), 1);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Below?")), 1);
     EXPECT_EQ(answers, 2);
 }
 
@@ -157,7 +157,7 @@ TEST(QtMessages, ShowsATitledBoxOfSeveralLines)
         EXPECT_NE(form.findChild<QLabel*>(QStringLiteral("IconImg")), nullptr);
         Click(form, "OkBtn");
     });
-    QtMessages().MessageBox(Words::Text("Play Failed"), Words::Text("Could not Play Sound\nDriver busy or not ready"),
+    QtMessages().MessageBox(Words::Text("Play Failed"), Words::AsIs("Could not Play Sound\nDriver busy or not ready"),
                             MessageIcon::Exclamation);
     EXPECT_EQ(text, QStringLiteral("Could not Play Sound\nDriver busy or not ready"));
     EXPECT_EQ(seen.caption, QStringLiteral(" Play Failed"));

@@ -132,7 +132,7 @@ TEST_F(ChooseFileToOpenTest, BeginsInTheFolderAskedForElseInTheOneLastShown)
 TEST_F(ChooseFileToOpenTest, OffersTheKindsOfFilesInAnyLetterCase)
 {
     FileQuestion question = Question();
-    question.Filter = Words::Text("Picture files(*.bmp;*.gif)|*.bmp;*.gif|All files|*.*");
+    question.Filter = Words::AsIs("Picture files(*.bmp;*.gif)|*.bmp;*.gif|All files|*.*");
     Ask(question, [](QFileDialog& dialog) {
         EXPECT_EQ(dialog.nameFilters(),
                   (QStringList{QStringLiteral("Picture files(*.bmp;*.gif) (*.[bB][mM][pP] *.[gG][iI][fF])"),
@@ -149,7 +149,7 @@ TEST_F(ChooseFileToOpenTest, OffersTheKindsOfFilesInAnyLetterCase)
 TEST_F(ChooseFileToOpenTest, SelectsTheFilterThatIsAskedFor)
 {
     FileQuestion question = Question();
-    question.Filter = Words::Text("Wave files|*.wav|All files|*.*|Other sounds|*.mp3;*.ogg");
+    question.Filter = Words::AsIs("Wave files|*.wav|All files|*.*|Other sounds|*.mp3;*.ogg");
     question.FilterIndex = 3;
     Ask(question, [](QFileDialog& dialog) {
         EXPECT_TRUE(dialog.selectedNameFilter().startsWith(QStringLiteral("Other sounds")));

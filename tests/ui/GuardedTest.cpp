@@ -36,22 +36,22 @@ protected:
 
 TEST_F(GuardedTest, TellsWhatWentWrong)
 {
-    EXPECT_FALSE(Guarded([] { throw RunTimeError(Words::Text("No room.")); }));
+    EXPECT_FALSE(Guarded([] { throw RunTimeError(Words::AsIs("No room.")); }));
     EXPECT_TRUE(Guarded([this] { noted.emplace_back("done"); }));
     EXPECT_THAT(noted, testing::ElementsAre("No room.", "done"));
 }
 
 TEST_F(GuardedTest, PutsTheReasonIntoItsOwnText)
 {
-    const LaterWords failed = Words::Later("It failed.\r\n%1");
-    EXPECT_FALSE(Guarded(failed, [] { throw RunTimeError(Words::Text("No room.")); }));
+    const LaterWords failed = Words::Later("Error Saving file\r\n%1");
+    EXPECT_FALSE(Guarded(failed, [] { throw RunTimeError(Words::AsIs("No room.")); }));
     EXPECT_TRUE(Guarded(failed, [] {}));
-    EXPECT_THAT(noted, testing::ElementsAre("It failed.\r\nNo room."));
+    EXPECT_THAT(noted, testing::ElementsAre("Error Saving file\r\nNo room."));
 }
 
 TEST_F(GuardedTest, EndsWhatWouldFailAgainBeforeTheBoxOpens)
 {
-    GuardedOnce([] { throw RunTimeError(Words::Text("No room.")); }, [this] { noted.emplace_back("timer stopped"); });
+    GuardedOnce([] { throw RunTimeError(Words::AsIs("No room.")); }, [this] { noted.emplace_back("timer stopped"); });
     GuardedOnce([] {}, [this] { noted.emplace_back("not stopped"); });
     EXPECT_THAT(noted, testing::ElementsAre("timer stopped", "No room."));
 }

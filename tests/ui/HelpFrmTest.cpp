@@ -188,7 +188,7 @@ TEST_F(HelpFrmTest, CanBeUsedWhileAModalFormWaitsThatItWasCalledFrom)
         formWaits = question.isVisible();
         Click(question, "YesBtn");
     });
-    EXPECT_EQ(AskYesNo(Words::Text("Overwrite?")), 1);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Overwrite?")), 1);
     EXPECT_TRUE(formWaits);
     EXPECT_EQ(shown, QStringLiteral("Playing"));
     ASSERT_NE(OpenedHelp(), nullptr); // it outlives the form
@@ -210,13 +210,13 @@ TEST_F(HelpFrmTest, CanBeUsedWhileModalFormsWaitThatCameLater)
             shown.push_back(Shown(help));
             Click(onTop, "OkBtn");
         });
-        ShowMessage(Words::Text("On top."));
+        ShowMessage(Words::AsIs("On top."));
         QApplication::processEvents();
         ClickPage(help, 3);
         shown.push_back(Shown(help));
         Click(question, "YesBtn");
     });
-    EXPECT_EQ(AskYesNo(Words::Text("Below?")), 1);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Below?")), 1);
     EXPECT_EQ(shown.join(QLatin1Char('/')), QStringLiteral("Painting/Playing/Tracks and tunes"));
     EXPECT_EQ(OpenedHelp(), &help);
 }
@@ -237,7 +237,7 @@ TEST_F(HelpFrmTest, StaysInFrontOfTheWindowThatItWasCalledFrom)
         Click(question, "YesBtn");
     });
     QApplication::setActiveWindow(&window);
-    EXPECT_EQ(AskYesNo(Words::Text("Below?")), 1);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Below?")), 1);
     QApplication::processEvents();
     EXPECT_EQ(duringTheQuestion, questionWindow);
     EXPECT_EQ(help.windowHandle()->transientParent(), window.windowHandle());
@@ -255,7 +255,7 @@ TEST_F(HelpFrmTest, CanBeClosedWhileAModalFormWaits)
         EXPECT_EQ(OpenedHelp(), nullptr);
         Click(message, "OkBtn");
     });
-    ShowMessage(Words::Text("Still here."));
+    ShowMessage(Words::AsIs("Still here."));
 }
 
 TEST_F(HelpFrmTest, OwnsNoQuestionThatIsAskedWhileItIsInFront)
@@ -268,7 +268,7 @@ TEST_F(HelpFrmTest, OwnsNoQuestionThatIsAskedWhileItIsInFront)
         owner = message.parentWidget();
         Click(message, "OkBtn");
     });
-    ShowMessage(Words::Text("The sound has ended."));
+    ShowMessage(Words::AsIs("The sound has ended."));
     EXPECT_EQ(owner, nullptr);
 }
 

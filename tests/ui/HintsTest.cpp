@@ -19,27 +19,29 @@ namespace {
 
 TEST(MainWindowHint, TellsWhatAControlDoes)
 {
-    EXPECT_EQ(MainWindowHint("TrackAddRecBtn"), "Add Audio track button. Use it to record your voice sound or choose a "
-                                                "wav file to add as an audio track");
+    EXPECT_EQ(MainWindowHint("TrackAddRecBtn").English(),
+              "Add Audio track button. Use it to record your voice sound or choose a "
+              "wav file to add as an audio track");
     EXPECT_EQ(MainWindowHint("SngTitle2Lbl"), MainWindowHint("SngTitleLbl"));
-    EXPECT_EQ(MainWindowHint("StatusFramePic"), "Move the mouse over any button to read help clue here");
-    EXPECT_EQ(MainWindowHint("AboutBtn"), "About button, use it to read about " + std::string(kProductFamily));
+    EXPECT_EQ(MainWindowHint("StatusFramePic").English(), "Move the mouse over any button to read help clue here");
+    EXPECT_EQ(MainWindowHint("AboutBtn").English(),
+              "About button, use it to read about " + std::string(kProductFamily));
 }
 
 TEST(MainWindowHint, IsEmptyWhereThereIsNone)
 {
-    EXPECT_EQ(MainWindowHint("DemoBtn"), "");
-    EXPECT_EQ(MainWindowHint("NoSuchBtn"), "");
+    EXPECT_EQ(MainWindowHint("DemoBtn").English(), "");
+    EXPECT_EQ(MainWindowHint("NoSuchBtn").English(), "");
 }
 
 TEST(ShowHint, NeedsNoStatusLine)
 {
     auto label = std::make_unique<QLabel>();
     SetStatusLbl(label.get());
-    ShowHint(QStringLiteral("Save"));
+    ShowHint(Words::AsIs("Save"));
     EXPECT_EQ(label->text(), QStringLiteral("Save"));
     label.reset();
-    ShowHint(QStringLiteral("Open"));
+    ShowHint(Words::AsIs("Open"));
 }
 
 TEST(AddHintStrip, ShowsHintsWhileItsWindowHidesTheStatusLine)
@@ -56,17 +58,17 @@ TEST(AddHintStrip, ShowsHintsWhileItsWindowHidesTheStatusLine)
     strip->resize(60, 20);
     AddHintStrip(*strip);
     window.show();
-    ShowHint(QStringLiteral("Save"));
+    ShowHint(Words::AsIs("Save"));
     EXPECT_EQ(strip->text(), QString()) << "the status line is seen";
     window.resize(300, 190);
-    ShowHint(QStringLiteral("Save"));
+    ShowHint(Words::AsIs("Save"));
     EXPECT_EQ(strip->text(), QStringLiteral("Save"));
-    ShowHint(QStringLiteral("Save button, use it to save the song you made"));
+    ShowHint(Words::AsIs("Save button, use it to save the song you made"));
     EXPECT_TRUE(strip->text().endsWith(QChar(0x2026)));
     ShowHint({});
     EXPECT_EQ(strip->text(), QString());
     strip.reset();
-    ShowHint(QStringLiteral("Open"));
+    ShowHint(Words::AsIs("Open"));
     EXPECT_EQ(statusLbl.text(), QStringLiteral("Open"));
     SetStatusLbl(nullptr);
 }
@@ -79,7 +81,7 @@ TEST(HintWatcher, FollowsTheTabKey)
     QLineEdit first(&window);
     QLineEdit second(&window);
     HintWatcher watcher(&window);
-    watcher.Watch(second, "You can type your name here");
+    watcher.Watch(second, Words::Text("You can type your name here"));
     window.show();
     QApplication::setActiveWindow(&window);
     first.setFocus();
@@ -99,8 +101,8 @@ TEST(HintWatcher, ShowsAndClearsHintsAsTheMouseMoves)
     QWidget label(&window);
     label.setGeometry(0, 0, 50, 50);
     HintWatcher watcher(&window);
-    watcher.Watch(label, "Song duration in seconds");
-    watcher.Watch(window, "");
+    watcher.Watch(label, Words::Text("Song duration in seconds"));
+    watcher.Watch(window, {});
     window.show();
     QTest::mouseMove(&label, QPoint(10, 10));
     EXPECT_EQ(statusLbl.text(), QStringLiteral("Song duration in seconds"));
@@ -115,12 +117,12 @@ TEST(HintWatcher, LeavesTheHintsOfButtonsOnAWatchedWindowAlone)
     QWidget window;
     window.resize(200, 100);
     HintWatcher watcher(&window);
-    watcher.Watch(window, "");
+    watcher.Watch(window, {});
     ButtonScheme scheme(window, AllOffTimer::OffAtFirst);
-    ImageButton& save = scheme.AddButton({"SaveBtn", "Save", "Save button"}, [] {});
+    ImageButton& save = scheme.AddButton({"SaveBtn", Words::Later("Save"), Words::Later("Restore button")}, [] {});
     window.show();
     QTest::mouseMove(&save, QPoint(20, 20));
-    EXPECT_EQ(statusLbl.text(), QStringLiteral("Save button"));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Restore button"));
 }
 
 TEST(HintWatcher, LeavesTheHintOfACommandUntilTheMouseMoves)
@@ -130,16 +132,16 @@ TEST(HintWatcher, LeavesTheHintOfACommandUntilTheMouseMoves)
     QWidget window;
     window.resize(200, 100);
     HintWatcher watcher(&window);
-    watcher.Watch(window, "");
+    watcher.Watch(window, {});
     ButtonScheme scheme(window, AllOffTimer::OffAtFirst);
-    ImageButton& yes = scheme.AddButton({"YesBtn", "Yes", "Yes button"}, [] {});
+    ImageButton& yes = scheme.AddButton({"YesBtn", Words::Later("Yes"), Words::Later("Close button")}, [] {});
     QCursor::setPos(window.mapToGlobal(QPoint(150, 80)));
-    ShowHint(QStringLiteral("Click Yes to delete, No to keep"));
+    ShowHint(Words::AsIs("Click Yes to delete, No to keep"));
     window.show(); // under the pointer
     QApplication::processEvents();
     EXPECT_EQ(statusLbl.text(), QStringLiteral("Click Yes to delete, No to keep"));
     QTest::mouseMove(&yes, QPoint(20, 20));
-    EXPECT_EQ(statusLbl.text(), QStringLiteral("Yes button"));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Close button"));
 }
 
 } // namespace

@@ -25,8 +25,8 @@ int ResultOf(BandedForm& form, const char* button)
 
 TEST(NotesForm, IsAsWideAsItsWidestNoteAndAMarginOf8)
 {
-    Msg1Btn2NoteFrm form(nullptr, Words::Text("Short"),
-                         Words::Text("A note that is certainly wider than two hundred and thirty pixels"));
+    Msg1Btn2NoteFrm form(nullptr, Words::AsIs("Short"),
+                         Words::AsIs("A note that is certainly wider than two hundred and thirty pixels"));
     EXPECT_EQ(form.width(), Part(form, "NoteLbl2").width() + 16);
 }
 
@@ -47,17 +47,17 @@ TEST(NotesForm, WrapsItsTextWhereASmallScreenWould)
 
 TEST(NotesForm, IsNoNarrowerThan230And250)
 {
-    EXPECT_EQ(Msg1BtnFrm(nullptr, Words::Text("Hi")).width(), 246);
-    EXPECT_EQ(MsgYesNoFrm(nullptr, Words::Text("Hi"), {}).width(), 266);
+    EXPECT_EQ(Msg1BtnFrm(nullptr, Words::AsIs("Hi")).width(), 246);
+    EXPECT_EQ(MsgYesNoFrm(nullptr, Words::AsIs("Hi"), {}).width(), 266);
     EXPECT_GE(SaveConfirmFrm(nullptr, "Hi").width(), 316);
 }
 
 TEST(NotesForm, CentresItsButtons)
 {
-    Msg1BtnFrm one(nullptr, Words::Text("A note"));
+    Msg1BtnFrm one(nullptr, Words::AsIs("A note"));
     const QRect ok = Part(one, "OkBtn").geometry();
     EXPECT_EQ(ok.left(), (one.width() - ok.width()) / 2);
-    MsgYesNoFrm two(nullptr, Words::Text("A question"), {});
+    MsgYesNoFrm two(nullptr, Words::AsIs("A question"), {});
     const QRect yes = Part(two, "YesBtn").geometry();
     const QRect no = Part(two, "NoBtn").geometry();
     EXPECT_EQ(yes.top(), no.top());
@@ -100,7 +100,7 @@ TEST(InputBoxFrm, StandsByItsNumberOfNotes)
     EXPECT_EQ(one.height(), 151);
     EXPECT_EQ(Part(one, "InputTxt").y() - kBandHeight, 32);
     EXPECT_EQ(Part(one, "OkBtn").y() - kBandHeight, 74);
-    InputBoxFrm two(nullptr, "Zumi", Words::Text("Enter the new name:"), Words::Text("It may hold letters."));
+    InputBoxFrm two(nullptr, "Zumi", Words::Text("Enter the new name:"), Words::AsIs("It may hold letters."));
     EXPECT_EQ(two.height(), 176);
     EXPECT_EQ(Part(two, "InputTxt").y() - kBandHeight, 56);
     EXPECT_EQ(Part(two, "OkBtn").y() - kBandHeight, 98);
@@ -108,7 +108,7 @@ TEST(InputBoxFrm, StandsByItsNumberOfNotes)
 
 TEST(BandedForm, MovesWithItsBand)
 {
-    Msg1BtnFrm form(nullptr, Words::Text("A note"));
+    Msg1BtnFrm form(nullptr, Words::AsIs("A note"));
     form.move(100, 100);
     form.show();
     QTest::mousePress(&form, Qt::LeftButton, {}, QPoint(60, 10));
@@ -119,7 +119,7 @@ TEST(BandedForm, MovesWithItsBand)
 
 TEST(BandedForm, StandsInTheMiddleOfTheScreen)
 {
-    Msg1BtnFrm form(nullptr, Words::Text("A note"));
+    Msg1BtnFrm form(nullptr, Words::AsIs("A note"));
     QPoint middle;
     WithNextForm([&middle](BandedForm& shown) {
         middle = shown.geometry().center();
@@ -173,7 +173,7 @@ TEST_F(SongTitleFrmTest, StaysOpenWithoutATitle)
     NameTxt().setText(QStringLiteral("  "));
     QLabel statusLbl;
     SetStatusLbl(&statusLbl);
-    ShowHint(QStringLiteral("Before"));
+    ShowHint(Words::AsIs("Before"));
     QString message;
     WithNextForm([&](BandedForm& shown) {
         WithNextForm([&](BandedForm& box) {

@@ -293,7 +293,7 @@ TEST_F(PictureGridPicTest, ScrollsWithTheWheel)
 TEST_F(PictureGridPicTest, PrintsItsLinesOnlyWhenItIsEmpty)
 {
     const QImage full = grid.grab().toImage();
-    grid.SetLines({QStringLiteral(" No beat file found to show here."), QStringLiteral(" Please reinstall.")});
+    grid.SetLines({Words::Text(" No beat file found to show here."), Words::AsIs(" Please reinstall.")});
     EXPECT_EQ(grid.grab().toImage(), full);
     Fill(0);
     const QImage lines = grid.grab().toImage();

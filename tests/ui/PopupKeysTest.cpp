@@ -14,7 +14,7 @@ namespace {
 
 /// A box with three entries in a form, with its list open; the form has the keyboard, as under Wayland.
 struct OpenList {
-    Msg1BtnFrm form{nullptr, Words::Text("A note")};
+    Msg1BtnFrm form{nullptr, Words::AsIs("A note")};
     QComboBox box{&form};
 
     OpenList()

@@ -38,7 +38,7 @@ TEST(QtText, LooksTheWordsUpWhenTheyAreShown)
     const Words words = Words::Text("The song \"%1\"", "%1");
     const OneSentence language;
     EXPECT_EQ(QtText(words), QStringLiteral("„%1“, das Lied"));
-    EXPECT_EQ(QtText(Words::Text("Another sentence")), QStringLiteral("Another sentence"));
+    EXPECT_EQ(QtText(Words::AsIs("Another sentence")), QStringLiteral("Another sentence"));
 }
 
 TEST(QtText, LooksUpNoTextFromOutside)

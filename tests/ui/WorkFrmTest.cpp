@@ -42,14 +42,14 @@ TEST(WorkFrm, ShowsWhatIsDoneAndHowFarItIs)
 TEST(WorkFrm, StopsByItsButtonItsCloseBoxAndEscape)
 {
     for (const char* button : {"StopBtn", "CloseImgBtn"}) {
-        WorkFrm form(nullptr, Words::Text("Mixing"));
+        WorkFrm form(nullptr, Words::AsIs("Mixing"));
         form.Appear();
         EXPECT_FALSE(form.StopWanted());
         Click(form, button);
         EXPECT_TRUE(form.StopWanted()) << button;
         EXPECT_TRUE(form.isVisible()) << "until the work has ended";
     }
-    WorkFrm form(nullptr, Words::Text("Mixing"));
+    WorkFrm form(nullptr, Words::AsIs("Mixing"));
     form.Appear();
     QTest::keyClick(&form, Qt::Key_Escape);
     EXPECT_TRUE(form.StopWanted());
@@ -57,7 +57,7 @@ TEST(WorkFrm, StopsByItsButtonItsCloseBoxAndEscape)
 
 TEST(WorkFrm, DoesNotTakeTheKeyThatBeganTheWorkForAStop)
 {
-    WorkFrm form(nullptr, Words::Text("Mixing"));
+    WorkFrm form(nullptr, Words::AsIs("Mixing"));
     form.Appear();
     QTest::keyClick(&form, Qt::Key_Return);
     QTest::keyClick(&form, Qt::Key_Enter);
@@ -94,7 +94,7 @@ TEST_F(StoppableWorkTest, ShowsAFormOnceItHasLasted)
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     EXPECT_GE(working.elapsed(), 500);
     EXPECT_EQ(ShownWork()->findChild<QLabel*>(QStringLiteral("WorkLbl"))->text(), QStringLiteral("Mixing your song"));
-    screen.NextStage(Words::Text("Writing"));
+    screen.NextStage(Words::AsIs("Writing"));
     EXPECT_EQ(ShownWork()->findChild<QLabel*>(QStringLiteral("WorkLbl"))->text(), QStringLiteral("Writing"));
     screen.EndStoppable();
     EXPECT_EQ(ShownWork(), nullptr);
@@ -102,7 +102,7 @@ TEST_F(StoppableWorkTest, ShowsAFormOnceItHasLasted)
 
 TEST_F(StoppableWorkTest, EndsWhenTheButtonIsClicked)
 {
-    screen.BeginStoppable(Words::Text("Mixing"));
+    screen.BeginStoppable(Words::AsIs("Mixing"));
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     Click(*ShownWork(), "StopBtn");
     EXPECT_THROW(screen.ShowProgress(1, 2), WorkStopped);
@@ -116,7 +116,7 @@ TEST_F(StoppableWorkTest, LetsNoOtherTimerTick)
     int ticks = 0;
     QObject::connect(&blinking, &QTimer::timeout, [&ticks] { ++ticks; });
     blinking.start(0);
-    screen.BeginStoppable(Words::Text("Mixing"));
+    screen.BeginStoppable(Words::AsIs("Mixing"));
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     QElapsedTimer shown;
     shown.start();
@@ -130,7 +130,7 @@ TEST_F(StoppableWorkTest, LetsNoOtherTimerTick)
 TEST_F(StoppableWorkTest, ThePointerIsNoHourglassOverItsButton)
 {
     screen.ShowHourglass();
-    screen.BeginStoppable(Words::Text("Mixing"));
+    screen.BeginStoppable(Words::AsIs("Mixing"));
     EXPECT_NE(QApplication::overrideCursor(), nullptr);
     ASSERT_TRUE(WorkUntil([] { return ShownWork() != nullptr; }));
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);

@@ -30,34 +30,34 @@ const std::vector<SheetButton>& SheetButtons()
     constexpr QSize addTool{48, 48};
     constexpr QSize title{24, 24};
     static const std::vector<SheetButton> buttons{
-        {{"PlayAllBtn", "", ""}, tool},
-        {{"PlayStopBtn", "", ""}, tool},
-        {{"BrushBtn", "", ""}, tool},
-        {{"EraserBtn", "", ""}, tool},
-        {{"PlayToolBtn", "", ""}, tool},
-        {{"NewBtn", "", ""}, tool},
-        {{"OpenBtn", "", ""}, tool},
-        {{"SaveBtn", "", ""}, tool},
-        {{"SongTitleChgBtn", "", ""}, tool},
-        {{"EmailBtn", "", ""}, tool},
-        {{"HelpBtn", "", ""}, tool},
-        {{"AboutBtn", "", ""}, tool},
-        {{"DemoBtn", "", ""}, tool},
-        {{"VolumeUpBtn", "", ""}, tool},
-        {{"VolumeDnBtn", "", ""}, tool},
-        {{"DeleteBtn", "", ""}, tool},
-        {{"ZoomInBtn", "", ""}, tool},
-        {{"ZoomOutBtn", "", ""}, tool},
-        {{"TrackAddBtn", "", ""}, addTool},
-        {{"TrackAddRecBtn", "", ""}, addTool},
-        {{"BrushBtn", "", ""}, {40, 40}},
-        {{"TrackPlayBtn", "", ""}, {32, 32}},
-        {{"TrackAudioBtn", "", ""}, {34, 34}},
-        {{"CloseImgBtn", "", "", Plate::Title}, title},
-        {{"MaximizeImgBtn", "", "", Plate::Title}, title},
-        {{"MinimizeImgBtn", "", "", Plate::Title}, title},
-        {{"RestoreImgBtn", "", "", Plate::Title}, title},
-        {{"TrackDeleteBtn", "", "", Plate::Title}, {14, 16}},
+        {{"PlayAllBtn"}, tool},
+        {{"PlayStopBtn"}, tool},
+        {{"BrushBtn"}, tool},
+        {{"EraserBtn"}, tool},
+        {{"PlayToolBtn"}, tool},
+        {{"NewBtn"}, tool},
+        {{"OpenBtn"}, tool},
+        {{"SaveBtn"}, tool},
+        {{"SongTitleChgBtn"}, tool},
+        {{"EmailBtn"}, tool},
+        {{"HelpBtn"}, tool},
+        {{"AboutBtn"}, tool},
+        {{"DemoBtn"}, tool},
+        {{"VolumeUpBtn"}, tool},
+        {{"VolumeDnBtn"}, tool},
+        {{"DeleteBtn"}, tool},
+        {{"ZoomInBtn"}, tool},
+        {{"ZoomOutBtn"}, tool},
+        {{"TrackAddBtn"}, addTool},
+        {{"TrackAddRecBtn"}, addTool},
+        {{"BrushBtn"}, {40, 40}},
+        {{"TrackPlayBtn"}, {32, 32}},
+        {{"TrackAudioBtn"}, {34, 34}},
+        {{"CloseImgBtn", {}, {}, Plate::Title}, title},
+        {{"MaximizeImgBtn", {}, {}, Plate::Title}, title},
+        {{"MinimizeImgBtn", {}, {}, Plate::Title}, title},
+        {{"RestoreImgBtn", {}, {}, Plate::Title}, title},
+        {{"TrackDeleteBtn", {}, {}, Plate::Title}, {14, 16}},
     };
     return buttons;
 }
@@ -85,9 +85,10 @@ void DrawButtonSheet(const QString& folder)
 
 void DrawWordSheet(const QString& folder)
 {
-    const std::array rows{ButtonRow{"OkBtn", "OK", "", Plate::Word, kDeepLeaf},
-                          ButtonRow{"CancelBtn", "Cancel", "", Plate::Word, kStone},
-                          ButtonRow{"StartRecordingBtn", "Recording", "", Plate::Word, kCoral, "WordRecord"}};
+    const std::array rows{
+        ButtonRow{"OkBtn", Words::Later("OK"), {}, Plate::Word, kDeepLeaf},
+        ButtonRow{"CancelBtn", Words::Later("Cancel"), {}, Plate::Word, kStone},
+        ButtonRow{"StartRecordingBtn", Words::Later("Recording"), {}, Plate::Word, kCoral, "WordRecord"}};
     QWidget sheet;
     ButtonScheme scheme(sheet, AllOffTimer::OffAtFirst);
     int top = 8;

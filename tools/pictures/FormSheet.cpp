@@ -27,7 +27,7 @@ public:
     {
         widget.show();
         QApplication::processEvents();
-        pictures.push_back(widget.grab());
+        pictures.push_back(PictureOf(widget, QStringLiteral("forms")));
     }
 
     void SaveTo(const QString& folder)

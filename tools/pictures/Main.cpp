@@ -17,19 +17,22 @@
 #include "pictures/MainWindowSheets.h"
 #include "pictures/PicturePixels.h"
 #include "pictures/RecordingSheets.h"
+#include "pictures/SheetPicture.h"
 #include "pictures/SongWindowSheets.h"
 #include "pictures/StepEditorSheets.h"
 #include "pictures/TuneWindowSheets.h"
 #include "ui/Look.h"
+#include "ui/PseudoLanguage.h"
 
 namespace {
 
-constexpr const char* kUsage = "usage: sprout-pictures SCALE FOLDER [SONG]\n"
+constexpr const char* kUsage = "usage: sprout-pictures [--pseudo] SCALE FOLDER [SONG]\n"
                                "       sprout-pictures --window PICTURE SONG\n"
                                "       sprout-pictures --pixels PICTURE...\n"
                                "Draws buttons, artworks, dialogs and, with a song, the main window, for example at the "
                                "scale 2; or the\nmain window alone; or tells a hash of each picture's pixels, its size "
-                               "and its name.\n";
+                               "and its name.\n--pseudo: with longer texts, as a translation would have; prints those "
+                               "that do not fit.\n";
 
 /// Prints a line about the picture; returns false if it cannot be read.
 bool TellPixels(const char* path)
@@ -67,6 +70,11 @@ int main(int argc, char** argv)
 {
     if (argc > 2 && std::string_view(argv[1]) == "--pixels")
         return std::all_of(argv + 2, argv + argc, TellPixels) ? 0 : 1;
+    const bool isPseudo = argc > 1 && std::string_view(argv[1]) == "--pseudo";
+    if (isPseudo) {
+        ++argv;
+        --argc;
+    }
     const bool windowAlone = argc == 4 && std::string_view(argv[1]) == "--window";
     if (argc != 3 && argc != 4) {
         std::fputs(kUsage, stderr);
@@ -74,6 +82,11 @@ int main(int argc, char** argv)
     }
     StartOffscreen(windowAlone ? "1" : argv[1]);
     QApplication application(argc, argv);
+    sprout::PseudoLanguage pseudoLanguage;
+    if (isPseudo) {
+        QCoreApplication::installTranslator(&pseudoLanguage);
+        sprout::WatchTexts();
+    }
     sprout::ApplyLook(application);
     try {
         if (windowAlone)

@@ -67,7 +67,7 @@ public:
         Shared().Song.SongTitle = QFileInfo(songPath).completeBaseName().toStdString();
         window = std::make_unique<MainFrm>(transport);
         window->ShowSoundDevices(1);
-        ShowHint(QStringLiteral("Ready"));
+        ShowHint(Words::Text("Ready"));
         ShowSong();
         window->show();
     }
@@ -164,7 +164,7 @@ void DrawFaces(const QString& songPath, const QString& folder)
         shown.Point("TrackTitlePic", at);
         shown.Draw(QStringLiteral("%1/main-strip-%2.png").arg(folder).arg(at.x()));
     }
-    ShowHint(shown.Button("TrackAddRecBtn").Hint());
+    ShowHintOf(shown.Button("TrackAddRecBtn"));
     shown.Draw(folder + QStringLiteral("/main-long-hint.png"), QSize(700, 500));
 }
 

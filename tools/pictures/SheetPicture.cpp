@@ -2,14 +2,52 @@
 #include "pictures/SheetPicture.h"
 
 #include <QApplication>
+#include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
+
+#include "pictures/CutTexts.h"
 
 namespace sprout {
 
+namespace {
+
+bool areTextsWatched = false;
+
+/// True for the program's own texts in the pseudo-language, whose letters have marks.
+bool IsTranslated(const QString& text)
+{
+    constexpr QChar kLastOfAscii(0x7F);
+    constexpr QChar kEllipsis(0x2026);
+    return std::any_of(text.begin(), text.end(),
+                       [](QChar letter) { return letter > kLastOfAscii && letter != kEllipsis; });
+}
+
+void TellCutTexts(QWidget& widget, const QString& name)
+{
+    for (const QString& text : CutTexts(widget))
+        if (IsTranslated(text))
+            std::printf("%s: %s\n", qPrintable(name), qUtf8Printable(text));
+}
+
+} // namespace
+
+void WatchTexts()
+{
+    areTextsWatched = true;
+}
+
+QPixmap PictureOf(QWidget& widget, const QString& name)
+{
+    if (areTextsWatched)
+        TellCutTexts(widget, name);
+    return widget.grab();
+}
+
 bool SavePicture(QWidget& widget, const QString& path)
 {
-    if (widget.grab().save(path))
+    if (PictureOf(widget, QFileInfo(path).completeBaseName()).save(path))
         return true;
     std::fprintf(stderr, "%s cannot be written.\n", qPrintable(path));
     return false;

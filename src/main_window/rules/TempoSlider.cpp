@@ -19,14 +19,14 @@ std::int32_t SecondsOrZero(std::int32_t tempo)
 
 } // namespace
 
-std::string TempoLabel(std::int32_t percent)
+Words TempoLabel(std::int32_t percent)
 {
-    return std::to_string(percent) + "%";
+    return Words::Text("%1%", percent);
 }
 
-std::string DurationLabel(std::int32_t tempo)
+Words DurationLabel(std::int32_t tempo)
 {
-    return std::to_string(SecondsOrZero(tempo)) + " sec";
+    return Words::Text("%1 sec", SecondsOrZero(tempo));
 }
 
 } // namespace sprout

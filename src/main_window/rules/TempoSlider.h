@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// "100%".
-[[nodiscard]] std::string TempoLabel(std::int32_t percent);
+[[nodiscard]] Words TempoLabel(std::int32_t percent);
 
 /// The whole grid's duration, e.g. "240 sec". A tempo of 0 gives "0 sec".
-[[nodiscard]] std::string DurationLabel(std::int32_t tempo);
+[[nodiscard]] Words DurationLabel(std::int32_t tempo);
 
 } // namespace sprout

@@ -32,13 +32,12 @@ TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::
     return {PointerImage::ToolCursor, kTracksHint, cell, CursorOfCell(view, hit.cell, track)};
 }
 
-std::string CellInWords(const SongState& song, std::int32_t track, std::int32_t cell)
+Words CellInWords(const SongState& song, std::int32_t track, std::int32_t cell)
 {
-    const std::string place = "cell " + std::to_string(cell);
     if (track < 1 || track > song.TrackCount)
-        return "Time, " + place;
-    return "Track " + std::to_string(track) + ", " + place +
-           (At(song.Tracks, track).IsPainted(cell) ? ", painted" : ", empty");
+        return Words::Text("Time, cell %1", cell);
+    return At(song.Tracks, track).IsPainted(cell) ? Words::Text("Track %1, cell %2, painted", track, cell)
+                                                  : Words::Text("Track %1, cell %2, empty", track, cell);
 }
 
 } // namespace sprout

@@ -6,15 +6,16 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
 #include "core/Song.h"
 #include "main_window/rules/TrackGeometry.h"
 
 namespace sprout {
 
-inline constexpr std::string_view kTimeBandHint =
-    "Main Song Track (all tracks mixed), use play tool and click on this to play song from there.";
-inline constexpr std::string_view kTracksHint =
-    "Music tracks, use the paint brush and eraser to draw here. Or use play tool to play";
+inline constexpr LaterWords kTimeBandHint =
+    Words::Later("Main Song Track (all tracks mixed), use play tool and click on this to play song from there.");
+inline constexpr LaterWords kTracksHint =
+    Words::Later("Music tracks, use the paint brush and eraser to draw here. Or use play tool to play");
 
 inline constexpr std::int32_t kCellCursorWidth = 3;
 inline constexpr std::int32_t kCellCursorHeight = 32;
@@ -32,7 +33,7 @@ struct CellCursor {
 /// What the painting surface shows for the pointer.
 struct TrackPointer {
     PointerImage image = PointerImage::Default;
-    std::string_view hint;
+    LaterWords hint;
     std::string TrackMouPosLbl;           ///< the cell's number, or empty
     std::optional<CellCursor> cellCursor; ///< empty: hidden
 };
@@ -41,6 +42,6 @@ struct TrackPointer {
 [[nodiscard]] TrackPointer PointerOverTracks(const TrackView& view, const TrackHit& hit, std::int32_t dragTrack);
 
 /// Describes a cell for screen readers: "Track 2, cell 14, painted". track: 0 for the time band.
-[[nodiscard]] std::string CellInWords(const SongState& song, std::int32_t track, std::int32_t cell);
+[[nodiscard]] Words CellInWords(const SongState& song, std::int32_t track, std::int32_t cell);
 
 } // namespace sprout

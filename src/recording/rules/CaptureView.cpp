@@ -11,7 +11,6 @@ namespace {
 
 constexpr double kSilentSeconds = 2;
 constexpr std::string_view kPausedMark = " [P]";
-constexpr std::string_view kSilentWords = " - I cannot hear you";
 
 /// Silence is not reported while a capture is not running.
 bool IsSilent(const CaptureStatus& now)
@@ -19,19 +18,19 @@ bool IsSilent(const CaptureStatus& now)
     return now.State != CaptureState::Stopped && now.SilentSeconds >= kSilentSeconds;
 }
 
-std::string_view ReasonOf(CaptureEnd end)
+LaterWords DoneWords(CaptureEnd end)
 {
     switch (end) {
     case CaptureEnd::DiskFull:
-        return " - the disk is full";
+        return Words::Later("Recording Done - the disk is full");
     case CaptureEnd::MicrophoneGone:
-        return " - the microphone is gone";
+        return Words::Later("Recording Done - the microphone is gone");
     case CaptureEnd::TooLong:
-        return " - it cannot become any longer";
+        return Words::Later("Recording Done - it cannot become any longer");
     case CaptureEnd::None:
         break;
     }
-    return "";
+    return Words::Later("Recording Done");
 }
 
 } // namespace
@@ -40,8 +39,8 @@ void CaptureView::Start()
 {
     elapsed = 0;
     duration = "0.0";
-    stateText.clear();
-    status.clear();
+    stateText = {};
+    status = {};
     isKeeping = true;
 }
 
@@ -68,20 +67,17 @@ bool CaptureView::Update(const CaptureStatus& now, const CapturePeaks& peaks)
 void CaptureView::UpdateText(const CaptureStatus& now, bool isNewState)
 {
     if (isNewState && now.State == CaptureState::Paused)
-        stateText = "Recording Paused";
+        stateText = Words::Text("Recording Paused");
     if (isNewState && now.State == CaptureState::Recording)
-        stateText = "Now Recording";
+        stateText = Words::Text("Now Recording");
     const bool hasRun = lastState == CaptureState::Recording || lastState == CaptureState::Paused;
     // A capture that ended between its start and the first update has run as well.
     const bool endsNow = now.State == CaptureState::Stopped && (hasRun || now.End != CaptureEnd::None);
     if (endsNow && isKeeping) {
-        stateText = "Recording Done";
-        stateText += ReasonOf(now.End);
+        stateText = DoneWords(now.End);
         End();
     }
-    status = stateText;
-    if (IsSilent(now))
-        status += kSilentWords;
+    status = IsSilent(now) ? Words::Text("%1 - I cannot hear you", stateText) : stateText;
 }
 
 void CaptureView::UpdateMeters(const CapturePeaks& peaks, std::int64_t pieces)
@@ -95,7 +91,7 @@ void CaptureView::Stop()
     if (duration.ends_with(kPausedMark))
         duration.resize(duration.size() - kPausedMark.size());
     if (isKeeping)
-        status = "Recording Done";
+        status = DoneWords(CaptureEnd::None);
     End();
 }
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "base/Words.h"
 #include "recording/rules/Meter.h"
 #include "service/CaptureRecords.h"
 
@@ -36,7 +37,7 @@ public:
     void Stop();
 
     [[nodiscard]] const std::string& Duration() const { return duration; }
-    [[nodiscard]] const std::string& Status() const { return status; }
+    [[nodiscard]] const Words& Status() const { return status; }
     [[nodiscard]] std::int32_t BarColour() const { return barColour; }
     [[nodiscard]] const MeterView& Left() const { return left; }
     [[nodiscard]] const MeterView& Right() const { return right; }
@@ -54,8 +55,8 @@ private:
     std::int64_t lastPieces = 0;
     bool lastSilent = false;
     std::string duration;
-    std::string stateText; ///< the status without its additions
-    std::string status;
+    Words stateText; ///< the status without silence
+    Words status;
     std::int32_t barColour = kIdleBarColour;
     MeterView left;
     MeterView right;

@@ -37,7 +37,7 @@ bool WaveEditor::SelectsAll() const
     return view.SelectionEnd - view.SelectionStart + 1 >= wave.Length;
 }
 
-std::string WaveEditor::Spoken() const
+Words WaveEditor::Spoken() const
 {
     return SpokenSelection(view, wave.Rate);
 }

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "base/WaveData.h"
+#include "base/Words.h"
 #include "recording/rules/WaveEdits.h"
 #include "recording/rules/WavePoints.h"
 #include "recording/rules/WaveSelection.h"
@@ -33,7 +34,7 @@ public:
     /// True if there is nothing beside the selection.
     [[nodiscard]] bool SelectsAll() const;
     /// The selection in words.
-    [[nodiscard]] std::string Spoken() const;
+    [[nodiscard]] Words Spoken() const;
 
     /// The mouse at x: pressed, dragged and released. The band is what lies over the picture from then on.
     WaveBand Press(double x, std::int32_t width);

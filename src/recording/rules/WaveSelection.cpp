@@ -124,14 +124,14 @@ void SelectWave(std::int32_t length, WaveCursor& cursor, WaveView& view)
     view.SelectionEnd = length;
 }
 
-std::string SpokenSelection(const WaveView& view, std::int32_t rate)
+Words SpokenSelection(const WaveView& view, std::int32_t rate)
 {
     if (view.SelectionStart < 1)
-        return "Nothing is selected";
+        return Words::Text("Nothing is selected");
     const std::string from = TenthsText(view.SelectionStart - 1, rate);
     if (view.SelectionStart == view.SelectionEnd)
-        return from + " seconds";
-    return from + " to " + TenthsText(view.SelectionEnd, rate) + " seconds";
+        return Words::Text("%1 seconds", from);
+    return Words::Text("%1 to %2 seconds", from, TenthsText(view.SelectionEnd, rate));
 }
 
 } // namespace sprout

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "base/Words.h"
 #include "recording/rules/WaveView.h"
 
 namespace sprout {
@@ -54,6 +55,6 @@ void SelectWave(std::int32_t length, WaveCursor& cursor, WaveView& view);
 
 /// The selection in words, "1.2 to 3.4 seconds"; "1.2 seconds" for a single sample, "Nothing is selected" for none.
 /// rate: frames per second.
-[[nodiscard]] std::string SpokenSelection(const WaveView& view, std::int32_t rate);
+[[nodiscard]] Words SpokenSelection(const WaveView& view, std::int32_t rate);
 
 } // namespace sprout

@@ -23,18 +23,18 @@ enum class StepMoveMnu : std::int32_t {
 /// A row of the menu; a separator has no caption.
 struct StepMenuRow {
     StepMoveMnu item{};
-    std::string_view caption;
+    LaterWords caption;
 };
 
 inline constexpr std::array kStepMenu{
-    StepMenuRow{StepMoveMnu::MoveAllToLeft, "Move all to left"},
-    StepMenuRow{StepMoveMnu::MoveAllToRight, "Move all to right"},
+    StepMenuRow{StepMoveMnu::MoveAllToLeft, Words::Later("Move all to left")},
+    StepMenuRow{StepMoveMnu::MoveAllToRight, Words::Later("Move all to right")},
     StepMenuRow{},
-    StepMenuRow{StepMoveMnu::MoveStepToLeft, "Move Step to left"},
-    StepMenuRow{StepMoveMnu::MoveStepToRight, "Move Step to right"},
+    StepMenuRow{StepMoveMnu::MoveStepToLeft, Words::Later("Move Step to left")},
+    StepMenuRow{StepMoveMnu::MoveStepToRight, Words::Later("Move Step to right")},
     StepMenuRow{},
-    StepMenuRow{StepMoveMnu::InsertStep, "Insert Step"},
-    StepMenuRow{StepMoveMnu::DeleteStep, "Delete Step"},
+    StepMenuRow{StepMoveMnu::InsertStep, Words::Later("Insert Step")},
+    StepMenuRow{StepMoveMnu::DeleteStep, Words::Later("Delete Step")},
 };
 
 /// Only a step that is on can be moved on its own.

@@ -5,14 +5,14 @@ namespace sprout {
 
 namespace {
 
-constexpr std::string_view kLampHint = "Click on a step to make in ON/OFF";
-constexpr std::string_view kKeyHint = "Click on a piano key to change pitch";
-constexpr std::string_view kIconHint = "Click on the icon to choose an instrument beat";
-constexpr std::string_view kVolumeHint = "Volume Slider, Click on the slider to change Volume";
-constexpr std::string_view kDurationHint = "Duration slider, Click on the slider to change Duration";
-constexpr std::string_view kNoBeatToolTip = "Click here";
+constexpr LaterWords kLampHint = Words::Later("Click on a step to make in ON/OFF");
+constexpr LaterWords kKeyHint = Words::Later("Click on a piano key to change pitch");
+constexpr LaterWords kIconHint = Words::Later("Click on the icon to choose an instrument beat");
+constexpr LaterWords kVolumeHint = Words::Later("Volume Slider, Click on the slider to change Volume");
+constexpr LaterWords kDurationHint = Words::Later("Duration slider, Click on the slider to change Duration");
+constexpr LaterWords kNoBeatToolTip = Words::Later("Click here");
 
-std::string_view StripHint(StripPlace place)
+LaterWords StripHint(StripPlace place)
 {
     if (place == StripPlace::None)
         return {};
@@ -33,19 +33,20 @@ StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int3
     if (!step.IsOn())
         return {};
     if (zone == StepZone::Icon)
-        return {StepCursor::Normal, kIconHint, step.StepBeat.Name.empty() ? kNoBeatToolTip : "", step.StepBeat.Name};
+        return {StepCursor::Normal, kIconHint, step.StepBeat.Name.empty() ? kNoBeatToolTip : LaterWords(),
+                step.StepBeat.Name};
     if (zone == StepZone::Strip)
         return {StepCursor::PianoCursorImg, StripHint(StripPlaceAt(number, stepsLeft, x)), {}, {}};
     return {StepCursor::PianoCursorImg, kKeyHint, {}, {}};
 }
 
-std::string StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat)
+Words StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat)
 {
-    const std::string words = "Step " + std::to_string(number);
     if (!step.IsOn())
-        return words + ", off";
-    const std::string instrument(beat.empty() ? "no instrument" : beat);
-    return words + ", on, " + instrument + ", pitch " + std::to_string(step.PitchShift);
+        return Words::Text("Step %1, off", number);
+    if (beat.empty())
+        return Words::Text("Step %1, on, no instrument, pitch %2", number, step.PitchShift);
+    return Words::Text("Step %1, on, %2, pitch %3", number, beat, step.PitchShift);
 }
 
 } // namespace sprout

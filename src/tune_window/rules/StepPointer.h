@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
 #include "core/Song.h"
 #include "tune_window/rules/StepLayout.h"
 
@@ -15,8 +16,8 @@ enum class StepCursor { Normal, PianoCursorImg };
 /// What the editor's surface shows for the pointer.
 struct StepPointer {
     StepCursor cursor = StepCursor::Normal;
-    std::string_view hint;
-    std::string_view toolTip;
+    LaterWords hint;
+    LaterWords toolTip;
     std::string beat; ///< instead of a tool tip: the beat whose name to show
     friend bool operator==(const StepPointer&, const StepPointer&) = default;
 };
@@ -25,6 +26,6 @@ struct StepPointer {
 [[nodiscard]] StepPointer PointerOverSteps(const Tune& tune, std::int32_t stepsLeft, std::int32_t x, std::int32_t y);
 
 /// Describes a step: "Step 3, on, Piano High, pitch 4". beat: display name of its beat, empty if it has none.
-[[nodiscard]] std::string StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat);
+[[nodiscard]] Words StepInWords(const TuneStep& step, std::int32_t number, std::string_view beat);
 
 } // namespace sprout

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// Side of a grid cell in pixels, and how far inside it the 32 x 32 picture lies.
@@ -59,7 +61,8 @@ struct GridRoom {
 
 /// What the grid's menu does to the chosen picture, in menu order.
 enum class GridMove : std::int32_t { Up = 0, Down = 1, Left = 2, Right = 3 };
-inline constexpr std::array<std::string_view, 4> kGridMoveCaptions{"Move Up", "Move Down", "Move Left", "Move Right"};
+inline constexpr std::array kGridMoveCaptions{Words::Later("Move Up"), Words::Later("Move Down"),
+                                              Words::Later("Move Left"), Words::Later("Move Right")};
 
 /// Where the chosen one of `count` pictures moves to; 0 if it cannot move.
 [[nodiscard]] std::int32_t GridMoveTarget(GridMove move, std::int32_t selected, std::int32_t count,

@@ -266,13 +266,13 @@ class MachineWithoutFacts : public FakeMachine {
 public:
     [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override
     {
-        throw RunTimeError(Words::Text("There are no facts."));
+        throw RunTimeError(Words::AsIs("There are no facts."));
     }
 };
 
 class LockedFolders : public FakePrivateFolders {
 public:
-    void DeleteLeftFolders(const fs::path& /*parent*/) override { throw RunTimeError(Words::Text("They are locked.")); }
+    void DeleteLeftFolders(const fs::path& /*parent*/) override { throw RunTimeError(Words::AsIs("They are locked.")); }
 };
 
 TEST_F(StartUp, GoesOnBehindAStepThatThrows)
@@ -362,7 +362,7 @@ public:
     [[nodiscard]] std::optional<FileFacts> FactsOf(const fs::path& file) const override
     {
         if (!std::exchange(failed, true))
-            throw RunTimeError(Words::Text("The disk is busy."));
+            throw RunTimeError(Words::AsIs("The disk is busy."));
         return PosixFiles::FactsOf(file);
     }
 

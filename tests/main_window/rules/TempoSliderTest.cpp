@@ -8,11 +8,11 @@ namespace {
 
 TEST(TempoLabels, TellPercentAndTheWholeGridsSeconds)
 {
-    EXPECT_EQ(TempoLabel(100), "100%");
-    EXPECT_EQ(DurationLabel(320), "240 sec");
-    EXPECT_EQ(DurationLabel(160), "480 sec");
-    EXPECT_EQ(DurationLabel(640), "120 sec");
-    EXPECT_EQ(DurationLabel(0), "0 sec");
+    EXPECT_EQ(TempoLabel(100).English(), "100%");
+    EXPECT_EQ(DurationLabel(320).English(), "240 sec");
+    EXPECT_EQ(DurationLabel(160).English(), "480 sec");
+    EXPECT_EQ(DurationLabel(640).English(), "120 sec");
+    EXPECT_EQ(DurationLabel(0).English(), "0 sec");
 }
 
 } // namespace

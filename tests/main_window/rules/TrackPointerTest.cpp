@@ -14,7 +14,7 @@ TEST(PointerOverTracks, ShowsNothingWithoutAHit)
 {
     const TrackPointer pointer = PointerOverTracks(kUnscrolled, {1, 5, false}, 0);
     EXPECT_EQ(pointer.image, PointerImage::Default);
-    EXPECT_EQ(pointer.hint, "");
+    EXPECT_EQ(pointer.hint.English(), "");
     EXPECT_EQ(pointer.TrackMouPosLbl, "");
     EXPECT_FALSE(pointer.cellCursor);
 }
@@ -23,7 +23,7 @@ TEST(PointerOverTracks, ShowsThePlayToolOnTheTimeBand)
 {
     const TrackPointer pointer = PointerOverTracks(kUnscrolled, {kWholeSong, 17, true}, 0);
     EXPECT_EQ(pointer.image, PointerImage::PlayTool);
-    EXPECT_EQ(pointer.hint,
+    EXPECT_EQ(pointer.hint.English(),
               "Main Song Track (all tracks mixed), use play tool and click on this to play song from there.");
     EXPECT_EQ(pointer.TrackMouPosLbl, "17");
     EXPECT_FALSE(pointer.cellCursor);
@@ -33,7 +33,8 @@ TEST(PointerOverTracks, ShowsToolCellAndCursorOnATrack)
 {
     const TrackPointer pointer = PointerOverTracks(kUnscrolled, {2, 18, true}, 0);
     EXPECT_EQ(pointer.image, PointerImage::ToolCursor);
-    EXPECT_EQ(pointer.hint, "Music tracks, use the paint brush and eraser to draw here. Or use play tool to play");
+    EXPECT_EQ(pointer.hint.English(),
+              "Music tracks, use the paint brush and eraser to draw here. Or use play tool to play");
     EXPECT_EQ(pointer.TrackMouPosLbl, "18");
     EXPECT_EQ(pointer.cellCursor, (CellCursor{51, 73, 0xC0FFFF}));
 }
@@ -65,10 +66,10 @@ TEST(CellInWords, SaysTrackCellAndWhetherItIsPainted)
     song.TrackCount = 2;
     song.Tracks.resize(3);
     song.Tracks[2].Painted = {0, 0, kPaintedCell, kErasedCell};
-    EXPECT_EQ(CellInWords(song, 2, 2), "Track 2, cell 2, painted");
-    EXPECT_EQ(CellInWords(song, 2, 3), "Track 2, cell 3, empty");
-    EXPECT_EQ(CellInWords(song, 2, 900), "Track 2, cell 900, empty"); // beyond anything ever painted
-    EXPECT_EQ(CellInWords(song, 0, 7), "Time, cell 7");
+    EXPECT_EQ(CellInWords(song, 2, 2).English(), "Track 2, cell 2, painted");
+    EXPECT_EQ(CellInWords(song, 2, 3).English(), "Track 2, cell 3, empty");
+    EXPECT_EQ(CellInWords(song, 2, 900).English(), "Track 2, cell 900, empty"); // beyond anything ever painted
+    EXPECT_EQ(CellInWords(song, 0, 7).English(), "Time, cell 7");
 }
 
 } // namespace

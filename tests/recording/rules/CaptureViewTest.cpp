@@ -40,12 +40,12 @@ protected:
 TEST_F(CaptureViewTest, IsBlankUntilTheFirstFrameIsKept)
 {
     EXPECT_EQ(view.Duration(), "0.0");
-    EXPECT_EQ(view.Status(), "");
+    EXPECT_EQ(view.Status().English(), "");
     EXPECT_TRUE(view.Update(Status(CaptureState::Stopped, 3), {}));
-    EXPECT_EQ(view.Status(), "");
+    EXPECT_EQ(view.Status().English(), "");
     EXPECT_TRUE(view.IsKeeping());
     EXPECT_TRUE(view.Update(Status(CaptureState::Recording, 4), {}));
-    EXPECT_EQ(view.Status(), "Now Recording");
+    EXPECT_EQ(view.Status().English(), "Now Recording");
     EXPECT_EQ(view.Duration(), "00");
 }
 
@@ -76,11 +76,11 @@ TEST_F(CaptureViewTest, TellsAPauseAndItsEnd)
     EXPECT_EQ(view.BarColour(), 0x0000FF);
     EXPECT_TRUE(view.Update(Status(CaptureState::Paused, 10, 5), {}));
     EXPECT_EQ(view.Duration(), "01 [P]");
-    EXPECT_EQ(view.Status(), "Recording Paused");
+    EXPECT_EQ(view.Status().English(), "Recording Paused");
     EXPECT_EQ(view.BarColour(), 0xFF0000);
     EXPECT_TRUE(view.Update(Status(CaptureState::Recording, 11, 5), {}));
     EXPECT_EQ(view.Duration(), "01");
-    EXPECT_EQ(view.Status(), "Now Recording");
+    EXPECT_EQ(view.Status().English(), "Now Recording");
 }
 
 TEST_F(CaptureViewTest, StopsWithoutTheMarkOfAPause)
@@ -88,7 +88,7 @@ TEST_F(CaptureViewTest, StopsWithoutTheMarkOfAPause)
     EXPECT_TRUE(view.Update(Status(CaptureState::Paused, 10, 5), {}));
     view.Stop();
     EXPECT_EQ(view.Duration(), "01");
-    EXPECT_EQ(view.Status(), "Recording Done");
+    EXPECT_EQ(view.Status().English(), "Recording Done");
     EXPECT_FALSE(view.IsKeeping());
 }
 
@@ -106,27 +106,27 @@ TEST_F(CaptureViewTest, TellsWhyACaptureEndedByItself)
         ending.Start();
         EXPECT_TRUE(ending.Update(Status(CaptureState::Recording, 10), {}));
         EXPECT_TRUE(ending.Update(Ended(end, 10), {}));
-        EXPECT_EQ(ending.Status(), status);
+        EXPECT_EQ(ending.Status().English(), status);
         EXPECT_FALSE(ending.IsKeeping());
         ending.Stop();
-        EXPECT_EQ(ending.Status(), status);
+        EXPECT_EQ(ending.Status().English(), status);
     }
 }
 
 TEST_F(CaptureViewTest, TellsTheReasonAlsoWhereNoLookFellIntoTheRecording)
 {
     EXPECT_TRUE(view.Update(Ended(CaptureEnd::DiskFull, 2), {}));
-    EXPECT_EQ(view.Status(), "Recording Done - the disk is full");
+    EXPECT_EQ(view.Status().English(), "Recording Done - the disk is full");
 }
 
 TEST_F(CaptureViewTest, WondersAfterTwoSilentSeconds)
 {
     EXPECT_TRUE(view.Update(Silent(CaptureState::Recording, 10, 1.9), {}));
-    EXPECT_EQ(view.Status(), "Now Recording");
+    EXPECT_EQ(view.Status().English(), "Now Recording");
     EXPECT_TRUE(view.Update(Silent(CaptureState::Recording, 11, 2.0), {}));
-    EXPECT_EQ(view.Status(), "Now Recording - I cannot hear you");
+    EXPECT_EQ(view.Status().English(), "Now Recording - I cannot hear you");
     EXPECT_TRUE(view.Update(Silent(CaptureState::Recording, 12, 0.02), {}));
-    EXPECT_EQ(view.Status(), "Now Recording");
+    EXPECT_EQ(view.Status().English(), "Now Recording");
 }
 
 TEST_F(CaptureViewTest, WondersAlsoWhereNoPieceComesAnyMore)
@@ -134,7 +134,7 @@ TEST_F(CaptureViewTest, WondersAlsoWhereNoPieceComesAnyMore)
     EXPECT_TRUE(view.Update(Silent(CaptureState::Paused, 10, 0.6), {}));
     EXPECT_FALSE(view.Update(Silent(CaptureState::Paused, 10, 1.8), {}));
     EXPECT_TRUE(view.Update(Silent(CaptureState::Paused, 10, 2.1), {}));
-    EXPECT_EQ(view.Status(), "Recording Paused - I cannot hear you");
+    EXPECT_EQ(view.Status().English(), "Recording Paused - I cannot hear you");
     EXPECT_FALSE(view.Update(Silent(CaptureState::Paused, 10, 2.2), {}));
 }
 
@@ -144,7 +144,7 @@ TEST_F(CaptureViewTest, WondersNoMoreOnceItHasEnded)
     CaptureStatus gone = Ended(CaptureEnd::MicrophoneGone, 10);
     gone.SilentSeconds = 5;
     EXPECT_TRUE(view.Update(gone, {}));
-    EXPECT_EQ(view.Status(), "Recording Done - the microphone is gone");
+    EXPECT_EQ(view.Status().English(), "Recording Done - the microphone is gone");
 }
 
 TEST_F(CaptureViewTest, MarksTheLoudestOfTheLastSecond)
@@ -174,9 +174,9 @@ TEST(CaptureView, ShowsTheLevelBeforeAStartInBlueAndSaysNothing)
     EXPECT_TRUE(view.Update(Silent(CaptureState::Stopped, 200, 4), {700, 800}));
     EXPECT_EQ(view.BarColour(), 0xFF0000);
     EXPECT_EQ(view.Left().Peak, 700);
-    EXPECT_EQ(view.Status(), "");
+    EXPECT_EQ(view.Status().English(), "");
     view.Stop();
-    EXPECT_EQ(view.Status(), "") << "where nothing was started nothing is done";
+    EXPECT_EQ(view.Status().English(), "") << "where nothing was started nothing is done";
 }
 
 } // namespace

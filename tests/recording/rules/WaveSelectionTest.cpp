@@ -200,7 +200,7 @@ std::string Spoken(std::int32_t start, std::int32_t end, std::int32_t rate = 441
     WaveView view;
     view.SelectionStart = start;
     view.SelectionEnd = end;
-    return SpokenSelection(view, rate);
+    return SpokenSelection(view, rate).English();
 }
 
 TEST(SpokenSelection, TellsSecondsFromTheWavesBeginning)

@@ -45,7 +45,7 @@ private:
     {
         ++calls;
         if (failsFrom != 0 && (failsOnce ? calls == failsFrom : calls >= failsFrom))
-            throw RunTimeError(Words::Text("No space left on device."));
+            throw RunTimeError(Words::AsIs("No space left on device."));
     }
 
     std::size_t place = 0;

@@ -39,14 +39,14 @@ TEST(StepMenu, HasItsItemsAtTheirPlaces)
     ASSERT_EQ(kStepMenu.size(), 8U);
     for (const std::size_t place : {0, 1, 3, 4, 6, 7})
         EXPECT_EQ(static_cast<std::size_t>(kStepMenu[place].item), place);
-    EXPECT_EQ(kStepMenu[0].caption, "Move all to left");
-    EXPECT_EQ(kStepMenu[1].caption, "Move all to right");
-    EXPECT_TRUE(kStepMenu[2].caption.empty());
-    EXPECT_EQ(kStepMenu[3].caption, "Move Step to left");
-    EXPECT_EQ(kStepMenu[4].caption, "Move Step to right");
-    EXPECT_TRUE(kStepMenu[5].caption.empty());
-    EXPECT_EQ(kStepMenu[6].caption, "Insert Step");
-    EXPECT_EQ(kStepMenu[7].caption, "Delete Step");
+    EXPECT_EQ(kStepMenu[0].caption.English(), "Move all to left");
+    EXPECT_EQ(kStepMenu[1].caption.English(), "Move all to right");
+    EXPECT_TRUE(kStepMenu[2].caption.IsEmpty());
+    EXPECT_EQ(kStepMenu[3].caption.English(), "Move Step to left");
+    EXPECT_EQ(kStepMenu[4].caption.English(), "Move Step to right");
+    EXPECT_TRUE(kStepMenu[5].caption.IsEmpty());
+    EXPECT_EQ(kStepMenu[6].caption.English(), "Insert Step");
+    EXPECT_EQ(kStepMenu[7].caption.English(), "Delete Step");
 }
 
 TEST(StepMenu, OffersTheMoveOfOneStepForOnStepsOnly)
