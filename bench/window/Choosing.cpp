@@ -34,11 +34,11 @@
 #include "tune_window/TunFramPic.h"
 #include "tune_window/TuneFrm2.h"
 #include "tune_window/rules/StepLayout.h"
-#include "ui/Look.h"
-#include "ui/PictureGridPic.h"
-#include "ui/ProgramPictures.h"
-#include "ui/QtMessages.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtMessages.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/Look.h"
+#include "ui/look/ProgramPictures.h"
+#include "ui/widgets/PictureGridPic.h"
 
 namespace sprout {
 namespace {

@@ -15,8 +15,8 @@
 #include "core/Shared.h"
 #include "recording/AudioEditFrm.h"
 #include "recording/WavePic.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

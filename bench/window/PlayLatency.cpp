@@ -32,9 +32,9 @@
 #include "sound/PlayMod.h"
 #include "sound/StepCache.h"
 #include "stretch/StretchService.h"
-#include "ui/Look.h"
-#include "ui/ProgramPictures.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/Look.h"
+#include "ui/look/ProgramPictures.h"
 
 namespace sprout {
 namespace {

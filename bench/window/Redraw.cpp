@@ -16,9 +16,9 @@
 #include "core/SongModel.h"
 #include "main_window/TrackCanvas.h"
 #include "main_window/rules/TrackGeometry.h"
-#include "ui/ButtonScheme.h"
-#include "ui/Look.h"
-#include "ui/ProgramPictures.h"
+#include "ui/look/Look.h"
+#include "ui/look/ProgramPictures.h"
+#include "ui/widgets/ButtonScheme.h"
 
 namespace sprout {
 namespace {

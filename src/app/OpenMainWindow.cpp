@@ -20,9 +20,9 @@
 #include "songs/SongKeeper.h"
 #include "sound/PlayMod.h"
 #include "tune_window/OpenTuneWindow.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -10,7 +10,8 @@
 #include "song_window/SongSelFrm.h"
 #include "sound/PlayMod.h"
 #include "tune_window/OpenTuneWindow.h"
-#include "ui/Dialogs.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/help/HelpFrm.h"
 
 namespace sprout {
 
@@ -85,6 +86,11 @@ std::optional<std::string> ProgramWindows::ChooseNameToSave(QWidget& owner, std:
 bool ProgramWindows::SaveSongAsSound(SoundFileKind kind)
 {
     return sprout::SaveSongAsSound(kind);
+}
+
+void ProgramWindows::ShowHelp()
+{
+    sprout::ShowHelp();
 }
 
 void ProgramWindows::EmailSong()

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] std::optional<std::string> ChooseSongToOpen(QWidget& owner) override;
     [[nodiscard]] std::optional<std::string> ChooseNameToSave(QWidget& owner, std::string_view name) override;
     [[nodiscard]] bool SaveSongAsSound(SoundFileKind kind) override;
+    void ShowHelp() override;
     void EmailSong() override;
     void StopEmailSong() override;
 

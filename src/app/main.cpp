@@ -31,11 +31,11 @@
 #include "service/xdg/XdgMail.h"
 #include "sound/PlayMod.h"
 #include "stretch/StretchService.h"
-#include "ui/Look.h"
-#include "ui/ProgramPictures.h"
-#include "ui/PseudoLanguage.h"
-#include "ui/QtMessages.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtMessages.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/Look.h"
+#include "ui/look/ProgramPictures.h"
+#include "ui/words/PseudoLanguage.h"
 
 namespace sprout {
 namespace {
@@ -96,12 +96,12 @@ int RunProgram(QApplication& application)
     ApplyLook(application);
     pictures.get();
     services.CountSoundDevicesAhead(); // after the pictures: many machines have two cores
+    ProgramWindows windows;
+    const ProvidedWindows provided(windows);
     RunStartUp();
     PseudoLanguage pseudoLanguage;
     if (IsSetToOne("PseudoLanguage"))
         QCoreApplication::installTranslator(&pseudoLanguage);
-    ProgramWindows windows;
-    const ProvidedWindows provided(windows);
     MainFrm window(services.transport);
     services.screen.SetProcessPic(&window.WorkingSign());
     services.screen.SetTuneNotFilledTimer([&window] { window.EnableTuneNotFilledTimer(); });

@@ -7,7 +7,7 @@
 #include "base/FilePaths.h"
 #include "beat_window/rules/BeatWindowPlan.h"
 #include "core/Shared.h"
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

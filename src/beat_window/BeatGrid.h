@@ -2,7 +2,7 @@
 #pragma once
 
 #include "beats/BeatTable.h"
-#include "ui/PictureGridPic.h"
+#include "ui/widgets/PictureGridPic.h"
 
 namespace sprout {
 

@@ -19,10 +19,10 @@
 #include "service/Messages.h"
 #include "service/Services.h"
 #include "sound/ChosenSound.h"
-#include "ui/Dialogs.h"
-#include "ui/FileDialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/FileDialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/Hints.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {

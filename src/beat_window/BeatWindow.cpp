@@ -9,14 +9,15 @@
 
 #include "core/Busy.h"
 #include "sound/PlayMod.h"
-#include "ui/Guarded.h"
-#include "ui/HelpFrm.h"
-#include "ui/Hints.h"
-#include "ui/Palette.h"
-#include "ui/PutAt.h"
-#include "ui/QtText.h"
-#include "ui/Texts.h"
+#include "ui/Windows.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Palette.h"
+#include "ui/rules/HintRow.h"
 #include "ui/rules/PictureGrid.h"
+#include "ui/widgets/Hints.h"
+#include "ui/widgets/PutAt.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 
@@ -224,7 +225,7 @@ void BeatWindow::LeaveWindow()
 
 void BeatWindow::ClickHelp()
 {
-    ShowHelp();
+    TheWindows().ShowHelp();
 }
 
 } // namespace sprout

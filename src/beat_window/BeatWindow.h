@@ -11,8 +11,8 @@
 #include "beat_window/NameLabel.h"
 #include "beat_window/rules/BeatWindowPlan.h"
 #include "beats/BeatTable.h"
-#include "ui/BandedForm.h"
-#include "ui/GridMoveMenu.h"
+#include "ui/forms/BandedForm.h"
+#include "ui/widgets/GridMoveMenu.h"
 
 namespace sprout {
 

@@ -2,7 +2,7 @@
 #include "beat_window/ChooseBeat.h"
 
 #include "beat_window/BeatWindow.h"
-#include "ui/Dialogs.h"
+#include "ui/forms/Dialogs.h"
 
 namespace sprout {
 

@@ -3,8 +3,8 @@
 
 #include <QPainter>
 
-#include "ui/Artwork.h"
-#include "ui/Palette.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

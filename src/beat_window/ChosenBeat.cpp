@@ -6,9 +6,9 @@
 #include "beat_window/ChoosenPicture.h"
 #include "beat_window/NameLabel.h"
 #include "sound/PlayMod.h"
-#include "ui/Dialogs.h"
-#include "ui/Hints.h"
-#include "ui/Texts.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

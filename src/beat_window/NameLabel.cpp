@@ -4,8 +4,8 @@
 #include <QPainter>
 #include <QTextLayout>
 
-#include "ui/Look.h"
-#include "ui/Texts.h"
+#include "ui/look/Look.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

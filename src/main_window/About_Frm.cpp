@@ -10,11 +10,11 @@
 #include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "ui/Artwork.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/Texts.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

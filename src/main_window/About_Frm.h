@@ -2,7 +2,7 @@
 #pragma once
 
 #include "base/Words.h"
-#include "ui/BandedForm.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

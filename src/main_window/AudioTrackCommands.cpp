@@ -13,12 +13,12 @@
 #include "core/Shared.h"
 #include "core/TrackList.h"
 #include "sound/ChosenSound.h"
-#include "ui/Dialogs.h"
-#include "ui/FileDialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
-#include "ui/MessageForms.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/FileDialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/widgets/Hints.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {

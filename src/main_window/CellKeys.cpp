@@ -11,7 +11,7 @@
 #include "main_window/TrackScroll.h"
 #include "main_window/TrackTool.h"
 #include "main_window/rules/CellValues.h"
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

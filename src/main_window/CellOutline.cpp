@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "main_window/rules/TrackPointer.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

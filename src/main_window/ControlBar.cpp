@@ -7,11 +7,12 @@
 #include <algorithm>
 
 #include "main_window/TempoBar.h"
-#include "ui/Hints.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/Texts.h"
+#include "main_window/rules/MainWindowHints.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -9,7 +9,7 @@
 
 #include "base/Words.h"
 #include "main_window/rules/ControlBarPlaces.h"
-#include "ui/ButtonScheme.h"
+#include "ui/widgets/ButtonScheme.h"
 
 namespace sprout {
 

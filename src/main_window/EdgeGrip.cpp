@@ -4,7 +4,7 @@
 #include <QMouseEvent>
 #include <QWindow>
 
-#include "ui/DesktopPlacesWindows.h"
+#include "ui/widgets/DesktopPlacesWindows.h"
 
 namespace sprout {
 

@@ -8,9 +8,10 @@
 #include <vector>
 
 #include "main_window/TrackPictures.h"
-#include "ui/Artwork.h"
-#include "ui/Hints.h"
-#include "ui/SpokenRoles.h"
+#include "main_window/rules/MainWindowHints.h"
+#include "ui/look/Artwork.h"
+#include "ui/widgets/Hints.h"
+#include "ui/widgets/SpokenRoles.h"
 
 namespace sprout {
 

@@ -5,7 +5,7 @@
 
 #include "main_window/rules/ControlBarPlaces.h"
 #include "main_window/rules/Stroke.h"
-#include "ui/ButtonScheme.h"
+#include "ui/widgets/ButtonScheme.h"
 
 namespace sprout {
 

@@ -23,12 +23,11 @@
 #include "main_window/WindowFrame.h"
 #include "main_window/WindowSettings.h"
 #include "main_window/rules/MainWindowPlaces.h"
-#include "ui/Artwork.h"
-#include "ui/HelpFrm.h"
-#include "ui/LaterCommands.h"
-#include "ui/SpokenRoles.h"
-#include "ui/Texts.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/look/Artwork.h"
+#include "ui/widgets/SpokenRoles.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 
@@ -89,9 +88,12 @@ MainButtonClicks MainFrm::Clicks()
     clicks.SaveBtn = [this] { songCommands.SaveBtn(); };
     clicks.SongTitleChgBtn = [this] { songCommands.SongTitleChgBtn(); };
     clicks.EmailBtn = [] { TheWindows().EmailSong(); };
-    clicks.HelpBtn = [] { ShowHelp(); };
+    clicks.HelpBtn = [] { TheWindows().ShowHelp(); };
     clicks.AboutBtn = [this] { About_Frm(this).ShowModal(); };
-    clicks.DemoBtn = [] { ShowLaterCommand("DemoBtn"); };
+    clicks.DemoBtn = [] {
+        ShowMessage(Words::Text("There is no demo to watch yet."),
+                    Words::Text("Click the Help button to read how to make a song."));
+    };
     clicks.CloseImgBtn = [this] { close(); };
     clicks.MaximizeImgBtn = [this] { showMaximized(); };
     clicks.MinimizeImgBtn = [this] { showMinimized(); };

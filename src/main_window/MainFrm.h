@@ -9,9 +9,9 @@
 #include "main_window/MainButtons.h"
 #include "main_window/SongCommands.h"
 #include "main_window/rules/Stroke.h"
-#include "ui/ButtonScheme.h"
-#include "ui/Hints.h"
-#include "ui/ProcessPic.h"
+#include "ui/widgets/ButtonScheme.h"
+#include "ui/widgets/Hints.h"
+#include "ui/widgets/ProcessPic.h"
 
 namespace sprout {
 

@@ -17,10 +17,10 @@
 #include "songs/OpenSaveClass.h"
 #include "songs/SongFiles.h"
 #include "sound/PlayMod.h"
-#include "ui/Dialogs.h"
-#include "ui/Hints.h"
-#include "ui/MessageForms.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -4,11 +4,12 @@
 #include <QPainter>
 #include <QTextLayout>
 
-#include "ui/Hints.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/Texts.h"
+#include "main_window/rules/MainWindowHints.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

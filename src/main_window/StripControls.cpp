@@ -3,11 +3,12 @@
 
 #include "base/Words.h"
 #include "main_window/TrackPictures.h"
+#include "main_window/rules/MainWindowHints.h"
 #include "main_window/rules/TitleStrip.h"
-#include "ui/Dialogs.h"
-#include "ui/Hints.h"
-#include "ui/Look.h"
-#include "ui/Texts.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/look/Look.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -10,7 +10,7 @@
 #include "main_window/TrackLabel.h"
 #include "main_window/TrackTuneBtn.h"
 #include "main_window/rules/TrackGeometry.h"
-#include "ui/ButtonScheme.h"
+#include "ui/widgets/ButtonScheme.h"
 
 namespace sprout {
 

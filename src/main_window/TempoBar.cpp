@@ -7,13 +7,14 @@
 #include "core/SongModel.h"
 #include "core/SongTime.h"
 #include "main_window/TempoSlot.h"
+#include "main_window/rules/MainWindowHints.h"
 #include "main_window/rules/TempoBarPlaces.h"
 #include "main_window/rules/TempoSlider.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
-#include "ui/Look.h"
-#include "ui/SliderPointer.h"
-#include "ui/Texts.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Look.h"
+#include "ui/widgets/Hints.h"
+#include "ui/widgets/SliderPointer.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

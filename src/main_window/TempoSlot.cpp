@@ -5,8 +5,8 @@
 #include <QPainter>
 
 #include "main_window/rules/TempoBarPlaces.h"
-#include "ui/Palette.h"
-#include "ui/SliderPointer.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/SliderPointer.h"
 
 namespace sprout {
 

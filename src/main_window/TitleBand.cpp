@@ -5,10 +5,10 @@
 #include <QPainter>
 
 #include "main_window/rules/MainWindowPlaces.h"
-#include "ui/Artwork.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/Texts.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "base/Words.h"
-#include "ui/ImageButton.h"
-#include "ui/WindowMover.h"
+#include "ui/widgets/ImageButton.h"
+#include "ui/widgets/WindowMover.h"
 
 namespace sprout {
 

@@ -4,7 +4,7 @@
 #include "main_window/TrackPictures.h"
 #include "main_window/rules/TitleStrip.h"
 #include "main_window/rules/TrackGeometry.h"
-#include "ui/Look.h"
+#include "ui/look/Look.h"
 
 namespace sprout {
 

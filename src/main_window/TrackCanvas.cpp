@@ -13,8 +13,8 @@
 #include "main_window/TrackPic.h"
 #include "main_window/TrackTitlePic.h"
 #include "sound/PlayMod.h"
-#include "ui/Palette.h"
-#include "ui/Texts.h"
+#include "ui/look/Palette.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -10,7 +10,7 @@
 #include "main_window/TrackScroll.h"
 #include "main_window/TrackTool.h"
 #include "main_window/rules/PlayIndicator.h"
-#include "ui/ButtonScheme.h"
+#include "ui/widgets/ButtonScheme.h"
 
 namespace sprout {
 

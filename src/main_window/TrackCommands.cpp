@@ -8,10 +8,10 @@
 #include "core/SongChanges.h"
 #include "core/TrackList.h"
 #include "sound/TuneRender.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

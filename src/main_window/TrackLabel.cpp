@@ -7,10 +7,10 @@
 
 #include <utility>
 
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/SpokenRoles.h"
-#include "ui/Texts.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/SpokenRoles.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

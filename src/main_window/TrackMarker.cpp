@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "main_window/rules/TrackGeometry.h"
-#include "ui/Artwork.h"
+#include "ui/look/Artwork.h"
 
 namespace sprout {
 

@@ -11,11 +11,11 @@
 #include "main_window/CellOutline.h"
 #include "main_window/TrackMarker.h"
 #include "main_window/TrackPictures.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/SpokenRoles.h"
-#include "ui/Texts.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/SpokenRoles.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -9,7 +9,7 @@
 
 #include "core/Song.h"
 #include "main_window/rules/TrackGeometry.h"
-#include "ui/Artwork.h"
+#include "ui/look/Artwork.h"
 
 namespace sprout {
 

@@ -10,7 +10,7 @@
 #include <array>
 
 #include "main_window/rules/CellValues.h"
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

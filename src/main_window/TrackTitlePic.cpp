@@ -9,9 +9,9 @@
 #include "core/Shared.h"
 #include "main_window/TitleRow.h"
 #include "main_window/rules/TitleStrip.h"
-#include "ui/Palette.h"
-#include "ui/SpokenRoles.h"
-#include "ui/Texts.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/SpokenRoles.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

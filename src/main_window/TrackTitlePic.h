@@ -12,8 +12,8 @@
 #include "main_window/TrackSurface.h"
 #include "main_window/rules/StripChoice.h"
 #include "main_window/rules/TrackGeometry.h"
-#include "ui/ButtonScheme.h"
-#include "ui/Hints.h"
+#include "ui/widgets/ButtonScheme.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -10,7 +10,7 @@
 #include "main_window/rules/Transport.h"
 #include "sound/PlayMod.h"
 #include "sound/TuneRender.h"
-#include "ui/Guarded.h"
+#include "ui/forms/Guarded.h"
 
 namespace sprout {
 

@@ -8,8 +8,8 @@
 
 #include "core/Shared.h"
 #include "main_window/TrackPic.h"
-#include "ui/Hints.h"
-#include "ui/ToolCursor.h"
+#include "ui/look/ToolCursor.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -6,9 +6,10 @@
 #include <cmath>
 
 #include "main_window/TrackPictures.h"
-#include "ui/Hints.h"
-#include "ui/Palette.h"
-#include "ui/Texts.h"
+#include "main_window/rules/MainWindowHints.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

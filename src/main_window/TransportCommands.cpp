@@ -14,11 +14,11 @@
 #include "main_window/rules/Transport.h"
 #include "sound/PlayMod.h"
 #include "sound/TrackRender.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
-#include "ui/Texts.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

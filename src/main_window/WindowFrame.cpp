@@ -5,9 +5,9 @@
 
 #include "main_window/EdgeGrip.h"
 #include "main_window/GroundWatch.h"
-#include "ui/Artwork.h"
-#include "ui/Hints.h"
-#include "ui/Palette.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -17,11 +17,11 @@
 #include "recording/WaveScrollBar.h"
 #include "recording/rules/AudioEditPlaces.h"
 #include "sound/PlayMod.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/HelpFrm.h"
-#include "ui/Palette.h"
-#include "ui/Texts.h"
+#include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Palette.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 
@@ -138,7 +138,7 @@ void AudioEditFrm::MakeButtons()
                     Words::Later("Zoom Out Button, click on it to zoom out the waveform display")},
                    [this] { sound->Zoom(WaveZoom::Out); }},
         CommandRow{{"HelpBtn", Words::Later("Help"), Words::Later("Help button, use it to see help")},
-                   [] { ShowHelp(); }},
+                   [] { TheWindows().ShowHelp(); }},
     };
     for (const CommandRow& row : rows)
         AddWordButton(row.button, [command = row.command] { Guarded(command); });

@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "recording/rules/WaveEdits.h"
-#include "ui/BandedForm.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

@@ -3,10 +3,10 @@
 
 #include <QLabel>
 
-#include "ui/BandedForm.h"
-#include "ui/Look.h"
-#include "ui/SpokenRoles.h"
-#include "ui/Texts.h"
+#include "ui/forms/BandedForm.h"
+#include "ui/look/Look.h"
+#include "ui/widgets/SpokenRoles.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -7,7 +7,7 @@
 
 #include "recording/Recd_Pics.h"
 #include "recording/rules/CaptureView.h"
-#include "ui/Hints.h"
+#include "ui/widgets/Hints.h"
 
 class QLabel;
 

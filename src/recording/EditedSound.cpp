@@ -7,7 +7,7 @@
 
 #include "recording/WavePic.h"
 #include "recording/WaveScrollBar.h"
-#include "ui/Guarded.h"
+#include "ui/forms/Guarded.h"
 
 namespace sprout {
 

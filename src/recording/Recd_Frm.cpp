@@ -19,12 +19,12 @@
 #include "service/Desktop.h"
 #include "service/Messages.h"
 #include "service/Services.h"
-#include "ui/Artwork.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Palette.h"
-#include "ui/SliderPointer.h"
-#include "ui/Texts.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/SliderPointer.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -6,7 +6,7 @@
 #include "recording/RecordingTake.h"
 #include "recording/rules/CaptureView.h"
 #include "service/SoundCapture.h"
-#include "ui/BandedForm.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

@@ -4,8 +4,8 @@
 #include <QLabel>
 #include <QTimer>
 
-#include "ui/Artwork.h"
-#include "ui/Texts.h"
+#include "ui/look/Artwork.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -5,9 +5,9 @@
 
 #include "recording/SourceList.h"
 #include "recording/rules/Volume.h"
-#include "ui/Guarded.h"
-#include "ui/SliderPointer.h"
-#include "ui/Texts.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/SliderPointer.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -4,9 +4,9 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
-#include "ui/Look.h"
-#include "ui/PopupKeys.h"
-#include "ui/Texts.h"
+#include "ui/look/Look.h"
+#include "ui/widgets/PopupKeys.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/Shared.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

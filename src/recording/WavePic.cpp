@@ -12,9 +12,9 @@
 #include "core/Shared.h"
 #include "recording/WaveMarker.h"
 #include "recording/WavePainter.h"
-#include "ui/Palette.h"
-#include "ui/SpokenRoles.h"
-#include "ui/Texts.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/SpokenRoles.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -3,7 +3,7 @@
 
 #include <QKeyEvent>
 
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -19,10 +19,10 @@
 #include "sharing/WriteSong.h"
 #include "sharing/rules/AttachmentName.h"
 #include "sharing/rules/MailText.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
-#include "ui/QtText.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/QtText.h"
 
 namespace sprout {
 

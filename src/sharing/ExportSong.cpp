@@ -19,9 +19,9 @@
 #include "service/Services.h"
 #include "sharing/WriteSong.h"
 #include "sharing/rules/ExportName.h"
-#include "ui/Dialogs.h"
-#include "ui/FileDialogs.h"
-#include "ui/Hints.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/FileDialogs.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

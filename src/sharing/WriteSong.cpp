@@ -4,7 +4,7 @@
 #include "core/Busy.h"
 #include "core/Shared.h"
 #include "sound/TrackRender.h"
-#include "ui/Hints.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -12,8 +12,8 @@
 #include "service/Services.h"
 #include "song_window/SongList.h"
 #include "song_window/rules/SongChoice.h"
-#include "ui/Dialogs.h"
-#include "ui/Hints.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

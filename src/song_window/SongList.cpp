@@ -5,8 +5,8 @@
 #include <QSignalBlocker>
 
 #include "core/Shared.h"
-#include "ui/Look.h"
-#include "ui/Texts.h"
+#include "ui/look/Look.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

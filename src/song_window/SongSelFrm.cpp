@@ -7,14 +7,13 @@
 #include "song_window/NameDecision.h"
 #include "song_window/SongFileCommands.h"
 #include "song_window/SongList.h"
-#include "ui/Artwork.h"
-#include "ui/Dialogs.h"
-#include "ui/HelpFrm.h"
-#include "ui/MessageForms.h"
-#include "ui/Palette.h"
-#include "ui/PutAt.h"
-#include "ui/Texts.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/PutAt.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 
@@ -257,7 +256,7 @@ void SongSelFrm::SaveAsSound(SoundFileKind kind)
 
 void SongSelFrm::ClickHelp()
 {
-    ShowHelp();
+    TheWindows().ShowHelp();
 }
 
 } // namespace sprout

@@ -9,8 +9,8 @@
 
 #include "song_window/rules/SongChoice.h"
 #include "song_window/rules/SongWindowPlan.h"
-#include "ui/BandedForm.h"
 #include "ui/Windows.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

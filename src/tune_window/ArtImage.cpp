@@ -3,7 +3,7 @@
 
 #include <QPainter>
 
-#include "ui/Artwork.h"
+#include "ui/look/Artwork.h"
 
 namespace sprout {
 

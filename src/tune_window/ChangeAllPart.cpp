@@ -7,10 +7,10 @@
 #include <algorithm>
 
 #include "tune_window/rules/StepLayout.h"
-#include "ui/ButtonScheme.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
-#include "ui/Texts.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/ButtonScheme.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -4,7 +4,7 @@
 #include <QLabel>
 
 #include "tune_window/TunePicture.h"
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -7,7 +7,7 @@
 #include "sound/PlayMod.h"
 #include "sound/StepPlays.h"
 #include "tune_window/ArtImage.h"
-#include "ui/Guarded.h"
+#include "ui/forms/Guarded.h"
 
 namespace sprout {
 

@@ -8,7 +8,7 @@
 #include "tune_window/TuneFrm2.h"
 #include "tunes/ChosenTune.h"
 #include "tunes/TuneTable.h"
-#include "ui/Dialogs.h"
+#include "ui/forms/Dialogs.h"
 
 namespace sprout {
 

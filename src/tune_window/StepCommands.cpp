@@ -7,8 +7,8 @@
 #include "core/Shared.h"
 #include "tune_window/EditorPlays.h"
 #include "tune_window/TunFramPic.h"
-#include "ui/Dialogs.h"
 #include "ui/Windows.h"
+#include "ui/forms/Dialogs.h"
 
 namespace sprout {
 

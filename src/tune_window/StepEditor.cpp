@@ -16,10 +16,10 @@
 #include "tune_window/StepPopMenu.h"
 #include "tune_window/StepScrollBar.h"
 #include "tune_window/TunFramPic.h"
-#include "ui/Artwork.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
-#include "ui/Texts.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Artwork.h"
+#include "ui/widgets/Hints.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

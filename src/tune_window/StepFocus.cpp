@@ -7,8 +7,8 @@
 
 #include "tune_window/rules/StepLayout.h"
 #include "tune_window/rules/StepPointer.h"
-#include "ui/Palette.h"
-#include "ui/Texts.h"
+#include "ui/look/Palette.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

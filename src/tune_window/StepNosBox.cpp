@@ -9,10 +9,10 @@
 
 #include "core/Shared.h"
 #include "tune_window/rules/StepEdits.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/PopupKeys.h"
-#include "ui/Texts.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/PopupKeys.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

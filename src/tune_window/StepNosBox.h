@@ -5,7 +5,7 @@
 
 #include <cstdint>
 
-#include "ui/Hints.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

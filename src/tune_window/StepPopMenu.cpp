@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/StepPopMenu.h"
 
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "tune_window/rules/StepLayout.h"
-#include "ui/Hints.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

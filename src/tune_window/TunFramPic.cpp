@@ -14,9 +14,9 @@
 #include "base/FilePaths.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
-#include "ui/Artwork.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

@@ -12,12 +12,12 @@
 #include "tune_window/TunePicture.h"
 #include "tunes/TuneNames.h"
 #include "tunes/TuneTable.h"
-#include "ui/Dialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Look.h"
-#include "ui/PutAt.h"
-#include "ui/Texts.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Look.h"
 #include "ui/rules/PictureGrid.h"
+#include "ui/widgets/PutAt.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

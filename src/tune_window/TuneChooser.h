@@ -10,8 +10,8 @@
 #include "tune_window/ChosenTuneView.h"
 #include "tune_window/TuneChoice.h"
 #include "tune_window/rules/TuneWindowPlan.h"
-#include "ui/GridMoveMenu.h"
-#include "ui/Hints.h"
+#include "ui/widgets/GridMoveMenu.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -18,10 +18,10 @@
 #include "tune_window/TuneNameFrm.h"
 #include "tunes/TunOpnSavClass.h"
 #include "tunes/TuneTable.h"
-#include "ui/Dialogs.h"
-#include "ui/FileDialogs.h"
-#include "ui/Guarded.h"
-#include "ui/Hints.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/FileDialogs.h"
+#include "ui/forms/Guarded.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -20,10 +20,10 @@
 #include "tunes/ChosenTune.h"
 #include "tunes/RandomTune.h"
 #include "tunes/TuneNames.h"
-#include "ui/Guarded.h"
-#include "ui/HelpFrm.h"
-#include "ui/Palette.h"
-#include "ui/PutAt.h"
+#include "ui/Windows.h"
+#include "ui/forms/Guarded.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/PutAt.h"
 
 namespace sprout {
 
@@ -238,7 +238,7 @@ void TuneFrm2::ChangePicBtn()
 
 void TuneFrm2::HelpBtn()
 {
-    ShowHelp();
+    TheWindows().ShowHelp();
 }
 
 void TuneFrm2::OkBtn()

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "ui/BandedForm.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

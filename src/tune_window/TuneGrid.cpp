@@ -7,7 +7,7 @@
 #include "core/Shared.h"
 #include "tune_window/rules/TuneWindowPlan.h"
 #include "tunes/TunOpnSavClass.h"
-#include "ui/Texts.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "ui/PictureGridPic.h"
+#include "ui/widgets/PictureGridPic.h"
 
 namespace sprout {
 

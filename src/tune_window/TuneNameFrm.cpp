@@ -2,11 +2,11 @@
 #include "tune_window/TuneNameFrm.h"
 
 #include "base/Text.h"
-#include "ui/Dialogs.h"
-#include "ui/MessageForms.h"
-#include "ui/Palette.h"
-#include "ui/QtText.h"
-#include "ui/Texts.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/look/Palette.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 

@@ -5,7 +5,7 @@
 
 #include "base/Words.h"
 #include "tunes/TuneNames.h"
-#include "ui/BandedForm.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

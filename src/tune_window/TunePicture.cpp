@@ -6,8 +6,8 @@
 
 #include <algorithm>
 
-#include "ui/Artwork.h"
-#include "ui/Palette.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

@@ -54,6 +54,9 @@ public:
     [[nodiscard]] virtual bool SaveSongAsSound(SoundFileKind /*kind*/) { return false; }
     /// Mails the shared song and shows all related messages. A mail program starts while the windows stay responsive.
     virtual void EmailSong() {}
+    /// Opens the help book beside the other windows; if it is open, brings it to the front.
+    virtual void ShowHelp() {}
+
     /// Called when the program ends: stops waiting for a mail program.
     virtual void StopEmailSong() {}
 };

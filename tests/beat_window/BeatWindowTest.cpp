@@ -3,7 +3,7 @@
 
 #include <QScreen>
 
-#include "ui/HelpFrm.h"
+#include "ui/help/HelpFrm.h"
 
 namespace sprout {
 namespace {

@@ -20,8 +20,8 @@
 #include "sound/PlayTest.h"
 #include "support/FakeServices.h"
 #include "ui/FormAnswers.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "beat_window/BeatWindowTest.h"
-#include "ui/FileDialogs.h"
+#include "ui/forms/FileDialogs.h"
 
 namespace sprout {
 

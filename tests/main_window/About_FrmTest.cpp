@@ -8,8 +8,8 @@
 #include "base/Product.h"
 #include "core/Shared.h"
 #include "support/FakeServices.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 namespace {

@@ -12,8 +12,8 @@
 #include "core/Settings.h"
 #include "main_window/CommandsTest.h"
 #include "support/Flags.h"
-#include "ui/FileDialogs.h"
 #include "ui/FormAnswers.h"
+#include "ui/forms/FileDialogs.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {

@@ -18,8 +18,8 @@
 #include "core/SongModel.h"
 #include "main_window/TrackCanvas.h"
 #include "support/FakeServices.h"
-#include "ui/Hints.h"
-#include "ui/ProgramPictures.h"
+#include "ui/look/ProgramPictures.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -11,7 +11,7 @@
 
 #include <utility>
 
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

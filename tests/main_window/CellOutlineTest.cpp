@@ -3,7 +3,7 @@
 
 #include "main_window/CanvasFixture.h"
 #include "ui/ModalSteps.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

@@ -22,8 +22,8 @@
 #include "support/FakeServices.h"
 #include "support/FakeWindows.h"
 #include "support/Flags.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

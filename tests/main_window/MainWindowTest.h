@@ -21,9 +21,9 @@
 #include "sound/PlayMod.h"
 #include "support/FakeServices.h"
 #include "support/Flags.h"
-#include "ui/MessageForms.h"
 #include "ui/ModalSteps.h"
-#include "ui/QtText.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/words/QtText.h"
 
 namespace sprout {
 

@@ -2,7 +2,7 @@
 #include "main_window/RowButtons.h"
 
 #include "main_window/TitleStripFixture.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

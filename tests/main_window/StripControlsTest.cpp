@@ -2,6 +2,7 @@
 #include "main_window/StripControls.h"
 
 #include "main_window/TitleStripFixture.h"
+#include "main_window/rules/MainWindowHints.h"
 
 namespace sprout {
 namespace {

@@ -13,7 +13,7 @@
 #include "core/SongModel.h"
 #include "support/FakeServices.h"
 #include "support/Flags.h"
-#include "ui/Hints.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 namespace {

@@ -3,7 +3,7 @@
 
 #include "main_window/CanvasFixture.h"
 #include "main_window/CanvasPixels.h"
-#include "ui/Look.h"
+#include "ui/look/Look.h"
 
 namespace sprout {
 namespace {

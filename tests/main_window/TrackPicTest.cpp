@@ -3,8 +3,8 @@
 
 #include "main_window/CanvasFixture.h"
 #include "main_window/CanvasPixels.h"
-#include "ui/Artwork.h"
-#include "ui/Look.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Look.h"
 
 namespace sprout {
 namespace {

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "ui/Artwork.h"
+#include "ui/look/Artwork.h"
 
 namespace sprout {
 namespace {

@@ -2,7 +2,8 @@
 #include "main_window/TrackTitlePic.h"
 
 #include "main_window/TitleStripFixture.h"
-#include "ui/Palette.h"
+#include "main_window/rules/MainWindowHints.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

@@ -2,7 +2,7 @@
 #include "main_window/WindowFrame.h"
 
 #include "main_window/MainWindowTest.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

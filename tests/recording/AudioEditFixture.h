@@ -11,9 +11,9 @@
 #include "recording/WaveScrollBar.h"
 #include "sound/PlayTest.h"
 #include "support/Flags.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -2,7 +2,7 @@
 #include "recording/AudioEditFrm.h"
 
 #include "recording/AudioEditFixture.h"
-#include "ui/HelpFrm.h"
+#include "ui/help/HelpFrm.h"
 
 namespace sprout {
 namespace {

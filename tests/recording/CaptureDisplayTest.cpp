@@ -2,7 +2,7 @@
 #include "recording/CaptureDisplay.h"
 
 #include "recording/RecdFrmFixture.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

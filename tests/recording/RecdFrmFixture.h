@@ -15,8 +15,8 @@
 #include "recording/Recd_Frm.h"
 #include "recording/Recd_Mod.h"
 #include "support/FakeServices.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -7,7 +7,7 @@
 
 #include <vector>
 
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

@@ -12,7 +12,7 @@
 #include "recording/WavePic.h"
 #include "recording/rules/WaveMaker.h"
 #include "support/FakeServices.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

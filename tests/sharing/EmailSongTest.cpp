@@ -15,8 +15,8 @@
 #include "support/FakeServices.h"
 #include "support/Flags.h"
 #include "support/FullDisk.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 namespace {

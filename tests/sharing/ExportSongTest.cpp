@@ -16,9 +16,9 @@
 #include "support/FakeServices.h"
 #include "support/Flags.h"
 #include "support/UnchangeableFolder.h"
-#include "ui/FileDialogs.h"
 #include "ui/FormAnswers.h"
-#include "ui/Hints.h"
+#include "ui/forms/FileDialogs.h"
+#include "ui/widgets/Hints.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {

@@ -132,7 +132,7 @@ TEST_F(SongListTest, ListsTheFolderAnewWithNothingSelected)
 {
     Put({"Rain"});
     SongList list(nullptr);
-    list.SetNothingFound("Nothing here");
+    list.SetNothingFound(Words::AsIs("Nothing here"));
     list.LoadSongNames();
     list.SelectRow(0);
     Put({"Apple"});

@@ -2,8 +2,8 @@
 #include "song_window/SongSelFrmTest.h"
 
 #include "support/Flags.h"
-#include "ui/FileDialogs.h"
-#include "ui/HelpFrm.h"
+#include "ui/forms/FileDialogs.h"
+#include "ui/help/HelpFrm.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {

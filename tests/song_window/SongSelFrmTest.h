@@ -18,8 +18,8 @@
 #include "song_window/SongSelFrm.h"
 #include "support/FakeServices.h"
 #include "support/TestFolder.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

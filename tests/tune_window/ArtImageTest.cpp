@@ -6,7 +6,7 @@
 #include <QImage>
 #include <QPainter>
 
-#include "ui/Artwork.h"
+#include "ui/look/Artwork.h"
 
 namespace sprout {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "core/Settings.h"
 #include "service/qt/QtPictureFiles.h"
-#include "ui/FileDialogs.h"
+#include "ui/forms/FileDialogs.h"
 
 namespace sprout {
 namespace {

@@ -33,11 +33,11 @@ TEST_F(ChosenTuneViewTest, NamesThePictureButKeepsItsNameWhenOnlyTheNamesChange)
     name.resize(300, 30);
     author.resize(300, 30);
     const ChosenTuneView view{&picture, &name, &author};
-    view.ShowTune("Rain", "By: Ann", PlainPicture(7));
+    view.ShowTune(Words::AsIs("Rain"), Words::AsIs("By: Ann"), PlainPicture(7));
     EXPECT_EQ(name.text(), QStringLiteral("Rain"));
     EXPECT_EQ(author.accessibleName(), QStringLiteral("By: Ann"));
     EXPECT_EQ(picture.Picture().Pixel(0, 0), 7U);
-    view.ShowNames("Sun", "Bob");
+    view.ShowNames(Words::AsIs("Sun"), Words::AsIs("Bob"));
     EXPECT_EQ(name.text(), QStringLiteral("Sun"));
     EXPECT_EQ(name.toolTip(), QString());
     EXPECT_EQ(picture.accessibleName(), QStringLiteral("Rain"));

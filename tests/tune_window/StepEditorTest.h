@@ -17,8 +17,8 @@
 #include "support/Flags.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TunFramPic.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 

@@ -4,8 +4,8 @@
 #include "support/FakeServices.h"
 #include "tune_window/StepEditorTest.h"
 #include "tune_window/rules/KeyMap.h"
-#include "ui/Artwork.h"
-#include "ui/Palette.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

@@ -2,7 +2,7 @@
 #include "tune_window/TuneFrm2Test.h"
 
 #include "tune_window/StepEditor.h"
-#include "ui/HelpFrm.h"
+#include "ui/help/HelpFrm.h"
 
 namespace sprout {
 namespace {

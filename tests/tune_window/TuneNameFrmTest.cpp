@@ -6,8 +6,8 @@
 #include <QLabel>
 
 #include "support/FakeServices.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
+#include "ui/widgets/Hints.h"
 
 namespace sprout {
 namespace {

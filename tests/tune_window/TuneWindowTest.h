@@ -21,10 +21,10 @@
 #include "tune_window/TuneFrm2.h"
 #include "tune_window/TunePicture.h"
 #include "tune_window/Tunes.h"
-#include "ui/Hints.h"
 #include "ui/ModalSteps.h"
-#include "ui/PictureGridPic.h"
-#include "ui/QtText.h"
+#include "ui/widgets/Hints.h"
+#include "ui/widgets/PictureGridPic.h"
+#include "ui/words/QtText.h"
 
 namespace sprout {
 

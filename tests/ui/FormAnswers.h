@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "ui/MessageForms.h"
 #include "ui/ModalSteps.h"
+#include "ui/forms/MessageForms.h"
 
 namespace sprout {
 

@@ -6,7 +6,7 @@
 
 #include "app/ProgramWindows.h"
 #include "support/KnownTexts.h"
-#include "ui/Look.h"
+#include "ui/look/Look.h"
 
 namespace {
 

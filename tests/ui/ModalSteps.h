@@ -8,7 +8,7 @@
 
 #include <functional>
 
-#include "ui/BandedForm.h"
+#include "ui/forms/BandedForm.h"
 
 namespace sprout {
 

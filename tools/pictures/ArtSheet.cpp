@@ -8,9 +8,9 @@
 #include <algorithm>
 
 #include "pictures/SheetPicture.h"
-#include "ui/Artwork.h"
-#include "ui/Look.h"
-#include "ui/Palette.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Look.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 

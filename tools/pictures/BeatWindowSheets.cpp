@@ -16,10 +16,10 @@
 #include "service/Services.h"
 #include "service/posix/PosixFiles.h"
 #include "service/qt/QtPictureFiles.h"
-#include "ui/Artwork.h"
-#include "ui/ProgramPictures.h"
-#include "ui/QtMessages.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtMessages.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/ProgramPictures.h"
 
 namespace sprout {
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "pictures/SheetPicture.h"
-#include "ui/ButtonScheme.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/ButtonScheme.h"
 
 namespace sprout {
 

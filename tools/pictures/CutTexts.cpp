@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/CutTexts.h"
 
+#include <QLabel>
 #include <QPaintDevice>
 #include <QPaintEngine>
 #include <QPainter>
@@ -84,13 +85,23 @@ private:
     mutable CutWatch watch;
 };
 
+/// Texts with more lines than their labels have room for: Qt does not draw lines outside of a label at all.
+QStringList TooTallTexts(QWidget& window)
+{
+    QStringList tall;
+    for (const QLabel* label : window.findChildren<QLabel*>())
+        if (label->isVisible() && label->wordWrap() && label->heightForWidth(label->width()) > label->height())
+            tall.append(label->text());
+    return tall;
+}
+
 } // namespace
 
 QStringList CutTexts(QWidget& window)
 {
     WatchedDevice device(window);
     window.render(&device);
-    return device.Cut();
+    return device.Cut() + TooTallTexts(window);
 }
 
 } // namespace sprout

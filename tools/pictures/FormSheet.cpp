@@ -10,10 +10,11 @@
 #include <vector>
 
 #include "pictures/SheetPicture.h"
-#include "ui/MessageForms.h"
-#include "ui/Palette.h"
-#include "ui/ProcessPic.h"
-#include "ui/WorkFrm.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/forms/WorkFrm.h"
+#include "ui/look/Palette.h"
+#include "ui/widgets/ProcessPic.h"
 
 namespace sprout {
 
@@ -79,25 +80,25 @@ void DrawMessages(FormSheet& sheet)
         sheet.Add(form);
     };
     Msg1BtnFrm one(nullptr, Words::Text("Please enter a song name."));
-    draw(one, Words::Text(" Tonquill Sprout Painter"));
+    draw(one, CaptionOf({}));
     Msg1Btn2NoteFrm two(nullptr, Words::Text("Please paint on the track."),
                         Words::Text("Use the paint button and draw on the track."));
-    draw(two, Words::Text(" Tonquill Sprout Painter"));
-    MsgYesNoFrm question(nullptr, Words::Text("Are you sure to delete this Track?"), Words::Text("Track No: 3"));
+    draw(two, CaptionOf({}));
+    MsgYesNoFrm question(nullptr, Words::Text("Are you sure to delete this Track?"), Words::Text("Track No: %1", 3));
     draw(question, Words::Text(" Confirm Delete Track"));
     Msg3BtnFrm three(nullptr, Words::Text("Choose Audio Type to add:"));
     draw(three, Words::Text(" Add Audio Track"));
     SaveConfirmFrm save(nullptr, "Rain on the roof");
-    draw(save, Words::Text(" Tonquill Sprout Painter"));
+    draw(save, CaptionOf({}));
     PlainBoxFrm plain(nullptr,
-                      Words::Text("Could not Play Sound\nDriver busy or not ready\nCheck whether sound driver is ON"),
+                      Words::AsIs("Could not Play Sound\nDriver busy or not ready\nCheck whether sound driver is ON"),
                       MessageIcon::Exclamation);
-    draw(plain, Words::Text(" Play Failed"));
-    const Words words = Words::Text("This is a very long line of a message that does not fit on the screen of a small "
+    draw(plain, CaptionOf(Words::Text("Play Failed")));
+    const Words words = Words::AsIs("This is a very long line of a message that does not fit on the screen of a small "
                                     "computer and therefore has to go on in another line, word by word. ");
     Msg1BtnFrm wide(nullptr, Words::Joined({words, words}, ""));
     draw(wide,
-         Words::Text(
+         Words::AsIs(
              " A title that is much longer than the form is wide has to end somewhere, or else it would stick out of "
              "the form, far behind the close box"));
 }
@@ -105,11 +106,11 @@ void DrawMessages(FormSheet& sheet)
 void DrawInputs(FormSheet& sheet)
 {
     InputBoxFrm input(nullptr, "Zumi", Words::Text("Enter the new name:"), {});
-    input.SetCaption(Words::Text(" Rename"));
+    input.SetCaption(Words::AsIs(" Rename"));
     sheet.Add(input);
     InputBoxFrm longInput(nullptr, "Zumi", Words::Text("Enter the new name:"),
-                          Words::Text("It may hold letters and numbers."));
-    longInput.SetCaption(Words::Text(" Rename"));
+                          Words::AsIs("It may hold letters and numbers."));
+    longInput.SetCaption(Words::AsIs(" Rename"));
     sheet.Add(longInput);
     SongTitleFrm title(nullptr, "Zumi", "Your name here");
     title.SetCaption(Words::Text(" Change Song Title"));

@@ -21,8 +21,8 @@
 #include "pictures/SongWindowSheets.h"
 #include "pictures/StepEditorSheets.h"
 #include "pictures/TuneWindowSheets.h"
-#include "ui/Look.h"
-#include "ui/PseudoLanguage.h"
+#include "ui/look/Look.h"
+#include "ui/words/PseudoLanguage.h"
 
 namespace {
 

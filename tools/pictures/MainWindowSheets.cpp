@@ -24,8 +24,8 @@
 #include "service/posix/PosixFiles.h"
 #include "service/qt/QtPictureFiles.h"
 #include "songs/OpenSaveClass.h"
-#include "ui/ProgramPictures.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/ProgramPictures.h"
 
 namespace sprout {
 

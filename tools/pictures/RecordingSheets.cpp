@@ -10,7 +10,7 @@
 #include "recording/Recd_Frm.h"
 #include "service/Screen.h"
 #include "service/Services.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtScreen.h"
 
 namespace sprout {
 

@@ -19,9 +19,8 @@ bool areTextsWatched = false;
 bool IsTranslated(const QString& text)
 {
     constexpr QChar kLastOfAscii(0x7F);
-    constexpr QChar kEllipsis(0x2026);
     return std::any_of(text.begin(), text.end(),
-                       [](QChar letter) { return letter > kLastOfAscii && letter != kEllipsis; });
+                       [](QChar letter) { return letter > kLastOfAscii && letter.isLetter(); });
 }
 
 void TellCutTexts(QWidget& widget, const QString& name)

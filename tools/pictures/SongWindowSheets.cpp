@@ -13,9 +13,9 @@
 #include "main_window/About_Frm.h"
 #include "pictures/SheetPicture.h"
 #include "song_window/SongSelFrm.h"
-#include "ui/HelpFrm.h"
-#include "ui/MessageForms.h"
-#include "ui/QtText.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/help/HelpFrm.h"
+#include "ui/words/QtText.h"
 
 namespace sprout {
 
@@ -80,7 +80,7 @@ void DrawSongWindowSheets(const QString& folder)
 {
     for (const int songs : {0, static_cast<int>(kSongNames.size()), kManySongs})
         DrawSongWindows(folder, songs);
-    PlainBoxFrm error(nullptr, Words::Text("Error Copying file\r\nNo space left on device."), MessageIcon::None);
+    PlainBoxFrm error(nullptr, Words::AsIs("Error Copying file\r\nNo space left on device."), MessageIcon::None);
     ShowAndSaveSheet(error, folder, QStringLiteral("songs-error"));
     About_Frm about(nullptr);
     ShowAndSaveSheet(about, folder, QStringLiteral("about"));

@@ -18,11 +18,11 @@
 #include "service/Services.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TunFramPic.h"
-#include "ui/Artwork.h"
-#include "ui/Palette.h"
-#include "ui/ProgramPictures.h"
-#include "ui/QtMessages.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/QtMessages.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/Artwork.h"
+#include "ui/look/Palette.h"
+#include "ui/look/ProgramPictures.h"
 
 namespace sprout {
 namespace {

@@ -21,10 +21,11 @@
 #include "tune_window/OpenTuneWindow.h"
 #include "tune_window/TuneFrm2.h"
 #include "tune_window/TuneNameFrm.h"
-#include "ui/MessageForms.h"
-#include "ui/ProgramPictures.h"
-#include "ui/QtMessages.h"
-#include "ui/QtScreen.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/forms/QtMessages.h"
+#include "ui/forms/QtScreen.h"
+#include "ui/look/ProgramPictures.h"
 
 namespace sprout {
 namespace {
@@ -35,7 +36,7 @@ public:
     void ReplaceFile(const std::filesystem::path& target, std::span<const std::span<const std::byte>> /*pieces*/,
                      Flush /*flush*/) override
     {
-        throw RunTimeError(Words::Text("%1 is not written.", PathText(target)));
+        throw RunTimeError(Words::Text("The file %1 could not be written.", PathText(target)));
     }
     void DeleteStaleFile(const std::filesystem::path& /*path*/) override {}
     [[nodiscard]] bool WriteNewFile(const std::filesystem::path& /*path*/,
@@ -138,9 +139,9 @@ void DrawTuneWindowSheets(const QString& folder)
     TuneNameFrm form(nullptr, {"Rain dance", "Ann"});
     form.show();
     SaveSheet(form, folder, QStringLiteral("tune-name"));
-    Msg1Btn2NoteFrm refusal(nullptr, Words::Text("An Original Tonquill Tune is there with this name \"Lumo\"\r\n"),
+    Msg1Btn2NoteFrm refusal(nullptr, Words::AsIs("An Original Tonquill Tune is there with this name \"Lumo\"\r\n"),
                             Words::Text("Please enter another name for this Tune and save."));
-    refusal.SetCaption(Words::Text(" Tonquill Sprout Painter"));
+    refusal.SetCaption(CaptionOf({}));
     refusal.show();
     SaveSheet(refusal, folder, QStringLiteral("tune-refusal"));
     TheServices() = Services();

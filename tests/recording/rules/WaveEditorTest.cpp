@@ -114,10 +114,10 @@ TEST_F(WaveEditorTest, CutsTheSelectionOutAndSelectsNothing)
 
 TEST_F(WaveEditorTest, TellsWhatIsSelected)
 {
-    EXPECT_EQ(editor.Spoken(), "Nothing is selected");
+    EXPECT_EQ(editor.Spoken().English(), "Nothing is selected");
     EXPECT_FALSE(editor.SelectsAll());
     editor.SelectAll();
-    EXPECT_EQ(editor.Spoken(), "0.0 to 0.0 seconds");
+    EXPECT_EQ(editor.Spoken().English(), "0.0 to 0.0 seconds");
     EXPECT_TRUE(editor.SelectsAll());
 }
 

@@ -9,7 +9,7 @@
 #include "pictures/ButtonSheets.h"
 #include "pictures/FormSheet.h"
 #include "support/TestFolder.h"
-#include "ui/Palette.h"
+#include "ui/look/Palette.h"
 
 namespace sprout {
 namespace {

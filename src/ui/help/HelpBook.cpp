@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/help/HelpBook.h"
+
+#include <QPainter>
+
+#include "ui/look/Artwork.h"
+#include "ui/look/Look.h"
+
+namespace sprout {
+
+namespace {
+
+constexpr qreal kGlyphShare = 0.86;
+constexpr qreal kGlyphShareOfWord = 0.6;
+constexpr int kPageMargin = 12;
+
+/// The one or two numbers after a picture's name.
+QSize SizeOf(const QUrl& name)
+{
+    const QStringList sides = name.query().split(QLatin1Char('x'));
+    return {sides.front().toInt(), sides.back().toInt()};
+}
+
+QString StyleOfPages()
+{
+    return QStringLiteral("body { color: #4A2F22; }"
+                          "h1 { color: #1F6B34; font-size: 22px; font-weight: bold; margin: 4px 0px 8px 0px; }"
+                          "h2 { color: #1F6B34; font-size: 17px; font-weight: bold; margin: 14px 0px 4px 0px; }"
+                          "p { margin: 4px 0px 6px 0px; }"
+                          "td { padding: 3px 8px 3px 0px; }"
+                          "a { color: #1F6FA8; }");
+}
+
+QPixmap OnToolPlate(const QString& button, QSize size, qreal pixelRatio)
+{
+    QPixmap picture = Artwork(QStringLiteral("plates/ToolNormal"), size, pixelRatio);
+    const QSize room = (QSizeF(size) * kGlyphShare).toSize();
+    QPainter painter(&picture);
+    painter.drawPixmap((size.width() - room.width()) / 2, (size.height() - room.height()) / 2,
+                       Artwork(QStringLiteral("buttons/") + button, room, pixelRatio));
+    return picture;
+}
+
+/// name: of the glyph and its plate's colour, e.g. "WordCopy-1F6FA8".
+QPixmap OnWordPlate(const QString& name, QSize size, qreal pixelRatio)
+{
+    const QStringList parts = name.split(QLatin1Char('-'));
+    QPixmap picture =
+        Artwork(QStringLiteral("plates/WordNormal"), size, pixelRatio, QColor(QLatin1Char('#') + parts.back()));
+    const QSize room = (QSizeF(size) * kGlyphShareOfWord).toSize();
+    QPainter painter(&picture);
+    painter.drawPixmap((size.width() - room.width()) / 2, (size.height() - room.height()) / 2,
+                       Artwork(QStringLiteral("buttons/") + parts.front(), room, pixelRatio));
+    return picture;
+}
+
+} // namespace
+
+HelpBook::HelpBook(QWidget* parent) : QTextBrowser(parent)
+{
+    setFont(LabelFont());
+    setOpenLinks(true);
+    setOpenExternalLinks(false);
+    document()->setDocumentMargin(kPageMargin);
+    document()->setDefaultStyleSheet(StyleOfPages());
+    setStyleSheet(QStringLiteral(
+        "QTextBrowser { background: white; border: 2px solid #6B655C; border-radius: 8px; padding: 3px; }"
+        "QTextBrowser:focus { border-color: #1F6FA8; }"));
+}
+
+QVariant HelpBook::loadResource(int type, const QUrl& name)
+{
+    const QPixmap picture = PageArtwork(name);
+    return picture.isNull() ? QTextBrowser::loadResource(type, name) : QVariant(picture);
+}
+
+QPixmap HelpBook::PageArtwork(const QUrl& name) const
+{
+    if (name.scheme() == QStringLiteral("art"))
+        return Artwork(name.path(), SizeOf(name), devicePixelRatioF());
+    if (name.scheme() == QStringLiteral("tool"))
+        return OnToolPlate(name.path(), SizeOf(name), devicePixelRatioF());
+    if (name.scheme() == QStringLiteral("word"))
+        return OnWordPlate(name.path(), SizeOf(name), devicePixelRatioF());
+    return {};
+}
+
+} // namespace sprout

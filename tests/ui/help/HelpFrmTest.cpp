@@ -1,0 +1,290 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ui/help/HelpFrm.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QScrollBar>
+#include <QWindow>
+
+#include "ui/ModalSteps.h"
+#include "ui/forms/Dialogs.h"
+#include "ui/forms/MessageForms.h"
+#include "ui/help/HelpBook.h"
+
+namespace sprout {
+namespace {
+
+HelpFrm* OpenedHelp()
+{
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (auto* help = qobject_cast<HelpFrm*>(window); help && help->isVisible())
+            return help;
+    return nullptr;
+}
+
+/// Clicks like the user: through the window, which a modal one may block.
+void ClickThroughWindow(QWidget& widget, QPoint point)
+{
+    QWidget* top = widget.window();
+    QTest::mouseClick(top->windowHandle(), Qt::LeftButton, {}, widget.mapTo(top, point));
+}
+
+class HelpFrmTest : public testing::Test {
+protected:
+    ~HelpFrmTest() override { delete OpenedHelp(); }
+
+    static HelpFrm& Open()
+    {
+        ShowHelp();
+        QApplication::processEvents();
+        return *OpenedHelp();
+    }
+
+    static QListWidget& Pages(HelpFrm& help) { return *help.findChild<QListWidget*>(QStringLiteral("PagesLst")); }
+    static HelpBook& Book(HelpFrm& help) { return *help.findChild<HelpBook*>(QStringLiteral("BookTxt")); }
+
+    static QString Shown(HelpFrm& help) { return Book(help).document()->metaInformation(QTextDocument::DocumentTitle); }
+    static QString Marked(HelpFrm& help) { return Pages(help).currentItem()->text(); }
+
+    static void ClickPage(HelpFrm& help, int row)
+    {
+        QListWidget& pages = Pages(help);
+        ClickThroughWindow(*pages.viewport(), pages.visualItemRect(pages.item(row)).center());
+    }
+};
+
+TEST_F(HelpFrmTest, OpensAtItsFirstPage)
+{
+    HelpFrm& help = Open();
+    EXPECT_EQ(help.findChild<QLabel*>(QStringLiteral("CaptionLbl"))->text(), QStringLiteral(" Help"));
+    EXPECT_EQ(Shown(help), QStringLiteral("Welcome"));
+    EXPECT_EQ(Marked(help), QStringLiteral("Welcome"));
+    EXPECT_FALSE(help.isModal());
+}
+
+TEST_F(HelpFrmTest, EveryPageOfTheListIsThere)
+{
+    HelpFrm& help = Open();
+    ASSERT_EQ(Pages(help).count(), 9);
+    for (int row = 0; row < Pages(help).count(); ++row) {
+        ClickPage(help, row);
+        EXPECT_EQ(Shown(help), Pages(help).item(row)->text());
+        EXPECT_EQ(Marked(help), Shown(help));
+        EXPECT_GT(Book(help).toPlainText().size(), 300) << row;
+    }
+}
+
+TEST_F(HelpFrmTest, EveryTitleHasRoomBesideAScrollBar)
+{
+    const QListWidget& pages = Pages(Open());
+    const int room = pages.contentsRect().width() - pages.verticalScrollBar()->sizeHint().width();
+    EXPECT_LE(pages.sizeHintForColumn(0), room);
+}
+
+TEST_F(HelpFrmTest, EveryLinkAndEveryPictureOfItsPagesIsThere)
+{
+    HelpFrm& help = Open();
+    const QRegularExpression references(QStringLiteral("(src|href)=[\"']([^\"']+)[\"']"));
+    for (int row = 0; row < Pages(help).count(); ++row) {
+        ClickPage(help, row);
+        QFile file(QLatin1Char(':') + Book(help).source().path());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        auto found = references.globalMatch(QString::fromUtf8(file.readAll()));
+        while (found.hasNext()) {
+            const QRegularExpressionMatch reference = found.next();
+            const QUrl target(reference.captured(2));
+            if (reference.captured(1) == QStringLiteral("href"))
+                EXPECT_TRUE(QFile::exists(QStringLiteral(":/help/") + target.path())) << target.path().toStdString();
+            else
+                EXPECT_FALSE(Book(help).loadResource(QTextDocument::ImageResource, target).value<QPixmap>().isNull())
+                    << reference.captured(2).toStdString();
+        }
+    }
+}
+
+TEST_F(HelpFrmTest, BackGoesTheWayThatWasCome)
+{
+    HelpFrm& help = Open();
+    auto* back = help.findChild<ImageButton*>(QStringLiteral("BackBtn"));
+    EXPECT_FALSE(back->isEnabled());
+    ClickPage(help, 1);
+    ClickPage(help, 3);
+    Click(help, "BackBtn");
+    EXPECT_EQ(Marked(help), QStringLiteral("Painting"));
+    QTest::keyClick(&help, Qt::Key_Backspace);
+    EXPECT_EQ(Shown(help), QStringLiteral("Welcome"));
+    EXPECT_EQ(Marked(help), QStringLiteral("Welcome"));
+    EXPECT_FALSE(back->isEnabled());
+}
+
+TEST_F(HelpFrmTest, ALinkIsFollowedWithKeys)
+{
+    HelpFrm& help = Open();
+    HelpBook& book = Book(help);
+    ASSERT_TRUE(book.hasFocus());
+    QTest::keyClick(&book, Qt::Key_Tab);
+    QTest::keyClick(&book, Qt::Key_Return);
+    EXPECT_EQ(Shown(help), QStringLiteral("Painting"));
+    EXPECT_EQ(Marked(help), QStringLiteral("Painting"));
+}
+
+TEST_F(HelpFrmTest, ArrowsMoveThePageAndEnterDoesNothing)
+{
+    HelpFrm& help = Open();
+    HelpBook& book = Book(help);
+    QTest::keyClick(&book, Qt::Key_Down);
+    EXPECT_GT(book.verticalScrollBar()->value(), 0);
+    QTest::keyClick(&book, Qt::Key_Up);
+    QTest::keyClick(&book, Qt::Key_Up);
+    QTest::keyClick(&book, Qt::Key_Return);
+    EXPECT_EQ(book.verticalScrollBar()->value(), 0);
+    EXPECT_TRUE(book.hasFocus());
+    EXPECT_TRUE(help.isVisible());
+}
+
+TEST_F(HelpFrmTest, ArrowsGoThroughTheListOfPages)
+{
+    HelpFrm& help = Open();
+    Pages(help).setFocus();
+    QTest::keyClick(&Pages(help), Qt::Key_Down);
+    EXPECT_EQ(Shown(help), QStringLiteral("Painting"));
+}
+
+TEST_F(HelpFrmTest, IsOneWindowHoweverOftenItIsCalled)
+{
+    HelpFrm& help = Open();
+    ClickPage(help, 2);
+    EXPECT_EQ(&Open(), &help);
+    EXPECT_EQ(Shown(help), QStringLiteral("Playing")); // the reader stays on the same page
+}
+
+TEST_F(HelpFrmTest, EscapeAndCloseEndItAndItRemembersNothing)
+{
+    for (const bool byKey : {true, false}) {
+        HelpFrm& help = Open();
+        ClickPage(help, 4);
+        if (byKey)
+            QTest::keyClick(&Book(help), Qt::Key_Escape);
+        else
+            Click(help, "CloseBtn");
+        EXPECT_EQ(OpenedHelp(), nullptr);
+        EXPECT_EQ(Shown(Open()), QStringLiteral("Welcome"));
+        delete OpenedHelp();
+    }
+}
+
+TEST_F(HelpFrmTest, CanBeUsedWhileAModalFormWaitsThatItWasCalledFrom)
+{
+    QString shown;
+    bool formWaits = false;
+    WithNextForm([&](BandedForm& question) {
+        QTest::keyClick(&question, Qt::Key_F1);
+        QApplication::processEvents();
+        HelpFrm& help = *OpenedHelp();
+        ClickPage(help, 2);
+        shown = Shown(help);
+        formWaits = question.isVisible();
+        Click(question, "YesBtn");
+    });
+    EXPECT_EQ(AskYesNo(Words::AsIs("Overwrite?")), 1);
+    EXPECT_TRUE(formWaits);
+    EXPECT_EQ(shown, QStringLiteral("Playing"));
+    ASSERT_NE(OpenedHelp(), nullptr); // it outlives the form
+    ClickPage(*OpenedHelp(), 3);
+    EXPECT_EQ(Shown(*OpenedHelp()), QStringLiteral("Tracks and tunes"));
+}
+
+TEST_F(HelpFrmTest, CanBeUsedWhileModalFormsWaitThatCameLater)
+{
+    HelpFrm& help = Open();
+    QStringList shown;
+    WithNextForm([&](BandedForm& question) {
+        QApplication::processEvents();
+        ClickPage(help, 1);
+        shown.push_back(Shown(help));
+        WithNextForm([&](BandedForm& onTop) {
+            QApplication::processEvents();
+            ClickPage(help, 2);
+            shown.push_back(Shown(help));
+            Click(onTop, "OkBtn");
+        });
+        ShowMessage(Words::AsIs("On top."));
+        QApplication::processEvents();
+        ClickPage(help, 3);
+        shown.push_back(Shown(help));
+        Click(question, "YesBtn");
+    });
+    EXPECT_EQ(AskYesNo(Words::AsIs("Below?")), 1);
+    EXPECT_EQ(shown.join(QLatin1Char('/')), QStringLiteral("Painting/Playing/Tracks and tunes"));
+    EXPECT_EQ(OpenedHelp(), &help);
+}
+
+TEST_F(HelpFrmTest, StaysInFrontOfTheWindowThatItWasCalledFrom)
+{
+    QWidget window;
+    window.show();
+    QApplication::setActiveWindow(&window);
+    const HelpFrm& help = Open();
+    EXPECT_EQ(help.windowHandle()->transientParent(), window.windowHandle());
+    const QWindow* duringTheQuestion = nullptr;
+    QWindow* questionWindow = nullptr;
+    WithNextForm([&](BandedForm& question) {
+        QApplication::processEvents();
+        questionWindow = question.windowHandle();
+        duringTheQuestion = help.windowHandle()->transientParent();
+        Click(question, "YesBtn");
+    });
+    QApplication::setActiveWindow(&window);
+    EXPECT_EQ(AskYesNo(Words::AsIs("Below?")), 1);
+    QApplication::processEvents();
+    EXPECT_EQ(duringTheQuestion, questionWindow);
+    EXPECT_EQ(help.windowHandle()->transientParent(), window.windowHandle());
+    delete OpenedHelp();
+}
+
+TEST_F(HelpFrmTest, CanBeClosedWhileAModalFormWaits)
+{
+    Open();
+    WithNextForm([&](BandedForm& message) {
+        QApplication::processEvents();
+        QWidget& close = *OpenedHelp()->findChild<QWidget*>(QStringLiteral("CloseBtn"));
+        ClickThroughWindow(close, close.rect().center());
+        QApplication::processEvents();
+        EXPECT_EQ(OpenedHelp(), nullptr);
+        Click(message, "OkBtn");
+    });
+    ShowMessage(Words::AsIs("Still here."));
+}
+
+TEST_F(HelpFrmTest, OwnsNoQuestionThatIsAskedWhileItIsInFront)
+{
+    HelpFrm& help = Open();
+    QApplication::setActiveWindow(&help);
+    EXPECT_EQ(WindowInFront(), nullptr);
+    QWidget* owner = &help;
+    WithNextForm([&owner](BandedForm& message) {
+        owner = message.parentWidget();
+        Click(message, "OkBtn");
+    });
+    ShowMessage(Words::AsIs("The sound has ended."));
+    EXPECT_EQ(owner, nullptr);
+}
+
+TEST_F(HelpFrmTest, DoesNotKeepTheProgramRunning)
+{
+    EXPECT_FALSE(Open().testAttribute(Qt::WA_QuitOnClose));
+}
+
+TEST(HelpBook, ShowsItsPicturesSharp)
+{
+    HelpBook book(nullptr);
+    const auto picture =
+        book.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("tool:BrushBtn?44"))).value<QPixmap>();
+    EXPECT_EQ(picture.size(), QSize(44, 44) * book.devicePixelRatioF());
+    EXPECT_TRUE(book.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("art:buttons/None?44"))).isNull());
+}
+
+} // namespace
+} // namespace sprout
