@@ -137,7 +137,7 @@ void BeatWindow::PlaceControls()
 {
     const BeatWindowPlan plan = PlanBeatWindow(Needs());
     resize(plan.width, plan.height);
-    ShowAllPic->PlaceAt({plan.grid.x, plan.grid.y}, plan.gridRows);
+    ShowAllPic->PlaceAt({plan.grid.left, plan.grid.top}, plan.gridRows);
     PutAt(*NoteLbl, plan.noteLbl);
     PutAt(*chosen.ChoosenPic, plan.choosenPic);
     PutAt(*TestPlayBtn, plan.testPlayBtn);

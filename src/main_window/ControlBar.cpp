@@ -11,6 +11,7 @@
 #include "ui/look/Look.h"
 #include "ui/look/Palette.h"
 #include "ui/widgets/Hints.h"
+#include "ui/widgets/PutAt.h"
 #include "ui/words/QtText.h"
 #include "ui/words/Texts.h"
 
@@ -20,11 +21,6 @@ namespace {
 
 constexpr int kCaptionGap = 6;
 constexpr int kBelowTheLine = 4;
-
-QRect RectOf(const BarPlace& place)
-{
-    return {place.left, place.top, place.width, place.height};
-}
 
 int CaptionWidth(const QLabel& caption)
 {
@@ -112,7 +108,7 @@ void ControlBar::resizeEvent(QResizeEvent* event)
     const ControlBarPlaces places = PlaceControlBar(width(), emailTool);
     for (std::size_t tool = 0; tool < kBarTools; ++tool)
         if (tools[tool])
-            tools[tool]->setGeometry(RectOf(places.tools[tool]));
+            PutAt(*tools[tool], places.tools[tool]);
     tempoBar->FitRoom(RectOf(places.tempo).size());
     tempoBar->move(places.tempo.left + (places.songInOneLine ? 0 : places.tempo.width - tempoBar->width()),
                    places.tempo.top);

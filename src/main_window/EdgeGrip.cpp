@@ -5,6 +5,7 @@
 #include <QWindow>
 
 #include "ui/widgets/DesktopPlacesWindows.h"
+#include "ui/widgets/PutAt.h"
 
 namespace sprout {
 
@@ -47,8 +48,7 @@ EdgeGrip::EdgeGrip(QWidget* window, const WindowEdges& edges) : QWidget(window),
 
 void EdgeGrip::Place()
 {
-    const WindowPlace place = GripPlace(held, window()->width(), window()->height());
-    setGeometry(place.left, place.top, place.width, place.height);
+    PutAt(*this, GripPlace(held, window()->width(), window()->height()));
     raise();
 }
 
@@ -68,8 +68,7 @@ void EdgeGrip::mouseMoveEvent(QMouseEvent* event)
     if (!dragging)
         return;
     const QPoint by = event->globalPosition().toPoint() - downAt;
-    const WindowPlace place = DraggedByEdges(start, held, by.x(), by.y());
-    window()->setGeometry(place.left, place.top, place.width, place.height);
+    PutAt(*window(), DraggedByEdges(start, held, by.x(), by.y()));
 }
 
 void EdgeGrip::mouseReleaseEvent(QMouseEvent* /*event*/)

@@ -25,7 +25,7 @@ protected:
 
 private:
     WindowEdges held;
-    WindowPlace start;
+    Box start;
     QPoint downAt; ///< on the screen
     bool dragging = false;
 };

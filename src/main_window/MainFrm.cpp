@@ -26,6 +26,7 @@
 #include "ui/Windows.h"
 #include "ui/forms/Dialogs.h"
 #include "ui/look/Artwork.h"
+#include "ui/widgets/PutAt.h"
 #include "ui/widgets/SpokenRoles.h"
 #include "ui/words/Texts.h"
 
@@ -34,11 +35,6 @@ namespace sprout {
 namespace {
 
 constexpr int kWindowIconSide = 64;
-
-void PutAt(QWidget& part, const WindowPlace& place)
-{
-    part.setGeometry(place.left, place.top, place.width, place.height);
-}
 
 } // namespace
 

@@ -13,6 +13,7 @@
 #include "ui/forms/Guarded.h"
 #include "ui/look/Look.h"
 #include "ui/widgets/Hints.h"
+#include "ui/widgets/PutAt.h"
 #include "ui/widgets/SliderPointer.h"
 #include "ui/words/Texts.h"
 
@@ -27,11 +28,6 @@ constexpr QSize kPointerPicture{30, 35}; // inside the focus frame
 int WidestWidth(const char* text)
 {
     return QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(text)) + 2;
-}
-
-QRect LabelRect(const BarPlace& place)
-{
-    return {place.left, place.top, place.width, place.height};
 }
 
 } // namespace
@@ -73,8 +69,8 @@ void TempoBar::FitRoom(QSize room)
     TempoLbl->setAlignment((places.hasLabelsBelow ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     TempoSliderImg->resize(places.slotWidth, kTempoSlotHeight);
     TempoPrtImg->SetSlot(0, places.slotWidth);
-    TempoLbl->setGeometry(LabelRect(places.percent));
-    SngDurLbl->setGeometry(LabelRect(places.seconds));
+    PutAt(*TempoLbl, places.percent);
+    PutAt(*SngDurLbl, places.seconds);
     setFixedSize(places.width, places.height);
 }
 

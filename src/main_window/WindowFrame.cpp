@@ -8,6 +8,7 @@
 #include "ui/look/Artwork.h"
 #include "ui/look/Palette.h"
 #include "ui/widgets/Hints.h"
+#include "ui/widgets/PutAt.h"
 
 namespace sprout {
 
@@ -45,9 +46,8 @@ void WindowFrame::Place(const MainWindowPlaces& places)
 {
     const std::array cornerPlaces{places.leftCorner, places.rightCorner};
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        const WindowPlace& place = cornerPlaces[i];
         corners[i]->setVisible(places.hasStatus);
-        corners[i]->setGeometry(place.left, place.top, place.width, place.height);
+        PutAt(*corners[i], cornerPlaces[i]);
     }
     for (EdgeGrip* grip : grips)
         grip->Place();

@@ -8,6 +8,7 @@
 
 #include "core/Settings.h"
 #include "main_window/rules/WindowPlace.h"
+#include "ui/widgets/PutAt.h"
 
 namespace sprout {
 
@@ -20,10 +21,9 @@ constexpr std::string_view kPlaceSection = "MainWindow";
 void TakePlaceFromSettings(QWidget& window)
 {
     const QSize screenSize = window.screen()->size();
-    const WindowPlace place =
-        PlaceFromSettings(GetSetting(kPlaceSection, "Size", "-1,-1"), GetSetting(kPlaceSection, "Position", "-1,-1"),
-                          screenSize.width(), screenSize.height());
-    window.setGeometry(place.left, place.top, place.width, place.height);
+    PutAt(window,
+          PlaceFromSettings(GetSetting(kPlaceSection, "Size", "-1,-1"), GetSetting(kPlaceSection, "Position", "-1,-1"),
+                            screenSize.width(), screenSize.height()));
     if (IsMaximizedSetting(GetSetting(kPlaceSection, "WindowState", "2")))
         window.setWindowState(Qt::WindowMaximized);
 }

@@ -21,6 +21,7 @@
 #include "ui/forms/Dialogs.h"
 #include "ui/forms/Guarded.h"
 #include "ui/look/Palette.h"
+#include "ui/widgets/PutAt.h"
 #include "ui/words/Texts.h"
 
 namespace sprout {
@@ -158,9 +159,7 @@ void AudioEditFrm::SetTabOrders()
 void AudioEditFrm::FitTo(QSize room)
 {
     const AudioEditPlaces places = PlaceAudioEditor(room.width(), room.height() - kBandHeight);
-    const auto rect = [](const EditPlace& place) {
-        return QRect(BodyPoint(place.left, place.top), QSize(place.width, place.height));
-    };
+    const auto rect = [](const Box& box) { return RectOf(box).translated(BodyPoint(0, 0)); };
     resize(places.width, kBandHeight + places.height);
     sound->Picture().setGeometry(rect(places.picture));
     sound->Bar().setGeometry(rect(places.scroll));

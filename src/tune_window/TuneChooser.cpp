@@ -83,7 +83,7 @@ void TuneChooser::MakeMoveMnu(QWidget* window)
 
 void TuneChooser::PlaceAt(const TuneWindowPlan& plan)
 {
-    grid->PlaceAt({plan.grid.x, plan.grid.y}, plan.gridRows);
+    grid->PlaceAt({plan.grid.left, plan.grid.top}, plan.gridRows);
     PutAt(*shown.TunePic, plan.tunePic);
     PutAt(*shown.TuneNameLbl, plan.tuneNameLbl);
     PutAt(*shown.CreatedByLbl, plan.createdByLbl);

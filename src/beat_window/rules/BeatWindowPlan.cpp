@@ -31,35 +31,35 @@ std::int32_t BeatGridRows(const BeatWindowNeeds& needs)
 }
 
 /// Places the picture and the play button side by side at the top, the name and the duration below.
-void PlaceChoice(BeatWindowPlan& plan, const BeatWindowNeeds& needs, const PlanBox& column)
+void PlaceChoice(BeatWindowPlan& plan, const BeatWindowNeeds& needs, const Box& column)
 {
     const int pairWidth = needs.choosenPic.width + kBeatGap + needs.testPlayBtn.width;
-    const int left = column.x + (column.width - pairWidth) / 2;
-    plan.choosenPic = {left, column.y, needs.choosenPic.width, needs.choosenPic.height};
+    const int left = column.left + (column.width - pairWidth) / 2;
+    plan.choosenPic = {left, column.top, needs.choosenPic.width, needs.choosenPic.height};
     plan.testPlayBtn = {plan.choosenPic.Right() + kBeatGap,
-                        column.y + (needs.choosenPic.height - needs.testPlayBtn.height) / 2, needs.testPlayBtn.width,
+                        column.top + (needs.choosenPic.height - needs.testPlayBtn.height) / 2, needs.testPlayBtn.width,
                         needs.testPlayBtn.height};
-    plan.nmLbl = {column.x, plan.choosenPic.Bottom() + kBeatGap / 2, column.width, kBeatNameHeight};
-    plan.durLbl = {column.x, plan.nmLbl.Bottom(), column.width, kBeatDurationHeight};
+    plan.nmLbl = {column.left, plan.choosenPic.Bottom() + kBeatGap / 2, column.width, kBeatNameHeight};
+    plan.durLbl = {column.left, plan.nmLbl.Bottom(), column.width, kBeatDurationHeight};
 }
 
 /// Places the buttons up from the grid's lower edge.
-void PlaceColumn(BeatWindowPlan& plan, const BeatWindowNeeds& needs, const PlanBox& column)
+void PlaceColumn(BeatWindowPlan& plan, const BeatWindowNeeds& needs, const Box& column)
 {
     int bottom = column.Bottom();
     for (std::size_t i = plan.columnButtons.size(); i-- > 0;) {
         const int height = needs.columnHeights[i];
-        plan.columnButtons[i] = {column.x, bottom - height, column.width, height};
+        plan.columnButtons[i] = {column.left, bottom - height, column.width, height};
         bottom -= height + kBeatGap;
     }
 }
 
-void PlaceRow(BeatWindowPlan& plan, const BeatWindowNeeds& needs, const PlanBox& column)
+void PlaceRow(BeatWindowPlan& plan, const BeatWindowNeeds& needs, const Box& column)
 {
     const int top = plan.grid.Bottom() + kBeatRowGap;
     plan.okBtn = {kBeatMargin, top, needs.okBtn.width, needs.okBtn.height};
     plan.cancelBtn = {plan.okBtn.Right() + kBeatRowGap, top, needs.cancelBtn.width, needs.cancelBtn.height};
-    plan.helpBtn = {column.x, top, column.width, needs.helpHeight};
+    plan.helpBtn = {column.left, top, column.width, needs.helpHeight};
     plan.width = column.Right() + kBeatMargin;
     plan.height = plan.okBtn.Bottom() + kBeatRowGap;
 }
@@ -74,8 +74,8 @@ BeatWindowPlan PlanBeatWindow(const BeatWindowNeeds& needs)
                  plan.gridRows * kGridCell + needs.gridFrame.height};
     plan.noteLbl = {kBeatMargin, needs.bandHeight + kBeatNoteTop, plan.grid.width, kBeatNoteHeight};
     const int choiceWidth = needs.choosenPic.width + kBeatGap + needs.testPlayBtn.width;
-    const PlanBox column{plan.grid.Right() + kBeatMargin, plan.grid.y, std::max(choiceWidth, needs.columnWidth),
-                         plan.grid.height};
+    const Box column{plan.grid.Right() + kBeatMargin, plan.grid.top, std::max(choiceWidth, needs.columnWidth),
+                     plan.grid.height};
     PlaceChoice(plan, needs, column);
     PlaceColumn(plan, needs, column);
     PlaceRow(plan, needs, column);

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "ui/rules/PlanBox.h"
+#include "ui/rules/Box.h"
 
 namespace sprout {
 
@@ -15,15 +15,15 @@ inline constexpr std::int32_t kBeatColumns = 12;
 struct BeatWindowNeeds {
     int screenHeight = 0; ///< space for the window
     int bandHeight = 0;   ///< of the window's title band
-    PlanSize gridFrame;   ///< the grid with its frame and scroll bar, but without rows
+    BoxSize gridFrame;    ///< the grid with its frame and scroll bar, but without rows
     std::int32_t beats = 0;
-    PlanSize choosenPic;
-    PlanSize testPlayBtn;
+    BoxSize choosenPic;
+    BoxSize testPlayBtn;
     int columnWidth = 0;                ///< of the widest of the buttons beside the grid and Help
     std::array<int, 3> columnHeights{}; ///< of Add, Rename, Delete
     int helpHeight = 0;
-    PlanSize okBtn;
-    PlanSize cancelBtn;
+    BoxSize okBtn;
+    BoxSize cancelBtn;
 };
 
 /// Positions of the controls of the beat window.
@@ -31,16 +31,16 @@ struct BeatWindowPlan {
     int width = 0;
     int height = 0;
     std::int32_t gridRows = 0;
-    PlanBox grid; ///< including frame and scroll bar
-    PlanBox noteLbl;
-    PlanBox choosenPic;
-    PlanBox testPlayBtn;
-    PlanBox nmLbl;
-    PlanBox durLbl;
-    std::array<PlanBox, 3> columnButtons; ///< Add, Rename, Delete
-    PlanBox okBtn;
-    PlanBox cancelBtn;
-    PlanBox helpBtn;
+    Box grid; ///< including frame and scroll bar
+    Box noteLbl;
+    Box choosenPic;
+    Box testPlayBtn;
+    Box nmLbl;
+    Box durLbl;
+    std::array<Box, 3> columnButtons; ///< Add, Rename, Delete
+    Box okBtn;
+    Box cancelBtn;
+    Box helpBtn;
 };
 
 /// The grid with as many rows as the beats need and the screen has room for, at least 8. In a column beside it: the

@@ -73,7 +73,7 @@ private:
 };
 
 /// The room between the tools of a single row.
-BarPlace RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t top, EmailTool email)
+Box RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t top, EmailTool email)
 {
     const ToolRow row(places, kTool, top);
     std::int32_t left = row.Group(kBarMargin, kPlayTools);
@@ -84,7 +84,7 @@ BarPlace RoomInOneRow(ControlBarPlaces& places, std::int32_t width, std::int32_t
     return {left, top, right - left, kTool};
 }
 
-void OneRow(ControlBarPlaces& places, const BarPlace& room)
+void OneRow(ControlBarPlaces& places, const Box& room)
 {
     const std::int32_t top = (kTool + 2 * kBarTop - kSongLine - kTempoLine) / 2;
     places.songInOneLine = true;
@@ -96,7 +96,7 @@ void OneRow(ControlBarPlaces& places, const BarPlace& room)
 /// The row is a little higher, because the tempo's labels are below its slot.
 void OneTightRow(ControlBarPlaces& places, std::int32_t width, EmailTool email)
 {
-    const BarPlace room = RoomInOneRow(places, width, (kTightBarHeight - kTool) / 2, email);
+    const Box room = RoomInOneRow(places, width, (kTightBarHeight - kTool) / 2, email);
     places.songInOneLine = true;
     places.song = {room.left, 0, room.width, kSongLine};
     places.tempo = {room.left, kTightBarHeight - kBelowTightTempo - kTightTempoHeight, room.width, kTightTempoHeight};
@@ -127,7 +127,7 @@ void TwoRows(ControlBarPlaces& places, std::int32_t width, std::int32_t side, Em
 ControlBarPlaces PlaceControlBar(std::int32_t width, EmailTool email)
 {
     ControlBarPlaces places;
-    const BarPlace room = RoomInOneRow(places, width, kBarTop, email);
+    const Box room = RoomInOneRow(places, width, kBarTop, email);
     if (room.width >= kTempoWidth)
         OneRow(places, room);
     else if (room.width >= kTightTempoWidth)

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "ui/rules/Box.h"
+
 namespace sprout {
 
 /// The tool buttons of the control bar, in the order of the main window's button table.
@@ -28,22 +30,13 @@ inline constexpr std::size_t kBarTools = 13;
 /// Whether the song can be mailed. Without `BarTool::Email` the other tools close the gap.
 enum class EmailTool { Shown, Hidden };
 
-/// A rectangle in the bar, in logical pixels.
-struct BarPlace {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    friend bool operator==(const BarPlace&, const BarPlace&) = default;
-};
-
 /// The positions of the control bar's parts.
 struct ControlBarPlaces {
     std::int32_t height = 0;
-    std::array<BarPlace, kBarTools> tools; ///< squares, by `BarTool`; empty: hidden
-    BarPlace song;                         ///< the song's title and its author
-    bool songInOneLine = false;            ///< the author is to the right of the title, else below it
-    BarPlace tempo;                        ///< one line high, or with room for labels below the slot
+    std::array<Box, kBarTools> tools; ///< squares, by `BarTool`; empty: hidden
+    Box song;                         ///< the song's title and its author
+    bool songInOneLine = false;       ///< the author is to the right of the title, else below it
+    Box tempo;                        ///< one line high, or with room for labels below the slot
 };
 
 /// Lays out the control bar for a width: one row if title and tempo fit between the tools, if necessary shortened; else

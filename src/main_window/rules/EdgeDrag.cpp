@@ -36,7 +36,7 @@ Span Dragged(const Span& start, bool nearEdge, bool farEdge, std::int32_t by, st
 
 } // namespace
 
-WindowPlace GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t height)
+Box GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t height)
 {
     const bool corner = (edges.left || edges.right) && (edges.top || edges.bottom);
     const std::int32_t grip = corner ? kCornerGrip : kGrip;
@@ -45,7 +45,7 @@ WindowPlace GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t
     return {across.at, down.at, across.extent, down.extent};
 }
 
-WindowPlace DraggedByEdges(const WindowPlace& start, const WindowEdges& edges, std::int32_t dx, std::int32_t dy)
+Box DraggedByEdges(const Box& start, const WindowEdges& edges, std::int32_t dx, std::int32_t dy)
 {
     const Span across = Dragged({start.left, start.width}, edges.left, edges.right, dx, kLeastWindowWidth);
     const Span down = Dragged({start.top, start.height}, edges.top, edges.bottom, dy, kLeastWindowHeight);

@@ -33,11 +33,10 @@ inline constexpr std::int32_t kLeastWindowHeight = 200;
 
 /// Position of the grip for some edges of a window of this size: 6 px wide along the sides, 10 px square at the
 /// corners.
-[[nodiscard]] WindowPlace GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t height);
+[[nodiscard]] Box GripPlace(const WindowEdges& edges, std::int32_t width, std::int32_t height);
 
 /// The position of a window whose edges were dragged by (dx, dy) from their position in `start`. An edge stops at the
 /// minimum window size; the other edges stay.
-[[nodiscard]] WindowPlace DraggedByEdges(const WindowPlace& start, const WindowEdges& edges, std::int32_t dx,
-                                         std::int32_t dy);
+[[nodiscard]] Box DraggedByEdges(const Box& start, const WindowEdges& edges, std::int32_t dx, std::int32_t dy);
 
 } // namespace sprout

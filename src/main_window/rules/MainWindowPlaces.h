@@ -16,12 +16,12 @@ inline constexpr std::int32_t kStatusBarHeight = 32;
 
 /// The positions of the main window's parts, in logical pixels from its top left.
 struct MainWindowPlaces {
-    WindowPlace titleBand;
-    WindowPlace controlBar;
-    WindowPlace canvas;
-    WindowPlace statusBar;
-    WindowPlace leftCorner;
-    WindowPlace rightCorner;
+    Box titleBand;
+    Box controlBar;
+    Box canvas;
+    Box statusBar;
+    Box leftCorner;
+    Box rightCorner;
     /// Status frame and corners are visible. The lowest window gives their room to the tracks.
     bool hasStatus = true;
 };

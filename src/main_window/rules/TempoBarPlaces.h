@@ -23,8 +23,8 @@ struct TempoBarPlaces {
     std::int32_t width = 0;
     std::int32_t height = 0;
     std::int32_t slotWidth = 0;
-    BarPlace percent;            ///< of `TempoLbl`
-    BarPlace seconds;            ///< of `SngDurLbl`
+    Box percent;                 ///< of `TempoLbl`
+    Box seconds;                 ///< of `SngDurLbl`
     bool hasLabelsBelow = false; ///< they have a small font then, and the percentage is at the left of its label
 };
 

@@ -60,8 +60,8 @@ std::int32_t Pixels(double twips)
 
 } // namespace
 
-WindowPlace PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
-                              std::int32_t screenHeight)
+Box PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
+                      std::int32_t screenHeight)
 {
     const double screenX = static_cast<double>(screenWidth) * kTwipsOfAPixel;
     const double screenY = static_cast<double>(screenHeight) * kTwipsOfAPixel;

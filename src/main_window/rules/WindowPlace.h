@@ -5,25 +5,18 @@
 #include <string>
 #include <string_view>
 
+#include "ui/rules/Box.h"
+
 namespace sprout {
 
 /// Twips, the unit of the settings file, per logical pixel.
 inline constexpr std::int32_t kTwipsOfAPixel = 15;
 
-/// Position and size of the main window, in logical pixels.
-struct WindowPlace {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    friend bool operator==(const WindowPlace&, const WindowPlace&) = default;
-};
-
 /// The window's position from the settings `Size` and `Position`, on a screen of this size in pixels. Each setting is a
 /// pair of twips; -1 means not set, a missing or damaged number counts as 0. A window that would be off the screen by
 /// more than half its width or height is moved back completely.
-[[nodiscard]] WindowPlace PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
-                                            std::int32_t screenHeight);
+[[nodiscard]] Box PlaceFromSettings(std::string_view size, std::string_view position, std::int32_t screenWidth,
+                                    std::int32_t screenHeight);
 
 /// True if the setting `WindowState` asks for a maximised window.
 [[nodiscard]] bool IsMaximizedSetting(std::string_view windowState);

@@ -44,9 +44,9 @@ bool EndsAGroup(EditTool tool)
 }
 
 /// right: the edge at which the help button stands.
-std::array<EditPlace, kEditTools> PlaceTools(std::int32_t top, std::int32_t side, std::int32_t right)
+std::array<Box, kEditTools> PlaceTools(std::int32_t top, std::int32_t side, std::int32_t right)
 {
-    std::array<EditPlace, kEditTools> places;
+    std::array<Box, kEditTools> places;
     std::int32_t left = kEditMargin;
     const std::int32_t groupGap = side == kToolSide ? kGroupGap : kToolGap;
     for (std::size_t tool = 0; tool < kEditTools; ++tool) {

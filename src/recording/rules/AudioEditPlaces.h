@@ -5,16 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
-namespace sprout {
+#include "ui/rules/Box.h"
 
-/// A rectangle in the body of the audio editor, in logical pixels.
-struct EditPlace {
-    std::int32_t left = 0;
-    std::int32_t top = 0;
-    std::int32_t width = 0;
-    std::int32_t height = 0;
-    friend bool operator==(const EditPlace&, const EditPlace&) = default;
-};
+namespace sprout {
 
 /// The tools of the audio editor, from left to right.
 enum class EditTool : std::size_t { TestPlay, VolumeUp, VolumeDown, Delete, ZoomIn, ZoomOut, Help };
@@ -24,11 +17,11 @@ inline constexpr std::size_t kEditTools = 7;
 struct AudioEditPlaces {
     std::int32_t width = 0; ///< of the body
     std::int32_t height = 0;
-    EditPlace picture; ///< its sides are multiples of 4: whole device pixels at 125, 150 and 175 percent too
-    EditPlace scroll;
-    EditPlace selection;                     ///< the line that tells what is selected
-    std::array<EditPlace, kEditTools> tools; ///< squares, by `EditTool`
-    std::int32_t answersLeft = 0;            ///< of the first button that closes the window
+    Box picture; ///< its sides are multiples of 4: whole device pixels at 125, 150 and 175 percent too
+    Box scroll;
+    Box selection;                     ///< the line that tells what is selected
+    std::array<Box, kEditTools> tools; ///< squares, by `EditTool`
+    std::int32_t answersLeft = 0;      ///< of the first button that closes the window
     std::int32_t answersTop = 0;
 };
 

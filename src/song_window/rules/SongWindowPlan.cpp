@@ -35,15 +35,15 @@ void PlaceColumn(SongWindowPlan& plan, const SongWindowNeeds& needs)
 {
     const int columnLeft = plan.list.Right() + kSongMargin;
     int columnWidth = 0;
-    for (const PlanSize& button : needs.columnButtons)
+    for (const BoxSize& button : needs.columnButtons)
         columnWidth = std::max(columnWidth, button.width);
-    int top = plan.list.y;
+    int top = plan.list.top;
     for (std::size_t i = 0; i < needs.columnButtons.size(); ++i) {
         plan.columnButtons[i] = {columnLeft, top, columnWidth, needs.columnButtons[i].height};
         top = plan.columnButtons[i].Bottom() + kColumnGap;
     }
-    PlanBox& helpBtn = plan.columnButtons.back();
-    helpBtn.y = plan.list.Bottom() - helpBtn.height;
+    Box& helpBtn = plan.columnButtons.back();
+    helpBtn.top = plan.list.Bottom() - helpBtn.height;
     plan.width = columnLeft + columnWidth + kSongMargin;
 }
 
@@ -63,9 +63,9 @@ void PlaceRow(SongWindowPlan& plan, const SongWindowNeeds& needs, int top)
 {
     int right = plan.width - kSongMargin;
     for (std::size_t i = needs.soundFileButtons.size(); i-- > 0;) {
-        const PlanSize& button = needs.soundFileButtons[i];
+        const BoxSize& button = needs.soundFileButtons[i];
         plan.soundFileButtons[i] = {right - button.width, top, button.width, button.height};
-        right = plan.soundFileButtons[i].x - kSongRowGap;
+        right = plan.soundFileButtons[i].left - kSongRowGap;
     }
     plan.okBtn = {kSongMargin, top, needs.okBtn.width, needs.okBtn.height};
     plan.cancelBtn = {plan.okBtn.Right() + kSongRowGap, top, needs.cancelBtn.width, needs.cancelBtn.height};

@@ -49,7 +49,7 @@ void PlaceTune(TuneWindowPlan& plan, int x, int y, int pictureSide, int width)
 
 void PlaceTools(TuneWindowPlan& plan, int x, int y)
 {
-    for (PlanBox& tool : plan.tools) {
+    for (Box& tool : plan.tools) {
         tool = {x, y, kRoundButton, kRoundButton};
         x += kRoundButton + kPlanGap;
     }
@@ -59,7 +59,7 @@ void PlaceTools(TuneWindowPlan& plan, int x, int y)
 void PlaceAnswers(TuneWindowPlan& plan, int right, int bottom)
 {
     plan.cancelBtn = {right - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
-    plan.okBtn = {plan.cancelBtn.x - kPlanGap - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
+    plan.okBtn = {plan.cancelBtn.left - kPlanGap - kWordWidth, bottom - kWordHeight, kWordWidth, kWordHeight};
 }
 
 TuneWindowPlan PlanWide(const TuneWindowNeeds& needs)
@@ -90,7 +90,7 @@ TuneWindowPlan PlanNarrow(const TuneWindowNeeds& needs)
     const int barY = plan.grid.Bottom() + kPlanGap;
     const int barRight = plan.grid.Right();
     PlaceAnswers(plan, barRight, barY + (kRoundButton + kWordHeight) / 2);
-    const int toolsX = plan.okBtn.x - kPlanGap - static_cast<int>(plan.tools.size()) * (kRoundButton + kPlanGap);
+    const int toolsX = plan.okBtn.left - kPlanGap - static_cast<int>(plan.tools.size()) * (kRoundButton + kPlanGap);
     PlaceTools(plan, toolsX, barY);
     PlaceTune(plan, kPlanMargin, barY + (kRoundButton - kSmallPic) / 2, kSmallPic, toolsX - kPlanGap - kPlanMargin);
     plan.editor = {kPlanMargin, barY + kRoundButton + kPlanGap, needs.gridWidth, needs.editorHeight};

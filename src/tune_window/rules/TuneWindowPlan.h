@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "ui/rules/PlanBox.h"
+#include "ui/rules/Box.h"
 
 namespace sprout {
 
@@ -29,14 +29,14 @@ struct TuneWindowPlan {
     int width = 0;
     int height = 0;
     std::int32_t gridRows = 0;
-    PlanBox grid; ///< including frame and scroll bar
-    PlanBox tunePic;
-    PlanBox tuneNameLbl;
-    PlanBox createdByLbl;
-    std::array<PlanBox, 7> tools; ///< round buttons
-    PlanBox okBtn;
-    PlanBox cancelBtn;
-    PlanBox editor;
+    Box grid; ///< including frame and scroll bar
+    Box tunePic;
+    Box tuneNameLbl;
+    Box createdByLbl;
+    std::array<Box, 7> tools; ///< round buttons
+    Box okBtn;
+    Box cancelBtn;
+    Box editor;
 };
 
 /// The grid gets one row more than the tunes fill, which avoids scrolling, if the screen has room; at least two rows.

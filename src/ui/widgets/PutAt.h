@@ -3,18 +3,23 @@
 
 #include <QWidget>
 
-#include "ui/rules/PlanBox.h"
+#include "ui/rules/Box.h"
 
 namespace sprout {
 
-/// Places a control where a window's plan has it.
-inline void PutAt(QWidget& widget, const PlanBox& box)
+[[nodiscard]] inline QRect RectOf(const Box& box)
 {
-    widget.setGeometry(box.x, box.y, box.width, box.height);
+    return {box.left, box.top, box.width, box.height};
+}
+
+/// Places a control, or a window, where a plan has it.
+inline void PutAt(QWidget& widget, const Box& box)
+{
+    widget.setGeometry(RectOf(box));
 }
 
 /// The current size of a control, for a plan.
-[[nodiscard]] inline PlanSize SizeOf(const QWidget& widget)
+[[nodiscard]] inline BoxSize SizeOf(const QWidget& widget)
 {
     return {widget.width(), widget.height()};
 }

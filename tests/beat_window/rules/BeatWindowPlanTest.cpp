@@ -38,18 +38,18 @@ TEST(PlanBeatWindow, GivesTheGridEightRowsOrMoreIfTheBeatsNeedThemAndTheScreenHa
 TEST(PlanBeatWindow, PutsTheNoteOverTheGrid)
 {
     const BeatWindowPlan plan = PlanBeatWindow(Needs());
-    EXPECT_EQ(plan.noteLbl, (PlanBox{16, 26 + 8, 510, 26}));
-    EXPECT_EQ(plan.grid, (PlanBox{16, 26 + 38, 510, 8 * 40 + 12}));
+    EXPECT_EQ(plan.noteLbl, (Box{16, 26 + 8, 510, 26}));
+    EXPECT_EQ(plan.grid, (Box{16, 26 + 38, 510, 8 * 40 + 12}));
 }
 
 TEST(PlanBeatWindow, PutsTheChosenBeatAtTheTopOfTheColumn)
 {
     const BeatWindowPlan plan = PlanBeatWindow(Needs());
     const int left = plan.grid.Right() + 16;
-    EXPECT_EQ(plan.choosenPic, (PlanBox{left, plan.grid.y, 72, 72})) << "the pair is wider than the buttons";
-    EXPECT_EQ(plan.testPlayBtn, (PlanBox{left + 80, plan.grid.y + 12, 48, 48}));
-    EXPECT_EQ(plan.nmLbl, (PlanBox{left, plan.grid.y + 76, 128, 48}));
-    EXPECT_EQ(plan.durLbl, (PlanBox{left, plan.grid.y + 124, 128, 46}));
+    EXPECT_EQ(plan.choosenPic, (Box{left, plan.grid.top, 72, 72})) << "the pair is wider than the buttons";
+    EXPECT_EQ(plan.testPlayBtn, (Box{left + 80, plan.grid.top + 12, 48, 48}));
+    EXPECT_EQ(plan.nmLbl, (Box{left, plan.grid.top + 76, 128, 48}));
+    EXPECT_EQ(plan.durLbl, (Box{left, plan.grid.top + 124, 128, 46}));
     EXPECT_EQ(plan.width, left + 128 + 16);
 }
 
@@ -59,8 +59,8 @@ TEST(PlanBeatWindow, CentresTheChosenBeatOverWiderButtons)
     needs.columnWidth = 148;
     const BeatWindowPlan plan = PlanBeatWindow(needs);
     const int left = plan.grid.Right() + 16;
-    EXPECT_EQ(plan.choosenPic.x, left + 10);
-    EXPECT_EQ(plan.nmLbl.x, left);
+    EXPECT_EQ(plan.choosenPic.left, left + 10);
+    EXPECT_EQ(plan.nmLbl.left, left);
     EXPECT_EQ(plan.columnButtons[0].width, 148);
 }
 
@@ -69,18 +69,18 @@ TEST(PlanBeatWindow, PutsTheButtonsUpFromTheLowerEdgeOfTheGrid)
     const BeatWindowPlan plan = PlanBeatWindow(Needs());
     const int left = plan.grid.Right() + 16;
     const int bottom = plan.grid.Bottom();
-    EXPECT_EQ(plan.columnButtons[2], (PlanBox{left, bottom - 42, 128, 42}));
-    EXPECT_EQ(plan.columnButtons[1], (PlanBox{left, bottom - 42 - 8 - 41, 128, 41}));
-    EXPECT_EQ(plan.columnButtons[0], (PlanBox{left, bottom - 42 - 8 - 41 - 8 - 40, 128, 40}));
+    EXPECT_EQ(plan.columnButtons[2], (Box{left, bottom - 42, 128, 42}));
+    EXPECT_EQ(plan.columnButtons[1], (Box{left, bottom - 42 - 8 - 41, 128, 41}));
+    EXPECT_EQ(plan.columnButtons[0], (Box{left, bottom - 42 - 8 - 41 - 8 - 40, 128, 40}));
 }
 
 TEST(PlanBeatWindow, PutsTheAnswersBelowTheGridAndHelpBelowTheColumn)
 {
     const BeatWindowPlan plan = PlanBeatWindow(Needs());
     const int top = plan.grid.Bottom() + 12;
-    EXPECT_EQ(plan.okBtn, (PlanBox{16, top, 84, 40}));
-    EXPECT_EQ(plan.cancelBtn, (PlanBox{112, top, 90, 40}));
-    EXPECT_EQ(plan.helpBtn, (PlanBox{plan.grid.Right() + 16, top, 128, 40}));
+    EXPECT_EQ(plan.okBtn, (Box{16, top, 84, 40}));
+    EXPECT_EQ(plan.cancelBtn, (Box{112, top, 90, 40}));
+    EXPECT_EQ(plan.helpBtn, (Box{plan.grid.Right() + 16, top, 128, 40}));
     EXPECT_EQ(plan.height, top + 40 + 12);
 }
 

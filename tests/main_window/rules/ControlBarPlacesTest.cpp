@@ -9,16 +9,16 @@
 namespace sprout {
 namespace {
 
-BarPlace PlaceOf(const ControlBarPlaces& places, BarTool tool)
+Box PlaceOf(const ControlBarPlaces& places, BarTool tool)
 {
     return places.tools[static_cast<std::size_t>(tool)];
 }
 
 /// All places of a bar that are not empty, the tools first.
-std::vector<BarPlace> AllPlaces(const ControlBarPlaces& places)
+std::vector<Box> AllPlaces(const ControlBarPlaces& places)
 {
-    std::vector<BarPlace> all(places.tools.begin(), places.tools.end());
-    std::erase(all, BarPlace());
+    std::vector<Box> all(places.tools.begin(), places.tools.end());
+    std::erase(all, Box());
     all.push_back(places.song);
     all.push_back(places.tempo);
     return all;
@@ -30,7 +30,7 @@ std::int32_t Gap(std::int32_t at, std::int32_t extent, std::int32_t otherAt, std
 }
 
 /// The pixels between two places; negative if they overlap.
-std::int32_t Apart(const BarPlace& a, const BarPlace& b)
+std::int32_t Apart(const Box& a, const Box& b)
 {
     return std::max(Gap(a.left, a.width, b.left, b.width), Gap(a.top, a.height, b.top, b.height));
 }
@@ -39,18 +39,18 @@ TEST(PlaceControlBar, StandsInOneRowWhereTitleAndTempoFindRoom)
 {
     const ControlBarPlaces places = PlaceControlBar(1200);
     EXPECT_EQ(places.height, 72);
-    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::PlayStop), (BarPlace{70, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Brush), (BarPlace{138, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::PlayTool), (BarPlace{262, 8, 56, 56}));
-    EXPECT_EQ(places.song, (BarPlace{330, 4, 348, 28}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (Box{8, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayStop), (Box{70, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Brush), (Box{138, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayTool), (Box{262, 8, 56, 56}));
+    EXPECT_EQ(places.song, (Box{330, 4, 348, 28}));
     EXPECT_TRUE(places.songInOneLine);
-    EXPECT_EQ(places.tempo, (BarPlace{330, 32, 312, 36}));
-    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{690, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{758, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Email), (BarPlace{944, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Help), (BarPlace{1012, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{1136, 8, 56, 56}));
+    EXPECT_EQ(places.tempo, (Box{330, 32, 312, 36}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (Box{690, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::New), (Box{758, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Email), (Box{944, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Help), (Box{1012, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (Box{1136, 8, 56, 56}));
 }
 
 TEST(PlaceControlBar, KeepsOneTightRowInAWindowOfAThousandPixels)
@@ -58,11 +58,11 @@ TEST(PlaceControlBar, KeepsOneTightRowInAWindowOfAThousandPixels)
     const ControlBarPlaces places = PlaceControlBar(988);
     EXPECT_EQ(places.height, 80);
     EXPECT_TRUE(places.songInOneLine);
-    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 12, 56, 56}));
-    EXPECT_EQ(places.song, (BarPlace{330, 0, 136, 28}));
-    EXPECT_EQ(places.tempo, (BarPlace{330, 25, 136, 53}));
-    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{478, 12, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{924, 12, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (Box{8, 12, 56, 56}));
+    EXPECT_EQ(places.song, (Box{330, 0, 136, 28}));
+    EXPECT_EQ(places.tempo, (Box{330, 25, 136, 53}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (Box{478, 12, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (Box{924, 12, 56, 56}));
     EXPECT_EQ(PlaceControlBar(978).height, 80);
     EXPECT_EQ(PlaceControlBar(977).height, 130);
     EXPECT_EQ(PlaceControlBar(1163).height, 80);
@@ -74,20 +74,20 @@ TEST(PlaceControlBar, WrapsToTwoRows)
     const ControlBarPlaces places = PlaceControlBar(788);
     EXPECT_EQ(places.height, 130);
     EXPECT_FALSE(places.songInOneLine);
-    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 6, 56, 56}));
-    EXPECT_EQ(places.song, (BarPlace{330, 6, 382, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (BarPlace{724, 6, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::New), (BarPlace{8, 68, 56, 56}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{386, 68, 56, 56}));
-    EXPECT_EQ(places.tempo, (BarPlace{468, 78, 312, 36}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (Box{8, 6, 56, 56}));
+    EXPECT_EQ(places.song, (Box{330, 6, 382, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::SongTitleChg), (Box{724, 6, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::New), (Box{8, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (Box{386, 68, 56, 56}));
+    EXPECT_EQ(places.tempo, (Box{468, 78, 312, 36}));
 }
 
 TEST(PlaceControlBar, KeepsLargeToolsAsLongAsAShortTempoFits)
 {
     const ControlBarPlaces places = PlaceControlBar(588);
     EXPECT_EQ(places.height, 130);
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{386, 68, 56, 56}));
-    EXPECT_EQ(places.tempo, (BarPlace{454, 69, 126, 53}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (Box{386, 68, 56, 56}));
+    EXPECT_EQ(places.tempo, (Box{454, 69, 126, 53}));
     EXPECT_EQ(PlaceControlBar(587).height, 98);
 }
 
@@ -95,8 +95,8 @@ TEST(PlaceControlBar, HasSmallerToolsInTheNarrowestWindow)
 {
     const ControlBarPlaces places = PlaceControlBar(521);
     EXPECT_EQ(places.height, 98);
-    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (BarPlace{8, 6, 40, 40}));
-    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (BarPlace{290, 52, 40, 40}));
+    EXPECT_EQ(PlaceOf(places, BarTool::PlayAll), (Box{8, 6, 40, 40}));
+    EXPECT_EQ(PlaceOf(places, BarTool::Demo), (Box{290, 52, 40, 40}));
     EXPECT_EQ(places.tempo.left, 342);
     EXPECT_EQ(places.tempo.width, 171);
 }
@@ -105,19 +105,19 @@ TEST(PlaceControlBar, ClosesUpWhereTheSongCannotBeMailed)
 {
     const ControlBarPlaces one = PlaceControlBar(1200, EmailTool::Hidden);
     EXPECT_EQ(one.height, 72);
-    EXPECT_EQ(PlaceOf(one, BarTool::Email), BarPlace());
-    EXPECT_EQ(PlaceOf(one, BarTool::SongTitleChg), (BarPlace{752, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(one, BarTool::New), (BarPlace{820, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(one, BarTool::Save), (BarPlace{944, 8, 56, 56}));
-    EXPECT_EQ(PlaceOf(one, BarTool::Help), (BarPlace{1012, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::Email), Box());
+    EXPECT_EQ(PlaceOf(one, BarTool::SongTitleChg), (Box{752, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::New), (Box{820, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::Save), (Box{944, 8, 56, 56}));
+    EXPECT_EQ(PlaceOf(one, BarTool::Help), (Box{1012, 8, 56, 56}));
     EXPECT_EQ(one.song.width, 410);
 
     const ControlBarPlaces two = PlaceControlBar(788, EmailTool::Hidden);
     EXPECT_EQ(two.height, 130);
-    EXPECT_EQ(PlaceOf(two, BarTool::Email), BarPlace());
-    EXPECT_EQ(PlaceOf(two, BarTool::Save), (BarPlace{132, 68, 56, 56}));
-    EXPECT_EQ(PlaceOf(two, BarTool::Help), (BarPlace{200, 68, 56, 56}));
-    EXPECT_EQ(PlaceOf(two, BarTool::Demo), (BarPlace{324, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(two, BarTool::Email), Box());
+    EXPECT_EQ(PlaceOf(two, BarTool::Save), (Box{132, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(two, BarTool::Help), (Box{200, 68, 56, 56}));
+    EXPECT_EQ(PlaceOf(two, BarTool::Demo), (Box{324, 68, 56, 56}));
 }
 
 TEST(PlaceControlBar, GivesTheRoomOfTheHiddenToolToTheOthers)
@@ -138,7 +138,7 @@ TEST_P(ControlBarAtEveryWidth, KeepsTargetsApartAndInsideTheBar)
     const std::size_t tools = kBarTools - (GetParam() == EmailTool::Hidden ? 1 : 0);
     for (std::int32_t width = 521; width <= 2000; ++width) {
         const ControlBarPlaces places = PlaceControlBar(width, GetParam());
-        const std::vector<BarPlace> all = AllPlaces(places);
+        const std::vector<Box> all = AllPlaces(places);
         ASSERT_EQ(all.size(), tools + 2) << width;
         for (std::size_t i = 0; i < all.size(); ++i) {
             ASSERT_GE(all[i].left, 8) << width;
@@ -149,7 +149,7 @@ TEST_P(ControlBarAtEveryWidth, KeepsTargetsApartAndInsideTheBar)
                 ASSERT_GE(Apart(all[i], all[other]), 6) << width << ", tools " << i << " and " << other;
         }
         for (std::size_t tool = 0; tool < tools; ++tool)
-            for (const BarPlace& label : {places.song, places.tempo})
+            for (const Box& label : {places.song, places.tempo})
                 ASSERT_GE(Apart(all[tool], label), 6) << width << ", tool " << tool;
     }
 }

@@ -10,12 +10,12 @@ TEST(MainWindowPlaces, PutsThePartsBelowEachOtherInsideTheFrame)
 {
     const MainWindowPlaces places = PlaceMainWindow(700, 500, 60);
     EXPECT_TRUE(places.hasStatus);
-    EXPECT_EQ(places.titleBand, (WindowPlace{0, 0, 700, 40}));
-    EXPECT_EQ(places.controlBar, (WindowPlace{6, 40, 688, 60}));
-    EXPECT_EQ(places.canvas, (WindowPlace{6, 100, 688, 356}));
-    EXPECT_EQ(places.statusBar, (WindowPlace{44, 462, 612, 32}));
-    EXPECT_EQ(places.leftCorner, (WindowPlace{2, 462, 36, 36}));
-    EXPECT_EQ(places.rightCorner, (WindowPlace{662, 462, 36, 36}));
+    EXPECT_EQ(places.titleBand, (Box{0, 0, 700, 40}));
+    EXPECT_EQ(places.controlBar, (Box{6, 40, 688, 60}));
+    EXPECT_EQ(places.canvas, (Box{6, 100, 688, 356}));
+    EXPECT_EQ(places.statusBar, (Box{44, 462, 612, 32}));
+    EXPECT_EQ(places.leftCorner, (Box{2, 462, 36, 36}));
+    EXPECT_EQ(places.rightCorner, (Box{662, 462, 36, 36}));
     EXPECT_EQ(ControlBarWidth(700), 688);
 }
 

@@ -20,8 +20,8 @@ TEST(TempoBarPlaces, PutsSlotAndLabelsInOneLineWhereTheyFit)
     for (const std::int32_t width : {kLineWidth, 2000}) {
         const TempoBarPlaces places = Place(width, 40);
         EXPECT_EQ(places.slotWidth, 184);
-        EXPECT_EQ(places.percent, (BarPlace{192, 0, 40, 40}));
-        EXPECT_EQ(places.seconds, (BarPlace{240, 0, 60, 40}));
+        EXPECT_EQ(places.percent, (Box{192, 0, 40, 40}));
+        EXPECT_EQ(places.seconds, (Box{240, 0, 60, 40}));
         EXPECT_EQ(places.width, kLineWidth);
         EXPECT_EQ(places.height, 40);
         EXPECT_FALSE(places.hasLabelsBelow);
@@ -32,8 +32,8 @@ TEST(TempoBarPlaces, StacksTheLabelsBesideAShorterSlotInANarrowRoom)
 {
     const TempoBarPlaces places = Place(170, 52);
     EXPECT_EQ(places.slotWidth, 170 - 8 - 60);
-    EXPECT_EQ(places.percent, (BarPlace{110, 0, 60, 20}));
-    EXPECT_EQ(places.seconds, (BarPlace{110, 20, 60, 20}));
+    EXPECT_EQ(places.percent, (Box{110, 0, 60, 20}));
+    EXPECT_EQ(places.seconds, (Box{110, 20, 60, 20}));
     EXPECT_EQ(places.width, 170);
     EXPECT_EQ(Place(kLineWidth - 1, 40).slotWidth, 184);
     EXPECT_EQ(Place(90, 40).slotWidth, 60) << "no shorter than a child can use";
@@ -47,8 +47,8 @@ TEST(TempoBarPlaces, PutsTheLabelsBelowTheEndsOfTheStemInAHighRoom)
     EXPECT_EQ(places.slotWidth, 126);
     EXPECT_EQ(places.width, 126);
     EXPECT_EQ(places.height, 53);
-    EXPECT_EQ(places.percent, (BarPlace{13, 37, 50, 16}));
-    EXPECT_EQ(places.seconds, (BarPlace{63, 37, 50, 16}));
+    EXPECT_EQ(places.percent, (Box{13, 37, 50, 16}));
+    EXPECT_EQ(places.seconds, (Box{63, 37, 50, 16}));
     EXPECT_EQ(Place(2000, 53).slotWidth, 184);
 }
 

@@ -6,31 +6,31 @@
 namespace sprout {
 namespace {
 
-WindowPlace PlaceOn1600x1000(std::string_view size, std::string_view position)
+Box PlaceOn1600x1000(std::string_view size, std::string_view position)
 {
     return PlaceFromSettings(size, position, 1600, 1000);
 }
 
 TEST(PlaceFromSettings, Takes80PercentInTheMiddleWhenNothingIsSet)
 {
-    EXPECT_EQ(PlaceOn1600x1000("-1,-1", "-1,-1"), (WindowPlace{160, 100, 1280, 800}));
+    EXPECT_EQ(PlaceOn1600x1000("-1,-1", "-1,-1"), (Box{160, 100, 1280, 800}));
 }
 
 TEST(PlaceFromSettings, ReadsTwips)
 {
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "300,450"), (WindowPlace{20, 30, 1000, 600}));
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "300,450"), (Box{20, 30, 1000, 600}));
 }
 
 TEST(PlaceFromSettings, HoldsTheSizeAboveTheLeast)
 {
-    const WindowPlace place = PlaceOn1600x1000("7999,2999", "0,0");
+    const Box place = PlaceOn1600x1000("7999,2999", "0,0");
     EXPECT_EQ(place.width, 533);
     EXPECT_EQ(place.height, 200);
 }
 
 TEST(PlaceFromSettings, ReplacesASizeLargerThanTheScreen)
 {
-    const WindowPlace place = PlaceOn1600x1000("24001,15001", "0,0");
+    const Box place = PlaceOn1600x1000("24001,15001", "0,0");
     EXPECT_EQ(place.width, 1280);
     EXPECT_EQ(place.height, 800);
     EXPECT_EQ(PlaceOn1600x1000("24000,15000", "0,0").width, 1600);
@@ -47,18 +47,18 @@ TEST(PlaceFromSettings, BringsThePositionOntoTheScreen)
 
 TEST(PlaceFromSettings, BringsAWindowBackWholeThatWouldLieNearlyOffTheScreen)
 {
-    const WindowPlace whole{600, 400, 1000, 600};
+    const Box whole{600, 400, 1000, 600};
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "23900,14900"), whole);
     EXPECT_EQ(PlaceOn1600x1000("15000,9000", "24001,15001"), whole); // on a screen that is gone
     // A place that is half visible is kept.
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10500"), (WindowPlace{1100, 700, 1000, 600}));
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16515,10500"), (WindowPlace{600, 700, 1000, 600}));
-    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10515"), (WindowPlace{1100, 400, 1000, 600}));
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10500"), (Box{1100, 700, 1000, 600}));
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16515,10500"), (Box{600, 700, 1000, 600}));
+    EXPECT_EQ(PlaceOn1600x1000("15000,9000", "16500,10515"), (Box{1100, 400, 1000, 600}));
 }
 
 TEST(PlaceFromSettings, ReadsDamagedAndMissingNumbersAs0)
 {
-    EXPECT_EQ(PlaceOn1600x1000("wide", "15"), (WindowPlace{1, 0, 533, 200}));
+    EXPECT_EQ(PlaceOn1600x1000("wide", "15"), (Box{1, 0, 533, 200}));
     EXPECT_EQ(PlaceOn1600x1000("1e400,9000", "").width, 1280);
 }
 
@@ -73,7 +73,7 @@ TEST(IsMaximizedSetting, IsTrueFor2Alone)
 TEST(PairOfTwips, ComesBackAsItWas)
 {
     EXPECT_EQ(PairOfTwips(1000, 601), "15000,9015");
-    EXPECT_EQ(PlaceOn1600x1000(PairOfTwips(1000, 601), PairOfTwips(31, 7)), (WindowPlace{31, 7, 1000, 601}));
+    EXPECT_EQ(PlaceOn1600x1000(PairOfTwips(1000, 601), PairOfTwips(31, 7)), (Box{31, 7, 1000, 601}));
 }
 
 } // namespace

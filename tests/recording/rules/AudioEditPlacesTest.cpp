@@ -6,7 +6,7 @@
 namespace sprout {
 namespace {
 
-const EditPlace& PlaceOf(const AudioEditPlaces& places, EditTool tool)
+const Box& PlaceOf(const AudioEditPlaces& places, EditTool tool)
 {
     return places.tools[static_cast<std::size_t>(tool)];
 }
@@ -14,10 +14,10 @@ const EditPlace& PlaceOf(const AudioEditPlaces& places, EditTool tool)
 TEST(AudioEditPlaces, PutsPictureBarSelectionToolsAndAnswersBelowEachOther)
 {
     const AudioEditPlaces places = PlaceAudioEditor(800, 574);
-    EXPECT_EQ(places.picture, (EditPlace{16, 14, 736, 300}));
-    EXPECT_EQ(places.scroll, (EditPlace{16, 322, 736, 18}));
-    EXPECT_EQ(places.selection, (EditPlace{16, 344, 736, 24}));
-    EXPECT_EQ(PlaceOf(places, EditTool::TestPlay), (EditPlace{16, 368, 56, 56}));
+    EXPECT_EQ(places.picture, (Box{16, 14, 736, 300}));
+    EXPECT_EQ(places.scroll, (Box{16, 322, 736, 18}));
+    EXPECT_EQ(places.selection, (Box{16, 344, 736, 24}));
+    EXPECT_EQ(PlaceOf(places, EditTool::TestPlay), (Box{16, 368, 56, 56}));
     EXPECT_EQ(places.answersLeft, 16);
     EXPECT_EQ(places.answersTop, 432);
     EXPECT_EQ(places.width, 768);

@@ -20,25 +20,25 @@ TuneWindowNeeds OnScreen(int width, int height, std::int32_t tunes = 66)
     return needs;
 }
 
-std::vector<PlanBox> Parts(const TuneWindowPlan& plan)
+std::vector<Box> Parts(const TuneWindowPlan& plan)
 {
-    std::vector<PlanBox> parts{plan.grid,  plan.tunePic,   plan.tuneNameLbl, plan.createdByLbl,
-                               plan.okBtn, plan.cancelBtn, plan.editor};
+    std::vector<Box> parts{plan.grid,  plan.tunePic,   plan.tuneNameLbl, plan.createdByLbl,
+                           plan.okBtn, plan.cancelBtn, plan.editor};
     parts.insert(parts.end(), plan.tools.begin(), plan.tools.end());
     return parts;
 }
 
-bool AreApart(const PlanBox& a, const PlanBox& b)
+bool AreApart(const Box& a, const Box& b)
 {
-    return a.Right() <= b.x || b.Right() <= a.x || a.Bottom() <= b.y || b.Bottom() <= a.y;
+    return a.Right() <= b.left || b.Right() <= a.left || a.Bottom() <= b.top || b.Bottom() <= a.top;
 }
 
 void ExpectPartsApartAndInside(const TuneWindowPlan& plan)
 {
-    const std::vector<PlanBox> parts = Parts(plan);
+    const std::vector<Box> parts = Parts(plan);
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        EXPECT_GE(parts[i].x, 6) << i;
-        EXPECT_GE(parts[i].y, 26 + 6) << i;
+        EXPECT_GE(parts[i].left, 6) << i;
+        EXPECT_GE(parts[i].top, 26 + 6) << i;
         EXPECT_LE(parts[i].Right(), plan.width - 6) << i;
         EXPECT_LE(parts[i].Bottom(), plan.height - 6) << i;
         EXPECT_GT(parts[i].width, 40) << i;
@@ -54,16 +54,16 @@ TEST(PlanTuneWindow, PutsTheButtonsBetweenGridAndEditorOnASmallScreen)
     EXPECT_LE(plan.width, 800);
     EXPECT_LE(plan.height, 600);
     EXPECT_EQ(plan.gridRows, 3);
-    EXPECT_EQ(plan.grid, (PlanBox{12, 32, 755, 132}));
-    EXPECT_EQ(plan.tools[0].y, 170);
-    EXPECT_EQ(plan.editor.y, 224);
+    EXPECT_EQ(plan.grid, (Box{12, 32, 755, 132}));
+    EXPECT_EQ(plan.tools[0].top, 170);
+    EXPECT_EQ(plan.editor.top, 224);
 }
 
 TEST(PlanTuneWindow, PutsTheButtonsBesideTheGridOnALargeScreen)
 {
     const TuneWindowPlan plan = PlanTuneWindow(OnScreen(1920, 1080));
     ExpectPartsApartAndInside(plan);
-    EXPECT_GT(plan.tunePic.x, plan.grid.Right());
+    EXPECT_GT(plan.tunePic.left, plan.grid.Right());
     EXPECT_EQ(plan.okBtn.Bottom(), plan.grid.Bottom());
     EXPECT_EQ(plan.cancelBtn.Right(), plan.editor.Right());
 }
