@@ -33,17 +33,12 @@ namespace {
 
 constexpr LaterWords kNoBeatHint = Words::Later("Click on a picture to select a beat");
 
-void HintBeatCommand(const Words& text)
-{
-    ShowHint(text);
-}
-
 /// Shows a message, and a hint for as long as it is open.
 void TellOfBeat(const Words& hint, const Words& line1, const Words& line2 = {})
 {
-    HintBeatCommand(hint);
+    ShowHint(hint);
     ShowMessage(line1, line2);
-    HintBeatCommand({});
+    ShowHint({});
 }
 
 void KeepBeatFolder(std::string_view setting, const fs::path& file)
@@ -82,7 +77,7 @@ std::optional<ChosenSound> OpenBeatSound(const fs::path& file)
     try {
         return OpenChosenSound(file, kLongestBeatSeconds, TooLong::Cut);
     } catch (const WorkStopped&) {
-        HintBeatCommand({});
+        ShowHint({});
         return std::nullopt;
     }
 }
@@ -96,7 +91,7 @@ std::optional<ChosenSound> ChooseBeatSound()
         return std::nullopt;
     const WaveData wave = LoadWaveFile(sound->WaveFile);
     if (wave.Length < 1) {
-        HintBeatCommand({});
+        ShowHint({});
         ShowMessage(Words::Text("Failed to load wav file."));
         return std::nullopt;
     }
@@ -139,7 +134,7 @@ void BeatLibraryCommands::DeleteBeat()
 
 void BeatLibraryCommands::TryToAdd()
 {
-    HintBeatCommand(Words::Text("Choose a wav file and small (32x32) bmp picture file"));
+    ShowHint(Words::Text("Choose a wav file and small (32x32) bmp picture file"));
     if (!AddHelpShown)
         ShowMessage(Words::Text("Select a .wav file to add as a new beat."));
     const std::optional<ChosenSound> sound = ChooseBeatSound();
@@ -156,7 +151,7 @@ void BeatLibraryCommands::TryToAdd()
     table.SelectedBeat = kRefindBeat;
     table.RefindBeatName = name.Name;
     if (name.FirstName != name.Name) {
-        HintBeatCommand({});
+        ShowHint({});
         ShowMessage(Words::Text("\"%1\" already exists", BeatNameForPeople(name.FirstName)),
                     Words::Text("New beat is added as %1", BeatNameForPeople(name.Name)));
     }
@@ -173,7 +168,7 @@ void BeatLibraryCommands::TryToRename()
         return TellOfBeat(Words::Text("Can not rename"),
                           Words::Text("\"%1\" is an original Beat from %2", BeatNameForPeople(oldName), kProductFamily),
                           Words::Text("Renaming is not possible."));
-    HintBeatCommand(Words::Text("Enter a new name for this beat"));
+    ShowHint(Words::Text("Enter a new name for this beat"));
     const std::string newName = SafeFileName(AskText("", Words::Text("Enter the new name")));
     if (newName.empty() || newName == oldName)
         return;
@@ -189,17 +184,17 @@ void BeatLibraryCommands::TryToDelete()
 {
     if (!HasSelection(table))
         return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to delete."));
-    HintBeatCommand(Words::Text("This will delete the selected beat"));
+    ShowHint(Words::Text("This will delete the selected beat"));
     if (IsSelectedProtected(table))
         return TellOfBeat(Words::Text("Blue bordered are originals, red bordered are your new beats"),
                           Words::Text("This an original Beat from %1", kProductFamily),
                           Words::Text("It can not be deleted."));
     const std::string name = SelectedEntry(table).Name;
-    HintBeatCommand(Words::Text("Click Yes to delete, No to keep"));
+    ShowHint(Words::Text("Click Yes to delete, No to keep"));
     if (AskYesNo(Words::Text("Are you sure to delete this Beat?"),
                  Words::Text("Beat name: %1", BeatNameForPeople(name)), Words::Text(" Confirm Delete Beat")) != 1)
         return;
-    HintBeatCommand({});
+    ShowHint({});
     if (table.SelectedBeat == table.BeatListCount)
         --table.SelectedBeat;
     DeleteBeatFiles(name);

@@ -40,7 +40,6 @@ public:
 
     /// Sets the tool for future presses and drags, and the mouse pointer for it.
     void SetCurrentTool(Tool newTool) { tool.SetCurrentTool(newTool); }
-    [[nodiscard]] Tool CurrentTool() const { return tool.CurrentTool(); }
 
     /// The track under the pointer in the title strip, 0 for none.
     [[nodiscard]] std::int32_t HoverTrack() const;

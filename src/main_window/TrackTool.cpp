@@ -76,7 +76,7 @@ void TrackTool::Press(QPoint at)
 void TrackTool::BeginStroke(const TrackHit& hit, QPoint at)
 {
     Q_EMIT StrokeBegun();
-    if (stroke.Begin(Shared().Song, tool, hit, at.x(), at.y()))
+    if (stroke.Begin(Shared().Song, tool, hit, at.y()))
         Q_EMIT Painted(stroke.DragTrack());
     Ask(calls.EnableTrackTitlePlayTimer);
 }

@@ -13,11 +13,7 @@
 namespace sprout {
 
 StepCommands::StepCommands(TunFramPic& onSurface, EditorPlays& ofEditor, std::function<void()> onDraw)
-    : QObject(&onSurface),
-      surface(onSurface),
-      plays(ofEditor),
-      draw(std::move(onDraw)),
-      chooseBeat([](std::string& name) { return TheWindows().ChooseBeat(name); })
+    : QObject(&onSurface), surface(onSurface), plays(ofEditor), draw(std::move(onDraw))
 {
 }
 
@@ -54,7 +50,7 @@ void StepCommands::ToggleLamp(std::int32_t step)
 {
     ToggleStep(Shared().CurrentTune, step);
     ShowEdited();
-    plays.PlayTune(kEditLeadIn);
+    plays.PlayTune(kTuneLeadIn);
 }
 
 void StepCommands::ShowKeyClick(std::int32_t step, KeyClick click)
@@ -77,7 +73,7 @@ void StepCommands::ChooseStepBeat(std::int32_t step)
     Tune& tune = Shared().CurrentTune;
     surface.DrawIconPressed(step);
     std::string name = At(tune.Steps, step).StepBeat.Name;
-    if (chooseBeat(name)) {
+    if (TheWindows().ChooseBeat(name)) {
         ChangeStepBeat(tune, step, BeatOfFile(At(tune.Steps, step).StepBeat, name));
         Q_EMIT TuneEdited();
     }
@@ -110,7 +106,7 @@ void StepCommands::ChangeAll()
     if (tune.StepCount < 1)
         return ShowMessage(Words::Text("Set the number of steps and try."));
     std::string name;
-    if (!chooseBeat(name) || name.empty())
+    if (!TheWindows().ChooseBeat(name) || name.empty())
         return;
     ChangeAllBeats(tune, BeatOfFile(At(tune.Steps, 1).StepBeat, name));
     ShowEdited();

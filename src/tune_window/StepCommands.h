@@ -24,10 +24,6 @@ public:
     /// onDraw: draws the tune on the surface and what lies on it.
     StepCommands(TunFramPic& onSurface, EditorPlays& ofEditor, std::function<void()> onDraw);
 
-    /// How an instrument is chosen, like `ChooseBeat` of the beat window.
-    using BeatChooser = std::function<bool(std::string& name)>;
-    void SetBeatChooser(BeatChooser chooser) { chooseBeat = std::move(chooser); }
-
     /// Does nothing for a menu to open and for a step to focus. command: of a step of the tune.
     void Do(const StepCommand& command);
 
@@ -55,7 +51,6 @@ private:
     TunFramPic& surface;
     EditorPlays& plays;
     std::function<void()> draw;
-    BeatChooser chooseBeat;
 };
 
 } // namespace sprout

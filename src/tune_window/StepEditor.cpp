@@ -245,7 +245,7 @@ void StepEditor::TakeStepCount(std::int32_t count)
     ChangeStepCount(Shared().CurrentTune, count);
     SetStepScroll();
     commands->ShowEdited();
-    PlayCurrentTune(kEditLeadIn);
+    PlayCurrentTune(kTuneLeadIn);
 }
 
 } // namespace sprout

@@ -43,8 +43,6 @@ public:
 
     void HidePlayMarks();
 
-    void SetBeatChooser(StepCommands::BeatChooser chooser) { commands->SetBeatChooser(std::move(chooser)); }
-
     [[nodiscard]] QSize sizeHint() const override;
 
 Q_SIGNALS:

@@ -3,6 +3,7 @@
 
 #include "core/Shared.h"
 #include "sound/PlayMod.h"
+#include "tune_window/rules/StepEdits.h"
 #include "tunes/ChosenTune.h"
 #include "tunes/TuneTable.h"
 
@@ -11,7 +12,6 @@ namespace sprout {
 namespace {
 
 constexpr std::int32_t kNothingChosen = -1;
-constexpr float kChosenLeadInSeconds = 0.75F;
 
 } // namespace
 
@@ -61,7 +61,7 @@ void TuneChoice::Play()
         return;
     LoadChosenTune(chosen);
     if (chosen.TuneWaveValid)
-        PlayWaveDelayed(chosen.TuneWave, kChosenLeadInSeconds, Words::Text("Playing Tune"), Loop::No);
+        PlayWaveDelayed(chosen.TuneWave, kTuneLeadIn, Words::Text("Playing Tune"), Loop::No);
 }
 
 } // namespace sprout

@@ -76,7 +76,6 @@ TEST_F(TrackToolTest, ThePointerThatLeavesTakesCursorAndCellAlong)
 
 TEST_F(TrackToolTest, APressPaintsTheCellAndTellsWhatBecameStale)
 {
-    EXPECT_EQ(canvas->CurrentTool(), Tool::Brush);
     SetSongMixValid(Song(), true);
     SetTrackRenderValid(TrackOf(1), true);
     SetSongChanged(Song(), false);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <string>
 
 #include "ui/Windows.h"
 
@@ -17,6 +18,7 @@ public:
         ++tuneWindowsOpened;
         return tuneWindow && tuneWindow(tune, newFlag);
     }
+    [[nodiscard]] bool ChooseBeat(std::string& name) override { return beatWindow && beatWindow(name); }
     [[nodiscard]] std::optional<WaveData> RecordSound() override
     {
         return recordingWindow ? recordingWindow() : std::nullopt;
@@ -25,6 +27,7 @@ public:
 
     std::function<bool(Tune& tune, bool& newFlag)> tuneWindow;
     int tuneWindowsOpened = 0;
+    std::function<bool(std::string& name)> beatWindow;
     std::function<std::optional<WaveData>()> recordingWindow;
     std::function<bool(std::int32_t track)> audioEditor;
 };

@@ -14,6 +14,7 @@
 
 #include "core/Shared.h"
 #include "sound/PlayTest.h"
+#include "support/FakeWindows.h"
 #include "support/Flags.h"
 #include "tune_window/StepEditor.h"
 #include "tune_window/TunFramPic.h"
@@ -46,7 +47,7 @@ protected:
         At(tune.Steps, 3).OnPos = 0;
         window.resize(760, 380);
         editor.resize(740, 346);
-        editor.SetBeatChooser([this](std::string& name) { return AnswerChooser(name); });
+        windows.beatWindow = [this](std::string& name) { return AnswerChooser(name); };
         QObject::connect(&editor, &StepEditor::TuneEdited, &editor, [this] { ++edits; });
         window.show();
         QApplication::setActiveWindow(&window); // only an active window gives away the focus
@@ -123,6 +124,8 @@ protected:
         return true;
     }
 
+    FakeWindows windows;
+    ProvidedWindows provided{windows};
     QLabel statusLbl;
     EditorDisplay editorDisplay;
     Tune& tune = Shared().CurrentTune;

@@ -2,6 +2,7 @@
 #include "tune_window/TunFramPic.h"
 
 #include "support/FakeServices.h"
+#include "tune_window/BlackKeys.h"
 #include "tune_window/StepEditorTest.h"
 #include "tune_window/rules/KeyMap.h"
 #include "ui/look/Artwork.h"

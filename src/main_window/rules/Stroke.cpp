@@ -16,10 +16,9 @@ PressAction ActionOfPress(Tool tool, const TrackHit& hit)
     return tool == Tool::PlayTool ? PressAction::PlayTrackFrom : PressAction::BeginStroke;
 }
 
-bool Stroke::Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t x, std::int32_t y)
+bool Stroke::Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t y)
 {
     dragging = true;
-    downX = x;
     downY = y;
     dragTrack = hit.track;
     dragStart = dragMax = dragMin = hit.cell;

@@ -24,7 +24,7 @@ class Stroke {
 public:
     /// Writes the tool's number into the pressed cell. Only a press that changes its cell makes the mix stale and marks
     /// the song as changed. hit: a hit on a track. Returns whether the cell changed.
-    bool Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t x, std::int32_t y);
+    bool Begin(SongState& song, Tool tool, const TrackHit& hit, std::int32_t y);
 
     /// Continues to `cell`, which may lie outside the song. Only the track's own render becomes stale, because the
     /// press has marked the rest. Returns whether a cell's value changed. Does nothing if no stroke is in progress,
@@ -36,7 +36,6 @@ public:
 
     [[nodiscard]] bool Dragging() const { return dragging; }
     [[nodiscard]] std::int32_t DragTrack() const { return dragTrack; }
-    [[nodiscard]] std::int32_t DownX() const { return downX; }
     /// While dragging, every move counts as one at this height, which keeps a stroke on its row.
     [[nodiscard]] std::int32_t DownY() const { return downY; }
 
@@ -48,7 +47,6 @@ private:
     [[nodiscard]] bool TakeBackCell(Track& track, std::int32_t cell);
 
     bool dragging = false;
-    std::int32_t downX = 0;
     std::int32_t downY = 0;
     std::int32_t dragTrack = 0;
     std::int32_t dragStart = 0;

@@ -78,11 +78,6 @@ std::int32_t KeyAt(std::int32_t dx, std::int32_t dy)
     return kKeyMap[static_cast<std::size_t>(dy)][static_cast<std::size_t>(dx)];
 }
 
-bool IsBlackKey(std::int32_t key)
-{
-    return key == 2 || key == 4 || key == 7 || key == 9 || key == 11;
-}
-
 std::int32_t PitchOfKey(Octave octave, std::int32_t key)
 {
     return octave == Octave::Upper ? key - 1 : key - 1 - kOctaveKeys;

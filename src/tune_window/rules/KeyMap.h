@@ -31,8 +31,6 @@ enum class Octave { Upper, Lower };
 /// picture.
 [[nodiscard]] std::int32_t KeyAt(std::int32_t dx, std::int32_t dy);
 
-[[nodiscard]] bool IsBlackKey(std::int32_t key);
-
 /// Semitones of a key. key: 1 to 12.
 [[nodiscard]] std::int32_t PitchOfKey(Octave octave, std::int32_t key);
 

@@ -16,8 +16,8 @@ namespace sprout {
 inline constexpr std::int32_t kFewestSteps = 2;
 inline constexpr std::int32_t kMostSteps = 64;
 
-/// Silence before a tune that is played after an edit, in seconds.
-inline constexpr float kEditLeadIn = 0.75F;
+/// Silence before a tune that is played after an edit or a choice, in seconds.
+inline constexpr float kTuneLeadIn = 0.75F;
 
 /// Switches a step on or off. Any value other than 0 and 1 counts as on.
 void ToggleStep(Tune& tune, std::int32_t step);

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include "tune_window/BlackKeys.h"
+
 #include <array>
 #include <string>
 #include <string_view>
