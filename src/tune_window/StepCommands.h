@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <functional>
 #include <string>
-#include <utility>
 
 #include "tune_window/rules/StepCommand.h"
 #include "tune_window/rules/StepEdits.h"

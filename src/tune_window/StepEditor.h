@@ -6,7 +6,6 @@
 
 #include <cstdint>
 #include <functional>
-#include <utility>
 
 #include "tune_window/BeatNames.h"
 #include "tune_window/StepCommands.h"
