@@ -10,6 +10,7 @@
 #include "base/Text.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongSizes.h"
 #include "core/Tell.h"
 #include "service/PictureFiles.h"
 #include "service/Services.h"
@@ -65,13 +66,6 @@ std::int32_t FindSongBeat(const SongState& song, std::string_view name, std::str
             return index;
     }
     return 0;
-}
-
-/// Appends a beat to the song's list and returns its place.
-std::int32_t AppendSongBeat(SongState& song, Beat beat)
-{
-    song.SongBeats.push_back(std::move(beat));
-    return ++song.SongBeatCount;
 }
 
 Beat EmptyBeat()

@@ -7,6 +7,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongChanges.h"
+#include "core/SongSizes.h"
 #include "core/SongTime.h"
 #include "service/Screen.h"
 #include "service/Services.h"
@@ -36,11 +37,10 @@ void NewSong()
     song.OwnFile = FileMark();
     SongChanges::SongReplaced(song);
     song.SongCells = kSongCells;
-    song.TrackCount = kNewSongTracks;
     song.Tempo = kReferenceTempo;
-    song.Tracks.assign(kNewSongTracks + 1, Track());
-    song.SongBeatCount = 0;
-    song.SongBeats.assign(1, Beat());
+    song.Tracks.clear();
+    ResizeTracks(song, kNewSongTracks);
+    ResizeSongBeats(song, 0);
     for (std::int32_t track = 1; track <= song.TrackCount; ++track)
         ResetTrack(track);
 }
@@ -63,8 +63,7 @@ Tune BlankTune()
 {
     Tune tune;
     tune.Picture = Shared().BlankPic;
-    tune.Steps.resize(kBlankTuneSteps + 1);
-    tune.StepCount = kBlankTuneSteps;
+    ResizeSteps(tune, kBlankTuneSteps);
     return tune;
 }
 

@@ -6,16 +6,11 @@
 #include "core/Shared.h"
 #include "core/SongChanges.h"
 #include "core/SongModel.h"
+#include "core/SongSizes.h"
 
 namespace sprout {
 
 namespace {
-
-void ResizeTracks(SongState& song, std::int32_t count)
-{
-    song.Tracks.resize(static_cast<std::size_t>(count) + 1);
-    song.TrackCount = count;
-}
 
 /// Returns whether the picture was one of the two.
 bool SwapBlankPicture(Picture& picture)
@@ -70,8 +65,7 @@ void DeleteTrack(std::int32_t trackNumber)
     SongState& song = Shared().Song;
     if (song.TrackCount == 1)
         return ResetTrack(1);
-    song.Tracks.erase(song.Tracks.begin() + trackNumber);
-    --song.TrackCount;
+    EraseTrack(song, trackNumber);
     SongChanges::TrackDeleted(song);
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "base/Text.h"
+#include "core/SongSizes.h"
 #include "songs/SongVersions.h"
 
 namespace sprout {
@@ -80,8 +81,7 @@ void DropNamelessBeats(SongState& song)
         kept.push_back(std::move(At(song.SongBeats, i)));
     }
     RenumberSteps(song, numbers);
-    song.SongBeats = std::move(kept);
-    song.SongBeatCount = static_cast<std::int32_t>(song.SongBeats.size()) - 1;
+    ReplaceSongBeats(song, std::move(kept));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "beats/BeatEntry.h"
 #include "beats/BeatFiles.h"
 #include "core/SongModel.h"
+#include "core/SongSizes.h"
 #include "songs/SongReader.h"
 #include "songs/SongVersions.h"
 #include "tunes/StepEntry.h"
@@ -49,8 +50,7 @@ std::int32_t ReadBeat11(LongsReader& data, SongState& song)
     beat.Name = data.GetText();
     if (data.Get() == 1) {
         ReadStoredBeat(data, beat);
-        song.SongBeats.push_back(std::move(beat));
-        return ++song.SongBeatCount;
+        return AppendSongBeat(song, std::move(beat));
     }
     std::int32_t index = 0;
     FindOrLoadBeat(song, beat.Name, index);

@@ -13,6 +13,7 @@
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongSizes.h"
 #include "core/Tell.h"
 #include "service/Screen.h"
 #include "service/Services.h"
@@ -53,7 +54,7 @@ SongState ReadVersion(ByteSource& source, SongLoader loadVersion)
 /// Leaves a song without tracks and without its own file: anything saved in its place would be another song.
 void FailLoading(SongState& song)
 {
-    song.TrackCount = 0;
+    ForgetTracks(song);
     song.OwnFile = FileMark();
 }
 

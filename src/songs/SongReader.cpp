@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <span>
 
+#include "core/SongSizes.h"
+
 namespace sprout {
 
 void ReadSongHead(LongsReader& data, SongState& song)
@@ -20,8 +22,7 @@ void MakeTracks(LongsReader& data, SongState& song, std::int32_t count)
         data.Require(song.SongCells, 1);
         data.Require(count, std::int64_t{1} + song.SongCells);
     }
-    song.Tracks.resize(static_cast<std::size_t>(count) + 1);
-    song.TrackCount = count;
+    ResizeTracks(song, count);
 }
 
 void ReadPaint(LongsReader& data, Track& track, std::int32_t songCells)

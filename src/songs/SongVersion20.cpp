@@ -7,6 +7,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
+#include "core/SongSizes.h"
 #include "songs/SongReader.h"
 #include "songs/SongVersions.h"
 #include "tunes/StepEntry.h"
@@ -46,8 +47,7 @@ void SongReader20::ReadSong()
     const std::int32_t beatCount = data.Get();
     ReadSongHead(data, song);
     data.Require(beatCount, kBeatElements);
-    song.SongBeats.resize(static_cast<std::size_t>(beatCount) + 1);
-    song.SongBeatCount = beatCount;
+    ResizeSongBeats(song, beatCount);
     for (std::int32_t i = 1; i <= beatCount; ++i)
         ReadBeat(At(song.SongBeats, i));
     MakeTracks(data, song, trackCount);

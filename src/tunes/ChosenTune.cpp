@@ -10,6 +10,7 @@
 #include "core/Shared.h"
 #include "core/SongChanges.h"
 #include "core/SongModel.h"
+#include "core/SongSizes.h"
 #include "sound/TuneRender.h"
 #include "tunes/TunOpnSavClass.h"
 #include "tunes/TuneTable.h"
@@ -22,8 +23,7 @@ namespace {
 
 void MakeStepsOff(Tune& tune)
 {
-    tune.StepCount = kBlankTuneSteps;
-    tune.Steps.assign(kBlankTuneSteps + 1, TuneStep());
+    AssignSteps(tune, kBlankTuneSteps, TuneStep());
 }
 
 void KeepSound(const Tune& tune, const fs::path& path)

@@ -13,6 +13,7 @@
 #include "core/Shared.h"
 #include "core/SongChanges.h"
 #include "core/SongModel.h"
+#include "core/SongSizes.h"
 #include "tunes/TuneVersions.h"
 
 namespace sprout {
@@ -62,8 +63,7 @@ void MakeBareSteps(Tune& tune, std::int32_t count)
     TuneStep bare;
     bare.Volume = 0;
     bare.Duration = 0;
-    tune.Steps.assign(static_cast<std::size_t>(count) + 1, bare);
-    tune.StepCount = count;
+    AssignSteps(tune, count, bare);
 }
 
 /// Reads what tunes and stars of the old form have in common.

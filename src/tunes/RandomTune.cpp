@@ -18,6 +18,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongChanges.h"
+#include "core/SongSizes.h"
 
 namespace sprout {
 
@@ -164,8 +165,7 @@ void MakeRandomTune(Tune& tune, const RandomNumber& next)
     tune.CreatedBy = "Random";
     tune.Name = "New";
     tune.Picture = DrawPicture(next);
-    tune.StepCount = DrawStepCount(next);
-    tune.Steps.assign(static_cast<std::size_t>(tune.StepCount) + 1, TuneStep());
+    AssignSteps(tune, DrawStepCount(next), TuneStep());
     DrawSteps(tune, next);
     SetDurations(tune);
     SongChanges::StepsReplaced(tune);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tunes/StepEntry.h"
 
+#include "core/SongSizes.h"
+
 namespace sprout {
 
 void WriteStepEntry(LongsWriter& data, const TuneStep& step)
@@ -23,8 +25,7 @@ void MakeSteps(LongsReader& data, Tune& tune, std::int64_t stepElements)
 {
     const std::int32_t count = data.Get();
     data.Require(count, stepElements);
-    tune.Steps.resize(static_cast<std::size_t>(count) + 1);
-    tune.StepCount = count;
+    ResizeSteps(tune, count);
 }
 
 } // namespace sprout

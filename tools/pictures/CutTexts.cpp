@@ -24,10 +24,10 @@ public:
     void drawPixmap(const QRectF& /*place*/, const QPixmap& /*pixmap*/, const QRectF& /*part*/) override {}
     void drawPath(const QPainterPath& /*path*/) override {}
     void drawPolygon(const QPointF* /*points*/, int /*count*/, PolygonDrawMode /*mode*/) override {}
-    void updateState(const QPaintEngineState& state) override
+    void updateState(const QPaintEngineState& changed) override
     {
-        if (state.state().testFlag(DirtyTransform))
-            transform = state.transform();
+        if (changed.state().testFlag(DirtyTransform))
+            transform = changed.transform();
     }
 
     void drawTextItem(const QPointF& baseline, const QTextItem& item) override

@@ -6,6 +6,7 @@
 
 #include "base/Numbers.h"
 #include "core/SongChanges.h"
+#include "core/SongSizes.h"
 
 namespace sprout {
 
@@ -96,8 +97,7 @@ std::optional<std::int32_t> TypedStepCount(std::string_view answer)
 void ChangeStepCount(Tune& tune, std::int32_t count)
 {
     const std::int32_t before = tune.StepCount;
-    tune.StepCount = count;
-    tune.Steps.resize(static_cast<std::size_t>(count) + 1);
+    ResizeSteps(tune, count);
     // A new step may copy another new one.
     if (before > 0)
         for (std::int32_t step = before + 1; step <= count; ++step)
