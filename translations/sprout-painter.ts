@@ -74,10 +74,6 @@ Please reinstall</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is damaged: it tells no length.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file is damaged: a count is below zero.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -468,10 +464,6 @@ GNU General Public License, version 3 or later (GPL-3.0-or-later).</source>
     </message>
     <message>
         <source>Save it here first and drop it then.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>This is no sound file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1024,10 +1016,6 @@ Please set recording source using volume control in the task bar.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file is no WMA file, or it is damaged.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The WMA file is damaged or cut short.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1045,10 +1033,6 @@ Please set recording source using volume control in the task bar.</source>
     </message>
     <message>
         <source>The file %1 could not be written: %2.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file %1 could not be written: it is no plain file.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1429,10 +1413,6 @@ This is %1 channel</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>A place names a sound that is not there.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>A sound lies before the beginning.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1537,14 +1517,6 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The song has fewer beats than it tells.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The tune has fewer steps than it tells.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Playing Tune</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1562,10 +1534,6 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
     </message>
     <message>
         <source>The sound has no rate.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The song has fewer tracks than it tells.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1590,10 +1558,6 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
     </message>
     <message>
         <source>Steps of the tune</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Left and right walk the steps. The space bar switches the step on or off, up and down change its pitch, Shift with left or right its length, Enter chooses its instrument. P plays the step, B its instrument. The menu key has more.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2171,10 +2135,6 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>How far it is</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Stop button, nothing is saved then</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2212,10 +2172,6 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
     </message>
     <message>
         <source>Bits per sample not supported</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The file tells a length below zero.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2271,15 +2227,59 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The sound is shorter than it tells.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file ends before its sound.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>A sum of two samples does not fit into 16 bits.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is damaged: its length is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is not a sound file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file is not a WMA file, or it is damaged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file %1 could not be written: it is not an ordinary file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A place refers to a sound that does not exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The song has fewer beats than it says.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tune has fewer steps than it says.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The song has fewer tracks than it says.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left and right move from step to step. The space bar switches the step on or off, up and down change its pitch, Shift with left or right its length, Enter chooses its instrument. P plays the step, B its instrument. The menu key has more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file gives a length below zero.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound is shorter than it says.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -157,7 +157,7 @@ LongsReader::LongsReader(ByteSource& source, std::uint64_t begin) : cursor(sourc
 {
     const std::int32_t lastIndex = cursor.ReadInt32();
     if (lastIndex < 0)
-        throw RunTimeError(Words::Text("The file is damaged: it tells no length."));
+        throw RunTimeError(Words::Text("The file is damaged: its length is missing."));
     cursor.Require(static_cast<std::uint64_t>(lastIndex) * kElementBytes);
     const std::uint64_t end = begin + (static_cast<std::uint64_t>(lastIndex) + 1) * kElementBytes;
     cursor.Narrow(end);

@@ -98,7 +98,7 @@ std::optional<fs::path> DroppedFile(const QList<QUrl>& places)
     }
     fs::path file(QFile::encodeName(places.front().toLocalFile()).toStdString());
     if (!fs::is_regular_file(file, error)) {
-        ShowMessage(Words::Text("This is no sound file."), Words::AsIs(PathText(file.filename())));
+        ShowMessage(Words::Text("This is not a sound file."), Words::AsIs(PathText(file.filename())));
         return std::nullopt;
     }
     return file;

@@ -104,7 +104,7 @@ std::vector<Sounding> TakeSoundings(std::span<const WaveFilePlacement> placement
     soundings.reserve(placements.size());
     for (const WaveFilePlacement& placement : placements) {
         if (placement.WaveIndex < 0 || static_cast<std::size_t>(placement.WaveIndex) >= waves.size())
-            throw RunTimeError(Words::Text("A place names a sound that is not there."));
+            throw RunTimeError(Words::Text("A place refers to a sound that does not exist."));
         const StereoFrames& frames = waves[static_cast<std::size_t>(placement.WaveIndex)];
         if (frames.left.empty())
             continue;

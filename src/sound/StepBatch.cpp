@@ -51,7 +51,7 @@ WaveData SourceOf(TuneStep& step, BeatSource source)
     if (step.BeatIndex < 1 || step.BeatIndex > song.SongBeatCount)
         return Shared().TestTone;
     if (static_cast<std::size_t>(step.BeatIndex) >= song.SongBeats.size())
-        throw RunTimeError(Words::Text("The song has fewer beats than it tells."));
+        throw RunTimeError(Words::Text("The song has fewer beats than it says."));
     return LoadedSound(At(song.SongBeats, step.BeatIndex));
 }
 
@@ -91,7 +91,7 @@ void StepBatch::AddStep(TuneStep& step, BeatSource source)
 void StepBatch::PlanTune(Tune& tune, BeatSource source, CopiedStep copies)
 {
     if (tune.StepCount < 0 || static_cast<std::size_t>(tune.StepCount) >= tune.Steps.size())
-        throw RunTimeError(Words::Text("The tune has fewer steps than it tells."));
+        throw RunTimeError(Words::Text("The tune has fewer steps than it says."));
     std::map<StepLook, const TuneStep*> firstValid; // as it will be when a step's turn comes
     for (std::int32_t number = 1; number <= tune.StepCount; ++number) {
         TuneStep& step = At(tune.Steps, number);

@@ -212,7 +212,7 @@ public:
     {
         song.SongFirstPos = kUnsetPosition;
         if (song.TrackCount >= 1 && !HasTrack(song.TrackCount))
-            throw RunTimeError(Words::Text("The song has fewer tracks than it tells."));
+            throw RunTimeError(Words::Text("The song has fewer tracks than it says."));
         for (std::int32_t number = 1; number <= song.TrackCount; ++number) {
             Track& track = At(song.Tracks, number);
             if (track.IsMusic() ? TakeMusic(track) : track.IsAudio() && TakeAudio(track, number)) {

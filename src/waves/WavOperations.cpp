@@ -60,7 +60,7 @@ WaveData ReadWaveHead(ByteSource& source, std::int32_t dataSize, const std::stri
 std::vector<std::byte> ReadSampleBytes(ByteSource& source, const WaveData& wave, std::uint64_t begin)
 {
     if (wave.Length < 0)
-        throw RunTimeError(Words::Text("The file tells a length below zero."));
+        throw RunTimeError(Words::Text("The file gives a length below zero."));
     const std::uint64_t there = source.Size() - std::min(source.Size(), begin);
     const std::uint64_t wanted = static_cast<std::uint64_t>(wave.Length) * static_cast<std::uint64_t>(FrameBytes(wave));
     if (wanted > there && wave.Length > kMostPromisedFrames)

@@ -83,7 +83,7 @@ void CheckFrames(const WaveData& wave)
     const bool holdsThem = wave.Length >= 0 && wave.WavL.UpperBound() >= wave.Length &&
                            (wave.Channels == 1 || wave.WavR.UpperBound() >= wave.Length);
     if (!holdsThem)
-        throw RunTimeError(Words::Text("The sound is shorter than it tells."));
+        throw RunTimeError(Words::Text("The sound is shorter than it says."));
 }
 
 void PackFrames(const WaveData& wave, std::int32_t firstFrame, std::span<std::byte> bytes)

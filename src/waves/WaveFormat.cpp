@@ -212,7 +212,7 @@ void CheckFitsInto16Bits(std::span<const std::int16_t> samples, double share, Cl
 std::span<const std::int16_t> FramesOf(const Channel& channel, std::int32_t length)
 {
     if (length > channel.UpperBound())
-        throw RunTimeError(Words::Text("The sound is shorter than it tells."));
+        throw RunTimeError(Words::Text("The sound is shorter than it says."));
     return channel.Samples().first(length > 0 ? static_cast<std::size_t>(length) : 0);
 }
 

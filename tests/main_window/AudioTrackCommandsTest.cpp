@@ -332,7 +332,7 @@ TEST_F(AudioTrackCommandsTest, RefusesWhatIsDroppedAndIsNoSoundFile)
     EXPECT_THAT(told, ElementsAre("This sound is not on this computer.|Save it here first and drop it then.|"));
     for (const char* name : {"folder", "pipe", "gone"}) {
         Drop({UrlOf(In(name))});
-        EXPECT_THAT(told, ElementsAre("This is no sound file.|" + std::string(name) + "|"));
+        EXPECT_THAT(told, ElementsAre("This is not a sound file.|" + std::string(name) + "|"));
     }
     ExpectUnchanged();
 }

@@ -224,7 +224,7 @@ TEST_F(PlayDllTest, AWaveReadWithoutItsSamplesEndsThePlayCallWithWords)
     headOnly.Length = 300;
     Listen();
     EXPECT_EQ(Player().WriteWaveMemo(headOnly, PlayNow::Yes, Loop::No), PlayResult::Refused);
-    EXPECT_EQ(raised[1], "The sound is shorter than it tells.|Play Wave error");
+    EXPECT_EQ(raised[1], "The sound is shorter than it says.|Play Wave error");
     EXPECT_TRUE(play.PlayBuffer.empty());
 }
 

@@ -102,7 +102,7 @@ SoundFacts ReadSoundFacts(const std::filesystem::path& path)
     const int number =
         container ? Ffmpeg().FormatFindBestStream(container.get(), AVMEDIA_TYPE_AUDIO, -1, -1, nullptr, 0) : -1;
     if (number < 0)
-        throw RunTimeError(Words::Text("The file is no WMA file, or it is damaged."));
+        throw RunTimeError(Words::Text("The file is not a WMA file, or it is damaged."));
     const AVStream& stream = *container->streams[number];
     const AVCodecParameters& sound = *stream.codecpar;
     if (stream.duration == AV_NOPTS_VALUE || stream.duration < 0 || sound.sample_rate <= 0)

@@ -44,7 +44,7 @@ WorkFrm::WorkFrm(QWidget* parent, const Words& what)
     WorkLbl->setAlignment(Qt::AlignCenter);
     WorkLbl->setGeometry({BodyPoint(0, kWorkLabelTop), QSize(kWorkFormWidth, kWorkLabelHeight)});
     WorkBar->setObjectName(QStringLiteral("WorkBar"));
-    WorkBar->setAccessibleName(QtText(Words::Text("How far it is")));
+    WorkBar->setAccessibleName(QtText(Words::Text("Progress")));
     WorkBar->setTextVisible(false);
     WorkBar->setRange(0, kWholeBar);
     WorkBar->setStyleSheet(QString::fromLatin1(kWorkBarStyle));
