@@ -117,6 +117,11 @@ void TestSoundServer::Thaw() const
     kill(process, SIGCONT);
 }
 
+bool TestSoundServer::FreezesWithItsDevice() const
+{
+    return Told({"env", "LC_ALL=C", "pactl", "info"}).find("PipeWire") == std::string::npos;
+}
+
 std::string TestSoundServer::Told(const std::vector<std::string>& question) const
 {
     const std::string list = folder.Path() / ("told" + std::to_string(++questions));

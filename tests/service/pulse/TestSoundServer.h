@@ -37,6 +37,8 @@ public:
     /// The server stays but does nothing any more.
     void Freeze() const;
     void Thaw() const;
+    /// Whether the device stands still as well. PipeWire's belongs to another process.
+    [[nodiscard]] bool FreezesWithItsDevice() const;
 
     [[nodiscard]] const SoundFormat& Format() const { return format; }
     /// What plays on the device, even if it is silence, as the server lists it.
