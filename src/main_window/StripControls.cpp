@@ -32,6 +32,7 @@ TrackLabel* AddHeading(QWidget& strip, const char* name, const Words& text, cons
     auto* label = new TrackLabel(
         name, text, [message] { ShowMessage(message); }, &strip);
     label->setGeometry(place);
+    SetFittingText(*label, text);
     SetSpokenDescription(*label, message);
     return label;
 }
@@ -71,7 +72,7 @@ QLabel* AddTopLbl(QWidget& strip)
     label->setFont(HintFont());
     label->setAlignment(Qt::AlignCenter);
     label->resize(kAddButtonsApart + kAddButtonSize.width(), kTopLblHeight);
-    SetText(*label, Words::Text("Add a track"));
+    SetFittingText(*label, Words::Text("Add a track"));
     return label;
 }
 

@@ -15,6 +15,8 @@
 #include "ui/widgets/Hints.h"
 #include "ui/widgets/PutAt.h"
 #include "ui/widgets/SliderPointer.h"
+#include "ui/words/FittingFont.h"
+#include "ui/words/QtText.h"
 #include "ui/words/Texts.h"
 
 namespace sprout {
@@ -25,9 +27,9 @@ constexpr QSize kTempoPointerSize{kTempoPointerWidth, kTempoBarHeight};
 constexpr QSize kPointerPicture{30, 35}; // inside the focus frame
 
 /// Width of a label whose longest text is `text`.
-int WidestWidth(const char* text)
+int WidestWidth(const Words& text)
 {
-    return QFontMetrics(LabelFont()).horizontalAdvance(QString::fromLatin1(text)) + 2;
+    return QFontMetrics(LabelFont()).horizontalAdvance(QtText(text)) + 2;
 }
 
 } // namespace
@@ -63,14 +65,15 @@ TempoBar::TempoBar(QWidget* parent, HintWatcher& watcher)
 void TempoBar::FitRoom(QSize room)
 {
     const TempoBarPlaces places =
-        PlaceTempoBar(room.width(), room.height(), WidestWidth("200%"), WidestWidth("480 sec"));
-    for (QLabel* label : {TempoLbl, SngDurLbl})
-        label->setFont(places.hasLabelsBelow ? HintFont() : LabelFont());
+        PlaceTempoBar(room.width(), room.height(), WidestWidth(TempoLabel(kHighestTempoPercent)),
+                      WidestWidth(DurationLabel(TempoOfPercent(kLowestTempoPercent))));
+    labelFont = places.hasLabelsBelow ? HintFont() : LabelFont();
     TempoLbl->setAlignment((places.hasLabelsBelow ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter);
     TempoSliderImg->resize(places.slotWidth, kTempoSlotHeight);
     TempoPrtImg->SetSlot(0, places.slotWidth);
     PutAt(*TempoLbl, places.percent);
     PutAt(*SngDurLbl, places.seconds);
+    FitLabels();
     setFixedSize(places.width, places.height);
 }
 
@@ -86,6 +89,13 @@ void TempoBar::ShowLabels(std::int32_t percent, std::int32_t tempo)
 {
     SetText(*TempoLbl, TempoLabel(percent));
     SetText(*SngDurLbl, DurationLabel(tempo));
+    FitLabels();
+}
+
+void TempoBar::FitLabels() const
+{
+    for (QLabel* label : {TempoLbl, SngDurLbl})
+        label->setFont(FittingFont(labelFont, label->text(), label->width()));
 }
 
 void TempoBar::TakePercent(std::int32_t percent)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QFont>
 #include <QLabel>
 #include <QWidget>
 
@@ -33,6 +34,7 @@ Q_SIGNALS:
 
 private:
     void ShowLabels(std::int32_t percent, std::int32_t tempo);
+    void FitLabels() const;
     /// Takes the user's choice.
     void TakePercent(std::int32_t percent);
 
@@ -40,6 +42,7 @@ private:
     SliderPointer* TempoPrtImg;
     QLabel* TempoLbl;
     QLabel* SngDurLbl;
+    QFont labelFont; ///< of full size
 };
 
 } // namespace sprout

@@ -83,7 +83,6 @@ AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent), sound(new Edit
     SetCaption(Words::Text(" %1 - Edit Audio", kProductName));
     MakeSound();
     SelectOkLbl = &AddLabel("SelectOkLbl");
-    SetText(*SelectOkLbl, Words::Text("Drag the mouse over a part to select it"));
     SelectedLbl = &AddLabel("SelectedLbl");
     MakeButtons();
     SetTabOrders();
@@ -106,7 +105,7 @@ void AudioEditFrm::MakeSound()
     connect(&sound->Picture(), &WavePic::FocusChanged, this,
             [this] { update(sound->Picture().geometry() + kFocusFrame); });
     connect(sound, &EditedSound::Shown, this, [this] {
-        SetText(*SelectedLbl, sound->Editor().Spoken());
+        SetFittingText(*SelectedLbl, sound->Editor().Spoken());
         static_cast<void>(HasSelection());
     });
 }
@@ -164,7 +163,9 @@ void AudioEditFrm::FitTo(QSize room)
     sound->Picture().setGeometry(rect(places.picture));
     sound->Bar().setGeometry(rect(places.scroll));
     SelectedLbl->setGeometry(rect(places.selection));
+    SetFittingText(*SelectedLbl, sound->Editor().Spoken());
     SelectOkLbl->setGeometry(rect(places.selection));
+    SetFittingText(*SelectOkLbl, Words::Text("Drag the mouse over a part to select it"));
     for (std::size_t tool = 0; tool < kEditTools; ++tool)
         findChild<QWidget*>(QString::fromLatin1(kToolNames[tool]))->setGeometry(rect(places.tools[tool]));
     auto* const okBtn = findChild<QWidget*>(QStringLiteral("OkBtn"));

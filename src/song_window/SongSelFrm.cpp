@@ -115,7 +115,6 @@ void SongSelFrm::InitilizeThisWindow(SongSelMode newMode)
     SetCaption(layout.Caption);
     ModePic->setPixmap(
         Artwork(QString::fromLatin1(PictureOf(mode)), QSize(kModePicSide, kModePicSide), devicePixelRatioF()));
-    SetText(*ListTitleLbl, layout.ListTitle);
     SetText(*TextTitleLbl, layout.TextTitle);
     OkBtn->SetHint(layout.OkHint);
     SetSpokenDescription(*SngNmLst, layout.ListHint);
@@ -158,6 +157,7 @@ void SongSelFrm::PlaceControls()
     resize(plan.width, plan.height);
     PutAt(*ModePic, plan.modePic);
     PutAt(*ListTitleLbl, plan.listTitleLbl);
+    SetFittingText(*ListTitleLbl, layout.ListTitle);
     PutAt(*SngNmLst, plan.list);
     if (layout.HasNameBox) {
         PutAt(*TextTitleLbl, plan.textTitleLbl);

@@ -18,6 +18,7 @@ namespace {
 
 constexpr QPoint kNoteInstrPlace{8, 57};
 constexpr QPoint kNotePianoPlace{8, 118};
+constexpr int kMostChangeAllWidth = 130; ///< fits beside the last step in the smallest window
 
 constexpr ButtonRow kChangeAllRow{"ChangeAllBtn", Words::Later("Change All"),
                                   Words::Later("Change All button, use it to choose one instrument for all steps"),
@@ -42,6 +43,7 @@ ChangeAllPart::ChangeAllPart(QWidget* surface) : QObject(surface)
     auto* buttons = new ButtonScheme(*surface, AllOffTimer::OffAtFirst);
     buttons->setParent(this);
     button = &buttons->AddButton(kChangeAllRow, [this] { Q_EMIT Clicked(); });
+    button->resize(std::min(button->width(), kMostChangeAllWidth), button->height());
     NoteInstrLbl = MakeNote("NoteInstrLbl", Words::Text("Instruments: click on a picture to choose another"),
                             kNoteInstrPlace, surface);
     NotePianoLbl =

@@ -31,7 +31,8 @@ StepFocus::StepFocus(std::int32_t step, QWidget* surface) : QAbstractButton(surf
     SetSpokenDescription(
         *this,
         Words::Text(
-            "Left and right move from step to step. The space bar switches the step on or off, up and down change its pitch, "
+            "Left and right move from step to step. The space bar switches the step on or off, up and down change its "
+            "pitch, "
             "Shift with left or right its length, Enter chooses its instrument. P plays the step, B its instrument. "
             "The "
             "menu key has more."));

@@ -24,6 +24,11 @@ if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
     endforeach()
     set_tests_properties(Desk.PlayWholeSong PROPERTIES TIMEOUT 240)
 
+    add_test(NAME Words.HaveRoomInAllWindows
+             COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/room-for-translations $<TARGET_FILE:sprout-pictures>
+                     $<TARGET_FILE_DIR:sprout-pictures>/Sprout/Songs/Zumi.TqSng)
+    set_tests_properties(Words.HaveRoomInAllWindows PROPERTIES TIMEOUT 120)
+
     foreach(faults IN ITEMS export recording)
         add_test(NAME Faults.${faults}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/${faults}-faults ${CMAKE_BINARY_DIR})

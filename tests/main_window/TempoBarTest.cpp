@@ -290,8 +290,12 @@ TEST_F(TempoBarTest, HasItsLabelsBelowTheSlotWhereTheRoomIsNarrowAndHigh)
     bar->FitRoom({126, 53});
     EXPECT_EQ(bar->size(), QSize(126, 53));
     EXPECT_EQ(Control("TempoSliderImg").width(), 126);
-    EXPECT_EQ(Control("TempoLbl").geometry(), QRect(13, 37, 50, 16));
-    EXPECT_EQ(Control("SngDurLbl").geometry(), QRect(63, 37, 50, 16));
+    const QRect percent = Control("TempoLbl").geometry();
+    const QRect seconds = Control("SngDurLbl").geometry();
+    EXPECT_EQ(percent.topLeft(), QPoint(13, 37));
+    EXPECT_EQ(seconds.bottomRight(), QPoint(112, 52));
+    EXPECT_EQ(seconds.x(), percent.x() + percent.width());
+    EXPECT_GT(seconds.width(), percent.width()) << "they share the width by what they may have to show";
     for (const char* name : {"TempoLbl", "SngDurLbl"}) {
         const auto& label = static_cast<const QLabel&>(Control(name));
         EXPECT_GE(QFontInfo(label.font()).pixelSize(), 12);

@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include <algorithm>
 #include <array>
 #include <vector>
 
@@ -102,7 +103,7 @@ void DrawWordSheet(const QString& folder)
         }
         top += 60;
     }
-    sheet.resize(700, top);
+    sheet.resize(std::max(700, sheet.childrenRect().right() + 10), top);
     SaveSheet(sheet, folder, QStringLiteral("words"));
 }
 

@@ -192,6 +192,18 @@ void DrawStates(const QString& songPath, const QString& folder)
     shown.Draw(folder + QStringLiteral("/main-no-tracks.png"));
 }
 
+/// Shows every hint on the status line of a small window.
+void TellCutHints(const QString& songPath)
+{
+    const ShownWindow shown(songPath);
+    shown.Window().resize(800, 600);
+    for (const QWidget* control : shown.Window().findChildren<QWidget*>())
+        if (control->property(kHintProperty).isValid()) {
+            ShowHintOf(*control);
+            static_cast<void>(PictureOf(shown.Window(), QStringLiteral("hint-") + control->objectName()));
+        }
+}
+
 } // namespace
 
 bool DrawMainWindow(const QString& songPath, const QString& picturePath)
@@ -205,6 +217,8 @@ void DrawMainWindowSheets(const QString& songPath, const QString& folder)
     DrawSizes(songPath, folder);
     DrawFaces(songPath, folder);
     DrawStates(songPath, folder);
+    if (AreTextsWatched())
+        TellCutHints(songPath);
 }
 
 } // namespace sprout

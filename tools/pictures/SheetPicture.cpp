@@ -37,6 +37,11 @@ void WatchTexts()
     areTextsWatched = true;
 }
 
+bool AreTextsWatched()
+{
+    return areTextsWatched;
+}
+
 QPixmap PictureOf(QWidget& widget, const QString& name)
 {
     if (areTextsWatched)

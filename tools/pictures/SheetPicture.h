@@ -9,6 +9,7 @@ namespace sprout {
 
 /// From now on each picture's texts that do not fit are printed, a line each: "NAME: TEXT".
 void WatchTexts();
+[[nodiscard]] bool AreTextsWatched();
 
 /// A picture of a widget. name: of the sheet, for what is printed.
 [[nodiscard]] QPixmap PictureOf(QWidget& widget, const QString& name);

@@ -24,19 +24,19 @@ TempoBarPlaces PlaceInLine(std::int32_t percentWidth, std::int32_t secondsWidth)
             false};
 }
 
-TempoBarPlaces PlaceLabelsBelow(std::int32_t roomWidth)
+TempoBarPlaces PlaceLabelsBelow(std::int32_t roomWidth, std::int32_t percentWidth, std::int32_t secondsWidth)
 {
     const std::int32_t slotWidth = std::min(roomWidth, kTempoSlotWidth);
     // The labels are under the ends of the stem.
     const std::int32_t left = kTempoPointerWidth / 2 - kTempoStemEnd;
     const std::int32_t labelsWidth = slotWidth - 2 * left;
-    const std::int32_t half = labelsWidth / 2;
+    const std::int32_t percentShare = labelsWidth * percentWidth / (percentWidth + secondsWidth);
     const std::int32_t top = kHeightWithLabelsBelow - kLabelBelowHeight;
     return {slotWidth,
             kHeightWithLabelsBelow,
             slotWidth,
-            {left, top, half, kLabelBelowHeight},
-            {left + half, top, labelsWidth - half, kLabelBelowHeight},
+            {left, top, percentShare, kLabelBelowHeight},
+            {left + percentShare, top, labelsWidth - percentShare, kLabelBelowHeight},
             true};
 }
 
@@ -59,7 +59,7 @@ TempoBarPlaces PlaceTempoBar(std::int32_t roomWidth, std::int32_t roomHeight, st
                              std::int32_t secondsWidth)
 {
     if (roomHeight >= kHeightWithLabelsBelow)
-        return PlaceLabelsBelow(roomWidth);
+        return PlaceLabelsBelow(roomWidth, percentWidth, secondsWidth);
     const TempoBarPlaces line = PlaceInLine(percentWidth, secondsWidth);
     return roomWidth >= line.width ? line : PlaceLabelsStacked(roomWidth, secondsWidth);
 }

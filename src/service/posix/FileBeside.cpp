@@ -124,7 +124,8 @@ void FileBeside::RequireTarget() const
     if (::stat(wanted.c_str(), &facts) != 0)
         return;
     if (!S_ISREG(facts.st_mode))
-        throw NotReplaced(Words::Text("The file %1 could not be written: it is not an ordinary file.", wanted.native()));
+        throw NotReplaced(
+            Words::Text("The file %1 could not be written: it is not an ordinary file.", wanted.native()));
     if (!MayWrite(wanted))
         Fail<NotReplaced>(wanted, errno);
 }

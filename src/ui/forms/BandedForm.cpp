@@ -10,6 +10,7 @@
 
 #include "ui/Windows.h"
 #include "ui/look/Look.h"
+#include "ui/words/FittingFont.h"
 #include "ui/words/QtText.h"
 
 namespace sprout {
@@ -54,6 +55,7 @@ void BandedForm::SetCaption(const Words& caption)
 
 void BandedForm::FitCaption()
 {
+    captionLbl->setFont(FittingFont(ButtonFont(), captionText, captionLbl->width()));
     captionLbl->setText(captionLbl->fontMetrics().elidedText(captionText, Qt::ElideRight, captionLbl->width()));
     if (!hintLbl)
         return;

@@ -26,7 +26,9 @@ constexpr QSize kWidestHelp{760, 600};
 constexpr QSize kLeastHelp{600, 400};
 constexpr int kScreenEdge = 20;
 constexpr int kHelpMargin = 14;
-constexpr int kPagesWidth = 224; ///< fits every title beside a scroll bar
+constexpr int kPagesWidth = 224; ///< fits every English title beside a scroll bar
+constexpr int kMostPagesWidth = 300;
+constexpr int kBesideThePages = 40; ///< frame, padding and a scroll bar
 constexpr int kPageIconSide = 32;
 constexpr int kButtonRowHeight = 44;
 
@@ -145,8 +147,9 @@ void HelpFrm::PlaceControls()
     const QSize room = screenRect.size() - QSize(2 * kScreenEdge, 2 * kScreenEdge);
     const QSize size = kWidestHelp.boundedTo(room).expandedTo(kLeastHelp);
     const int bookHeight = size.height() - kBandHeight - kButtonRowHeight - 3 * kHelpMargin;
-    PagesLst->setGeometry({BodyPoint(kHelpMargin, kHelpMargin), QSize(kPagesWidth, bookHeight)});
-    const int bookLeft = 2 * kHelpMargin + kPagesWidth;
+    const int pagesWidth = std::clamp(PagesLst->sizeHintForColumn(0) + kBesideThePages, kPagesWidth, kMostPagesWidth);
+    PagesLst->setGeometry({BodyPoint(kHelpMargin, kHelpMargin), QSize(pagesWidth, bookHeight)});
+    const int bookLeft = 2 * kHelpMargin + pagesWidth;
     BookTxt->setGeometry({BodyPoint(bookLeft, kHelpMargin), QSize(size.width() - bookLeft - kHelpMargin, bookHeight)});
     PlaceButtons(size.width(), bookHeight + 2 * kHelpMargin);
     // At the screen's edge, to cover little of what the user asks about.

@@ -6,6 +6,7 @@
 #include "ui/look/Artwork.h"
 #include "ui/look/Look.h"
 #include "ui/look/Palette.h"
+#include "ui/words/FittingFont.h"
 
 namespace sprout {
 
@@ -68,7 +69,6 @@ void GridPictures::PaintOne(QPainter& painter, int index, const QRect& place, bo
 
 void PaintEmptyGrid(QPainter& painter, QSize grid, const QStringList& lines)
 {
-    painter.setFont(LabelFont());
     painter.setPen(kBark);
     const int room = grid.width() - 2 * kGridLineLeft;
     const int inset = kGridInset / 2;
@@ -76,6 +76,7 @@ void PaintEmptyGrid(QPainter& painter, QSize grid, const QStringList& lines)
         std::min(kGridLineHeight, (grid.height() - 2 * inset) / std::max(1, static_cast<int>(lines.size())));
     int top = inset;
     for (const QString& line : lines) {
+        painter.setFont(FittingFont(LabelFont(), line, room));
         painter.drawText(QRect(kGridLineLeft, top, room, lineHeight), Qt::AlignLeft | Qt::AlignVCenter,
                          painter.fontMetrics().elidedText(line, Qt::ElideMiddle, room));
         top += lineHeight;

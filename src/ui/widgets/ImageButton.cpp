@@ -12,6 +12,7 @@
 #include "ui/look/Palette.h"
 #include "ui/widgets/ButtonScheme.h"
 #include "ui/widgets/Hints.h"
+#include "ui/words/FittingFont.h"
 #include "ui/words/QtText.h"
 
 namespace sprout {
@@ -161,12 +162,13 @@ void ImageButton::PaintGlyph(QPainter& painter) const
 
 void ImageButton::PaintWord(QPainter& painter) const
 {
-    const int wordWidth = fontMetrics().horizontalAdvance(text());
+    const QFont wordFont = FittingFont(font(), text(), width() - GlyphRoom() - kBesideTheWord);
+    const int wordWidth = QFontMetrics(wordFont).horizontalAdvance(text());
     const int left = (width() - wordWidth - GlyphRoom()) / 2;
     if (!glyph.isEmpty())
         painter.drawPixmap(left, (height() - kGlyphSide) / 2 + Lift(), Artwork(GlyphArtwork()));
     painter.setPen(Qt::white);
-    painter.setFont(font());
+    painter.setFont(wordFont);
     painter.drawText(QRect(left + GlyphRoom(), Lift(), wordWidth + 1, height()), Qt::AlignLeft | Qt::AlignVCenter,
                      text());
 }

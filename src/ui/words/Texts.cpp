@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/words/Texts.h"
 
+#include "ui/words/FittingFont.h"
 #include "ui/words/QtText.h"
 #include "ui/words/QtTip.h"
 
 namespace sprout {
 
 namespace {
+
+/// Property of a label whose letters may be smaller now: its font with letters of full size.
+constexpr const char* kFullFont = "fullFont";
 
 QString LongTip(const QString& text)
 {
@@ -29,6 +33,9 @@ void SetCutText(QLabel& label, const Words& words)
 
 void SetFittingText(QLabel& label, const Words& words)
 {
+    if (!label.property(kFullFont).isValid())
+        label.setProperty(kFullFont, label.font());
+    label.setFont(FittingFont(label.property(kFullFont).value<QFont>(), QtText(words), label.width()));
     SetCutText(label, words);
     SetToolTip(label, label.text() == label.accessibleName() ? Words() : words);
 }

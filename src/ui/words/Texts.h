@@ -16,7 +16,8 @@ namespace sprout {
 void SetText(QLabel& label, const Words& words);
 /// Shows words, cut to the label's width; screen readers get all of them.
 void SetCutText(QLabel& label, const Words& words);
-/// The same with a tool tip that has all of them, if they are cut.
+/// Shows words in letters as small as the label's width demands. Words that are too long for that are cut, and a tool
+/// tip has all of them.
 void SetFittingText(QLabel& label, const Words& words);
 /// Fills a box with a text that the user may change.
 void SetContent(QLineEdit& box, std::string_view text);

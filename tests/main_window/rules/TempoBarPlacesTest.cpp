@@ -47,8 +47,8 @@ TEST(TempoBarPlaces, PutsTheLabelsBelowTheEndsOfTheStemInAHighRoom)
     EXPECT_EQ(places.slotWidth, 126);
     EXPECT_EQ(places.width, 126);
     EXPECT_EQ(places.height, 53);
-    EXPECT_EQ(places.percent, (Box{13, 37, 50, 16}));
-    EXPECT_EQ(places.seconds, (Box{63, 37, 50, 16}));
+    EXPECT_EQ(places.percent, (Box{13, 37, 40, 16}));
+    EXPECT_EQ(places.seconds, (Box{53, 37, 60, 16}));
     EXPECT_EQ(Place(2000, 53).slotWidth, 184);
 }
 
