@@ -13,11 +13,23 @@ namespace {
 constexpr double kSmallestOffset = 64;
 constexpr int kQuietStart = 64;
 
-/// From 0 at `step` 0 towards 1 at `steps`, as a raised cosine, so that it reaches silence without a corner.
+/// From 0 at `step` 0 towards 1 at `steps`, as a raised cosine, so that it
+/// reaches silence without a corner.
 float FadeGain(Index step, Index steps)
 {
     const double way = static_cast<double>(step) / static_cast<double>(steps);
     return static_cast<float>(0.5 - 0.5 * std::cos(std::numbers::pi * way));
+}
+
+/// Clipped at full scale and rounded to the nearest number, halves to the even
+/// one: among floats as large as `large`, neighbours are 1 apart. Without a
+/// call, so that several samples are computed at once.
+std::int16_t ToSample(float value)
+{
+    constexpr float large = 3 << 22;
+    const float notTooLow = value < -32768.0F ? -32768.0F : value;
+    const float clipped = notTooLow > 32767.0F ? 32767.0F : notTooLow;
+    return static_cast<std::int16_t>(static_cast<std::int32_t>((clipped + large) - large));
 }
 
 } // namespace
@@ -52,9 +64,7 @@ void FadeEnds(std::span<float> sound, bool startsQuietly, const Sizes& sizes)
 std::vector<std::int16_t> ToSamples(std::span<const float> sound)
 {
     std::vector<std::int16_t> samples(sound.size());
-    std::transform(sound.begin(), sound.end(), samples.begin(), [](float value) {
-        return static_cast<std::int16_t>(std::lrint(std::clamp(value, -32768.0F, 32767.0F)));
-    });
+    std::transform(sound.begin(), sound.end(), samples.begin(), ToSample);
     return samples;
 }
 

@@ -2,6 +2,9 @@
 #include "stretch/OnsetDetector.h"
 
 #include <algorithm>
+#include <array>
+
+#include "stretch/Float4.h"
 
 namespace sprout::stretch {
 namespace {
@@ -30,11 +33,42 @@ float Energy(std::span<const float> sound, Index first, Index end)
     return sum;
 }
 
+/// The energies of the four hops from `first` on, one in each lane.
+Float4 EnergiesOfFour(std::span<const float> sound, Index first, Index hop)
+{
+    const auto sample = [&](Index i) { return i < 0 ? 0 : sound[static_cast<std::size_t>(i)]; };
+    Float4 before{};
+    Float4 last{};
+    for (Index lane = 0; lane < kLanes; ++lane) {
+        before[lane] = sample(first + lane * hop - 2);
+        last[lane] = sample(first + lane * hop - 1);
+    }
+    Float4 sum{};
+    for (const float* at = sound.data() + first; at < sound.data() + first + hop; at += kLanes) {
+        std::array four{LoadFour(at), LoadFour(at + hop), LoadFour(at + 2 * hop), LoadFour(at + 3 * hop)};
+        Transpose(four[0], four[1], four[2], four[3]);
+        for (const Float4 here : four) {
+            const Float4 difference = here - 2.0F * last + before;
+            sum += difference * difference;
+            before = last;
+            last = here;
+        }
+    }
+    return sum;
+}
+
+/// hop: a multiple of four.
 std::vector<float> HopEnergies(std::span<const float> sound, Index hop)
 {
     std::vector<float> energies;
     energies.reserve(sound.size() / static_cast<std::size_t>(hop) + 1);
-    for (Index first = 0; first < std::ssize(sound); first += hop)
+    Index first = 0;
+    for (; first + kLanes * hop <= std::ssize(sound); first += kLanes * hop) {
+        const Float4 four = EnergiesOfFour(sound, first, hop);
+        for (int lane = 0; lane < kLanes; ++lane)
+            energies.push_back(four[lane]);
+    }
+    for (; first < std::ssize(sound); first += hop)
         energies.push_back(Energy(sound, first, std::min<Index>(first + hop, std::ssize(sound))));
     return energies;
 }

@@ -51,4 +51,10 @@ TEST(ToSamples, RoundsAndNeverWraps)
     EXPECT_THAT(ToSamples(std::vector<float>{1.4F, -1.6F, 40000, -40000}), testing::ElementsAre(1, -2, 32767, -32768));
 }
 
+TEST(ToSamples, RoundsHalvesToTheEvenNumber)
+{
+    EXPECT_THAT(ToSamples(std::vector<float>{0.5F, 1.5F, 2.5F, -0.5F, -1.5F, 32766.5F, -32767.5F}),
+                testing::ElementsAre(0, 2, 2, 0, -2, 32766, -32768));
+}
+
 } // namespace sprout::stretch

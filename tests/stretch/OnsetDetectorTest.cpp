@@ -54,4 +54,14 @@ TEST(FindOnsets, FindsNothingInSilenceOrInNothing)
     EXPECT_THAT(FindOnsets({}, SizesFor(44100)), testing::IsEmpty());
 }
 
+TEST(FindOnsets, FindsAStrokeInEveryHopUpToTheLast)
+{
+    for (const std::size_t count : {4096U, 4100U, 4500U})
+        for (std::size_t at = 0; at < count; at += 128) {
+            std::vector<float> sound(count);
+            sound[at] = 1000;
+            EXPECT_THAT(FindOnsets(sound, SizesFor(44100)), testing::ElementsAre(static_cast<Index>(at))) << count;
+        }
+}
+
 } // namespace sprout::stretch
