@@ -15,24 +15,12 @@ constexpr Index kOverlap = 4;
 // If the windows add up to less than this, there is no sound under them.
 constexpr float kLeastWeight = 1e-4F;
 
-// The operators of std::complex look for infinities; these do not and are several times as fast.
-FftBin Times(FftBin a, FftBin b)
+/// Without those of the last bins that are zero.
+std::vector<float> UsedGains(std::vector<float> gains)
 {
-    return {a.real() * b.real() - a.imag() * b.imag(), a.real() * b.imag() + a.imag() * b.real()};
-}
-
-/// The direction of a / b, or no turn if either is zero.
-FftBin DirectionBetween(FftBin a, FftBin b)
-{
-    const FftBin product = Times(a, std::conj(b));
-    const float size = std::sqrt(std::norm(product));
-    return size > 1e-20F ? FftBin{product.real() / size, product.imag() / size} : FftBin{1, 0};
-}
-
-std::size_t LastUsedBin(const std::vector<float>& gains)
-{
-    const auto last = std::find_if(gains.rbegin(), gains.rend(), [](float gain) { return gain > 0; });
-    return static_cast<std::size_t>(gains.rend() - last);
+    while (!gains.empty() && !(gains.back() > 0))
+        gains.pop_back();
+    return gains;
 }
 
 } // namespace
@@ -61,68 +49,49 @@ Index Vocoder::FftSizeFor(Index window)
 
 Vocoder::Vocoder(Index window, std::vector<float> binGains)
     : hop(window / kOverlap),
-      fft(FftOfSize(FftSizeFor(window))),
+      fft(FftBatchOfSize(FftSizeFor(window))),
       shape(HannWindow(window)),
-      gains(std::move(binGains)),
-      usedBins(static_cast<Index>(LastUsedBin(gains))),
-      block(static_cast<std::size_t>(fft.Size())),
-      last(static_cast<std::size_t>(fft.Bins())),
-      scaled(static_cast<std::size_t>(fft.Bins()))
+      gains(UsedGains(std::move(binGains))),
+      phases(std::ssize(gains), fft.Bins()),
+      blocks(static_cast<std::size_t>(fft.Size() / 2)),
+      frames(static_cast<std::size_t>(fft.Bins())),
+      before(frames.size()),
+      samples(kLanes * shape.size())
 {
-    assert(std::ssize(gains) == fft.Bins());
-    for (Analysis& analysis : analyses)
-        analysis.bins.resize(last.size());
-    // Two more than used: a peak near the upper end needs its neighbours.
-    power.resize(static_cast<std::size_t>(std::min(usedBins + 2, fft.Bins())));
+    assert(std::ssize(gains) <= fft.Bins());
 }
 
-const std::vector<FftBin>& Vocoder::Analyse(std::span<const float> sound, Index at)
+/// The spectra of the sound around four places, all moved by `shift`.
+void Vocoder::Analyse(std::span<const float> sound, const FourPlaces& places, Index shift, std::span<Complex4> spectra)
 {
-    for (const Analysis& analysis : analyses)
-        if (analysis.valid && analysis.at == at)
-            return analysis.bins;
-    Analysis& analysis = analyses[oldest];
-    oldest = (oldest + 1) % analyses.size();
-    WindowBlock(sound, at - std::ssize(shape) / 2, shape, block);
-    fft.Forward(block, analysis.bins);
-    analysis.at = at;
-    analysis.valid = true;
-    return analysis.bins;
+    FourPlaces firsts = places;
+    for (Index& first : firsts)
+        first += shift - std::ssize(shape) / 2;
+    WindowBlocks(sound, firsts, shape, blocks);
+    fft.Forward(blocks, spectra);
 }
 
-/// Sets `last` to the spectrum `now`, each peak turned from `last` as far as it turned from `before` to `now`.
-void Vocoder::Turn(const std::vector<FftBin>& now, const std::vector<FftBin>& before)
+void Vocoder::Weaken(std::span<Complex4> spectra) const
 {
-    for (std::size_t bin = 0; bin < power.size(); ++bin)
-        power[bin] = now[bin].real() * now[bin].real() + now[bin].imag() * now[bin].imag();
-    FindPeakRegions(power, regions);
-    if (regions.empty()) {
-        std::copy(now.begin(), now.end(), last.begin());
+    if (std::all_of(gains.begin(), gains.end(), [](float gain) { return gain == 1; }) && gains.size() == spectra.size())
         return;
-    }
-    for (const PeakRegion& region : regions) {
-        const auto peak = static_cast<std::size_t>(region.peak);
-        const FftBin turn = DirectionBetween(last[peak], before[peak]);
-        for (auto bin = static_cast<std::size_t>(region.first); bin < static_cast<std::size_t>(region.end); ++bin)
-            last[bin] = Times(now[bin], turn);
-    }
+    for (std::size_t bin = 0; bin < gains.size(); ++bin)
+        spectra[bin] = {spectra[bin].re * gains[bin], spectra[bin].im * gains[bin]};
+    std::fill(spectra.begin() + std::ssize(gains), spectra.end(), Complex4{});
 }
 
-/// Adds the frame in `last`, analysed at `from`, to the sums around `at`.
+/// Adds a frame of the result, analysed at `from`, to the sums around `at`.
 ///
 /// Only the part inside the sound counts as weight; otherwise the frames would lower the level at its ends.
-void Vocoder::OverlapAdd(std::span<const float> sound, Index from, Index at)
+void Vocoder::OverlapAdd(std::span<const float> row, std::span<const float> sound, Index from, Index at)
 {
-    for (std::size_t bin = 0; bin < static_cast<std::size_t>(usedBins); ++bin)
-        scaled[bin] = {last[bin].real() * gains[bin], last[bin].imag() * gains[bin]};
-    fft.Inverse(scaled, block);
     const Index half = std::ssize(shape) / 2;
     const Index first = std::max<Index>({0, at - half, at - from});
     const Index end = std::min<Index>({std::ssize(sum), at + half, at - from + std::ssize(sound)});
     for (Index out = first; out < end; ++out) {
-        const auto inBlock = static_cast<std::size_t>(out - at + half);
-        const float weight = shape[inBlock];
-        sum[static_cast<std::size_t>(out)] += weight * block[inBlock];
+        const auto inRow = static_cast<std::size_t>(out - at + half);
+        const float weight = shape[inRow];
+        sum[static_cast<std::size_t>(out)] += weight * row[inRow];
         weights[static_cast<std::size_t>(out)] += weight * weight;
     }
 }
@@ -131,17 +100,25 @@ void Vocoder::AddStretched(std::span<const float> sound, const TimeMap& map, std
 {
     sum.assign(result.size(), 0.0F);
     weights.assign(result.size(), 0.0F);
-    for (Analysis& analysis : analyses)
-        analysis.valid = false;
+    phases.Restart();
+    const std::size_t width = shape.size();
+    const std::span<float> all = samples;
+    const std::array rows{all.first(width), all.subspan(width, width), all.subspan(2 * width, width), all.last(width)};
     const Index half = std::ssize(shape) / 2;
-    for (Index out = 0; out - half < std::ssize(result) && map(out) - half < std::ssize(sound); out += hop) {
-        const Index in = map(out);
-        const std::vector<FftBin>& now = Analyse(sound, in);
-        if (out == 0)
-            std::copy(now.begin(), now.end(), last.begin());
-        else
-            Turn(now, Analyse(sound, in - hop));
-        OverlapAdd(sound, in, out);
+    const auto reaches = [&](Index out) {
+        return out - half < std::ssize(result) && map(out) - half < std::ssize(sound);
+    };
+    for (Index out = 0; reaches(out); out += kLanes * hop) {
+        const FourPlaces places{map(out), map(out + hop), map(out + 2 * hop), map(out + 3 * hop)};
+        Analyse(sound, places, 0, frames);
+        Analyse(sound, places, -hop, before);
+        phases.Turn(frames, before);
+        Weaken(frames);
+        fft.Inverse(frames, blocks);
+        SplitBlocks(blocks, rows);
+        for (std::size_t lane = 0; lane < kLanes; ++lane)
+            if (const Index at = out + static_cast<Index>(lane) * hop; reaches(at))
+                OverlapAdd(rows[lane], sound, places[lane], at);
     }
     const float scale = 1 / static_cast<float>(fft.Size());
     for (std::size_t i = 0; i < result.size(); ++i)

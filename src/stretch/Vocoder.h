@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <array>
 #include <span>
 #include <vector>
 
-#include "service/Fft.h"
-#include "stretch/PeakRegions.h"
+#include "stretch/FftBatch.h"
+#include "stretch/PhaseLock.h"
 #include "stretch/TimeMap.h"
+#include "stretch/Window.h"
 
 namespace sprout::stretch {
 
@@ -25,10 +25,8 @@ struct Crossover {
 
 /// A phase vocoder with locked peaks.
 ///
-/// For each frame of the result the input is analysed at the mapped moment u and one hop before u. Each peak turns from
-/// the result's last frame to this one by as much as it turned in between, so no phase is unwrapped; the bins around a
-/// peak turn with it (Laroche and Dolson 1999; the second analysis after Puckette 1995). Consecutive unstretched frames
-/// come out unchanged.
+/// For each frame of the result the input is analysed at the mapped moment u and one hop before u, which tells how far
+/// to turn its peaks. Consecutive unstretched frames come out unchanged. Four frames are transformed at once.
 class Vocoder {
 public:
     /// window: samples, even and a multiple of the overlap of 4. binGains: for each bin of FftSizeFor(window).
@@ -40,28 +38,19 @@ public:
     void AddStretched(std::span<const float> sound, const TimeMap& map, std::span<float> result);
 
 private:
-    struct Analysis {
-        Index at = 0;
-        bool valid = false;
-        std::vector<FftBin> bins;
-    };
-
-    const std::vector<FftBin>& Analyse(std::span<const float> sound, Index at);
-    void Turn(const std::vector<FftBin>& now, const std::vector<FftBin>& before);
-    void OverlapAdd(std::span<const float> sound, Index from, Index at);
+    void Analyse(std::span<const float> sound, const FourPlaces& places, Index shift, std::span<Complex4> spectra);
+    void Weaken(std::span<Complex4> spectra) const;
+    void OverlapAdd(std::span<const float> row, std::span<const float> sound, Index from, Index at);
 
     Index hop;
-    Fft& fft;
+    const FftBatch& fft;
     std::span<const float> shape; // of the window
-    std::vector<float> gains;
-    Index usedBins;
-    std::array<Analysis, 4> analyses; // the two of this frame, and those of the last one that it may share
-    std::size_t oldest = 0;
-    std::vector<float> block;
-    std::vector<float> power;
-    std::vector<PeakRegion> regions;
-    std::vector<FftBin> last;   // the result's last frame, before the gains
-    std::vector<FftBin> scaled; // the same after them
+    std::vector<float> gains;     // of the bins that are used
+    PhaseLock phases;
+    std::vector<Complex4> blocks;
+    std::vector<Complex4> frames;
+    std::vector<Complex4> before;
+    std::vector<float> samples; // of the four frames, one after the other
     std::vector<float> sum;
     std::vector<float> weights;
 };

@@ -20,6 +20,34 @@ std::vector<float> MakeHannWindow(Index size)
     return window;
 }
 
+/// Four samples from `first` on; zeros outside the sound.
+inline Float4 FourOf(std::span<const float> sound, Index first)
+{
+    if (first >= 0 && first + kLanes <= std::ssize(sound))
+        return LoadFour(sound.data() + first);
+    Float4 four{};
+    for (Index i = std::max<Index>(first, 0); i < std::min<Index>(first + kLanes, std::ssize(sound)); ++i)
+        four[i - first] = sound[static_cast<std::size_t>(i)];
+    return four;
+}
+
+/// Windows four blocks at once; `fourFrom` gives four consecutive samples.
+template <typename FourFrom>
+void FillBlocks(FourFrom fourFrom, const FourPlaces& firsts, std::span<const float> window, std::span<Complex4> blocks)
+{
+    Complex4* pair = blocks.data();
+    for (Index i = 0; i < std::ssize(window); i += 4, pair += 2) {
+        const Float4 shape = LoadFour(window.data() + i);
+        Float4 a = fourFrom(firsts[0] + i) * shape;
+        Float4 b = fourFrom(firsts[1] + i) * shape;
+        Float4 c = fourFrom(firsts[2] + i) * shape;
+        Float4 d = fourFrom(firsts[3] + i) * shape;
+        Transpose(a, b, c, d);
+        pair[0] = {a, b};
+        pair[1] = {c, d};
+    }
+}
+
 } // namespace
 
 std::span<const float> HannWindow(Index size)
@@ -29,16 +57,32 @@ std::span<const float> HannWindow(Index size)
     return found != windows.end() ? found->second : windows.emplace(size, MakeHannWindow(size)).first->second;
 }
 
-void WindowBlock(std::span<const float> sound, Index first, std::span<const float> window, std::span<float> block)
+void WindowBlocks(std::span<const float> sound, const FourPlaces& firsts, std::span<const float> window,
+                  std::span<Complex4> blocks)
 {
     const Index width = std::ssize(window);
-    const Index begin = std::clamp<Index>(-first, 0, width);
-    const Index end = std::clamp<Index>(std::ssize(sound) - first, begin, width);
-    std::fill(block.begin(), block.begin() + begin, 0.0F);
-    const float* source = sound.data() + (begin < end ? first + begin : 0);
-    for (Index i = begin; i < end; ++i)
-        block[static_cast<std::size_t>(i)] = source[i - begin] * window[static_cast<std::size_t>(i)];
-    std::fill(block.begin() + end, block.end(), 0.0F);
+    const auto isInside = [&](Index first) { return first >= 0 && first + width <= std::ssize(sound); };
+    if (std::all_of(firsts.begin(), firsts.end(), isInside))
+        FillBlocks([sound](Index first) { return LoadFour(sound.data() + first); }, firsts, window, blocks);
+    else
+        FillBlocks([sound](Index first) { return FourOf(sound, first); }, firsts, window, blocks);
+    std::fill(blocks.begin() + width / 2, blocks.end(), Complex4{});
+}
+
+void SplitBlocks(std::span<const Complex4> blocks, std::array<std::span<float>, kLanes> rows)
+{
+    const Complex4* pair = blocks.data();
+    for (std::size_t i = 0; i < rows[0].size(); i += 4, pair += 2) {
+        Float4 a = pair[0].re;
+        Float4 b = pair[0].im;
+        Float4 c = pair[1].re;
+        Float4 d = pair[1].im;
+        Transpose(a, b, c, d);
+        StoreFour(a, rows[0].data() + i);
+        StoreFour(b, rows[1].data() + i);
+        StoreFour(c, rows[2].data() + i);
+        StoreFour(d, rows[3].data() + i);
+    }
 }
 
 } // namespace sprout::stretch
