@@ -7,6 +7,8 @@
 #include <numbers>
 #include <numeric>
 
+#include "stretch/Float4.h"
+
 namespace sprout::stretch {
 namespace {
 
@@ -21,15 +23,16 @@ float FadeGain(Index step, Index steps)
     return static_cast<float>(0.5 - 0.5 * std::cos(std::numbers::pi * way));
 }
 
-/// Clipped at full scale and rounded to the nearest number, halves to the even
-/// one: among floats as large as `large`, neighbours are 1 apart. Without a
-/// call, so that several samples are computed at once.
-std::int16_t ToSample(float value)
+/// Clipped at full scale and rounded to the nearest numbers, halves to the even one: among floats as large as `large`,
+/// neighbours are 1 apart.
+Int4 ToWhole(Float4 four)
 {
+    const Float4 lowest = Float4{} - 32768.0F;
+    const Float4 highest = Float4{} + 32767.0F;
     constexpr float large = 3 << 22;
-    const float notTooLow = value < -32768.0F ? -32768.0F : value;
-    const float clipped = notTooLow > 32767.0F ? 32767.0F : notTooLow;
-    return static_cast<std::int16_t>(static_cast<std::int32_t>((clipped + large) - large));
+    const Float4 notTooLow = Choose(four < lowest, lowest, four);
+    const Float4 clipped = Choose(notTooLow > highest, highest, notTooLow);
+    return __builtin_convertvector((clipped + large) - large, Int4);
 }
 
 } // namespace
@@ -64,7 +67,14 @@ void FadeEnds(std::span<float> sound, bool startsQuietly, const Sizes& sizes)
 std::vector<std::int16_t> ToSamples(std::span<const float> sound)
 {
     std::vector<std::int16_t> samples(sound.size());
-    std::transform(sound.begin(), sound.end(), samples.begin(), ToSample);
+    std::size_t i = 0;
+    for (; i + kLanes <= sound.size(); i += kLanes) {
+        const Int4 whole = ToWhole(LoadFour(sound.data() + i));
+        for (std::size_t lane = 0; lane < kLanes; ++lane)
+            samples[i + lane] = static_cast<std::int16_t>(whole[lane]);
+    }
+    for (; i < sound.size(); ++i)
+        samples[i] = static_cast<std::int16_t>(ToWhole(Float4{} + sound[i])[0]);
     return samples;
 }
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 #include "service/Resampler.h"
 #include "stretch/Finish.h"
@@ -65,12 +66,20 @@ std::vector<float> StretchSlice(std::span<const float> sound, const Slice& slice
 void JoinSlice(std::span<const float> slice, Index at, Index fadeIn, Index fadeOut, std::span<float> result)
 {
     const Index count = std::min<Index>(std::ssize(slice), std::ssize(result) - at);
-    for (Index i = 0; i < count; ++i) {
-        float gain = i < fadeIn ? static_cast<float>(i) / static_cast<float>(fadeIn) : 1.0F;
-        const Index left = std::ssize(slice) - i;
-        gain *= left < fadeOut ? static_cast<float>(left) / static_cast<float>(fadeOut) : 1.0F;
-        result[static_cast<std::size_t>(at + i)] += gain * slice[static_cast<std::size_t>(i)];
-    }
+    const auto addFaded = [&](Index first, Index end) {
+        for (Index i = first; i < end; ++i) {
+            float gain = i < fadeIn ? static_cast<float>(i) / static_cast<float>(fadeIn) : 1.0F;
+            const Index left = std::ssize(slice) - i;
+            gain *= left < fadeOut ? static_cast<float>(left) / static_cast<float>(fadeOut) : 1.0F;
+            result[static_cast<std::size_t>(at + i)] += gain * slice[static_cast<std::size_t>(i)];
+        }
+    };
+    const Index middle = std::min(fadeIn, count);
+    const Index end = std::clamp(std::ssize(slice) - fadeOut, middle, count);
+    addFaded(0, middle);
+    const auto sounding = result.begin() + at;
+    std::transform(slice.begin() + middle, slice.begin() + end, sounding + middle, sounding + middle, std::plus<>());
+    addFaded(end, count);
 }
 
 /// Length of the sound before it is played `pitch` times as fast: enough for every sample of the result.

@@ -52,6 +52,7 @@ Vocoder::Vocoder(Index window, std::vector<float> binGains)
       fft(FftBatchOfSize(FftSizeFor(window))),
       shape(HannWindow(window)),
       gains(UsedGains(std::move(binGains))),
+      passesAll(std::ssize(gains) == fft.Bins() && std::count(gains.begin(), gains.end(), 1.0F) == fft.Bins()),
       phases(std::ssize(gains), fft.Bins()),
       blocks(static_cast<std::size_t>(fft.Size() / 2)),
       frames(static_cast<std::size_t>(fft.Bins())),
@@ -73,7 +74,7 @@ void Vocoder::Analyse(std::span<const float> sound, const FourPlaces& places, In
 
 void Vocoder::Weaken(std::span<Complex4> spectra) const
 {
-    if (std::all_of(gains.begin(), gains.end(), [](float gain) { return gain == 1; }) && gains.size() == spectra.size())
+    if (passesAll)
         return;
     for (std::size_t bin = 0; bin < gains.size(); ++bin)
         spectra[bin] = {spectra[bin].re * gains[bin], spectra[bin].im * gains[bin]};

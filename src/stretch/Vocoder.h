@@ -46,6 +46,7 @@ private:
     const FftBatch& fft;
     std::span<const float> shape; // of the window
     std::vector<float> gains;     // of the bins that are used
+    bool passesAll;
     PhaseLock phases;
     std::vector<Complex4> blocks;
     std::vector<Complex4> frames;
