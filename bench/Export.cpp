@@ -33,7 +33,7 @@ const WaveData& FullSongMix()
 bool IsWritten(const ExportOutcome& outcome)
 {
     if (outcome.End != ExportEnd::Written)
-        std::fprintf(stderr, "not written: %s %s\n", outcome.Line1.c_str(), outcome.Line2.c_str());
+        std::fprintf(stderr, "not written: %s %s\n", outcome.Line1.English().c_str(), outcome.Line2.English().c_str());
     return outcome.End == ExportEnd::Written;
 }
 
