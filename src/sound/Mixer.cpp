@@ -21,6 +21,7 @@ namespace sprout {
 namespace {
 
 using Samples = std::span<const std::int16_t>;
+using Progress = std::function<void(std::size_t, std::size_t)>;
 
 constexpr std::size_t kBlockFrames = 8192; // two accumulators of this size fit into the second-level cache
 constexpr std::size_t kChunkFrames = 16 * kBlockFrames;
@@ -73,7 +74,7 @@ bool NeedsWork(const WaveData& wave, std::int32_t pan)
 }
 
 /// Converts the waves from index 1 on to the program's format; those that need arithmetic share the cores.
-void ConvertWaves(std::vector<WaveData>& waves, std::int32_t pan)
+void ConvertWaves(std::vector<WaveData>& waves, std::int32_t pan, const Progress& progress)
 {
     std::vector<WaveData*> costly;
     for (std::size_t i = 1; i < waves.size(); ++i) {
@@ -85,7 +86,8 @@ void ConvertWaves(std::vector<WaveData>& waves, std::int32_t pan)
             ConvertWave(waves[i], pan);
     }
     ParallelFor(
-        costly.size(), [&costly, pan](std::size_t i) { ConvertWave(*costly[i], pan); }, {}, RenderThreads::Most());
+        costly.size(), [&costly, pan](std::size_t i) { ConvertWave(*costly[i], pan); }, progress,
+        RenderThreads::Most());
 }
 
 std::vector<StereoFrames> TakeFrames(const std::vector<WaveData>& waves)
@@ -176,7 +178,7 @@ public:
 
     /// The mixed wave. Each piece of the time line is summed separately, so that the pieces share the cores and the
     /// sums stay in the cache.
-    WaveData Render()
+    WaveData Render(const Progress& progress)
     {
         WaveData result = EmptyWave();
         result.Channels = 2;
@@ -189,7 +191,7 @@ public:
         right = result.WavR.Change().data() + 1;
         const std::size_t chunks = (Total() + kChunkFrames - 1) / kChunkFrames;
         ParallelFor(
-            chunks, [this](std::size_t chunk) { RenderChunk(chunk * kChunkFrames); }, {}, RenderThreads::Most());
+            chunks, [this](std::size_t chunk) { RenderChunk(chunk * kChunkFrames); }, progress, RenderThreads::Most());
         return result;
     }
 
@@ -241,13 +243,13 @@ private:
 } // namespace
 
 WaveData MixWaves(std::vector<WaveData> waves, std::span<const WaveFilePlacement> placements, std::int32_t gain,
-                  std::int32_t pan, std::int32_t clip)
+                  std::int32_t pan, std::int32_t clip, const Progress& progress)
 {
-    ConvertWaves(waves, Shared().Channels == 2 ? pan : 0);
+    ConvertWaves(waves, Shared().Channels == 2 ? pan : 0, progress);
     const std::vector<StereoFrames> frames = TakeFrames(waves);
     const ClipLimits limits{ClipLimit(clip, std::numeric_limits<std::int16_t>::min()),
                             ClipLimit(clip, std::numeric_limits<std::int16_t>::max())};
-    return Mix(TakeSoundings(placements, frames), gain, limits).Render();
+    return Mix(TakeSoundings(placements, frames), gain, limits).Render(progress);
 }
 
 } // namespace sprout

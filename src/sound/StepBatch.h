@@ -8,15 +8,11 @@
 
 #include "base/WaveData.h"
 #include "core/Song.h"
+#include "sound/RenderSetting.h"
 #include "sound/StepCache.h"
+#include "sound/StepSound.h"
 
 namespace sprout {
-
-/// Where a step's instrument comes from.
-enum class BeatSource {
-    Song,   ///< `SongBeats`, by `BeatIndex`
-    OwnBeat ///< the step's `StepBeat`
-};
 
 /// The value of `StepWaveValid` in a step that copies the sound of an equal one.
 enum class CopiedStep { Valid, StaysAsItIs };
@@ -24,10 +20,13 @@ enum class CopiedStep { Valid, StaysAsItIs };
 /// Steps that are rendered together: equal sounds only once, new ones on all cores. The result is the same as if the
 /// steps were rendered one by one.
 ///
-/// `Add...` loads beats that are not loaded yet and shows their messages, in the order of the steps; the steps must
-/// stay in place until `Render` has filled them. Interface thread only.
+/// `Add...` loads beats that are not loaded yet and shows their messages, in the order of the steps, if the setting
+/// wants them read; the steps must stay in place until `Render` has filled them. A setting with the shared song or
+/// cache belongs to the interface thread.
 class StepBatch {
 public:
+    explicit StepBatch(RenderSetting setting);
+
     /// Takes the steps of a tune that are on and not valid; a step equal to an earlier valid one copies its sound. A
     /// failure, such as a tune with fewer steps than its count, ends the adding; `Render` throws it when its turn
     /// comes.
@@ -57,11 +56,14 @@ private:
     void PlanTune(Tune& tune, BeatSource source, CopiedStep copies);
     void PlanSound(TuneStep& step, BeatSource source);
     std::size_t SoundOf(TuneStep& step, BeatSource source);
+    const WaveData& InstrumentOf(TuneStep& step, BeatSource source);
+    const WaveData& LoadedSound(Beat& beat) const;
     template <class Plan>
     void TryToAdd(Plan plan);
     void RenderMissing();
     void HandOut() const;
 
+    RenderSetting setting;
     std::vector<Sound> sounds;
     std::vector<std::size_t> missing; // sounds still to be rendered
     std::unordered_map<StepKey, std::size_t, StepKeyHash> places;

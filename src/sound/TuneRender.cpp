@@ -24,7 +24,7 @@ WaveData RenderOne(TuneStep& step, BeatSource source)
 {
     const Hourglass hourglass;
     return QuietRender([&] {
-        StepBatch batch;
+        StepBatch batch(SharedSetting());
         batch.AddStep(step, source);
         batch.Render();
         return step.StepWave;
@@ -62,7 +62,7 @@ WaveData RenderCycle(Tune& tune, BeatSource source)
 {
     const WorkingSign sign;
     return QuietRender([&] {
-        StepBatch batch;
+        StepBatch batch(SharedSetting());
         batch.AddTune(tune, source, CopiedStep::Valid);
         batch.Render();
         return MixCycle(tune);
@@ -98,12 +98,12 @@ void RenderTuneCycle(Tune& tune)
 void RenderTrackSteps(Tune& tune)
 {
     Tune* const one = &tune;
-    RenderTrackSteps(std::span(&one, 1));
+    RenderTrackSteps(std::span(&one, 1), SharedSetting());
 }
 
-void RenderTrackSteps(std::span<Tune* const> tunes)
+void RenderTrackSteps(std::span<Tune* const> tunes, const RenderSetting& setting)
 {
-    StepBatch batch;
+    StepBatch batch(setting);
     for (Tune* const tune : tunes)
         batch.AddTune(*tune, BeatSource::Song, CopiedStep::StaysAsItIs);
     batch.Render();

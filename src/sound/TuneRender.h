@@ -5,6 +5,7 @@
 
 #include "base/WaveData.h"
 #include "core/Song.h"
+#include "sound/RenderSetting.h"
 
 namespace sprout {
 
@@ -28,7 +29,7 @@ void RenderTuneCycle(Tune& tune);
 /// std::bad_alloc.
 void RenderTrackSteps(Tune& tune);
 
-/// The same for several tunes at once, so that all their new steps share the cores.
-void RenderTrackSteps(std::span<Tune* const> tunes);
+/// The same for several tunes of one song at once, so that all their new steps share the cores.
+void RenderTrackSteps(std::span<Tune* const> tunes, const RenderSetting& setting);
 
 } // namespace sprout

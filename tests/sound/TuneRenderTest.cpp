@@ -278,7 +278,7 @@ TEST_F(TuneRenderTest, EqualStepsOfSeveralTunesAreStretchedOnce)
     Tune second = MakeTune(2);
     SetStep(second, 2, beat);
     Tune* const both[] = {&first, &second};
-    RenderTrackSteps(both);
+    RenderTrackSteps(both, SharedSetting());
     EXPECT_EQ(Calls(), 1u);
     EXPECT_TRUE(second.Steps[2].StepWaveValid) << "it renders for itself, as tune after tune would";
     EXPECT_EQ(services.screen.lastProgress, (std::pair<std::size_t, std::size_t>(1, 1)));
