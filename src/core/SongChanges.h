@@ -10,9 +10,12 @@ namespace sprout {
 /// What can happen to a song, a track or a tune. Whoever changes a record calls the operation that says so; it clears
 /// the flags of the sounds that are stale now, and marks the song as changed where that counts as unsaved work.
 ///
-/// Nobody else clears a flag. Tracks and steps are numbered from 1.
+/// Nobody else clears a flag. Tracks and steps are numbered from 1. Interface thread only.
 class SongChanges {
 public:
+    /// How many of them happened since the start: who saw another number before finds something changed.
+    [[nodiscard]] static std::uint64_t Count() { return count; }
+
     /// A press of the brush or the eraser has changed a cell of a track.
     static void PaintPressed(SongState& song, std::int32_t track);
     /// A drag has changed cells of a track. The press that began the stroke answers for the rest of the song: a stroke
@@ -53,6 +56,9 @@ public:
     static void StepsReplaced(Tune& tune);
     /// The tune has no sound any more: a file saved at once must not contain that of another tune.
     static void TuneEmptied(Tune& tune);
+
+private:
+    inline static std::uint64_t count = 0;
 };
 
 } // namespace sprout

@@ -13,6 +13,7 @@
 #include "core/FileHead.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
+#include "core/SongChanges.h"
 #include "core/SongSizes.h"
 #include "core/Tell.h"
 #include "service/Screen.h"
@@ -76,6 +77,7 @@ bool TakeSong(const fs::path& file)
         return false;
     song.OwnFile = MessagesTold() == toldBefore ? mark : FileMark();
     Shared().Song = std::move(song);
+    SongChanges::SongReplaced(Shared().Song);
     if (HasBlankTune(Shared().Song))
         TheServices().screen->EnableTuneNotFilledTimer();
     return true;

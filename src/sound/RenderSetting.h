@@ -23,12 +23,12 @@ struct RenderSetting {
     SongState& song;
     StepCache& cache;
     UnloadedBeats beats = UnloadedBeats::AreRead;
-    Progress stepProgress; ///< of the steps
-    Progress mixProgress;  ///< of the pieces of a mix
+    Progress stepProgress = {}; ///< of the steps
+    Progress mixProgress = {};  ///< of the pieces of a mix
 };
 
 /// The setting of what is rendered because somebody waits for it: the shared song and cache, with the progress of the
-/// steps on the screen. Interface thread only.
+/// steps on the screen. Interrupts what is rendered ahead. Interface thread only.
 [[nodiscard]] RenderSetting SharedSetting();
 
 } // namespace sprout

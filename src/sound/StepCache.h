@@ -48,6 +48,7 @@ public:
     /// Sets a new limit; 0 stores nothing.
     void SetMostBytes(std::size_t bytes);
 
+    [[nodiscard]] std::size_t MostBytes() const { return mostBytes; }
     [[nodiscard]] std::size_t Bytes() const { return bytesHeld; }
     [[nodiscard]] std::size_t Count() const { return sounds.size(); }
 

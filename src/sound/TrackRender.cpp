@@ -10,6 +10,7 @@
 #include "core/SongTime.h"
 #include "core/rendered/Rendered.h"
 #include "sound/QuietRender.h"
+#include "sound/RenderAhead.h"
 #include "sound/RenderSetting.h"
 #include "sound/SongParts.h"
 #include "sound/TrackMix.h"
@@ -70,6 +71,8 @@ void MixSong()
     if (song.SongMixValid)
         return;
     const WorkingSign sign;
+    if (RenderAhead::HandMixTo(song))
+        return;
     song.SongMix = EmptyWave(); // frees the old mix before the new one is made
     Rendered::KeepSongMix(song, QuietRender([] { return MixParts(SharedSetting()); }));
 }

@@ -126,6 +126,14 @@ TEST_P(SongChangesTest, MarksTheSongOrLeavesItsMark)
     }
 }
 
+TEST_P(SongChangesTest, IsCounted)
+{
+    SongState song = ValidSong();
+    const std::uint64_t before = SongChanges::Count();
+    GetParam().happens(song);
+    EXPECT_EQ(SongChanges::Count(), before + 1);
+}
+
 INSTANTIATE_TEST_SUITE_P(Operations, SongChangesTest, testing::ValuesIn(kRows),
                          [](const testing::TestParamInfo<Row>& row) { return row.param.operation; });
 

@@ -173,5 +173,19 @@ TEST(MixWaves, GivesTheSameSamplesWithAnyNumberOfThreads)
     EXPECT_EQ(MixWaves(waves, places, 33, 0, 85), scaled);
 }
 
+TEST(MixWaves, TellsItsProgressWhichMayEndIt)
+{
+    const auto waves = From1({LevelWave(400000, 1)});
+    std::size_t calls = 0;
+    const auto count = [&calls](std::size_t done, std::size_t total) {
+        ++calls;
+        EXPECT_LE(done, total);
+    };
+    EXPECT_EQ(MixWaves(waves, Placements{{0, 1}}, 100, 0, 100, count), waves[1]);
+    EXPECT_GT(calls, 1u);
+    const auto stop = [](std::size_t, std::size_t) { throw WorkStopped(); };
+    EXPECT_THROW(static_cast<void>(MixWaves(waves, Placements{{0, 1}}, 100, 0, 100, stop)), WorkStopped);
+}
+
 } // namespace
 } // namespace sprout
