@@ -3,9 +3,12 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <future>
 #include <memory>
+#include <utility>
 
+#include "app/AheadOfPlay.h"
 #include "app/OpenMainWindow.h"
 #include "app/ProgramWindows.h"
 #include "app/SystemEnd.h"
@@ -26,10 +29,12 @@
 #include "service/posix/PosixFolderCopies.h"
 #include "service/posix/PosixMachine.h"
 #include "service/posix/PosixPrivateFolders.h"
+#include "service/posix/ThreadPriority.h"
 #include "service/qt/QtPictureFiles.h"
 #include "service/xdg/XdgDesktop.h"
 #include "service/xdg/XdgMail.h"
 #include "sound/PlayMod.h"
+#include "sound/RenderAhead.h"
 #include "stretch/StretchService.h"
 #include "ui/forms/QtMessages.h"
 #include "ui/forms/QtScreen.h"
@@ -89,6 +94,11 @@ private:
                            [] { return NewTempFileName("wav"); }};
 };
 
+std::unique_ptr<AheadWork> MakeRenderAhead(std::function<void()> tellResult)
+{
+    return std::make_unique<RenderAhead>(AheadThreads{LowerThreadPriority, std::move(tellResult)});
+}
+
 int RunProgram(QApplication& application)
 {
     ProgramServices services;
@@ -102,6 +112,7 @@ int RunProgram(QApplication& application)
     PseudoLanguage pseudoLanguage;
     if (IsSetToOne("PseudoLanguage"))
         QCoreApplication::installTranslator(&pseudoLanguage);
+    const AheadOfPlay ahead(MakeRenderAhead); // its threads end after the window is gone
     MainFrm window(services.transport);
     services.screen.SetProcessPic(&window.WorkingSign());
     services.screen.SetTuneNotFilledTimer([&window] { window.EnableTuneNotFilledTimer(); });
