@@ -101,10 +101,11 @@ bool RenderAhead::HandMixTo(SongState& song)
     if (!current)
         return false;
     current->Collect();
-    if (!current->ready || !current->ready->FitsTo(song))
+    // One that does not fit makes room for the one that is made now.
+    std::optional<ReadyMix> mix = std::exchange(current->ready, std::nullopt);
+    if (!mix || !mix->FitsTo(song))
         return false;
-    current->ready->HandTo(song);
-    current->ready.reset();
+    mix->HandTo(song);
     return true;
 }
 

@@ -334,10 +334,17 @@ TEST_F(RenderAheadTest, AMixOfAnotherSongIsThrownAway)
     SongChanges::PaintDragged(TrackAt(1)); // alone, as after a press on a painted cell
     MixSong();
     EXPECT_GT(song.SongMix.Length, 4 * kCellFrames) << "not the one without the new paint";
+    EXPECT_FALSE(ahead->HasMix());
+}
+
+TEST_F(RenderAheadTest, AMixThatNoLongerFitsIsGoneWhenWorkBegins)
+{
+    AddPitchTrack(AddToneBeat(5), {1}, 1, 1);
+    RenderAll();
     Paint(1, 9, 9);
-    SetSongMixValid(song, false);
     ahead->Begin();
     EXPECT_FALSE(ahead->HasMix());
+    Finish();
 }
 
 TEST_F(RenderAheadTest, AMixThatComesTooLateIsThrownAway)
