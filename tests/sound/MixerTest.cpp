@@ -175,6 +175,7 @@ TEST(MixWaves, GivesTheSameSamplesWithAnyNumberOfThreads)
 
 TEST(MixWaves, TellsItsProgressWhichMayEndIt)
 {
+    const RenderThreads alone(1); // another thread could do all pieces before this one tells anything
     const auto waves = From1({LevelWave(400000, 1)});
     std::size_t calls = 0;
     const auto count = [&calls](std::size_t done, std::size_t total) {
