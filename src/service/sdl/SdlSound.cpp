@@ -104,7 +104,7 @@ void SdlSound::WatchForRest()
     std::unique_lock lock(mutex);
     int silentRounds = 0;
     while (!watchEnds.wait_for(lock, restRound, [this] { return watchIsEnding; })) {
-        silentRounds = std::exchange(used, false) || feed.Plays() ? 0 : silentRounds + 1;
+        silentRounds = std::exchange(used, false) || isStarting || feed.Plays() ? 0 : silentRounds + 1;
         if (silentRounds == kRoundsBeforeRest)
             return Close();
     }
@@ -125,8 +125,16 @@ void SdlSound::EndWatch()
 
 void SdlSound::Start(StartFrom from, Loop loop)
 {
+    SetStarting(true);
     if (Wake())
         feed.Start(from, loop);
+    SetStarting(false);
+}
+
+void SdlSound::SetStarting(bool starting)
+{
+    const std::lock_guard lock(mutex);
+    isStarting = starting;
 }
 
 SoundPlace SdlSound::Place()

@@ -49,6 +49,7 @@ private:
     void Close();
     void WatchForRest();
     void EndWatch();
+    void SetStarting(bool starting);
     /// True if the sound server or the device is gone. SDL keeps asking for samples then, but nobody hears them.
     [[nodiscard]] bool IsLost() const;
 
@@ -62,6 +63,7 @@ private:
     std::mutex mutex;         // guards the following
     std::uint32_t device = 0; // SDL's number; 0 at rest
     bool used = false;        // since the last check
+    bool isStarting = false;  // the device stays open, though the sound does not play yet
     bool watchIsEnding = false;
 };
 
