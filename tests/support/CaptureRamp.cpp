@@ -49,9 +49,17 @@ std::vector<int> Sounded(const std::vector<int>& numbers)
     return {std::find_if(numbers.begin(), last, sounds), last};
 }
 
-bool IsGapless(const std::vector<int>& numbers)
+testing::AssertionResult IsGapless(const std::vector<int>& numbers)
 {
-    return std::adjacent_find(numbers.begin(), numbers.end(), [](int a, int b) { return b != a + 1; }) == numbers.end();
+    testing::AssertionResult gaps = testing::AssertionFailure() << "at frame: what comes instead of the next number";
+    bool gapless = true;
+    for (std::size_t i = 1; i < numbers.size(); ++i) {
+        if (numbers[i] == numbers[i - 1] + 1 || (numbers[i] < 0 && numbers[i] == numbers[i - 1]))
+            continue;
+        gaps << ", " << i << ": " << numbers[i - 1] << " " << numbers[i];
+        gapless = false;
+    }
+    return gapless ? testing::AssertionSuccess() : gaps;
 }
 
 } // namespace sprout

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
@@ -31,7 +33,7 @@ struct CapturedRamp {
 /// The frames without the silence before and after them.
 [[nodiscard]] std::vector<int> Sounded(const std::vector<int>& numbers);
 
-/// Returns true if each frame follows the one before.
-[[nodiscard]] bool IsGapless(const std::vector<int>& numbers);
+/// Returns true if each frame follows the one before; if not, a message with the places where it does not.
+[[nodiscard]] testing::AssertionResult IsGapless(const std::vector<int>& numbers);
 
 } // namespace sprout

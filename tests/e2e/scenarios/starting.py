@@ -22,6 +22,19 @@ def FirstStart(desk):
     expect(os.path.exists(desk.settings), "no settings were written beside the program")
 
 
+@scenario(sound=False)
+def SpeakAMadeUpLanguage(desk):
+    """With the setting for translators, what the window says has accents; names from the disk stay."""
+    with open(desk.settings, "w", encoding="utf-8") as settings:
+        settings.write("[General]\nPseudoLanguage=1\n")
+    program = desk.start()
+    program.wait_for("SngTitleLbl", "Zumi")
+    program.wait_for("SoundStatusLbl")
+    status = program.text_of("SoundStatusLbl")
+    expect(status.startswith("[") and not status.isascii(), f"the status says '{status}'")
+    close(program)
+
+
 @scenario()
 def NoDisplay(desk):
     """Without a display the program says so in one sentence and exits with 1."""

@@ -159,12 +159,29 @@ bool TestSoundServer::PullOut(const std::string& name)
 
 bool TestSoundServer::PutBack(const std::string& name)
 {
+    const std::string mic = name + "-mic";
+    const std::string description = "device.description=" + name + "-for-people";
+    const std::string pipeWire = socket + ".pipewire";
+    const bool isPipeWire = std::filesystem::exists(pipeWire);
     std::string& number = microphones[name];
-    number = Told({"pactl", "load-module", "module-remap-source", "source_name=" + name + "-mic",
-                   "master=" + name + ".monitor", "source_properties=device.description=" + name + "-for-people"});
+    // PipeWire's remapped sources take the newest piece and drop those before it. Linked devices lose nothing.
+    number = isPipeWire ? Told({"pactl", "load-module", "module-null-sink", "media.class=Audio/Source/Virtual",
+                                "sink_name=" + mic, "sink_properties=" + description})
+                        : Told({"pactl", "load-module", "module-remap-source", "source_name=" + mic,
+                                "master=" + name + ".monitor", "source_properties=" + description});
     while (!number.empty() && number.back() == '\n')
         number.pop_back();
-    return number != "no answer";
+    if (number == "no answer")
+        return false;
+    const auto link = [&](const std::string& side) {
+        const auto latest = Clock::now() + kPatience; // the devices' ports come later than they do
+        while (Told({"env", "PIPEWIRE_REMOTE=" + pipeWire, "pw-link", name + ":monitor_" + side,
+                     mic + ":input_" + side}) == "no answer")
+            if (Clock::now() > latest)
+                return false;
+        return true;
+    };
+    return !isPipeWire || (link("FL") && link("FR"));
 }
 
 std::string TestSoundServer::Inputs() const
