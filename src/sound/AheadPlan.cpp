@@ -57,8 +57,7 @@ private:
 
     void Collect()
     {
-        if (song.TrackCount >= 1 && static_cast<std::size_t>(song.TrackCount) >= song.Tracks.size())
-            throw RunTimeError(Words::Text("The song has fewer tracks than it says."));
+        CheckTracks(song);
         for (std::int32_t number = 1; number <= song.TrackCount; ++number) {
             const Track& track = At(song.Tracks, number);
             if (track.IsAudio())

@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "base/Errors.h"
 #include "sound/Mixer.h"
 #include "sound/TrackMix.h"
 #include "sound/TuneRender.h"
@@ -28,8 +27,7 @@ public:
     void Collect()
     {
         song.SongFirstPos = kUnsetPosition;
-        if (song.TrackCount >= 1 && static_cast<std::size_t>(song.TrackCount) >= song.Tracks.size())
-            throw RunTimeError(Words::Text("The song has fewer tracks than it says."));
+        CheckTracks(song);
         for (std::int32_t number = 1; number <= song.TrackCount; ++number) {
             Track& track = At(song.Tracks, number);
             if (track.IsMusic() ? TakeMusic(track) : track.IsAudio() && TakeAudio(track)) {

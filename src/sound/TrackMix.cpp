@@ -107,6 +107,12 @@ std::int32_t OffsetOf(const SongState& song, std::int32_t cell, std::int32_t ori
     return CellOffset(cell, origin, song.Tempo, Shared().SampleRate);
 }
 
+void CheckTracks(const SongState& song)
+{
+    if (song.TrackCount >= 1 && static_cast<std::size_t>(song.TrackCount) >= song.Tracks.size())
+        throw RunTimeError(Words::Text("The song has fewer tracks than it says."));
+}
+
 std::int32_t FirstPaintedCell(const SongState& song, const Track& track)
 {
     const std::int32_t cells = song.SongCells;

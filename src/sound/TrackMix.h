@@ -25,6 +25,9 @@ struct MixInput {
 /// The position of a sound at `cell` on a time line that begins at cell `origin`. Throws `RunTimeError`.
 [[nodiscard]] std::int32_t OffsetOf(const SongState& song, std::int32_t cell, std::int32_t origin);
 
+/// Throws `RunTimeError` if the song has fewer tracks than its count says.
+void CheckTracks(const SongState& song);
+
 /// First painted cell of a track, 0 if there is none. Throws `RunTimeError` if it has fewer cells than the song.
 [[nodiscard]] std::int32_t FirstPaintedCell(const SongState& song, const Track& track);
 
