@@ -11,7 +11,6 @@ using std::chrono::milliseconds;
 
 /// The time that a change takes to the server, besides what the device has already been given.
 constexpr milliseconds kWayOfAChange{10};
-constexpr int kRoundsBeforeRest = 3;
 
 PulseConnection::Time Now()
 {
@@ -23,12 +22,14 @@ PulseConnection::Time Now()
 PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milliseconds round,
                        milliseconds tailBehindEnd)
     : connection(server),
-      restRound(round),
       tailTime(tailBehindEnd),
       queue(format),
       heard(format),
-      stream(server, format, StreamEvents()),
-      rounds(server, [this] { OnRound(); }),
+      stream(server, format,
+             {[this] { OnLost(); }, [this] { OnStarted(); }, [this] { OnTimed(); }, [this] { OnMoreWanted(); },
+              [this](TimingQuestion question, const StreamTiming& timing) { OnAnswered(question, timing); }}),
+      rounds(
+          server, round, [this] { return Follow(); }, [this] { Close(); }),
       tail(server, [this] { OnTailHeard(); })
 {
 }
@@ -37,12 +38,6 @@ PulseSound::~PulseSound()
 {
     const Lock lock(connection.Mutex());
     Close();
-}
-
-PulsePlaybackStream::Events PulseSound::StreamEvents()
-{
-    return {[this] { OnLost(); }, [this] { OnStarted(); }, [this] { OnTimed(); }, [this] { OnMoreWanted(); },
-            [this](TimingQuestion question, const StreamTiming& timing) { OnAnswered(question, timing); }};
 }
 
 bool PulseSound::IsAliveIn(const SoundFormat& wanted)
@@ -59,7 +54,7 @@ bool PulseSound::Wake(Time deadline)
 
 bool PulseSound::Wake(Lock& lock, Time deadline)
 {
-    used = true;
+    rounds.NoteUse();
     if (stream.IsReady())
         return true;
     Close();
@@ -67,8 +62,7 @@ bool PulseSound::Wake(Lock& lock, Time deadline)
         Close();
         return false;
     }
-    silentRounds = 0;
-    rounds.Start(restRound);
+    rounds.Start();
     return true;
 }
 
@@ -78,17 +72,6 @@ void PulseSound::Close()
     tail.Stop();
     holdsQueue = false;
     stream.Close();
-}
-
-void PulseSound::OnRound()
-{
-    Follow();
-    if (!stream.IsOpen())
-        return;
-    silentRounds = std::exchange(used, false) || playing ? 0 : silentRounds + 1;
-    if (silentRounds == kRoundsBeforeRest)
-        return Close();
-    rounds.Start(restRound);
 }
 
 void PulseSound::OnLost()
@@ -137,20 +120,20 @@ void PulseSound::OnTimed()
 
 void PulseSound::OnMoreWanted()
 {
-    Follow();
-    if (playing)
+    if (Follow())
         stream.WriteWanted(queue);
 }
 
-void PulseSound::Follow()
+bool PulseSound::Follow()
 {
     if (!playing)
-        return;
+        return false;
     const EndHeard end = heard.Follow(Now(), queue);
     if (end == EndHeard::Yes)
         End();
     else if (end == EndHeard::Unknown && !stream.IsAsked(TimingQuestion::AtEnd) && !Ask(TimingQuestion::AtEnd))
         playing = false;
+    return playing;
 }
 
 std::optional<PulseSound::Time> PulseSound::FirstTaken()
@@ -253,8 +236,7 @@ SoundPlace PulseSound::Place()
 void PulseSound::SetLooping(Loop loop)
 {
     const Lock lock(connection.Mutex());
-    Follow();
-    if (playing)
+    if (Follow())
         ChangeLooping(loop, FirstPlaceNotGiven());
 }
 

@@ -13,6 +13,7 @@
 #include "service/pulse/PulseConnection.h"
 #include "service/pulse/PulsePlaybackStream.h"
 #include "service/pulse/PulseTimer.h"
+#include "service/pulse/RestRounds.h"
 #include "service/pulse/SoundQueue.h"
 
 namespace sprout {
@@ -53,13 +54,11 @@ public:
 private:
     using Lock = PulseConnection::Lock;
 
-    [[nodiscard]] PulsePlaybackStream::Events StreamEvents();
     void OnLost();
     void OnStarted();
     void OnTimed();
     void OnMoreWanted();
     void OnAnswered(TimingQuestion question, const StreamTiming& timing);
-    void OnRound();
     void OnTailHeard();
 
     [[nodiscard]] bool Wake(Lock& lock, Time deadline);
@@ -72,11 +71,10 @@ private:
     [[nodiscard]] std::int64_t FirstPlaceNotGiven() const;
     void StopStream();
     void End();
-    /// Updates the place, and ends the sound once its end was heard.
-    void Follow();
+    /// Updates the place, and ends the sound once its end was heard. Returns whether it plays.
+    bool Follow();
 
     PulseConnection& connection;
-    const std::chrono::milliseconds restRound;
     const std::chrono::milliseconds tailTime;
     std::size_t soundBytes = 0;
 
@@ -84,11 +82,8 @@ private:
     SoundQueue queue;
     HeardPlace heard;
     PulsePlaybackStream stream; // closed at rest
-    PulseTimer rounds;          // while the stream is open
+    RestRounds rounds;          // while the stream is open
     PulseTimer tail;            // while the stream runs on after an end
-    int silentRounds = 0;
-    bool used = false; // since the last round
-
     bool playing = false;
     bool holdsQueue = false; // the server's queue continues at the place
     std::optional<Time> firstTaken;
