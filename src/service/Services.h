@@ -39,11 +39,14 @@ struct Services {
     FolderCopies* folderCopies = nullptr;
 };
 
+namespace shared {
+inline Services services;
+}
+
 /// The one shared instance.
 inline Services& TheServices()
 {
-    static Services services;
-    return services;
+    return shared::services;
 }
 
 } // namespace sprout
