@@ -2,6 +2,8 @@
 #include "app/ProgramWindows.h"
 
 #include "beat_window/ChooseBeat.h"
+#include "demo/DemoFolder.h"
+#include "demo/Demo_frm.h"
 #include "recording/AudioEditFrm.h"
 #include "recording/Recd_Frm.h"
 #include "recording/Recd_Mod.h"
@@ -86,6 +88,16 @@ std::optional<std::string> ProgramWindows::ChooseNameToSave(QWidget& owner, std:
 bool ProgramWindows::SaveSongAsSound(SoundFileKind kind)
 {
     return sprout::SaveSongAsSound(kind);
+}
+
+std::vector<std::string> ProgramWindows::DemoNames()
+{
+    return sprout::DemoNames();
+}
+
+void ProgramWindows::ShowDemo(std::string_view name)
+{
+    Demo_frm(WindowInFront(), name).ShowModal();
 }
 
 void ProgramWindows::ShowHelp()

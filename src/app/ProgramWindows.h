@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "ui/Windows.h"
 
@@ -28,6 +29,8 @@ public:
     [[nodiscard]] std::optional<std::string> ChooseSongToOpen(QWidget& owner) override;
     [[nodiscard]] std::optional<std::string> ChooseNameToSave(QWidget& owner, std::string_view name) override;
     [[nodiscard]] bool SaveSongAsSound(SoundFileKind kind) override;
+    [[nodiscard]] std::vector<std::string> DemoNames() override;
+    void ShowDemo(std::string_view name) override;
     void ShowHelp() override;
     void EmailSong() override;
     void StopEmailSong() override;

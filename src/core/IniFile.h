@@ -61,8 +61,7 @@ private:
     std::unordered_map<std::string, std::size_t> places; // section, zero byte, key -> line
 };
 
-/// The value of `key`, or `fallback` if the file has none or the key is blank. The demo window will read its list of
-/// pictures with it.
+/// The value of `key`, or `fallback` if the file has none or the key is blank.
 [[nodiscard]] std::string GetIniValue(std::string_view section, std::string_view key, std::string_view fallback,
                                       const std::filesystem::path& file);
 

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "main_window/About_Frm.h"
 
-#include <QKeyEvent>
 #include <QPainter>
-#include <QPushButton>
 
 #include <algorithm>
 
@@ -13,7 +11,7 @@
 #include "ui/look/Artwork.h"
 #include "ui/look/Look.h"
 #include "ui/look/Palette.h"
-#include "ui/words/QtText.h"
+#include "ui/widgets/LinkButton.h"
 #include "ui/words/Texts.h"
 
 namespace sprout {
@@ -27,24 +25,6 @@ constexpr int kLinesTop = 18;
 constexpr int kLinesApart = 6;
 constexpr int kRightMargin = 24;
 constexpr int kLinkInset = 6; ///< border and padding of the link
-
-constexpr std::string_view kLinkStyle =
-    "QPushButton { color: #1F6FA8; background: transparent; border: 2px solid transparent; border-radius: 6px;"
-    " padding: 2px 4px; text-align: left; text-decoration: underline; }"
-    "QPushButton:hover { color: #1F6B34; } QPushButton:focus { border-color: #1F6FA8; }";
-
-/// Holding a key down opens the page only once.
-class LinkButton : public QPushButton {
-public:
-    using QPushButton::QPushButton;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        if (!event->isAutoRepeat())
-            QPushButton::keyPressEvent(event);
-    }
-};
 
 } // namespace
 
@@ -74,11 +54,8 @@ QLabel& About_Frm::AddLine(const char* name, const QFont& font, const Words& tex
 
 void About_Frm::MakeLink()
 {
-    auto* link = new LinkButton(QtText(kWebSite), this);
-    link->setObjectName(QStringLiteral("WebSiteLbl"));
+    auto* link = new LinkButton("WebSiteLbl", Words::AsIs(kWebSite), this);
     SetSpokenName(*link, Words::Text("The makers' pages: %1", kWebSite));
-    link->setStyleSheet(QtText(kLinkStyle));
-    link->setCursor(Qt::PointingHandCursor);
     Watcher().Watch(*link, Words::Text("Click to see the makers' pages"));
     connect(link, &QPushButton::clicked, this, [] { OpenWithShell(kWebSite); });
     lines.push_back(link);

@@ -12,6 +12,7 @@
 #include "core/Shared.h"
 #include "main_window/About_Frm.h"
 #include "main_window/ControlBar.h"
+#include "main_window/DemoCommands.h"
 #include "main_window/GroundWatch.h"
 #include "main_window/MainTabOrder.h"
 #include "main_window/SoundDrop.h"
@@ -24,7 +25,6 @@
 #include "main_window/WindowSettings.h"
 #include "main_window/rules/MainWindowPlaces.h"
 #include "ui/Windows.h"
-#include "ui/forms/Dialogs.h"
 #include "ui/look/Artwork.h"
 #include "ui/widgets/PutAt.h"
 #include "ui/widgets/SpokenRoles.h"
@@ -86,10 +86,7 @@ MainButtonClicks MainFrm::Clicks()
     clicks.EmailBtn = [] { TheWindows().EmailSong(); };
     clicks.HelpBtn = [] { TheWindows().ShowHelp(); };
     clicks.AboutBtn = [this] { About_Frm(this).ShowModal(); };
-    clicks.DemoBtn = [] {
-        ShowMessage(Words::Text("There is no demo to watch yet."),
-                    Words::Text("Click the Help button to read how to make a song."));
-    };
+    clicks.DemoBtn = [this] { DemoCommands(transportCommands, *trackCommands).DemoBtn(buttons.Button("DemoBtn")); };
     clicks.CloseImgBtn = [this] { close(); };
     clicks.MaximizeImgBtn = [this] { showMaximized(); };
     clicks.MinimizeImgBtn = [this] { showMinimized(); };

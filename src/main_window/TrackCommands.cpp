@@ -105,6 +105,13 @@ void TrackCommands::EnableTuneNotFilledTimer()
         tuneNotFilledTimer.start();
 }
 
+bool TrackCommands::DisableTuneNotFilledTimer()
+{
+    const bool wasRunning = tuneNotFilledTimer.isActive();
+    tuneNotFilledTimer.stop();
+    return wasRunning;
+}
+
 void TrackCommands::SetOpening(bool opening)
 {
     songIsOpening = opening;

@@ -23,6 +23,8 @@ public:
     void TrackTuneBtn();
 
     void EnableTuneNotFilledTimer();
+    /// Returns whether the timer was running.
+    bool DisableTuneNotFilledTimer();
     /// Nothing blinks while a song is being chosen.
     void SetOpening(bool opening);
 

@@ -71,6 +71,13 @@ void TrackTitlePlay::EnableTrackTitlePlayTimer()
         timer.start();
 }
 
+bool TrackTitlePlay::DisableTrackTitlePlayTimer()
+{
+    const bool wasRunning = timer.isActive();
+    timer.stop();
+    return wasRunning;
+}
+
 void TrackTitlePlay::Tick()
 {
     if (isBusy || PlayShared().PlayingTrack != 0 || !canvas)

@@ -21,6 +21,8 @@ public:
     void Start(TrackCanvas& trackCanvas);
     /// Goes on if a failure has stopped it.
     void EnableTrackTitlePlayTimer();
+    /// Returns whether the timer was running.
+    bool DisableTrackTitlePlayTimer();
 
 private:
     void Tick();

@@ -158,6 +158,30 @@ void TransportCommands::TellNoSound()
                 Words::Text("Plug in headphones or a loudspeaker and press play again. Or ask a grown-up."));
 }
 
+TransportCommands::Timers TransportCommands::DisableTimers()
+{
+    const Timers wereRunning{playPosTimer.isActive(), titlePlay.DisableTrackTitlePlayTimer()};
+    playPosTimer.stop();
+    return wereRunning;
+}
+
+void TransportCommands::EnableTimers(const Timers& wereRunning)
+{
+    if (wereRunning.PlayPos)
+        EnablePlayPosTimer();
+    if (wereRunning.TrackTitlePlay)
+        EnableTrackTitlePlayTimer();
+}
+
+void TransportCommands::EndDemo()
+{
+    Guarded([] { Player().StopPlay(); });
+    PlayShared().DemoPlaying = false;
+    PlayShared().PlayingTrack = 0;
+    PlayIndicatorOff();
+    static_cast<void>(DisableTimers());
+}
+
 void TransportCommands::ShutSound()
 {
     // A driver that cannot be closed ends with the program.

@@ -37,6 +37,17 @@ public:
     void PlayTrackFrom(std::int32_t track, std::int32_t cell);
     void EnableTrackTitlePlayTimer() { titlePlay.EnableTrackTitlePlayTimer(); }
 
+    /// Which of its timers run.
+    struct Timers {
+        bool PlayPos = false;
+        bool TrackTitlePlay = false;
+    };
+    /// Switches the timers off before a demo; returns which ones were running.
+    [[nodiscard]] Timers DisableTimers();
+    void EnableTimers(const Timers& wereRunning);
+    /// After a demo: stops the player and the marker. The timers stay off; hover play begins again over a tune button.
+    void EndDemo();
+
     /// Closes the sound driver and releases the player, at the end of the program.
     static void ShutSound();
 

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/WaveData.h"
 #include "core/Song.h"
@@ -54,6 +55,11 @@ public:
     [[nodiscard]] virtual bool SaveSongAsSound(SoundFileKind /*kind*/) { return false; }
     /// Mails the shared song and shows all related messages. A mail program starts while the windows stay responsive.
     virtual void EmailSong() {}
+    /// The demos that can be watched, as a menu offers them; none if none is installed.
+    [[nodiscard]] virtual std::vector<std::string> DemoNames() { return {}; }
+    /// Shows the demo with this name modally. The user may go on to other demos.
+    virtual void ShowDemo(std::string_view /*name*/) {}
+
     /// Opens the help book beside the other windows; if it is open, brings it to the front.
     virtual void ShowHelp() {}
 
