@@ -2282,5 +2282,45 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <source>The sound is shorter than it says.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Space does what the picture asks for. The left and the right arrow key show the picture before and the next one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click to view other Demo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a menu of all demos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Demo: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This is the end of the demo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press Space to go on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look what happens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press Space to drag.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press Space to click.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 Picture %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

@@ -100,7 +100,7 @@ TEST_F(MainButtonsTest, HasTheTimerOfItsRaisedButtonsOffAtFirst)
     EXPECT_EQ(timer->interval(), 5000);
 }
 
-TEST_F(MainButtonsTest, TellsThatAButtonIsForLater)
+TEST_F(MainButtonsTest, TellsThatThereIsNoDemo)
 {
     for (const char* name : {"DemoBtn"}) {
         ShowHint(Words::AsIs("Before"));

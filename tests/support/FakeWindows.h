@@ -5,6 +5,8 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "ui/Windows.h"
 
@@ -24,12 +26,20 @@ public:
         return recordingWindow ? recordingWindow() : std::nullopt;
     }
     [[nodiscard]] bool EditTrack(std::int32_t track) override { return audioEditor && audioEditor(track); }
+    [[nodiscard]] std::vector<std::string> DemoNames() override { return demoNames; }
+    void ShowDemo(std::string_view name) override
+    {
+        if (demo)
+            demo(name);
+    }
 
     std::function<bool(Tune& tune, bool& newFlag)> tuneWindow;
     int tuneWindowsOpened = 0;
     std::function<bool(std::string& name)> beatWindow;
     std::function<std::optional<WaveData>()> recordingWindow;
     std::function<bool(std::int32_t track)> audioEditor;
+    std::vector<std::string> demoNames;
+    std::function<void(std::string_view name)> demo;
 };
 
 } // namespace sprout

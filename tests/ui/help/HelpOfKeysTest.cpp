@@ -28,6 +28,7 @@ const std::map<std::string, std::string> kHeadings{
     {"src/tune_window/StepKeys.cpp", "<h2>On the steps of a tune</h2>"},
     {"src/song_window/SongList.cpp", "<h2>In the list of songs</h2>"},
     {"src/song_window/SongSelFrm.cpp", "<h2>In the list of songs</h2>"},
+    {"src/demo/Demo_frm.cpp", "<h2>While you watch a demo</h2>"},
     {"src/recording/AudioEditFrm.cpp", "<h2>Where you edit your recording</h2>"},
     {"src/recording/WavePic.cpp", "<h2>Where you edit your recording</h2>"},
     {"src/ui/help/HelpFrm.cpp", "<h2>In this help</h2>"},
