@@ -12,6 +12,7 @@
 #include "pictures/ArtSheet.h"
 #include "pictures/BeatWindowSheets.h"
 #include "pictures/ButtonSheets.h"
+#include "pictures/DemoSheets.h"
 #include "pictures/EditorSheets.h"
 #include "pictures/FormSheet.h"
 #include "pictures/MainWindowSheets.h"
@@ -62,6 +63,7 @@ void DrawAllSheets(const QString& folder)
     sprout::DrawBeatWindowSheets(folder);
     sprout::DrawEditorSheets(folder);
     sprout::DrawRecordingSheets(folder);
+    sprout::DrawDemoSheets(folder);
 }
 
 } // namespace
