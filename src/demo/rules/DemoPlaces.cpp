@@ -42,12 +42,15 @@ int PixelAt(int value, int from, int to)
 
 DemoPlaces PlaceDemo(const BoxSize& picture, const BoxSize& room, const BoxSize& link)
 {
-    const BoxSize roomOfPicture{std::max(room.width - kBesidePicture, 1), std::max(room.height - kBelowPicture, 1)};
+    // On a small screen the margin below gives way before the picture is scaled and loses its sharpness.
+    const int leastBelow = std::min(link.height, kBelowPicture);
+    const BoxSize roomOfPicture{std::max(room.width - kBesidePicture, 1), std::max(room.height - leastBelow, 1)};
     const BoxSize shown = Fitted(picture, roomOfPicture);
+    const int below = std::clamp(room.height - shown.height, leastBelow, kBelowPicture);
     DemoPlaces places;
-    places.body = {std::max(shown.width + kBesidePicture, link.width + kBesideLink), shown.height + kBelowPicture};
+    places.body = {std::max(shown.width + kBesidePicture, link.width + kBesideLink), shown.height + below};
     places.picture = {(places.body.width - shown.width) / 2, 0, shown.width, shown.height};
-    places.link = {(places.body.width - link.width) / 2, shown.height + (kBelowPicture - link.height) / 2, link.width,
+    places.link = {(places.body.width - link.width) / 2, shown.height + (below - link.height) / 2, link.width,
                    link.height};
     return places;
 }

@@ -22,9 +22,18 @@ TEST(PlaceDemo, LeavesAMarginAroundThePicture)
 TEST(PlaceDemo, ShowsALargerPictureSmaller)
 {
     EXPECT_EQ(PlaceDemo({2552, 100}, kRoom, kLink).picture, (Box{2, 0, 1276, 50}));
-    EXPECT_EQ(PlaceDemo({100, 1478}, kRoom, kLink).picture, (Box{87, 0, 50, 739}));
+    EXPECT_EQ(PlaceDemo({100, 1478}, kRoom, kLink).picture, (Box{87, 0, 50, 749}));
     EXPECT_EQ(PlaceDemo({2552, 1478}, kRoom, kLink).body, (BoxSize{1280, 774}));
     EXPECT_EQ(PlaceDemo({1276, 739}, kRoom, kLink).picture, (Box{2, 0, 1276, 739}));
+}
+
+TEST(PlaceDemo, ShowsAPictureThatJustFitsAtItsSize)
+{
+    const DemoPlaces places = PlaceDemo({780, 540}, {800, 574}, kLink);
+    EXPECT_EQ(places.body, (BoxSize{784, 574}));
+    EXPECT_EQ(places.picture, (Box{2, 0, 780, 540}));
+    EXPECT_EQ(PlaceDemo({780, 549}, {800, 574}, kLink).picture, (Box{2, 0, 780, 549}));
+    EXPECT_EQ(PlaceDemo({780, 550}, {800, 574}, kLink).picture.height, 549);
 }
 
 TEST(PlaceDemo, HasRoomForTheLinkBelowASmallPicture)
