@@ -118,10 +118,12 @@ TEST_F(DemoPicTest, ShowsTheFocusOnceTheKeyboardHasBroughtIt)
 TEST_F(DemoPicTest, SpeaksANewInstructionAtOnce)
 {
     pic.setFocus();
+    QAccessible::setActive(true); // as with a running screen reader
     const QAccessible::UpdateHandler before = QAccessible::installUpdateHandler(CountFocusEvents);
     focusEvents = 0;
     pic.Speak(Words::AsIs("Click the flower."));
     QAccessible::installUpdateHandler(before);
+    QAccessible::setActive(false);
     EXPECT_EQ(pic.accessibleName(), QStringLiteral("Click the flower."));
     EXPECT_EQ(focusEvents, 1);
 }
