@@ -95,9 +95,9 @@ std::vector<std::string> ProgramWindows::DemoNames()
     return sprout::DemoNames();
 }
 
-void ProgramWindows::ShowDemo(std::string_view name)
+void ProgramWindows::ShowDemo(QWidget& owner, std::string_view name)
 {
-    Demo_frm(WindowInFront(), name).ShowModal();
+    Demo_frm(&owner, name).ShowModal();
 }
 
 void ProgramWindows::ShowHelp()

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] std::optional<std::string> ChooseNameToSave(QWidget& owner, std::string_view name) override;
     [[nodiscard]] bool SaveSongAsSound(SoundFileKind kind) override;
     [[nodiscard]] std::vector<std::string> DemoNames() override;
-    void ShowDemo(std::string_view name) override;
+    void ShowDemo(QWidget& owner, std::string_view name) override;
     void ShowHelp() override;
     void EmailSong() override;
     void StopEmailSong() override;

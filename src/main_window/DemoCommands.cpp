@@ -42,7 +42,7 @@ void DemoCommands::ChooseAndShow(QWidget& button, const std::vector<std::string>
         return;
     }
     // Whatever happens in the demo, the main window is as before afterwards.
-    Guarded([&] { TheWindows().ShowDemo(names[*chosen]); });
+    Guarded([&] { TheWindows().ShowDemo(*button.window(), names[*chosen]); });
     transport.EndDemo();
     tracks.EnableTuneNotFilledTimer();
 }

@@ -58,7 +58,7 @@ public:
     /// The demos that can be watched, as a menu offers them; none if none is installed.
     [[nodiscard]] virtual std::vector<std::string> DemoNames() { return {}; }
     /// Shows the demo with this name modally. The user may go on to other demos.
-    virtual void ShowDemo(std::string_view /*name*/) {}
+    virtual void ShowDemo(QWidget& /*owner*/, std::string_view /*name*/) {}
 
     /// Opens the help book beside the other windows; if it is open, brings it to the front.
     virtual void ShowHelp() {}

@@ -27,7 +27,7 @@ public:
     }
     [[nodiscard]] bool EditTrack(std::int32_t track) override { return audioEditor && audioEditor(track); }
     [[nodiscard]] std::vector<std::string> DemoNames() override { return demoNames; }
-    void ShowDemo(std::string_view name) override
+    void ShowDemo(QWidget& /*owner*/, std::string_view name) override
     {
         if (demo)
             demo(name);
