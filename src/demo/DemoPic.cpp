@@ -21,6 +21,7 @@ DemoPic::DemoPic(QWidget* parent) : QWidget(parent)
 {
     setObjectName(QStringLiteral("DemoImages"));
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true); // a move without a button tells that the button was lost
     SetSpokenRole(*this, QAccessible::Graphic);
 }
 

@@ -132,13 +132,6 @@ TEST_F(DemoCommandsTest, EndsWhatTheDemoHasPlayed)
     EXPECT_EQ(RunningTimers(), "nny");
 }
 
-TEST_F(DemoCommandsTest, PlaysUnderThePointerAgainAfterTheDemo)
-{
-    PickFirst();
-    HoverPicture(1);
-    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive());
-}
-
 TEST_F(DemoCommandsTest, EndsADemoThatFailsToo)
 {
     windows.demo = [this](std::string_view) {
