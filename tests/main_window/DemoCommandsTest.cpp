@@ -132,6 +132,36 @@ TEST_F(DemoCommandsTest, EndsWhatTheDemoHasPlayed)
     EXPECT_EQ(RunningTimers(), "nny");
 }
 
+TEST_F(DemoCommandsTest, PlaysOnHoverAfterADemoAsBefore)
+{
+    const auto hoverPlay = [this] {
+        HoverPicture(2);
+        QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(5, 5));
+        QTest::mouseMove(&Part("TrackTuneBtn"), QPoint(7, 7));
+        EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive());
+        sound.calls.clear();
+        Tick("TrackTitlePlayTimer");
+        EXPECT_TRUE(SoundStarted());
+        EXPECT_EQ(FramesPlayed(), song.Tracks[2].TrackTune.TuneWave.Length);
+        return Status() + " " + std::to_string(Timer("TrackTitlePlayTimer").interval());
+    };
+    const std::string before = hoverPlay();
+    EXPECT_EQ(before, "Playing Star 4000");
+    Paint(1, 1, 4);
+    transport.PlayAllBtn();
+    windows.demo = [this](std::string_view) {
+        play.DemoPlaying = true;
+        PlayWaveStatus(CountingWave(300), Words::Text("Playing Tune"), Loop::No);
+    };
+    PickFirst();
+    EXPECT_FALSE(Timer("TrackTitlePlayTimer").isActive()) << "the next move of the mouse starts it";
+    EXPECT_EQ(hoverPlay(), before);
+    Timer("TrackTitlePlayTimer").stop();
+    QTest::mousePress(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+    EXPECT_TRUE(Timer("TrackTitlePlayTimer").isActive()) << "or a stroke";
+    QTest::mouseRelease(&Part("TrackPic"), Qt::LeftButton, {}, CellPlace(2, 10));
+}
+
 TEST_F(DemoCommandsTest, EndsADemoThatFailsToo)
 {
     windows.demo = [this](std::string_view) {
