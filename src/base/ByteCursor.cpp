@@ -3,43 +3,51 @@
 
 #include <algorithm>
 #include <cstring>
+#include <optional>
 #include <system_error>
+#include <utility>
 
 #include "base/Errors.h"
+#include "base/Parallel.h"
+#include "posix/FileReading.h"
 
 namespace sprout {
 
 namespace {
 
-constexpr std::size_t kBufferBytes = 8192; // the head and the picture of a tune, enough for a list of tunes
+constexpr std::size_t kBufferBytes = 8192;           // the head and the picture of a tune, enough for a list of tunes
+constexpr std::size_t kPieceBytes = 4 * 1024 * 1024; // two large pages
 
-}
-
-FileSource::FileSource(const std::filesystem::path& path)
+Descriptor Opened(const std::filesystem::path& path)
 {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
         throw RunTimeError(Words::Text("The file %1 was not found.", path.native()));
-    file.pubsetbuf(nullptr, 0); // the cursor has its own buffer
-    if (!file.open(path, std::ios::in | std::ios::binary))
+    std::optional<Descriptor> file = OpenForReading(path);
+    if (!file)
         throw RunTimeError(Words::Text("The file %1 could not be opened.", path.native()));
-    const auto end = file.pubseekoff(0, std::ios::end);
-    if (end < 0)
+    return std::move(*file);
+}
+
+} // namespace
+
+FileSource::FileSource(const std::filesystem::path& path) : file(Opened(path))
+{
+    const std::optional<std::uint64_t> end = SizeOf(file);
+    if (!end)
         throw RunTimeError(Words::Text("The file %1 could not be read.", path.native()));
-    size = static_cast<std::uint64_t>(static_cast<std::streamoff>(end));
+    size = *end;
 }
 
 void FileSource::Read(std::uint64_t offset, std::span<std::byte> bytes)
 {
     if (offset > size || bytes.size() > size - offset)
         throw RunTimeError(Words::Text("The file is too short."));
-    const auto place = static_cast<std::streamoff>(offset);
-    if (std::streamoff(file.pubseekpos(place, std::ios::in)) != place)
-        throw RunTimeError(Words::Text("The file could not be read."));
-    const auto count = static_cast<std::streamsize>(bytes.size());
-    // The stream reads bytes as its characters.
-    if (file.sgetn(reinterpret_cast<char*>(bytes.data()), count) != count)
-        throw RunTimeError(Words::Text("The file could not be read to its end."));
+    ParallelFor((bytes.size() + kPieceBytes - 1) / kPieceBytes, [&](std::size_t piece) {
+        const std::size_t begin = piece * kPieceBytes;
+        if (!ReadAt(file, offset + begin, bytes.subspan(begin, std::min(kPieceBytes, bytes.size() - begin))))
+            throw RunTimeError(Words::Text("The file could not be read to its end."));
+    });
 }
 
 void MemorySource::Read(std::uint64_t offset, std::span<std::byte> bytes)

@@ -4,11 +4,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <span>
 #include <string>
 #include <vector>
+
+#include "posix/Descriptor.h"
 
 namespace sprout {
 
@@ -25,7 +26,8 @@ public:
     virtual void Read(std::uint64_t offset, std::span<std::byte> bytes) = 0;
 };
 
-/// A file, open as long as the object lives.
+/// A file, open as long as the object lives. All cores read a large piece, because most of the time goes into the first
+/// touch of the memory for it.
 class FileSource : public ByteSource {
 public:
     /// Throws `RunTimeError` if the path is not a plain file or cannot be read.
@@ -35,7 +37,7 @@ public:
     void Read(std::uint64_t offset, std::span<std::byte> bytes) override;
 
 private:
-    std::filebuf file;
+    Descriptor file;
     std::uint64_t size = 0;
 };
 
