@@ -99,7 +99,7 @@ void PulseSound::OnAnswered(TimingQuestion question, const StreamTiming& timing)
     case TimingQuestion::AtStop:
         return heard.DeviceStopped(timing.Taken);
     case TimingQuestion::AtEnd:
-        return Follow();
+        Follow();
     }
 }
 
