@@ -48,6 +48,7 @@ std::vector<std::byte> BytesOfFile(const fs::path& path)
 
 void PutBeatFile(const fs::path& target, const fs::path& source)
 {
+    RequireOwnFile(target);
     const std::vector<std::byte> bytes = BytesOfFile(source);
     const std::span<const std::byte> piece(bytes);
     TheServices().files->ReplaceFile(target, {&piece, 1}, Flush::Yes);
@@ -81,6 +82,7 @@ void RenameBeatFile(const fs::path& from, const fs::path& to)
     const fs::path taken = FindFile(to);
     if (!taken.empty() && !fs::equivalent(taken, source))
         throw RunTimeError(Words::Text("The file %1 already exists.", PathText(taken.filename())));
+    RequireOwnFile(source);
     fs::rename(source, to);
 }
 

@@ -29,6 +29,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
+/// A file beside the program that `cmake --install` puts there. A link or a folder might also be there in a copy that
+/// somebody made to carry around; this file says nothing else, and an administrator can read it.
+constexpr std::string_view kInstalledMark = "installed";
+
 /// False for a blank path or one with a zero byte: the system would read up to there and find another file.
 bool NamesAnything(const fs::path& path)
 {
@@ -88,6 +92,44 @@ void MakeUserFolderAgain(const fs::path& folder)
             Words::Text("The folder %1 could not be made again: %2.", PathText(folder), error.message()));
 }
 
+/// Only by their texts: a folder that is linked into another one is not in it.
+bool LiesIn(const fs::path& file, const fs::path& folder)
+{
+    if (folder.empty())
+        return false;
+    const fs::path path = file.lexically_normal();
+    const fs::path outer = AsFolder(folder).lexically_normal();
+    return path.native().starts_with(outer.native());
+}
+
+/// The program's settings file in a folder where programs keep settings; empty without a folder.
+fs::path SettingsFileIn(const fs::path& configFolder)
+{
+    return configFolder.empty() ? fs::path() : configFolder / "sprout-painter" / "sprout-painter.ini";
+}
+
+/// The user's own settings are beside the program if they can be: a copy that is carried around takes them along.
+void FindSettingsFiles(const fs::path& program)
+{
+    SharedState& shared = Shared();
+    shared.ProgramSettingsFile = shared.ProgramFolder / (program.stem().native() + ".ini");
+    shared.MachineSettingsFile = SettingsFileIn(TheServices().machine->ConfigFolder());
+    const bool isOwnCopy = !shared.IsInstalled && TheServices().files->MayChangeFolder(shared.ProgramFolder);
+    shared.SettingsFile =
+        isOwnCopy ? shared.ProgramSettingsFile : SettingsFileIn(TheServices().desktop->ConfigFolder());
+}
+
+/// `TempPath`, or what replaces it if it is no folder.
+fs::path UsableTempFolder()
+{
+    fs::path temp = TheServices().machine->TempPath();
+    if (!temp.has_filename())
+        temp = temp.parent_path();
+    if (!Trim(temp.native()).empty() && IsFolder(temp))
+        return temp;
+    return Shared().IsInstalled ? TheServices().machine->CommonTempPath() : Shared().ProgramFolder;
+}
+
 } // namespace
 
 fs::path FindFile(const fs::path& path)
@@ -113,7 +155,7 @@ bool DeleteFile(const fs::path& path)
     if (!NamesAnything(path))
         return true;
     std::error_code error;
-    if (IsPlainFile(path))
+    if (IsPlainFile(path) && !IsOfInstallation(path))
         fs::remove(path, error);
     return !fs::exists(fs::symlink_status(path, error));
 }
@@ -152,8 +194,21 @@ bool CopyFolder(const fs::path& source, const fs::path& destination)
     return isCopied;
 }
 
+bool IsOfInstallation(const fs::path& file)
+{
+    const SharedState& shared = Shared();
+    return LiesIn(file, shared.InstallRoot) || (shared.IsInstalled && LiesIn(file, shared.ProgramFolder));
+}
+
+void RequireOwnFile(const fs::path& file)
+{
+    if (IsOfInstallation(file))
+        throw RunTimeError(Words::Text("The file %1 may not be changed.", PathText(file)));
+}
+
 void PrepareToReplace(const fs::path& file)
 {
+    RequireOwnFile(file);
     MakeUserFolderAgain(file.parent_path());
     if (!TheServices().files->MayBeReplaced(file))
         throw RunTimeError(Words::Text("The file %1 may not be changed.", PathText(file)));
@@ -164,11 +219,9 @@ void FindTempFolder()
     SharedState& shared = Shared();
     const fs::path program = TheServices().machine->ExecutablePath();
     shared.ProgramFolder = program.parent_path();
-    shared.SettingsFile = shared.ProgramFolder / (program.stem().native() + ".ini");
-    fs::path temp = TheServices().machine->TempPath();
-    if (!temp.has_filename())
-        temp = temp.parent_path();
-    shared.TempFolder = Trim(temp.native()).empty() || !IsFolder(temp) ? shared.ProgramFolder : temp;
+    shared.IsInstalled = IsPlainFile(shared.ProgramFolder / kInstalledMark);
+    FindSettingsFiles(program);
+    shared.TempFolder = UsableTempFolder();
 }
 
 void SetUserRoot(const fs::path& root)

@@ -16,8 +16,8 @@ namespace sprout {
 [[nodiscard]] bool FileExists(const std::filesystem::path& path);
 
 /// Deletes the plain file with exactly this name, or the link to one; leaves a file whose name differs in letter case,
-/// and anything that is not a file. True if the path is blank, did not exist or no longer exists; false if it still
-/// does. Never throws.
+/// anything that is not a file, and what `IsOfInstallation`. True if the path is blank, did not exist or no longer
+/// exists; false if it still does. Never throws.
 bool DeleteFile(const std::filesystem::path& path);
 
 /// A free path for a temporary file in `TempFolder`. Stale files of the pattern found on the way are deleted; those
@@ -36,11 +36,21 @@ void OpenWithShell(std::string_view target);
 /// false.
 bool CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
 
+/// True if a path lies in the folder of the files installed with the program, or beside an installed program. The
+/// program never changes anything there, even if the user might.
+[[nodiscard]] bool IsOfInstallation(const std::filesystem::path& file);
+
+/// Throws `RunTimeError` with a plain sentence for a file that `IsOfInstallation`.
+void RequireOwnFile(const std::filesystem::path& file);
+
 /// Prepares to replace or create a file: recreates a missing folder of the user's. Throws `RunTimeError` with a plain
-/// sentence if the user may not change the file, or if the folder cannot be created.
+/// sentence if the user may not change the file, if it `IsOfInstallation`, or if the folder cannot be created.
 void PrepareToReplace(const std::filesystem::path& file);
 
-/// Sets `ProgramFolder`, `SettingsFile` and `TempFolder`.
+/// Sets `ProgramFolder`, `IsInstalled`, the settings files and `TempFolder`.
+///
+/// The program is installed if a file named "installed" is beside it. Its settings, and those of a program in a folder
+/// that its user may not change, are in the desktop's folder for settings; otherwise they are beside the program.
 void FindTempFolder();
 
 /// Sets the folders under `UserRoot`.

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <mutex>
 #include <optional>
+#include <system_error>
 #include <vector>
 
 #include "base/Errors.h"
@@ -19,33 +20,64 @@ namespace sprout {
 
 namespace {
 
-/// The settings file as last read. Each use checks whether the file has changed.
-class SettingsRead {
+/// A settings file as last read. Each use checks whether it has changed.
+class KeptFile {
 public:
-    std::string Value(std::string_view section, std::string_view key, std::string_view fallback)
+    const IniFile& Read(const std::filesystem::path& path)
     {
-        const std::lock_guard lock(mutex);
-        const std::filesystem::path found = FindFile(Shared().SettingsFile);
+        const std::filesystem::path found = FindFile(path);
         const std::optional<FileFacts> now = found.empty() ? std::nullopt : TheServices().files->FactsOf(found);
         if (!now || now != facts || found != file) {
             ini = IniFile::Read(found);
             facts = now;
             file = found;
         }
-        return ini.Value(section, key, fallback);
+        return ini;
+    }
+
+    void Forget() { facts.reset(); }
+
+private:
+    std::filesystem::path file;
+    std::optional<FileFacts> facts; // taken before the file was read
+    IniFile ini;
+};
+
+/// The settings files, the one that counts most first.
+class SettingsRead {
+public:
+    std::string Value(std::string_view section, std::string_view key, std::string_view fallback)
+    {
+        const std::lock_guard lock(mutex);
+        const IniFile& forAll = machine.Read(Shared().MachineSettingsFile);
+        if (forAll.Has(kLockedSection, key))
+            return forAll.Value(kLockedSection, key, fallback);
+        const IniFile& own = user.Read(Shared().SettingsFile);
+        if (own.Has(section, key))
+            return own.Value(section, key, fallback);
+        if (forAll.Has(section, key))
+            return forAll.Value(section, key, fallback);
+        return program.Read(Shared().ProgramSettingsFile).Value(section, key, fallback);
+    }
+
+    bool IsLocked(std::string_view key)
+    {
+        const std::lock_guard lock(mutex);
+        return machine.Read(Shared().MachineSettingsFile).Has(kLockedSection, key);
     }
 
     void Forget()
     {
         const std::lock_guard lock(mutex);
-        facts.reset();
+        user.Forget();
+        program.Forget();
     }
 
 private:
     std::mutex mutex;
-    std::filesystem::path file;
-    std::optional<FileFacts> facts; // taken before the file was read
-    IniFile ini;
+    KeptFile machine;
+    KeptFile user;
+    KeptFile program;
 };
 
 SettingsRead& TheSettings()
@@ -57,6 +89,13 @@ SettingsRead& TheSettings()
 std::string_view NamedSection(std::string_view section)
 {
     return Trim(section).empty() ? kGeneralSection : section;
+}
+
+/// A new user has no folder for settings yet. If it cannot be created, nor can the file.
+void MakeFolderOf(const std::filesystem::path& file)
+{
+    std::error_code error;
+    std::filesystem::create_directories(file.parent_path(), error);
 }
 
 void ReadColour(std::string_view key, std::int32_t& colour)
@@ -89,12 +128,14 @@ bool IsSetToOne(std::string_view key)
 void PutSettings(std::string_view section, std::initializer_list<IniValue> values)
 {
     // A blank key would delete the section; a setting without a name is ignored.
-    std::vector<IniValue> named;
-    std::copy_if(values.begin(), values.end(), std::back_inserter(named),
-                 [](const IniValue& value) { return !Trim(value.key).empty(); });
-    if (named.empty())
+    std::vector<IniValue> allowed;
+    std::copy_if(values.begin(), values.end(), std::back_inserter(allowed),
+                 [](const IniValue& value) { return !Trim(value.key).empty() && !TheSettings().IsLocked(value.key); });
+    const std::filesystem::path& file = Shared().SettingsFile;
+    if (allowed.empty() || file.empty())
         return;
-    PutIniValues(NamedSection(section), named, Shared().SettingsFile);
+    MakeFolderOf(file);
+    PutIniValues(NamedSection(section), allowed, file);
     TheSettings().Forget();
 }
 

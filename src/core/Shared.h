@@ -70,9 +70,16 @@ struct SharedState {
     Picture NewTunePicture;     ///< of a tune made in the tune window
 
     // Folders. Those in the second and third line end in a separator.
-    std::filesystem::path ProgramFolder, TempFolder, SettingsFile, DocumentsFolder, UserRoot;
+    std::filesystem::path ProgramFolder, TempFolder, DocumentsFolder, UserRoot;
     std::filesystem::path InstallRoot, InstallBeats, InstallTunes, InstallStars, InstallSongs, DemoImages;
     std::filesystem::path UserBeats, UserTunes, UserStars, UserSongs;
+
+    bool IsInstalled = false; ///< for all users of the machine: the program never writes beside itself
+
+    // The settings files; an empty path names none. Only the first one is ever written.
+    std::filesystem::path SettingsFile;        ///< the user's
+    std::filesystem::path MachineSettingsFile; ///< the administrator's, for all users
+    std::filesystem::path ProgramSettingsFile; ///< beside the program; may be the user's
 };
 
 /// The one shared instance.

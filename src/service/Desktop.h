@@ -21,6 +21,8 @@ public:
 
     /// The user's documents folder, created if missing; empty if there is none and none can be created.
     [[nodiscard]] virtual std::filesystem::path DocumentsFolder() const = 0;
+    /// The folder in which the user's programs keep their settings; may be missing. Empty if there is none.
+    [[nodiscard]] virtual std::filesystem::path ConfigFolder() const = 0;
     /// Opens a file or an address with the desktop's program for it. Errors are ignored.
     virtual void OpenWithShell(std::string_view target) = 0;
     /// Starts the desktop's own volume control or its sound settings. Returns an empty list if one was started,

@@ -86,6 +86,9 @@ public:
     /// may change. Links are followed.
     [[nodiscard]] virtual bool MayBeReplaced(const std::filesystem::path& target) const = 0;
 
+    /// True if the user may create and delete files in a folder, or if the system does not tell. Links are followed.
+    [[nodiscard]] virtual bool MayChangeFolder(const std::filesystem::path& /*folder*/) const { return true; }
+
     /// Waits until no other running program holds a file in the same folder, then holds it against others that call
     /// this. Null if the system has no locks, or if another program holds one for seconds.
     [[nodiscard]] virtual std::unique_ptr<FileHold> HoldForChange(const std::filesystem::path& /*file*/)

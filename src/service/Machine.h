@@ -24,7 +24,11 @@ public:
     [[nodiscard]] virtual MemoryStatus GlobalMemoryStatus() const = 0;
     /// The machine's folder for temporary files; may be missing.
     [[nodiscard]] virtual std::filesystem::path TempPath() const = 0;
-    /// The running program's file.
+    /// The folder for temporary files that every machine of this kind has, whatever `TempPath` names.
+    [[nodiscard]] virtual std::filesystem::path CommonTempPath() const = 0;
+    /// The folder in which the machine's administrator keeps settings for all users; may be missing.
+    [[nodiscard]] virtual std::filesystem::path ConfigFolder() const = 0;
+    /// The running program's file, through links.
     [[nodiscard]] virtual std::filesystem::path ExecutablePath() const = 0;
     /// Bytes that the user may still fill on the volume of `path`; 0 if this is unknown.
     [[nodiscard]] virtual std::uint64_t FreeBytes(const std::filesystem::path& path) const = 0;

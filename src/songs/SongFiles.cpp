@@ -36,6 +36,7 @@ fs::path FreePlaceBeside(const SongFile& song, std::string_view newName)
         throw RunTimeError(Words::Text("This cannot be the name of a song."));
     if (IsTaken(place))
         throw RunTimeError(Words::Text("There is another file with this name."));
+    RequireOwnFile(place);
     return place;
 }
 

@@ -5,7 +5,6 @@
 #include <functional>
 #include <span>
 #include <string_view>
-#include <system_error>
 
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
@@ -91,8 +90,7 @@ std::vector<std::string> TakeKeptSongs()
         std::string name = note.Name.substr(1);
         if (FileExists(SongPath(name)))
             names.push_back(std::move(name));
-        std::error_code error;
-        fs::remove(note.Path, error);
+        DeleteFile(note.Path);
     }
     return names;
 }

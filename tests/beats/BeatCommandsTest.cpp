@@ -184,6 +184,17 @@ TEST_F(BeatCommandsTest, DeletesBothFilesWhateverTheirLetterCase)
     EXPECT_EQ(FilesOfUserBeats(), "stays.bmp stays.wav ");
 }
 
+TEST_F(BeatCommandsTest, ChangeNothingThatIsInstalled)
+{
+    MakeBeat("drum", 10);
+    WriteBytes(Chosen("Bell.wav"), "wave");
+    Shared().InstallRoot = Shared().UserBeats.parent_path();
+    EXPECT_THROW(AddBeatFiles(Chosen("Bell.wav"), AnyPicture(), "Bell.wav"), RunTimeError);
+    EXPECT_THROW(RenameBeatFiles("drum", "bell"), RunTimeError);
+    DeleteBeatFiles("drum");
+    EXPECT_EQ(FilesOfUserBeats(), "drum.bmp drum.wav ");
+}
+
 TEST(SecondsText, HasFifteenDigitsAndNoneThatAreNotNeeded)
 {
     EXPECT_EQ(SecondsText(10), "10");

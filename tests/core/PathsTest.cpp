@@ -6,8 +6,11 @@
 #include <cstdlib>
 #include <ctime>
 
+#include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "core/Shared.h"
 #include "support/FakeServices.h"
+#include "support/UnchangeableFolder.h"
 
 namespace sprout {
 namespace {
@@ -161,6 +164,103 @@ TEST_F(Paths, FindTheProgramsFoldersAndSettings)
         FindTempFolder();
         EXPECT_EQ(Shared().TempFolder, In("program")) << bad;
     }
+}
+
+/// A program with places for its settings beside it, in the user's home and in the machine's folder.
+class PathsOfSettings : public Paths {
+protected:
+    PathsOfSettings()
+    {
+        fake.machine.executable = In("program/sprout-painter");
+        fake.machine.temp = In("temp");
+        fake.machine.commonTemp = In("common");
+        fake.machine.config = In("etc");
+        fake.desktop.config = In("home/.config");
+    }
+
+    [[nodiscard]] fs::path Users() const { return In("home/.config/sprout-painter/sprout-painter.ini"); }
+    void Install() const { WriteBytes(In("program/installed"), "installed"); }
+};
+
+TEST_F(PathsOfSettings, StayBesideAProgramThatIsCarriedAround)
+{
+    FindTempFolder();
+    EXPECT_FALSE(Shared().IsInstalled);
+    EXPECT_EQ(Shared().SettingsFile, In("program/sprout-painter.ini"));
+    EXPECT_EQ(Shared().ProgramSettingsFile, Shared().SettingsFile);
+    EXPECT_EQ(Shared().MachineSettingsFile, In("etc/sprout-painter/sprout-painter.ini"));
+}
+
+TEST_F(PathsOfSettings, AreTheDesktopsForAnInstalledProgram)
+{
+    Install();
+    FindTempFolder();
+    EXPECT_TRUE(Shared().IsInstalled);
+    EXPECT_EQ(Shared().SettingsFile, Users());
+    EXPECT_EQ(Shared().ProgramSettingsFile, In("program/sprout-painter.ini"));
+    EXPECT_EQ(Shared().MachineSettingsFile, In("etc/sprout-painter/sprout-painter.ini"));
+    fs::remove(In("program/installed"));
+    FindTempFolder();
+    EXPECT_FALSE(Shared().IsInstalled);
+}
+
+TEST_F(PathsOfSettings, AreTheDesktopsWhereTheProgramsFolderMayNotBeChanged)
+{
+    const UnchangeableFolder locked(In("program"));
+    FindTempFolder();
+    EXPECT_FALSE(Shared().IsInstalled);
+    EXPECT_EQ(Shared().SettingsFile, Users());
+}
+
+TEST_F(PathsOfSettings, AreNowhereWithoutAHome)
+{
+    Install();
+    fake.desktop.config.clear();
+    fake.machine.config.clear();
+    FindTempFolder();
+    EXPECT_TRUE(Shared().SettingsFile.empty());
+    EXPECT_TRUE(Shared().MachineSettingsFile.empty());
+}
+
+TEST_F(PathsOfSettings, LeadAnInstalledProgramWithoutATempFolderToTheCommonOne)
+{
+    Install();
+    for (const fs::path& bad : {In("missing"), In("program/installed"), fs::path()}) {
+        fake.machine.temp = bad;
+        FindTempFolder();
+        EXPECT_EQ(Shared().TempFolder, In("common")) << bad;
+    }
+    fake.machine.temp = In("temp");
+    FindTempFolder();
+    EXPECT_EQ(Shared().TempFolder, In("temp"));
+}
+
+TEST_F(Paths, ChangeNothingThatIsInstalled)
+{
+    Shared().InstallRoot = AsFolder(In("program/Sprout"));
+    fs::create_directories(In("program/Sprout/Songs"));
+    const fs::path song = In("program/Sprout/Songs/Zumi.TqSng");
+    WriteBytes(song, "zumi");
+    EXPECT_TRUE(IsOfInstallation(song));
+    EXPECT_TRUE(IsOfInstallation(In("program/./Sprout//Songs/New.TqSng")));
+    EXPECT_FALSE(DeleteFile(song));
+    EXPECT_EQ(ReadBytes(song), "zumi");
+    EXPECT_THROW(PrepareToReplace(song), RunTimeError);
+    EXPECT_THROW(PrepareToReplace(In("program/Sprout/Songs/New.TqSng")), RunTimeError);
+    EXPECT_THROW(RequireOwnFile(song), RunTimeError);
+    for (const fs::path& own : {In("program/Sprouts/a"), In("program/Sprout/../a"), In("program/a"), In("a")})
+        EXPECT_NO_THROW(RequireOwnFile(own)) << own;
+}
+
+TEST_F(Paths, ChangeNothingBesideAnInstalledProgram)
+{
+    Shared().ProgramFolder = In("program");
+    const fs::path file = In("program/sprout-painter.ini");
+    EXPECT_FALSE(IsOfInstallation(file));
+    Shared().IsInstalled = true;
+    EXPECT_TRUE(IsOfInstallation(file));
+    EXPECT_THROW(PrepareToReplace(file), RunTimeError);
+    EXPECT_FALSE(IsOfInstallation(In("programs/a")));
 }
 
 TEST_F(Paths, StampFilesInLocalTime)

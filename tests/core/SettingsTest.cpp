@@ -166,5 +166,105 @@ TEST_F(Settings, ReadsEachColourFromItsOwnKey)
     EXPECT_EQ(colours.PlayPosIndiColor, 7);
 }
 
+/// Settings of the administrator, the user and the program's own folder.
+class SettingsOfThree : public Settings {
+protected:
+    SettingsOfThree()
+    {
+        Shared().MachineSettingsFile = fake.folder.Path() / "etc.ini";
+        Shared().ProgramSettingsFile = fake.folder.Path() / "beside.ini";
+        Shared().SettingsFile = fake.folder.Path() / "home" / "config" / "user.ini";
+    }
+
+    static void WriteForAll(const std::string& bytes) { WriteBytes(Shared().MachineSettingsFile, bytes); }
+    static void WriteBeside(const std::string& bytes) { WriteBytes(Shared().ProgramSettingsFile, bytes); }
+};
+
+TEST_F(SettingsOfThree, AreReadFromTheUserThenForAllThenBesideTheProgram)
+{
+    WriteBeside("[s]\r\nk=beside\r\n");
+    EXPECT_EQ(GetSetting("s", "k", "none"), "beside");
+    WriteForAll("[s]\r\nk=all\r\n");
+    EXPECT_EQ(GetSetting("s", "k", "none"), "all");
+    PutSetting("s", "k", "user");
+    EXPECT_EQ(GetSetting("s", "k", "none"), "user");
+    EXPECT_EQ(GetSetting("s", "l", "none"), "none");
+}
+
+TEST_F(SettingsOfThree, AreLockedWhateverTheUserHas)
+{
+    PutSetting("General", "HideEmail", "0");
+    PutSetting("MainWindow", "FollowPlay", "0");
+    WriteForAll("[General]\r\nHideEmail=2\r\n[locked]\r\nhideemail=1\r\nFollowPlay=3\r\n");
+    EXPECT_EQ(GetSetting("General", "HideEmail", ""), "1");
+    EXPECT_EQ(GetSetting("MainWindow", "FollowPlay", ""), "3");
+    EXPECT_TRUE(IsSetToOne("HideEmail"));
+}
+
+TEST_F(SettingsOfThree, AreNotWrittenWhereTheyAreLocked)
+{
+    WriteForAll("[Locked]\r\nWindowState=2\r\n");
+    PutSettings("MainWindow", {{"WindowState", "0"}, {"Size", "1,2"}});
+    EXPECT_EQ(ReadBytes(Shared().SettingsFile), "[MainWindow]\r\nSize=1,2\r\n");
+    PutSetting("MainWindow", "windowstate", "0");
+    EXPECT_EQ(ReadBytes(Shared().SettingsFile), "[MainWindow]\r\nSize=1,2\r\n");
+}
+
+TEST_F(SettingsOfThree, AreLockedByTheAdministratorAlone)
+{
+    WriteBeside("[Locked]\r\nk=beside\r\n");
+    PutSetting("Locked", "k", "user");
+    EXPECT_EQ(GetSetting("General", "k", "none"), "none");
+    PutSetting("General", "k", "1");
+    EXPECT_EQ(GetSetting("General", "k", "none"), "1");
+}
+
+TEST_F(SettingsOfThree, AreWrittenOnlyForTheUser)
+{
+    WriteBeside("[s]\r\nk=beside\r\n");
+    WriteForAll("[s]\r\nk=all\r\n");
+    PutSetting("s", "k", "user");
+    EXPECT_EQ(ReadBytes(Shared().SettingsFile), "[s]\r\nk=user\r\n");
+    EXPECT_EQ(ReadBytes(Shared().MachineSettingsFile), "[s]\r\nk=all\r\n");
+    EXPECT_EQ(ReadBytes(Shared().ProgramSettingsFile), "[s]\r\nk=beside\r\n");
+}
+
+TEST_F(SettingsOfThree, AreForgottenWhereTheUserHasNoPlaceForThem)
+{
+    Shared().SettingsFile.clear();
+    const std::filesystem::path before = std::filesystem::current_path();
+    std::filesystem::create_directory(fake.folder.Path() / "here");
+    std::filesystem::current_path(fake.folder.Path() / "here");
+    PutSetting("s", "k", "1");
+    const bool isEmpty = std::filesystem::is_empty(fake.folder.Path() / "here");
+    std::filesystem::current_path(before);
+    EXPECT_TRUE(isEmpty);
+    EXPECT_EQ(GetSetting("s", "k", "none"), "none");
+}
+
+TEST_F(SettingsOfThree, FallBackToTheOthersWhereTheUsersCannotBeRead)
+{
+    WriteForAll("[s]\r\nk=all\r\n");
+    std::filesystem::create_directories(Shared().SettingsFile.parent_path());
+    const std::string tooLarge = "[s]\r\nk=user\r\n" + std::string(kMostIniBytes, ';');
+    Write(tooLarge);
+    EXPECT_EQ(GetSetting("s", "k", "none"), "all");
+    PutSetting("s", "k", "new");
+    EXPECT_EQ(ReadBytes(Shared().SettingsFile), tooLarge) << "it is not replaced";
+}
+
+TEST_F(SettingsOfThree, SeeWhatChangesInEachFile)
+{
+    std::filesystem::create_directories(Shared().SettingsFile.parent_path());
+    for (const char* value : {"1", "22", "333"}) {
+        const std::string text = std::string("=") + value + "\r\n";
+        WriteForAll("[Locked]\r\na" + text + "[s]\r\nc" + text);
+        PutIniValue("s", "b", value, Shared().SettingsFile);
+        WriteBeside("[s]\r\nd" + text);
+        for (const char* key : {"a", "b", "c", "d"})
+            EXPECT_EQ(GetSetting("s", key, "none"), value) << key;
+    }
+}
+
 } // namespace
 } // namespace sprout

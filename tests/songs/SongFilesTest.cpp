@@ -167,6 +167,17 @@ TEST_F(SongFilesTest, DeletingASongThatIsGoneLeavesOneOfAnotherCase)
     EXPECT_THAT(Names(), ElementsAre("ZUMI"));
 }
 
+TEST_F(SongFilesTest, StayAsTheyAreWhereTheyAreInstalled)
+{
+    Put("Zumi.TqSng");
+    Shared().InstallRoot = folder;
+    const SongFile song{"Zumi", folder / "Zumi.TqSng"};
+    EXPECT_THROW(CopySong(song, "Another"), RunTimeError);
+    EXPECT_THROW(RenameSong(song, "Another"), RunTimeError);
+    EXPECT_THROW(DeleteSong(song), RunTimeError);
+    EXPECT_THAT(Names(), ElementsAre("Zumi"));
+}
+
 TEST_F(SongFilesTest, DeletingAFileThatStaysIsAnError)
 {
     EXPECT_THROW(DeleteSong({"version", "/proc/version"}), RunTimeError); // nobody can delete that file

@@ -80,11 +80,15 @@ class FakeMachine : public Machine {
 public:
     [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override { return memory; }
     [[nodiscard]] std::filesystem::path TempPath() const override { return temp; }
+    [[nodiscard]] std::filesystem::path CommonTempPath() const override { return commonTemp; }
+    [[nodiscard]] std::filesystem::path ConfigFolder() const override { return config; }
     [[nodiscard]] std::filesystem::path ExecutablePath() const override { return executable; }
     [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path&) const override { return freeBytes; }
 
     MemoryStatus memory;
     std::filesystem::path temp;
+    std::filesystem::path commonTemp;
+    std::filesystem::path config;
     std::filesystem::path executable;
     std::uint64_t freeBytes = 0;
 };
@@ -92,6 +96,7 @@ public:
 class FakeDesktop : public Desktop {
 public:
     [[nodiscard]] std::filesystem::path DocumentsFolder() const override { return documents; }
+    [[nodiscard]] std::filesystem::path ConfigFolder() const override { return config; }
     void OpenWithShell(std::string_view target) override { opened.emplace_back(target); }
     [[nodiscard]] std::vector<std::string> OpenSoundControl(SoundControl control) override
     {
@@ -100,6 +105,7 @@ public:
     }
 
     std::filesystem::path documents;
+    std::filesystem::path config;
     std::vector<std::string> opened;
     std::vector<SoundControl> soundControls;
     std::vector<std::string> missingControls; ///< names of programs that were searched for and not found

@@ -94,6 +94,12 @@ bool PosixFiles::MayBeReplaced(const fs::path& target) const
     return S_ISREG(facts.st_mode) && MayWrite(file) && MayWrite(FolderOf(file));
 }
 
+bool PosixFiles::MayChangeFolder(const fs::path& folder) const
+{
+    std::error_code error;
+    return fs::is_directory(folder, error) && MayWrite(folder);
+}
+
 std::unique_ptr<FileHold> PosixFiles::HoldForChange(const fs::path& file)
 {
     constexpr std::chrono::milliseconds betweenTries(2);

@@ -12,6 +12,7 @@ public:
                      Flush flush) override;
     [[nodiscard]] std::unique_ptr<Replacement> BeginReplacement(const std::filesystem::path& target) override;
     [[nodiscard]] bool MayBeReplaced(const std::filesystem::path& target) const override;
+    [[nodiscard]] bool MayChangeFolder(const std::filesystem::path& folder) const override;
     [[nodiscard]] std::unique_ptr<FileHold> HoldForChange(const std::filesystem::path& file) override;
     [[nodiscard]] std::optional<FileFacts> FactsOf(const std::filesystem::path& file) const override;
     void DeleteStaleFile(const std::filesystem::path& path) override;

@@ -44,7 +44,7 @@ fs::path PosixMachine::TempPath() const
 {
     // Safe in any thread: nothing in the program changes its environment.
     const char* named = std::getenv("TMPDIR");
-    return named && *named ? named : "/tmp";
+    return named && *named ? fs::path(named) : CommonTempPath();
 }
 
 fs::path PosixMachine::ExecutablePath() const

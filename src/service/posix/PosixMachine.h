@@ -15,6 +15,8 @@ class PosixMachine : public Machine {
 public:
     [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override;
     [[nodiscard]] std::filesystem::path TempPath() const override;
+    [[nodiscard]] std::filesystem::path CommonTempPath() const override { return "/tmp"; }
+    [[nodiscard]] std::filesystem::path ConfigFolder() const override { return "/etc"; }
     [[nodiscard]] std::filesystem::path ExecutablePath() const override;
     [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path& path) const override;
 };

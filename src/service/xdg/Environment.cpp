@@ -39,6 +39,15 @@ fs::path HomeFolder()
     return isKnown && user.pw_dir ? user.pw_dir : "";
 }
 
+fs::path UserConfigFolder()
+{
+    const fs::path named = FromEnvironment("XDG_CONFIG_HOME");
+    if (named.is_absolute())
+        return named;
+    const fs::path home = HomeFolder();
+    return home.empty() ? fs::path() : home / ".config";
+}
+
 std::vector<fs::path> DataFolders()
 {
     std::vector<fs::path> folders;

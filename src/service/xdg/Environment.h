@@ -13,6 +13,10 @@ namespace sprout {
 /// The user's home folder; empty if there is none. Any thread.
 [[nodiscard]] std::filesystem::path HomeFolder();
 
+/// The folder of the user's settings: XDG_CONFIG_HOME, else .config in the home folder; empty if there is neither. Any
+/// thread.
+[[nodiscard]] std::filesystem::path UserConfigFolder();
+
 /// The folders with the desktop's shared files, the most important first: the user's, then the machine's. Any thread.
 [[nodiscard]] std::vector<std::filesystem::path> DataFolders();
 

@@ -94,14 +94,17 @@ fs::path XdgDesktop::DocumentsFolder() const
     const fs::path home = HomeFolder();
     if (home.empty())
         return {};
-    const fs::path named = FromEnvironment("XDG_CONFIG_HOME");
-    const fs::path config = named.is_absolute() ? named : home / ".config";
-    fs::path documents = DocumentsOfUserDirs(FileText(config / "user-dirs.dirs"), home);
+    fs::path documents = DocumentsOfUserDirs(FileText(UserConfigFolder() / "user-dirs.dirs"), home);
     if (documents.empty())
         documents = home / "Documents";
     std::error_code error;
     fs::create_directories(documents, error);
     return fs::is_directory(documents, error) ? documents : fs::path();
+}
+
+fs::path XdgDesktop::ConfigFolder() const
+{
+    return UserConfigFolder();
 }
 
 void XdgDesktop::OpenWithShell(std::string_view target)

@@ -14,6 +14,8 @@ class XdgDesktop : public Desktop {
 public:
     /// The folder named XDG_DOCUMENTS_DIR in the user's user-dirs.dirs, else Documents in the home folder.
     [[nodiscard]] std::filesystem::path DocumentsFolder() const override;
+    /// XDG_CONFIG_HOME, else .config in the home folder.
+    [[nodiscard]] std::filesystem::path ConfigFolder() const override;
     void OpenWithShell(std::string_view target) override;
     /// Looks on the PATH for pavucontrol, then for the sound settings of the desktop named by XDG_CURRENT_DESKTOP.
     [[nodiscard]] std::vector<std::string> OpenSoundControl(SoundControl control) override;

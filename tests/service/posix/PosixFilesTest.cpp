@@ -249,6 +249,21 @@ TEST_F(FilesOnDisk, TellWhatDoesNotGiveWay)
     EXPECT_THROW(static_cast<void>(PosixFiles().BeginReplacement(In("missing/file"))), RunTimeError);
 }
 
+TEST_F(FilesOnDisk, KnowWhichFolderMayBeChanged)
+{
+    const PosixFiles files;
+    fs::create_directory(In("folder"));
+    fs::create_directory_symlink(In("folder"), In("link"));
+    WriteBytes(In("file"), "");
+    EXPECT_TRUE(files.MayChangeFolder(In("folder")));
+    EXPECT_TRUE(files.MayChangeFolder(In("link")));
+    EXPECT_FALSE(files.MayChangeFolder(In("file")));
+    EXPECT_FALSE(files.MayChangeFolder(In("missing")));
+    const UnchangeableFolder locked(In("folder"));
+    EXPECT_FALSE(files.MayChangeFolder(In("folder")));
+    EXPECT_FALSE(files.MayChangeFolder(In("link")));
+}
+
 TEST_F(FilesOnDisk, KnowWhatMayBeReplaced)
 {
     const PosixFiles files;

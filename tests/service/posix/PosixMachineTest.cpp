@@ -55,6 +55,12 @@ TEST(PosixMachine, NamesTheTempFolderOfTheEnvironment)
         ::setenv("TMPDIR", kept.c_str(), 1);
 }
 
+TEST(PosixMachine, HasFoldersThatNoEnvironmentMoves)
+{
+    EXPECT_EQ(PosixMachine().CommonTempPath(), "/tmp");
+    EXPECT_EQ(PosixMachine().ConfigFolder(), "/etc");
+}
+
 TEST(PosixMachine, FindsTheRunningProgram)
 {
     const std::filesystem::path program = PosixMachine().ExecutablePath();

@@ -53,6 +53,15 @@ TEST_F(XdgHome, TakesTheFolderThatTheUserNamed)
     EXPECT_EQ(XdgDesktop().DocumentsFolder(), folder.Path() / "home/Other");
 }
 
+TEST_F(XdgHome, KeepsSettingsInTheHomeFolderUnlessTheUserNamesAnother)
+{
+    EXPECT_EQ(XdgDesktop().ConfigFolder(), folder.Path() / "home/.config");
+    Set("XDG_CONFIG_HOME", "relative");
+    EXPECT_EQ(XdgDesktop().ConfigFolder(), folder.Path() / "home/.config");
+    Set("XDG_CONFIG_HOME", "/some/where");
+    EXPECT_EQ(XdgDesktop().ConfigFolder(), "/some/where");
+}
+
 TEST_F(XdgHome, PassesOverAFolderInPlaceOfTheList)
 {
     fs::create_directories(folder.Path() / "home/.config/user-dirs.dirs");
