@@ -87,9 +87,12 @@ void TestSupportFiles()
         Tell({}, Words::Text("Some support files are missing\r\n%1\r\nPlease reinstall", PathText(file)));
 }
 
+/// A copy that is carried around mends itself; an installed program leaves that to the installation.
 void MakeInstallFolders()
 {
     const SharedState& shared = Shared();
+    if (shared.IsInstalled)
+        return;
     for (const fs::path& folder :
          {shared.InstallRoot, shared.InstallBeats, shared.InstallTunes, shared.InstallStars, shared.InstallSongs})
         MakeFolderIfMissing(folder);

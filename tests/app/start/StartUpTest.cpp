@@ -161,6 +161,19 @@ TEST_F(StartUp, MakesTheInstalledFoldersThatAreMissing)
         EXPECT_TRUE(fs::is_directory(Installed() / name)) << name;
 }
 
+TEST_F(StartUp, WritesNothingBesideAnInstalledProgram)
+{
+    WriteBytes(Program() / "installed", "");
+    fs::remove_all(Installed() / "Stars");
+    fake.desktop.config = fake.folder.Path() / "config";
+    const auto before = InstalledBeats::FilesIn(Program());
+    RunStartUp();
+    EXPECT_FALSE(fs::exists(Installed() / "Stars"));
+    EXPECT_EQ(InstalledBeats::FilesIn(Program()), before);
+    const IniFile ini = IniFile::Read(fake.desktop.config / "sprout-painter" / "sprout-painter.ini");
+    EXPECT_EQ(ini.Value("General", "InstalledPath", ""), Program().native());
+}
+
 TEST_F(StartUp, SaysReinstallWhereThereIsNoDocumentsFolder)
 {
     const bool wasThere = fs::exists("/Tonquill Sprout Painter");
