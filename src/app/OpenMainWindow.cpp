@@ -11,6 +11,7 @@
 
 #include "app/start/SampleSong.h"
 #include "app/start/StartUp.h"
+#include "app/start/UserFolders.h"
 #include "base/FilePaths.h"
 #include "base/Guarded.h"
 #include "core/Shared.h"
@@ -47,6 +48,17 @@ void StartSound(MainFrm& window)
     window.ShowSoundDevices(TheServices().sound->SoundDeviceCount());
 }
 
+/// What a child makes is lost at the end, which it should know before it begins.
+void TellNothingIsKept()
+{
+    Guarded([] {
+        const Words folders = FoldersThatKeepNothing();
+        if (!folders.IsBlank())
+            ShowMessage(Words::Text("What you make now cannot be kept,"),
+                        Words::Text("because nothing can be written to %1.", folders));
+    });
+}
+
 /// Tells the user which songs the last run could only keep, and where.
 void TellKeptSongs()
 {
@@ -76,7 +88,10 @@ void OpenMainWindow(MainFrm& window)
     if (OpenSampleSong())
         ShowSong(window);
     // A message waits for its answer, so the start must be over.
-    QTimer::singleShot(0, &window, TellKeptSongs);
+    QTimer::singleShot(0, &window, [] {
+        TellNothingIsKept();
+        TellKeptSongs();
+    });
 }
 
 } // namespace sprout

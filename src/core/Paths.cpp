@@ -181,17 +181,26 @@ void OpenWithShell(std::string_view target)
     TheServices().desktop->OpenWithShell(target);
 }
 
-bool CopyFolder(const fs::path& source, const fs::path& destination)
+Words CopyFolderUntold(const fs::path& source, const fs::path& destination)
 {
     const fs::path folder = source.has_filename() ? source : source.parent_path();
-    const Words failure = FillFolder(folder, destination / folder.filename());
-    const bool isCopied = failure.IsBlank();
-    if (!isCopied)
-        TheServices().messages->MessageBox(
-            Words::Text("Error message"),
-            Words::Text("Following error occurd while copying folder %1\r\n%2", PathText(source), failure),
-            MessageIcon::Exclamation);
-    return isCopied;
+    return FillFolder(folder, destination / folder.filename());
+}
+
+void TellFailedCopy(const fs::path& source, const Words& failure)
+{
+    TheServices().messages->MessageBox(
+        Words::Text("Error message"),
+        Words::Text("Following error occurd while copying folder %1\r\n%2", PathText(source), failure),
+        MessageIcon::Exclamation);
+}
+
+bool CopyFolder(const fs::path& source, const fs::path& destination)
+{
+    const Words failure = CopyFolderUntold(source, destination);
+    if (!failure.IsBlank())
+        TellFailedCopy(source, failure);
+    return failure.IsBlank();
 }
 
 bool IsOfInstallation(const fs::path& file)

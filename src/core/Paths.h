@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/Words.h"
+
 namespace sprout {
 
 /// The plain file at `path`; if there is none, a file in its folder whose name differs only in case. Empty if there is
@@ -35,6 +37,12 @@ void OpenWithShell(std::string_view target);
 /// show their progress, and the user may stop them: throws `WorkStopped`. Failures are shown in one message and give
 /// false.
 bool CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
+
+/// The same, but shows no failure: returns why something was not copied; blank if everything was.
+[[nodiscard]] Words CopyFolderUntold(const std::filesystem::path& source, const std::filesystem::path& destination);
+
+/// Shows why a folder, or a part of it, was not copied.
+void TellFailedCopy(const std::filesystem::path& source, const Words& failure);
 
 /// True if a path lies in the folder of the files installed with the program, or beside an installed program. The
 /// program never changes anything there, even if the user might.

@@ -64,6 +64,18 @@ TEST_F(OpenMainWindowTest, ShowsTheSampleSongOnTheFirstStarts)
     EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Zumi]");
 }
 
+TEST_F(OpenMainWindowTest, TellsBeforehandThatNothingCanBeKept)
+{
+    const std::filesystem::path songs = Shared().UserRoot / "Songs";
+    Shared().UserSongs = AsFolder(fake.folder.Path() / "installed");
+    ShownMessage message;
+    OpenMainWindow(*window);
+    NoteNextMessage(message);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(message.line1, QStringLiteral("What you make now cannot be kept,"));
+    EXPECT_EQ(message.line2, QtText("because nothing can be written to " + PathText(songs) + "."));
+}
+
 TEST_F(OpenMainWindowTest, TellsOnceWhichSongsWereKeptAndWhere)
 {
     SetSongChanged(Song(), true);

@@ -8,18 +8,16 @@
 #include <string_view>
 #include <system_error>
 
-#include "base/Errors.h"
+#include "app/start/UserFolders.h"
 #include "base/FilePaths.h"
 #include "base/Guarded.h"
 #include "base/Numbers.h"
-#include "base/Product.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "core/Tell.h"
 #include "service/Desktop.h"
-#include "service/FolderCopies.h"
 #include "service/Machine.h"
 #include "service/PrivateFolders.h"
 #include "service/Services.h"
@@ -121,30 +119,6 @@ void FindDocumentsFolder()
     else if (!documents.has_filename())
         documents = documents.parent_path();
     Shared().DocumentsFolder = documents;
-}
-
-/// Without a documents folder, the user root is in the root of the file system, not in the current folder.
-void SetUserFolders()
-{
-    const fs::path::string_type separator(1, fs::path::preferred_separator);
-    SetUserRoot(Shared().DocumentsFolder.native() + separator + std::string(kProductName));
-    MakeFolderIfMissing(Shared().UserRoot);
-}
-
-/// If a user has deleted every file in a folder, the installed ones come back; if the user stops the copy, they come at
-/// the next start.
-void FillUserFolders()
-{
-    const SharedState& shared = Shared();
-    try {
-        for (const char* name : {"Beats", "Tunes", "Stars", "Songs"}) {
-            const fs::path target = shared.UserRoot / name;
-            if (!HoldsFile(target) || TheServices().folderCopies->IsUnfinished(target))
-                CopyFolder(shared.InstallRoot / name, shared.UserRoot);
-        }
-    } catch (const WorkStopped&) {
-        return;
-    }
 }
 
 /// Last, because the start does not wait for it.

@@ -9,8 +9,8 @@ namespace sprout {
 // the sound and calls `ReadOptionFlags`. All services and the four pictures of the shared state must exist.
 
 /// Finds the folders, writes facts about the machine to the settings file, creates the test tone and the new song, and
-/// copies the installed files into the user's folders if these contain no file. Deletes mailed songs left more than a
-/// day ago by earlier runs, and the recordings that they left.
+/// copies the installed files into the user's folders if these contain no file (`FillUserFolders`). Deletes mailed
+/// songs left more than a day ago by earlier runs, and the recordings that they left.
 ///
 /// If a step fails, the next one runs. Missing support files, a missing documents folder and a failed copy are shown in
 /// messages. Never throws.
