@@ -77,7 +77,7 @@ void TellKeptSongs()
 
 // The desktop takes about as long to show the window as everything below takes: nothing waits for it, and the window is
 // drawn once, with all its content.
-void OpenMainWindow(MainFrm& window)
+void OpenMainWindow(MainFrm& window, const std::filesystem::path& song)
 {
     window.show();
     ShowSong(window);
@@ -88,7 +88,9 @@ void OpenMainWindow(MainFrm& window)
     if (OpenSampleSong())
         ShowSong(window);
     // A message waits for its answer, so the start must be over.
-    QTimer::singleShot(0, &window, [] {
+    QTimer::singleShot(0, &window, [&window, song] {
+        if (!song.empty())
+            window.OpenSong(song);
         TellNothingIsKept();
         TellKeptSongs();
     });

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <QApplication>
 
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <future>
 #include <memory>
+#include <span>
 #include <utility>
 
 #include "app/AheadOfPlay.h"
@@ -14,6 +17,7 @@
 #include "app/SystemEnd.h"
 #include "app/sound/MachineCapture.h"
 #include "app/sound/MachineSound.h"
+#include "app/start/GivenSong.h"
 #include "app/start/StartUp.h"
 #include "base/Guarded.h"
 #include "core/Paths.h"
@@ -99,7 +103,7 @@ std::unique_ptr<AheadWork> MakeRenderAhead(std::function<void()> tellResult)
     return std::make_unique<RenderAhead>(AheadThreads{LowerThreadPriority, std::move(tellResult)});
 }
 
-int RunProgram(QApplication& application)
+int RunProgram(QApplication& application, const std::filesystem::path& song)
 {
     ProgramServices services;
     std::future<void> pictures = std::async(MakeProgramPictures);
@@ -119,7 +123,7 @@ int RunProgram(QApplication& application)
     QObject::connect(
         &window, &MainFrm::Unloaded, qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
     const SystemEnd systemEnd(application);
-    OpenMainWindow(window);
+    OpenMainWindow(window, song);
     // If the end came while the window appeared, there was no loop to end.
     const bool runs = window.isVisible() && !systemEnd.HasCome();
     const int status = runs ? QApplication::exec() : EXIT_SUCCESS;
@@ -139,5 +143,7 @@ int main(int argc, char** argv)
     qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("sprout-painter"));
-    return sprout::RunProgram(application);
+    // Qt has taken its own options out.
+    const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
+    return sprout::RunProgram(application, sprout::GivenSong(arguments));
 }

@@ -178,6 +178,11 @@ void MainFrm::ShowNewSong()
     UpdateSongTitle();
 }
 
+void MainFrm::OpenSong(const std::filesystem::path& file)
+{
+    songCommands.OpenSong(file);
+}
+
 void MainFrm::ShowSoundDevices(int count)
 {
     statusBar->ShowSoundDevices(count);

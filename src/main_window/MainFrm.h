@@ -3,6 +3,7 @@
 
 #include <QWidget>
 
+#include <filesystem>
 #include <memory>
 
 #include "main_window/AudioTrackCommands.h"
@@ -40,6 +41,9 @@ public:
     void UpdateTempoSliderValue();
     /// Shows title and author, also in the caption.
     void UpdateSongTitle();
+
+    /// Opens a song from where it lies, as if it had been chosen.
+    void OpenSong(const std::filesystem::path& file);
 
     /// count: number of sound devices found.
     void ShowSoundDevices(int count);

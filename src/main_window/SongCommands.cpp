@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/FilePaths.h"
 #include "base/Guarded.h"
 #include "base/Product.h"
 #include "core/Paths.h"
@@ -129,6 +130,16 @@ void SongCommands::NewBtn()
 
 void SongCommands::OpenBtn()
 {
+    Open([this] { OpenChosenSong(); });
+}
+
+void SongCommands::OpenSong(const fs::path& file)
+{
+    Open([this, &file] { OpenFile(file, BaseName(file)); });
+}
+
+void SongCommands::Open(const std::function<void()>& open)
+{
     const OpeningMark mark(calls.Opening);
     constexpr LaterWords failed = Words::Later("Error Opening file\r\n%1");
     RunCommand(failed, [&] {
@@ -136,22 +147,25 @@ void SongCommands::OpenBtn()
             return;
         ClearHint();
         Player().StopPlay();
-        OpenChosenSong();
+        open();
     });
 }
 
 void SongCommands::OpenChosenSong()
 {
     const std::optional<std::string> name = TheWindows().ChooseSongToOpen(window);
-    if (!name)
-        return;
-    const fs::path file = PlaceOfSong(*name);
+    if (name)
+        OpenFile(PlaceOfSong(*name), *name);
+}
+
+void SongCommands::OpenFile(const fs::path& file, const std::string& name)
+{
     if (!FileExists(file)) {
-        ShowMessage(Words::Text("This song is not there any more."), Words::AsIs(*name));
+        ShowMessage(Words::Text("This song is not there any more."), Words::AsIs(name));
         return;
     }
     OpenSaveClass().Load_Song(file);
-    Shared().Song.SongTitle = *name;
+    Shared().Song.SongTitle = name;
     calls.ShowNewSong();
     SongChanges::SongOpened(Shared().Song);
 }

@@ -3,7 +3,9 @@
 
 #include <QWidget>
 
+#include <filesystem>
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include "base/Words.h"
@@ -30,11 +32,16 @@ public:
 
     void NewBtn();
     void OpenBtn();
+    /// As `OpenBtn`, with a song that is already chosen: it is opened from where it lies.
+    void OpenSong(const std::filesystem::path& file);
     void SaveBtn();
     void SongTitleChgBtn();
 
 private:
+    /// Asks about unsaved changes and stops the play before `open` runs.
+    void Open(const std::function<void()>& open);
     void OpenChosenSong();
+    void OpenFile(const std::filesystem::path& file, const std::string& name);
     /// Both return whether the song was saved; they throw if saving fails.
     [[nodiscard]] bool SaveUnderTitle();
     [[nodiscard]] bool SaveUnderChosenName();

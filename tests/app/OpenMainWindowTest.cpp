@@ -64,6 +64,30 @@ TEST_F(OpenMainWindowTest, ShowsTheSampleSongOnTheFirstStarts)
     EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Zumi]");
 }
 
+TEST_F(OpenMainWindowTest, OpensTheGivenSongInPlaceOfTheSampleSong)
+{
+    constexpr std::int32_t tempo = 400;
+    PutSong("Zumi", tempo / 2);
+    PutSong("Rain", tempo);
+    const std::filesystem::path given = fake.folder.Path() / "Rain of mine.TqSng";
+    std::filesystem::rename(SongPath("Rain"), given);
+    OpenMainWindow(*window, given);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Song().Tempo, tempo);
+    EXPECT_EQ(TextOf("CaptionLbl"), "Tonquill Sprout Painter - [Rain of mine]");
+}
+
+TEST_F(OpenMainWindowTest, OpensAGivenSongOnceTheStartIsOver)
+{
+    const std::filesystem::path given = fake.folder.Path() / "Broken.TqSng";
+    WriteBytes(given, "This is no song.");
+    OpenMainWindow(*window, given);
+    EXPECT_TRUE(fake.messages.shown.empty());
+    EXPECT_EQ(TextOf("StatusLbl"), "Ready");
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(fake.messages.shown.empty());
+}
+
 TEST_F(OpenMainWindowTest, TellsBeforehandThatNothingCanBeKept)
 {
     const std::filesystem::path songs = Shared().UserRoot / "Songs";
