@@ -15,6 +15,7 @@
 #include "app/OpenMainWindow.h"
 #include "app/ProgramWindows.h"
 #include "app/SystemEnd.h"
+#include "app/sound/LimitedSound.h"
 #include "app/sound/MachineCapture.h"
 #include "app/sound/MachineSound.h"
 #include "app/start/GivenSong.h"
@@ -64,7 +65,8 @@ public:
     ProgramServices()
     {
         LargePages::UseFromNowOn();
-        TheServices() = {&messages, &screen, &files, &machine, &desktop, &pictures, stretch.get(), &sound, &transport};
+        TheServices() = {&messages, &screen,       &files,   &machine,  &desktop,
+                         &pictures, stretch.get(), &limited, &transport};
         TheServices().wma = &wma;
         TheServices().mail = &mail;
         TheServices().privateFolders = &privateFolders;
@@ -90,6 +92,7 @@ private:
     QtPictureFiles pictures;
     std::unique_ptr<Stretch> stretch = MakeStretch();
     MachineSound sound;
+    LimitedSound limited{sound};
     MachineCapture capture;
     FfmpegWmaEncoder wma;
     XdgMail mail;
