@@ -2,6 +2,7 @@
 #include "main_window/StripControls.h"
 
 #include "base/Words.h"
+#include "core/Settings.h"
 #include "main_window/TrackPictures.h"
 #include "main_window/rules/MainWindowHints.h"
 #include "main_window/rules/TitleStrip.h"
@@ -23,6 +24,7 @@ constexpr QRect kLabel1Place{96, 0, 44, 19};
 constexpr QSize kPictureButtonSize{34, 34};
 constexpr QSize kAddButtonSize{kAddButtonSide, kAddButtonSide};
 constexpr int kAddButtonLeft = (kTitleStripWidth - kAddButtonsApart - kAddButtonSize.width()) / 2;
+constexpr int kLoneAddButtonLeft = (kTitleStripWidth - kAddButtonSize.width()) / 2;
 constexpr int kTopLblGap = 2;
 constexpr int kTopLblHeight = 22;
 
@@ -101,13 +103,14 @@ StripControls::StripControls(QWidget& strip, ButtonScheme& buttons, const TrackC
     }
     QWidget::setTabOrder(addBtn, addRecBtn);
     addBtn->show();
-    addRecBtn->show();
+    // A school may not want voices of children on its machines. A sound can still be dropped on the window.
+    addRecBtn->setVisible(!IsSetToOne("HideRecord"));
 }
 
 void StripControls::PlaceAddButtons(const TrackView& view, std::int32_t trackCount) const
 {
     const int top = AddButtonsTop(view, trackCount);
-    addBtn->move(kAddButtonLeft, top);
+    addBtn->move(addRecBtn->isHidden() ? kLoneAddButtonLeft : kAddButtonLeft, top);
     addRecBtn->move(kAddButtonLeft + kAddButtonsApart, top);
     topLbl->move(kAddButtonLeft, top + kAddButtonSize.height() + kTopLblGap);
 }

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include "core/Settings.h"
 #include "song_window/NameDecision.h"
 #include "song_window/SongFileCommands.h"
 #include "song_window/SongList.h"
@@ -121,11 +122,14 @@ void SongSelFrm::InitilizeThisWindow(SongSelMode newMode)
     Watcher().Watch(*SngNmLst->viewport(), layout.ListHint);
     for (QWidget* widget : std::initializer_list<QWidget*>{TextTitleLbl, SongNmLbl, SongNameTxt})
         widget->setVisible(layout.HasNameBox);
+    const bool mayExport = layout.HasSoundFiles && !IsSetToOne("HideExport");
     for (QWidget* button : soundFileButtons)
-        button->setVisible(layout.HasSoundFiles);
+        button->setVisible(mayExport);
+    keepsSuppliedSongs = IsSetToOne("HideDeleteSupplied");
     PlaceControls();
     SngNmLst->SetNothingFound(layout.NothingFound);
     SngNmLst->LoadSongNames();
+    ShowDeleteBtn();
     (layout.HasNameBox ? static_cast<QWidget*>(SongNameTxt) : SngNmLst)->setFocus();
 }
 
@@ -176,6 +180,14 @@ void SongSelFrm::TakeSelectedName()
 {
     if (const SongFile* const song = SngNmLst->SelectedSong())
         SetContent(*SongNameTxt, song->Name);
+    ShowDeleteBtn();
+}
+
+void SongSelFrm::ShowDeleteBtn()
+{
+    constexpr std::size_t deleteBtn = 1;
+    const SongFile* const song = SngNmLst->SelectedSong();
+    columnButtons[deleteBtn]->setVisible(!keepsSuppliedSongs || !song || !IsSuppliedSong(song->Name));
 }
 
 bool SongSelFrm::eventFilter(QObject* watched, QEvent* event)

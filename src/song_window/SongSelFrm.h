@@ -48,6 +48,7 @@ private:
     void PlaceControls();
 
     void TakeSelectedName();
+    void ShowDeleteBtn();
     void ClickOk();
     void OpenSelected();
     void AcceptTypedName();
@@ -57,6 +58,7 @@ private:
     void ClickHelp();
 
     SongSelMode mode = SongSelMode::Open;
+    bool keepsSuppliedSongs = false; ///< as a setting says when the window opens
     QLabel* ModePic = nullptr;
     QLabel* ListTitleLbl = nullptr;
     QLabel* TextTitleLbl = nullptr;

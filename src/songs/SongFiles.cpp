@@ -62,6 +62,11 @@ const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name)
     return found == songs.end() ? nullptr : &*found;
 }
 
+bool IsSuppliedSong(std::string_view name)
+{
+    return FileExists(NamedFile(Shared().InstallSongs, name, kSongExtension));
+}
+
 std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name)
 {
     for (int number = 1;; ++number) {

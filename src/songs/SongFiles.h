@@ -20,6 +20,9 @@ using SongFile = FolderFile;
 /// The first song whose name equals `name` ignoring case; null if there is none.
 [[nodiscard]] const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name);
 
+/// True if a song of that name came with the program.
+[[nodiscard]] bool IsSuppliedSong(std::string_view name);
+
 /// `name` followed by the first number from 1 on that makes it a name that no song has.
 [[nodiscard]] std::string FreeCopyName(std::span<const SongFile> songs, std::string_view name);
 

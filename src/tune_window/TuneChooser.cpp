@@ -77,6 +77,7 @@ void TuneChooser::MakeMoveMnu(QWidget* window)
     QAction* const deletion = AddItem(*PopPosiMnu, Words::Text("Delete"));
     deletion->setObjectName(QStringLiteral("MoveMnu%1").arg(number));
     connect(deletion, &QAction::triggered, this, [this] { Guarded([this] { DeleteTune(); }); });
+    connect(this, &TuneChooser::DeletionOffered, deletion, &QAction::setVisible);
     connect(PopPosiMnu, &QMenu::hovered, this,
             [deletion](const QAction* item) { ShowHint(item == deletion ? kDeleteTuneHint : LaterWords()); });
 }
@@ -101,7 +102,18 @@ void TuneChooser::BringIntoView()
     grid->BringIntoView(choice.SelectedTune());
 }
 
+const Tune* TuneChooser::ChosenTune() const
+{
+    return choice.HasTune() ? &At(Shared().TuneTable, choice.SelectedTune()) : nullptr;
+}
+
 void TuneChooser::RefreshShowAllPic()
+{
+    ShowChosenTune();
+    Q_EMIT DeletionOffered(IsDeletionOffered(ChosenTune()));
+}
+
+void TuneChooser::ShowChosenTune()
 {
     if (Shared().TuneTableCount < 1) {
         grid->ShowNoTunes();
@@ -161,7 +173,7 @@ void TuneChooser::MoveTune(GridMove move)
 
 void TuneChooser::DeleteTune()
 {
-    const Tune* const tune = choice.HasTune() ? &At(Shared().TuneTable, choice.SelectedTune()) : nullptr;
+    const Tune* const tune = ChosenTune();
     if (MayDeleteTune(tune)) {
         DeleteTuneFiles(tune->Name);
         SaveTuneOrder();

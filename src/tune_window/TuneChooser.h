@@ -56,6 +56,8 @@ public:
 Q_SIGNALS:
     void EditorsTunePlayWanted();
     void TuneAccepted(); ///< by a double click
+    /// Whether the window shall offer to delete the tune that is chosen now.
+    void DeletionOffered(bool offered);
 
 private:
     void MakeGrid(QWidget* window);
@@ -64,6 +66,9 @@ private:
 
     void ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at);
     void ClickTunePic();
+    /// The chosen tune of the table; null if there is none.
+    [[nodiscard]] const Tune* ChosenTune() const;
+    void ShowChosenTune();
     void MoveTune(GridMove move);
     void ReadTunesAgain();
 

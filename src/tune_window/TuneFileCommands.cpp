@@ -78,6 +78,11 @@ void SaveCurrentTune(const TuneNames& names)
     Shared().CurrentTune.CreatedBy = names.CreatedBy;
 }
 
+bool IsDeletionOffered(const Tune* tune)
+{
+    return !tune || !IsOriginalTune(*tune) || !IsSetToOne("HideDeleteSupplied");
+}
+
 bool MayDeleteTune(const Tune* tune)
 {
     if (!tune) {
@@ -85,7 +90,7 @@ bool MayDeleteTune(const Tune* tune)
         ShowMessage(Words::Text("Select a Tune and try this."));
         return false;
     }
-    if (IsOriginalTune(*tune) && !Shared().AllowEditOriginal) {
+    if (IsOriginalTune(*tune) && (!Shared().AllowEditOriginal || !IsDeletionOffered(tune))) {
         ShowHint(Words::Text("Blue bordered are originals, red bordered are your new tunes"));
         ShowMessage(Words::Text("This is an original Tune from %1.", kProductFamily),
                     Words::Text("This tune can not be deleted."));

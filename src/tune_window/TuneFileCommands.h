@@ -25,6 +25,10 @@ inline constexpr LaterWords kDeleteTuneHint = Words::Later("This button will del
 /// Saves `CurrentTune` under these names, which become its own once the file is written.
 void SaveCurrentTune(const TuneNames& names);
 
+/// False for a tune that came with the program, if a setting hides the means to delete those. tune: null if none is
+/// chosen.
+[[nodiscard]] bool IsDeletionOffered(const Tune* tune);
+
 /// Asks whether to delete a tune and leaves a hint about that on the status line. Originals are refused. tune: null if
 /// none is chosen, which a message tells.
 [[nodiscard]] bool MayDeleteTune(const Tune* tune);

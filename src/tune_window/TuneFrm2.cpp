@@ -77,6 +77,8 @@ void TuneFrm2::MakeButtons()
         &TuneFrm2::SaveTuneBtn);
     add({"DeleteTuneBtn", Words::Later("Delete tune"), kDeleteTuneHint, Plate::Tool, {}, "TrackDeleteBtn"},
         &TuneFrm2::DeleteTuneBtn);
+    connect(chooser, &TuneChooser::DeletionOffered, findChild<QWidget*>(QStringLiteral("DeleteTuneBtn")),
+            &QWidget::setVisible);
     add({"HelpBtn", Words::Later("Help"), Words::Later("Help button, use it to see help")}, &TuneFrm2::HelpBtn);
     add({"CancelBtn", Words::Later("Cancel"), Words::Later("Cancel button, use it to leave the track's tune as it was"),
          Plate::Word, kStone},

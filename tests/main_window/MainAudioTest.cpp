@@ -48,6 +48,19 @@ TEST_F(MainAudioTest, MakesATrackOfARecordingThatIsFinishedAndOfNoOther)
     EXPECT_TRUE(std::filesystem::is_empty(Shared().TempFolder)) << "no voice is left";
 }
 
+TEST_F(MainAudioTest, HasNoRecordingWhereItIsSwitchedOff)
+{
+    const QRect both = Control("TrackAddBtn").geometry() | Control("TrackAddRecBtn").geometry();
+    PutSetting("General", "HideRecord", "1");
+    Open();
+    EXPECT_FALSE(Control("TrackAddRecBtn").isVisible());
+    EXPECT_EQ(Control("TrackAddBtn").geometry().center().x(), both.center().x());
+    PutSetting("General", "HideRecord", "0");
+    Open();
+    EXPECT_TRUE(Control("TrackAddRecBtn").isVisible());
+    EXPECT_EQ(Control("TrackAddBtn").geometry().left(), both.left());
+}
+
 TEST_F(MainAudioTest, RecordsNothingWhereTheMicrophoneCannotBeOpened)
 {
     fake.capture.opening = CaptureOpening::NoMicrophone;

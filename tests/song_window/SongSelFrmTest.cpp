@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "song_window/SongSelFrmTest.h"
 
+#include "core/Settings.h"
 #include "support/Flags.h"
 #include "ui/forms/FileDialogs.h"
 #include "ui/help/HelpFrm.h"
@@ -38,6 +39,34 @@ TEST_F(SongSelFrmTest, ShowsANameBoxAndTheSoundFilesToSaveASong)
     EXPECT_EQ(List().height(), 211);
     EXPECT_EQ(List().y() - kBandHeight, 44);
     EXPECT_EQ(Part("ListTitleLbl").y() - kBandHeight, 20);
+}
+
+TEST_F(SongSelFrmTest, HasNoSoundFilesWhereTheyAreSwitchedOff)
+{
+    PutSetting("General", "HideExport", "1");
+    Open(SongSelMode::Save);
+    EXPECT_FALSE(Part("SavWavBtn").isVisible());
+    EXPECT_FALSE(Part("SavWmaBtn").isVisible());
+    PutSetting("General", "HideExport", "0");
+    Open(SongSelMode::Save);
+    EXPECT_TRUE(Part("SavWavBtn").isVisible());
+}
+
+TEST_F(SongSelFrmTest, HasNoDeleteForASuppliedSongWhereThatIsSwitchedOff)
+{
+    Put({"Mine", "Zumi"});
+    Shared().InstallSongs = songFolder.parent_path() / "installed" / "";
+    std::filesystem::create_directories(Shared().InstallSongs);
+    WriteBytes(Shared().InstallSongs / "zumi.TqSng", "supplied");
+    for (const bool isHidden : {true, false}) {
+        PutSetting("General", "HideDeleteSupplied", isHidden ? "1" : "0");
+        Open(SongSelMode::Open);
+        EXPECT_TRUE(Part("DeleteBtn").isVisible());
+        List().setCurrentRow(1);
+        EXPECT_EQ(Part("DeleteBtn").isVisible(), !isHidden);
+        List().setCurrentRow(0);
+        EXPECT_TRUE(Part("DeleteBtn").isVisible());
+    }
 }
 
 TEST_F(SongSelFrmTest, ShowsANameBoxWithoutSoundFilesForANewSong)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/TuneFileCommands.h"
 
+#include "core/Settings.h"
 #include "tune_window/TuneFrm2Test.h"
 
 namespace sprout {
@@ -66,6 +67,30 @@ TEST_F(DeleteTuneTest, ButtonAndKeyDeleteTheChosenTuneAsTheMenuDoes)
             EXPECT_FALSE(fs::exists(File("Tune 02.TqTun")));
         });
     }
+}
+
+TEST_F(DeleteTuneTest, IsNotOfferedForAnOriginalWhereThatIsSwitchedOff)
+{
+    PutSetting("General", "HideDeleteSupplied", "1");
+    Shared().AllowEditOriginal = true;
+    MakeTuneFile(PlainTune("Lumo", "tonquill"));
+    MakeTuneFile(PlainTune("Mine", "me"));
+    Open([this](TuneFrm2& window) {
+        const auto isOffered = [&window] {
+            const bool byButton = window.findChild<QWidget*>(QStringLiteral("DeleteTuneBtn"))->isVisible();
+            EXPECT_EQ(MenuItem(window, 4).isVisible(), byButton);
+            return byButton;
+        };
+        PressTune(window, 1);
+        EXPECT_FALSE(isOffered());
+        PressTune(window, 2);
+        EXPECT_TRUE(isOffered());
+        PressTune(window, 1);
+        AnswerNext("OkBtn");
+        QTest::keyClick(&GridOf(window), Qt::Key_Delete);
+    });
+    EXPECT_EQ(noted.back(), "This tune can not be deleted.");
+    EXPECT_TRUE(fs::exists(File("Lumo.TqTun")));
 }
 
 TEST_F(DeleteTuneTest, AnOriginalCannotBeDeleted)
