@@ -16,7 +16,9 @@
 #include "base/Guarded.h"
 #include "base/Log.h"
 #include "base/Numbers.h"
+#include "base/Text.h"
 #include "core/Paths.h"
+#include "core/Settings.h"
 #include "core/Shared.h"
 #include "service/Files.h"
 #include "service/Messages.h"
@@ -87,16 +89,26 @@ bool LoadQuietly(const fs::path& file)
     return false;
 }
 
+/// The song that a setting names, as a path or as one of the user's songs; else the sample song on a first start.
+fs::path SongOfThisStart(bool isFirstStart)
+{
+    const std::string named(Trim(GetSetting(kGeneralSection, "StartSong", "")));
+    if (named.empty())
+        return isFirstStart ? SongPath(kSampleSong) : fs::path();
+    return fs::path(named).is_absolute() ? fs::path(named) : SongPath(named);
+}
+
 } // namespace
 
 bool OpenSampleSong()
 {
     bool isOpen = false;
     GuardedQuietly("Opening the sample song", [&isOpen] {
-        const fs::path file = SongPath(kSampleSong);
-        if (!IsFirstStart() || !FileExists(file) || !LoadQuietly(file))
+        const bool isFirst = IsFirstStart();
+        const fs::path file = SongOfThisStart(isFirst);
+        if (!FileExists(file) || !LoadQuietly(file))
             return;
-        Shared().Song.SongTitle = kSampleSong;
+        Shared().Song.SongTitle = BaseName(file);
         isOpen = true;
     });
     return isOpen;

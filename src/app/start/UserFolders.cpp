@@ -12,6 +12,7 @@
 #include "base/FilePaths.h"
 #include "base/Product.h"
 #include "core/Paths.h"
+#include "core/Settings.h"
 #include "core/Shared.h"
 #include "service/Files.h"
 #include "service/FolderCopies.h"
@@ -63,13 +64,16 @@ bool NeedsFiles(const fs::path& target)
     return !HoldsFile(target) || TheServices().folderCopies->IsUnfinished(target);
 }
 
-/// Fills one folder, or replaces it by the installed one. Returns why a whole folder was not copied; blank if it was,
-/// or if a copy was not worth a try. Shows what was left out of a copy. Throws `WorkStopped`.
+/// Fills one folder, unless a setting forbids it, or replaces it by the installed one. Returns why a whole folder was
+/// not copied; blank if it was, or if a copy was not worth a try. Shows what was left out of a copy. Throws
+/// `WorkStopped`.
 Words Fill(const UserFolder& folder)
 {
     SharedState& shared = Shared();
     const fs::path target = PlaceOf(folder);
     const bool isTried = MayBeFilled(target);
+    if (isTried && IsSetToOne("SkipFirstCopy"))
+        return {};
     const Words failure = isTried ? CopyFolderUntold(shared.InstallRoot / folder.Name, shared.UserRoot) : Words();
     const bool isFilled = isTried && failure.IsBlank();
     const bool isWithoutFiles = !isFilled && !HoldsFile(target);

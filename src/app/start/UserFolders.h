@@ -8,7 +8,7 @@ namespace sprout {
 /// Sets `UserRoot` in `DocumentsFolder` and the folders under it; creates `UserRoot` if missing.
 void SetUserFolders();
 
-/// Copies the installed files into each of the user's folders that holds no file.
+/// Copies the installed files into each of the user's folders that holds no file, unless `SkipFirstCopy` is set.
 ///
 /// A folder that then still holds none because it cannot be made or written is replaced by the installed one, in which
 /// nothing is ever changed. One that holds the user's files is read as it is, even if it cannot be written. Failed

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/Settings.h"
 #include "core/SongModel.h"
 #include "songs/OpenSaveClass.h"
 #include "support/FakeServices.h"
@@ -75,6 +76,50 @@ TEST_F(SampleSong, IsOpenedWhereStartsCannotBeCounted)
     fs::create_directory(CountFile());
     EXPECT_TRUE(OpenSampleSong());
     EXPECT_EQ(Shared().Song.Tempo, kSampleTempo);
+}
+
+class StartSong : public SampleSong {
+protected:
+    static void PutSong(const fs::path& path, std::int32_t tempo)
+    {
+        NewSong();
+        Shared().Song.Tempo = tempo;
+        OpenSaveClass(Flush::No).Save_Song(path);
+        NewSong();
+    }
+};
+
+TEST_F(StartSong, IsOpenedAtEachStartByItsName)
+{
+    PutSong(Shared().UserSongs / "Rain.TqSng", kSampleTempo / 2);
+    PutSetting("General", "StartSong", " Rain ");
+    for (int start = 1; start <= kFirstStarts + 1; ++start) {
+        NewSong();
+        EXPECT_TRUE(OpenSampleSong()) << start;
+        EXPECT_EQ(Shared().Song.SongTitle, "Rain");
+        EXPECT_EQ(Shared().Song.Tempo, kSampleTempo / 2);
+    }
+    EXPECT_EQ(ReadBytes(CountFile()), "3");
+}
+
+TEST_F(StartSong, IsOpenedFromWhereItLies)
+{
+    const fs::path file = fake.folder.Path() / "Monday.TqSng";
+    PutSong(file, kSampleTempo / 2);
+    PutSetting("General", "StartSong", file.native());
+    EXPECT_TRUE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.SongTitle, "Monday");
+    EXPECT_EQ(Shared().Song.Tempo, kSampleTempo / 2);
+}
+
+TEST_F(StartSong, IsTheNewSongWhereItCannotBeOpened)
+{
+    for (const char* missing : {"Gone", "/gone/Rain.TqSng", "../Songs/Zumi"}) {
+        PutSetting("General", "StartSong", missing);
+        EXPECT_FALSE(OpenSampleSong()) << missing;
+        EXPECT_EQ(Shared().Song.SongTitle, "Untitled");
+    }
+    EXPECT_TRUE(fake.messages.shown.empty());
 }
 
 TEST_F(SampleSong, LeavesTheNewSongWithoutAMessageWhereItCannotBeRead)

@@ -7,6 +7,7 @@
 
 #include "base/FilePaths.h"
 #include "core/Paths.h"
+#include "core/Settings.h"
 #include "support/FakeServices.h"
 #include "support/InstalledBeats.h"
 #include "support/UnchangeableFolder.h"
@@ -155,6 +156,26 @@ TEST_F(UserFolders, StayEmptyWhereTheUserStopsTheCopy)
     Begin();
     EXPECT_TRUE(ReadsOnlyOwnOnes());
     EXPECT_TRUE(FoldersThatKeepNothing().IsBlank()) << "what is made is kept";
+}
+
+TEST_F(UserFolders, StayEmptyWhereTheFirstCopyIsSwitchedOff)
+{
+    PutSetting("General", "SkipFirstCopy", "1");
+    Begin();
+    EXPECT_TRUE(ReadsOnlyOwnOnes());
+    EXPECT_TRUE(InstalledBeats::FilesIn(User()).empty());
+    EXPECT_TRUE(FoldersThatKeepNothing().IsBlank());
+    PutSetting("General", "SkipFirstCopy", "0");
+    Begin();
+    EXPECT_FALSE(InstalledBeats::FilesIn(User()).empty());
+}
+
+TEST_F(UserFolders, AreTheInstalledOnesThoughTheFirstCopyIsSwitchedOff)
+{
+    PutSetting("General", "SkipFirstCopy", "1");
+    const UnchangeableFolder locked(Documents());
+    Begin();
+    EXPECT_TRUE(ReadsOnlyInstalledOnes());
 }
 
 TEST_F(UserFolders, StayTheUsersWhereNothingIsInstalled)
