@@ -46,10 +46,6 @@ Please reinstall</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>The file could not be read.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The file could not be read to its end.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2320,6 +2316,10 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
     </message>
     <message>
         <source>%1 Picture %2 of %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you make now cannot be kept here:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -54,8 +54,7 @@ void TellNothingIsKept()
     Guarded([] {
         const Words folders = FoldersThatKeepNothing();
         if (!folders.IsBlank())
-            ShowMessage(Words::Text("What you make now cannot be kept,"),
-                        Words::Text("because nothing can be written to %1.", folders));
+            ShowMessage(Words::Text("What you make now cannot be kept here:"), folders);
     });
 }
 

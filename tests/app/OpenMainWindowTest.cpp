@@ -96,8 +96,8 @@ TEST_F(OpenMainWindowTest, TellsBeforehandThatNothingCanBeKept)
     OpenMainWindow(*window);
     NoteNextMessage(message);
     QCoreApplication::processEvents();
-    EXPECT_EQ(message.line1, QStringLiteral("What you make now cannot be kept,"));
-    EXPECT_EQ(message.line2, QtText("because nothing can be written to " + PathText(songs) + "."));
+    EXPECT_EQ(message.line1, QStringLiteral("What you make now cannot be kept here:"));
+    EXPECT_EQ(message.line2, QtText(PathText(songs)));
 }
 
 TEST_F(OpenMainWindowTest, TellsOnceWhichSongsWereKeptAndWhere)
