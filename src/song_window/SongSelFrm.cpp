@@ -91,15 +91,15 @@ void SongSelFrm::MakeButtons()
         &AddWordButton({"CopyBtn", Words::Later("Copy"),
                         Words::Later("Copy button, select a song and use this button to copy it to make one more"),
                         Plate::Word, kLink, "WordCopy"},
-                       [this] { CopySelectedSong(*SngNmLst); }),
+                       [this] { ChangeSongs(CopySelectedSong); }),
         &AddWordButton({"DeleteBtn", Words::Later("Delete"),
                         Words::Later("Delete button, select a song and use this button to delete it"), Plate::Word,
                         kCoral, "WordDelete"},
-                       [this] { DeleteSelectedSong(*SngNmLst); }),
+                       [this] { ChangeSongs(DeleteSelectedSong); }),
         &AddWordButton({"RenameBtn", Words::Later("Rename"),
                         Words::Later("Rename button, select a song and use this button to change it's name"),
                         Plate::Word, kLink, "WordRename"},
-                       [this] { RenameSelectedSong(*SngNmLst); }),
+                       [this] { ChangeSongs(RenameSelectedSong); }),
         &AddWordButton({"HelpBtn", Words::Later("Help"), LaterWords(), Plate::Word, kBerry, "WordHelp"},
                        [this] { ClickHelp(); })};
     soundFileButtons = {
@@ -181,6 +181,12 @@ void SongSelFrm::TakeSelectedName()
     if (const SongFile* const song = SngNmLst->SelectedSong())
         SetContent(*SongNameTxt, song->Name);
     ShowDeleteBtn();
+}
+
+void SongSelFrm::ChangeSongs(void (*command)(SongList&))
+{
+    command(*SngNmLst);
+    ShowDeleteBtn(); // the list is quiet about a line that it selects itself
 }
 
 void SongSelFrm::ShowDeleteBtn()

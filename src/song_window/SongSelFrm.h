@@ -48,6 +48,7 @@ private:
     void PlaceControls();
 
     void TakeSelectedName();
+    void ChangeSongs(void (*command)(SongList&));
     void ShowDeleteBtn();
     void ClickOk();
     void OpenSelected();

@@ -69,6 +69,20 @@ TEST_F(SongSelFrmTest, HasNoDeleteForASuppliedSongWhereThatIsSwitchedOff)
     }
 }
 
+TEST_F(SongSelFrmTest, HasNoDeleteForTheSuppliedSongBehindADeletedOne)
+{
+    Put({"Mine", "Zumi"});
+    Shared().InstallSongs = songFolder.parent_path() / "installed" / "";
+    std::filesystem::create_directories(Shared().InstallSongs);
+    WriteBytes(Shared().InstallSongs / "Zumi.TqSng", "supplied");
+    PutSetting("General", "HideDeleteSupplied", "1");
+    Open(SongSelMode::Open);
+    List().setCurrentRow(0);
+    ClickAndAnswer("DeleteBtn", "YesBtn");
+    EXPECT_EQ(Selected(), QStringLiteral("Zumi"));
+    EXPECT_FALSE(Part("DeleteBtn").isVisible());
+}
+
 TEST_F(SongSelFrmTest, ShowsANameBoxWithoutSoundFilesForANewSong)
 {
     Open(SongSelMode::New);
