@@ -181,7 +181,7 @@ void OpenWithShell(std::string_view target)
     TheServices().desktop->OpenWithShell(target);
 }
 
-Words CopyFolderUntold(const fs::path& source, const fs::path& destination)
+Words CopyFolder(const fs::path& source, const fs::path& destination)
 {
     const fs::path folder = source.has_filename() ? source : source.parent_path();
     return FillFolder(folder, destination / folder.filename());
@@ -193,14 +193,6 @@ void TellFailedCopy(const fs::path& source, const Words& failure)
         Words::Text("Error message"),
         Words::Text("Following error occurd while copying folder %1\r\n%2", PathText(source), failure),
         MessageIcon::Exclamation);
-}
-
-bool CopyFolder(const fs::path& source, const fs::path& destination)
-{
-    const Words failure = CopyFolderUntold(source, destination);
-    if (!failure.IsBlank())
-        TellFailedCopy(source, failure);
-    return failure.IsBlank();
 }
 
 bool IsOfInstallation(const fs::path& file)

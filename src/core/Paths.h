@@ -34,12 +34,9 @@ void OpenWithShell(std::string_view target);
 
 /// Copies a folder and its contents into `destination`, under its own name, with the files' times, unless a plain file
 /// is already there; existing files stay. The copy appears completely or not at all: see `FolderCopies`. Longer copies
-/// show their progress, and the user may stop them: throws `WorkStopped`. Failures are shown in one message and give
-/// false.
-bool CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
-
-/// The same, but shows no failure: returns why something was not copied; blank if everything was.
-[[nodiscard]] Words CopyFolderUntold(const std::filesystem::path& source, const std::filesystem::path& destination);
+/// show their progress, and the user may stop them: throws `WorkStopped`. Returns why something was not copied; blank
+/// if everything was.
+[[nodiscard]] Words CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
 
 /// Shows why a folder, or a part of it, was not copied.
 void TellFailedCopy(const std::filesystem::path& source, const Words& failure);

@@ -71,17 +71,22 @@ Words Fill(const UserFolder& folder)
 {
     SharedState& shared = Shared();
     const fs::path target = PlaceOf(folder);
-    const bool isTried = MayBeFilled(target);
-    if (isTried && IsSetToOne("SkipFirstCopy"))
-        return {};
-    const Words failure = isTried ? CopyFolderUntold(shared.InstallRoot / folder.Name, shared.UserRoot) : Words();
-    const bool isFilled = isTried && failure.IsBlank();
-    const bool isWithoutFiles = !isFilled && !HoldsFile(target);
-    if (isWithoutFiles && HoldsFile(shared.*folder.Installed))
-        shared.*folder.User = shared.*folder.Installed;
-    if (!isWithoutFiles && !failure.IsBlank())
+    Words failure;
+    if (MayBeFilled(target)) {
+        if (IsSetToOne("SkipFirstCopy"))
+            return {};
+        failure = CopyFolder(shared.InstallRoot / folder.Name, shared.UserRoot);
+        if (failure.IsBlank())
+            return {};
+    }
+    if (!HoldsFile(target)) {
+        if (HoldsFile(shared.*folder.Installed))
+            shared.*folder.User = shared.*folder.Installed;
+        return failure;
+    }
+    if (!failure.IsBlank())
         TellFailedCopy(shared.InstallRoot / folder.Name, failure);
-    return isWithoutFiles ? failure : Words();
+    return {};
 }
 
 } // namespace
