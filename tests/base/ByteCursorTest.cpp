@@ -48,6 +48,31 @@ TEST(FileSource, ReadsAnyPartOfAFile)
     EXPECT_THROW(source.Read(~std::uint64_t{0}, std::as_writable_bytes(std::span(part))), RunTimeError);
 }
 
+TEST(FileSource, ReadsLargePartsWholeFromAnyPlace)
+{
+    constexpr std::size_t size = 13 * 1024 * 1024 + 7;
+    const TestFolder folder;
+    const std::string letters = Letters(size);
+    WriteBytes(folder.Path() / "f", letters);
+    FileSource source(folder.Path() / "f");
+    for (const std::size_t begin : {std::size_t{0}, std::size_t{3}, std::size_t{4 * 1024 * 1024}}) {
+        std::string part(size - begin, '?');
+        source.Read(begin, std::as_writable_bytes(std::span(part)));
+        EXPECT_TRUE(part == letters.substr(begin)) << begin; // not EXPECT_EQ, which would print both
+    }
+}
+
+TEST(FileSource, TellsWhenALargePartIsCutOff)
+{
+    constexpr std::size_t size = 13 * 1024 * 1024;
+    const TestFolder folder;
+    WriteBytes(folder.Path() / "f", Letters(size));
+    FileSource source(folder.Path() / "f");
+    std::filesystem::resize_file(folder.Path() / "f", size - 1);
+    std::string part(size, '?');
+    EXPECT_THROW(source.Read(0, std::as_writable_bytes(std::span(part))), RunTimeError);
+}
+
 TEST(FileSource, RefusesWhatIsNoPlainFile)
 {
     const TestFolder folder;
@@ -58,7 +83,7 @@ TEST(FileSource, RefusesWhatIsNoPlainFile)
     EXPECT_THROW(FileSource(""), RunTimeError);
 }
 
-TEST(FileSource, TellsAPlaceThatCannotBeReached)
+TEST(FileSource, TellsWhenTheDeviceFails)
 {
     const TestFolder folder;
     WriteBytes(folder.Path() / "f", "0123456789");
@@ -66,7 +91,7 @@ TEST(FileSource, TellsAPlaceThatCannotBeReached)
         FileSource source(folder.Path() / "f");
         std::array<std::byte, 2> bytes{};
         source.Read(4, bytes);
-        if (!RefuseCall(SYS_lseek, EIO))
+        if (!RefuseCall(SYS_pread64, EIO))
             return false;
         try {
             source.Read(1, bytes);
@@ -74,7 +99,7 @@ TEST(FileSource, TellsAPlaceThatCannotBeReached)
         } catch (const RunTimeError&) {
             return true;
         }
-    })) << "it reads on from where it stands";
+    }));
 }
 
 TEST(FileSource, TellsWhenTheFileGrewShorter)
