@@ -33,15 +33,13 @@ struct Pair {
 // The last bit of a transform depends on the order in which these add. It is the one that all sounds of the library
 // were made with, so it stays.
 
-template <typename Factor>
-inline Complex4 Times(Complex4 a, Factor factor)
+inline Complex4 Times(Complex4 a, Complex4 factor)
 {
     return {a.re * factor.re - a.im * factor.im, a.re * factor.im + a.im * factor.re};
 }
 
 /// a and b x factor.
-template <typename Factor>
-inline Pair AddTurned(Complex4 a, Complex4 b, Factor factor)
+inline Pair AddTurned(Complex4 a, Complex4 b, Complex4 factor)
 {
     const Float4 re = b.re * factor.re;
     const Float4 im = b.im * factor.im;
@@ -50,8 +48,7 @@ inline Pair AddTurned(Complex4 a, Complex4 b, Factor factor)
 }
 
 /// The same, subtracting before it adds.
-template <typename Factor>
-inline Pair AddTurnedLast(Complex4 a, Complex4 b, Factor factor)
+inline Pair AddTurnedLast(Complex4 a, Complex4 b, Complex4 factor)
 {
     const Float4 re = b.re * factor.re;
     const Float4 im = b.im * factor.im;
@@ -80,7 +77,7 @@ FftBatch::Tables FftBatch::MakeTables(Index half, double direction)
 {
     const auto factor = [direction](double turn) {
         const double phase = direction * 2 * std::numbers::pi * turn;
-        return Factor{static_cast<float>(std::cos(phase)), static_cast<float>(std::sin(phase))};
+        return Complex4{Float4{} + static_cast<float>(std::cos(phase)), Float4{} + static_cast<float>(std::sin(phase))};
     };
     const auto twiddles = [factor](double turn) { return Twiddles{factor(turn), factor(2 * turn), factor(3 * turn)}; };
     Tables tables;
@@ -161,7 +158,7 @@ void FftBatch::Forward(std::span<const Complex4> blocks, std::span<Complex4> spe
     spectra.back() = {first.re - first.im, Float4{}};
     Complex4* up = spectra.data();
     Complex4* down = spectra.data() + half;
-    for (const Factor& factor : forward.real) {
+    for (const Complex4& factor : forward.real) {
         ++up;
         --down;
         const Complex4 mirrored = Conjugate(*down);
@@ -179,7 +176,7 @@ void FftBatch::Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks) 
     spectra.front() = {first + last, first - last};
     Complex4* up = spectra.data();
     Complex4* down = spectra.data() + half;
-    for (const Factor& factor : inverse.real) {
+    for (const Complex4& factor : inverse.real) {
         ++up;
         --down;
         const Complex4 mirrored = Conjugate(*down);

@@ -31,18 +31,15 @@ public:
     void Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks) const;
 
 private:
-    struct Factor {
-        float re;
-        float im;
-    };
-    /// The factors of the last three of a butterfly's four inputs.
-    using Twiddles = std::array<Factor, 3>;
+    /// The factors of the last three of a butterfly's four inputs, each in all four lanes already: to spread one takes
+    /// the place of an addition, of which there are most.
+    using Twiddles = std::array<Complex4, 3>;
 
     /// What a transform multiplies with in one direction.
     struct Tables {
         std::vector<std::vector<Twiddles>> levels; // from the whole transform down to its parts of 16 or 32
         Twiddles eighths;                          // of the parts of eight
-        std::vector<Factor> real;                  // of bins 1 to half / 2, between the half and the whole size
+        std::vector<Complex4> real;                // of bins 1 to half / 2, between the half and the whole size
         Index second = 1; // where a butterfly's second result goes; the fourth goes to 4 - second
     };
 
