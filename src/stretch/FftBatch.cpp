@@ -57,13 +57,25 @@ inline Pair AddTurnedLast(Complex4 a, Complex4 b, Complex4 factor)
 }
 
 /// Writes a transform of four numbers, of which the even and the odd ones are already added and subtracted, to places
-/// that are `length` apart.
+/// that are `length` apart. Without the last of them, the second result must be meant for it.
+template <UsedPart Used>
 inline void WriteFour(Pair even, Pair odd, Complex4* out, Index length, Index second)
 {
     out[0] = even.sum + odd.sum;
-    out[second * length] = {even.difference.re + odd.difference.im, even.difference.im - odd.difference.re};
+    if constexpr (Used == UsedPart::Whole)
+        out[second * length] = {even.difference.re + odd.difference.im, even.difference.im - odd.difference.re};
     out[2 * length] = even.sum - odd.sum;
     out[(4 - second) * length] = {even.difference.re - odd.difference.im, even.difference.im + odd.difference.re};
+}
+
+/// The sum and the difference of a number and one that may be known to be zero.
+template <UsedPart Used>
+inline Pair AddLast(Complex4 a, const Complex4* b)
+{
+    if constexpr (Used == UsedPart::Whole)
+        return {a + *b, a - *b};
+    else
+        return {a, a};
 }
 
 } // namespace
@@ -93,66 +105,81 @@ FftBatch::Tables FftBatch::MakeTables(Index half, double direction)
     return tables;
 }
 
-void FftBatch::TransformFour(const Complex4* in, Index step, Complex4* out, Index length, Index second)
+template <UsedPart Used>
+void FftBatch::TransformFour(const Complex4* in, Index step, Complex4* out, Index second)
 {
     const Complex4 a = in[0];
-    const Complex4 b = in[step];
     const Complex4 c = in[2 * step];
-    const Complex4 d = in[3 * step];
-    WriteFour({a + c, a - c}, {b + d, b - d}, out, length, second);
+    WriteFour<UsedPart::Whole>({a + c, a - c}, AddLast<Used>(in[step], in + 3 * step), out, 1, second);
 }
 
+template <UsedPart Used>
 void FftBatch::TransformEight(const Tables& tables, const Complex4* in, Index step, Complex4* out)
 {
-    const auto two = [in, step](Index i) {
-        return Pair{in[i * step] + in[(i + 4) * step], in[i * step] - in[(i + 4) * step]};
-    };
-    const Pair a = two(0);
-    const Pair b = two(1);
-    const Pair c = two(2);
-    const Pair d = two(3);
+    const Pair a{in[0] + in[4 * step], in[0] - in[4 * step]};
+    const Pair b{in[step] + in[5 * step], in[step] - in[5 * step]};
+    const Pair c = AddLast<Used>(in[2 * step], in + 6 * step);
+    const Pair d = AddLast<Used>(in[3 * step], in + 7 * step);
     const auto& [factorB, factorC, factorD] = tables.eighths;
-    WriteFour({a.sum + c.sum, a.sum - c.sum}, {b.sum + d.sum, b.sum - d.sum}, out, 2, tables.second);
-    WriteFour(AddTurned(a.difference, c.difference, factorC),
-              AddTurnedLast(Times(b.difference, factorB), d.difference, factorD), out + 1, 2, tables.second);
+    constexpr UsedPart all = UsedPart::Whole;
+    WriteFour<all>({a.sum + c.sum, a.sum - c.sum}, {b.sum + d.sum, b.sum - d.sum}, out, 2, tables.second);
+    WriteFour<all>(AddTurned(a.difference, c.difference, factorC),
+                   AddTurnedLast(Times(b.difference, factorB), d.difference, factorD), out + 1, 2, tables.second);
 }
 
 /// Makes one spectrum of four, each as long as `level`, that lie one after the other.
+template <UsedPart Used>
 void FftBatch::Combine(const std::vector<Twiddles>& level, Complex4* parts, Index second)
 {
     const auto length = static_cast<Index>(level.size());
-    TransformFour(parts, length, parts, length, second); // with factors of 1
+    const Complex4 a = parts[0]; // the first have factors of 1
+    const Complex4 b = parts[length];
+    const Complex4 c = parts[2 * length];
+    const Complex4 d = parts[3 * length];
+    WriteFour<Used>({a + c, a - c}, {b + d, b - d}, parts, length, second);
     for (Index i = 1; i < length; ++i) {
         Complex4* const here = parts + i;
-        const auto& [b, c, d] = level[static_cast<std::size_t>(i)];
-        WriteFour(AddTurned(here[0], here[2 * length], c), AddTurnedLast(Times(here[length], b), here[3 * length], d),
-                  here, length, second);
+        const auto& [factorB, factorC, factorD] = level[static_cast<std::size_t>(i)];
+        WriteFour<Used>(AddTurned(here[0], here[2 * length], factorC),
+                        AddTurnedLast(Times(here[length], factorB), here[3 * length], factorD), here, length, second);
     }
 }
 
-/// Transforms the numbers at each `step`-th place of `in`. The parts of one quarter are whole before the next begins,
-/// so they stay in the first-level cache.
-void FftBatch::Transform(const Tables& tables, std::size_t depth, const Complex4* in, Index step, Complex4* out)
+/// Transforms four parts of the numbers at each `step`-th place of `in`. The parts of one quarter are whole before the
+/// next begins, so they stay in the first-level cache.
+template <UsedPart Used>
+void FftBatch::TransformParts(const Tables& tables, std::size_t depth, const Complex4* in, Index step, Complex4* out)
 {
-    const std::vector<Twiddles>& level = tables.levels[depth];
-    const auto length = static_cast<Index>(level.size());
+    const auto length = static_cast<Index>(tables.levels[depth].size());
     for (Index part = 0; part < 4; ++part) {
         Complex4* const to = out + part * length;
         const Complex4* const from = in + part * step;
-        if (length > 8)
-            Transform(tables, depth + 1, from, 4 * step, to);
-        else if (length == 8)
-            TransformEight(tables, from, 4 * step, to);
-        else
-            TransformFour(from, 4 * step, to, 1, tables.second);
+        if (length > 8) {
+            TransformParts<Used>(tables, depth + 1, from, 4 * step, to);
+            Combine<UsedPart::Whole>(tables.levels[depth + 1], to, tables.second);
+        } else if (length == 8) {
+            TransformEight<Used>(tables, from, 4 * step, to);
+        } else {
+            TransformFour<Used>(from, 4 * step, to, tables.second);
+        }
     }
-    Combine(level, out, tables.second);
 }
 
-void FftBatch::Forward(std::span<const Complex4> blocks, std::span<Complex4> spectra) const
+template <UsedPart In, UsedPart Out>
+void FftBatch::Transform(const Tables& tables, const Complex4* in, Complex4* out)
 {
+    TransformParts<In>(tables, 0, in, 1, out);
+    Combine<Out>(tables.levels.front(), out, tables.second);
+}
+
+void FftBatch::Forward(std::span<const Complex4> blocks, std::span<Complex4> spectra, UsedPart used) const
+{
+    using enum UsedPart;
     assert(std::ssize(blocks) == half && std::ssize(spectra) == Bins());
-    Transform(forward, 0, blocks.data(), 1, spectra.data());
+    if (used == Whole)
+        Transform<Whole, Whole>(forward, blocks.data(), spectra.data());
+    else
+        Transform<ThreeQuarters, Whole>(forward, blocks.data(), spectra.data());
     const Complex4 first = spectra.front();
     spectra.front() = {first.re + first.im, Float4{}};
     spectra.back() = {first.re - first.im, Float4{}};
@@ -168,8 +195,9 @@ void FftBatch::Forward(std::span<const Complex4> blocks, std::span<Complex4> spe
     }
 }
 
-void FftBatch::Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks) const
+void FftBatch::Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks, UsedPart used) const
 {
+    using enum UsedPart;
     assert(std::ssize(blocks) == half && std::ssize(spectra) == Bins());
     const Float4 first = spectra.front().re;
     const Float4 last = spectra.back().re;
@@ -184,7 +212,10 @@ void FftBatch::Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks) 
         *up = sum;
         *down = Conjugate(difference);
     }
-    Transform(inverse, 0, spectra.data(), 1, blocks.data());
+    if (used == Whole)
+        Transform<Whole, Whole>(inverse, spectra.data(), blocks.data());
+    else
+        Transform<Whole, ThreeQuarters>(inverse, spectra.data(), blocks.data());
 }
 
 const FftBatch& FftBatchOfSize(Index size)

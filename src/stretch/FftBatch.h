@@ -10,6 +10,10 @@
 
 namespace sprout::stretch {
 
+/// How much of a block is used. The rest is taken for silence on the way to the spectrum, whatever it holds, and has no
+/// meaning on the way back.
+enum class UsedPart { Whole, ThreeQuarters };
+
 /// Fourier transforms of four real blocks of one size at once, one in each lane.
 ///
 /// A radix-4 transform, decimated in time, of half the size: even samples are its real parts, odd ones its imaginary
@@ -24,11 +28,11 @@ public:
     [[nodiscard]] Index Bins() const { return half + 1; }
 
     /// blocks: Size() / 2 pairs of samples; spectra: Bins() bins, from 0 to half the rate, not scaled.
-    void Forward(std::span<const Complex4> blocks, std::span<Complex4> spectra) const;
+    void Forward(std::span<const Complex4> blocks, std::span<Complex4> spectra, UsedPart used = UsedPart::Whole) const;
 
     /// The inverse, Size() times too large: forward and inverse together multiply by Size(). The content of `spectra`
     /// is lost.
-    void Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks) const;
+    void Inverse(std::span<Complex4> spectra, std::span<Complex4> blocks, UsedPart used = UsedPart::Whole) const;
 
 private:
     /// The factors of the last three of a butterfly's four inputs, each in all four lanes already: to spread one takes
@@ -44,10 +48,16 @@ private:
     };
 
     static Tables MakeTables(Index half, double direction);
-    static void TransformFour(const Complex4* in, Index step, Complex4* out, Index length, Index second);
+    template <UsedPart>
+    static void TransformFour(const Complex4* in, Index step, Complex4* out, Index second);
+    template <UsedPart>
     static void TransformEight(const Tables& tables, const Complex4* in, Index step, Complex4* out);
+    template <UsedPart>
     static void Combine(const std::vector<Twiddles>& level, Complex4* parts, Index second);
-    static void Transform(const Tables& tables, std::size_t depth, const Complex4* in, Index step, Complex4* out);
+    template <UsedPart>
+    static void TransformParts(const Tables& tables, std::size_t depth, const Complex4* in, Index step, Complex4* out);
+    template <UsedPart In, UsedPart Out>
+    static void Transform(const Tables& tables, const Complex4* in, Complex4* out);
 
     Index half;
     Tables forward;

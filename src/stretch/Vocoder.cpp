@@ -51,6 +51,7 @@ Vocoder::Vocoder(Index window, std::vector<float> binGains)
     : hop(window / kOverlap),
       fft(FftBatchOfSize(FftSizeFor(window))),
       shape(HannWindow(window)),
+      used(4 * window == 3 * fft.Size() ? UsedPart::ThreeQuarters : UsedPart::Whole),
       gains(UsedGains(std::move(binGains))),
       passesAll(std::ssize(gains) == fft.Bins() && std::count(gains.begin(), gains.end(), 1.0F) == fft.Bins()),
       phases(std::ssize(gains), fft.Bins()),
@@ -68,8 +69,8 @@ void Vocoder::Analyse(std::span<const float> sound, const FourPlaces& places, In
     FourPlaces firsts = places;
     for (Index& first : firsts)
         first += shift - std::ssize(shape) / 2;
-    WindowBlocks(sound, firsts, shape, blocks);
-    fft.Forward(blocks, spectra);
+    WindowBlocks(sound, firsts, shape, used == UsedPart::Whole ? blocks : std::span(blocks).first(shape.size() / 2));
+    fft.Forward(blocks, spectra, used);
 }
 
 void Vocoder::Weaken(std::span<Complex4> spectra) const
@@ -115,7 +116,7 @@ void Vocoder::AddStretched(std::span<const float> sound, const TimeMap& map, std
         Analyse(sound, places, -hop, before);
         phases.Turn(frames, before);
         Weaken(frames);
-        fft.Inverse(frames, blocks);
+        fft.Inverse(frames, blocks, used);
         SplitBlocks(blocks, rows);
         for (std::size_t lane = 0; lane < kLanes; ++lane)
             if (const Index at = out + static_cast<Index>(lane) * hop; reaches(at))

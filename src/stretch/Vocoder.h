@@ -45,6 +45,7 @@ private:
     Index hop;
     const FftBatch& fft;
     std::span<const float> shape; // of the window
+    UsedPart used;                // of each block, by the window
     std::vector<float> gains;     // of the bins that are used
     bool passesAll;
     PhaseLock phases;

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <complex>
 #include <thread>
 
@@ -85,6 +86,38 @@ TEST(FftBatch, ReturnsTheBlocksTimesTheirSizeAfterBothWays)
         for (std::size_t i = 0; i < static_cast<std::size_t>(size); ++i)
             for (std::size_t lane = 0; lane < kLanes; ++lane)
                 ASSERT_NEAR(SampleOf(back, i, lane) / static_cast<float>(size), SampleOf(blocks, i, lane), 0.02) << i;
+    }
+}
+
+TEST(FftBatch, TakesTheUnusedPartOfABlockForSilence)
+{
+    for (const Index size : {64, 128, 512, 4096}) {
+        const std::vector<Complex4> blocks = NoiseBlocks(size);
+        std::vector<Complex4> silent = blocks;
+        std::fill(silent.end() - size / 8, silent.end(), Complex4{});
+        const std::vector<Complex4> expected = SpectraOf(silent);
+        std::vector<Complex4> spectra(expected.size());
+        FftBatch(size).Forward(blocks, spectra, UsedPart::ThreeQuarters);
+        for (std::size_t bin = 0; bin < spectra.size(); ++bin)
+            for (std::size_t lane = 0; lane < kLanes; ++lane) {
+                ASSERT_EQ(spectra[bin].re[lane], expected[bin].re[lane]) << size << " " << bin;
+                ASSERT_EQ(spectra[bin].im[lane], expected[bin].im[lane]) << size << " " << bin;
+            }
+    }
+}
+
+TEST(FftBatch, GivesTheUsedPartOfABlockTheSameBitsAsInTheWhole)
+{
+    for (const Index size : {64, 128, 512, 4096}) {
+        std::vector<Complex4> spectra = SpectraOf(NoiseBlocks(size));
+        std::vector<Complex4> copy = spectra;
+        std::vector<Complex4> whole(spectra.size() - 1);
+        std::vector<Complex4> part(whole.size());
+        FftBatch(size).Inverse(spectra, whole);
+        FftBatch(size).Inverse(copy, part, UsedPart::ThreeQuarters);
+        for (std::size_t i = 0; i < static_cast<std::size_t>(size) * 3 / 4; ++i)
+            for (std::size_t lane = 0; lane < kLanes; ++lane)
+                ASSERT_EQ(SampleOf(part, i, lane), SampleOf(whole, i, lane)) << size << " " << i;
     }
 }
 
