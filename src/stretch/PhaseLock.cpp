@@ -41,6 +41,7 @@ PhaseLock::PhaseLock(Index usedBins, Index bins)
     : power(static_cast<std::size_t>(std::min(usedBins + 2, bins))),
       regions(std::ssize(power)),
       turnsAnew(power.size()),
+      regionAt(static_cast<std::size_t>(usedBins)),
       newTurns(power.size()),
       last(static_cast<std::size_t>(usedBins))
 {
@@ -50,6 +51,7 @@ void PhaseLock::Turn(std::span<Complex4> frames, std::span<const Complex4> befor
 {
     MeasurePower(frames);
     regions.Find(power);
+    NumberRegions();
     for (std::size_t lane = 0; lane < kLanes; ++lane)
         ListTurns(lane, frames, before);
     Apply(frames);
@@ -59,6 +61,21 @@ void PhaseLock::MeasurePower(std::span<const Complex4> frames)
 {
     for (std::size_t bin = 0; bin < power.size(); ++bin)
         power[bin] = frames[bin].re * frames[bin].re + frames[bin].im * frames[bin].im;
+}
+
+/// Tells in which region each bin lies, in one pass over all lanes: a search among the regions of one lane for each
+/// peak of the next would often be mispredicted.
+void PhaseLock::NumberRegions()
+{
+    turnsAnew[0] = Int4{} - 1; // a frame without a peak turns as one region, too
+    for (std::size_t lane = 0; lane < kLanes; ++lane)
+        for (std::size_t i = 1; i < regions.InLane(lane).size(); ++i)
+            turnsAnew[static_cast<std::size_t>(regions.InLane(lane)[i].first)][lane] = -1;
+    Int4 number = Int4{} - 1;
+    for (std::size_t bin = 0; bin < regionAt.size(); ++bin) {
+        number -= turnsAnew[bin];
+        regionAt[bin] = number;
+    }
 }
 
 /// Lists by how much each region of a frame turns. A frame without a peak keeps
@@ -74,7 +91,6 @@ void PhaseLock::ListTurns(std::size_t lane, std::span<const Complex4> frames, st
     for (std::size_t i = 0; i < count; ++i) {
         const auto bin = i == 0 ? 0 : static_cast<std::size_t>(found[i].first);
         const Bin turn = TurnOf(turns[lane], i);
-        turnsAnew[bin][lane] = -1;
         newTurns[bin].re[lane] = turn.real();
         newTurns[bin].im[lane] = turn.imag();
     }
@@ -86,18 +102,15 @@ void PhaseLock::ListTurns(std::size_t lane, std::span<const Complex4> frames, st
 void PhaseLock::Follow(std::size_t lane, std::span<const Complex4> frames, std::span<const Complex4> before)
 {
     const std::span<const PeakRegion> found = regions.InLane(lane);
-    std::size_t covering = 0;
+    const auto soundingAt = [&](Index peak) {
+        if (lane == 0)
+            return last[static_cast<std::size_t>(peak)];
+        const auto region = static_cast<std::size_t>(regionAt[static_cast<std::size_t>(peak)][lane - 1]);
+        return Times(BinOf(frames, peak, lane - 1), TurnOf(turns[lane - 1], region));
+    };
     for (std::size_t i = 0; i < found.size(); ++i) {
         const Index peak = found[i].peak;
-        Bin sounding;
-        if (lane == 0) {
-            sounding = last[static_cast<std::size_t>(peak)];
-        } else {
-            const std::span<const PeakRegion> previous = regions.InLane(lane - 1);
-            while (covering + 1 < previous.size() && previous[covering + 1].first <= peak)
-                ++covering;
-            sounding = Times(BinOf(frames, peak, lane - 1), TurnOf(turns[lane - 1], covering));
-        }
+        const Bin sounding = soundingAt(peak);
         const Bin turn = Times(sounding, std::conj(BinOf(before, peak, lane)));
         turns[lane][i / kLanes].re[i % kLanes] = turn.real();
         turns[lane][i / kLanes].im[i % kLanes] = turn.imag();

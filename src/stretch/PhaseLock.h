@@ -37,6 +37,7 @@ private:
     using Turns = std::vector<Complex4>;
 
     void MeasurePower(std::span<const Complex4> frames);
+    void NumberRegions();
     void ListTurns(std::size_t lane, std::span<const Complex4> frames, std::span<const Complex4> before);
     void Follow(std::size_t lane, std::span<const Complex4> frames, std::span<const Complex4> before);
     void Apply(std::span<Complex4> frames);
@@ -46,6 +47,7 @@ private:
     PeakRegions regions;
     std::array<Turns, kLanes> turns;
     std::vector<Int4> turnsAnew;           // -1 in the lanes whose turn changes at a bin
+    std::vector<Int4> regionAt;            // the number of the region at each used bin
     std::vector<Complex4> newTurns;        // from that bin on
     std::vector<std::complex<float>> last; // the frame before the four
 };

@@ -63,6 +63,26 @@ TEST(PhaseLock, TurnsEachPeakAsFarAsItTurnedBetweenTheAnalyses)
     EXPECT_NEAR(std::abs(At(frames, 5, 3)), 1000, 0.01);
 }
 
+TEST(PhaseLock, FollowsAPeakFromTheRegionInWhichItLay)
+{
+    PhaseLock phases(kBins, kBins);
+    std::vector<Complex4> frames = TwoPeaks({1, 0}, std::polar(1.0F, 0.5F));
+    std::vector<Complex4> before = TwoPeaks(std::polar(1.0F, -0.3F), std::polar(1.0F, 1.5F));
+    // The third frame has one peak between the two, which turns by 0.2.
+    for (std::size_t bin = 0; bin < kBins; ++bin) {
+        const float distance = static_cast<float>(bin) - 12;
+        const Bin value = std::polar(1000 / (1 + distance * distance), 0.2F);
+        frames[bin].re[2] = value.real();
+        frames[bin].im[2] = value.imag();
+        before[bin].re[2] = std::abs(value);
+        before[bin].im[2] = 0;
+    }
+    phases.Turn(frames, before);
+    EXPECT_NEAR(Phase(frames, 12, 1), 0.5 - 1, 1e-5);
+    EXPECT_NEAR(Phase(frames, 12, 2), 0.5 - 1 + 0.2, 1e-5);
+    EXPECT_NEAR(Phase(frames, 5, 2), 0.5 - 1 + 0.2, 1e-5);
+}
+
 TEST(PhaseLock, GoesOnFromTheLastFrameOfTheFourBefore)
 {
     PhaseLock phases(kBins, kBins);
