@@ -74,12 +74,13 @@ inline void StoreFour(Float4 four, float* to)
 }
 
 /// Exchanges rows and columns: lane j of the i-th becomes lane i of the j-th.
-inline void Transpose(Float4& a, Float4& b, Float4& c, Float4& d)
+template <typename Four>
+inline void Transpose(Four& a, Four& b, Four& c, Four& d)
 {
-    const Float4 lowAb = __builtin_shufflevector(a, b, 0, 4, 1, 5);
-    const Float4 highAb = __builtin_shufflevector(a, b, 2, 6, 3, 7);
-    const Float4 lowCd = __builtin_shufflevector(c, d, 0, 4, 1, 5);
-    const Float4 highCd = __builtin_shufflevector(c, d, 2, 6, 3, 7);
+    const Four lowAb = __builtin_shufflevector(a, b, 0, 4, 1, 5);
+    const Four highAb = __builtin_shufflevector(a, b, 2, 6, 3, 7);
+    const Four lowCd = __builtin_shufflevector(c, d, 0, 4, 1, 5);
+    const Four highCd = __builtin_shufflevector(c, d, 2, 6, 3, 7);
     a = __builtin_shufflevector(lowAb, lowCd, 0, 1, 4, 5);
     b = __builtin_shufflevector(lowAb, lowCd, 2, 3, 6, 7);
     c = __builtin_shufflevector(highAb, highCd, 0, 1, 4, 5);

@@ -2,6 +2,7 @@
 #include "stretch/PeakRegions.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace sprout::stretch {
 namespace {
@@ -9,6 +10,28 @@ namespace {
 // The side lobes of a Hann window fall with the sixth power of the distance; in bins of a transform a third longer than
 // the window this lies 6 dB above them.
 constexpr float kSkirt = 2.25F;
+
+/// Those of four consecutive bins that are wanted, one behind the other.
+struct Wanted {
+    alignas(Int4) std::array<std::int32_t, kLanes> bins{};
+    std::size_t count = 0;
+};
+
+/// For each combination of four bits, one for each of the bins.
+constexpr std::array<Wanted, 16> kWanted = [] {
+    std::array<Wanted, 16> all{};
+    for (unsigned bits = 0; bits < all.size(); ++bits)
+        for (int bin = 0; bin < kLanes; ++bin)
+            if ((bits >> bin & 1U) != 0)
+                all[bits].bins[all[bits].count++] = bin;
+    return all;
+}();
+
+/// -1 in the lanes in which a bin is above its neighbours.
+inline Int4 IsHigh(const Float4* bin)
+{
+    return (bin[0] > bin[-1]) & (bin[0] >= bin[1]) & (bin[0] > bin[-2]) & (bin[0] >= bin[2]);
+}
 
 bool IsHidden(float weak, float strong, Index distance)
 {
@@ -38,22 +61,37 @@ struct Lowest {
 PeakRegions::PeakRegions(Index bins) : atPeak(static_cast<std::size_t>(bins)), lowest(static_cast<std::size_t>(bins))
 {
     for (std::vector<std::int32_t>& lane : highBins)
-        lane.resize(static_cast<std::size_t>(bins));
+        lane.resize(static_cast<std::size_t>(bins) + kLanes); // four are written at once
 }
 
-/// Lists the bins above their neighbours. Every bin is written and only counted if it is one, because a branch would
-/// often be mispredicted.
+/// Adds those of the four bins from `first` on whose bits are set.
+inline void PeakRegions::AddHighBins(std::size_t lane, std::size_t first, unsigned bits)
+{
+    const Wanted& wanted = kWanted[bits];
+    Int4 bins;
+    std::memcpy(&bins, wanted.bins.data(), sizeof bins);
+    bins += static_cast<std::int32_t>(first);
+    std::memcpy(highBins[lane].data() + highBinCounts[lane], &bins, sizeof bins);
+    highBinCounts[lane] += wanted.count;
+}
+
+/// Lists the bins above their neighbours, four bins of a lane at once and without a branch, which would often be
+/// mispredicted: all places of a list are written, and those count that belong to it.
 void PeakRegions::FindHighBins(std::span<const Float4> power)
 {
     highBinCounts = {};
-    for (std::size_t bin = 2; bin + 2 < power.size(); ++bin) {
+    std::size_t bin = 2;
+    for (; bin + kLanes + 1 < power.size(); bin += kLanes) {
         const Float4* const here = power.data() + bin;
-        const unsigned high =
-            LaneBits((here[0] > here[-1]) & (here[0] >= here[1]) & (here[0] > here[-2]) & (here[0] >= here[2]));
-        for (std::size_t lane = 0; lane < kLanes; ++lane) {
-            highBins[lane][highBinCounts[lane]] = static_cast<std::int32_t>(bin);
-            highBinCounts[lane] += high >> lane & 1U;
-        }
+        std::array high{IsHigh(here), IsHigh(here + 1), IsHigh(here + 2), IsHigh(here + 3)};
+        Transpose(high[0], high[1], high[2], high[3]);
+        for (std::size_t lane = 0; lane < kLanes; ++lane)
+            AddHighBins(lane, bin, LaneBits(high[lane]));
+    }
+    for (; bin + 2 < power.size(); ++bin) {
+        const unsigned high = LaneBits(IsHigh(power.data() + bin));
+        for (std::size_t lane = 0; lane < kLanes; ++lane)
+            AddHighBins(lane, bin, high >> lane & 1U);
     }
 }
 
@@ -62,13 +100,16 @@ void PeakRegions::KeepPeaks(std::span<const Float4> power, std::size_t lane)
 {
     const auto powerAt = [power, lane](Index bin) { return power[static_cast<std::size_t>(bin)][lane]; };
     std::vector<PeakRegion>& peaks = regions[lane];
-    peaks.clear();
+    peaks.resize(highBinCounts[lane]);
+    std::size_t count = 0;
     for (const std::int32_t bin : std::span(highBins[lane]).first(highBinCounts[lane])) {
-        while (!peaks.empty() && IsHidden(powerAt(peaks.back().peak), powerAt(bin), bin - peaks.back().peak))
-            peaks.pop_back();
-        if (peaks.empty() || !IsHidden(powerAt(bin), powerAt(peaks.back().peak), bin - peaks.back().peak))
-            peaks.push_back({.first = 0, .peak = bin, .end = std::ssize(power)});
+        const float here = powerAt(bin);
+        while (count > 0 && IsHidden(powerAt(peaks[count - 1].peak), here, bin - peaks[count - 1].peak))
+            --count;
+        if (count == 0 || !IsHidden(here, powerAt(peaks[count - 1].peak), bin - peaks[count - 1].peak))
+            peaks[count++] = {.first = 0, .peak = bin, .end = std::ssize(power)};
     }
+    peaks.resize(count);
 }
 
 /// Finds the lowest bin between two peaks: one pass over the bins of all lanes, which start anew at their peaks.

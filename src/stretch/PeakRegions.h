@@ -36,6 +36,7 @@ public:
 
 private:
     void FindHighBins(std::span<const Float4> power);
+    void AddHighBins(std::size_t lane, std::size_t first, unsigned bits);
     void KeepPeaks(std::span<const Float4> power, std::size_t lane);
     void FindBorders(std::span<const Float4> power);
 

@@ -37,6 +37,18 @@ TEST(PeakRegions, WantsAPeakAboveTwoNeighboursOnEachSide)
     EXPECT_THAT(RegionsOf({0, 1, 2, 4, 1, 1, 1, 1}), testing::ElementsAre(PeakRegion{0, 3, 8}));
 }
 
+TEST(PeakRegions, FindsAPeakAtEachPlaceOfEachLane)
+{
+    for (std::size_t bins = 5; bins < 16; ++bins)
+        for (std::size_t peak = 2; peak + 2 < bins; ++peak)
+            for (std::size_t lane = 0; lane < kLanes; ++lane) {
+                std::vector<float> power(bins);
+                power[peak] = 1;
+                const PeakRegion expected{0, static_cast<Index>(peak), static_cast<Index>(bins)};
+                EXPECT_THAT(RegionsOf(power, lane), testing::ElementsAre(expected)) << bins << " " << peak;
+            }
+}
+
 TEST(PeakRegions, FindsNoneInSilence)
 {
     EXPECT_THAT(RegionsOf(std::vector<float>(100)), testing::IsEmpty());
