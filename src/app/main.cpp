@@ -146,6 +146,8 @@ int main(int argc, char** argv)
     qInstallMessageHandler(handler);
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication::setApplicationName(QStringLiteral("sprout-painter"));
+    // By this name of its entry, a Wayland desktop finds the icon for the windows.
+    QApplication::setDesktopFileName(QStringLiteral("example.tonquill.sprout_painter"));
     // Qt has taken its own options out.
     const std::span<const char* const> arguments(argv, static_cast<std::size_t>(argc));
     return sprout::RunProgram(application, sprout::GivenSong(arguments));

@@ -14,10 +14,10 @@ include(${CMAKE_CURRENT_LIST_DIR}/widgets/Plugin.cmake)
 if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
     foreach(scenario IN ITEMS
             PlayWholeSong PlayShortSong PaintAndPlay TakeStrokeBack ChangeTempo SoundServerDies StopAndPlayFromCell
-            HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart SpeakAMadeUpLanguage NoDisplay NoSoundServer
-            SmallScreen MoveAndResize MaximizeAndMinimize MakeSongOfTunes TakeSongHome MailByThunderbirdOrNobody
-            HideTheMail MakeBeatsOfOtherSounds StopALongExport RecordEditAndPlay RecordWithoutMicrophone
-            TwoProgramsRecord KillWhileRecording LittleMemory)
+            HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart SpeakAMadeUpLanguage OpenedByTheDesktop
+            NoDisplay NoSoundServer SmallScreen MoveAndResize MaximizeAndMinimize MakeSongOfTunes TakeSongHome
+            MailByThunderbirdOrNobody HideTheMail MakeBeatsOfOtherSounds StopALongExport RecordEditAndPlay
+            RecordWithoutMicrophone TwoProgramsRecord KillWhileRecording LittleMemory)
         add_test(NAME Desk.${scenario}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})
         set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)

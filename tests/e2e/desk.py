@@ -136,14 +136,15 @@ class Widget:
 class Program:
     """One run of the program."""
 
-    def __init__(self, desk, environment, name="program"):
+    def __init__(self, desk, environment, name="program", arguments=()):
         self.desk = desk
         self.socket = os.path.join(desk.folder, name + ".widgets")
         if os.path.exists(self.socket):
             os.remove(self.socket)
         self.errors = os.path.join(desk.folder, name + ".errors")
         with open(self.errors, "w", encoding="utf-8") as errors:
-            self.process = desk.processes.start([desk.executable], env={**environment, "SPROUT_WIDGETS": self.socket},
+            self.process = desk.processes.start([desk.executable, *arguments],
+                                                env={**environment, "SPROUT_WIDGETS": self.socket},
                                                 cwd=desk.folder, stdout=errors, stderr=errors)
 
     def report(self, seconds=60):
@@ -289,10 +290,10 @@ class Desk:
                 environment[name] = value
         return environment
 
-    def start(self, seconds=30, name="program", **changes):
+    def start(self, seconds=30, name="program", arguments=(), **changes):
         """Starts the program and returns it once its window waits for its user. name: distinguishes programs that run
         at once."""
-        program = Program(self, self.environment(**changes), name)
+        program = Program(self, self.environment(**changes), name, arguments)
         program.wait_for_window("MainFrm", seconds)
         return program
 

@@ -1,4 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
+import configparser
 import os
 import subprocess
 
@@ -6,6 +7,9 @@ from processes import expect
 from songs import SongFile
 from scenarios import scenario
 from scenarios.steps import close, give_short_song, open_song, save_song, stroke, SHORT_SONG
+
+ENTRY = os.path.join(os.path.dirname(os.path.realpath(__file__)), "..", "..", "..", "packaging", "desktop",
+                     "example.tonquill.sprout_painter.desktop")
 
 
 @scenario()
@@ -32,6 +36,22 @@ def SpeakAMadeUpLanguage(desk):
     program.wait_for("SoundStatusLbl")
     status = program.text_of("SoundStatusLbl")
     expect(status.startswith("[") and not status.isascii(), f"the status says '{status}'")
+    close(program)
+
+
+@scenario(sound=False)
+def OpenedByTheDesktop(desk):
+    """A song on the command line is opened, and the window belongs to the program's desktop entry."""
+    give_short_song(desk)
+    gift = os.path.join(desk.folder, "Gift.TqSng")
+    os.rename(desk.song(SHORT_SONG), gift)
+    program = desk.start(arguments=[gift])
+    program.wait_for("SngTitleLbl", "Gift")
+    entry = configparser.ConfigParser(interpolation=None)
+    entry.read(ENTRY)
+    (window,) = desk.windows()
+    told = desk.screen.property("WM_CLASS", window)
+    expect(f'"{entry["Desktop Entry"]["StartupWMClass"]}"' in told, f"the window says {told}")
     close(program)
 
 

@@ -1,0 +1,45 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# What a desktop and a shell need to find the programs: all of packaging/ but the packages themselves.
+
+install(FILES packaging/man/sprout-song.1 DESTINATION share/man/man1)
+install(FILES packaging/completion/sprout-song DESTINATION share/bash-completion/completions)
+if(NOT SPROUT_WINDOWS)
+    return()
+endif()
+
+set(application example.tonquill.sprout_painter)
+set(metainfo ${PROJECT_BINARY_DIR}/packaging/${application}.metainfo.xml)
+configure_file(packaging/desktop/${application}.metainfo.xml.in ${metainfo} @ONLY)
+install(FILES packaging/man/sprout-painter.1 DESTINATION share/man/man1)
+install(FILES packaging/desktop/${application}.desktop DESTINATION share/applications)
+install(FILES packaging/desktop/sprout-painter.xml DESTINATION share/mime/packages)
+install(FILES ${metainfo} DESTINATION share/metainfo)
+
+# Each icon is drawn for some small sizes; the scalable drawing gives the others.
+find_program(RSVG_CONVERT rsvg-convert REQUIRED)
+set(icons packaging/icons)
+set(rendered)
+file(GLOB drawings RELATIVE ${PROJECT_SOURCE_DIR}/${icons}/scalable CONFIGURE_DEPENDS ${icons}/scalable/*.svg)
+foreach(drawing IN LISTS drawings)
+    get_filename_component(name ${drawing} NAME_WE)
+    set(kind mimetypes)
+    if(name STREQUAL "sprout-painter")
+        set(kind apps)
+    endif()
+    install(FILES ${icons}/scalable/${drawing} DESTINATION share/icons/hicolor/scalable/${kind})
+    foreach(side IN ITEMS 16 24 32 48 64 128 256)
+        set(source ${PROJECT_SOURCE_DIR}/${icons}/${side}/${drawing})
+        if(NOT EXISTS ${source})
+            set(source ${PROJECT_SOURCE_DIR}/${icons}/scalable/${drawing})
+        endif()
+        set(folder icons/hicolor/${side}x${side}/${kind})
+        set(picture ${PROJECT_BINARY_DIR}/${folder}/${name}.png)
+        file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/${folder})
+        add_custom_command(OUTPUT ${picture}
+                           COMMAND ${RSVG_CONVERT} --width ${side} --height ${side} --output ${picture} ${source}
+                           DEPENDS ${source} VERBATIM)
+        list(APPEND rendered ${picture})
+        install(FILES ${picture} DESTINATION share/${folder})
+    endforeach()
+endforeach()
+add_custom_target(sprout_icons ALL DEPENDS ${rendered})
