@@ -5,6 +5,7 @@
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
+#include <QTextDocument>
 
 #include <array>
 
@@ -65,6 +66,7 @@ void DrawHelp(const QString& folder)
     auto* pages = help.findChild<QListWidget*>(QStringLiteral("PagesLst"));
     for (int page = 0; page < pages->count(); ++page) {
         pages->setCurrentRow(page);
+        static_cast<void>(book->document()->pageCount()); // lays a long page out to its end, which else takes its time
         ShowAndSaveSheet(help, folder, QStringLiteral("help%1").arg(page + 1));
         book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
         ShowAndSaveSheet(help, folder, QStringLiteral("help%1-further").arg(page + 1));
