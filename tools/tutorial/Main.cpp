@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Makes the demos of the tutorial: plays their scripts on the program itself, without a screen.
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "tutorial/MakeDemos.h"
+
+namespace {
+
+constexpr const char* kUsage = "usage: sprout-tutorial SCRIPTS SPROUT DEMOS\n"
+                               "Makes the pictures, sounds and lists of the demos whose scripts are in a folder.\n"
+                               "SPROUT: the folder of the installed beats, tunes and songs. DEMOS: the folder for what "
+                               "is made.\n";
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const std::vector<std::string> words(argv + 1, argv + argc);
+    try {
+        if (words.size() == 6 && words[0] == "--one")
+            return sprout::MakeOneDemo(argc, argv);
+        if (words.size() == 3)
+            return sprout::MakeAllDemos(argc, argv);
+    } catch (const std::exception& error) {
+        std::fprintf(stderr, "%s\n", error.what());
+        return 1;
+    }
+    std::fputs(kUsage, stderr);
+    return 2;
+}
