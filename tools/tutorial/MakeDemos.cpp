@@ -60,7 +60,7 @@ QProcessEnvironment DemoEnvironment(const QString& folder)
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder);
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
     environment.insert(QStringLiteral("TZ"), QStringLiteral("UTC"));
-    for (const char* kept : {"PATH", "ASAN_OPTIONS"})
+    for (const char* kept : {"PATH", "LSAN_OPTIONS"})
         if (qEnvironmentVariableIsSet(kept))
             environment.insert(QString::fromLatin1(kept), qEnvironmentVariable(kept));
     return environment;
