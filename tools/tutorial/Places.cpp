@@ -22,6 +22,7 @@ namespace sprout {
 namespace {
 
 constexpr int kBesideCell = 13; ///< a cell is too narrow to aim at
+constexpr int kBesidePoint = 15;
 constexpr int kBesideText = 10;
 constexpr int kBesideKey = 13;
 constexpr int kBesideKeyHeight = 6;
@@ -62,6 +63,8 @@ Widget& TheOne(const PlaceWords& words)
 
 QRect OnScreen(const QWidget& control, const QRect& place)
 {
+    if (!control.rect().contains(place.center()))
+        throw RunTimeError(Words::AsIs("That place of " + control.objectName().toStdString() + " is not in view."));
     return {control.mapToGlobal(place.topLeft()), place.size()};
 }
 
@@ -128,6 +131,14 @@ QRect LinePlace(const PlaceWords& words)
     return OnScreen(*list.viewport(), line);
 }
 
+QRect PointPlace(const PlaceWords& words)
+{
+    const QRect control = FindPlace({words.at(1)});
+    const QPoint middle = control.topLeft() + QPoint(control.width() * NumberAt(words, 2) / 100,
+                                                     control.height() * NumberAt(words, 3) / 100);
+    return {middle - QPoint(kBesidePoint, kBesidePoint), QSize(2 * kBesidePoint + 1, 2 * kBesidePoint + 1)};
+}
+
 } // namespace
 
 QRect FindPlace(const std::vector<std::string>& words)
@@ -145,6 +156,8 @@ QRect FindPlace(const std::vector<std::string>& words)
         return StepPlace(words);
     if (kind == "line")
         return LinePlace(words);
+    if (kind == "at")
+        return PointPlace(words);
     Refuse(words);
 }
 

@@ -18,6 +18,7 @@ namespace sprout {
 ///     step NUMBER lamp|icon            a part of a step
 ///     step NUMBER key SEMITONES        a key of its keyboard
 ///     line TEXT                        a line of a list
+///     at CONTROL X Y                   a point of a control, in percent of its size
 [[nodiscard]] QRect FindPlace(const std::vector<std::string>& words);
 
 } // namespace sprout

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 #include <utility>
 
 #include "base/Errors.h"
@@ -76,11 +77,13 @@ void DrawOutlined(QPainter& painter, const QPainterPath& path, const QColor& fil
     painter.drawPath(path);
 }
 
-/// A tail from the bubble to the closest point of a place.
+/// A tail from the bubble to a place: not to its very edge, where its neighbour may be meant.
 QPainterPath TailTo(const QRect& target, const QRect& bubble)
 {
     const SlidePoint middle{bubble.center().x(), bubble.center().y()};
-    const SlidePoint end = ClosestPoint(BoxOf(target), middle);
+    const QRect aim =
+        target.adjusted(target.width() / 4, target.height() / 4, -target.width() / 4, -target.height() / 4);
+    const SlidePoint end = ClosestPoint(BoxOf(aim), middle);
     const Box inside = BoxOf(bubble.adjusted(kBubbleCorner, kBubbleCorner, -kBubbleCorner, -kBubbleCorner));
     const SlidePoint begin = ClosestPoint(inside, end);
     const QPointF from(begin.x, begin.y);
@@ -147,6 +150,16 @@ void DrawHand(QPainter& painter, const HandPlace& hand)
     painter.restore();
 }
 
+/// How far in front a window is: first menus, then the window that waits for an answer, then the later one of those
+/// behind it.
+std::tuple<int, int, WId> StackingOf(const QWidget& window)
+{
+    const int front = &window == QApplication::activePopupWidget()   ? 2
+                      : &window == QApplication::activeModalWidget() ? 1
+                                                                     : 0;
+    return {front, window.isModal() ? 1 : 0, window.internalWinId()};
+}
+
 } // namespace
 
 QImage GrabScreen()
@@ -155,22 +168,11 @@ QImage GrabScreen()
     screen.fill(kSand);
     QPainter painter(&screen);
     QWidgetList windows = QApplication::topLevelWidgets();
-    // Windows are listed as they were created; the one that waits for an answer is in front.
-    const auto isInFront = [](const QWidget* window) {
-        return window == QApplication::activePopupWidget() ? 2 : window == QApplication::activeModalWidget() ? 1 : 0;
-    };
-    const auto depth = [](const QWidget* window) {
-        int owners = 0;
-        for (const QWidget* owner = window->parentWidget(); owner; owner = owner->parentWidget())
-            ++owners;
-        return owners;
-    };
-    std::stable_sort(windows.begin(), windows.end(), [&](const QWidget* a, const QWidget* b) {
-        return std::pair(isInFront(a), depth(a)) < std::pair(isInFront(b), depth(b));
-    });
+    windows.removeIf([](const QWidget* window) { return !window->isVisible() || window->inherits("QTipLabel"); });
+    std::sort(windows.begin(), windows.end(),
+              [](const QWidget* a, const QWidget* b) { return StackingOf(*a) < StackingOf(*b); });
     for (QWidget* window : windows)
-        if (window->isVisible() && !window->inherits("QTipLabel"))
-            painter.drawPixmap(window->geometry().topLeft(), window->grab());
+        painter.drawPixmap(window->geometry().topLeft(), window->grab());
     return screen;
 }
 

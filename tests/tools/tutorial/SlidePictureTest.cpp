@@ -58,6 +58,22 @@ TEST(GrabScreen, ShowsAllWindowsWhereTheyStand)
     EXPECT_EQ(GrabScreen().pixelColor(300, 200), QColor(Qt::red));
 }
 
+TEST(GrabScreen, ShowsTheLaterOneOfTwoWindowsBehind)
+{
+    QWidget main;
+    QDialog editor;
+    QDialog question;
+    editor.setModal(true);
+    question.setModal(true);
+    Coloured(main, {0, 0, 780, 540}, Qt::red);
+    Coloured(editor, {0, 0, 400, 300}, Qt::blue);
+    Coloured(question, {0, 0, 20, 20}, Qt::green);
+    QApplication::processEvents();
+    EXPECT_EQ(GrabScreen().pixelColor(10, 10), QColor(Qt::green));
+    EXPECT_EQ(GrabScreen().pixelColor(300, 200), QColor(Qt::blue));
+    EXPECT_EQ(GrabScreen().pixelColor(500, 400), QColor(Qt::red));
+}
+
 TEST(DrawMarks, DrawsABubbleBesideWhatItIsAbout)
 {
     QImage slide = WhiteSlide();
