@@ -32,6 +32,8 @@ public:
 
     [[nodiscard]] MemoryStatus GlobalMemoryStatus() const override;
     [[nodiscard]] std::filesystem::path TempPath() const override { return own / "temp"; }
+    [[nodiscard]] std::filesystem::path CommonTempPath() const override { return own / "temp"; }
+    [[nodiscard]] std::filesystem::path ConfigFolder() const override { return own / "all-users"; }
     [[nodiscard]] std::filesystem::path ExecutablePath() const override { return own / "program" / "sprout-painter"; }
     [[nodiscard]] std::uint64_t FreeBytes(const std::filesystem::path& path) const override;
 
@@ -45,6 +47,7 @@ public:
     explicit DemoDesktop(std::filesystem::path folder) : documents(std::move(folder)) {}
 
     [[nodiscard]] std::filesystem::path DocumentsFolder() const override { return documents; }
+    [[nodiscard]] std::filesystem::path ConfigFolder() const override { return documents.parent_path() / "config"; }
     void OpenWithShell(std::string_view /*target*/) override {}
     [[nodiscard]] std::vector<std::string> OpenSoundControl(SoundControl /*control*/) override { return {}; }
 

@@ -20,7 +20,7 @@ int main(int argc, char** argv)
 {
     const std::vector<std::string> words(argv + 1, argv + argc);
     try {
-        if (words.size() == 6 && words[0] == "--one")
+        if (words.size() == 5 && words[0] == "--one")
             return sprout::MakeOneDemo(argc, argv);
         if (words.size() == 3)
             return sprout::MakeAllDemos(argc, argv);

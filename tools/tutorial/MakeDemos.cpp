@@ -68,6 +68,8 @@ QProcessEnvironment DemoEnvironment(const QString& folder)
 
 /// A demo that is being made, and its folder.
 struct Maker {
+    [[nodiscard]] QString Made() const { return folder.filePath(QStringLiteral("made")); }
+
     QTemporaryDir folder;
     QProcess process;
 };
@@ -75,11 +77,11 @@ struct Maker {
 std::unique_ptr<Maker> StartMaker(std::size_t number, const QString& script, const QStringList& words)
 {
     auto maker = std::make_unique<Maker>();
-    QDir().mkpath(maker->folder.filePath(QStringLiteral("lists")));
+    QDir().mkpath(maker->Made());
     maker->process.setProcessEnvironment(DemoEnvironment(maker->folder.path()));
     maker->process.setProcessChannelMode(QProcess::MergedChannels);
-    maker->process.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--one"), QString::number(number),
-                                                                   script, words[2], words[3], maker->folder.path()});
+    maker->process.start(QCoreApplication::applicationFilePath(),
+                         {QStringLiteral("--one"), QString::number(number), script, words[2], maker->folder.path()});
     return maker;
 }
 
@@ -89,6 +91,14 @@ void WaitFor(Maker& maker)
     if (ended && maker.process.exitStatus() == QProcess::NormalExit && maker.process.exitCode() == 0)
         return;
     Fail(maker.process.readAll().toStdString() + "A demo was not made.");
+}
+
+/// Moves the pictures and sounds of a demo to those of the others.
+void MoveSlides(const QString& from, const QString& to)
+{
+    for (const QString& name : QDir(from).entryList({QStringLiteral("Demo*")}, QDir::Files))
+        if (!QFile::rename(from + u'/' + name, to + u'/' + name))
+            Fail(name.toStdString() + " cannot be written.");
 }
 
 void RemoveOldDemos(const QString& folder)
@@ -128,7 +138,8 @@ int MakeAllDemos(int argc, char** argv)
     DemoFiles files;
     for (std::size_t i = 0; i < makers.size(); ++i) {
         WaitFor(*makers[i]);
-        files.Read(makers[i]->folder.filePath(QStringLiteral("lists")).toStdString(), static_cast<std::int32_t>(i + 1));
+        files.Read(makers[i]->Made().toStdString(), static_cast<std::int32_t>(i + 1));
+        MoveSlides(makers[i]->Made(), words[3]);
     }
     PosixFiles machineFiles;
     TheServices().files = &machineFiles;
@@ -144,14 +155,14 @@ int MakeOneDemo(int argc, char** argv)
     ApplyLook(application);
     const QStringList words = QCoreApplication::arguments();
     const std::int32_t number = words[2].toInt();
-    const fs::path folder = words[6].toStdString();
+    const fs::path folder = words[5].toStdString();
     const DemoScript script = ScriptIn(words[3]);
     const HeldTimers timers;
     DemoProgram program(words[4].toStdString(), folder);
-    DemoPlay play(program, script, number, words[5].toStdString());
+    DemoPlay play(program, script, number, folder / "made");
     DemoFiles files;
     files.Add(number, script.Name, play.Play());
-    files.Write(folder / "lists");
+    files.Write(folder / "made");
     return 0;
 }
 

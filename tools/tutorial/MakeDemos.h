@@ -7,7 +7,7 @@ namespace sprout {
 /// `RunTimeError`.
 [[nodiscard]] int MakeAllDemos(int argc, char** argv);
 
-/// Makes a demo: arguments --one, its number, its SCRIPT, SPROUT, DEMOS and an empty folder, which gets its lists.
+/// Makes a demo: arguments --one, its number, its SCRIPT, SPROUT and a folder, which gets what is made in "made".
 [[nodiscard]] int MakeOneDemo(int argc, char** argv);
 
 } // namespace sprout
