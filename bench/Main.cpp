@@ -243,6 +243,13 @@ int WriteSong(const std::filesystem::path& file)
     return 0;
 }
 
+int WriteFullSong(const std::filesystem::path& file)
+{
+    MakeFullSong();
+    OpenSaveClass(Flush::No).Save_Song(file);
+    return 0;
+}
+
 int RunBenchmarks(int argc, char** argv)
 {
     const auto add = [](const char* name, void (*function)(benchmark::State&)) {
@@ -290,6 +297,8 @@ int Run(int argc, char** argv)
         return WriteWaves(words[1]);
     if (words.size() == 2 && words[0] == "--write-song")
         return WriteSong(words[1]);
+    if (words.size() == 2 && words[0] == "--write-full-song")
+        return WriteFullSong(words[1]);
     if (words.size() == 2 && words[0] == "--write-mix")
         return WriteMix(words[1]);
     if (words.size() == 2 && words[0] == "--memory-wav-export")
