@@ -49,17 +49,16 @@ std::vector<int> Sounded(const std::vector<int>& numbers)
     return {std::find_if(numbers.begin(), last, sounds), last};
 }
 
-testing::AssertionResult IsGapless(const std::vector<int>& numbers)
+std::string GapsOf(const std::vector<int>& numbers)
 {
-    testing::AssertionResult gaps = testing::AssertionFailure() << "at frame: what comes instead of the next number";
-    bool gapless = true;
+    std::string gaps;
     for (std::size_t i = 1; i < numbers.size(); ++i) {
-        if (numbers[i] == numbers[i - 1] + 1 || (numbers[i] < 0 && numbers[i] == numbers[i - 1]))
-            continue;
-        gaps << ", " << i << ": " << numbers[i - 1] << " " << numbers[i];
-        gapless = false;
+        const int before = numbers[i - 1];
+        const bool isMoreOfGap = numbers[i] < 0 && numbers[i] == before;
+        if (numbers[i] != before + 1 && !isMoreOfGap)
+            gaps += std::to_string(i) + ": " + std::to_string(before) + ", " + std::to_string(numbers[i]) + "; ";
     }
-    return gapless ? testing::AssertionSuccess() : gaps;
+    return gaps;
 }
 
 } // namespace sprout

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
@@ -33,7 +31,7 @@ struct CapturedRamp {
 /// The frames without the silence before and after them.
 [[nodiscard]] std::vector<int> Sounded(const std::vector<int>& numbers);
 
-/// Returns true if each frame follows the one before; if not, a message with the places where it does not.
-[[nodiscard]] testing::AssertionResult IsGapless(const std::vector<int>& numbers);
+/// Where a frame does not follow the one before: its place, the number before it and its own. Empty if there is no gap.
+[[nodiscard]] std::string GapsOf(const std::vector<int>& numbers);
 
 } // namespace sprout

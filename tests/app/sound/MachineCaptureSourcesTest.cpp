@@ -101,9 +101,9 @@ TEST_F(MachineCaptureTest, AnotherSourceGoesOnInTheSameFilesAndIsRemembered)
     const auto before = static_cast<std::ptrdiff_t>(turn - taken.right.begin());
     ASSERT_NE(turn, taken.right.end());
     std::vector<int> numbers = taken.Numbers();
-    EXPECT_TRUE(IsGapless(Sounded({numbers.begin(), numbers.begin() + before})));
+    EXPECT_EQ(GapsOf(Sounded({numbers.begin(), numbers.begin() + before})), "");
     numbers = taken.Numbers(1000);
-    EXPECT_TRUE(IsGapless(Sounded({numbers.begin() + before, numbers.end()})));
+    EXPECT_EQ(GapsOf(Sounded({numbers.begin() + before, numbers.end()})), "");
     capture.Release();
     ASSERT_EQ(capture.Open(), CaptureOpening::Ready);
     EXPECT_EQ(Listed().Selected, IndexOf("mic2-for-people"));
