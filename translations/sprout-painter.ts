@@ -1931,10 +1931,6 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Tracks and tunes</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Changing a sound</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2320,6 +2316,58 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
     </message>
     <message>
         <source>What you make now cannot be kept here:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search for a word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Find next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>I found nothing about &quot;%1&quot;. Try another word.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The big window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choosing a tune</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changing a tune</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Instruments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Demos</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For teachers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What is wrong?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -3,7 +3,7 @@
 
 #include <QScreen>
 
-#include "ui/help/HelpFrm.h"
+#include "ui/help/OpenedHelp.h"
 
 namespace sprout {
 namespace {
@@ -124,14 +124,8 @@ TEST_F(BeatWindowTest, NamesEveryControlForAScreenReader)
 TEST_F(BeatWindowTest, OpensTheHelp)
 {
     Open();
-    Click(*window, "HelpBtn");
-    HelpFrm* help = nullptr;
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (auto* form = qobject_cast<HelpFrm*>(widget))
-            help = form;
-    ASSERT_NE(help, nullptr);
-    EXPECT_TRUE(help->isVisible());
-    delete help;
+    EXPECT_EQ(HelpPageOpenedBy(*window, [this] { Click(*window, "HelpBtn"); }), "Instruments");
+    EXPECT_EQ(HelpPageOpenedBy(*window, [this] { QTest::keyClick(&*window, Qt::Key_F1); }), "Instruments");
 }
 
 TEST_F(BeatWindowTest, FitsItsControlsWithoutOverlaps)

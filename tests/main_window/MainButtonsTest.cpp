@@ -7,17 +7,10 @@
 
 #include "main_window/MainWindowTest.h"
 #include "support/Flags.h"
+#include "ui/help/OpenedHelp.h"
 
 namespace sprout {
 namespace {
-
-QWidget* OpenHelpWindow()
-{
-    for (QWidget* candidate : QApplication::topLevelWidgets())
-        if (candidate->objectName() == QStringLiteral("HelpFrm") && candidate->isVisible())
-            return candidate;
-    return nullptr;
-}
 
 class MainButtonsTest : public MainWindowTest {};
 
@@ -128,14 +121,9 @@ TEST_F(MainButtonsTest, TellsWhatItIs)
 TEST_F(MainButtonsTest, OpensTheHelpWithF1AndItsButton)
 {
     window->activateWindow();
-    QTest::keyClick(&Control("TrackPic"), Qt::Key_F1);
-    QWidget* help = OpenHelpWindow();
-    ASSERT_NE(help, nullptr);
-    delete help;
-    ClickButton("HelpBtn");
-    help = OpenHelpWindow();
-    ASSERT_NE(help, nullptr);
-    delete help;
+    EXPECT_EQ(HelpPageOpenedBy(*window, [this] { QTest::keyClick(&Control("TrackPic"), Qt::Key_F1); }),
+              "The big window");
+    EXPECT_EQ(HelpPageOpenedBy(*window, [this] { ClickButton("HelpBtn"); }), "The big window");
 }
 
 TEST_F(MainButtonsTest, TakesItsCommandsFromKeysToo)

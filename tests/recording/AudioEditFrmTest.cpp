@@ -2,7 +2,7 @@
 #include "recording/AudioEditFrm.h"
 
 #include "recording/AudioEditFixture.h"
-#include "ui/help/HelpFrm.h"
+#include "ui/help/OpenedHelp.h"
 
 namespace sprout {
 namespace {
@@ -177,14 +177,8 @@ TEST_F(AudioEditFrmTest, HasAFrameAroundThePictureThatIsWiderWithTheFocus)
 
 TEST_F(AudioEditFrmTest, OpensTheHelpBook)
 {
-    Click("HelpBtn");
-    int books = 0;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (auto* help = qobject_cast<HelpFrm*>(window)) {
-            ++books;
-            help->close();
-        }
-    EXPECT_EQ(books, 1);
+    EXPECT_EQ(HelpPageOpenedBy(form, [this] { Click("HelpBtn"); }), "Changing a sound");
+    EXPECT_EQ(HelpPageOpenedBy(form, [this] { QTest::keyClick(&form, Qt::Key_F1); }), "Changing a sound");
 }
 
 } // namespace

@@ -4,7 +4,7 @@
 #include "core/Settings.h"
 #include "support/Flags.h"
 #include "ui/forms/FileDialogs.h"
-#include "ui/help/HelpFrm.h"
+#include "ui/help/OpenedHelp.h"
 #include "waves/WavOperations.h"
 
 namespace sprout {
@@ -188,19 +188,8 @@ TEST_F(SongSelFrmTest, ACancelledSoundFileLeavesTheWindowOpen)
 TEST_F(SongSelFrmTest, HelpAndF1OpenTheHelp)
 {
     Open(SongSelMode::Save);
-    const auto help = [] {
-        for (QWidget* window : QApplication::topLevelWidgets())
-            if (auto* found = qobject_cast<HelpFrm*>(window); found && found->isVisible())
-                return found;
-        return static_cast<HelpFrm*>(nullptr);
-    };
-    EXPECT_EQ(help(), nullptr);
-    Click(form, "HelpBtn");
-    ASSERT_NE(help(), nullptr);
-    delete help();
-    QTest::keyClick(&NameBox(), Qt::Key_F1);
-    ASSERT_NE(help(), nullptr);
-    delete help();
+    EXPECT_EQ(HelpPageOpenedBy(form, [this] { Click(form, "HelpBtn"); }), "Your songs");
+    EXPECT_EQ(HelpPageOpenedBy(form, [this] { QTest::keyClick(&NameBox(), Qt::Key_F1); }), "Your songs");
 }
 
 TEST_F(SongSelFrmTest, TabGoesThroughAllItsControls)

@@ -2,7 +2,7 @@
 #include "tune_window/TuneFrm2Test.h"
 
 #include "tune_window/StepEditor.h"
-#include "ui/help/HelpFrm.h"
+#include "ui/help/OpenedHelp.h"
 
 namespace sprout {
 namespace {
@@ -162,19 +162,10 @@ TEST_F(TuneFrm2Test, EnterInTheGridIsTheOkButton)
 TEST_F(TuneFrm2Test, HelpButtonAndF1OpenTheHelp)
 {
     MakeTuneFiles(1);
-    const auto help = [] {
-        for (QWidget* widget : QApplication::topLevelWidgets())
-            if (qobject_cast<HelpFrm*>(widget) && widget->isVisible())
-                return widget;
-        return static_cast<QWidget*>(nullptr);
-    };
-    Open([&help](TuneFrm2& window) {
-        Click(window, "HelpBtn");
-        ASSERT_TRUE(help());
-        delete help();
-        QTest::keyClick(&GridOf(window), Qt::Key_F1);
-        ASSERT_TRUE(help());
-        delete help();
+    Open([](TuneFrm2& window) {
+        const std::string ofWindow = "Choosing a tune";
+        EXPECT_EQ(HelpPageOpenedBy(window, [&window] { Click(window, "HelpBtn"); }), ofWindow);
+        EXPECT_EQ(HelpPageOpenedBy(window, [&window] { QTest::keyClick(&GridOf(window), Qt::Key_F1); }), ofWindow);
     });
 }
 

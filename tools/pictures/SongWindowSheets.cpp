@@ -2,6 +2,7 @@
 #include "pictures/SongWindowSheets.h"
 
 #include <QFile>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBrowser>
@@ -73,6 +74,11 @@ void DrawHelp(const QString& folder)
         book->verticalScrollBar()->triggerAction(QAbstractSlider::SliderToMaximum);
         ShowAndSaveSheet(help, folder, QStringLiteral("help%1-end").arg(page + 1));
     }
+    auto* box = help.findChild<QLineEdit*>(QStringLiteral("SearchTxt"));
+    box->setText(QStringLiteral("microphone"));
+    ShowAndSaveSheet(help, folder, QStringLiteral("help-found"));
+    box->setText(QStringLiteral("trombone"));
+    ShowAndSaveSheet(help, folder, QStringLiteral("help-nothing"));
     help.setAttribute(Qt::WA_DeleteOnClose, false);
 }
 

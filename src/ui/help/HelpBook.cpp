@@ -13,6 +13,7 @@ namespace {
 constexpr qreal kGlyphShare = 0.86;
 constexpr qreal kGlyphShareOfWord = 0.6;
 constexpr int kPageMargin = 12;
+constexpr QColor kMarked{0xFF, 0xE0, 0x66};
 
 /// The one or two numbers after a picture's name.
 QSize SizeOf(const QUrl& name)
@@ -66,6 +67,20 @@ HelpBook::HelpBook(QWidget* parent) : QTextBrowser(parent)
     setStyleSheet(QStringLiteral(
         "QTextBrowser { background: white; border: 2px solid #6B655C; border-radius: 8px; padding: 3px; }"
         "QTextBrowser:focus { border-color: #1F6FA8; }"));
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpBook::RemoveMark);
+}
+
+void HelpBook::MarkWord(int position, int length)
+{
+    QTextCursor cursor(document());
+    cursor.setPosition(position);
+    setTextCursor(cursor);
+    ensureCursorVisible();
+    QTextEdit::ExtraSelection mark;
+    cursor.setPosition(position + length, QTextCursor::KeepAnchor);
+    mark.cursor = cursor;
+    mark.format.setBackground(kMarked);
+    setExtraSelections({mark});
 }
 
 QVariant HelpBook::loadResource(int type, const QUrl& name)

@@ -18,6 +18,10 @@ public:
 
     QVariant loadResource(int type, const QUrl& name) override;
 
+    /// Marks a searched word and scrolls to it. Another page has no mark.
+    void MarkWord(int position, int length);
+    void RemoveMark() { setExtraSelections({}); }
+
 private:
     [[nodiscard]] QPixmap PageArtwork(const QUrl& name) const;
 };

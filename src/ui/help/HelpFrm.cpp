@@ -5,18 +5,20 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QSignalBlocker>
 #include <QWindow>
 
 #include <algorithm>
-#include <array>
 
 #include "ui/forms/Dialogs.h"
 #include "ui/help/HelpBook.h"
+#include "ui/help/HelpPages.h"
 #include "ui/look/Artwork.h"
 #include "ui/look/Look.h"
 #include "ui/look/Palette.h"
 #include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 
@@ -31,29 +33,8 @@ constexpr int kMostPagesWidth = 300;
 constexpr int kBesideThePages = 40; ///< frame, padding and a scroll bar
 constexpr int kPageIconSide = 32;
 constexpr int kButtonRowHeight = 44;
-
-struct HelpPage {
-    const char* file;
-    LaterWords title;
-    const char* picture;
-};
-
-constexpr std::array kHelpPages{
-    HelpPage{"welcome", Words::Later("Welcome"), "pictures/Sprout"},
-    HelpPage{"painting", Words::Later("Painting"), "buttons/BrushBtn"},
-    HelpPage{"playing", Words::Later("Playing"), "buttons/PlayAllBtn"},
-    HelpPage{"tracks", Words::Later("Tracks and tunes"), "buttons/TrackAddBtn"},
-    HelpPage{"recording", Words::Later("Recording"), "buttons/TrackAddRecBtn"},
-    HelpPage{"editor", Words::Later("Changing a sound"), "buttons/TrackAudioBtn"},
-    HelpPage{"songs", Words::Later("Your songs"), "buttons/SaveBtn"},
-    HelpPage{"sharing", Words::Later("Taking songs home"), "buttons/EmailBtn"},
-    HelpPage{"keys", Words::Later("Keys"), "pictures/HelpKeys"},
-};
-
-QUrl PageUrl(const HelpPage& page)
-{
-    return QUrl(QStringLiteral("qrc:/help/%1.html").arg(QLatin1String(page.file)));
-}
+constexpr int kSearchHeight = 30;
+constexpr int kBelowSearch = 8;
 
 /// The page's picture; a selected line shows it unchanged.
 QIcon PageIcon(const HelpPage& page)
@@ -79,22 +60,37 @@ QWidget* BaseOf(QWidget* window)
     return window;
 }
 
+/// The page about what the user looks at.
+int PageInFront()
+{
+    const QWidget* const window = QApplication::activeWindow() ? QApplication::activeWindow() : WindowInFront();
+    return PageAbout(window && window->focusWidget() ? window->focusWidget() : window);
+}
+
 } // namespace
 
 void ShowHelp()
 {
     QPointer<HelpFrm>& help = OpenHelp();
+    const int page = PageInFront();
     if (!help || help->isHidden()) { // a closed one deletes itself
         help = new HelpFrm;
+        help->OpenPage(page);
         QObject::connect(qApp, &QCoreApplication::aboutToQuit, help, [] { delete OpenHelp(); });
         help->show();
+    } else {
+        help->OpenPage(page);
     }
     help->raise();
     help->activateWindow();
 }
 
 HelpFrm::HelpFrm()
-    : BandedForm(nullptr), opener(BaseOf(WindowInFront())), PagesLst(new QListWidget(this)), BookTxt(new HelpBook(this))
+    : BandedForm(nullptr),
+      opener(BaseOf(WindowInFront())),
+      PagesLst(new QListWidget(this)),
+      BookTxt(new HelpBook(this)),
+      SearchTxt(new QLineEdit(this))
 {
     setObjectName(QStringLiteral("HelpFrm"));
     setProperty(kStandsBeside, true);
@@ -103,8 +99,10 @@ HelpFrm::HelpFrm()
     SetCaption(Words::Text(" Help"));
     MakePages();
     MakeBook();
+    MakeSearch();
     MakeButtons();
     PlaceControls();
+    SetTabOrders();
     ShowPage(0);
     BookTxt->setFocus();
     qApp->installEventFilter(this);
@@ -120,7 +118,7 @@ void HelpFrm::MakePages()
     PagesLst->setFont(LabelFont());
     PagesLst->setIconSize({kPageIconSide, kPageIconSide});
     PagesLst->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    for (const HelpPage& page : kHelpPages)
+    for (const HelpPage& page : HelpPages())
         new QListWidgetItem(PageIcon(page), QtText(Words(page.title)), PagesLst);
     connect(PagesLst, &QListWidget::currentRowChanged, this, &HelpFrm::ShowPage);
 }
@@ -132,8 +130,24 @@ void HelpFrm::MakeBook()
     connect(BookTxt, &QTextBrowser::sourceChanged, this, &HelpFrm::MarkPage);
 }
 
+void HelpFrm::MakeSearch()
+{
+    SearchTxt->setObjectName(QStringLiteral("SearchTxt"));
+    SearchTxt->setFont(LabelFont());
+    SearchTxt->setPlaceholderText(QtText(Words::Text("Search for a word")));
+    SetSpokenName(*SearchTxt, Words::Text("Search for a word"));
+    FoundLbl = &AddLabel("FoundLbl");
+    connect(SearchTxt, &QLineEdit::textChanged, this, &HelpFrm::LookForWord);
+    connect(SearchTxt, &QLineEdit::returnPressed, this, &HelpFrm::FindNext);
+    connect(new QShortcut(Qt::CTRL | Qt::Key_F, this), &QShortcut::activated, SearchTxt, [this] {
+        SearchTxt->setFocus(Qt::ShortcutFocusReason);
+        SearchTxt->selectAll();
+    });
+}
+
 void HelpFrm::MakeButtons()
 {
+    AddWordButton({"FindBtn", Words::Later("Find next"), LaterWords(), Plate::Word, kLink}, [this] { FindNext(); });
     BackBtn = &AddWordButton({"BackBtn", Words::Later("Back"), LaterWords(), Plate::Word, kDeepLeaf, "WordBack"},
                              [this] { BookTxt->backward(); });
     AddWordButton({"CloseBtn", Words::Later("Close"), LaterWords(), Plate::Word, kStone}, [this] { reject(); });
@@ -146,19 +160,77 @@ void HelpFrm::PlaceControls()
     const QRect screenRect = screen()->availableGeometry();
     const QSize room = screenRect.size() - QSize(2 * kScreenEdge, 2 * kScreenEdge);
     const QSize size = kWidestHelp.boundedTo(room).expandedTo(kLeastHelp);
-    const int bookHeight = size.height() - kBandHeight - kButtonRowHeight - 3 * kHelpMargin;
+    const int bookTop = kHelpMargin + kSearchHeight + kBelowSearch;
+    const int bookHeight = size.height() - kBandHeight - bookTop - kButtonRowHeight - 2 * kHelpMargin;
     const int pagesWidth = std::clamp(PagesLst->sizeHintForColumn(0) + kBesideThePages, kPagesWidth, kMostPagesWidth);
-    PagesLst->setGeometry({BodyPoint(kHelpMargin, kHelpMargin), QSize(pagesWidth, bookHeight)});
     const int bookLeft = 2 * kHelpMargin + pagesWidth;
-    BookTxt->setGeometry({BodyPoint(bookLeft, kHelpMargin), QSize(size.width() - bookLeft - kHelpMargin, bookHeight)});
-    PlaceButtons(size.width(), bookHeight + 2 * kHelpMargin);
+    const int bookWidth = size.width() - bookLeft - kHelpMargin;
+    SearchTxt->setGeometry({BodyPoint(kHelpMargin, kHelpMargin), QSize(pagesWidth, kSearchHeight)});
+    FoundLbl->setGeometry({BodyPoint(bookLeft, kHelpMargin), QSize(bookWidth, kSearchHeight)});
+    PagesLst->setGeometry({BodyPoint(kHelpMargin, bookTop), QSize(pagesWidth, bookHeight)});
+    BookTxt->setGeometry({BodyPoint(bookLeft, bookTop), QSize(bookWidth, bookHeight)});
+    PlaceButtons(size.width(), bookTop + bookHeight + kHelpMargin);
     // At the screen's edge, to cover little of what the user asks about.
     move(std::max(screenRect.right() - width() - kScreenEdge, screenRect.left()), screenRect.top() + kScreenEdge);
 }
 
+void HelpFrm::SetTabOrders()
+{
+    setTabOrder(SearchTxt, PagesLst);
+    setTabOrder(PagesLst, BookTxt);
+}
+
+void HelpFrm::OpenPage(int page)
+{
+    if (page < 0)
+        return;
+    ShowPage(page);
+    if (!isVisible()) // back would lead to a page that nobody has seen
+        BookTxt->clearHistory();
+}
+
+/// Follows the word while it is typed. It stays on the page as long as the word is there, and returns to it if half the
+/// word was found elsewhere but the whole is not.
+void HelpFrm::LookForWord()
+{
+    const int shown = std::max(PagesLst->currentRow(), 0);
+    const bool searchLedHere = search.Count() > 0 && search.Hit().page == shown;
+    if (!searchLedHere)
+        searchedFrom = shown;
+    search.Look(SearchTxt->text(), searchedFrom);
+    if (search.Count() == 0 && !search.Word().isEmpty())
+        ShowPage(searchedFrom);
+    ShowFound();
+}
+
+void HelpFrm::FindNext()
+{
+    search.Next();
+    ShowFound();
+    if (search.Word().isEmpty())
+        SearchTxt->setFocus();
+}
+
+void HelpFrm::ShowFound()
+{
+    Words found;
+    if (search.Count() > 0) {
+        const HelpHit& hit = search.Hit();
+        ShowPage(hit.page);
+        BookTxt->MarkWord(hit.position, hit.length);
+        found = Words::Text("Place %1 of %2", search.Number() + 1, search.Count());
+    } else {
+        BookTxt->RemoveMark();
+        if (!search.Word().isEmpty())
+            found = Words::Text("I found nothing about \"%1\". Try another word.", search.Word().toStdString());
+    }
+    SetFittingText(*FoundLbl, found);
+    SetSpokenDescription(*SearchTxt, found);
+}
+
 void HelpFrm::ShowPage(int row)
 {
-    const HelpPage& page = kHelpPages[static_cast<std::size_t>(std::max(row, 0))];
+    const HelpPage& page = HelpPages()[static_cast<std::size_t>(std::max(row, 0))];
     if (BookTxt->source().adjusted(QUrl::RemoveFragment) != PageUrl(page))
         BookTxt->setSource(PageUrl(page));
 }
@@ -167,10 +239,11 @@ void HelpFrm::ShowPage(int row)
 void HelpFrm::MarkPage(const QUrl& source)
 {
     const QUrl shown = source.adjusted(QUrl::RemoveFragment);
-    const auto* page = std::find_if(kHelpPages.begin(), kHelpPages.end(),
-                                    [&shown](const HelpPage& candidate) { return PageUrl(candidate) == shown; });
+    const std::span<const HelpPage> pages = HelpPages();
+    const auto page = std::find_if(pages.begin(), pages.end(),
+                                   [&shown](const HelpPage& candidate) { return PageUrl(candidate) == shown; });
     const QSignalBlocker quiet(PagesLst);
-    PagesLst->setCurrentRow(page == kHelpPages.end() ? -1 : static_cast<int>(page - kHelpPages.begin()));
+    PagesLst->setCurrentRow(page == pages.end() ? -1 : static_cast<int>(page - pages.begin()));
 }
 
 bool HelpFrm::event(QEvent* event)

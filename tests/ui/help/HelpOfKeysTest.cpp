@@ -38,10 +38,10 @@ const std::map<std::string, std::string> kHeadings{
 std::string WordOf(const std::string& key)
 {
     static const std::map<std::string, std::string> words{
-        {"Up", "arrow key"},  {"Down", "arrow key"},      {"Left", "arrow key"}, {"Right", "arrow key"},
-        {"Return", "Enter"},  {"PageUp", "Page Up"},      {"Control", "Ctrl"},   {"PageDown", "Page Down"},
-        {"Plus", "<b>+</b>"}, {"Minus", "<b>-</b>"},      {"N", "Ctrl and N"},   {"O", "Ctrl and O"},
-        {"S", "Ctrl and S"},  {"SelectAll", "Ctrl and A"}};
+        {"Up", "arrow key"},  {"Down", "arrow key"},       {"Left", "arrow key"}, {"Right", "arrow key"},
+        {"Return", "Enter"},  {"PageUp", "Page Up"},       {"Control", "Ctrl"},   {"PageDown", "Page Down"},
+        {"Plus", "<b>+</b>"}, {"Minus", "<b>-</b>"},       {"N", "Ctrl and N"},   {"O", "Ctrl and O"},
+        {"S", "Ctrl and S"},  {"SelectAll", "Ctrl and A"}, {"F", "Ctrl and F"}};
     const auto word = words.find(key);
     return word == words.end() ? "<b>" + key + "</b>" : word->second;
 }
