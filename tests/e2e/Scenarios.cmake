@@ -22,7 +22,7 @@ if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})
         set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
     endforeach()
-    set_tests_properties(Desk.PlayWholeSong PROPERTIES TIMEOUT 240)
+    set_tests_properties(Desk.PlayWholeSong PROPERTIES TIMEOUT 330)
 
     add_test(NAME Words.HaveRoomInAllWindows
              COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/tools/room-for-translations $<TARGET_FILE:sprout-pictures>
