@@ -23,19 +23,18 @@ namespace {
 using Samples = std::span<const std::int16_t>;
 using Progress = std::function<void(std::size_t, std::size_t)>;
 
-constexpr std::size_t kBlockFrames = 8192; // two accumulators of this size fit into the second-level cache
+constexpr std::size_t kBlockFrames = 8192; // sums of this size fit into the first-level cache
 constexpr std::size_t kChunkFrames = 16 * kBlockFrames;
 constexpr std::size_t kMostUncheckedSums = 65535; // this many samples cannot exceed 32 bits
 
-struct Accumulators {
-    std::array<std::int32_t, kBlockFrames> left;
-    std::array<std::int32_t, kBlockFrames> right;
-};
+using Sums = std::array<std::int32_t, kBlockFrames>;
 
 /// The samples of a wave; none if it is silent.
 struct StereoFrames {
     Samples left;
     Samples right;
+
+    [[nodiscard]] bool AreMono() const { return left.data() == right.data(); }
 };
 
 /// A placed wave that sounds; frames are counted from 0.
@@ -145,6 +144,44 @@ void Add(std::span<std::int32_t> sums, Samples samples)
         sums[i] += samples[i];
 }
 
+/// Adds sounds to sums; those that are as long as all the sums, four at a time, so that each sum is read and written
+/// once for four of them.
+class PlainAdder {
+public:
+    explicit PlainAdder(std::span<std::int32_t> target) : sums(target) {}
+
+    void AddAt(std::size_t place, Samples samples)
+    {
+        if (samples.size() < sums.size()) {
+            Add(sums.subspan(place), samples);
+            return;
+        }
+        whole[waiting++] = samples;
+        if (waiting == whole.size())
+            AddFour();
+    }
+
+    void AddRest()
+    {
+        for (const Samples samples : std::span(whole).first(waiting))
+            Add(sums, samples);
+        waiting = 0;
+    }
+
+private:
+    void AddFour()
+    {
+        const auto [first, second, third, fourth] = whole;
+        for (std::size_t i = 0; i < sums.size(); ++i)
+            sums[i] += (first[i] + second[i]) + (third[i] + fourth[i]);
+        waiting = 0;
+    }
+
+    std::span<std::int32_t> sums;
+    std::array<Samples, 4> whole;
+    std::size_t waiting = 0;
+};
+
 void AddScaled(std::span<std::int32_t> sums, Samples samples, double gain)
 {
     for (std::size_t i = 0; i < samples.size(); ++i)
@@ -172,12 +209,13 @@ public:
         : soundings(std::move(placed)),
           gain(static_cast<float>(gainPercent / 100.0)),
           limits(clipLimits),
-          total(TotalLength(soundings))
+          total(TotalLength(soundings)),
+          isMono(std::ranges::all_of(soundings, [](const Sounding& one) { return one.frames->AreMono(); }))
     {
     }
 
-    /// The mixed wave. Each piece of the time line is summed separately, so that the pieces share the cores and the
-    /// sums stay in the cache.
+    /// The mixed wave; if all its sounds are mono, both channels are one. Each piece of the time line is summed
+    /// separately, so that the pieces share the cores and the sums stay in the cache.
     WaveData Render(const Progress& progress)
     {
         WaveData result = EmptyWave();
@@ -186,12 +224,16 @@ public:
             return result;
         result.Length = total;
         result.WavL = Channel::Unfilled(total);
-        result.WavR = Channel::Unfilled(total);
         left = result.WavL.Change().data() + 1;
-        right = result.WavR.Change().data() + 1;
+        if (!isMono) {
+            result.WavR = Channel::Unfilled(total);
+            right = result.WavR.Change().data() + 1;
+        }
         const std::size_t chunks = (Total() + kChunkFrames - 1) / kChunkFrames;
         ParallelFor(
             chunks, [this](std::size_t chunk) { RenderChunk(chunk * kChunkFrames); }, progress, RenderThreads::Most());
+        if (isMono)
+            result.WavR = result.WavL;
         return result;
     }
 
@@ -202,40 +244,40 @@ private:
     {
         const std::size_t end = std::min(begin + kChunkFrames, Total());
         const std::vector<Sounding> near = Overlapping(soundings, begin, end);
-        const auto sums = std::make_unique_for_overwrite<Accumulators>();
-        for (std::size_t block = begin; block < end; block += kBlockFrames)
-            RenderBlock(*sums, Overlapping(near, block, block + kBlockFrames), block,
-                        std::min(kBlockFrames, end - block));
+        const auto sums = std::make_unique_for_overwrite<Sums>();
+        for (std::size_t block = begin; block < end; block += kBlockFrames) {
+            const std::vector<Sounding> sounding = Overlapping(near, block, block + kBlockFrames);
+            const std::span used = std::span(*sums).first(std::min(kBlockFrames, end - block));
+            RenderBlock(used, sounding, &StereoFrames::left, block, left);
+            if (!isMono)
+                RenderBlock(used, sounding, &StereoFrames::right, block, right);
+        }
     }
 
-    void RenderBlock(Accumulators& sums, const std::vector<Sounding>& sounding, std::size_t begin, std::size_t count)
+    void RenderBlock(std::span<std::int32_t> sums, const std::vector<Sounding>& sounding,
+                     Samples StereoFrames::*channel, std::size_t begin, std::int16_t* samples) const
     {
-        const std::span leftSums = std::span(sums.left).first(count);
-        const std::span rightSums = std::span(sums.right).first(count);
-        std::fill(leftSums.begin(), leftSums.end(), 0);
-        std::fill(rightSums.begin(), rightSums.end(), 0);
+        std::fill(sums.begin(), sums.end(), 0);
         const bool plain = gain == 1 && sounding.size() <= kMostUncheckedSums;
+        PlainAdder adder(sums);
         for (const Sounding& one : sounding) {
             const std::size_t from = std::max(one.begin, begin);
-            const std::size_t frames = std::min(one.end, begin + count) - from;
-            const Samples leftFrames = one.frames->left.subspan(from - one.begin, frames);
-            const Samples rightFrames = one.frames->right.subspan(from - one.begin, frames);
-            if (plain) {
-                Add(leftSums.subspan(from - begin), leftFrames);
-                Add(rightSums.subspan(from - begin), rightFrames);
-            } else {
-                AddScaled(leftSums.subspan(from - begin), leftFrames, gain);
-                AddScaled(rightSums.subspan(from - begin), rightFrames, gain);
-            }
+            const std::size_t count = std::min(one.end, begin + sums.size()) - from;
+            const Samples added = (one.frames->*channel).subspan(from - one.begin, count);
+            if (plain)
+                adder.AddAt(from - begin, added);
+            else
+                AddScaled(sums.subspan(from - begin), added, gain);
         }
-        Store(leftSums, limits, left + begin);
-        Store(rightSums, limits, right + begin);
+        adder.AddRest();
+        Store(sums, limits, samples + begin);
     }
 
     std::vector<Sounding> soundings;
     float gain;
     ClipLimits limits;
     std::int32_t total;
+    bool isMono;
     std::int16_t* left = nullptr;
     std::int16_t* right = nullptr;
 };

@@ -13,6 +13,7 @@
 #include "sound/RenderThreads.h"
 #include "sound/Waves.h"
 #include "support/FakeServices.h"
+#include "waves/WaveFormat.h"
 
 namespace sprout {
 namespace {
@@ -94,6 +95,18 @@ TEST(MixWaves, PansOnlyWhereTheProgramIsStereo)
     const FakeServices services;
     Shared().Channels = 1;
     EXPECT_EQ(MixWaves(From1({StereoWave({100}, {10})}), Placements{{0, 1}}, 100, 100, 100), StereoWave({100}, {10}));
+}
+
+TEST(MixWaves, OfMonoWavesOnlyHasOneChannelWithTwoNames)
+{
+    const Placements places{{0, 1}, {1, 2}};
+    const WaveData mono = MixWaves(From1({MonoWave({1, 2}), MonoWave({100})}), places, 100, 0, 100);
+    EXPECT_EQ(mono, StereoWave({1, 102}, {1, 102}));
+    EXPECT_EQ(FramesOf(mono.WavL, mono.Length).data(), FramesOf(mono.WavR, mono.Length).data());
+    EXPECT_EQ(MixWaves(From1({MonoWave({1, 2}), StereoWave({100}, {10})}), places, 100, 0, 100),
+              StereoWave({1, 102}, {1, 12}));
+    EXPECT_EQ(MixWaves(From1({MonoWave({100, 50})}), Placements{{0, 1}}, 100, 100, 100),
+              StereoWave({0, 0}, {200, 100}));
 }
 
 TEST(MixWaves, TakesTheWaveAtIndex0AsItStands)
