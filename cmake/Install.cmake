@@ -5,7 +5,7 @@
 #   lib/sprout-painter/               the programs and their helper
 #   lib/sprout-painter/Sprout         a link to share/sprout-painter/
 #   lib/sprout-painter/installed      tells the program that it is installed: see FindTempFolder in src/core/Paths.h
-#   share/sprout-painter/             the library: beats, tunes, stars and songs
+#   share/sprout-painter/             the library: beats, tunes, stars and songs; demos and the help's pictures
 
 set(programs sprout-song)
 if(SPROUT_WINDOWS)

@@ -2370,5 +2370,73 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <source>What is wrong?</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Welcome!</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play all plays the song</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Demo shows you how</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Welcome! Play all plays the song, Demo shows you how to make one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Put away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click here to put this card away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click Play all to hear the song, or Demo to see how to make one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This song is for the whole class.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It can be copied, but not renamed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This Tune is for the whole class.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is something new for you. Do you want it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Something new</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New tunes: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New songs: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New beats: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New surprises for random tunes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

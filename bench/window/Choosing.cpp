@@ -13,7 +13,9 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "beat_window/BeatWindow.h"
@@ -118,15 +120,26 @@ struct TuneWindowTimes {
     std::vector<double> open, memory, scroll, choose, lamp, key;
 };
 
+/// Presses a tune of the grid, which scrolls there.
+double PressTune(PictureGridPic& grid, int index)
+{
+    grid.VScroll1().setValue((index - 1) / kTunesTried + 1);
+    QApplication::processEvents();
+    const GridPlace place = PlaceInGrid(grid.Grid(), index);
+    return Milliseconds([&] { Press(grid, {place.x + 4, place.y + 4}); });
+}
+
 void UseTuneWindow(TuneFrm2& window, TuneWindowTimes& times)
 {
     auto& grid = *window.findChild<PictureGridPic*>();
     auto& steps = *window.findChild<TunFramPic*>();
     const std::vector<double> scrolled = ScrollTimes(grid);
     times.scroll.insert(times.scroll.end(), scrolled.begin(), scrolled.end());
+    const bool haveSound = !times.lamp.empty(); // from the first opening on
     for (int index = 2; index <= std::min(kTunesTried, grid.Count()); ++index) {
-        const GridPlace place = PlaceInGrid(grid.Grid(), index);
-        times.choose.push_back(Milliseconds([&] { Press(grid, {place.x + 4, place.y + 4}); }));
+        const double time = PressTune(grid, index);
+        if (haveSound)
+            times.choose.push_back(time);
         QApplication::processEvents();
     }
     times.lamp.push_back(Milliseconds([&] { Press(steps, {kStepsLeftAtStart + 2 * kStepPitch + 10, kLampY}); }));
@@ -140,24 +153,74 @@ void UseTuneWindow(TuneFrm2& window, TuneWindowTimes& times)
     times.key.push_back(Milliseconds([&] { Press(steps, lowestKey); }));
 }
 
-void OpenTuneWindowOnce(TuneWindowTimes& times)
+/// Opens the tune window, draws it, uses it and closes it.
+void WithTuneWindow(const std::function<void(TuneFrm2&)>& use)
 {
-    const double before = ResidentMegabytes();
-    QElapsedTimer clock;
-    clock.start();
-    QTimer::singleShot(0, qApp, [&] {
+    QTimer::singleShot(0, qApp, [&use] {
         auto& window = *qobject_cast<TuneFrm2*>(QApplication::activeModalWidget());
         QApplication::processEvents();
         window.repaint();
-        times.open.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
-        times.memory.push_back(ResidentMegabytes() - before);
-        UseTuneWindow(window, times);
+        use(window);
         window.reject();
     });
     Tune tune;
     bool newFlag = false;
     if (OpenTuneWindow(tune, newFlag))
         Player().StopPlay();
+}
+
+void OpenTuneWindowOnce(TuneWindowTimes& times)
+{
+    const double before = ResidentMegabytes();
+    QElapsedTimer clock;
+    clock.start();
+    WithTuneWindow([&](TuneFrm2& window) {
+        times.open.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+        times.memory.push_back(ResidentMegabytes() - before);
+        UseTuneWindow(window, times);
+    });
+}
+
+/// Notes when a file begins to be written.
+class TimedFiles : public PosixFiles {
+public:
+    void ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush) override
+    {
+        writeBegan.start();
+        PosixFiles::ReplaceFile(target, pieces, flush);
+    }
+
+    QElapsedTimer writeBegan;
+};
+
+/// Each tune of the library is pressed for the first time: it is read, rendered, played and shown, and then its sound
+/// is kept. The first tune is there twice, because the window begins with it.
+void MeasureFirstPresses(const fs::path& installed, const fs::path& scratch)
+{
+    const auto entries = fs::directory_iterator(installed / "Tunes");
+    const auto count = std::count_if(begin(entries), end(entries),
+                                     [](const auto& entry) { return entry.path().extension() == ".TqTun"; });
+    CopyMany(installed / "Tunes", scratch / "Tunes", {".TqTun"}, static_cast<int>(count) + 1);
+    Shared().TuneTableCount = 0;
+    TimedFiles files;
+    Files* const before = std::exchange(TheServices().files, &files);
+    std::vector<double> shown, kept;
+    std::string slowest;
+    WithTuneWindow([&](TuneFrm2& window) {
+        auto& grid = *window.findChild<PictureGridPic*>();
+        for (int index = 2; index <= grid.Count(); ++index) {
+            const double whole = PressTune(grid, index);
+            kept.push_back(static_cast<double>(files.writeBegan.nsecsElapsed()) / 1e6);
+            shown.push_back(whole - kept.back());
+            if (shown.back() == *std::max_element(shown.begin(), shown.end()))
+                slowest = Shared().CurrentTune.Name;
+        }
+    });
+    TheServices().files = before;
+    const std::string until =
+        "from the first press on a tune of the library until it plays and is drawn; " + slowest + " takes longest";
+    Print("first press", shown, "ms", 100, until.c_str());
+    Print("first press, kept", kept, "ms", 750, "from there until its sound is in its file");
 }
 
 void MeasureTunes(const fs::path& installed, const fs::path& scratch, int count)
@@ -234,10 +297,12 @@ void MeasureAll(const fs::path& installed)
     if (!mkdtemp(scratch.data()))
         return;
     SetUserRoot(scratch);
+    fs::copy(installed / "Beats", Shared().UserBeats); // for the tunes
     SetSoundDriver(true);
     QWidget mainWindow;
     mainWindow.resize(800, 600);
     mainWindow.show();
+    MeasureFirstPresses(installed, scratch);
     for (const int count : {200, 5000})
         MeasureTunes(installed, scratch, count);
     for (const int count : {300, 5000})

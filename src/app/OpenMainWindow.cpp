@@ -9,6 +9,8 @@
 #include <utility>
 #include <vector>
 
+#include "app/start/FirstWelcome.h"
+#include "app/start/LibraryNews.h"
 #include "app/start/SampleSong.h"
 #include "app/start/StartUp.h"
 #include "app/start/UserFolders.h"
@@ -72,6 +74,23 @@ void TellKeptSongs()
     });
 }
 
+/// Offers what came with a new version of the program.
+void OfferLibraryNews(MainFrm& window)
+{
+    const LibraryNews news = LibraryNews::Find();
+    if (news.IsEmpty())
+        return;
+    if (AskYesNo(Words::Text("There is something new for you. Do you want it?"), news.Names(),
+                 Words::Text("Something new")) == 1) {
+        news.Add();
+        Shared().TuneTableCount = 0; // to be read again
+        FillTuneTable();
+        return;
+    }
+    // If the program is being ended, nobody has said no: then this is not reached.
+    QTimer::singleShot(0, &window, [news] { Guarded([&news] { news.Decline(); }); });
+}
+
 } // namespace
 
 // The desktop takes about as long to show the window as everything below takes: nothing waits for it, and the window is
@@ -84,14 +103,18 @@ void OpenMainWindow(MainFrm& window, const std::filesystem::path& song)
     ShowHint(Words::Text("Ready"));
     StartSound(window);
     ReadOptionFlags();
+    const bool isWelcome = TakeFirstWelcome();
     if (OpenSampleSong())
         ShowSong(window);
+    if (isWelcome)
+        window.ShowWelcome();
     // A message waits for its answer, so the start must be over.
     QTimer::singleShot(0, &window, [&window, song] {
         if (!song.empty())
             window.OpenSong(song);
         TellNothingIsKept();
         TellKeptSongs();
+        Guarded([&window] { OfferLibraryNews(window); });
     });
 }
 

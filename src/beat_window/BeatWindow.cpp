@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beat_window/BeatWindow.h"
 
-#include <QScreen>
-
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -14,6 +12,7 @@
 #include "ui/look/Palette.h"
 #include "ui/rules/HintRow.h"
 #include "ui/rules/PictureGrid.h"
+#include "ui/widgets/FreeRoom.h"
 #include "ui/widgets/Hints.h"
 #include "ui/widgets/PutAt.h"
 #include "ui/words/QtText.h"
@@ -118,7 +117,7 @@ BeatWindowNeeds BeatWindow::Needs() const
 {
     const QSize gridFrame = PictureGridPic::FrameSize(kBeatColumns, 0);
     BeatWindowNeeds needs;
-    needs.screenHeight = screen()->availableGeometry().height();
+    needs.screenHeight = FreeRoom(*this).height();
     needs.bandHeight = kBandHeight;
     needs.gridFrame = {gridFrame.width(), gridFrame.height()};
     needs.beats = table.BeatListCount;

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beats/BeatEntry.h"
 
-#include "base/Extensions.h"
-#include "base/FilePaths.h"
 #include "base/Text.h"
-#include "core/Paths.h"
+#include "beats/BeatFiles.h"
 #include "core/Shared.h"
 
 namespace sprout {
@@ -13,8 +11,7 @@ namespace {
 
 bool IsKeptOutside(const Beat& beat)
 {
-    return !Shared().SongBeatsInside &&
-           FileExists(NamedFile(Shared().UserBeats, StoredText(beat.Name), kWaveExtension));
+    return !Shared().SongBeatsInside && !FindBeatWave(StoredText(beat.Name)).empty();
 }
 
 } // namespace

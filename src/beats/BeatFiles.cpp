@@ -8,6 +8,7 @@
 #include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/Text.h"
+#include "core/ClassFolder.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "core/SongSizes.h"
@@ -22,14 +23,11 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path FindBeatWave(std::string_view name)
+/// A beat's picture lies beside its wave.
+Picture LoadBeatPicture(std::string_view name, const fs::path& waveFile)
 {
-    return FindFile(NamedFile(Shared().UserBeats, name, kWaveExtension));
-}
-
-Picture LoadBeatPicture(std::string_view name)
-{
-    return LoadPictureFile(NamedFile(Shared().UserBeats, name, kPictureExtension));
+    const fs::path folder = waveFile.empty() ? Shared().UserBeats : AsFolder(waveFile.parent_path());
+    return LoadPictureFile(NamedFile(folder, name, kPictureExtension));
 }
 
 /// The beat in a wave file; nothing if the file has no samples.
@@ -44,7 +42,7 @@ std::optional<Beat> ReadBeat(std::string_view name, const fs::path& waveFile)
         return std::nullopt;
     beat.Name = name;
     beat.DateStamp = FileStamp(waveFile);
-    beat.Picture = LoadBeatPicture(name);
+    beat.Picture = LoadBeatPicture(name, waveFile);
     beat.Loaded = true;
     return beat;
 }
@@ -84,6 +82,11 @@ std::string WithoutFamily(std::string fileName)
     if (isLetter && fileName.size() > 2 && fileName[1] == '_')
         fileName.erase(0, 2);
     return fileName;
+}
+
+fs::path FindBeatWave(std::string_view name)
+{
+    return FindNamedFile(BeatFolders(), name, kWaveExtension);
 }
 
 std::string BeatNameForPeople(std::string_view name)
@@ -133,7 +136,7 @@ void ReloadBeat(Beat& beat)
     }
     beat.DateStamp.clear();
     beat.Sound = EmptyWave();
-    beat.Picture = LoadBeatPicture(beat.Name);
+    beat.Picture = LoadBeatPicture(beat.Name, {});
     beat.Loaded = true;
 }
 

@@ -21,12 +21,15 @@ inline constexpr std::int32_t kLongestBeatSeconds = 5;
 /// The base name of a beat's file without its family letter: "Acoustic Bass Low" for "B_Acoustic Bass Low".
 [[nodiscard]] std::string WithoutFamily(std::string fileName);
 
-/// A beat's name for display: spelled like its file in `UserBeats`, if there is one, and without its family letter.
-/// "b_acoustic bass low" becomes "Acoustic Bass Low".
+/// The wave of a beat: in `UserBeats` or, if there is none, in the class's folder. Empty if there is neither.
+[[nodiscard]] std::filesystem::path FindBeatWave(std::string_view name);
+
+/// A beat's name for display: spelled like its file, if there is one, and without its family letter. "b_acoustic bass
+/// low" becomes "Acoustic Bass Low".
 [[nodiscard]] std::string BeatNameForPeople(std::string_view name);
 
-/// Fills a beat from its pair of files in `UserBeats`, cut to 5 seconds. Without a .wav the beat becomes empty; a wave
-/// without samples leaves it unchanged.
+/// Fills a beat from its pair of files, cut to 5 seconds. Without a .wav the beat becomes empty; a wave without samples
+/// leaves it unchanged.
 void LoadBeatFile(Beat& beat, std::string_view name);
 
 /// What `LoadBeatFile` makes of `before`.

@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "beats/BeatFolder.h"
 
+#include <algorithm>
 #include <map>
+#include <unordered_set>
+#include <utility>
 
 #include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
 #include "base/Text.h"
+#include "core/ClassFolder.h"
 
 namespace sprout {
 
@@ -40,6 +44,23 @@ BeatFolder ListBeatFolder(const fs::path& folder)
     for (const auto& [name, wave] : FilesByName(waves))
         if (const auto picture = pictures.find(name); picture != pictures.end())
             found.Pairs.push_back({name, wave, picture->second});
+    return found;
+}
+
+BeatFolder ListOwnAndClassBeats()
+{
+    const OwnAndClass folders = BeatFolders();
+    BeatFolder found = ListBeatFolder(folders.Own);
+    if (folders.Class.empty())
+        return found;
+    std::unordered_set<std::string> own;
+    for (const std::string& name : found.WaveNames)
+        own.insert(LowerCase(name));
+    for (BeatPair& pair : ListBeatFolder(folders.Class).Pairs)
+        if (!own.contains(pair.Name))
+            found.Pairs.push_back(std::move(pair));
+    std::stable_sort(found.Pairs.begin(), found.Pairs.end(),
+                     [](const BeatPair& a, const BeatPair& b) { return a.Name < b.Name; });
     return found;
 }
 

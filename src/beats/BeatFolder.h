@@ -23,4 +23,8 @@ struct BeatFolder {
 /// Reads a folder. A folder that cannot be read counts as empty.
 [[nodiscard]] BeatFolder ListBeatFolder(const std::filesystem::path& folder);
 
+/// The beats of `BeatFolders`: those in `UserBeats`, and the pairs of the class that no own .wav hides. WaveNames: only
+/// those in `UserBeats`.
+[[nodiscard]] BeatFolder ListOwnAndClassBeats();
+
 } // namespace sprout

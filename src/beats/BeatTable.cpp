@@ -81,7 +81,7 @@ bool IsSelectedProtected(const BeatTable& table)
 
 void LoadBeatFiles(BeatTable& table, std::string_view wanted)
 {
-    BeatFolder folder = ListBeatFolder(Shared().UserBeats);
+    BeatFolder folder = ListOwnAndClassBeats();
     const BeatIndex index = ReadBeatIndex(folder);
     SortBeatPairs(folder.Pairs, index);
     table.SelectedBeat = NewBeatSelection(table, folder.Pairs, wanted);
@@ -91,7 +91,7 @@ void LoadBeatFiles(BeatTable& table, std::string_view wanted)
     table.BeatProtected.assign(1, false);
     const auto originals = index.ReadProtectedList();
     for (BeatPair& pair : folder.Pairs) {
-        table.BeatProtected.push_back(originals.contains(NameKey(pair.Name)));
+        table.BeatProtected.push_back(originals.contains(NameKey(pair.Name)) || IsOfClass(pair.Wave));
         table.NamesForPeople[pair.Name] = WithoutFamily(PathText(pair.Wave.stem()));
         Beat& beat = table.BeatList.emplace_back();
         beat.Name = std::move(pair.Name);
@@ -102,7 +102,7 @@ void LoadBeatFiles(BeatTable& table, std::string_view wanted)
 void LoadBeatSound(BeatTable& table, std::int32_t index)
 {
     Beat& beat = At(table.BeatList, index);
-    WaveData sound = LoadWaveFile(FindFile(NamedFile(Shared().UserBeats, beat.Name, kWaveExtension)));
+    WaveData sound = LoadWaveFile(FindBeatWave(beat.Name));
     const std::int32_t mostFrames = sound.Rate * kLongestShownSeconds;
     beat.Sound = sound.Length > mostFrames ? CutWaveSlice(sound, 1, mostFrames) : std::move(sound);
     beat.Loaded = true;

@@ -18,7 +18,7 @@ inline constexpr std::int32_t kLongestShownSeconds = 3;
 /// `SelectedBeat` if the next load must find `RefindBeatName`.
 inline constexpr std::int32_t kRefindBeat = -1;
 
-/// The beats of `UserBeats` as the beat window shows them.
+/// The beats of `BeatFolders` as the beat window shows them.
 struct BeatTable {
     std::vector<Beat> BeatList = std::vector<Beat>(1); ///< from 1; names in lower case, sounds on demand
     std::map<std::string, std::string> NamesForPeople; ///< by the names in the list

@@ -63,8 +63,10 @@ Words LeftOutWords(std::span<const LeftOutFile> files)
     return Words::Joined(std::move(lines), "\r\n");
 }
 
-/// Why a folder, or part of it, was not copied; blank if everything was.
-Words FillFolder(const fs::path& source, const fs::path& target)
+/// Makes a copy for the folder `target` by `copy`, which reports its progress. Returns why something was not copied;
+/// blank if everything was.
+template <class Copy>
+Words CopyShowing(const fs::path& target, Copy copy)
 {
     const WorkingSign sign;
     const StoppableWork work(Words::Text("Getting your %1 ready", LowerCase(PathText(target.filename()))));
@@ -74,7 +76,7 @@ Words FillFolder(const fs::path& source, const fs::path& target)
                   const auto show = [](std::size_t done, std::size_t total) {
                       TheServices().screen->ShowProgress(done, total);
                   };
-                  failure = LeftOutWords(TheServices().folderCopies->FillFolder(source, target, show));
+                  failure = LeftOutWords(copy(show));
               });
     return failure;
 }
@@ -155,7 +157,7 @@ bool DeleteFile(const fs::path& path)
     if (!NamesAnything(path))
         return true;
     std::error_code error;
-    if (IsPlainFile(path) && !IsOfInstallation(path))
+    if (IsPlainFile(path) && !IsOfInstallation(path) && !IsOfClass(path))
         fs::remove(path, error);
     return !fs::exists(fs::symlink_status(path, error));
 }
@@ -184,7 +186,17 @@ void OpenWithShell(std::string_view target)
 Words CopyFolder(const fs::path& source, const fs::path& destination)
 {
     const fs::path folder = source.has_filename() ? source : source.parent_path();
-    return FillFolder(folder, destination / folder.filename());
+    const fs::path target = destination / folder.filename();
+    return CopyShowing(target, [&](const FolderCopies::Progress& show) {
+        return TheServices().folderCopies->FillFolder(folder, target, show);
+    });
+}
+
+Words CopyFiles(const fs::path& source, const fs::path& target, std::span<const fs::path> names)
+{
+    return CopyShowing(target, [&](const FolderCopies::Progress& show) {
+        return TheServices().folderCopies->AddFiles(source, target, names, show);
+    });
 }
 
 void TellFailedCopy(const fs::path& source, const Words& failure)
@@ -201,9 +213,14 @@ bool IsOfInstallation(const fs::path& file)
     return LiesIn(file, shared.InstallRoot) || (shared.IsInstalled && LiesIn(file, shared.ProgramFolder));
 }
 
+bool IsOfClass(const fs::path& file)
+{
+    return LiesIn(file, Shared().ClassRoot) && !LiesIn(file, Shared().UserRoot);
+}
+
 void RequireOwnFile(const fs::path& file)
 {
-    if (IsOfInstallation(file))
+    if (IsOfInstallation(file) || IsOfClass(file))
         throw RunTimeError(Words::Text("The file %1 may not be changed.", PathText(file)));
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -18,8 +19,8 @@ namespace sprout {
 [[nodiscard]] bool FileExists(const std::filesystem::path& path);
 
 /// Deletes the plain file with exactly this name, or the link to one; leaves a file whose name differs in letter case,
-/// anything that is not a file, and what `IsOfInstallation`. True if the path is blank, did not exist or no longer
-/// exists; false if it still does. Never throws.
+/// anything that is not a file, and what `IsOfInstallation` or `IsOfClass`. True if the path is blank, did not exist or
+/// no longer exists; false if it still does. Never throws.
 bool DeleteFile(const std::filesystem::path& path);
 
 /// A free path for a temporary file in `TempFolder`. Stale files of the pattern found on the way are deleted; those
@@ -38,6 +39,10 @@ void OpenWithShell(std::string_view target);
 /// if everything was.
 [[nodiscard]] Words CopyFolder(const std::filesystem::path& source, const std::filesystem::path& destination);
 
+/// Copies files of one folder into another in the same way. names: without folders.
+[[nodiscard]] Words CopyFiles(const std::filesystem::path& source, const std::filesystem::path& target,
+                              std::span<const std::filesystem::path> names);
+
 /// Shows why a folder, or a part of it, was not copied.
 void TellFailedCopy(const std::filesystem::path& source, const Words& failure);
 
@@ -45,11 +50,16 @@ void TellFailedCopy(const std::filesystem::path& source, const Words& failure);
 /// program never changes anything there, even if the user might.
 [[nodiscard]] bool IsOfInstallation(const std::filesystem::path& file);
 
-/// Throws `RunTimeError` with a plain sentence for a file that `IsOfInstallation`.
+/// True if a path lies in `ClassRoot`, which the program never changes either. What is in `UserRoot` is the user's own
+/// all the same: a teacher may share a folder of their own, and a school a folder with the homes in it.
+[[nodiscard]] bool IsOfClass(const std::filesystem::path& file);
+
+/// Throws `RunTimeError` with a plain sentence for a file that `IsOfInstallation` or `IsOfClass`.
 void RequireOwnFile(const std::filesystem::path& file);
 
 /// Prepares to replace or create a file: recreates a missing folder of the user's. Throws `RunTimeError` with a plain
-/// sentence if the user may not change the file, if it `IsOfInstallation`, or if the folder cannot be created.
+/// sentence if the user may not change the file, if it `IsOfInstallation` or `IsOfClass`, or if the folder cannot be
+/// created.
 void PrepareToReplace(const std::filesystem::path& file);
 
 /// Sets `ProgramFolder`, `IsInstalled`, the settings files and `TempFolder`.

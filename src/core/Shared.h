@@ -69,10 +69,11 @@ struct SharedState {
     Picture DefaultTunePicture; ///< used if a picture file is missing
     Picture NewTunePicture;     ///< of a tune made in the tune window
 
-    // Folders. Those in the second and third line end in a separator.
+    // Folders. Those from the second line on end in a separator.
     std::filesystem::path ProgramFolder, TempFolder, DocumentsFolder, UserRoot;
     std::filesystem::path InstallRoot, InstallBeats, InstallTunes, InstallStars, InstallSongs, DemoImages;
     std::filesystem::path UserBeats, UserTunes, UserStars, UserSongs;
+    std::filesystem::path ClassRoot; ///< has the folders of a class, see `OwnAndClass`; empty if there is none
 
     bool IsInstalled = false; ///< for all users of the machine: the program never writes beside itself
 

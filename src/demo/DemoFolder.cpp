@@ -22,6 +22,12 @@ namespace {
 constexpr const char* kDemoFileName = "TqDemoImages.ini";
 constexpr const char* kDemoTextsName = "TqDemoTexts.ini";
 
+/// The file in `DemoImages` with this name, ignoring letter case; empty if there is none.
+std::filesystem::path PictureFile(std::string_view name)
+{
+    return FindFile(NamedFile(Shared().DemoImages, name, {}));
+}
+
 } // namespace
 
 IniFile ReadDemoFile()
@@ -46,10 +52,22 @@ Picture LoadDemoPicture(std::string_view name)
 {
     Picture picture;
     GuardedQuietly("Loading a picture of a demo", [&picture, name] {
-        const std::filesystem::path file = FindFile(NamedFile(Shared().DemoImages, name, {}));
+        const std::filesystem::path file = PictureFile(name);
         if (file.empty())
             throw RunTimeError(Words::Text("The picture %1 cannot be read.", name));
         picture = TheServices().pictures->LoadPicture(file);
+    });
+    return picture;
+}
+
+Picture LoadSharpDemoPicture(std::string_view name)
+{
+    Picture picture;
+    GuardedQuietly("Loading a sharp picture of a demo", [&picture, name] {
+        const std::filesystem::path plain(name);
+        const std::filesystem::path file = PictureFile(BaseName(plain) + "@2x" + plain.extension().string());
+        if (!file.empty())
+            picture = TheServices().pictures->LoadPicture(file);
     });
     return picture;
 }

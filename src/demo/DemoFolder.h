@@ -23,6 +23,10 @@ namespace sprout {
 /// is logged.
 [[nodiscard]] Picture LoadDemoPicture(std::string_view name);
 
+/// The same picture at twice the size, for screens with small pixels: "NAME@2x.png" beside "NAME.png". Nothing if there
+/// is none, or if it cannot be loaded.
+[[nodiscard]] Picture LoadSharpDemoPicture(std::string_view name);
+
 /// The wave in `DemoImages` with the base name of a picture, ignoring letter case; empty if there is none.
 [[nodiscard]] std::filesystem::path DemoSoundOf(std::string_view pictureName);
 

@@ -25,10 +25,11 @@ DemoPic::DemoPic(QWidget* parent) : QWidget(parent)
     SetSpokenRole(*this, QAccessible::Graphic);
 }
 
-void DemoPic::Show(const Picture& picture)
+void DemoPic::Show(const Picture& picture, const Picture& sharp)
 {
     pictureSize = {picture.Width(), picture.Height()};
-    pixmap = QPixmap::fromImage(ToImage(picture));
+    const bool isTwice = sharp.Width() == 2 * picture.Width() && sharp.Height() == 2 * picture.Height();
+    pixmap = QPixmap::fromImage(ToImage(isTwice ? sharp : picture));
     update();
 }
 

@@ -18,8 +18,8 @@ class DemoPic : public QWidget {
 public:
     explicit DemoPic(QWidget* parent);
 
-    /// Shows this picture from now on.
-    void Show(const Picture& picture);
+    /// Shows this picture from now on; or `sharp` in its place, if that is exactly twice as large.
+    void Show(const Picture& picture, const Picture& sharp = {});
     [[nodiscard]] BoxSize PictureSize() const { return pictureSize; }
 
     /// Tells screen readers what the slide asks for; one that stands on the picture says it at once.

@@ -16,6 +16,7 @@
 #include "sound/PlayMod.h"
 #include "ui/forms/Guarded.h"
 #include "ui/look/Look.h"
+#include "ui/widgets/FreeRoom.h"
 #include "ui/widgets/LinkButton.h"
 #include "ui/widgets/NamesMenu.h"
 #include "ui/widgets/PutAt.h"
@@ -103,7 +104,7 @@ std::optional<BoxSize> Demo_frm::LoadSlide(const DemoSlide& slide)
     const Picture picture = LoadDemoPicture(slide.Picture);
     if (picture.IsNothing())
         return std::nullopt;
-    demoPic->Show(picture);
+    demoPic->Show(picture, devicePixelRatioF() > 1 ? LoadSharpDemoPicture(slide.Picture) : Picture());
     return demoPic->PictureSize();
 }
 
@@ -136,7 +137,7 @@ void Demo_frm::PlaySlideSound() const
 void Demo_frm::PlaceParts()
 {
     const BoxSize picture = demoPic->PictureSize() == BoxSize() ? kSizeWithoutPicture : demoPic->PictureSize();
-    const QSize room = screen()->availableGeometry().size();
+    const QSize room = FreeRoom(*this);
     const DemoPlaces places =
         PlaceDemo(picture, {room.width(), room.height() - kBandHeight}, SizeOf(*DemoPopUpLinkLbl));
     const QPoint middle = geometry().center();

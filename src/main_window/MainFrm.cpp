@@ -21,8 +21,10 @@
 #include "main_window/TrackCanvas.h"
 #include "main_window/TrackCommands.h"
 #include "main_window/TransportCommands.h"
+#include "main_window/WelcomeCard.h"
 #include "main_window/WindowFrame.h"
 #include "main_window/WindowSettings.h"
+#include "main_window/rules/MainWindowHints.h"
 #include "main_window/rules/MainWindowPlaces.h"
 #include "ui/Windows.h"
 #include "ui/look/Artwork.h"
@@ -183,6 +185,27 @@ void MainFrm::OpenSong(const std::filesystem::path& file)
     songCommands.OpenSong(file);
 }
 
+void MainFrm::ShowWelcome()
+{
+    welcome = new WelcomeCard(this, watcher);
+    welcome->PointTo(buttons.Button("PlayAllBtn"));
+    welcome->PointTo(buttons.Button("DemoBtn"));
+    connect(welcome, &WelcomeCard::PutAway, this, &MainFrm::PutWelcomeAway, Qt::SingleShotConnection);
+    // The tracks have the focus: the first Tab leads to the card.
+    setTabOrder(findChild<QWidget*>(QStringLiteral("TrackPic")), &welcome->CloseButton());
+    PlaceParts();
+    ShowHint(kWelcomeHint);
+}
+
+void MainFrm::PutWelcomeAway()
+{
+    ShowHint({});
+    if (welcome->CloseButton().hasFocus())
+        findChild<QWidget*>(QStringLiteral("TrackPic"))->setFocus();
+    std::exchange(welcome, nullptr)->Delete();
+    PlaceParts();
+}
+
 void MainFrm::ShowSoundDevices(int count)
 {
     statusBar->ShowSoundDevices(count);
@@ -208,12 +231,20 @@ void MainFrm::paintEvent(QPaintEvent* /*event*/)
 void MainFrm::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    const MainWindowPlaces places = PlaceMainWindow(width(), height(), controlBar->HeightFor(ControlBarWidth(width())));
+    PlaceParts();
+}
+
+void MainFrm::PlaceParts()
+{
+    const MainWindowPlaces places = PlaceMainWindow(width(), height(), controlBar->HeightFor(ControlBarWidth(width())),
+                                                    welcome ? WelcomeStrip::Shown : WelcomeStrip::Hidden);
     statusBar->setVisible(places.hasStatus);
     PutAt(*titleBand, places.titleBand);
     PutAt(*controlBar, places.controlBar);
     PutAt(*canvas, places.canvas); // it redraws itself at its new size
     PutAt(*statusBar, places.statusBar);
+    if (welcome)
+        welcome->PlaceIn(places.welcome);
     frame->Place(places);
 }
 

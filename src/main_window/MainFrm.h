@@ -23,6 +23,7 @@ class TitleBand;
 class TrackCanvas;
 class TrackCommands;
 class TransportCommands;
+class WelcomeCard;
 class WindowFrame;
 
 /// The main window: title band, control bar, track canvas and status line, in a frame of its own. It takes its position
@@ -41,6 +42,10 @@ public:
     void UpdateTempoSliderValue();
     /// Shows title and author, also in the caption.
     void UpdateSongTitle();
+
+    /// Shows the card that welcomes the user and tells the same on the status line. Once it is put away, the tracks
+    /// have its room again.
+    void ShowWelcome();
 
     /// Opens a song from where it lies, as if it had been chosen.
     void OpenSong(const std::filesystem::path& file);
@@ -76,6 +81,8 @@ private:
     void ShowWindowButtons();
     void ChooseTool(Tool tool);
     void ShowNewSong();
+    void PlaceParts();
+    void PutWelcomeAway();
 
     TransportCommands& transportCommands;
     ButtonScheme scheme;
@@ -89,6 +96,7 @@ private:
     TrackCommands* trackCommands = nullptr;
     std::unique_ptr<AudioTrackCommands> audioTrackCommands;
     StatusBar* statusBar = nullptr;
+    WelcomeCard* welcome = nullptr; ///< until it is put away
     std::unique_ptr<WindowFrame> frame;
     ProcessPic* processPic;
 };

@@ -155,7 +155,7 @@ void SongCommands::OpenChosenSong()
 {
     const std::optional<std::string> name = TheWindows().ChooseSongToOpen(window);
     if (name)
-        OpenFile(PlaceOfSong(*name), *name);
+        OpenFile(SongFileToOpen(*name), *name);
 }
 
 void SongCommands::OpenFile(const fs::path& file, const std::string& name)

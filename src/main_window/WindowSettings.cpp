@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <string>
 #include <string_view>
 
 #include "core/Settings.h"
@@ -28,13 +29,16 @@ void TakePlaceFromSettings(QWidget& window)
         window.setWindowState(Qt::WindowMaximized);
 }
 
-void WritePlaceToSettings(const QWidget& window)
+void WritePlaceToSettings(const QWidget& window, bool desktopPlaces)
 {
     PutSetting(kPlaceSection, "WindowState", window.isMinimized() ? "1" : window.isMaximized() ? "2" : "0");
     if (window.isMinimized() || window.isMaximized())
         return;
-    PutSettings(kPlaceSection, {{"Position", PairOfTwips(window.x(), window.y())},
-                                {"Size", PairOfTwips(window.width(), window.height())}});
+    const std::string size = PairOfTwips(window.width(), window.height());
+    if (desktopPlaces)
+        PutSetting(kPlaceSection, "Size", size);
+    else
+        PutSettings(kPlaceSection, {{"Position", PairOfTwips(window.x(), window.y())}, {"Size", size}});
 }
 
 } // namespace sprout

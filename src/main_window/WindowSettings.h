@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "ui/widgets/DesktopPlacesWindows.h"
+
 class QWidget;
 
 namespace sprout {
@@ -10,7 +12,8 @@ namespace sprout {
 /// Gives the window the stored place on its screen. It opens maximised if it was closed so, or if nothing is stored.
 void TakePlaceFromSettings(QWidget& window);
 
-/// Stores the window's state, and its place unless it is minimised or maximised.
-void WritePlaceToSettings(const QWidget& window);
+/// Stores the window's state, and its place unless it is minimised or maximised; of the place only the size if the
+/// desktop places windows, since the window does not know the rest.
+void WritePlaceToSettings(const QWidget& window, bool desktopPlaces = DesktopPlacesWindows());
 
 } // namespace sprout

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QScreen>
 
 #include <array>
 #include <optional>
@@ -21,6 +20,7 @@
 #include "ui/forms/Dialogs.h"
 #include "ui/forms/Guarded.h"
 #include "ui/look/Palette.h"
+#include "ui/widgets/FreeRoom.h"
 #include "ui/widgets/PutAt.h"
 #include "ui/words/Texts.h"
 
@@ -86,7 +86,7 @@ AudioEditFrm::AudioEditFrm(QWidget* parent) : BandedForm(parent), sound(new Edit
     SelectedLbl = &AddLabel("SelectedLbl");
     MakeButtons();
     SetTabOrders();
-    FitTo(screen()->availableGeometry().size());
+    FitTo(FreeRoom(*this));
     sound->Picture().setFocus();
     OpenEditor() = this;
 }

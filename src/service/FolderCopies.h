@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -37,7 +38,14 @@ public:
     [[nodiscard]] virtual std::vector<LeftOutFile>
     FillFolder(const std::filesystem::path& source, const std::filesystem::path& target, const Progress& progress) = 0;
 
-    /// True if an unfinished `FillFolder` left something beside `target`.
+    /// Adds files of `source` to a folder in the same way; `names` have no folders. What `target` holds under such a
+    /// name stays as it is. Whatever an earlier program left is cleared or finished first.
+    [[nodiscard]] virtual std::vector<LeftOutFile> AddFiles(const std::filesystem::path& source,
+                                                            const std::filesystem::path& target,
+                                                            std::span<const std::filesystem::path> names,
+                                                            const Progress& progress) = 0;
+
+    /// True if an unfinished copy left something beside `target`.
     [[nodiscard]] virtual bool IsUnfinished(const std::filesystem::path& target) const = 0;
 };
 

@@ -8,6 +8,7 @@
 #include "base/Errors.h"
 #include "base/FilePaths.h"
 #include "base/Guarded.h"
+#include "core/Paths.h"
 #include "service/Messages.h"
 #include "service/Services.h"
 #include "song_window/SongList.h"
@@ -63,6 +64,9 @@ void RenameSongFile(SongList& list)
     if (!IsSongSelected(list, Words::Text("Select a song to rename.")))
         return;
     const SongFile song = *list.SelectedSong();
+    if (IsOfClass(song.Path))
+        return ShowMessage(Words::Text("This song is for the whole class."),
+                           Words::Text("It can be copied, but not renamed."));
     const std::string newName = SafeFileName(AskText(song.Name, Words::Text("Enter the new name:")));
     if (newName.empty())
         return;

@@ -4,7 +4,6 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 
-#include "core/Shared.h"
 #include "ui/look/Look.h"
 #include "ui/words/Texts.h"
 
@@ -31,7 +30,7 @@ SongList::SongList(QWidget* parent) : QListWidget(parent)
 
 void SongList::LoadSongNames()
 {
-    songs = ListSongs(Shared().UserSongs);
+    songs = ListOwnAndClassSongs();
     const QSignalBlocker quiet(this);
     clear();
     for (const SongFile& song : songs) {

@@ -13,7 +13,7 @@
 
 namespace sprout {
 
-/// The songs of `UserSongs` as a list with single selection. Its arrow keys stay inside it.
+/// The songs of `SongFolders` as a list with single selection. Its arrow keys stay inside it.
 class SongList : public QListWidget {
     Q_OBJECT
 

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 
+#include "core/Paths.h"
 #include "core/Settings.h"
 #include "song_window/NameDecision.h"
 #include "song_window/SongFileCommands.h"
@@ -193,7 +194,8 @@ void SongSelFrm::ShowDeleteBtn()
 {
     constexpr std::size_t deleteBtn = 1;
     const SongFile* const song = SngNmLst->SelectedSong();
-    columnButtons[deleteBtn]->setVisible(!keepsSuppliedSongs || !song || !IsSuppliedSong(song->Name));
+    const bool stays = song && (IsOfClass(song->Path) || (keepsSuppliedSongs && IsSuppliedSong(song->Name)));
+    columnButtons[deleteBtn]->setVisible(!stays);
 }
 
 bool SongSelFrm::eventFilter(QObject* watched, QEvent* event)

@@ -16,7 +16,7 @@ namespace sprout {
 
 class SongList;
 
-/// The song window: shows the songs of `UserSongs` (`SongList`) and lets the user choose or type the name of one to
+/// The song window: shows the songs of `SongFolders` (`SongList`) and lets the user choose or type the name of one to
 /// open, save or create. It loads and saves no song itself.
 class SongSelFrm : public BandedForm {
     Q_OBJECT

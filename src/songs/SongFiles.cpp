@@ -10,6 +10,7 @@
 #include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/Text.h"
+#include "core/ClassFolder.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "service/Files.h"
@@ -28,10 +29,11 @@ bool IsTaken(const fs::path& path)
     return fs::exists(fs::symlink_status(path, error)) || FileExists(path);
 }
 
-/// The path for a song with another name in the song's folder.
+/// The path for a song with another name in the song's folder; in `UserSongs` for one of the class.
 fs::path FreePlaceBeside(const SongFile& song, std::string_view newName)
 {
-    fs::path place = NamedFile(song.Path.parent_path() / "", newName, kSongExtension);
+    const fs::path folder = IsOfClass(song.Path) ? Shared().UserSongs : song.Path.parent_path() / "";
+    fs::path place = NamedFile(folder, newName, kSongExtension);
     if (place.empty())
         throw RunTimeError(Words::Text("This cannot be the name of a song."));
     if (IsTaken(place))
@@ -53,6 +55,11 @@ std::vector<std::byte> BytesOfSong(const SongFile& song)
 std::vector<SongFile> ListSongs(const fs::path& folder)
 {
     return FilesInFolder(folder, kSongExtension);
+}
+
+std::vector<SongFile> ListOwnAndClassSongs()
+{
+    return FilesInFolders(SongFolders(), kSongExtension);
 }
 
 const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name)
@@ -83,6 +90,12 @@ fs::path PlaceOfSong(std::string_view title)
     return found.empty() ? path : found;
 }
 
+fs::path SongFileToOpen(std::string_view title)
+{
+    const fs::path found = FindNamedFile(SongFolders(), title, kSongExtension);
+    return found.empty() ? PlaceOfSong(title) : found;
+}
+
 void CopySong(const SongFile& song, std::string_view newName)
 {
     const fs::path place = FreePlaceBeside(song, newName);
@@ -93,6 +106,7 @@ void CopySong(const SongFile& song, std::string_view newName)
 
 void RenameSong(const SongFile& song, std::string_view newName)
 {
+    RequireOwnFile(song.Path);
     fs::rename(song.Path, FreePlaceBeside(song, newName));
 }
 

@@ -17,6 +17,9 @@ using SongFile = FolderFile;
 /// none.
 [[nodiscard]] std::vector<SongFile> ListSongs(const std::filesystem::path& folder);
 
+/// The songs of `SongFolders`, likewise: the user's own and those of the class.
+[[nodiscard]] std::vector<SongFile> ListOwnAndClassSongs();
+
 /// The first song whose name equals `name` ignoring case; null if there is none.
 [[nodiscard]] const SongFile* FindSong(std::span<const SongFile> songs, std::string_view name);
 
@@ -30,8 +33,11 @@ using SongFile = FolderFile;
 /// Empty if the title cannot be a file name.
 [[nodiscard]] std::filesystem::path PlaceOfSong(std::string_view title);
 
-/// Copies a song under another name into its folder. The copy appears completely or not at all and replaces no other
-/// file. Throws `RunTimeError` or an exception of the standard library.
+/// The path of the song to open under that title: one of the class if the user has none, otherwise `PlaceOfSong`.
+[[nodiscard]] std::filesystem::path SongFileToOpen(std::string_view title);
+
+/// Copies a song under another name into its folder, or one of the class into `UserSongs`. The copy appears completely
+/// or not at all and replaces no other file. Throws `RunTimeError` or an exception of the standard library.
 void CopySong(const SongFile& song, std::string_view newName);
 
 /// Renames a song; no other file is replaced. Throws like `CopySong`.

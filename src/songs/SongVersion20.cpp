@@ -99,7 +99,7 @@ void SongReader20::ReadTune(Tune& tune)
 
 void SongReader20::TakeTuneFile(Tune& tune, const std::string& name)
 {
-    const std::filesystem::path file = TuneFile(name);
+    const std::filesystem::path file = TuneFileToRead(name);
     if (!FileExists(file)) {
         tune = BlankTune();
         return;

@@ -10,9 +10,7 @@
 #include <map>
 #include <string>
 
-#include "base/Extensions.h"
-#include "base/FilePaths.h"
-#include "core/Paths.h"
+#include "beats/BeatFiles.h"
 #include "core/Shared.h"
 #include "ui/look/Artwork.h"
 #include "ui/look/Look.h"
@@ -41,7 +39,7 @@ public:
             return false;
         const auto [known, isNew] = missing.try_emplace(beat.Name, false);
         if (isNew)
-            known->second = !FileExists(NamedFile(Shared().UserBeats, beat.Name, kWaveExtension));
+            known->second = FindBeatWave(beat.Name).empty();
         return known->second;
     }
 

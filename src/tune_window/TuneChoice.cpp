@@ -27,14 +27,14 @@ void TuneChoice::Find(std::string_view name)
         ChooseNothing();
 }
 
-void TuneChoice::ChooseFirstIfOpen()
+bool TuneChoice::ChooseFirstIfOpen()
 {
-    if (selected != 0)
-        return;
+    if (selected != 0 || Shared().TuneTableCount < 1)
+        return false;
     Choose(1);
     Shared().TuneInfoDefault.CreatedBy = chosen.CreatedBy;
     Shared().TuneInfoDefault.Name = "Lumo";
-    Play();
+    return Play();
 }
 
 void TuneChoice::Choose(std::int32_t index)
@@ -55,13 +55,19 @@ void TuneChoice::ChooseNothing()
     selected = kNothingChosen;
 }
 
-void TuneChoice::Play()
+bool TuneChoice::Play()
 {
     if (!HasTune())
-        return;
-    LoadChosenTune(chosen);
+        return false;
+    const bool keepsSound = LoadChosenTune(chosen);
     if (chosen.TuneWaveValid)
         PlayWaveDelayed(chosen.TuneWave, kTuneLeadIn, Words::Text("Playing Tune"), Loop::No);
+    return keepsSound;
+}
+
+void TuneChoice::KeepSound() const
+{
+    KeepChosenTune(chosen);
 }
 
 } // namespace sprout

@@ -26,8 +26,9 @@ public:
     /// Selects the tune of that name; if it is not in the table, nothing. An empty name leaves the choice open.
     void Find(std::string_view name);
 
-    /// If the choice is still open, chooses the first tune, which is then the default for new tunes, and plays it.
-    void ChooseFirstIfOpen();
+    /// If the choice is still open and there is a tune, chooses the first one, which is then the default for new tunes,
+    /// and plays it. Returns like `Play`.
+    [[nodiscard]] bool ChooseFirstIfOpen();
 
     /// index: in the table.
     void Choose(std::int32_t index);
@@ -41,8 +42,12 @@ public:
     /// The chosen tune has moved in the table.
     void Follow(std::int32_t index) { selected = index; }
 
-    /// Plays the chosen tune after a short silence, reading or rendering it first if needed.
-    void Play();
+    /// Plays the chosen tune after a short silence, reading or rendering it first if needed. Returns whether its sound
+    /// should then be kept.
+    [[nodiscard]] bool Play();
+
+    /// Keeps the sound of the chosen tune, which may have to wait for the disk.
+    void KeepSound() const;
 
 private:
     Tune chosen; ///< copy of the entry, complete once played

@@ -109,8 +109,11 @@ const Tune* TuneChooser::ChosenTune() const
 
 void TuneChooser::RefreshShowAllPic()
 {
+    const bool keepsSound = choice.ChooseFirstIfOpen();
     ShowChosenTune();
     Q_EMIT DeletionOffered(IsDeletionOffered(ChosenTune()));
+    if (keepsSound)
+        KeepSound();
 }
 
 void TuneChooser::ShowChosenTune()
@@ -119,7 +122,6 @@ void TuneChooser::ShowChosenTune()
         grid->ShowNoTunes();
         return shown.ShowTune(Words::Text("[none]"), {}, {});
     }
-    choice.ChooseFirstIfOpen();
     grid->ShowSelection(choice.SelectedTune());
     if (choice.ShowsEditorsTune())
         return ShowEditorsTune();
@@ -143,9 +145,22 @@ void TuneChooser::ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint 
     if (!IsInTuneTable(index))
         return;
     if (button == Qt::LeftButton)
-        choice.Play();
+        PlayChosenTune();
     else if (button == Qt::RightButton)
         PopPosiMnu->OpenFor(choice.SelectedTune(), Shared().TuneTableCount, kTuneColumns, at);
+}
+
+void TuneChooser::PlayChosenTune()
+{
+    if (choice.Play())
+        KeepSound();
+}
+
+void TuneChooser::KeepSound()
+{
+    // The disk may be slow; show the tune before that. This also draws what else has changed in the window.
+    grid->repaint();
+    choice.KeepSound();
 }
 
 void TuneChooser::ClickTunePic()
@@ -153,7 +168,7 @@ void TuneChooser::ClickTunePic()
     if (choice.StartedWithEditor())
         return Q_EMIT EditorsTunePlayWanted();
     if (choice.HasTune())
-        return choice.Play();
+        return PlayChosenTune();
     ShowHint(Words::Text("Click on a picture to select a tune"));
     ShowMessage(Words::Text("Select a Tune first."));
     ShowHint({});

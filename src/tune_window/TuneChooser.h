@@ -66,6 +66,8 @@ private:
 
     void ChooseTune(std::int32_t index, Qt::MouseButton button, QPoint at);
     void ClickTunePic();
+    void PlayChosenTune();
+    void KeepSound();
     /// The chosen tune of the table; null if there is none.
     [[nodiscard]] const Tune* ChosenTune() const;
     void ShowChosenTune();

@@ -46,6 +46,11 @@ bool MaySaveUnder(const TuneNames& names)
                     Words::Text("Would you like to overwrite that?")) == 1;
 }
 
+bool IsClassTune(const Tune& tune)
+{
+    return IsOfClass(TuneFileToRead(tune.Name));
+}
+
 void TakePictureFile(const fs::path& file, const std::function<void(const Picture&)>& take)
 {
     take(FittedPicture(TheServices().pictures->LoadPicture(file)));
@@ -80,7 +85,7 @@ void SaveCurrentTune(const TuneNames& names)
 
 bool IsDeletionOffered(const Tune* tune)
 {
-    return !tune || !IsOriginalTune(*tune) || !IsSetToOne("HideDeleteSupplied");
+    return !tune || (!IsClassTune(*tune) && (!IsOriginalTune(*tune) || !IsSetToOne("HideDeleteSupplied")));
 }
 
 bool MayDeleteTune(const Tune* tune)
@@ -94,6 +99,10 @@ bool MayDeleteTune(const Tune* tune)
         ShowHint(Words::Text("Blue bordered are originals, red bordered are your new tunes"));
         ShowMessage(Words::Text("This is an original Tune from %1.", kProductFamily),
                     Words::Text("This tune can not be deleted."));
+        return false;
+    }
+    if (IsClassTune(*tune)) {
+        ShowMessage(Words::Text("This Tune is for the whole class."), Words::Text("This tune can not be deleted."));
         return false;
     }
     ShowHint(Words::Text("Click Yes to delete, No to keep"));

@@ -2,7 +2,6 @@
 #include "tune_window/TuneFrm2.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 
 #include <array>
 #include <optional>
@@ -23,6 +22,7 @@
 #include "ui/Windows.h"
 #include "ui/forms/Guarded.h"
 #include "ui/look/Palette.h"
+#include "ui/widgets/FreeRoom.h"
 #include "ui/widgets/PutAt.h"
 
 namespace sprout {
@@ -124,7 +124,7 @@ void TuneFrm2::FitTo(QSize room)
 
 void TuneFrm2::Open()
 {
-    FitTo(screen()->availableGeometry().size());
+    FitTo(FreeRoom(*this));
     chooser->BeginWithEditorsTune();
     editor->UpdateThisTune(); // no tune of the table may replace it
     Guarded([this] { FindChosenTune(); });

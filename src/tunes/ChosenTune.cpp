@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tunes/ChosenTune.h"
 
+#include <algorithm>
 #include <filesystem>
-#include <string>
 
 #include "base/Errors.h"
 #include "base/Log.h"
@@ -26,15 +26,11 @@ void MakeStepsOff(Tune& tune)
     AssignSteps(tune, kBlankTuneSteps, TuneStep());
 }
 
-void KeepSound(const Tune& tune, const fs::path& path)
+/// A step whose beat was not found has lost its name, which is still in the file.
+bool LacksABeat(const Tune& tune)
 {
-    Shared().TuneClipboard = tune;
-    try {
-        TunOpnSavClass().Save_Tune(path);
-    } catch (const RunTimeError& error) {
-        LogFailure("Keeping the sound of a tune", error);
-        return; // it is rendered again the next time it is chosen
-    }
+    return std::any_of(tune.Steps.begin(), tune.Steps.end(),
+                       [](const TuneStep& step) { return step.IsOn() && step.StepBeat.Name.empty(); });
 }
 
 bool CacheIsMissing(const fs::path& path)
@@ -67,23 +63,34 @@ void MakeNewTune(Tune& tune)
     SongChanges::TuneEmptied(tune);
 }
 
-void LoadChosenTune(Tune& chosenTune)
+bool LoadChosenTune(Tune& chosenTune)
 {
-    const fs::path path = TuneFile(chosenTune.Name);
-    bool wasReadWhole = true;
+    const fs::path path = TuneFileToRead(chosenTune.Name);
+    bool mayKeep = !IsOfClass(path);
     if (!chosenTune.TuneWaveValid) {
-        wasReadWhole = TunOpnSavClass().Load_Tune(path);
+        mayKeep = TunOpnSavClass().Load_Tune(path) && mayKeep;
         chosenTune = Shared().TuneClipboard;
         Shared().CurrentTune = chosenTune;
     }
-    bool keep = wasReadWhole && !Shared().SongBeatsInside && CacheIsMissing(path);
-    if (!chosenTune.TuneWaveValid) {
-        RenderTuneCycle(chosenTune);
-        // A failed render has no length; storing it would silence the file for ever.
-        keep = wasReadWhole && chosenTune.TuneWave.Length > 0;
+    mayKeep = mayKeep && !LacksABeat(chosenTune);
+    if (chosenTune.TuneWaveValid)
+        return mayKeep && !Shared().SongBeatsInside && CacheIsMissing(path);
+    RenderTuneCycle(chosenTune);
+    // A failed render has no length; storing it would silence the tune for ever.
+    if (chosenTune.TuneWave.Length == 0)
+        return false;
+    Shared().CurrentTune = chosenTune; // a copy saved from the editor has the sound too
+    return mayKeep;
+}
+
+void KeepChosenTune(const Tune& chosenTune)
+{
+    Shared().TuneClipboard = chosenTune;
+    try {
+        TunOpnSavClass().Save_Tune(TuneFile(chosenTune.Name));
+    } catch (const RunTimeError& error) {
+        LogFailure("Keeping the sound of a tune", error);
     }
-    if (keep)
-        KeepSound(chosenTune, path);
 }
 
 } // namespace sprout

@@ -13,11 +13,14 @@ namespace sprout {
 void MakeNewTune(Tune& tune);
 
 /// Makes sure that a tune in the table can be heard. A tune without a sound is read completely from its file and copied
-/// to `CurrentTune`; if the file has no sound either, it is rendered and then kept in the file. Overwrites
-/// `TuneClipboard`.
+/// to `CurrentTune`; if the file has no sound either, it is rendered for both. Overwrites `TuneClipboard`.
 ///
-/// A file that was not read completely stays unchanged. A sound that cannot be stored, for example in a read-only
-/// folder, can still be heard.
-void LoadChosenTune(Tune& chosenTune);
+/// Returns whether the file lacks the sound and should keep it, see `KeepChosenTune`. A file that was not read
+/// completely, or a beat of which was not found, should stay unchanged.
+[[nodiscard]] bool LoadChosenTune(Tune& chosenTune);
+
+/// Stores a tune with its sound in its file and waits for the disk. Overwrites `TuneClipboard`. If that fails, for
+/// example in a read-only folder, the tune is rendered again the next time it is chosen.
+void KeepChosenTune(const Tune& chosenTune);
 
 } // namespace sprout

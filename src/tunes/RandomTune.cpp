@@ -15,7 +15,7 @@
 #include "base/FolderFiles.h"
 #include "base/Numbers.h"
 #include "beats/BeatFiles.h"
-#include "core/Paths.h"
+#include "core/ClassFolder.h"
 #include "core/Shared.h"
 #include "core/SongChanges.h"
 #include "core/SongSizes.h"
@@ -73,8 +73,7 @@ std::vector<std::int32_t> DrawPitchPool(const RandomNumber& next)
 bool IsShort(const std::string& beatName)
 {
     std::error_code error;
-    const std::uintmax_t bytes =
-        fs::file_size(FindFile(NamedFile(Shared().UserBeats, beatName, kWaveExtension)), error);
+    const std::uintmax_t bytes = fs::file_size(FindBeatWave(beatName), error);
     return !error && bytes < kShortBeatBytes;
 }
 
@@ -89,7 +88,9 @@ const std::string& DrawShortBeat(const std::vector<std::string>& names, bool has
 
 std::vector<Beat> DrawBeatPool(const RandomNumber& next)
 {
-    const std::vector<std::string> names = NamesInFolder(Shared().UserBeats, kWaveExtension);
+    std::vector<std::string> names;
+    for (FolderFile& wave : FilesInFolders(BeatFolders(), kWaveExtension))
+        names.push_back(std::move(wave.Name));
     const bool hasShort = std::any_of(names.begin(), names.end(), IsShort);
     std::vector<Beat> pool(static_cast<std::size_t>(Draw(next, 4) + 1));
     if (names.empty())

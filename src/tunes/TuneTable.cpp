@@ -2,6 +2,7 @@
 #include "tunes/TuneTable.h"
 
 #include <algorithm>
+#include <unordered_map>
 #include <utility>
 
 #include "base/Extensions.h"
@@ -9,6 +10,8 @@
 #include "base/FolderFiles.h"
 #include "base/Text.h"
 #include "core/Busy.h"
+#include "core/ClassFolder.h"
+#include "core/Paths.h"
 #include "core/Shared.h"
 #include "tunes/TunOpnSavClass.h"
 
@@ -19,6 +22,12 @@ namespace fs = std::filesystem;
 fs::path TuneFile(std::string_view name)
 {
     return NamedFile(Shared().UserTunes, name, kTuneExtension);
+}
+
+fs::path TuneFileToRead(std::string_view name)
+{
+    const fs::path found = FindNamedFile(TuneFolders(), name, kTuneExtension);
+    return IsOfClass(found) ? found : TuneFile(name);
 }
 
 fs::path TuneIndexFile()
@@ -44,13 +53,20 @@ void ReadTuneTable()
 {
     SharedState& shared = Shared();
     const WorkingSign sign;
-    const std::vector<std::string> names =
-        InTuneOrder(NamesInFolder(shared.UserTunes, kTuneExtension), FolderOrder::Read(TuneIndexFile()));
+    std::vector<std::string> found;
+    std::unordered_map<std::string, fs::path> classFiles;
+    for (FolderFile& file : FilesInFolders(TuneFolders(), kTuneExtension)) {
+        if (IsOfClass(file.Path))
+            classFiles[file.Name] = std::move(file.Path);
+        found.push_back(std::move(file.Name));
+    }
+    const std::vector<std::string> names = InTuneOrder(std::move(found), FolderOrder::Read(TuneIndexFile()));
     shared.TuneTable.assign(names.size() + 1, Tune());
     shared.TuneTableCount = static_cast<std::int32_t>(names.size());
     TunOpnSavClass files;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        files.Load_Tune(TuneFile(names[i]), TuneLoad::List);
+        const auto ofClass = classFiles.find(names[i]);
+        files.Load_Tune(ofClass != classFiles.end() ? ofClass->second : TuneFile(names[i]), TuneLoad::List);
         shared.TuneTable[i + 1] = shared.TuneClipboard;
         TheServices().screen->ShowProgress(i + 1, names.size());
     }

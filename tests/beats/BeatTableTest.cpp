@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "beat_window/BeatFolderMaker.h"
+#include "beats/BeatFiles.h"
 #include "support/FakeServices.h"
 
 namespace sprout {
@@ -268,6 +269,33 @@ TEST(DurationText, SaysThatMoreThanThreeSecondsAreTooMany)
 {
     EXPECT_EQ(DurationText(QuietWave(3 * 11025 + 1)).English(), "3.0 Sec(Only 3 seconds allowed)");
     EXPECT_EQ(DurationText(QuietWave(4 * 11025)).English(), "4.0 Sec(Only 3 seconds allowed)");
+}
+
+TEST_F(LoadBeatFilesTest, ListsTheBeatsOfTheClassAsOriginals)
+{
+    MakeBeat("bell", 100, 3);
+    MakeBeat("drum", 200, 4);
+    MakeBeat("gong", 300, 5);
+    Shared().ClassRoot = services.folder.Path() / "class" / "";
+    std::filesystem::create_directories(Shared().ClassRoot);
+    std::filesystem::rename(Shared().UserBeats.parent_path(), Shared().ClassRoot / "Beats");
+    std::filesystem::create_directories(Shared().UserBeats);
+    ProtectNothing();
+    MakeBeat("Cow", 400, 6);
+    MakeBeat("Drum", 500, 7);
+    std::filesystem::remove(Shared().UserBeats / "Drum.bmp"); // no pair, but it hides that of the class all the same
+    Load();
+    EXPECT_THAT(Names(), ElementsAre("bell", "cow", "gong"));
+    EXPECT_EQ(table.BeatProtected, (std::vector<bool>{false, true, false, true}));
+    EXPECT_EQ(At(table.BeatList, 1).Picture.Pixel(0, 0), 3U);
+    LoadBeatSound(table, 3);
+    EXPECT_EQ(At(table.BeatList, 3).Sound.Length, 300);
+    Beat beat;
+    LoadBeatFile(beat, "Gong");
+    EXPECT_EQ(beat.Sound.Length, 300);
+    EXPECT_EQ(beat.Picture.Pixel(0, 0), 5U);
+    LoadBeatFile(beat, "drum");
+    EXPECT_EQ(beat.Sound.Length, 500);
 }
 
 } // namespace

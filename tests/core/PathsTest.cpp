@@ -139,6 +139,23 @@ TEST_F(Paths, CopyFoldersWithTheirTimesAndOverwriteNothing)
     EXPECT_EQ(fake.screen.hourglasses, 0);
 }
 
+TEST_F(Paths, CopyFilesBesideOthersAndOverwriteNothing)
+{
+    fs::create_directories(In("from"));
+    fs::create_directories(In("to/Beats"));
+    WriteBytes(In("from/a.wav"), "a");
+    WriteBytes(In("from/b.wav"), "b");
+    WriteBytes(In("from/c.wav"), "c");
+    WriteBytes(In("to/Beats/b.wav"), "mine");
+    const std::vector<fs::path> names{"a.wav", "b.wav"};
+    EXPECT_TRUE(CopyFiles(In("from"), In("to/Beats"), names).IsBlank());
+    EXPECT_EQ(ReadBytes(In("to/Beats/a.wav")), "a");
+    EXPECT_EQ(ReadBytes(In("to/Beats/b.wav")), "mine");
+    EXPECT_FALSE(fs::exists(In("to/Beats/c.wav")));
+    EXPECT_EQ(fake.screen.stages, (std::vector<std::string>{"Getting your beats ready", ""}));
+    EXPECT_EQ(fake.screen.processPics, 0);
+}
+
 TEST_F(Paths, TellAFailedCopy)
 {
     TellFailedCopy(In("missing"), CopyFolder(In("missing"), In("to")));

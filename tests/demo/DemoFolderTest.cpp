@@ -46,6 +46,15 @@ TEST_F(DemoFolderTest, LoadsNoDamagedPicture)
     EXPECT_THAT(services.messages.shown, IsEmpty());
 }
 
+TEST_F(DemoFolderTest, LoadsTheSharpPictureBesideAPicture)
+{
+    EXPECT_TRUE(LoadSharpDemoPicture("red.bmp").IsNothing());
+    PutPicture("red@2x.bmp", Qt::red, {400, 200});
+    EXPECT_EQ(LoadSharpDemoPicture("Red.bmp").Width(), 400);
+    WriteBytes(folder / "blue@2x.bmp", "BM and nothing else");
+    EXPECT_TRUE(LoadSharpDemoPicture("blue.bmp").IsNothing());
+}
+
 TEST_F(DemoFolderTest, FindsTheSoundOfAPicture)
 {
     PutSound("Red.WAV", 10);

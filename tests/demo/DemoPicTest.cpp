@@ -60,6 +60,16 @@ TEST_F(DemoPicTest, ReportsPixelsOfThePicture)
     EXPECT_THAT(seen, ElementsAre("pressed 20 40", "moved 198 98", "moved -6 120", "released"));
 }
 
+TEST_F(DemoPicTest, ShowsTheSharpPictureInThePlaceOfTheOther)
+{
+    constexpr std::uint32_t blue = 0xFF0000;
+    pic.Show(OfColour(200, 100, 0), OfColour(400, 200, blue));
+    EXPECT_EQ(pic.PictureSize(), (BoxSize{200, 100})) << "of which the rectangles tell";
+    EXPECT_EQ(pic.grab().toImage().pixelColor(20, 20), QColor(Qt::blue));
+    pic.Show(OfColour(200, 100, 0), OfColour(401, 200, blue));
+    EXPECT_EQ(pic.grab().toImage().pixelColor(20, 20), QColor(Qt::black)) << "another picture";
+}
+
 TEST_F(DemoPicTest, ReportsPointsWithoutAPictureToo)
 {
     Send(QEvent::MouseButtonPress, {10, 20}, Qt::LeftButton);

@@ -13,6 +13,14 @@ using testing::SizeIs;
 
 class DemoFrmTest : public DemoFixture {};
 
+TEST_F(DemoFrmTest, ShowsSharpSlidesWhereThePixelsAreSmall)
+{
+    PutPicture("red@2x.bmp", Qt::blue, {400, 200});
+    Open({"red.bmp,20,20,10,10,click,0"});
+    EXPECT_EQ(Shown(), form->devicePixelRatioF() > 1 ? "blue" : "red");
+    EXPECT_EQ(Pic().size(), QSize(200, 100));
+}
+
 TEST_F(DemoFrmTest, ShowsTheFirstSlideOfTheDemoWithThatName)
 {
     PutDemos({{"Hear", {"red.bmp,20,20,10,10,click,0"}}, {"Paint it", {"green.bmp,20,20,10,10,click,0"}}});

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-# Tests with a real sound server, a real X server and a window manager.
+# Tests with a real sound server, and a real X server with a window manager or a Wayland desktop.
 
 # The player on a real sound server.
 add_executable(play_wave e2e/play_wave.cpp)
@@ -14,10 +14,12 @@ include(${CMAKE_CURRENT_LIST_DIR}/widgets/Plugin.cmake)
 if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
     foreach(scenario IN ITEMS
             PlayWholeSong PlayShortSong PaintAndPlay TakeStrokeBack ChangeTempo SoundServerDies StopAndPlayFromCell
-            HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart SpeakAMadeUpLanguage OpenedByTheDesktop
-            NoDisplay NoSoundServer SmallScreen MoveAndResize MaximizeAndMinimize MakeSongOfTunes TakeSongHome
-            MailByThunderbirdOrNobody HideTheMail MakeBeatsOfOtherSounds StopALongExport RecordEditAndPlay
-            RecordWithoutMicrophone TwoProgramsRecord KillWhileRecording LittleMemory)
+            HearTracks SaveUnderNewName AskBeforeClosing UseKeysAlone FirstStart WelcomeOnce SpeakAMadeUpLanguage
+            OpenedByTheDesktop UpgradeTheLibrary NoDisplay NoSoundServer SmallScreen MoveAndResize MaximizeAndMinimize
+            MakeSongOfTunes TakeSongHome MailByThunderbirdOrNobody HideTheMail MakeBeatsOfOtherSounds StopALongExport
+            RecordEditAndPlay RecordWithoutMicrophone TwoProgramsRecord KillWhileRecording LittleMemory
+            PaintAndPlayOnWayland ShowPaintOnWayland MakeSongOfTunesOnWayland UseKeysAloneOnWayland
+            AskBeforeClosingOnWayland ChooseFromMenusOnWayland MoveAndResizeOnWayland)
         add_test(NAME Desk.${scenario}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})
         set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
@@ -34,4 +36,7 @@ if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/${faults}-faults ${CMAKE_BINARY_DIR})
         set_tests_properties(Faults.${faults} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120 SKIP_RETURN_CODE 77)
     endforeach()
+    add_test(NAME Faults.home
+             COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/home-faults ${CMAKE_COMMAND} ${CMAKE_BINARY_DIR})
+    set_tests_properties(Faults.home PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 240 SKIP_RETURN_CODE 77)
 endif()

@@ -1,9 +1,9 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""A desk for one test: an X server with a window manager, a mouse and a keyboard, a sound server, and the program,
-installed in its own folder with its own home.
+"""A desk for one test: an X server with a window manager, or a Wayland desktop, a mouse and a keyboard, a sound server,
+and the program, installed in its own folder with its own home.
 
 Controls are found by their names, which the running program reports through the plug-in in the folder widgets/;
-everything done to them comes from the mouse and the keyboard of the X server.
+everything done to them comes from the mouse and the keyboard of the desktop.
 """
 import json
 import os
@@ -14,6 +14,7 @@ import subprocess
 
 from processes import Failure, expect, wait_for
 from sound import SoundServer, read_wave
+from wayland import WaylandKeyboard, WaylandMouse, WaylandScreen
 
 PRODUCT = "Tonquill Sprout Painter"
 
@@ -37,6 +38,8 @@ class Screen:
         expect(number, "the X server gave no display")
         self.picture_file = os.path.join(own, "Xvfb_screen0")
         self.display = ":" + number
+        # What tells the program to come to this screen.
+        self.for_program = {"DISPLAY": self.display, "QT_QPA_PLATFORM": "xcb", "WAYLAND_DISPLAY": None}
         self.environment = {**os.environ, "DISPLAY": self.display, "HOME": own, "XDG_CONFIG_HOME": own,
                             "XDG_CACHE_HOME": own, "XDG_DATA_HOME": own}
         processes.start(["openbox"], env=self.environment, stdout=self.log, stderr=self.log)
@@ -59,6 +62,13 @@ class Screen:
         told = self.ask("xwininfo", "-id", str(window.told["id"]))
         place = [int(number) for number in re.findall(r"(?:Absolute upper-left [XY]|Width|Height): +(-?\d+)", told)]
         return place == [window.x, window.y, window.width, window.height] and "Map State: IsViewable" in told
+
+    def place(self, widgets):
+        """Under X the program knows where its windows are."""
+
+    def close_window(self, window):
+        """Makes the window manager close a window, as its menu does."""
+        self.ask("wmctrl", "-i", "-c", hex(window.told["id"]))
 
     def take_picture(self, path):
         self.ask("import", "-window", "root", path)
@@ -132,6 +142,12 @@ class Widget:
     def items(self):
         return [row["text"] for row in self.told.get("items", [])]
 
+    def shift(self, x, y):
+        for place in (self.told, *self.told.get("items", [])):
+            place["x"] += x
+            place["y"] += y
+        self.x, self.y = self.told["x"], self.told["y"]
+
 
 class Program:
     """One run of the program."""
@@ -173,7 +189,9 @@ class Program:
 
     def widgets(self):
         report = self.try_report()
-        return [Widget(told) for told in report["widgets"]] if report else []
+        found = [Widget(told) for told in report["widgets"]] if report else []
+        self.desk.screen.place(found)
+        return found
 
     def find(self, name, text=None, form=None):
         """The visible control with this name, or None. form: the kind of the window that it is in."""
@@ -237,13 +255,17 @@ class Program:
 
 
 class Desk:
-    """Everything that a scenario needs. sound: whether there is a sound server."""
+    """Everything that a scenario needs. sound: whether there is a sound server. wayland: whether the desktop is one of
+    Wayland instead of X."""
 
-    def __init__(self, folder, processes, build, screen_size="1920x1080", sound=True):
+    def __init__(self, folder, processes, build, screen_size="1920x1080", sound=True, wayland=False):
         self.folder, self.processes, self.build = folder, processes, build
-        self.screen = Screen(folder, processes, screen_size)
-        self.mouse = Mouse(self.screen)
-        self.keyboard = Keyboard(self.screen)
+        if wayland:
+            self.screen = WaylandScreen(folder, processes)
+            self.mouse, self.keyboard = WaylandMouse(self.screen), WaylandKeyboard(self.screen)
+        else:
+            self.screen = Screen(folder, processes, screen_size)
+            self.mouse, self.keyboard = Mouse(self.screen), Keyboard(self.screen)
         self.sound = SoundServer(folder, processes)
         if sound:
             self.sound.start()
@@ -274,16 +296,15 @@ class Desk:
         return os.path.join(self.program_folder, "sprout-painter.ini")
 
     def environment(self, **changes):
-        environment = {**self.sound.environment, "DISPLAY": self.screen.display, "QT_QPA_PLATFORM": "xcb",
-                       "XDG_CONFIG_HOME": os.path.join(self.home, ".config"),
+        environment = {**self.sound.environment, "XDG_CONFIG_HOME": os.path.join(self.home, ".config"),
                        "XDG_DATA_HOME": os.path.join(self.home, ".local"),
                        "XDG_CACHE_HOME": os.path.join(self.home, ".cache"), "TMPDIR": self.temp, "LANG": "C.UTF-8",
                        "QT_PLUGIN_PATH": os.path.join(self.build, "e2e"),
                        "QT_QPA_GENERIC_PLUGINS": "sproutwidgets",
                        "DBUS_SESSION_BUS_ADDRESS": "disabled:"}
-        for name in ("WAYLAND_DISPLAY", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME"):
+        for name in ("QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME"):
             environment.pop(name, None)
-        for name, value in changes.items():
+        for name, value in {**self.screen.for_program, **changes}.items():
             if value is None:
                 environment.pop(name, None)
             else:
@@ -325,8 +346,8 @@ class Desk:
         return json.loads(told)
 
     def close_window(self, window):
-        """Makes the window manager close a window, as its menu does."""
-        self.screen.ask("wmctrl", "-i", "-c", hex(window.told["id"]))
+        """Makes the desktop close a window, as its menu does."""
+        self.screen.close_window(window)
 
     def windows(self):
         """The numbers of all windows that the window manager knows."""

@@ -9,6 +9,7 @@ from processes import in_scratch_folder
 
 SKIPPED = 77
 INSIDE = "SPROUT_OWN_MOUNTS"
+BYTES_AT_A_TIME = 1 << 20
 
 
 class Disk:
@@ -21,6 +22,16 @@ class Disk:
 
     def remount(self, options):
         subprocess.run(["mount", "-o", f"remount,{options}", self.folder], check=True)
+
+
+def fill(folder):
+    """Writes until the disk is full."""
+    with open(os.path.join(folder, "filler"), "wb", buffering=0) as file:
+        try:
+            while file.write(bytes(BYTES_AT_A_TIME)) == BYTES_AT_A_TIME:
+                pass
+        except OSError:
+            return
 
 
 def enter_own_mounts():

@@ -68,5 +68,13 @@ TEST_F(WindowSettingsTest, StoresOnlyItsStateWhenItIsClosedMaximizedOrMinimized)
     EXPECT_EQ(GetSetting("MainWindow", "Size", ""), "10500,7500");
 }
 
+TEST_F(WindowSettingsTest, KeepsTheStoredPositionWhereTheDesktopPlacesWindows)
+{
+    window->setGeometry(0, 0, 640, 333);
+    WritePlaceToSettings(*window, true);
+    EXPECT_EQ(GetSetting("MainWindow", "Position", ""), "750,900");
+    EXPECT_EQ(GetSetting("MainWindow", "Size", ""), "9600,4995");
+}
+
 } // namespace
 } // namespace sprout

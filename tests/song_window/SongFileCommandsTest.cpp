@@ -234,5 +234,29 @@ TEST_F(SongFileCommandsTest, ASongThatIsGoneIsToldAndLeavesTheList)
     EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("Zumi")));
 }
 
+TEST_F(SongFileCommandsTest, ASongOfTheClassIsCopiedToTheOwnOnesAndStaysAsItIs)
+{
+    Shared().ClassRoot = songFolder.parent_path().parent_path() / "class" / "";
+    const fs::path song = Shared().ClassRoot / "Songs" / "Rain.TqSng";
+    fs::create_directories(song.parent_path());
+    WriteBytes(song, "of all");
+    Put({"Zumi"});
+    Open(SongSelMode::Open);
+    EXPECT_THAT(Lines(), ElementsAre(QStringLiteral("Rain"), QStringLiteral("Zumi")));
+    ClickRow(0);
+    EXPECT_FALSE(Part("DeleteBtn").isVisible());
+    EXPECT_EQ(ClickAndAnswer("RenameBtn", "OkBtn"), (Told{kTitle,
+                                                          QStringLiteral("This song is for the whole class."),
+                                                          QStringLiteral("It can be copied, but not renamed."),
+                                                          {}}));
+    EXPECT_EQ(ClickAndAnswer("CopyBtn", "OkBtn"),
+              (Told{kTitle, QStringLiteral("The song \"Rain\""), QStringLiteral("is copied to \"Rain1\""), {}}));
+    EXPECT_EQ(ReadBytes(songFolder / "Rain1.TqSng"), "of all");
+    EXPECT_EQ(ReadBytes(song), "of all");
+    EXPECT_EQ(std::distance(fs::directory_iterator(song.parent_path()), fs::directory_iterator()), 1);
+    ClickRow(1);
+    EXPECT_TRUE(Part("DeleteBtn").isVisible());
+}
+
 } // namespace
 } // namespace sprout

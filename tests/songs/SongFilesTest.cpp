@@ -183,5 +183,23 @@ TEST_F(SongFilesTest, DeletingAFileThatStaysIsAnError)
     EXPECT_THROW(DeleteSong({"version", "/proc/version"}), RunTimeError); // nobody can delete that file
 }
 
+TEST_F(SongFilesTest, OfTheClassAreOpenedWhereTheUserHasNone)
+{
+    Shared().UserSongs = folder;
+    Shared().ClassRoot = services.folder.Path() / "class" / "";
+    const fs::path song = Shared().ClassRoot / "Songs" / "Rain.TqSng";
+    fs::create_directories(song.parent_path());
+    WriteBytes(song, "of all");
+    EXPECT_EQ(SongFileToOpen("rain"), song);
+    EXPECT_EQ(PlaceOfSong("Rain"), folder / "Rain.TqSng"); // where it is saved
+    EXPECT_EQ(SongFileToOpen("New"), folder / "New.TqSng");
+    EXPECT_THROW(RenameSong({"Rain", song}, "Sun"), RunTimeError);
+    EXPECT_THROW(DeleteSong({"Rain", song}), RunTimeError);
+    EXPECT_EQ(ReadBytes(song), "of all");
+    EXPECT_EQ(Entries(), 0U);
+    Put("Rain.TqSng", "own");
+    EXPECT_EQ(SongFileToOpen("Rain"), folder / "Rain.TqSng");
+}
+
 } // namespace
 } // namespace sprout

@@ -34,6 +34,13 @@ public:
         return PosixFolderCopies().FillFolder(Source(), Target(), [](std::size_t, std::size_t) {});
     }
 
+    /// Adds the two files outside the subfolder.
+    [[nodiscard]] std::vector<LeftOutFile> Add() const
+    {
+        const std::vector<std::filesystem::path> names{"a.wav", "b.wav"};
+        return PosixFolderCopies().AddFiles(Source(), Target(), names, [](std::size_t, std::size_t) {});
+    }
+
     /// All regular files of a folder and its subfolders, by their relative path.
     static std::map<std::string, std::string> FilesIn(const std::filesystem::path& root)
     {

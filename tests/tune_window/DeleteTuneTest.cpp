@@ -153,5 +153,22 @@ TEST_F(DeleteTuneTest, AnEmptyEntryCanBeChosenAndHarmsNothing)
     EXPECT_FALSE(fs::exists(File(".TqTun")));
 }
 
+TEST_F(DeleteTuneTest, IsNotOfferedForATuneOfTheClass)
+{
+    MakeTuneFile(PlainTune("Bells", "Teacher"));
+    Shared().ClassRoot = Shared().UserRoot.parent_path() / "class" / "";
+    fs::create_directories(Shared().ClassRoot / "Tunes");
+    const fs::path file = Shared().ClassRoot / "Tunes" / "Bells.TqTun";
+    fs::rename(File("Bells.TqTun"), file);
+    Open([this](TuneFrm2& window) {
+        PressTune(window, 1);
+        EXPECT_FALSE(window.findChild<QWidget*>(QStringLiteral("DeleteTuneBtn"))->isVisible());
+        AnswerNext("OkBtn");
+        QTest::keyClick(&GridOf(window), Qt::Key_Delete);
+    });
+    EXPECT_EQ(noted.back(), "This tune can not be deleted.");
+    EXPECT_TRUE(fs::exists(file));
+}
+
 } // namespace
 } // namespace sprout

@@ -51,6 +51,19 @@ TEST_F(SaveTuneBtnTest, AnOriginalOffersTwoEmptyBoxes)
     EXPECT_EQ(Loaded("Lumo.TqTun").CreatedBy, "Tonquill");
 }
 
+TEST_F(SaveTuneBtnTest, ACopyOfATuneThatWasJustRenderedHasItsSound)
+{
+    MakeLightTuneFile("Lumo");
+    MakeDrum();
+    Open([this](TuneFrm2& window) {
+        AnswerNames("My Lumo", "Ann");
+        Click(window, "SaveTuneBtn");
+    });
+    const Tune copy = Loaded("My Lumo.TqTun");
+    EXPECT_GT(copy.TuneWave.Length, 0);
+    EXPECT_EQ(copy.TuneWave, Loaded("Lumo.TqTun").TuneWave);
+}
+
 TEST_F(SaveTuneBtnTest, ANewTuneSortsLastAndIsChosen)
 {
     MakeTuneFiles(2);

@@ -1,12 +1,50 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tune_window/TuneChoice.h"
 
+#include <filesystem>
+
+#include "service/posix/PosixFiles.h"
+#include "support/FullDisk.h"
+#include "tune_window/TunFramPic.h"
 #include "tune_window/TuneFrm2Test.h"
 
 namespace sprout {
 namespace {
 
+namespace fs = std::filesystem;
+
 using TuneChoiceTest = TuneFrm2Test;
+
+/// Whether a widget was drawn.
+class PaintWatch : public QObject {
+public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        wasPainted = wasPainted || event->type() == QEvent::Paint;
+        return false;
+    }
+
+    bool wasPainted = false;
+};
+
+/// A disk that notes what was heard and seen when something was written to it.
+class WatchedDisk : public PosixFiles {
+public:
+    void ReplaceFile(const fs::path& target, std::span<const std::span<const std::byte>> pieces, Flush flush) override
+    {
+        stateAtWrite = PlayShared().PlayState;
+        framesAtWrite = PlayShared().PlayLength;
+        paintedAtWrite = steps.wasPainted;
+        ++writes;
+        PosixFiles::ReplaceFile(target, pieces, flush);
+    }
+
+    PlayState stateAtWrite = PlayState::Stopped;
+    std::int32_t framesAtWrite = 0;
+    bool paintedAtWrite = false;
+    int writes = 0;
+    PaintWatch steps;
+};
 
 TEST_F(TuneChoiceTest, ChoosesAndPlaysTheFirstTuneWhenItOpens)
 {
@@ -24,6 +62,63 @@ TEST_F(TuneChoiceTest, ChoosesAndPlaysTheFirstTuneWhenItOpens)
     EXPECT_EQ(display.status, "Playing Tune");
     EXPECT_EQ(Shared().TuneInfoDefault.CreatedBy, "Ann");
     EXPECT_EQ(Shared().TuneInfoDefault.Name, "Lumo");
+}
+
+TEST_F(TuneChoiceTest, TheFirstPressOnATuneOfTheLibraryRendersItAndTheNextFindsItsSound)
+{
+    MakeTuneFile(PlainTune("A first", "Ann"));
+    MakeLightTuneFile("Lumo");
+    MakeDrum();
+    Open([](TuneFrm2& window) {
+        PressTune(window, 2);
+        const std::int32_t played = Played();
+        EXPECT_GT(played, kLeadInFrames);
+        EXPECT_TRUE(Shared().CurrentTune.TuneWaveValid);
+        const std::string kept = ReadBytes(File("Lumo.TqTun"));
+        fs::remove(Shared().UserBeats / "Drum.wav");
+        PressTune(window, 1);
+        PressTune(window, 2);
+        EXPECT_EQ(Played(), played);
+        EXPECT_EQ(Shared().CurrentTune.Steps[1].StepBeat.Name, "Drum");
+        EXPECT_EQ(ReadBytes(File("Lumo.TqTun")), kept);
+    });
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
+TEST_F(TuneChoiceTest, ATunePlaysAndIsShownBeforeItsSoundIsWrittenToTheDisk)
+{
+    MakeTuneFile(PlainTune("A first", "Ann"));
+    MakeLightTuneFile("Lumo");
+    MakeDrum();
+    WatchedDisk disk;
+    TheServices().files = &disk;
+    Open([&disk](TuneFrm2& window) {
+        QCoreApplication::processEvents();
+        ForgetPlay();
+        window.findChild<TunFramPic*>()->installEventFilter(&disk.steps);
+        PressTune(window, 2);
+        EXPECT_EQ(disk.writes, 1);
+        EXPECT_EQ(disk.stateAtWrite, PlayState::Playing);
+        EXPECT_EQ(disk.framesAtWrite, Played());
+        EXPECT_TRUE(disk.paintedAtWrite);
+    });
+}
+
+TEST_F(TuneChoiceTest, ARenderedTuneThatCannotBeKeptPlaysWithoutAWord)
+{
+    MakeTuneFile(PlainTune("A first", "Ann"));
+    MakeLightTuneFile("Lumo");
+    MakeDrum();
+    FullDisk disk;
+    TheServices().files = &disk;
+    Open([](TuneFrm2& window) {
+        for (int press = 0; press < 2; ++press) {
+            ForgetPlay();
+            PressTune(window, 2);
+            EXPECT_GT(Played(), kLeadInFrames);
+        }
+    });
+    EXPECT_TRUE(services.messages.shown.empty());
 }
 
 TEST_F(TuneChoiceTest, FindsTunesThatCameIntoAnEmptyFolderMeanwhile)
@@ -44,11 +139,11 @@ TEST_F(TuneChoiceTest, FindsATuneOrNothingAndStaysOpenWithoutAName)
     choice.Find("Gone");
     EXPECT_FALSE(choice.HasTune());
     EXPECT_TRUE(choice.ShowsEditorsTune());
-    choice.ChooseFirstIfOpen();
+    EXPECT_FALSE(choice.ChooseFirstIfOpen());
     EXPECT_FALSE(choice.HasTune()) << "nothing shall be chosen";
     choice.Find("");
     EXPECT_EQ(choice.SelectedTune(), 0);
-    choice.ChooseFirstIfOpen();
+    EXPECT_FALSE(choice.ChooseFirstIfOpen()) << "its file has the sound";
     EXPECT_EQ(choice.SelectedTune(), 1);
     EXPECT_GT(Played(), 0);
 }
@@ -67,7 +162,7 @@ TEST_F(TuneChoiceTest, StartsWithTheEditorsTuneUntilOneIsChosen)
     EXPECT_FALSE(choice.ShowsEditorsTune());
     choice.ChooseNothing();
     EXPECT_TRUE(choice.ShowsEditorsTune());
-    choice.Play();
+    EXPECT_FALSE(choice.Play());
     EXPECT_EQ(Played(), 0);
 }
 
@@ -78,7 +173,7 @@ TEST_F(TuneChoiceTest, PlaysWhatItCopiedFromTheEditor)
     Shared().CurrentTune = PlainTune("Mine", "Ann", 13);
     TuneChoice choice;
     choice.TakeEditorsTune(1);
-    choice.Play();
+    EXPECT_FALSE(choice.Play());
     EXPECT_EQ(Played(), kLeadInFrames + 13);
 }
 

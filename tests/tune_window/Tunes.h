@@ -4,11 +4,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include "core/Shared.h"
 #include "support/Flags.h"
 #include "support/HandArray.h"
 #include "tunes/TunOpnSavClass.h"
+#include "waves/WavOperations.h"
 
 namespace sprout {
 
@@ -35,7 +37,8 @@ inline void MakeTuneFile(const Tune& tune)
     TunOpnSavClass(Flush::No).Save_Tune(Shared().UserTunes / (tune.Name + ".TqTun"));
 }
 
-/// Writes a tune whose file holds no sound, as it is saved while songs do not include their beats.
+/// Writes a tune whose file holds no sound, as it is saved while songs do not include their beats and its own is not in
+/// the folder.
 inline void MakeSilentTuneFile(const Tune& tune)
 {
     HandArray array;
@@ -43,6 +46,21 @@ inline void MakeSilentTuneFile(const Tune& tune)
     array.Text("Drum").Add({1}).Text("01/02/2003,04:05:06").Add({5, 16, 1, 44100, 1, 5}).Picture(0x40);
     array.Add({0});
     WriteBytes(Shared().UserTunes / (tune.Name + ".TqTun"), FileOf("TqTun", "2", array.Elements()));
+}
+
+/// Writes a tune as the library has it: of its two steps, the first one plays "Drum", which is in the folder of beats.
+inline void MakeLightTuneFile(const std::string& name)
+{
+    HandArray array;
+    array.Text(name).Text("Tonquill").Picture(0x102030).Add({2}).Add({1, 0, 100, 100}).Add({0, 0, 100, 100});
+    array.Text("Drum").Add({0, 0});
+    WriteBytes(Shared().UserTunes / (name + ".TqTun"), FileOf("TqTun", "2", array.Elements()));
+}
+
+/// Writes the beat of `MakeLightTuneFile`.
+inline void MakeDrum()
+{
+    SaveWaveFile(WaveOf(std::vector<std::int16_t>(2000, 5)), Shared().UserBeats / "Drum.wav");
 }
 
 /// The user's "Tune 01", "Tune 02", ...

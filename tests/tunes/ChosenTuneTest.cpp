@@ -27,6 +27,13 @@ protected:
         return tune;
     }
 
+    /// Loads a tune and keeps it, as it is done before and after its play.
+    static void Choose(Tune& chosen)
+    {
+        if (LoadChosenTune(chosen))
+            KeepChosenTune(chosen);
+    }
+
     FakeServices services;
 };
 
@@ -78,7 +85,7 @@ TEST_F(ChosenTuneTest, TakesTheSoundFromTheFile)
     MakeTuneFile(PlainTune("Rain", "Ann", 7));
     const std::string before = ReadBytes(File());
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_TRUE(chosen.TuneWaveValid);
     EXPECT_EQ(chosen.TuneWave.Length, 7);
     EXPECT_EQ(Shared().CurrentTune.Name, "Rain");
@@ -91,7 +98,7 @@ TEST_F(ChosenTuneTest, ATuneWithSoundIsNotReadAgain)
     MakeTuneFile(PlainTune("Rain", "Ann", 7));
     Tune chosen = PlainTune("Rain", "Ann", 3);
     Shared().CurrentTune.Name = "Edited";
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_EQ(chosen.TuneWave.Length, 3);
     EXPECT_EQ(Shared().CurrentTune.Name, "Edited");
 }
@@ -100,7 +107,7 @@ TEST_F(ChosenTuneTest, ATuneWithoutSoundIsRenderedAndItsFileKeepsTheSound)
 {
     MakeSilentTuneFile(PlainTune("Rain", "Ann"));
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_TRUE(chosen.TuneWaveValid);
     EXPECT_GT(chosen.TuneWave.Length, 0);
     TunOpnSavClass().Load_Tune(File());
@@ -109,12 +116,81 @@ TEST_F(ChosenTuneTest, ATuneWithoutSoundIsRenderedAndItsFileKeepsTheSound)
     EXPECT_EQ(Shared().TuneClipboard.Steps[1].StepBeat.Name, "Drum");
 }
 
+TEST_F(ChosenTuneTest, CanBeHeardBeforeTheDiskIsWaitedFor)
+{
+    MakeSilentTuneFile(PlainTune("Rain", "Ann"));
+    const std::string before = ReadBytes(File());
+    Tune chosen = Entry();
+    EXPECT_TRUE(LoadChosenTune(chosen));
+    EXPECT_GT(chosen.TuneWave.Length, 0);
+    EXPECT_EQ(ReadBytes(File()), before);
+    KeepChosenTune(chosen);
+    Tune again = Entry();
+    EXPECT_FALSE(LoadChosenTune(again));
+    EXPECT_EQ(again.TuneWave, chosen.TuneWave);
+}
+
+TEST_F(ChosenTuneTest, TheTuneInTheEditorHasTheRenderedSoundToo)
+{
+    MakeSilentTuneFile(PlainTune("Rain", "Ann"));
+    Tune chosen = Entry();
+    Choose(chosen);
+    EXPECT_TRUE(Shared().CurrentTune.TuneWaveValid);
+    EXPECT_EQ(Shared().CurrentTune.TuneWave, chosen.TuneWave);
+}
+
+TEST_F(ChosenTuneTest, ATuneOfTheLibraryTakesItsBeatsFromTheFolderAndKeepsThemWithItsSound)
+{
+    MakeLightTuneFile("Rain");
+    MakeDrum();
+    Tune chosen = Entry();
+    Choose(chosen);
+    EXPECT_GT(chosen.TuneWave.Length, 0);
+    EXPECT_FALSE(fs::exists(File("Rain.TqTunCache")));
+    fs::remove(Shared().UserBeats / "Drum.wav");
+    TunOpnSavClass().Load_Tune(File());
+    EXPECT_EQ(Shared().TuneClipboard.TuneWave, chosen.TuneWave);
+    EXPECT_EQ(Shared().TuneClipboard.Steps[1].StepBeat.Name, "Drum");
+    EXPECT_EQ(Shared().TuneClipboard.Steps[1].StepBeat.Sound, chosen.Steps[1].StepBeat.Sound);
+}
+
+TEST_F(ChosenTuneTest, AFileWhoseBeatIsNotFoundStillNamesItAfterwards)
+{
+    MakeLightTuneFile("Rain");
+    const std::string before = ReadBytes(File());
+    Tune chosen = Entry();
+    Choose(chosen);
+    EXPECT_TRUE(chosen.TuneWaveValid);
+    EXPECT_EQ(ReadBytes(File()), before);
+    Shared().SongBeatsInside = false;
+    Choose(chosen); // now that it has its sound
+    EXPECT_EQ(ReadBytes(File()), before);
+    Shared().SongBeatsInside = true;
+    MakeDrum();
+    chosen = Entry();
+    Choose(chosen);
+    EXPECT_EQ(chosen.Steps[1].StepBeat.Name, "Drum");
+    EXPECT_NE(ReadBytes(File()), before);
+}
+
+TEST_F(ChosenTuneTest, AnInstalledTuneThatIsReadInPlaceOfTheUsersStaysAsItIs)
+{
+    MakeSilentTuneFile(PlainTune("Rain", "Ann"));
+    const std::string before = ReadBytes(File());
+    Shared().InstallRoot = Shared().UserTunes;
+    Tune chosen = Entry();
+    Choose(chosen);
+    EXPECT_GT(chosen.TuneWave.Length, 0);
+    EXPECT_EQ(ReadBytes(File()), before);
+    EXPECT_TRUE(services.messages.shown.empty());
+}
+
 TEST_F(ChosenTuneTest, WhereTunesDoNotCarryBeatsTheCacheKeepsTheSound)
 {
     MakeTuneFile(PlainTune("Rain", "Ann", 7));
     Shared().SongBeatsInside = false;
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_EQ(chosen.TuneWave.Length, 7);
     ASSERT_TRUE(fs::exists(File("Rain.TqTunCache")));
     TunOpnSavClass().Load_Tune(File());
@@ -123,7 +199,7 @@ TEST_F(ChosenTuneTest, WhereTunesDoNotCarryBeatsTheCacheKeepsTheSound)
 
     const fs::file_time_type written = fs::last_write_time(File());
     Tune again = Entry();
-    LoadChosenTune(again);
+    Choose(again);
     EXPECT_EQ(again.TuneWave.Length, 7);
     EXPECT_EQ(fs::last_write_time(File()), written);
 }
@@ -134,7 +210,7 @@ TEST_F(ChosenTuneTest, ADamagedFileStaysAsItIs)
     const std::string cut = ReadBytes(File()).substr(0, 6000);
     WriteBytes(File(), cut);
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_EQ(services.messages.shown.size(), 1U);
     EXPECT_TRUE(chosen.TuneWaveValid);
     EXPECT_EQ(ReadBytes(File()), cut);
@@ -145,18 +221,18 @@ TEST_F(ChosenTuneTest, ATuneOfAnotherVersionStaysAsItIs)
     const std::string later = FileOf("TqTun", "3", std::vector<std::int32_t>(2000));
     WriteBytes(File(), later);
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_EQ(ReadBytes(File()), later);
 }
 
 TEST_F(ChosenTuneTest, ATuneThatIsGoneBecomesABlankOneAndNoFile)
 {
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_EQ(chosen.StepCount, 16);
     EXPECT_FALSE(fs::exists(File()));
     chosen = Entry("");
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_TRUE(fs::is_empty(Shared().UserTunes));
 }
 
@@ -165,7 +241,7 @@ TEST_F(ChosenTuneTest, ADamagedCacheCountsAsNone)
     MakeSilentTuneFile(PlainTune("Rain", "Ann"));
     WriteBytes(File("Rain.TqTunCache"), "nonsense");
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_TRUE(chosen.TuneWaveValid);
     EXPECT_GT(chosen.TuneWave.Length, 0);
     EXPECT_TRUE(services.messages.shown.empty());
@@ -178,7 +254,7 @@ TEST_F(ChosenTuneTest, ASoundThatCannotBeKeptIsHeardAllTheSame)
     FullDisk disk;
     TheServices().files = &disk;
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_GT(chosen.TuneWave.Length, 0);
     EXPECT_TRUE(services.messages.shown.empty());
     EXPECT_EQ(ReadBytes(File()), before);
@@ -190,9 +266,24 @@ TEST_F(ChosenTuneTest, AFailedRenderIsNotKept)
     const std::string before = ReadBytes(File());
     Shared().Song.Tempo = 0;
     Tune chosen = Entry();
-    LoadChosenTune(chosen);
+    Choose(chosen);
     EXPECT_EQ(chosen.TuneWave.Length, 0);
     EXPECT_EQ(ReadBytes(File()), before);
+}
+
+TEST_F(ChosenTuneTest, OfTheClassIsHeardAndItsFileStaysAsItIs)
+{
+    MakeSilentTuneFile(PlainTune("Rain", "Teacher"));
+    Shared().ClassRoot = Shared().UserRoot.parent_path() / "class" / "";
+    fs::create_directories(Shared().ClassRoot / "Tunes");
+    const fs::path file = Shared().ClassRoot / "Tunes" / "Rain.TqTun";
+    fs::rename(File(), file);
+    const std::string before = ReadBytes(file);
+    Tune chosen = Entry();
+    EXPECT_FALSE(LoadChosenTune(chosen)); // keeps nothing
+    EXPECT_GT(chosen.TuneWave.Length, 0);
+    EXPECT_EQ(ReadBytes(file), before);
+    EXPECT_FALSE(fs::exists(File()));
 }
 
 } // namespace

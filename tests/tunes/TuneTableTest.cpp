@@ -126,5 +126,24 @@ TEST_F(TuneTableTest, HoldsTheIndicesFromOneToTheCount)
     EXPECT_FALSE(IsInTuneTable(3));
 }
 
+TEST_F(TuneTableTest, HoldsTheTunesOfTheClassThatTheUserHasNot)
+{
+    MakeTuneFile(PlainTune("Rain", "Teacher"));
+    MakeTuneFile(PlainTune("Sun", "Teacher"));
+    Shared().ClassRoot = services.folder.Path() / "class" / "";
+    fs::create_directories(Shared().ClassRoot);
+    fs::rename(Folder().parent_path(), Shared().ClassRoot / "Tunes");
+    fs::create_directories(Folder());
+    MakeTuneFile(PlainTune("SUN", "Ann"));
+    MakeIndex("SUN=1\r\n");
+    ReadTuneTable();
+    EXPECT_THAT(Names(), ElementsAre("SUN", "Rain"));
+    EXPECT_EQ(Shared().TuneTable[1].CreatedBy, "Ann");
+    EXPECT_EQ(Shared().TuneTable[2].CreatedBy, "Teacher");
+    EXPECT_EQ(TuneFileToRead("rain"), Shared().ClassRoot / "Tunes" / "Rain.TqTun");
+    EXPECT_EQ(TuneFile("Rain"), Folder() / "Rain.TqTun"); // where it is saved
+    EXPECT_EQ(TuneFileToRead("New"), Folder() / "New.TqTun");
+}
+
 } // namespace
 } // namespace sprout

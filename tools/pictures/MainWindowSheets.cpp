@@ -192,6 +192,15 @@ void DrawStates(const QString& songPath, const QString& folder)
     shown.Draw(folder + QStringLiteral("/main-no-tracks.png"));
 }
 
+/// The card of the very first start.
+void DrawWelcome(const QString& songPath, const QString& folder)
+{
+    ShownWindow shown(songPath);
+    shown.Window().ShowWelcome();
+    for (const QSize size : {QSize(533, 400), QSize(600, 400), kUsualSize, QSize(1000, 640), kWholeScreen})
+        shown.Draw(QStringLiteral("%1/main-welcome-%2x%3.png").arg(folder).arg(size.width()).arg(size.height()), size);
+}
+
 /// Shows every hint on the status line of a small window.
 void TellCutHints(const QString& songPath)
 {
@@ -217,6 +226,7 @@ void DrawMainWindowSheets(const QString& songPath, const QString& folder)
     DrawSizes(songPath, folder);
     DrawFaces(songPath, folder);
     DrawStates(songPath, folder);
+    DrawWelcome(songPath, folder);
     if (AreTextsWatched())
         TellCutHints(songPath);
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pictures/SongWindowSheets.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QLineEdit>
 #include <QScrollBar>
@@ -60,8 +61,10 @@ void DrawSongWindows(const QString& folder, int songs)
     }
 }
 
+/// With the pictures of windows, if the build has made them beside this program.
 void DrawHelp(const QString& folder)
 {
+    Shared().InstallRoot = QCoreApplication::applicationDirPath().toStdString() + "/Sprout";
     HelpFrm help;
     auto* book = help.findChild<QTextBrowser*>(QStringLiteral("BookTxt"));
     auto* pages = help.findChild<QListWidget*>(QStringLiteral("PagesLst"));
@@ -80,6 +83,7 @@ void DrawHelp(const QString& folder)
     box->setText(QStringLiteral("trombone"));
     ShowAndSaveSheet(help, folder, QStringLiteral("help-nothing"));
     help.setAttribute(Qt::WA_DeleteOnClose, false);
+    Shared().InstallRoot.clear();
 }
 
 } // namespace

@@ -18,6 +18,8 @@
 #include "service/Files.h"
 #include "service/PlayDisplay.h"
 #include "service/Services.h"
+#include "service/qt/QtPictureFiles.h"
+#include "stretch/StretchService.h"
 #include "tune_window/OpenTuneWindow.h"
 #include "tune_window/TuneFrm2.h"
 #include "tune_window/TuneNameFrm.h"
@@ -118,8 +120,15 @@ void DrawTuneWindowSheets(const QString& folder)
     NoFiles files;
     QtMessages messages;
     QtScreen screen;
+    QtPictureFiles pictures;
     TuneDisplay display;
-    TheServices() = {.messages = &messages, .screen = &screen, .files = &files, .playDisplay = &display};
+    const auto stretch = MakeStretch(); // the window begins with a tune of the library, which is rendered then
+    TheServices() = {.messages = &messages,
+                     .screen = &screen,
+                     .files = &files,
+                     .pictures = &pictures,
+                     .stretch = stretch.get(),
+                     .playDisplay = &display};
     MakeProgramPictures();
     const QDir library(QCoreApplication::applicationDirPath() + QStringLiteral("/Sprout"));
     SetUserRoot(library.path().toStdString());

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <iomanip>
 #include <map>
@@ -17,6 +18,7 @@
 #include "service/Services.h"
 #include "songs/OpenSaveClass.h"
 #include "sound/TrackRender.h"
+#include "sound/TuneRender.h"
 #include "sprout-library/BeatSound.h"
 #include "sprout-library/DrawPicture.h"
 #include "sprout-library/Measure.h"
@@ -34,6 +36,9 @@ constexpr double kMostAlike = 0.85;
 constexpr double kMostClash = 0.15;
 constexpr double kMostMedianClash = 0.08;
 constexpr double kLeastShortBeats = 0.6;
+// Bytes. A tune's file has its picture and its steps, but no samples; every user gets a copy of the whole library.
+constexpr std::uintmax_t kLargestTune = 10'000;
+constexpr std::uintmax_t kLargestLibrary = 20'000'000;
 
 std::string Number(double value, int decimals)
 {
@@ -186,12 +191,15 @@ void CheckTunes(const fs::path& folder, Report& report)
     std::vector<NamedPicture> pictures;
     for (const fs::path& file : Sorted(folder, ".TqTun")) {
         TunOpnSavClass().Load_Tune(file);
-        const Tune& tune = Shared().TuneClipboard;
+        Tune& tune = Shared().TuneClipboard;
+        const bool hasSound = tune.TuneWaveValid;
+        RenderTuneCycle(tune);
         const double peak = std::max(PeakDb(Samples(tune.TuneWave.WavL)), PeakDb(Samples(tune.TuneWave.WavR)));
         report.Line(tune.Name + ": " + std::to_string(tune.StepCount) + " steps, peak " + Number(peak, 1) + " dB, " +
                     Number(LoudnessDb(tune.TuneWave), 1) + " LUFS");
         report.Require(IsOriginalTune(tune), tune.Name, "is no original");
-        report.Require(tune.TuneWaveValid && tune.TuneWave.Length > 0, tune.Name, "holds no sound");
+        report.Require(!hasSound && fs::file_size(file) <= kLargestTune, tune.Name, "carries sounds");
+        report.Require(tune.TuneWave.Length > 0, tune.Name, "has no sound");
         report.Require(tune.StepCount >= 2 && tune.StepCount <= 64, tune.Name, "has a wrong count of steps");
         // A cycle is cut at 80 percent of full scale, which is 1.94 dB below it.
         report.Require(peak < -1.95, tune.Name, "is cut off at its peaks");
@@ -220,6 +228,17 @@ void CheckSongs(const fs::path& folder, Report& report)
     report.Line("Songs: " + std::to_string(clashes.size()) + ", median of clashing " +
                 Number(Median(clashes) * 100, 1) + " %");
     report.Require(Median(clashes) < kMostMedianClash, "Songs", "clash too much");
+}
+
+/// Only what is copied for each user: there may be demos beside it.
+void CheckSize(const fs::path& library, Report& report)
+{
+    std::uintmax_t bytes = 0;
+    for (const char* folder : {"Beats", "Tunes", "Stars", "Songs"})
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator(library / folder))
+            bytes += entry.is_regular_file() ? entry.file_size() : 0;
+    report.Line("Library: " + Number(static_cast<double>(bytes) / 1e6, 1) + " MB");
+    report.Require(bytes <= kLargestLibrary, "Library", "is too large");
 }
 
 } // namespace
@@ -291,6 +310,7 @@ int CheckLibrary(const fs::path& folder, std::ostream& out)
     CheckTunes(folder / "Tunes", report);
     CheckPictures(PictureFilesOf(folder / "Stars"), report);
     CheckSongs(folder / "Songs", report);
+    CheckSize(folder, report);
     report.Line(report.broken == 0 ? "All rules hold." : std::to_string(report.broken) + " rules are broken.");
     return report.broken;
 }

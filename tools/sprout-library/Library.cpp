@@ -6,6 +6,7 @@
 #include <chrono>
 #include <fstream>
 #include <set>
+#include <utility>
 
 #include "base/Errors.h"
 #include "base/FolderFiles.h"
@@ -17,7 +18,6 @@
 #include "service/PictureFiles.h"
 #include "service/Services.h"
 #include "songs/OpenSaveClass.h"
-#include "sound/TuneRender.h"
 #include "sprout-library/BeatSound.h"
 #include "sprout-library/BeatTable.h"
 #include "sprout-library/DrawPicture.h"
@@ -41,6 +41,16 @@ void WriteText(const fs::path& file, std::string_view bytes)
     stream << bytes;
     if (!stream.flush())
         throw RunTimeError(Words::Text("The file %1 could not be written.", file.native()));
+}
+
+/// Saves `TuneClipboard` with neither beats nor sound. The beats are in their folder, and the program renders the sound
+/// when the tune is chosen for the first time.
+void SaveLight(const fs::path& file)
+{
+    const bool before = std::exchange(Shared().SongBeatsInside, false);
+    TunOpnSavClass().Save_Tune(file);
+    Shared().SongBeatsInside = before;
+    fs::remove(file.native() + "Cache"); // it has no sound
 }
 
 /// Makes one library; each kind needs the kinds before it.
@@ -159,16 +169,12 @@ void Maker::MakeTune(const std::string& name)
     WriteText(file, ReadWholeFile(texts / "tunes" / (name + ".ini")));
     const std::array drawings = {art / "tunes" / (name + ".svg")};
     TheServices().pictures->SavePicture(DrawPicture(kPaper, drawings), picture);
-    TunOpnSavClass files;
-    files.Load_Tune(file);
+    TunOpnSavClass().Load_Tune(file);
     fs::remove(picture);
-    Tune& loaded = Shared().TuneClipboard;
-    for (const TuneStep& step : loaded.Steps)
+    for (const TuneStep& step : Shared().TuneClipboard.Steps)
         if (step.IsOn() && step.StepBeat.Name.empty())
             throw RunTimeError(Words::Text("The tune %1 plays a beat that is not there.", name));
-    Shared().Song.Tempo = kReferenceTempo;
-    RenderTuneCycle(loaded);
-    files.Save_Tune(file);
+    SaveLight(file);
     Finished(tune);
 }
 

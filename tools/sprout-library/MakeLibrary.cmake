@@ -1,10 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Runs TOOL on SOURCE to make OUTPUT. The generated files get the time of the last commit to their sources, so the same
-# sources give the same bytes on any day; SOURCE_DATE_EPOCH overrides that time if it is set.
-if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
-    execute_process(COMMAND git log -1 --format=%ct -- library art/beats art/tunes art/stars
-                    WORKING_DIRECTORY ${SOURCE} OUTPUT_VARIABLE time OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET
-                    RESULT_VARIABLE failed)
+# sources give the same bytes on any day. SOURCE_DATE_EPOCH overrides that time if it is set, except in released
+# sources, which hold their library's time: packagers set SOURCE_DATE_EPOCH anew with each release.
+if(NOT DEFINED ENV{SOURCE_DATE_EPOCH} OR EXISTS ${SOURCE}/library/time)
+    execute_process(COMMAND ${SOURCE}/tools/scripts/library-time
+                    OUTPUT_VARIABLE time OUTPUT_STRIP_TRAILING_WHITESPACE ERROR_QUIET RESULT_VARIABLE failed)
     if(NOT failed AND time MATCHES "^[0-9]+$")
         set(ENV{SOURCE_DATE_EPOCH} ${time})
     endif()

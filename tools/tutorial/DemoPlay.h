@@ -10,7 +10,7 @@
 
 #include "tutorial/DemoFiles.h"
 #include "tutorial/DemoScript.h"
-#include "tutorial/Hand.h"
+#include "tutorial/ScriptActions.h"
 
 namespace sprout {
 
@@ -28,14 +28,10 @@ public:
     [[nodiscard]] std::vector<MadeSlide> Play();
 
 private:
-    [[nodiscard]] bool DoStep();
     void Do(const ScriptStep& step);
     void Click(const ScriptStep& step);
     void Drag(const ScriptStep& step);
     void Look(const ScriptStep& step);
-    void Tick(const std::string& name, int times);
-
-    [[nodiscard]] QRect PointAt(const std::vector<std::string>& target);
     void Shoot(const ScriptStep& step, const QRect& active, const char* action, SlideMarks marks);
     void KeepSound(double seconds);
     [[nodiscard]] std::string NameOf(const char* extension) const;
@@ -44,9 +40,8 @@ private:
     DemoScript script;
     std::int32_t number;
     std::filesystem::path folder;
-    Hand hand;
+    ScriptActions actions;
     std::vector<MadeSlide> slides;
-    std::size_t place = 0;
 };
 
 } // namespace sprout

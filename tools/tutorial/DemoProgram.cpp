@@ -10,7 +10,6 @@
 #include "service/Services.h"
 #include "sound/PlayMod.h"
 #include "stretch/StretchService.h"
-#include "tutorial/SlideLayout.h"
 #include "ui/look/ProgramPictures.h"
 #include "waves/WavOperations.h"
 
@@ -37,7 +36,7 @@ std::uint64_t DemoMachine::FreeBytes(const fs::path& /*path*/) const
     return kFreeBytes;
 }
 
-DemoProgram::DemoProgram(const fs::path& installRoot, const fs::path& folder)
+DemoProgram::DemoProgram(const fs::path& installRoot, const fs::path& folder, Welcome welcome, const BoxSize& size)
     : machine(folder), desktop(folder / "documents"), stretch(MakeStretch())
 {
     for (const char* part : {"program", "documents", "temp"})
@@ -47,7 +46,7 @@ DemoProgram::DemoProgram(const fs::path& installRoot, const fs::path& folder)
     MakeProgramPictures();
     provided = std::make_unique<ProvidedWindows>(windows);
     RunStartUp();
-    OpenWindow();
+    OpenWindow(welcome, size);
 }
 
 DemoProgram::~DemoProgram()
@@ -66,15 +65,17 @@ void DemoProgram::OfferServices()
     TheServices().capture = &voice;
 }
 
-/// The window fills the screen.
-void DemoProgram::OpenWindow()
+/// The window stands in the corner of the screen; one of the usual size fills that of the slides.
+void DemoProgram::OpenWindow(Welcome welcome, const BoxSize& size)
 {
     const auto pair = [](int a, int b) {
         return std::to_string(a * kTwipsPerPixel) + "," + std::to_string(b * kTwipsPerPixel);
     };
     PutSetting("MainWindow", "WindowState", "0");
     PutSetting("MainWindow", "Position", pair(0, 0));
-    PutSetting("MainWindow", "Size", pair(kSlideSize.width, kSlideSize.height));
+    PutSetting("MainWindow", "Size", pair(size.width, size.height));
+    if (welcome == Welcome::LeftOut)
+        PutSetting("General", "WelcomeShown", "1");
     window = std::make_unique<MainFrm>(transport);
     screen.SetProcessPic(&window->WorkingSign());
     screen.SetTuneNotFilledTimer([this] { window->EnableTuneNotFilledTimer(); });

@@ -19,6 +19,7 @@
 #include "service/posix/PosixPrivateFolders.h"
 #include "service/qt/QtPictureFiles.h"
 #include "tutorial/HeardSound.h"
+#include "tutorial/SlideLayout.h"
 #include "tutorial/SungVoice.h"
 #include "ui/forms/QtMessages.h"
 #include "ui/forms/QtScreen.h"
@@ -55,12 +56,17 @@ private:
     std::filesystem::path documents;
 };
 
+/// Whether the program welcomes the user. A card would be on every slide.
+enum class Welcome { LeftOut, Shown };
+
 /// The whole program as on its first start, in a folder of its own, with a loudspeaker and a microphone that do what
 /// they are told. Needs the application object and its look.
 class DemoProgram {
 public:
     /// installRoot: the folder of the installed beats, tunes and songs. folder: an empty one.
-    DemoProgram(const std::filesystem::path& installRoot, const std::filesystem::path& folder);
+    /// welcome: whether the card of the very first start is shown. size: of the main window.
+    DemoProgram(const std::filesystem::path& installRoot, const std::filesystem::path& folder,
+                Welcome welcome = Welcome::LeftOut, const BoxSize& size = kSlideSize);
     DemoProgram(const DemoProgram&) = delete;
     DemoProgram& operator=(const DemoProgram&) = delete;
     ~DemoProgram();
@@ -71,7 +77,7 @@ public:
 
 private:
     void OfferServices();
-    void OpenWindow();
+    void OpenWindow(Welcome welcome, const BoxSize& size);
 
     TransportCommands transport{nullptr};
     QtScreen screen;

@@ -15,14 +15,17 @@ namespace sprout {
 
 namespace {
 
-constexpr std::array<std::pair<std::string_view, ScriptVerb>, 8> kVerbs{{{"click", ScriptVerb::Click},
+constexpr std::array<std::pair<std::string_view, ScriptVerb>, 9> kVerbs{{{"click", ScriptVerb::Click},
                                                                          {"drag", ScriptVerb::Drag},
                                                                          {"look", ScriptVerb::Look},
                                                                          {"point", ScriptVerb::Point},
                                                                          {"press", ScriptVerb::Press},
                                                                          {"type", ScriptVerb::Type},
                                                                          {"tick", ScriptVerb::Tick},
-                                                                         {"sing", ScriptVerb::Sing}}};
+                                                                         {"sing", ScriptVerb::Sing},
+                                                                         {"keep", ScriptVerb::Keep}}};
+constexpr std::size_t kWordsOfWindow = 2; ///< behind "keep": the picture's name and the window
+constexpr std::size_t kWordsOfPart = 6;   ///< and the part's place and size
 
 [[noreturn]] void Refuse(std::int32_t line, const std::string& reason)
 {
@@ -116,6 +119,8 @@ void CheckSlides(const DemoScript& script)
     for (std::size_t i = 0; i < script.Steps.size(); ++i) {
         const ScriptStep& step = script.Steps[i];
         const bool isDrag = step.Verb == ScriptVerb::Drag;
+        if (step.Verb == ScriptVerb::Keep)
+            Refuse(step.Line, "a demo keeps slides only.");
         if (MakesSlides(step) == step.Text.empty() || isDrag == Trim(step.EndText).empty())
             Refuse(step.Line, "slides have words, other steps have none.");
         // Two drags in a row could not be told from one.
@@ -125,6 +130,21 @@ void CheckSlides(const DemoScript& script)
     const std::int32_t count = SlideCount(script);
     if (count < kFewestSlides || count > kMostSlides)
         throw RunTimeError(Words::AsIs("The demo " + script.Name + " has " + std::to_string(count) + " slides."));
+}
+
+void CheckPictureStep(const ScriptStep& step)
+{
+    const std::size_t words = step.Target.size();
+    if (step.Verb == ScriptVerb::Look)
+        Refuse(step.Line, "here pictures are kept.");
+    if (step.Verb == ScriptVerb::Keep && words != kWordsOfWindow && words != kWordsOfPart)
+        Refuse(step.Line, "a picture has a name, a window and perhaps the place and the size of a part.");
+}
+
+/// True if the line says nothing.
+bool IsIdle(std::string_view content)
+{
+    return content.empty() || content.front() == '#';
 }
 
 } // namespace
@@ -148,7 +168,7 @@ DemoScript ReadDemoScript(std::string_view text)
     for (const std::string& whole : Split(text, '\n')) {
         ++line;
         const std::string content(Trim(whole));
-        if (content.empty() || content.front() == '#')
+        if (IsIdle(content))
             continue;
         const bool isIndented = whole.front() == ' ';
         if (script.Name.empty() && content.rfind("demo ", 0) == 0)
@@ -162,6 +182,20 @@ DemoScript ReadDemoScript(std::string_view text)
     }
     CheckSlides(script);
     return script;
+}
+
+std::vector<ScriptStep> ReadPictureScript(std::string_view text)
+{
+    std::vector<ScriptStep> steps;
+    std::int32_t line = 0;
+    for (const std::string& whole : Split(text, '\n')) {
+        ++line;
+        if (IsIdle(Trim(whole)))
+            continue;
+        steps.push_back(StepOf(Trim(whole), line));
+        CheckPictureStep(steps.back());
+    }
+    return steps;
 }
 
 } // namespace sprout

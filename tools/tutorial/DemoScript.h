@@ -8,8 +8,9 @@
 
 namespace sprout {
 
-/// What a step of a script does. `Click`, `Drag` and `Look` make slides, the others only prepare the next one.
-enum class ScriptVerb { Click, Drag, Look, Point, Press, Type, Tick, Sing };
+/// What a step of a script does. In a demo `Click`, `Drag` and `Look` make slides; in the script of the help's pictures
+/// `Keep` makes them. The others only prepare the next one.
+enum class ScriptVerb { Click, Drag, Look, Point, Press, Type, Tick, Sing, Keep };
 
 /// A step: a verb, what it is done to, and the words of the slide's bubble.
 struct ScriptStep {
@@ -48,5 +49,9 @@ inline constexpr std::int32_t kMostWords = 12;
 /// before them, "hear SECONDS"; the words of a drag's second slide follow a line "then". Names with blanks stand in
 /// quotes. Lines that begin with "#" say nothing.
 [[nodiscard]] DemoScript ReadDemoScript(std::string_view text);
+
+/// Reads the script of the help's pictures: steps without words. "keep NAME WINDOW" takes a picture of a window, "keep
+/// NAME CONTROL LEFT TOP WIDTH HEIGHT" of a part of a control. Throws `RunTimeError` like `ReadDemoScript`.
+[[nodiscard]] std::vector<ScriptStep> ReadPictureScript(std::string_view text);
 
 } // namespace sprout

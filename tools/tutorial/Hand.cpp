@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "base/Errors.h"
+#include "ui/forms/Dialogs.h"
 
 namespace sprout {
 
@@ -32,8 +33,13 @@ QWidget& FrontWindow()
         return *popup;
     if (QWidget* modal = QApplication::activeModalWidget())
         return *modal;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (window->isVisible() && window->objectName() == QStringLiteral("MainFrm"))
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.removeIf([](const QWidget* window) { return !window->isVisible(); });
+    for (QWidget* window : windows)
+        if (window->property(kStandsBeside).toBool())
+            return *window;
+    for (QWidget* window : windows)
+        if (window->objectName() == QStringLiteral("MainFrm"))
             return *window;
     throw RunTimeError(Words::AsIs("No window is open."));
 }

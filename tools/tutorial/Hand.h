@@ -8,8 +8,8 @@
 
 namespace sprout {
 
-/// The window that takes what the user does: a menu, the modal window or the main window. Throws `RunTimeError` if
-/// there is none.
+/// The window that takes what the user does: a menu, the modal window, the help or the main window. Throws
+/// `RunTimeError` if there is none.
 [[nodiscard]] QWidget& FrontWindow();
 
 /// Uses the mouse and the keyboard on the window in front. Points are on the screen.

@@ -164,7 +164,9 @@ std::tuple<int, int, WId> StackingOf(const QWidget& window)
 
 QImage GrabScreen()
 {
-    QImage screen(kSlideSize.width, kSlideSize.height, QImage::Format_RGB32);
+    const qreal pixelRatio = qApp->devicePixelRatio();
+    QImage screen(QSize(kSlideSize.width, kSlideSize.height) * pixelRatio, QImage::Format_RGB32);
+    screen.setDevicePixelRatio(pixelRatio);
     screen.fill(kSand);
     QPainter painter(&screen);
     QWidgetList windows = QApplication::topLevelWidgets();
@@ -194,11 +196,11 @@ void DrawMarks(QImage& slide, const SlideMarks& marks)
     DrawBubble(painter, marks, free);
 }
 
-void SaveSlide(const QImage& slide, const QString& path)
+void SaveSlide(const QImage& slide, const QString& path, int most)
 {
     QImageWriter writer(path, "png");
     writer.setCompression(100);
-    if (!writer.write(WithFewColours(slide)))
+    if (!writer.write(WithFewColours(slide, most)))
         throw RunTimeError(Words::AsIs(path.toStdString() + " cannot be written."));
 }
 

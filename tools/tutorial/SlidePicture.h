@@ -20,12 +20,12 @@ struct SlideMarks {
     std::optional<QPoint> ArrowTo; ///< where the hand drags to
 };
 
-/// All visible windows as they stand on the screen.
+/// All visible windows as they stand on the screen, in its pixels.
 [[nodiscard]] QImage GrabScreen();
 
 void DrawMarks(QImage& slide, const SlideMarks& marks);
 
-/// Writes a PNG file that is as small as this can be made. Throws `RunTimeError`.
-void SaveSlide(const QImage& slide, const QString& path);
+/// Writes a PNG file that is as small as this can be made. most: its colours. Throws `RunTimeError`.
+void SaveSlide(const QImage& slide, const QString& path, int most = 256);
 
 } // namespace sprout

@@ -12,11 +12,13 @@
 #include <string_view>
 #include <utility>
 
+#include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/Guarded.h"
 #include "base/Log.h"
 #include "base/Numbers.h"
 #include "base/Text.h"
+#include "core/ClassFolder.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -36,15 +38,6 @@ constexpr std::string_view kSampleSong = "Zumi";
 fs::path StartCountFile()
 {
     return Shared().UserRoot / ".SproutStarts";
-}
-
-int StartsSoFar()
-{
-    std::ifstream file(StartCountFile(), std::ios::binary);
-    std::array<char, 8> text{};
-    file.read(text.data(), static_cast<std::streamsize>(text.size()));
-    const double starts = NumberPrefix(std::string_view(text.data(), static_cast<std::size_t>(file.gcount())));
-    return static_cast<int>(std::clamp<double>(starts, 0, kFirstStarts));
 }
 
 /// Counts this start, as long as the count matters.
@@ -89,16 +82,26 @@ bool LoadQuietly(const fs::path& file)
     return false;
 }
 
-/// The song that a setting names, as a path or as one of the user's songs; else the sample song on a first start.
+/// The song that a setting names, as a path or as one of the user's or the class's songs; else the sample song on a
+/// first start.
 fs::path SongOfThisStart(bool isFirstStart)
 {
     const std::string named(Trim(GetSetting(kGeneralSection, "StartSong", "")));
     if (named.empty())
         return isFirstStart ? SongPath(kSampleSong) : fs::path();
-    return fs::path(named).is_absolute() ? fs::path(named) : SongPath(named);
+    return fs::path(named).is_absolute() ? fs::path(named) : FindNamedFile(SongFolders(), named, kSongExtension);
 }
 
 } // namespace
+
+int StartsSoFar()
+{
+    std::ifstream file(StartCountFile(), std::ios::binary);
+    std::array<char, 8> text{};
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    const double starts = NumberPrefix(std::string_view(text.data(), static_cast<std::size_t>(file.gcount())));
+    return static_cast<int>(std::clamp<double>(starts, 0, kFirstStarts));
+}
 
 bool OpenSampleSong()
 {

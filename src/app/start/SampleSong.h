@@ -6,6 +6,9 @@ namespace sprout {
 /// Number of program starts that open the sample song.
 inline constexpr int kFirstStarts = 3;
 
+/// The number of starts that were counted so far, up to `kFirstStarts`; 0 if they cannot be counted.
+[[nodiscard]] int StartsSoFar();
+
 /// Opens the sample song of `UserSongs` instead of the new one, if this is one of the first starts. They are counted in
 /// a small hidden file in `UserRoot`; if it cannot be written, every start counts as a first one.
 ///

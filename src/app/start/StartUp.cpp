@@ -12,6 +12,7 @@
 #include "base/FilePaths.h"
 #include "base/Guarded.h"
 #include "base/Numbers.h"
+#include "core/ClassFolder.h"
 #include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
@@ -150,7 +151,7 @@ void RunStartUp()
     constexpr Step steps[] = {FindTempFolder,   ProbeMachine,       SetInstallFolders,   SetSoundFormat,
                               TestSupportFiles, MakeInstallFolders, KeepTestTone,        NewSong,
                               KeepWaveColours,  SetDemoImages,      FindDocumentsFolder, SetUserFolders,
-                              FillUserFolders,  DeleteLeftMails,    DeleteLeftRecordings};
+                              FindClassFolder,  FillUserFolders,    DeleteLeftMails,     DeleteLeftRecordings};
     for (const Step step : steps)
         GoOnAfter(step);
 }

@@ -47,6 +47,7 @@ constexpr std::array kMainWindowHints{
     HintRow{"TrackDeleteBtn", Words::Later("Delete button, Click to delete this track")},
     HintRow{"TrackPlayBtn", Words::Later("Track play button, use it to test play this track")},
     HintRow{"TrackTuneBtn", Words::Later("Tune button, Click to choose a tune, keep mouse over it to play")},
+    HintRow{"WelcomeCard", Words::Later("Click here to put this card away")},
 };
 
 } // namespace

@@ -13,4 +13,8 @@ namespace sprout {
 /// The hint of the status frame itself.
 inline constexpr LaterWords kStatusFrameHint = Words::Later("Move the mouse over any button to read help clue here");
 
+/// What the status line says on the very first start.
+inline constexpr LaterWords kWelcomeHint =
+    Words::Later("Click Play all to hear the song, or Demo to see how to make one");
+
 } // namespace sprout

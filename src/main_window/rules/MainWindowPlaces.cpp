@@ -2,6 +2,7 @@
 #include "main_window/rules/MainWindowPlaces.h"
 
 #include "main_window/rules/TrackGeometry.h"
+#include "main_window/rules/WelcomePlaces.h"
 
 namespace sprout {
 
@@ -17,7 +18,7 @@ std::int32_t ControlBarWidth(std::int32_t windowWidth)
     return windowWidth - 2 * kWindowFrame;
 }
 
-MainWindowPlaces PlaceMainWindow(std::int32_t width, std::int32_t height, std::int32_t barHeight)
+MainWindowPlaces PlaceMainWindow(std::int32_t width, std::int32_t height, std::int32_t barHeight, WelcomeStrip welcome)
 {
     const std::int32_t inner = ControlBarWidth(width);
     const std::int32_t statusTop = height - kWindowFrame - kStatusBarHeight;
@@ -25,7 +26,12 @@ MainWindowPlaces PlaceMainWindow(std::int32_t width, std::int32_t height, std::i
     const std::int32_t cornerTop = height - kCornerSide;
     MainWindowPlaces places;
     places.hasStatus = CanvasShowsARow(statusTop - kWindowFrame - canvasTop);
-    const std::int32_t canvasBottom = places.hasStatus ? statusTop - kWindowFrame : height - kWindowFrame;
+    std::int32_t canvasBottom = places.hasStatus ? statusTop - kWindowFrame : height - kWindowFrame;
+    const std::int32_t welcomeTop = canvasBottom - kWelcomeHeight;
+    if (welcome == WelcomeStrip::Shown && places.hasStatus && CanvasShowsARow(welcomeTop - kWindowFrame - canvasTop)) {
+        places.welcome = {kWindowFrame, welcomeTop, inner, kWelcomeHeight};
+        canvasBottom = welcomeTop - kWindowFrame;
+    }
     places.titleBand = {0, 0, width, kTitleBandHeight};
     places.controlBar = {kWindowFrame, kTitleBandHeight, inner, barHeight};
     places.canvas = {kWindowFrame, canvasTop, inner, canvasBottom - canvasTop};

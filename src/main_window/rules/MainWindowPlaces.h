@@ -19,6 +19,7 @@ struct MainWindowPlaces {
     Box titleBand;
     Box controlBar;
     Box canvas;
+    Box welcome; ///< a strip between canvas and status frame; empty: hidden
     Box statusBar;
     Box leftCorner;
     Box rightCorner;
@@ -29,7 +30,12 @@ struct MainWindowPlaces {
 /// The width that the control bar gets in a window of this width.
 [[nodiscard]] std::int32_t ControlBarWidth(std::int32_t windowWidth);
 
-/// Lays out the main window. barHeight: of the control bar at its width.
-[[nodiscard]] MainWindowPlaces PlaceMainWindow(std::int32_t width, std::int32_t height, std::int32_t barHeight);
+/// Whether the window shows the welcome card.
+enum class WelcomeStrip { Hidden, Shown };
+
+/// Lays out the main window. barHeight: of the control bar at its width. The canvas cedes the room of the welcome card
+/// at its lower edge, as long as it shows a row.
+[[nodiscard]] MainWindowPlaces PlaceMainWindow(std::int32_t width, std::int32_t height, std::int32_t barHeight,
+                                               WelcomeStrip welcome = WelcomeStrip::Hidden);
 
 } // namespace sprout

@@ -11,6 +11,7 @@
 #include <span>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
@@ -87,6 +88,22 @@ void ListTree(const fs::path& source, const fs::path& within, Tree& tree)
     if (within.empty())
         throw std::system_error(error);
     tree.leftOut.push_back({source / within, error.message()});
+}
+
+Tree TreeOf(const fs::path& source)
+{
+    Tree tree;
+    ListTree(source, {}, tree);
+    return tree;
+}
+
+Tree TreeOf(std::span<const fs::path> files)
+{
+    Tree tree;
+    for (const fs::path& file : files)
+        tree.entries.push_back({file, false});
+    tree.files = files.size();
+    return tree;
 }
 
 /// A name that this disk cannot hold affects only that file; any other failure would also hit the next files.
@@ -200,8 +217,8 @@ void MoveEntries(const fs::path& from, const fs::path& to)
 /// A copy in progress; deleted unless it was put in place.
 class FolderCopy {
 public:
-    FolderCopy(const fs::path& from, const Places& ownPlaces, const FolderCopies::Progress& ownProgress)
-        : source(from), places(ownPlaces), progress(ownProgress)
+    FolderCopy(const fs::path& from, Tree listed, const Places& ownPlaces, const FolderCopies::Progress& ownProgress)
+        : source(from), places(ownPlaces), progress(ownProgress), tree(std::move(listed))
     {
     }
     FolderCopy(const FolderCopy&) = delete;
@@ -215,7 +232,6 @@ public:
 
     std::vector<LeftOutFile> Make()
     {
-        ListTree(source, {}, tree);
         MakeFolder(places.copy);
         CopyAll();
         if (copied == 0 && !tree.leftOut.empty())
@@ -296,6 +312,15 @@ void WaitForOthers(FileLock& lock, const FolderCopies::Progress& progress)
     }
 }
 
+std::vector<LeftOutFile> CopyTo(const Places& places, const fs::path& source, Tree tree,
+                                const FolderCopies::Progress& progress)
+{
+    FolderCopy copy(source, std::move(tree), places, progress);
+    std::vector<LeftOutFile> leftOut = copy.Make();
+    copy.PutInPlace();
+    return leftOut;
+}
+
 } // namespace
 
 std::vector<LeftOutFile> PosixFolderCopies::FillFolder(const fs::path& source, const fs::path& target,
@@ -314,10 +339,19 @@ std::vector<LeftOutFile> PosixFolderCopies::FillFolder(const fs::path& source, c
     }
     if (HoldsFile(places.target))
         return {};
-    FolderCopy copy(source, places, progress);
-    std::vector<LeftOutFile> leftOut = copy.Make();
-    copy.PutInPlace();
-    return leftOut;
+    return CopyTo(places, source, TreeOf(source), progress);
+}
+
+std::vector<LeftOutFile> PosixFolderCopies::AddFiles(const fs::path& source, const fs::path& target,
+                                                     std::span<const fs::path> names, const Progress& progress)
+{
+    const Places places(target);
+    FileLock lock(places.lock);
+    WaitForOthers(lock, progress);
+    fs::remove_all(places.copy);
+    if (Exists(places.whole))
+        MoveEntries(places.whole, places.target);
+    return CopyTo(places, source, TreeOf(names), progress);
 }
 
 bool PosixFolderCopies::IsUnfinished(const fs::path& target) const

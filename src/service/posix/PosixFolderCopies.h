@@ -11,6 +11,10 @@ public:
     [[nodiscard]] std::vector<LeftOutFile> FillFolder(const std::filesystem::path& source,
                                                       const std::filesystem::path& target,
                                                       const Progress& progress) override;
+    [[nodiscard]] std::vector<LeftOutFile> AddFiles(const std::filesystem::path& source,
+                                                    const std::filesystem::path& target,
+                                                    std::span<const std::filesystem::path> names,
+                                                    const Progress& progress) override;
     [[nodiscard]] bool IsUnfinished(const std::filesystem::path& target) const override;
 };
 

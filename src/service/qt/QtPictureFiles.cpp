@@ -8,6 +8,7 @@
 #include <QImageReader>
 #include <QString>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <new>
@@ -147,12 +148,12 @@ Picture QtPictureFiles::LoadPicture(const std::filesystem::path& path) const
     if (file.size() > kMostFileBytes)
         throw RunTimeError(Words::Text("The picture %1 is too large.", path.native()));
     const QImage image = Opaque(ReadImage(file.readAll(), path));
-    std::vector<std::uint32_t> pixels;
-    pixels.reserve(static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.height()));
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(image.width()) *
+                                      static_cast<std::size_t>(image.height()));
+    auto to = pixels.begin();
     for (int y = 0; y < image.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
-            pixels.push_back(ToBgr(line[x]));
+        to = std::transform(line, line + image.width(), to, ToBgr);
     }
     return {image.width(), image.height(), std::move(pixels)};
 }

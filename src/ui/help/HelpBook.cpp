@@ -1,10 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/help/HelpBook.h"
 
+#include <QFile>
 #include <QPainter>
+#include <QTextBlock>
 
+#include <algorithm>
+#include <filesystem>
+
+#include "core/Shared.h"
 #include "ui/look/Artwork.h"
 #include "ui/look/Look.h"
+#include "ui/words/QtText.h"
+#include "ui/words/Texts.h"
 
 namespace sprout {
 
@@ -13,6 +21,9 @@ namespace {
 constexpr qreal kGlyphShare = 0.86;
 constexpr qreal kGlyphShareOfWord = 0.6;
 constexpr int kPageMargin = 12;
+constexpr int kBesidePicture = 52;     ///< frame, margins and a scroll bar
+constexpr int kAboveAndBelow = 190;    ///< a heading and a few lines, which are read together with the picture
+constexpr int kPixelRatioOfWindow = 2; ///< pictures of windows are installed so much larger than they are shown
 constexpr QColor kMarked{0xFF, 0xE0, 0x66};
 
 /// The one or two numbers after a picture's name.
@@ -55,6 +66,12 @@ QPixmap OnWordPlate(const QString& name, QSize size, qreal pixelRatio)
     return picture;
 }
 
+QImage InstalledPicture(const QString& name)
+{
+    const std::filesystem::path file = Shared().InstallRoot / "HelpImages" / (name.toStdString() + ".png");
+    return QImage(QFile::decodeName(file.c_str()));
+}
+
 } // namespace
 
 HelpBook::HelpBook(QWidget* parent) : QTextBrowser(parent)
@@ -68,6 +85,7 @@ HelpBook::HelpBook(QWidget* parent) : QTextBrowser(parent)
         "QTextBrowser { background: white; border: 2px solid #6B655C; border-radius: 8px; padding: 3px; }"
         "QTextBrowser:focus { border-color: #1F6FA8; }"));
     connect(this, &QTextBrowser::sourceChanged, this, &HelpBook::RemoveMark);
+    connect(this, &QTextBrowser::sourceChanged, this, &HelpBook::SpeakPictures);
 }
 
 void HelpBook::MarkWord(int position, int length)
@@ -97,7 +115,41 @@ QPixmap HelpBook::PageArtwork(const QUrl& name) const
         return OnToolPlate(name.path(), SizeOf(name), devicePixelRatioF());
     if (name.scheme() == QStringLiteral("word"))
         return OnWordPlate(name.path(), SizeOf(name), devicePixelRatioF());
+    if (name.scheme() == QStringLiteral("window"))
+        return WindowPicture(name.path());
     return {};
+}
+
+/// It is made smaller in a small book, and for a screen with large pixels.
+QPixmap HelpBook::WindowPicture(const QString& name) const
+{
+    const QImage installed = InstalledPicture(name);
+    if (installed.isNull()) {
+        QPixmap blank(1, 1);
+        blank.fill(Qt::transparent);
+        return blank;
+    }
+    const QSize room(std::max(width() - kBesidePicture, 1), std::max(height() - kAboveAndBelow, 1));
+    QSizeF shown = QSizeF(installed.size()) / kPixelRatioOfWindow;
+    if (shown.width() > room.width() || shown.height() > room.height())
+        shown.scale(room, Qt::KeepAspectRatio);
+    const qreal pixelRatio = devicePixelRatioF();
+    QPixmap picture = QPixmap::fromImage(
+        installed.scaled((shown * pixelRatio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    picture.setDevicePixelRatio(pixelRatio);
+    return picture;
+}
+
+/// Screen readers say what the page's pictures show, because they find no words in them.
+void HelpBook::SpeakPictures()
+{
+    QStringList told;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            told += part.fragment().charFormat().property(QTextFormat::ImageAltText).toString().simplified();
+    told.removeAll(QString());
+    SetSpokenDescription(*this, told.isEmpty() ? Words()
+                                               : Words::Text("Picture: %1", told.join(QLatin1Char(' ')).toStdString()));
 }
 
 } // namespace sprout

@@ -192,10 +192,11 @@ Picture ArtworkPicture(const QString& name)
 QImage ToImage(const Picture& picture)
 {
     QImage image(picture.Width(), picture.Height(), QImage::Format_RGB32);
+    auto pixel = picture.Pixels().begin();
     for (int y = 0; y < picture.Height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < picture.Width(); ++x) {
-            const std::uint32_t colour = picture.Pixel(x, y);
+            const std::uint32_t colour = *pixel++;
             line[x] = qRgb(static_cast<int>(colour & 0xFF), static_cast<int>(colour >> 8 & 0xFF),
                            static_cast<int>(colour >> 16 & 0xFF));
         }

@@ -31,17 +31,23 @@ QPointer<QLabel>& StatusLbl()
     return label;
 }
 
-std::vector<QPointer<QLabel>>& HintStrips()
+struct HintStrip {
+    QPointer<QLabel> label;
+    bool desktopPlaces;
+};
+
+std::vector<HintStrip>& HintStrips()
 {
-    static std::vector<QPointer<QLabel>> strips;
+    static std::vector<HintStrip> strips;
     return strips;
 }
 
-bool HidesStatusLine(const QWidget& window)
+bool MayHideStatusLine(const QWidget& window, bool desktopPlaces)
 {
     const QLabel* const status = StatusLbl();
-    return status && status->isVisible() && window.isVisible() && status->window() != &window &&
-           window.frameGeometry().intersects(QRect(status->mapToGlobal(QPoint()), status->size()));
+    if (!status || !status->isVisible() || !window.isVisible() || status->window() == &window)
+        return false;
+    return desktopPlaces || window.frameGeometry().intersects(QRect(status->mapToGlobal(QPoint()), status->size()));
 }
 
 /// The pointer position when the hint was shown.
@@ -65,10 +71,10 @@ void ShowHintText(const QString& text)
 {
     if (StatusLbl())
         StatusLbl()->setText(text);
-    std::erase_if(HintStrips(), [](const QPointer<QLabel>& strip) { return strip.isNull(); });
-    for (const QPointer<QLabel>& strip : HintStrips())
-        strip->setText(HidesStatusLine(*strip->window())
-                           ? strip->fontMetrics().elidedText(text, Qt::ElideRight, strip->width())
+    std::erase_if(HintStrips(), [](const HintStrip& strip) { return strip.label.isNull(); });
+    for (const auto& [label, desktopPlaces] : HintStrips())
+        label->setText(MayHideStatusLine(*label->window(), desktopPlaces)
+                           ? label->fontMetrics().elidedText(text, Qt::ElideRight, label->width())
                            : QString());
     HintPoint() = QCursor::pos();
 }
@@ -92,9 +98,9 @@ void ShowHintOf(const QWidget& widget)
     ShowHintText(widget.property(kHintProperty).toString());
 }
 
-void AddHintStrip(QLabel& strip)
+void AddHintStrip(QLabel& strip, bool desktopPlaces)
 {
-    HintStrips().emplace_back(&strip);
+    HintStrips().push_back({&strip, desktopPlaces});
 }
 
 void ShowHintOfFocus(const QWidget& widget, const QFocusEvent& event)

@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include "base/Words.h"
+#include "ui/widgets/DesktopPlacesWindows.h"
 
 namespace sprout {
 
@@ -20,9 +21,9 @@ void SetHintOf(QWidget& widget, const Words& hint);
 /// Shows the widget's own hint.
 void ShowHintOf(const QWidget& widget);
 
-/// Also shows hints in a label of another window, while that window covers the status line. The label may be destroyed
-/// before the hints.
-void AddHintStrip(QLabel& strip);
+/// Also shows hints in a label of another window, while that window covers the status line; or always if the desktop
+/// places windows, since nobody else knows what they cover. The label may be destroyed before the hints.
+void AddHintStrip(QLabel& strip, bool desktopPlaces = DesktopPlacesWindows());
 
 /// Makes the hint follow the keyboard: shows the widget's hint when the Tab key gives it the focus, and clears it when
 /// the Tab key takes the focus away. Call it for both kinds of focus events.

@@ -133,5 +133,17 @@ TEST_F(SampleSong, LeavesTheNewSongWithoutAMessageWhereItCannotBeRead)
     EXPECT_EQ(TheServices().messages, &fake.messages);
 }
 
+TEST_F(StartSong, MayBeOneOfTheClass)
+{
+    const fs::path folder = fake.folder.Path() / "class" / "";
+    fs::create_directories(folder / "Songs");
+    PutSong(folder / "Songs" / "Rain.TqSng", kSampleTempo / 2);
+    Shared().ClassRoot = folder;
+    PutSetting("General", "StartSong", "Rain");
+    EXPECT_TRUE(OpenSampleSong());
+    EXPECT_EQ(Shared().Song.SongTitle, "Rain");
+    EXPECT_EQ(Shared().Song.Tempo, kSampleTempo / 2);
+}
+
 } // namespace
 } // namespace sprout

@@ -2,7 +2,8 @@
 """What a user does at the desk, and what must happen then. Each scenario is a function that takes a desk."""
 import importlib
 
-MODULES = ("playing", "saving", "starting", "window", "tunes", "sharing", "recording", "memory")
+MODULES = ("playing", "saving", "starting", "window", "tunes", "sharing", "recording", "memory", "upgrading",
+           "on_wayland")
 
 
 def all_scenarios():

@@ -3,7 +3,7 @@ import configparser
 import os
 import subprocess
 
-from processes import expect
+from processes import expect, wait_for
 from songs import SongFile
 from scenarios import scenario
 from scenarios.steps import close, give_short_song, open_song, save_song, stroke, SHORT_SONG
@@ -24,6 +24,25 @@ def FirstStart(desk):
     expect(program.text_of("SoundStatusLbl") == "Ready", "the sound is not ready")
     close(program)
     expect(os.path.exists(desk.settings), "no settings were written beside the program")
+
+
+@scenario(sound=False, screen_size="800x600")
+def WelcomeOnce(desk):
+    """The very first start shows a card that covers no track; one click puts it away, and no other start shows it."""
+    program = desk.start()
+    card, canvas = program.wait_for("WelcomeCard"), program.wait_for("TrackPic")
+    for covered in (canvas, *(program.wait_for(name) for name in ("TrackTitlePic", "StatusFramePic", "DemoBtn"))):
+        expect(not card.overlaps(covered), f"the card lies over {covered.name}")
+    desk.mouse.click(card.middle)
+    wait_for("the end of the card", lambda: not program.find("WelcomeCard"))
+    wait_for("the room of the card for the tracks", lambda: program.find("TrackPic").height > canvas.height)
+    close(program)
+    with open(desk.settings, encoding="utf-8") as settings:
+        expect("WelcomeShown=1" in settings.read(), "it was not noted that the card was shown")
+    program = desk.start()
+    program.wait_for("SngTitleLbl", "Zumi")
+    expect(not program.find("WelcomeCard"), "the second start shows the card")
+    close(program)
 
 
 @scenario(sound=False)

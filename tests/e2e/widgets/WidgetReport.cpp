@@ -10,6 +10,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QWidget>
+#include <QWindow>
+
+#include <algorithm>
 
 namespace sprout {
 
@@ -84,17 +87,37 @@ QJsonObject Told(const QWidget& widget, int window)
     return told;
 }
 
+QWidgetList VisibleWindows()
+{
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.erase(
+        std::remove_if(windows.begin(), windows.end(), [](const QWidget* window) { return !window->isVisible(); }),
+        windows.end());
+    return windows;
+}
+
+/// The number of the window that another belongs to, or -1.
+int ParentOf(const QWidget& window, const QWidgetList& windows)
+{
+    const QWindow* const parent = window.windowHandle() ? window.windowHandle()->transientParent() : nullptr;
+    const auto found = std::find_if(windows.begin(), windows.end(), [parent](const QWidget* candidate) {
+        return parent && candidate->windowHandle() == parent;
+    });
+    return found == windows.end() ? -1 : static_cast<int>(found - windows.begin());
+}
+
 } // namespace
 
 QJsonObject WidgetReport()
 {
     QJsonArray widgets;
     int number = 0;
-    for (const QWidget* window : QApplication::topLevelWidgets()) {
-        if (!window->isVisible())
-            continue;
+    const QWidgetList windows = VisibleWindows();
+    for (const QWidget* window : windows) {
         QJsonObject told = Told(*window, number);
         told[QStringLiteral("id")] = static_cast<qint64>(window->effectiveWinId());
+        told[QStringLiteral("parent")] = ParentOf(*window, windows);
+        told[QStringLiteral("popup")] = window->windowType() == Qt::Popup;
         widgets.append(told);
         for (const QWidget* part : window->findChildren<QWidget*>())
             if (!part->visibleRegion().isEmpty() && part->window() == window)

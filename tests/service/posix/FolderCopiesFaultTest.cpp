@@ -28,12 +28,14 @@ protected:
         std::vector<LeftOutFile> leftOut;
     };
 
-    [[nodiscard]] Outcome FillWith(const Faults& faults) const
+    [[nodiscard]] Outcome FillWith(const Faults& faults) const { return CopyWith(faults, &InstalledBeats::Fill); }
+
+    [[nodiscard]] Outcome CopyWith(const Faults& faults, std::vector<LeftOutFile> (InstalledBeats::*copy)() const) const
     {
         Outcome outcome;
         TheFaults() = faults;
         try {
-            outcome.leftOut = beats.Fill();
+            outcome.leftOut = (beats.*copy)();
         } catch (const std::system_error&) {
             outcome.refused = true;
         }
@@ -74,6 +76,33 @@ TEST_F(FolderCopies, AreWholeOrNothingWhereACallFailsOnce)
         for (int nth = 1; nth <= calls[number]; ++nth) {
             SCOPED_TRACE(std::string(kCallNames[number]) + " " + std::to_string(nth));
             ExpectWholeOrNothing(FillWith({call, nth, Fault::FailOnce, EIO}));
+        }
+    }
+}
+
+TEST_F(FolderCopies, AddFilesAtTheNextTryWhereACallFailsOnce)
+{
+    const auto begin = [this] {
+        fs::remove_all(beats.Target());
+        fs::create_directories(beats.Target());
+        WriteBytes(beats.Target() / "mine.wav", "mine");
+    };
+    begin();
+    TheFaults() = Faults();
+    static_cast<void>(beats.Add());
+    const auto whole = beats.Filled();
+    const auto calls = TheFaults().calls;
+    for (const SystemCall call : {SystemCall::Write, SystemCall::Mkdir, SystemCall::Fsync, SystemCall::Rename}) {
+        const auto number = static_cast<std::size_t>(call);
+        EXPECT_GE(calls[number], 1) << kCallNames[number];
+        for (int nth = 1; nth <= calls[number]; ++nth) {
+            SCOPED_TRACE(std::string(kCallNames[number]) + " " + std::to_string(nth));
+            begin();
+            static_cast<void>(CopyWith({call, nth, Fault::FailOnce, EIO}, &InstalledBeats::Add));
+            EXPECT_EQ(beats.Filled()["mine.wav"], "mine");
+            EXPECT_TRUE(beats.Add().empty());
+            EXPECT_EQ(beats.Filled(), whole);
+            EXPECT_EQ(beats.NamesOfUser(), Names{"Beats"});
         }
     }
 }

@@ -182,6 +182,94 @@ TEST_F(FolderCopies, KeepWhatTheFolderHoldsAfterAKillAtEachSystemCall)
     }
 }
 
+/// Files that are added to those of a user, who has another one of the same name.
+class AddedFiles : public FolderCopies {
+protected:
+    void MakeTarget() const
+    {
+        fs::remove_all(beats.Target());
+        fs::create_directories(beats.Target());
+        WriteBytes(beats.Target() / "b.wav", "my b");
+        WriteBytes(beats.Target() / "mine.wav", "mine");
+    }
+
+    [[nodiscard]] std::map<std::string, std::string> Wanted() const
+    {
+        return {{"a.wav", std::string(300'000, 'a')}, {"b.wav", "my b"}, {"mine.wav", "mine"}};
+    }
+};
+
+TEST_F(AddedFiles, ComeBesideTheUsersAndReplaceNone)
+{
+    MakeTarget();
+    SetWrittenIn2020(beats.Source() / "a.wav", 2000);
+    EXPECT_TRUE(beats.Add().empty());
+    EXPECT_EQ(beats.Filled(), Wanted());
+    EXPECT_EQ(fs::last_write_time(beats.Target() / "a.wav"), fs::last_write_time(beats.Source() / "a.wav"));
+    EXPECT_EQ(beats.NamesOfUser(), Names{"Beats"});
+    EXPECT_FALSE(PosixFolderCopies().IsUnfinished(beats.Target()));
+}
+
+TEST_F(AddedFiles, MayBeStopped)
+{
+    MakeTarget();
+    const auto before = beats.Filled();
+    const std::vector<fs::path> names{"a.wav", "b.wav"};
+    const auto stop = [](std::size_t done, std::size_t total) {
+        EXPECT_EQ(total, 4U);
+        if (done == 3)
+            throw WorkStopped();
+    };
+    EXPECT_THROW(static_cast<void>(PosixFolderCopies().AddFiles(beats.Source(), beats.Target(), names, stop)),
+                 WorkStopped);
+    EXPECT_EQ(beats.Filled(), before);
+    EXPECT_EQ(beats.NamesOfUser(), Names{"Beats"});
+}
+
+TEST_F(AddedFiles, LeaveOutWhatIsNotThere)
+{
+    MakeTarget();
+    const std::vector<fs::path> names{"a.wav", "gone.wav"};
+    const auto leftOut =
+        PosixFolderCopies().AddFiles(beats.Source(), beats.Target(), names, [](std::size_t, std::size_t) {});
+    ASSERT_EQ(leftOut.size(), 1U);
+    EXPECT_EQ(leftOut[0].Path, beats.Source() / "gone.wav");
+    EXPECT_EQ(beats.Filled(), Wanted());
+}
+
+TEST_F(AddedFiles, AreWholeAfterAKillAtEachSystemCallOrTheNextStart)
+{
+    bool killed = true;
+    for (int call = 1; killed && !HasFailure(); call += kKillStep) {
+        SCOPED_TRACE(call);
+        MakeTarget();
+        const auto before = beats.Filled();
+        killed = KilledAtSystemCall(call, [this] { static_cast<void>(beats.Add()); });
+        const bool isUnfinished = PosixFolderCopies().IsUnfinished(beats.Target());
+        EXPECT_TRUE(isUnfinished || beats.Filled() == before || beats.Filled() == Wanted());
+        if (isUnfinished)
+            static_cast<void>(beats.Fill()); // as a start does then
+        EXPECT_TRUE(beats.Filled() == before || beats.Filled() == Wanted());
+        EXPECT_TRUE(beats.Add().empty());
+        EXPECT_EQ(beats.Filled(), Wanted());
+        EXPECT_EQ(beats.NamesOfUser(), Names{"Beats"});
+    }
+}
+
+TEST_F(AddedFiles, FinishWhatAKilledProgramLeft)
+{
+    MakeTarget();
+    fs::create_directories(beats.User() / ".TqkWhole-Beats");
+    WriteBytes(beats.User() / ".TqkWhole-Beats/c.wav", "c");
+    fs::create_directories(beats.User() / ".TqkCopy-Beats");
+    WriteBytes(beats.User() / ".TqkCopy-Beats/half.wav", "half");
+    EXPECT_TRUE(beats.Add().empty());
+    auto wanted = Wanted();
+    wanted["c.wav"] = "c";
+    EXPECT_EQ(beats.Filled(), wanted);
+    EXPECT_EQ(beats.NamesOfUser(), Names{"Beats"});
+}
+
 TEST(FileLock, IsHeldByOneAtATime)
 {
     const TestFolder folder;

@@ -11,6 +11,7 @@
 #include "core/Shared.h"
 #include "core/SongModel.h"
 #include "songs/OpenSaveClass.h"
+#include "sound/TuneRender.h"
 #include "sprout-library/Check.h"
 #include "sprout-library/Tool.h"
 #include "support/TestFolder.h"
@@ -96,6 +97,53 @@ TEST_F(MadeLibrary, HoldsWhatTheProgramAsksForAtItsStart)
     EXPECT_TRUE(FileExists(Made() / "Songs" / "Zumi.TqSng"));
     EXPECT_TRUE(FileExists(Made() / "Tunes" / "Lumo.TqTun"));
     EXPECT_TRUE(ReadBytes(Made() / "Tunes" / "TqTunes.ini").starts_with("[SortOrder]\r\nLumo=1\r\n"));
+}
+
+TEST_F(MadeLibrary, TakesAtMost20MegabytesOfEachUser)
+{
+    std::size_t bytes = 0;
+    for (const auto& [name, file] : Tree(Made()))
+        bytes += file.first.size();
+    EXPECT_LE(bytes, 20'000'000U);
+}
+
+TEST_F(MadeLibrary, HasTunesThatCarryNeitherBeatsNorSound)
+{
+    std::ostringstream out, err;
+    Session session(out, err, Made(), false, Watched::No);
+    int tunes = 0;
+    for (const fs::directory_entry& entry : fs::directory_iterator(Made() / "Tunes")) {
+        EXPECT_NE(entry.path().extension(), ".TqTunCache");
+        if (entry.path().extension() != ".TqTun")
+            continue;
+        ++tunes;
+        EXPECT_LT(entry.file_size(), 10'000U) << entry.path();
+        TunOpnSavClass().Load_Tune(entry.path());
+        const Tune& tune = Shared().TuneClipboard;
+        EXPECT_FALSE(tune.TuneWaveValid) << tune.Name;
+        for (const TuneStep& step : tune.Steps)
+            EXPECT_EQ(step.IsOn(), step.StepBeat.Sound.Length > 0) << tune.Name;
+    }
+    EXPECT_EQ(tunes, 66);
+    EXPECT_TRUE(session.NoMessageSince(0));
+}
+
+TEST_F(MadeLibrary, IsNotWithinItsRulesWhenATuneCarriesItsSound)
+{
+    const TestFolder second;
+    const fs::path library = second.Path() / "Sprout";
+    fs::copy(Made(), library, fs::copy_options::recursive);
+    {
+        std::ostringstream out, err;
+        Session session(out, err, library, false, Watched::No);
+        TunOpnSavClass files(Flush::No);
+        files.Load_Tune(library / "Tunes" / "Lumo.TqTun");
+        RenderTuneCycle(Shared().TuneClipboard);
+        files.Save_Tune(library / "Tunes" / "Lumo.TqTun");
+    }
+    std::ostringstream out, err;
+    EXPECT_EQ(RunTool({"--check", library.native()}, out, err), 1);
+    EXPECT_NE(out.str().find("BROKEN  Lumo: carries sounds"), std::string::npos);
 }
 
 TEST_F(MadeLibrary, HasSongsWhoseBeatsAreThoseOfTheFolder)

@@ -106,5 +106,35 @@ TEST(DemoScript, RefusesLongTextsAndLongDemos)
               "The demo Paint has 16 slides.");
 }
 
+TEST(PictureScript, HasStepsWithoutWords)
+{
+    const std::vector<ScriptStep> steps =
+        ReadPictureScript("# The windows\nclick OpenBtn\n\nkeep songs SongSelFrm\nkeep list SngNmLst 0 0 9 5\n");
+    ASSERT_EQ(steps.size(), 3U);
+    EXPECT_EQ(steps[0].Verb, ScriptVerb::Click);
+    EXPECT_EQ(steps[1].Verb, ScriptVerb::Keep);
+    EXPECT_THAT(steps[1].Target, ElementsAre("songs", "SongSelFrm"));
+    EXPECT_EQ(steps[1].Line, 4);
+    EXPECT_THAT(steps[2].Target, ElementsAre("list", "SngNmLst", "0", "0", "9", "5"));
+}
+
+TEST(PictureScript, NamesTheLineThatIsWrong)
+{
+    const auto reason = [](const char* text) -> std::string {
+        try {
+            static_cast<void>(ReadPictureScript(text));
+        } catch (const RunTimeError& error) {
+            return error.what();
+        }
+        return {};
+    };
+    const std::string whole = "a picture has a name, a window and perhaps the place and the size of a part.";
+    EXPECT_EQ(reason("keep songs\n"), "Line 1: " + whole);
+    EXPECT_EQ(reason("\nkeep list SngNmLst 0 0 9\n"), "Line 2: " + whole);
+    EXPECT_EQ(reason("look 3\n"), "Line 1: here pictures are kept.");
+    EXPECT_EQ(reason("clik OkBtn\n"), "Line 1: \"clik\" is no verb.");
+    EXPECT_EQ(ReasonAgainst("demo Paint\nkeep songs SongSelFrm\n"), "Line 2: a demo keeps slides only.");
+}
+
 } // namespace
 } // namespace sprout

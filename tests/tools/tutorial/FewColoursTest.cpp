@@ -33,5 +33,17 @@ TEST(WithFewColours, KeepsFrequentColoursAndStaysCloseToTheRest)
         }
 }
 
+TEST(WithFewColours, KeepsPlainColoursThatAreCloseToEachOther)
+{
+    QImage picture(256, 256, QImage::Format_RGB32);
+    for (int y = 0; y < 256; ++y)
+        for (int x = 0; x < 256; ++x)
+            picture.setPixel(x, y, y < 100 ? qRgb(255, 255, 255) : y < 150 ? qRgb(255, 248, 231) : qRgb(x, 255 - x, y));
+    const QImage few = WithFewColours(picture, 16);
+    EXPECT_EQ(few.colorCount(), 16);
+    EXPECT_EQ(few.pixel(0, 0), qRgb(255, 255, 255));
+    EXPECT_EQ(few.pixel(0, 120), qRgb(255, 248, 231));
+}
+
 } // namespace
 } // namespace sprout

@@ -75,11 +75,14 @@ private:
     bool isHeld = false;
 };
 
-TEST(LiveDemo, EndsWithASavedSongOfTwoPaintedTracks)
+/// Also while the card of the very first start is shown, which no slide has.
+class LiveDemo : public testing::TestWithParam<Welcome> {};
+
+TEST_P(LiveDemo, EndsWithASavedSongOfTwoPaintedTracks)
 {
     const TestFolder folder;
     const HeldTimers timers;
-    DemoProgram program(SPROUT_INSTALLED, folder.Path());
+    DemoProgram program(SPROUT_INSTALLED, folder.Path(), GetParam());
     Follower follower("Paint your first song");
     ASSERT_GT(follower.SlideCount(), 0U);
     StepLoop([&follower] { return follower.FollowNext(); }).Run();
@@ -96,6 +99,8 @@ TEST(LiveDemo, EndsWithASavedSongOfTwoPaintedTracks)
     }
     EXPECT_NE(song.Tracks[1].TrackTune.Name, song.Tracks[2].TrackTune.Name);
 }
+
+INSTANTIATE_TEST_SUITE_P(WithAndWithoutWelcome, LiveDemo, testing::Values(Welcome::LeftOut, Welcome::Shown));
 
 } // namespace
 } // namespace sprout

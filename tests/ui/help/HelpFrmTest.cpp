@@ -299,14 +299,5 @@ TEST_F(HelpFrmTest, DoesNotKeepTheProgramRunning)
     EXPECT_FALSE(Open().testAttribute(Qt::WA_QuitOnClose));
 }
 
-TEST(HelpBook, ShowsItsPicturesSharp)
-{
-    HelpBook book(nullptr);
-    const auto picture =
-        book.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("tool:BrushBtn?44"))).value<QPixmap>();
-    EXPECT_EQ(picture.size(), QSize(44, 44) * book.devicePixelRatioF());
-    EXPECT_TRUE(book.loadResource(QTextDocument::ImageResource, QUrl(QStringLiteral("art:buttons/None?44"))).isNull());
-}
-
 } // namespace
 } // namespace sprout

@@ -12,6 +12,7 @@
 #include <map>
 #include <regex>
 #include <set>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -206,6 +207,30 @@ TEST(HelpPages, LeadNowhereElse)
             ++links;
         }
     EXPECT_GE(links, 40U);
+}
+
+TEST(HelpPages, ShowTheWindowThatTheyAreAbout)
+{
+    static const std::regex picture("<img src=\"window:(\\w+)\"");
+    std::map<std::string, std::string> pages = Pages();
+    for (const HelpOfWindow& about : HelpOfWindows())
+        EXPECT_THAT(pages[about.file], testing::HasSubstr("<img src=\"window:" + std::string(about.file) + "\""));
+    std::set<std::string> shown;
+    for (const auto& [name, text] : pages)
+        shown.merge(Matches(text, picture));
+    std::set<std::string> kept;
+    std::istringstream script(ReadBytes(kSource / "help" / "pictures.txt"));
+    for (std::string line; std::getline(script, line);)
+        kept.merge(Matches(line, std::regex("^keep (\\w+) ")));
+    EXPECT_EQ(shown, kept);
+}
+
+TEST(HelpPages, TellInWordsWhatTheirPicturesOfWindowsShow)
+{
+    static const std::regex told("<img src=\"window:(\\w+)\" alt=\"[^\"<>]{60,300}[.]\">");
+    static const std::regex any("src=\"window:(\\w+)\"");
+    for (const auto& [name, text] : Pages())
+        EXPECT_EQ(Matches(InOneLine(text), told), Matches(text, any)) << name;
 }
 
 TEST(HelpPages, TellTeachersEverySettingForSchools)

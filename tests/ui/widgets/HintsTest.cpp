@@ -55,6 +55,26 @@ TEST(AddHintStrip, ShowsHintsWhileItsWindowHidesTheStatusLine)
     SetStatusLbl(nullptr);
 }
 
+TEST(AddHintStrip, ShowsAllHintsWhereTheDesktopPlacesWindows)
+{
+    QWidget mainWindow;
+    mainWindow.setGeometry(0, 0, 300, 200);
+    QLabel statusLbl(&mainWindow);
+    statusLbl.setGeometry(0, 180, 300, 20);
+    SetStatusLbl(&statusLbl);
+    mainWindow.show();
+    QWidget window;
+    window.setGeometry(0, 0, 300, 150); // as far as it knows
+    QLabel strip(&window);
+    strip.resize(60, 20);
+    AddHintStrip(strip, true);
+    window.show();
+    ShowHint(Words::AsIs("Save"));
+    EXPECT_EQ(strip.text(), QStringLiteral("Save"));
+    EXPECT_EQ(statusLbl.text(), QStringLiteral("Save"));
+    SetStatusLbl(nullptr);
+}
+
 TEST(HintWatcher, FollowsTheTabKey)
 {
     QLabel statusLbl;
