@@ -193,36 +193,35 @@ std::uint64_t LongsReader::BlockEnd(std::int32_t lastIndex) const
     return cursor.Offset() + static_cast<std::uint64_t>(lastIndex) * kElementBytes;
 }
 
-std::string LongsReader::GetText()
+LongsReader::TextPlace LongsReader::GetTextHead()
 {
     const std::uint64_t blockEnd = BlockEnd(cursor.ReadInt32());
     const std::int32_t length = cursor.ReadInt32();
     if (length < 0 || cursor.Offset() > blockEnd || static_cast<std::uint64_t>(length) > blockEnd - cursor.Offset())
         throw RunTimeError(Words::Text("The file is damaged: a text is longer than its place."));
-    std::string stored(static_cast<std::size_t>(length), '\0');
+    return {length, blockEnd};
+}
+
+std::string LongsReader::GetText()
+{
+    const TextPlace place = GetTextHead();
+    std::string stored(static_cast<std::size_t>(place.length), '\0');
     cursor.Read(std::as_writable_bytes(std::span(stored)));
-    cursor.MoveTo(blockEnd);
+    cursor.MoveTo(place.end);
     return TextFromStored(stored);
 }
 
-Channel LongsReader::GetChannel(std::int32_t length, std::uint64_t blockEnd)
+void LongsReader::SkipText()
 {
-    const std::uint64_t sampleBytes = static_cast<std::uint64_t>(length) * sizeof(std::int16_t);
-    if (cursor.Offset() > blockEnd || sampleBytes > blockEnd - cursor.Offset())
-        throw RunTimeError(Words::Text("The file is damaged: a sound is longer than its place."));
-    Channel channel = Channel::Unfilled(length);
-    if (length > 0)
-        cursor.Read(std::as_writable_bytes(channel.Change().subspan(1)));
-    return channel;
+    cursor.MoveTo(GetTextHead().end);
 }
 
-WaveData LongsReader::GetWave()
+LongsReader::WavePlace LongsReader::GetWaveHead(WaveData& wave)
 {
     const std::int32_t lastIndex = cursor.ReadInt32();
     const std::uint64_t blockEnd = BlockEnd(lastIndex);
-    WaveData wave;
     if (lastIndex == 0)
-        return wave;
+        return {blockEnd, blockEnd};
     if (lastIndex < kWaveHeadElements - 1)
         throw RunTimeError(Words::Text("The file is damaged: a sound has no head."));
     wave.Bits = cursor.ReadInt32();
@@ -232,14 +231,39 @@ WaveData LongsReader::GetWave()
     if (wave.Length < 0)
         throw RunTimeError(Words::Text("The file is damaged: the length of a sound is below zero."));
     const std::uint64_t left = cursor.Offset();
-    wave.WavL = GetChannel(wave.Length, blockEnd);
+    const std::uint64_t right =
+        std::min(left + static_cast<std::uint64_t>(ChannelElements(wave.Length)) * kElementBytes, blockEnd);
+    const std::uint64_t samplesBegin = wave.Channels == 2 && wave.Length > 0 ? right : left;
+    if (static_cast<std::uint64_t>(wave.Length) * sizeof(std::int16_t) > blockEnd - samplesBegin)
+        throw RunTimeError(Words::Text("The file is damaged: a sound is longer than its place."));
+    return {right, blockEnd};
+}
+
+Channel LongsReader::GetChannel(std::int32_t length)
+{
+    Channel channel = Channel::Unfilled(length);
+    if (length > 0)
+        cursor.Read(std::as_writable_bytes(channel.Change().subspan(1)));
+    return channel;
+}
+
+WaveData LongsReader::GetWave()
+{
+    WaveData wave;
+    const WavePlace place = GetWaveHead(wave);
+    wave.WavL = GetChannel(wave.Length);
     if (wave.Channels == 2 && wave.Length > 0) {
-        cursor.MoveTo(
-            std::min(left + static_cast<std::uint64_t>(ChannelElements(wave.Length)) * kElementBytes, blockEnd));
-        wave.WavR = GetChannel(wave.Length, blockEnd);
+        cursor.MoveTo(place.right);
+        wave.WavR = GetChannel(wave.Length);
     }
-    cursor.MoveTo(blockEnd);
+    cursor.MoveTo(place.end);
     return wave;
+}
+
+void LongsReader::SkipWave()
+{
+    WaveData wave;
+    cursor.MoveTo(GetWaveHead(wave).end);
 }
 
 Picture LongsReader::GetPicture()
@@ -247,6 +271,18 @@ Picture LongsReader::GetPicture()
     std::array<std::int32_t, kPicturePixels> columns{};
     cursor.Read(std::as_writable_bytes(std::span(columns)));
     return PictureFromColumns(columns);
+}
+
+void LongsReader::SkipPicture()
+{
+    SkipMany(kPicturePixels, 1);
+}
+
+void LongsReader::SkipMany(std::int32_t count, std::int64_t size)
+{
+    Require(count, size);
+    cursor.MoveTo(cursor.Offset() +
+                  static_cast<std::uint64_t>(count) * static_cast<std::uint64_t>(size) * kElementBytes);
 }
 
 std::vector<std::int32_t> TextToLongs(std::string_view text)

@@ -72,6 +72,14 @@ public:
     /// Fills `elements`. Call `Require` before you allocate them.
     void GetMany(std::span<std::int32_t> elements);
 
+    // Each moves behind a block without reading more than its head, and throws where reading it would throw.
+
+    void SkipText();
+    void SkipWave();
+    void SkipPicture();
+    /// Moves behind `count` records of `size` elements each.
+    void SkipMany(std::int32_t count, std::int64_t size);
+
     /// Elements not read yet.
     [[nodiscard]] std::uint64_t Left() const { return cursor.Left() / 4; }
     /// Throws unless `count` (not negative) records of at least `size` elements each are left.
@@ -80,9 +88,22 @@ public:
 private:
     explicit LongsReader(ByteCursor bytes) : cursor(std::move(bytes)) {}
 
+    /// Where the content of a text or a wave lies, as bytes of the source.
+    struct TextPlace {
+        std::int32_t length = 0;
+        std::uint64_t end = 0;
+    };
+    struct WavePlace {
+        std::uint64_t right = 0; ///< of the right channel, if there is one
+        std::uint64_t end = 0;
+    };
+
     /// The byte after the block whose element 0 was just read as `lastIndex`.
     [[nodiscard]] std::uint64_t BlockEnd(std::int32_t lastIndex) const;
-    Channel GetChannel(std::int32_t length, std::uint64_t blockEnd);
+    [[nodiscard]] TextPlace GetTextHead();
+    /// Fills all of `wave` but its samples, which then begin at the cursor; a block that is only 0 leaves it empty.
+    [[nodiscard]] WavePlace GetWaveHead(WaveData& wave);
+    [[nodiscard]] Channel GetChannel(std::int32_t length);
 
     ByteCursor cursor;
 };

@@ -219,8 +219,53 @@ TEST(LongsReader, RefusesWavesThatLieAboutTheirLength)
         ReaderOf data(block);
         const AllocationWatch watch;
         EXPECT_THROW(static_cast<void>(data->GetWave()), RunTimeError);
+        EXPECT_THROW(ReaderOf(block)->SkipWave(), RunTimeError);
         EXPECT_LT(watch.Largest(), 100'000U);
     }
+}
+
+TEST(LongsReader, SkipsEachBlockToWhereReadingItEnds)
+{
+    LongsWriter data;
+    data.PutText("");
+    data.PutText("abcdefgh"); // with a spare element
+    data.PutWave(WaveOf({1, 2, 3}, {4, 5, 6}));
+    data.PutWave(WaveOf({1, 2}));
+    data.PutWave(WaveData());
+    data.Put(0); // an empty wave too
+    data.PutPicture(PlainPicture(7));
+    data.PutMany(Elements{1, 2, 3, 4, 5, 6});
+    data.Put(99);
+    ReaderOf read(data.Elements());
+    ReaderOf skip(data.Elements());
+    const auto expectSamePlace = [&] { EXPECT_EQ(skip->Left(), read->Left()); };
+    for (int text = 0; text < 2; ++text) {
+        static_cast<void>(read->GetText());
+        skip->SkipText();
+        expectSamePlace();
+    }
+    for (int wave = 0; wave < 4; ++wave) {
+        static_cast<void>(read->GetWave());
+        skip->SkipWave();
+        expectSamePlace();
+    }
+    static_cast<void>(read->GetPicture());
+    skip->SkipPicture();
+    expectSamePlace();
+    skip->SkipMany(2, 3);
+    EXPECT_EQ(skip->Get(), 99);
+}
+
+TEST(LongsReader, RefusesToSkipWhatTheArrayDoesNotHold)
+{
+    const std::int32_t most = std::numeric_limits<std::int32_t>::max();
+    for (const Elements& block : {Elements{2, 5, 0}, Elements{3, 4, 0}, Elements{most, 0}, Elements{-1, 0}}) {
+        ReaderOf data(block);
+        EXPECT_THROW(data->SkipText(), RunTimeError);
+    }
+    EXPECT_THROW(ReaderOf(Elements(1023, 0))->SkipPicture(), RunTimeError);
+    EXPECT_THROW(ReaderOf({1, 2, 3})->SkipMany(2, 2), RunTimeError);
+    EXPECT_THROW(ReaderOf({1, 2, 3})->SkipMany(-1, 1), RunTimeError);
 }
 
 TEST(LongsReader, RefusesAnArrayThatTheSourceCannotHold)
