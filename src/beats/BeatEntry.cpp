@@ -34,4 +34,11 @@ void ReadStoredBeat(LongsReader& data, Beat& beat)
     beat.Loaded = true;
 }
 
+void SkipStoredBeat(LongsReader& data)
+{
+    data.SkipText();
+    data.SkipWave();
+    data.SkipPicture();
+}
+
 } // namespace sprout

@@ -14,4 +14,7 @@ void WriteBeatEntry(LongsWriter& data, const Beat& beat);
 /// Reads what follows the 1: `DateStamp`, `Sound` and `Picture`. Throws `RunTimeError` if the data is invalid.
 void ReadStoredBeat(LongsReader& data, Beat& beat);
 
+/// Moves behind the same, with the same errors.
+void SkipStoredBeat(LongsReader& data);
+
 } // namespace sprout

@@ -33,7 +33,7 @@ void ReadOldSong(LongsReader& data, SongState& song, ReadMusic readMusic)
     MakeTracks(data, song, trackCount);
     for (std::int32_t i = 1; i <= trackCount; ++i) {
         Track& track = At(song.Tracks, i);
-        ReadPaint(data, track, song.SongCells);
+        ReadPaint(data, track, song.SongCells, song.SongCells);
         if (track.IsMusic())
             readMusic(track.TrackTune);
         else if (track.IsAudio())
@@ -71,6 +71,34 @@ void ReadTune11(LongsReader& data, Tune& tune)
     }
 }
 
+void SkipMusic11(LongsReader& data)
+{
+    if (data.Get() == 1) {
+        data.SkipText();
+        if (data.Get() == 1)
+            SkipStoredBeat(data);
+    }
+    if (data.Get() != 1)
+        return;
+    data.SkipText();
+    SkipTuneHead(data);
+    SkipSteps(data, kStepElements11);
+}
+
+void SkipMusic10(LongsReader& data)
+{
+    data.SkipText();
+    data.SkipText();
+}
+
+/// The paint of any old version.
+void ReadOldPaint(LongsReader& data, SongState& song, const PaintLimits& limits, void (*skipMusic)(LongsReader&))
+{
+    const std::int32_t trackCount = data.Get();
+    ReadPaintHead(data, song);
+    ReadPaintOfTracks(data, song, trackCount, limits, skipMusic);
+}
+
 } // namespace
 
 void Load_Song_V11(LongsReader& data, SongState& song)
@@ -83,6 +111,11 @@ void Load_Song_V11(LongsReader& data, SongState& song)
             LoadStarFile(tune); // the file names none, so this makes 16 silent steps
         SetTuneBeat(tune, beatIndex);
     });
+}
+
+void Load_Paint_V11(LongsReader& data, SongState& song, const PaintLimits& limits)
+{
+    ReadOldPaint(data, song, limits, SkipMusic11);
 }
 
 void Load_Song_V10(LongsReader& data, SongState& song)
@@ -102,6 +135,11 @@ void Load_Song_V10(LongsReader& data, SongState& song)
         LoadStarFile(track.TrackTune);
         SetTuneBeat(track.TrackTune, beatIndex);
     }
+}
+
+void Load_Paint_V10(LongsReader& data, SongState& song, const PaintLimits& limits)
+{
+    ReadOldPaint(data, song, limits, SkipMusic10);
 }
 
 } // namespace sprout

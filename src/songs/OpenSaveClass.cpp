@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <exception>
-#include <optional>
 #include <string>
 #include <utility>
 
@@ -25,32 +24,6 @@ namespace sprout {
 namespace fs = std::filesystem;
 
 namespace {
-
-using SongLoader = void (*)(LongsReader&, SongState&);
-
-/// The reader for a file's version; none if this program does not know the version.
-SongLoader LoaderOf(ByteSource& source)
-{
-    const float version = FileVersion(source);
-    if (version == 2.0F)
-        return Load_Song_V20;
-    if (version == 1.0F)
-        return Load_Song_V10;
-    if (version == 1.1F)
-        return Load_Song_V11;
-    return nullptr;
-}
-
-SongState ReadVersion(ByteSource& source, SongLoader loadVersion)
-{
-    const std::optional<std::uint64_t> begin = FindHeadData(source);
-    if (!begin)
-        throw RunTimeError(Words::Text("Failed to find Data"));
-    SongState song;
-    LongsReader data(source, *begin);
-    loadVersion(data, song);
-    return song;
-}
 
 /// Leaves a song without tracks and without its own file: anything saved in its place would be another song.
 void FailLoading(SongState& song)
@@ -88,12 +61,15 @@ bool TakeSong(const fs::path& file)
 SongState ReadSong(const fs::path& path)
 {
     FileSource source(path);
-    const SongLoader loadVersion = LoaderOf(source);
-    if (!loadVersion)
+    const SongVersion* const version = FindSongVersion(source);
+    if (!version)
         return {};
     SongState song;
     const auto tell = [](const std::exception& error) { throw SongDataError(ErrorWords(error)); };
-    GuardedBy(tell, [&] { song = ReadVersion(source, loadVersion); });
+    GuardedBy(tell, [&] {
+        LongsReader data = SongArray(source);
+        version->load(data, song);
+    });
     return song;
 }
 

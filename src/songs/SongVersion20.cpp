@@ -66,7 +66,7 @@ void SongReader20::ReadBeat(Beat& beat)
 
 void SongReader20::ReadTrack(Track& track)
 {
-    ReadPaint(data, track, song.SongCells);
+    ReadPaint(data, track, song.SongCells, song.SongCells);
     if (track.IsMusic())
         ReadMusic(track.TrackTune);
     else if (track.IsAudio())
@@ -114,11 +114,41 @@ void SongReader20::TakeTuneFile(Tune& tune, const std::string& name)
     MergeTuneBeats(song, tune);
 }
 
+void SkipBeat(LongsReader& data)
+{
+    data.SkipText();
+    if (data.Get() == 1)
+        SkipStoredBeat(data);
+}
+
+void SkipMusic(LongsReader& data)
+{
+    if (data.Get() == 0)
+        return;
+    data.SkipText();
+    if (data.Get() != 1)
+        return;
+    SkipTuneHead(data);
+    SkipSteps(data, kStepElements20);
+    data.SkipMany(1, 1); // the end mark
+}
+
 } // namespace
 
 void Load_Song_V20(LongsReader& data, SongState& song)
 {
     SongReader20(data, song).ReadSong();
+}
+
+void Load_Paint_V20(LongsReader& data, SongState& song, const PaintLimits& limits)
+{
+    const std::int32_t trackCount = data.Get();
+    const std::int32_t beatCount = data.Get();
+    ReadPaintHead(data, song);
+    data.Require(beatCount, kBeatElements);
+    for (std::int32_t i = 1; i <= beatCount; ++i)
+        SkipBeat(data);
+    ReadPaintOfTracks(data, song, trackCount, limits, SkipMusic);
 }
 
 } // namespace sprout

@@ -28,4 +28,10 @@ void MakeSteps(LongsReader& data, Tune& tune, std::int64_t stepElements)
     ResizeSteps(tune, count);
 }
 
+void SkipSteps(LongsReader& data, std::int64_t stepElements)
+{
+    const std::int32_t count = data.Get();
+    data.SkipMany(count, stepElements);
+}
+
 } // namespace sprout

@@ -21,4 +21,7 @@ void ReadStepEntry(LongsReader& data, TuneStep& step);
 /// count is impossible.
 void MakeSteps(LongsReader& data, Tune& tune, std::int64_t stepElements);
 
+/// Moves behind that count and the steps, with the same errors.
+void SkipSteps(LongsReader& data, std::int64_t stepElements);
+
 } // namespace sprout

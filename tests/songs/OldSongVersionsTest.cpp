@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include <filesystem>
 
+#include "songs/HandSongs.h"
 #include "songs/SongFileMaker.h"
 #include "waves/WavOperations.h"
 
@@ -37,20 +38,6 @@ protected:
         }
     }
 };
-
-/// Version 1.1: stored beat and stored tune; no beat and a star; beat of the folder and stored tune; audio.
-HandArray MakeArray11()
-{
-    HandArray array;
-    array.Add({4, 2, 400}).Text("Song").Text("Ann");
-    array.Add({0, 1, 0}).Add({1}).Text("Drum").Add({1}).Text("stamp").Add({5, 16, 1, 44100, 1, 5}).Picture(0x32);
-    array.Add({1}).Text("Tune").Text("tune stamp").Text("Bob").Picture(0x32).Add({2, 1, -2, 80, 0, 3, 90});
-    array.Add({0, 0, 1}).Add({0}).Add({0});
-    array.Add({0, 1, 1}).Add({1}).Text("Bass").Add({0}).Add({1}).Text("T").Text("").Text("").Picture(0x32).Add({1});
-    array.Add({1, 0, 100});
-    array.Add({1, 1, 1}).Add({5, 16, 1, 44100, 1, 9});
-    return array;
-}
 
 TEST_F(OldSongVersionsTest, Version11BringsBeatsAndTunesTrackByTrack)
 {
@@ -124,17 +111,6 @@ TEST_F(OldSongVersionsTest, Version11TakesABeatFromItsFolderUnlessItsSecondFlagI
     EXPECT_EQ(song.SongBeats[1].Sound, WaveOf({40}));
     EXPECT_EQ(song.Tracks[1].TrackTune.Steps[1].BeatIndex, 1);
     EXPECT_TRUE(Told().empty());
-}
-
-HandArray MakeArray10()
-{
-    HandArray array;
-    array.Add({4, 2, 320}).Text("Song").Text("Ann");
-    array.Add({0, 1, 0}).Text("Drum").Text("Star");
-    array.Add({1, 1, 1}).Add({5, 16, 1, 44100, 1, 9});
-    array.Add({0, 0, 1}).Text("Missing").Text("Gone");
-    array.Add({0, 0, 1}).Text("drum").Text("Star");
-    return array;
 }
 
 TEST_F(OldSongVersionsTest, Version1TakesBeatsAndStarsFromTheirFolders)

@@ -2,6 +2,7 @@
 #include <filesystem>
 
 #include "core/SongModel.h"
+#include "songs/HandSongs.h"
 #include "songs/SongFileMaker.h"
 #include "support/AllocationWatch.h"
 #include "tunes/TunOpnSavClass.h"
@@ -13,26 +14,11 @@ namespace {
 namespace fs = std::filesystem;
 using Elements = std::vector<std::int32_t>;
 
-/// Three cells; two beats; a music track with a tune of two steps, one without, an audio track and one of no kind.
-HandArray MakeArray()
-{
-    HandArray array;
-    array.Add({4, 2, 3, 400}).Text("My song").Text("");
-    array.Text("Drum").Add({1}).Text("stamp").Add({8, 16, 2, 22050, 2, 0x00020001, 0, 0x00040003, 0}).Picture(0x30);
-    array.Text("Bass").Add({1}).Text("other stamp").Add({6, 8, 1, 11025, 3, 0x00060005, 7}).Picture(0x31);
-    array.Add({0, 1, 2, 0}).Add({1}).Text("Tune").Add({1}).Text("tune stamp").Text("Ann").Picture(0x32);
-    array.Add({2}).Add({1, -3, 50, 120, 2}).Add({0, 4, 60, 130, 1}).Add({0});
-    array.Add({0, 0, 0, 1}).Add({0});
-    array.Add({1, 1, 1, 1}).Add({6, 16, 1, 44100, 2, 0x000A0009, 0});
-    array.Add({7, 0, 1, 0});
-    return array;
-}
-
 class SongVersion20Test : public SongFilesTest {};
 
 TEST_F(SongVersion20Test, ReadsEveryElementIntoItsField)
 {
-    const SongState& song = LoadArray(MakeArray());
+    const SongState& song = LoadArray(MakeArray20());
     ASSERT_EQ(song.TrackCount, 4);
     ASSERT_EQ(song.Tracks.size(), 5U);
     EXPECT_EQ(song.SongCells, 3);
@@ -75,7 +61,7 @@ TEST_F(SongVersion20Test, ReadsEveryElementIntoItsField)
 
 TEST_F(SongVersion20Test, WritesEveryElementInItsPlace)
 {
-    HandArray array = MakeArray();
+    HandArray array = MakeArray20();
     LoadArray(array);
     EXPECT_EQ(ArrayOf(SaveBytes()), array.Elements());
 }
@@ -111,7 +97,7 @@ TEST_F(SongVersion20Test, NamesInAnyAlphabetComeBack)
 
 TEST_F(SongVersion20Test, BeatsStayOutsideOnlyWhereTheirWaveIsThere)
 {
-    LoadArray(MakeArray());
+    LoadArray(MakeArray20());
     Shared().SongBeatsInside = false;
     SaveWaveFile(WaveOf({70}), Shared().UserBeats / "DRUM.WAV");
     Shared().Song.Tracks[1].TrackTune.Steps[2].BeatIndex = 1;
@@ -227,7 +213,7 @@ TEST_F(SongVersion20Test, ASmallFileCanAskForLittleMemoryOnly)
 
 TEST_F(SongVersion20Test, AFileCutAnywhereFails)
 {
-    const std::string bytes = FileOf("TqSng", "2", MakeArray().Elements());
+    const std::string bytes = FileOf("TqSng", "2", MakeArray20().Elements());
     constexpr std::size_t stride = 13; // reaches every byte of an element; the head and the texts are cut at each byte
     for (std::size_t size = 0; size < bytes.size() - 9; size += size < 200 ? 1 : stride) {
         services.messages.shown.clear();
@@ -238,7 +224,7 @@ TEST_F(SongVersion20Test, AFileCutAnywhereFails)
 
 TEST_F(SongVersion20Test, AnArrayThatEndsEarlyFails)
 {
-    const Elements array = MakeArray().Elements();
+    const Elements array = MakeArray20().Elements();
     for (std::size_t count = 1; count < array.size(); count += count < 40 || count > 3150 ? 1 : 29) {
         Elements cut(array.begin(), array.begin() + static_cast<std::ptrdiff_t>(count));
         cut[0] = static_cast<std::int32_t>(count) - 1;
@@ -248,7 +234,7 @@ TEST_F(SongVersion20Test, AnArrayThatEndsEarlyFails)
 
 TEST_F(SongVersion20Test, AnyElementMayLie)
 {
-    const Elements array = MakeArray().Elements();
+    const Elements array = MakeArray20().Elements();
     const auto isColour = [&](std::size_t i) { return array[i] >= 0x30 && array[i] <= 0x32; };
     for (std::size_t place = 0; place < array.size(); ++place) {
         if (isColour(place) && place % 100 != 0)
@@ -287,7 +273,7 @@ TEST_F(SongVersion20Test, RefusesWhatTheFileCannotHoldBeforeItIsMade)
 
 TEST_F(SongVersion20Test, WritesCellsThatATrackLacksAsUnpainted)
 {
-    LoadArray(MakeArray());
+    LoadArray(MakeArray20());
     Shared().Song.Tracks[4].Painted = {0, 1};
     OpenSaveClass(Flush::No).Save_Song(Path());
     OpenSaveClass().Load_Song(Path());
