@@ -48,7 +48,7 @@ TEST_F(SproutSong, AnswersWrongUsageWithTwo)
 TEST_F(SproutSong, TellsItsHelpAndItsVersion)
 {
     EXPECT_EQ(Run({"--help"}), kDone);
-    for (const char* command : {"info", "render", "export", "cycle", "resave", "convert", "stretch"})
+    for (const char* command : {"info", "render", "export", "cycle", "resave", "thumbnail", "convert", "stretch"})
         EXPECT_NE(out.str().find(command), std::string::npos) << command;
     EXPECT_EQ(Run({"render", "--help"}), kDone);
     EXPECT_EQ(Run({"--version"}), kDone);

@@ -26,6 +26,7 @@ bool RunRender(Session& session, const Arguments& arguments);
 bool RunExport(Session& session, const Arguments& arguments);
 bool RunCycle(Session& session, const Arguments& arguments);
 bool RunResave(Session& session, const Arguments& arguments);
+bool RunThumbnail(Session& session, const Arguments& arguments);
 bool RunConvert(Session& session, const Arguments& arguments);
 bool RunStretch(Session& session, const Arguments& arguments);
 

@@ -13,6 +13,7 @@
 #include "core/Paths.h"
 #include "core/Shared.h"
 #include "songs/OpenSaveClass.h"
+#include "songs/SongPaint.h"
 #include "tunes/TunOpnSavClass.h"
 
 namespace sprout {
@@ -75,6 +76,22 @@ bool LoadSong(Session& session, const fs::path& path)
         return false;
     OpenSaveClass().Load_Song(path);
     return Shared().Song.TrackCount != 0;
+}
+
+std::optional<SongState> LoadSongPaint(Session& session, const fs::path& path, std::int32_t mostTracks)
+{
+    const Words title = Words::Text("Error Opening File");
+    if (!IsThere(session, path, title))
+        return std::nullopt;
+    try {
+        SongState song = ReadSongPaint(path, mostTracks);
+        if (song.TrackCount > 0)
+            return song;
+        session.Fail(title, Words::Text("%1 holds no song that can be read.", PathText(path)));
+    } catch (const std::exception& error) {
+        session.Fail(title, ErrorWords(error));
+    }
+    return std::nullopt;
 }
 
 bool LoadTune(Session& session, const fs::path& path)

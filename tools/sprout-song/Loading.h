@@ -22,6 +22,8 @@ enum class FileKind { Song, Tune, Star, Wave, Wma };
 // Each loads a file into the shared state and reports every failure; returns false if there is nothing to work on.
 
 bool LoadSong(Session& session, const std::filesystem::path& path);
+/// What is painted in a song's first tracks, at most `mostTracks` of them.
+std::optional<SongState> LoadSongPaint(Session& session, const std::filesystem::path& path, std::int32_t mostTracks);
 /// Into `TuneClipboard`.
 bool LoadTune(Session& session, const std::filesystem::path& path);
 /// The star in the file's own folder.
