@@ -13,6 +13,7 @@ configure_file(packaging/desktop/${application}.metainfo.xml.in ${metainfo} @ONL
 install(FILES packaging/man/sprout-painter.1 DESTINATION share/man/man1)
 install(FILES packaging/desktop/${application}.desktop DESTINATION share/applications)
 install(FILES packaging/desktop/sprout-painter.xml DESTINATION share/mime/packages)
+install(FILES packaging/desktop/sprout-painter.thumbnailer DESTINATION share/thumbnailers)
 install(FILES ${metainfo} DESTINATION share/metainfo)
 
 # Each icon is drawn for some small sizes; the scalable drawing gives the others.
