@@ -17,8 +17,9 @@ struct pa_stream;
 
 namespace sprout {
 
-/// What a playback stream's server holds: this program may be late by that much.
-inline constexpr std::chrono::milliseconds kQueuedAtServer{500};
+/// What a playback stream's server holds: this program may be late by that much, as on a busy machine. A stop does not
+/// wait for it.
+inline constexpr std::chrono::milliseconds kQueuedAtServer{2000};
 /// What the device is given at a time; a stop and the start of the next sound wait for it.
 inline constexpr std::chrono::milliseconds kGivenAtATime{10};
 

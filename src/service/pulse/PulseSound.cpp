@@ -29,7 +29,7 @@ PulseSound::PulseSound(PulseConnection& server, const SoundFormat& format, milli
              {[this] { OnLost(); }, [this] { OnStarted(); }, [this] { OnTimed(); }, [this] { OnMoreWanted(); },
               [this](TimingQuestion question, const StreamTiming& timing) { OnAnswered(question, timing); }}),
       rounds(
-          server, round, [this] { return Follow(); }, [this] { Close(); }),
+          server, round, [this] { return Follow() || IsStopping(); }, [this] { Close(); }),
       tail(server, [this] { OnTailHeard(); })
 {
 }

@@ -20,7 +20,7 @@ namespace sprout {
 
 /// A sound on its own stream at the server.
 ///
-/// The server holds half a second of it, so this program may be late, and asks the device for 10 ms at a time. Stopping
+/// The server holds two seconds of it, so this program may be late, and asks the device for 10 ms at a time. Stopping
 /// takes the stream out of what the device is given next and keeps the queue, so the sound later continues without a
 /// lost or repeated frame; starting from the beginning discards the queue.
 ///
@@ -71,6 +71,8 @@ private:
     [[nodiscard]] std::int64_t FirstPlaceNotGiven() const;
     void StopStream();
     void End();
+    /// Whether the place, at which the sound continues, is still unknown after a stop.
+    [[nodiscard]] bool IsStopping() const { return stream.IsAsked(TimingQuestion::AtStop); }
     /// Updates the place, and ends the sound once its end was heard. Returns whether it plays.
     bool Follow();
 

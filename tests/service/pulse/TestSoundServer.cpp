@@ -14,6 +14,8 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <random>
+#include <span>
 #include <utility>
 
 #include "base/PcmSound.h"
@@ -194,7 +196,8 @@ bool TestSoundServer::HasStoppedInput() const
     return Told({"env", "LC_ALL=C", "pactl", "list", "sink-inputs"}).find("Corked: yes") != std::string::npos;
 }
 
-TestRecording::TestRecording(const TestSoundServer& server) : silence(SilenceOf(server.Format()))
+TestRecording::TestRecording(const TestSoundServer& soundServer)
+    : server(soundServer), silence(SilenceOf(server.Format()))
 {
     std::array<int, 2> pipe{};
     if (pipe2(pipe.data(), O_CLOEXEC) != 0)
@@ -257,6 +260,29 @@ bool TestRecording::Holds(const Bytes& sound)
     return Comes([&](const Bytes& bytes) {
         return std::search(bytes.begin(), bytes.end(), sound.begin(), sound.end()) != bytes.end();
     });
+}
+
+bool TestRecording::CatchesUp()
+{
+    // A sound of another program is recorded behind all that was heard before it. Its bytes are above those of the
+    // tests' own sounds. A device that gives back what it has not played yet loses its beginning.
+    constexpr std::size_t kMarkBytes = 16000;
+    constexpr std::size_t kSurelyHeard = 2000;
+    constexpr std::byte kLeast{0x80};
+    std::string bytes;
+    std::minstd_rand random;
+    while (bytes.size() < kMarkBytes)
+        bytes.push_back(static_cast<char>(std::to_integer<unsigned>(kLeast) + random() % 127));
+    const std::string file = server.Folder().Path() / "mark";
+    WriteBytes(file, bytes);
+    const std::span<const std::byte> last = std::as_bytes(std::span(bytes)).last(kSurelyHeard);
+    if (server.Play("out", file) != "")
+        return false;
+    const bool came = Holds(Bytes(last.begin(), last.end()));
+    const std::lock_guard lock(mutex);
+    std::replace_if(
+        recorded.begin(), recorded.end(), [](std::byte byte) { return byte >= kLeast; }, silence);
+    return came;
 }
 
 bool TestRecording::Grows(std::size_t bytes)

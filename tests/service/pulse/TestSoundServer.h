@@ -53,6 +53,7 @@ public:
 
     /// Adds a microphone NAME-mic that hears what is played on the sink NAME. Returns false if that fails.
     [[nodiscard]] bool AddMicrophone(const std::string& name);
+    [[nodiscard]] const TestFolder& Folder() const { return folder; }
     /// Plays the samples of a file, in the program's own format, on a sink until they are heard. "" means success.
     [[nodiscard]] std::string Play(const std::string& sink, const std::string& file) const;
     /// Removes a microphone or puts it back; its sink stays.
@@ -73,7 +74,7 @@ private:
 /// What a server's device plays from the start of the recording on.
 class TestRecording {
 public:
-    explicit TestRecording(const TestSoundServer& server);
+    explicit TestRecording(const TestSoundServer& soundServer);
     TestRecording(const TestRecording&) = delete;
     TestRecording& operator=(const TestRecording&) = delete;
     ~TestRecording();
@@ -84,6 +85,9 @@ public:
     [[nodiscard]] bool Sounds();
     /// Waits until all of `sound` is heard, without a gap.
     [[nodiscard]] bool Holds(const Bytes& sound);
+    /// Waits until everything is recorded that was heard before this call. For the program's own format; nothing may
+    /// sound meanwhile.
+    [[nodiscard]] bool CatchesUp();
     /// Waits until `bytes` more bytes are recorded.
     [[nodiscard]] bool Grows(std::size_t bytes);
     /// The recording so far, without the silence before and after it.
@@ -97,6 +101,7 @@ public:
 private:
     void Read();
 
+    const TestSoundServer& server;
     const std::byte silence;
     int output = -1;
     pid_t process = 0;
