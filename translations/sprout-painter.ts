@@ -2438,5 +2438,9 @@ Other wise, if this problem persists you may need to reinstall DirectX9 or Sound
         <source>Picture: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>This Beat is for the whole class.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 </TS>

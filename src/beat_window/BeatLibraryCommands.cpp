@@ -8,12 +8,15 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/Guarded.h"
 #include "base/Product.h"
 #include "base/ScaledPicture.h"
 #include "beats/BeatCommands.h"
 #include "beats/BeatFiles.h"
+#include "core/ClassFolder.h"
+#include "core/Paths.h"
 #include "core/Settings.h"
 #include "core/Shared.h"
 #include "service/Messages.h"
@@ -31,7 +34,13 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr LaterWords kClassBeat = Words::Later("This Beat is for the whole class.");
 constexpr LaterWords kNoBeatHint = Words::Later("Click on a picture to select a beat");
+
+bool IsClassBeat(const std::string& name)
+{
+    return IsOfClass(FindNamedFile(BeatFolders(), name, kWaveExtension));
+}
 
 /// Shows a message, and a hint for as long as it is open.
 void TellOfBeat(const Words& hint, const Words& line1, const Words& line2 = {})
@@ -164,6 +173,8 @@ void BeatLibraryCommands::TryToRename()
     if (!HasSelection(table))
         return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to rename."));
     const std::string oldName = SelectedEntry(table).Name;
+    if (IsClassBeat(oldName))
+        return TellOfBeat(Words::Text("Can not rename"), kClassBeat, Words::Text("Renaming is not possible."));
     if (IsSelectedProtected(table))
         return TellOfBeat(Words::Text("Can not rename"),
                           Words::Text("\"%1\" is an original Beat from %2", BeatNameForPeople(oldName), kProductFamily),
@@ -185,11 +196,13 @@ void BeatLibraryCommands::TryToDelete()
     if (!HasSelection(table))
         return TellOfBeat(kNoBeatHint, Words::Text("Select a beat to delete."));
     ShowHint(Words::Text("This will delete the selected beat"));
+    const std::string name = SelectedEntry(table).Name;
+    if (IsClassBeat(name))
+        return TellOfBeat({}, kClassBeat, Words::Text("It can not be deleted."));
     if (IsSelectedProtected(table))
         return TellOfBeat(Words::Text("Blue bordered are originals, red bordered are your new beats"),
                           Words::Text("This an original Beat from %1", kProductFamily),
                           Words::Text("It can not be deleted."));
-    const std::string name = SelectedEntry(table).Name;
     ShowHint(Words::Text("Click Yes to delete, No to keep"));
     if (AskYesNo(Words::Text("Are you sure to delete this Beat?"),
                  Words::Text("Beat name: %1", BeatNameForPeople(name)), Words::Text(" Confirm Delete Beat")) != 1)

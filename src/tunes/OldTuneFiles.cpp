@@ -8,6 +8,7 @@
 #include "base/Numbers.h"
 #include "base/Text.h"
 #include "beats/BeatFiles.h"
+#include "core/ClassFolder.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
 #include "core/Shared.h"
@@ -112,7 +113,7 @@ void Load_Tune_V00(Tune& tune, const fs::path& path, TuneLoad mode)
     tune.Name = fileName.substr(0, fileName.size() - std::min(fileName.size(), kTuneExtension.size()));
     const IniFile ini = IniFile::Read(path);
     tune.CreatedBy = ini.Value(kGeneralSection, "CreatedBy", kUnknownAuthor);
-    tune.Picture = LoadPictureFile(NamedFile(Shared().UserTunes, tune.Name, kPictureExtension));
+    tune.Picture = LoadPictureFile(FindNamedFile(TuneFolders(), tune.Name, kPictureExtension));
     if (mode != TuneLoad::All)
         return;
     tune.DateStamp = FileStamp(path);
@@ -123,7 +124,7 @@ void Load_Tune_V00(Tune& tune, const fs::path& path, TuneLoad mode)
 void LoadStarFile(Tune& tune)
 {
     SongChanges::TuneEmptied(tune);
-    const fs::path file = FindFile(NamedFile(Shared().UserStars, tune.Name, ".TqSta"));
+    const fs::path file = FindFile(NamedFile(Shared().UserStars, tune.Name, kStarExtension));
     if (file.empty())
         return MakeSilentStar(tune);
     const IniFile ini = IniFile::Read(file);

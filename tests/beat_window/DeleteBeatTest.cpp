@@ -64,5 +64,21 @@ TEST_F(DeleteBeatTest, RefusesOriginals)
     EXPECT_EQ(FilesOfUserBeats(), "original.bmp original.wav ");
 }
 
+TEST_F(DeleteBeatTest, RefusesBeatsOfTheClassAsRenamingDoes)
+{
+    Shared().ClassRoot = services.folder.Path() / "class" / "";
+    const fs::path beats = Shared().ClassRoot / "Beats";
+    fs::create_directories(beats);
+    MakeBeat("bell", 10);
+    for (const char* const file : {"bell.wav", "bell.bmp"})
+        fs::rename(Shared().UserBeats / file, beats / file);
+    Open("bell");
+    Delete("OkBtn");
+    EXPECT_THAT(told, ElementsAre("This Beat is for the whole class.|It can not be deleted.|"));
+    Rename(QStringLiteral("gong"));
+    EXPECT_THAT(told, ElementsAre("This Beat is for the whole class.|Renaming is not possible.|Can not rename"));
+    EXPECT_TRUE(fs::exists(beats / "bell.wav"));
+}
+
 } // namespace
 } // namespace sprout

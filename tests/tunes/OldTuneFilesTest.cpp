@@ -67,6 +67,18 @@ TEST_F(OldTuneFilesTest, ReadsEveryKeyOfATune)
     EXPECT_TRUE(services.messages.shown.empty());
 }
 
+TEST_F(OldTuneFilesTest, FindsThePictureOfATuneOfTheClassBesideIt)
+{
+    Shared().ClassRoot = services.folder.Path() / "class" / "";
+    const fs::path tunes = Shared().ClassRoot / "Tunes";
+    fs::create_directories(tunes);
+    WriteBytes(tunes / "Bells.TqTun", "[General]\r\n");
+    WriteBytes(tunes / "Bells.bmp", "picture");
+    TunOpnSavClass().Load_Tune(tunes / "Bells.TqTun", TuneLoad::List);
+    EXPECT_EQ(Shared().TuneClipboard.Name, "Bells");
+    EXPECT_EQ(Shared().TuneClipboard.Picture.Pixel(0, 0), 7U);
+}
+
 TEST_F(OldTuneFilesTest, GivesDefaultsToAnEmptyFile)
 {
     const Tune& tune = Load("");

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "base/Errors.h"
+#include "base/Extensions.h"
 #include "base/FolderFiles.h"
 #include "base/Text.h"
 #include "core/IniFile.h"
@@ -207,7 +208,7 @@ void Maker::MakeTunes()
 void Maker::MakeStars()
 {
     for (const auto& [name, text] : FilesInFolder(texts / "stars", ".ini")) {
-        const fs::path star = fs::path("Stars") / (name + ".TqSta");
+        const fs::path star = fs::path("Stars") / (name + std::string(kStarExtension));
         const fs::path bmp = fs::path("Stars") / (name + ".bmp");
         const std::array drawings = {art / "stars" / (name + ".svg")};
         if (freshness.IsFresh({star, bmp}, Fingerprint(base).AddFile(text).AddFile(drawings[0]).Text()))

@@ -5,16 +5,15 @@
 #include <array>
 #include <filesystem>
 #include <iterator>
-#include <memory>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
+#include "app/start/UserFolders.h"
 #include "base/Errors.h"
 #include "base/Extensions.h"
 #include "base/FilePaths.h"
 #include "base/FolderFiles.h"
-#include "base/Guarded.h"
 #include "beats/BeatFiles.h"
 #include "core/IniFile.h"
 #include "core/Paths.h"
@@ -29,15 +28,13 @@ namespace fs = std::filesystem;
 
 /// A folder of the library. What is in it consists of a file with this extension, and perhaps of a picture.
 struct LibraryFolder {
-    const char* Name;
+    UserFolder Folder;
     std::string_view Extension;
-    fs::path SharedState::*User;
-    fs::path SharedState::*Installed;
     LaterWords New;
     bool ShowsNames = true;
 
-    [[nodiscard]] fs::path Source() const { return Shared().*Installed; }
-    [[nodiscard]] fs::path Target() const { return Shared().UserRoot / Name; }
+    [[nodiscard]] fs::path Source() const { return Shared().*Folder.Installed; }
+    [[nodiscard]] fs::path Target() const { return Shared().UserRoot / Folder.Name; }
     [[nodiscard]] bool TakesFiles() const;
     [[nodiscard]] bool HasUser(const std::string& name) const;
     [[nodiscard]] Words LineOf(const std::vector<FolderFile>& things) const;
@@ -45,19 +42,15 @@ struct LibraryFolder {
 
 namespace {
 
-constexpr std::string_view kStarExtension = ".TqSta";
 constexpr std::string_view kLibrarySection = "Library";
 constexpr std::size_t kMostNames = 5;
 
 constexpr std::array kFolders{
-    LibraryFolder{"Tunes", kTuneExtension, &SharedState::UserTunes, &SharedState::InstallTunes,
-                  Words::Later("New tunes: %1")},
-    LibraryFolder{"Songs", kSongExtension, &SharedState::UserSongs, &SharedState::InstallSongs,
-                  Words::Later("New songs: %1")},
-    LibraryFolder{"Beats", kWaveExtension, &SharedState::UserBeats, &SharedState::InstallBeats,
-                  Words::Later("New beats: %1")},
-    LibraryFolder{"Stars", kStarExtension, &SharedState::UserStars, &SharedState::InstallStars,
-                  Words::Later("New surprises for random tunes"), false}, // children never see their names
+    LibraryFolder{kTunesFolder, kTuneExtension, Words::Later("New tunes: %1")},
+    LibraryFolder{kSongsFolder, kSongExtension, Words::Later("New songs: %1")},
+    LibraryFolder{kBeatsFolder, kWaveExtension, Words::Later("New beats: %1")},
+    // Children never see their names.
+    LibraryFolder{kStarsFolder, kStarExtension, Words::Later("New surprises for random tunes"), false},
 };
 
 fs::path ListFile()
@@ -69,7 +62,7 @@ fs::path ListFile()
 std::string KeyOf(const LibraryFolder& folder, std::string name)
 {
     std::replace(name.begin(), name.end(), '=', '_');
-    return std::string(folder.Name) + "/" + name;
+    return std::string(folder.Folder.Name) + "/" + name;
 }
 
 bool MayBeNoted()
@@ -101,7 +94,7 @@ void CopyToUser(const LibraryFolder& folder, const std::vector<FolderFile>& thin
 bool LibraryFolder::TakesFiles() const
 {
     std::error_code error;
-    return Shared().*User == AsFolder(Target()) && fs::is_directory(Target(), error) &&
+    return Shared().*Folder.User == AsFolder(Target()) && fs::is_directory(Target(), error) &&
            TheServices().files->MayChangeFolder(Target());
 }
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/start/UserFolders.h"
 
-#include <array>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -23,18 +22,6 @@ namespace sprout {
 namespace fs = std::filesystem;
 
 namespace {
-
-/// One of the user's folders and the installed one that it is filled from.
-struct UserFolder {
-    const char* Name;
-    fs::path SharedState::*User;
-    fs::path SharedState::*Installed;
-};
-
-constexpr std::array kUserFolders{UserFolder{"Beats", &SharedState::UserBeats, &SharedState::InstallBeats},
-                                  UserFolder{"Tunes", &SharedState::UserTunes, &SharedState::InstallTunes},
-                                  UserFolder{"Stars", &SharedState::UserStars, &SharedState::InstallStars},
-                                  UserFolder{"Songs", &SharedState::UserSongs, &SharedState::InstallSongs}};
 
 fs::path PlaceOf(const UserFolder& folder)
 {

@@ -1,9 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <array>
+#include <filesystem>
+
 #include "base/Words.h"
+#include "core/Shared.h"
 
 namespace sprout {
+
+/// One of the user's folders and the installed one that it is filled from.
+struct UserFolder {
+    const char* Name;
+    std::filesystem::path SharedState::*User;
+    std::filesystem::path SharedState::*Installed;
+};
+
+inline constexpr UserFolder kBeatsFolder{"Beats", &SharedState::UserBeats, &SharedState::InstallBeats};
+inline constexpr UserFolder kTunesFolder{"Tunes", &SharedState::UserTunes, &SharedState::InstallTunes};
+inline constexpr UserFolder kStarsFolder{"Stars", &SharedState::UserStars, &SharedState::InstallStars};
+inline constexpr UserFolder kSongsFolder{"Songs", &SharedState::UserSongs, &SharedState::InstallSongs};
+inline constexpr std::array kUserFolders{kBeatsFolder, kTunesFolder, kStarsFolder, kSongsFolder};
 
 /// Sets `UserRoot` in `DocumentsFolder` and the folders under it; creates `UserRoot` if missing.
 void SetUserFolders();
