@@ -22,7 +22,7 @@ if(TARGET sprout-painter AND SPROUT_LIBRARY AND NOT SPROUT_SANITIZE)
             AskBeforeClosingOnWayland ChooseFromMenusOnWayland MoveAndResizeOnWayland)
         add_test(NAME Desk.${scenario}
                  COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/e2e/run-scenario --build ${CMAKE_BINARY_DIR} ${scenario})
-        set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 120)
+        set_tests_properties(Desk.${scenario} PROPERTIES LABELS e2e RUN_SERIAL TRUE TIMEOUT 240)
     endforeach()
     set_tests_properties(Desk.PlayWholeSong PROPERTIES TIMEOUT 330)
 

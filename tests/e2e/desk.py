@@ -28,9 +28,10 @@ class Screen:
         own = os.path.join(folder, "screen")
         os.makedirs(own)
         readable, writable = os.pipe()
-        # -fbdir: the contents of the screen can be read from a file without asking the server.
+        # -fbdir: the contents of the screen can be read from a file without asking the server. -r: on a busy machine a
+        # key is held longer than a user would, and would be repeated.
         self.server = processes.start(
-            ["Xvfb", "-displayfd", str(writable), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset",
+            ["Xvfb", "-displayfd", str(writable), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset", "-r",
              "-fbdir", own], pass_fds=(writable,), stderr=self.log)
         os.close(writable)
         with os.fdopen(readable) as pipe:

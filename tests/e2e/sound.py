@@ -166,7 +166,7 @@ class Recording:
                          seconds) - 1
         # The loudspeaker's clock stops while a busy machine stops, so a sound may take longer than it lasts.
         wait_for(f"{length:.1f} s of recording",
-                 lambda: os.path.getsize(self.path) >= begin + len(wanted), 1.5 * length + seconds)
+                 lambda: os.path.getsize(self.path) >= begin + len(wanted), 4 * length + seconds)
         expect(not first or not any(self.frames()[:begin]), "something else sounded before the expected sound")
         compare(self.frames()[begin:begin + len(wanted)], wanted)
 

@@ -14,6 +14,7 @@ from processes import expect, wait_for
 SIZE = (2048, 1024)
 # As on the usual desktops, all windows float and Alt+F4 closes them. None gets a frame: the program draws its own.
 SETTINGS = """output * resolution {}x{}
+input * repeat_rate 0
 xwayland disable
 default_border none
 default_floating_border none
