@@ -51,10 +51,12 @@ protected:
         return Comes([&] { return capture.Status().Blocks >= wanted; });
     }
     [[nodiscard]] CapturedRamp Files() const { return ReadCaptured(left, right); }
+    /// Asks until the server answers, as the window does: on a busy machine it may be silent for longer than a call
+    /// waits.
     [[nodiscard]] SoundSources Listed()
     {
-        const std::optional<SoundSources> sources = capture.ListSources();
-        EXPECT_TRUE(sources);
+        std::optional<SoundSources> sources;
+        EXPECT_TRUE(Comes([&] { return (sources = capture.ListSources()).has_value(); }));
         return sources.value_or(SoundSources());
     }
     [[nodiscard]] std::int32_t IndexOf(const std::string& name)
