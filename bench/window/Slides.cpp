@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <algorithm>
 #include <cstddef>
@@ -73,19 +74,28 @@ void Leave(Demo_frm& form, const DemoSlide& slide)
     Click(picture, {place.left + place.width / 2, place.top + place.height / 2});
 }
 
+/// Waits as a child does who looks at a slide before the next click.
+void LookAt(const Demo_frm& form)
+{
+    const auto* const ahead = form.findChild<QTimer*>(QStringLiteral("DemoAheadTimer"));
+    while (ahead->isActive())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QApplication::processEvents();
+}
+
 void MeasureDemo(const DemoName& demo, std::vector<double>& times)
 {
     const std::vector<DemoSlide> slides = ReadDemoSlides(ReadDemoFile(), ReadDemoTexts(), demo.Number);
     Demo_frm form(nullptr, demo.Name);
     form.show();
-    QApplication::processEvents();
+    LookAt(form);
     for (std::size_t i = 0; i + 1 < slides.size(); ++i) {
         QElapsedTimer clock;
         clock.start();
         Leave(form, slides[i]);
         form.repaint();
         times.push_back(static_cast<double>(clock.nsecsElapsed()) / 1e6);
-        QApplication::processEvents();
+        LookAt(form);
     }
     Player().StopPlay();
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <chrono>
 #include <string>
+#include <utility>
 
 #include "demo/DemoFolder.h"
 #include "demo/DemoPic.h"
@@ -28,6 +29,8 @@ namespace sprout {
 namespace {
 
 constexpr std::chrono::milliseconds kFirstInterval{1000};
+/// A slide has been drawn by then, and no child has gone on.
+constexpr std::chrono::milliseconds kAheadInterval{100};
 constexpr std::int32_t kMostSoundSeconds = 60;
 constexpr BoxSize kSizeWithoutPicture{480, 320};
 
@@ -74,6 +77,11 @@ void Demo_frm::MakeTimer()
     DemoTimer->setObjectName(QStringLiteral("DemoTimer"));
     DemoTimer->setInterval(kFirstInterval);
     connect(DemoTimer, &QTimer::timeout, this, &Demo_frm::TickDemo);
+    aheadTimer = new QTimer(this);
+    aheadTimer->setObjectName(QStringLiteral("DemoAheadTimer"));
+    aheadTimer->setSingleShot(true);
+    aheadTimer->setInterval(kAheadInterval);
+    connect(aheadTimer, &QTimer::timeout, this, [this] { Guarded([this] { LoadNextSlide(); }); });
 }
 
 void Demo_frm::StartDemo(std::string_view name)
@@ -91,6 +99,7 @@ void Demo_frm::ShowDemoSlide(std::int32_t index)
     PlaceParts();
     ShowState();
     CarryOut(orders);
+    aheadTimer->start();
 }
 
 void Demo_frm::ShowNext(bool isWanted)
@@ -101,11 +110,23 @@ void Demo_frm::ShowNext(bool isWanted)
 
 std::optional<BoxSize> Demo_frm::LoadSlide(const DemoSlide& slide)
 {
-    const Picture picture = LoadDemoPicture(slide.Picture);
-    if (picture.IsNothing())
+    const bool isAhead = ahead.name == slide.Picture && !ahead.plain.IsNothing();
+    const SlidePictures pictures = isAhead ? std::exchange(ahead, {}) : LoadPictures(slide.Picture);
+    if (pictures.plain.IsNothing())
         return std::nullopt;
-    demoPic->Show(picture, devicePixelRatioF() > 1 ? LoadSharpDemoPicture(slide.Picture) : Picture());
+    demoPic->Show(pictures.plain, pictures.sharp);
     return demoPic->PictureSize();
+}
+
+Demo_frm::SlidePictures Demo_frm::LoadPictures(const std::string& name) const
+{
+    return {name, LoadDemoPicture(name), devicePixelRatioF() > 1 ? LoadSharpDemoPicture(name) : Picture()};
+}
+
+void Demo_frm::LoadNextSlide()
+{
+    const DemoSlide* const next = demoShow.NextSlide();
+    ahead = next ? LoadPictures(next->Picture) : SlidePictures();
 }
 
 void Demo_frm::CarryOut(const DemoOrders& orders)
@@ -236,6 +257,7 @@ void Demo_frm::keyPressEvent(QKeyEvent* event)
 void Demo_frm::done(int result)
 {
     DemoTimer->stop();
+    aheadTimer->stop();
     pulse->Rest();
     BandedForm::done(result);
 }

@@ -5,9 +5,11 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/Picture.h"
 #include "core/IniFile.h"
 #include "demo/rules/DemoFile.h"
 #include "demo/rules/DemoShow.h"
@@ -38,6 +40,13 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// What is shown of a slide, in both sizes.
+    struct SlidePictures {
+        std::string name;
+        Picture plain;
+        Picture sharp; ///< nothing where the screen has large pixels
+    };
+
     void MakePicture();
     void MakeLink();
     void MakeTimer();
@@ -46,6 +55,8 @@ private:
     void ShowDemoSlide(std::int32_t index);
     void ShowNext(bool isWanted);
     [[nodiscard]] std::optional<BoxSize> LoadSlide(const DemoSlide& slide);
+    [[nodiscard]] SlidePictures LoadPictures(const std::string& name) const;
+    void LoadNextSlide();
     void CarryOut(const DemoOrders& orders);
     void PlaySlideSound() const;
 
@@ -67,6 +78,8 @@ private:
     LinkButton* DemoPopUpLinkLbl = nullptr;
     NamesMenu* MenuPop2 = nullptr;
     QTimer* DemoTimer = nullptr;
+    QTimer* aheadTimer = nullptr;
+    SlidePictures ahead; // of the next slide, loaded while the child looks at the present one
 };
 
 } // namespace sprout

@@ -109,6 +109,7 @@ protected:
     [[nodiscard]] QWidget& Pic() const { return Part<QWidget>("DemoImages"); }
     [[nodiscard]] QPushButton& Link() const { return Part<QPushButton>("DemoPopUpLinkLbl"); }
     [[nodiscard]] QTimer& Timer() const { return Part<QTimer>("DemoTimer"); }
+    [[nodiscard]] QTimer& AheadTimer() const { return Part<QTimer>("DemoAheadTimer"); }
     [[nodiscard]] QTimer& PulseTimer() const { return Part<QTimer>("DemoPulseTimer"); }
     [[nodiscard]] std::string Spoken() const { return Pic().accessibleName().toStdString(); }
 

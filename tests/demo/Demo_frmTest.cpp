@@ -21,6 +21,28 @@ TEST_F(DemoFrmTest, ShowsSharpSlidesWhereThePixelsAreSmall)
     EXPECT_EQ(Pic().size(), QSize(200, 100));
 }
 
+TEST_F(DemoFrmTest, LoadsTheNextSlideWhileThePresentOneIsLookedAt)
+{
+    Open({"red.bmp,20,20,10,10,click,0", "green.bmp,20,20,10,10,click,0", "blue.bmp,20,20,10,10,click,0"});
+    Tick(AheadTimer());
+    PutPicture("green.bmp", Qt::blue);
+    ClickAt(kInside);
+    EXPECT_EQ(Shown(), "green");
+    QTest::keyClick(&Pic(), Qt::Key_Left);
+    QTest::keyClick(&Pic(), Qt::Key_Right);
+    EXPECT_EQ(Shown(), "blue") << "it was not kept for longer";
+}
+
+TEST_F(DemoFrmTest, LoadsASlideThatWasMissingWhenItIsShown)
+{
+    Open({"red.bmp,20,20,10,10,click,0", "late.bmp,20,20,10,10,click,0"});
+    Tick(AheadTimer());
+    PutPicture("late.bmp", Qt::blue);
+    ClickAt(kInside);
+    EXPECT_EQ(Shown(), "blue");
+    Tick(AheadTimer());
+}
+
 TEST_F(DemoFrmTest, ShowsTheFirstSlideOfTheDemoWithThatName)
 {
     PutDemos({{"Hear", {"red.bmp,20,20,10,10,click,0"}}, {"Paint it", {"green.bmp,20,20,10,10,click,0"}}});
@@ -287,6 +309,7 @@ TEST_F(DemoFrmTest, StopsItsTimersWhenItCloses)
     EXPECT_TRUE(PulseTimer().isActive());
     form->close();
     EXPECT_FALSE(Timer().isActive());
+    EXPECT_FALSE(AheadTimer().isActive());
     EXPECT_FALSE(PulseTimer().isActive());
 }
 

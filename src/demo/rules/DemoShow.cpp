@@ -45,6 +45,11 @@ DemoOrders DemoShow::Begin(std::int32_t index)
     return WithTimer(orders, slide);
 }
 
+const DemoSlide* DemoShow::NextSlide() const
+{
+    return isOver || slideIndex + 1 >= ImageCount() ? nullptr : &slides[static_cast<std::size_t>(slideIndex) + 1];
+}
+
 bool DemoShow::GoesOnAnywhere() const
 {
     if (isOver)

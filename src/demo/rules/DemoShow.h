@@ -57,6 +57,8 @@ public:
     [[nodiscard]] std::int32_t ImageCount() const { return static_cast<std::int32_t>(slides.size()); }
     /// The slide whose fields count.
     [[nodiscard]] const DemoSlide& Slide() const { return slide; }
+    /// The slide behind the one that is shown; null if there is none.
+    [[nodiscard]] const DemoSlide* NextSlide() const;
     [[nodiscard]] std::int32_t DragSteps() const { return dragSteps; }
     [[nodiscard]] bool DragStarted() const { return dragStarted; }
     /// True behind the last slide.
